@@ -1,0 +1,42 @@
+# Every library, program and test is declared through these functions, so that language level,
+# warnings and sanitizers are the same everywhere.
+
+add_library(orvalente_options INTERFACE)
+target_compile_features(orvalente_options INTERFACE cxx_std_20)
+target_include_directories(orvalente_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
+target_compile_definitions(orvalente_options INTERFACE QT_NO_KEYWORDS QT_NO_FOREACH
+                           QT_NO_CAST_FROM_BYTEARRAY QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
+    target_compile_options(orvalente_options INTERFACE
+        -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
+endif()
+if(ORVALENTE_SANITIZE)
+    target_compile_options(orvalente_options INTERFACE
+        -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    target_link_options(orvalente_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# A folder of src/ as a static library. It links only what it names: a stray use of a higher layer
+# fails to link.
+#   orvalente_library(markup SOURCES a.cpp b.cpp LINKS text platform)
+function(orvalente_library name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+    add_library(${name} STATIC ${ARG_SOURCES})
+    target_link_libraries(${name} PUBLIC orvalente_options ${ARG_LINKS})
+endfunction()
+
+# The tests of one folder, as one GoogleTest binary whose cases CTest lists one by one.
+#   orvalente_test(text_tests SOURCES a_test.cpp LINKS text)
+# QT: the binary brings its own main with an offscreen application (tests/support).
+function(orvalente_test name)
+    cmake_parse_arguments(ARG "QT" "" "SOURCES;LINKS" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+    if(ARG_QT)
+        target_link_libraries(${name} PRIVATE orvalente_options ${ARG_LINKS} test_support GTest::gmock)
+    else()
+        target_link_libraries(${name} PRIVATE orvalente_options ${ARG_LINKS} GTest::gmock GTest::gtest_main)
+    endif()
+    gtest_discover_tests(${name} TEST_PREFIX "${name}." DISCOVERY_MODE PRE_TEST
+        PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TIMEOUT 120)
+endfunction()
