@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+namespace platform {
+
+/// The bare file name in `name`: what follows the last "\" or "/", without a drive prefix ("D:").
+/// The name ends at its first NUL character. Empty when nothing that names a file remains: an
+/// empty rest, "." or "..". So a name that comes from a page cannot leave the directory in which
+/// it is looked up.
+QString lastComponent(const QString& name);
+
+/// Path of the file `name` in `directory`, with the letter case that it has there: the exact name
+/// when there is one, otherwise the first, in code point order, that differs only in case. Hidden
+/// files count, directories and devices do not. Nothing when there is no such file, or when `name`
+/// is not a bare file name.
+std::optional<QString> findWithoutCase(const QString& directory, const QString& name);
+
+} // namespace platform

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+namespace platform {
+
+/// Why a program could not be started.
+enum class StartFailure {
+    Missing,     ///< no file of that name, in whatever letter case
+    NeedsWine,   ///< a Windows program, and Wine is not installed
+    SixteenBit,  ///< a DOS or 16-bit Windows program, which nothing here can run
+    NotAProgram, ///< the file is no program of a known kind
+    Refused,     ///< the system would not run it (for example: no right to execute it)
+};
+
+/// What became of a start: `pid` when there is a process, `failure` when there is none.
+struct StartResult {
+    /// Identifier of the new process. For a Windows program that runs through Wine it is the
+    /// identifier of Wine's own first process, which is not the owner of the program's windows.
+    std::optional<qint64> pid;
+    /// Says why when `pid` is absent; without meaning otherwise.
+    StartFailure failure = StartFailure::Missing;
+};
+
+/// Starts programs that live on by themselves.
+class ProcessStarter {
+public:
+    virtual ~ProcessStarter() = default;
+
+    /// Starts `program`, a directory and a bare file name, with its own directory as the current
+    /// one. The file name is found without regard to letter case. Returns as soon as the process
+    /// exists; what it does afterwards, its windows included, is not waited for.
+    virtual StartResult start(const QString& program, const QStringList& arguments = {}) = 0;
+};
+
+/// Brings windows of other programs to the front.
+class WindowActivator {
+public:
+    virtual ~WindowActivator() = default;
+
+    /// Activates the main window of the process `pid`, or, when no window belongs to it, a window
+    /// of the program with the file name `programName` ("Simu23.exe", any letter case). False,
+    /// and nothing else, when there is no such window or no window system to ask.
+    virtual bool activate(qint64 pid, const QString& programName) = 0;
+};
+
+} // namespace platform

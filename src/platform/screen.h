@@ -1,0 +1,34 @@
+#pragma once
+
+namespace platform {
+
+/// Twips in a pixel at 96 dots per inch, the resolution that all windows are laid out for.
+inline constexpr double kTwipsPerPixel = 15;
+
+/// The screen that the main window appears on. It is measured at every call, so that a change of
+/// the display settings is seen. All sizes are those of an unscaled program: an enlarged program
+/// (see scale()) has less room on the screen, but does not see a narrower one.
+class Screen {
+public:
+    virtual ~Screen() = default;
+
+    /// Size in twips; 0 when there is no screen.
+    virtual double widthTwips() const = 0;
+    virtual double heightTwips() const = 0;
+
+    /// Twips in a pixel across and down; 0 when the system does not say.
+    virtual double twipsPerPixelX() const = 0;
+    virtual double twipsPerPixelY() const = 0;
+
+    /// How much the whole program is enlarged, above 0. A length of L twips in a window covers
+    /// L * scale() twips of this screen.
+    virtual double scale() const { return 1; }
+};
+
+/// Width of the screen in pixels; an unknown number of twips in a pixel counts as kTwipsPerPixel.
+inline double widthPixels(const Screen& screen) {
+    const double twipsPerPixel = screen.twipsPerPixelX();
+    return screen.widthTwips() / (twipsPerPixel == 0 ? kTwipsPerPixel : twipsPerPixel);
+}
+
+} // namespace platform
