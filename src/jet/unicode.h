@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace jet {
+
+/// UTF-16 to UTF-8; unpaired surrogates become U+FFFD.
+std::string toUtf8(std::u16string_view text);
+void appendUtf8(std::u16string_view text, std::string& out);
+
+/// UTF-8 to UTF-16; each byte that is part of no character becomes U+FFFD.
+std::u16string toUtf16(std::string_view text);
+
+/// Whether two names are the same when letter case is left aside (Latin letters, accented ones
+/// included).
+bool sameName(std::u16string_view a, std::u16string_view b);
+
+} // namespace jet

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "jet/column.h"
+#include "jet/result.h"
+#include "jet/value.h"
+
+#include <filesystem>
+#include <memory>
+#include <span>
+#include <string_view>
+#include <vector>
+
+namespace jet {
+
+class DatabaseBuilder;
+class TableBuilder;
+
+/// Adds rows to one table of a DatabaseWriter. A handle, cheap to copy; of no use once the writer
+/// is finished or gone. Rows of several tables may be added in turns.
+class TableWriter {
+public:
+    /// One value for each column, in their order. A Value goes with a column of its own type; whole
+    /// numbers go with any numeric column that can hold them, a float with Double. A missing,
+    /// unfitting or too long value is Refused, naming table, column and row, and nothing is added.
+    Result<void> append(std::span<const Value> values);
+
+private:
+    friend class DatabaseWriter;
+    explicit TableWriter(TableBuilder* table) : table_(table) {}
+    TableBuilder* table_;
+};
+
+/// Writes a new Jet 4 database. All goes to a temporary file next to the target, which takes the
+/// target's place in finish() only: until then, and after any failure, a file that was there before
+/// is as it was. Dropped without finish(), it leaves nothing behind. Memory does not grow with the
+/// rows.
+class DatabaseWriter {
+public:
+    static Result<DatabaseWriter> create(const std::filesystem::path& path);
+
+    DatabaseWriter(DatabaseWriter&&) noexcept;
+    DatabaseWriter& operator=(DatabaseWriter&&) noexcept;
+    ~DatabaseWriter();
+
+    /// A new table. Its name, 1 to 64 characters, may hold the letters A to Z in either case,
+    /// digits, spaces (not first) and underscores; names of tables and of the columns of a table
+    /// differ in more than letter case. Refused otherwise, and for columns that cannot be written.
+    Result<TableWriter> addTable(std::u16string_view name, std::span<const Column> columns);
+
+    /// Completes the file and puts it in place. Nothing can be added afterwards.
+    Result<void> finish();
+
+private:
+    explicit DatabaseWriter(std::unique_ptr<DatabaseBuilder> builder);
+    std::unique_ptr<DatabaseBuilder> builder_;
+};
+
+} // namespace jet
