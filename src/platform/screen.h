@@ -1,9 +1,8 @@
 #pragma once
 
-namespace platform {
+#include "platform/twips.h"
 
-/// Twips in a pixel at 96 dots per inch, the resolution that all windows are laid out for.
-inline constexpr double kTwipsPerPixel = 15;
+namespace platform {
 
 /// The screen that the main window appears on. It is measured at every call, so that a change of
 /// the display settings is seen. All sizes are those of an unscaled program: an enlarged program

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QStringView>
+
+#include <span>
+
+namespace markup {
+
+class Renderer;
+
+enum class Match { Prefix, Whole };
+
+/// One form of directive. `run` gets the directive without its leading "##".
+struct Directive {
+    QStringView keyword;
+    Match match;
+    void (*run)(Renderer& renderer, QStringView d);
+};
+
+/// All directives, in the order in which they are tested. Every one that matches runs: there is no
+/// early exit, so the order and the overlaps are part of the language.
+std::span<const Directive> directiveTable();
+
+} // namespace markup

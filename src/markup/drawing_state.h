@@ -1,0 +1,40 @@
+#pragma once
+
+#include "markup/qb_color.h"
+#include "platform/surface.h"
+#include "text/bounded_array.h"
+
+#include <QString>
+
+#include <cstdint>
+
+namespace markup {
+
+class SourceWindow;
+
+/// Edges of a table row whose colours a page can choose; indices of `couleursBord`.
+enum BorderEdge { TopEdge = 1, BottomEdge, LeftEdge, InnerEdge, RightEdge };
+
+/// What the drawing of a page depends on, beside the surface's own pen, font, ink and line width.
+/// There is one for the whole program: it outlives a page, and only what `initecran` resets starts
+/// anew. Lengths are twips.
+struct DrawingState {
+    platform::Surface* surfaceDessin = nullptr; ///< set by the caller of a rendering
+    SourceWindow* fenetreSource = nullptr;      ///< set by the caller of a rendering
+    bool enImpression = false;                  ///< set by the caller of a rendering
+
+    std::int16_t alignement = 0; ///< 0 left, 1 centre, 2 right
+    std::int16_t margeGauche = 0;
+    std::int16_t margeDroite = 0;
+    float interligne = 1;
+    std::int16_t decalageUnique = 0; ///< shift of the next text line only
+    std::int16_t reliefDecalage = 0; ///< pixels; 0 draws no shadow
+    std::int16_t reliefCouleur = 0;  ///< index of the 16-colour palette
+    bool dansTableau = false;
+    text::BoundedArray<QRgb, TopEdge, RightEdge> couleursBord;
+    QString lienEnAttente;
+    std::int32_t hauteurPage = 0;
+    QString videoPage;
+};
+
+} // namespace markup

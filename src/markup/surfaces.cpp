@@ -1,0 +1,55 @@
+#include "markup/arguments.h"
+#include "markup/directives.h"
+#include "markup/renderer.h"
+
+namespace markup {
+
+namespace {
+
+constexpr char16_t kHeightRefused[] = u"la surface refuse cette hauteur";
+
+/// How much a "PLOUF" adds to the surface, in pixels.
+constexpr double kGrowthPx = 1000;
+
+void drawOn(Renderer& renderer, platform::Surface& surface) {
+    renderer.state().surfaceDessin = &surface;
+    renderer.recording().add(platform::SwitchOperation{surface.id()});
+}
+
+} // namespace
+
+void refreshAndGrow(Renderer& renderer, QStringView) {
+    if (renderer.state().enImpression)
+        return;
+    platform::Surface& surface = renderer.surface();
+    renderer.window().refresh(surface);
+    renderer.check(surface.setHeightPx(surface.heightPx() + kGrowthPx), kHeightRefused);
+}
+
+void chooseSurface(Renderer& renderer, QStringView d) {
+    const QStringView name = charactersFrom(d, 4);
+    if (name == u"TIT") {
+        drawOn(renderer, renderer.window().titre());
+        // The title stands there already; a page that draws its own wants an empty band.
+        renderer.surface().clear();
+    } else if (name == u"ILLUS") {
+        drawOn(renderer, renderer.window().pictureIllus());
+    } else if (name == u"PRINCIPAL") {
+        drawOn(renderer, renderer.window().pictureTexte());
+    } else if (name == u"TAILLE") {
+        platform::Surface& surface = renderer.surface();
+        renderer.check(surface.setHeightPx(surface.penY() / renderer.twipsPerPixel()),
+                       kHeightRefused);
+    }
+    renderer.initecran();
+}
+
+void windowCaption(Renderer& renderer, QStringView d) {
+    // The eighteen blanks keep the page's own words apart from the name of the course.
+    const QString caption =
+        QStringLiteral("Orvalente - KAROPE                  ") + charactersFrom(d, 7).toString();
+    renderer.recording().add(platform::CaptionOperation{caption});
+    renderer.window().setCaption(caption);
+}
+
+} // namespace markup

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "platform/rich_text_holder.h"
+#include "platform/surface.h"
+
+#include <QString>
+
+namespace markup {
+
+/// A window that asks for a rendering: it holds the source.
+class SourceWindow {
+public:
+    virtual ~SourceWindow() = default;
+    virtual platform::RichTextHolder& code() = 0;
+};
+
+/// The main window as the renderer knows it.
+class PageWindow {
+public:
+    virtual ~PageWindow() = default;
+
+    virtual platform::Surface& pictureTexte() = 0;
+    virtual platform::Surface& pictureIllus() = 0;
+    virtual platform::Surface& titre() = 0;
+
+    virtual void setCaption(const QString& caption) = 0;
+
+    /// Hourglass while busy, the normal pointer afterwards.
+    virtual void setBusy(bool busy) = 0;
+
+    /// Makes what was drawn so far on the surface visible now.
+    virtual void refresh(platform::Surface& surface) = 0;
+
+    /// Called when a rendering that goes to the printer starts or is reset.
+    virtual void preparePrinter() = 0;
+};
+
+} // namespace markup

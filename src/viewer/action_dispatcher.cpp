@@ -1,0 +1,63 @@
+#include "viewer/action_dispatcher.h"
+
+#include "text/rounding.h"
+#include "viewer/page_code.h"
+
+namespace viewer {
+
+ActionDispatcher::ActionDispatcher(shell::SharedState& state, PageLoader& loader, PageView& view,
+                                   ModuleStarter& modules, ModalWindow& exercise,
+                                   ModalWindow& orderForm)
+    : state_(state), loader_(loader), view_(view), modules_(modules), exercise_(exercise),
+      orderForm_(orderForm) {}
+
+void ActionDispatcher::runAction(QString& code) {
+    const QString prefix = codePrefix(code).toString();
+    const double argument = codeArgument(code);
+    if (prefix == u"PAG") {
+        showPageByNumber(argument);
+    } else if (prefix == u"EXE") {
+        if (const auto launchCode = text::toInt16(argument))
+            modules_.launchModule(*launchCode);
+    } else if (prefix == u"EXO") {
+        // A chapter that is still waiting is not overwritten: the test opens on that one.
+        if (state_.PendingExerciseChapter == 0)
+            state_.PendingExerciseChapter = text::toInt16(argument).value_or(0);
+        openExercise(code);
+    } else if (prefix == u"BDC") {
+        orderForm_.open();
+    }
+    view_.restorePointer();
+}
+
+void ActionDispatcher::showPageByNumber(double number) {
+    const auto n = text::toInt16(number);
+    const auto& table = state_.PageByNumber;
+    // The last slot is the upper bound itself, which no page number reaches. Numbers without a
+    // record lead to the record of position 0, which is meant so.
+    if (n && *n >= 0 && table && static_cast<std::size_t>(*n) + 1 < table->size())
+        loader_.moveTo((*table)[static_cast<std::size_t>(*n)]);
+    show();
+}
+
+void ActionDispatcher::showPageByOrder(std::int32_t index) {
+    const auto& table = state_.PageByOrder;
+    if (index >= 0 && table && static_cast<std::size_t>(index) < table->size())
+        loader_.moveTo((*table)[static_cast<std::size_t>(index)]);
+    show();
+}
+
+void ActionDispatcher::show() {
+    loader_.takeOverOrderIndex();
+    loader_.showCurrentRecord();
+}
+
+void ActionDispatcher::openExercise(QString& code) {
+    exercise_.open();
+    const bool returns = state_.ExerciseReturnPage != 0;
+    view_.setReturnToTestVisible(returns);
+    if (returns)
+        code = pageCode(state_.ExerciseReturnPage);
+}
+
+} // namespace viewer

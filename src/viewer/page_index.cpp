@@ -1,0 +1,41 @@
+#include "viewer/page_index.h"
+
+#include "text/rounding.h"
+
+#include <algorithm>
+
+namespace viewer {
+
+namespace {
+
+using Table = std::vector<std::int16_t>;
+
+void enter(Table& table, const platform::FieldValue& number, int position) {
+    if (std::holds_alternative<std::monostate>(number))
+        return;
+    const auto index = text::toInt32(platform::fieldNumber(number));
+    if (!index || *index < 0 || *index > kMaxIndexedNumber)
+        return;
+    // The slot after the highest number is needed: the highest page is found below the upper bound.
+    const auto slot = static_cast<std::size_t>(*index);
+    if (table.size() < slot + 2)
+        table.resize(slot + 2, 0);
+    if (const auto stored = text::toInt16(position))
+        table[slot] = *stored;
+}
+
+} // namespace
+
+void buildPageIndex(const platform::Recordset& cours, shell::SharedState& state) {
+    Table byNumber;
+    Table byOrder;
+    cours.forEach({QStringLiteral("Numeropage"), QStringLiteral("Index")},
+                  [&](int position, std::span<const platform::FieldValue> fields) {
+                      enter(byNumber, fields[0], position);
+                      enter(byOrder, fields[1], position);
+                  });
+    state.PageByNumber = std::move(byNumber);
+    state.PageByOrder = std::move(byOrder);
+}
+
+} // namespace viewer

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QString>
+
+namespace viewer {
+
+/// The main window as the page loader and the action dispatcher know it.
+class PageView {
+public:
+    virtual ~PageView() = default;
+
+    /// Hides, or shows, the page area and the illustration area.
+    virtual void setPageVisible(bool visible) = 0;
+
+    /// Hides every link control and empties its tag and tooltip.
+    virtual void resetLinks() = 0;
+
+    /// Hides the scroll bar and the frame of the video buttons.
+    virtual void hideScrollBarAndVideoFrame() = 0;
+
+    /// Empties the page area, the illustration area and the title band.
+    virtual void clearPictures() = 0;
+
+    virtual void setCaption(const QString& caption) = 0;
+
+    /// Writes the page's title into the emptied title band.
+    virtual void setTitle(const QString& title) = 0;
+
+    virtual void setBackEnabled(bool enabled) = 0;
+    virtual void setForwardEnabled(bool enabled) = 0;
+
+    /// Shows the page's drawing from its top and sets the scroll bar up for its height.
+    virtual void fitPage() = 0;
+
+    /// Shows or hides the buttons to the neighbours in the chapter.
+    virtual void setChapterButtons(bool previous, bool next) = 0;
+
+    virtual void setPrintable(bool printable) = 0;
+
+    /// Code and caption ("Accueil" or "Sommaire") of the summary button.
+    virtual void setSummary(const QString& code, const QString& caption) = 0;
+
+    /// Shows or hides the button that leads back to the test.
+    virtual void setReturnToTestVisible(bool visible) = 0;
+
+    /// Gives the window its normal pointer.
+    virtual void restorePointer() = 0;
+};
+
+} // namespace viewer
