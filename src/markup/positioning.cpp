@@ -1,6 +1,7 @@
 #include "markup/arguments.h"
 #include "markup/directives.h"
 #include "markup/renderer.h"
+#include "platform/twips.h"
 #include "text/rounding.h"
 
 namespace markup {

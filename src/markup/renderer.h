@@ -3,6 +3,7 @@
 #include "markup/drawing_state.h"
 #include "markup/windows.h"
 #include "platform/recording.h"
+#include "platform/twips.h"
 
 #include <QStringView>
 
