@@ -1,0 +1,58 @@
+#pragma once
+
+#include "platform/qt/font_book.h"
+#include "platform/recording.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QtMath>
+
+namespace platform {
+
+/// Shows what was drawn on one surface as pixels. The image grows with the drawing; it is as wide
+/// as the surface and as dense as the screen.
+class RasterSurface {
+public:
+    /// `widthPx` in logical pixels.
+    RasterSurface(SurfaceId id, int widthPx, const FontBook& fonts, QRgb background);
+
+    /// Device pixels to a logical one, above 0. Whoever changes it plays the recording again.
+    void setDevicePixelRatio(double ratio);
+    double devicePixelRatio() const { return ratio_; }
+
+    /// Plays what the recording has gained since the last call.
+    void play(const Recording& recording);
+
+    /// Wipes the picture; the next play() starts at the recording's beginning.
+    void reset();
+
+    /// Whether nothing stands on the surface.
+    bool isBlank() const { return lowestPx_ == 0; }
+
+    /// Height in logical pixels down to the lowest thing drawn.
+    int drawnHeightPx() const { return lowestPx_; }
+
+    /// Paints the part of the picture that `exposed` names (logical pixels of the surface) at the
+    /// same place of `painter`; what lies below the drawing shows the background.
+    void paint(QPainter& painter, const QRect& exposed) const;
+
+    /// The picture, `heightPx` logical pixels tall.
+    QImage image(int heightPx) const;
+
+private:
+    class Player;
+
+    void wipe();
+    void growTo(int heightPx);
+
+    SurfaceId id_;
+    int widthPx_;
+    const FontBook& fonts_;
+    QRgb background_;
+    double ratio_ = 1;
+    QImage image_;
+    int lowestPx_ = 0;
+    std::size_t played_ = 0;
+};
+
+} // namespace platform
