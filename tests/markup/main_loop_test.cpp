@@ -1,0 +1,127 @@
+#include "markup/page_bench.h"
+
+#include <gtest/gtest.h>
+
+// Expected positions follow from FixedMetrics: 100 twips a character, 200 a line at 10 points.
+
+namespace {
+
+struct Row {
+    const char* name;
+    const char16_t* source;
+    QStringList expected;
+};
+
+void PrintTo(const Row& row, std::ostream* out) {
+    *out << row.name;
+}
+
+class MainLoop : public testing::TestWithParam<Row> {};
+
+TEST_P(MainLoop, draws) {
+    test::PageBench bench;
+    EXPECT_EQ(bench.draw(QString::fromUtf16(GetParam().source)), GetParam().expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Lines, MainLoop,
+    testing::Values(
+        Row{"textAfterTheLastLineEndIsNotDrawn", u"un\ndeux", {"print 0,0 \"un\" Arial 10"}},
+        Row{"aParagraphEndStartsANewLine",
+            u"un¶\ndeux¶\n",
+            {"print 0,0 \"un\" Arial 10", "print 0,200 \"deux\" Arial 10"}},
+        Row{"aLoneParagraphEndMovesDown", u"¶\nun\n", {"print 0,200 \"un\" Arial 10"}},
+        Row{"anEmptyLineDoesNothing", u"\n\nun\n", {"print 0,0 \"un\" Arial 10"}},
+        Row{"runsFollowSideBySide",
+            u"un\n##BOL1\ndeux\n",
+            {"print 0,0 \"un\" Arial 10", "print 200,0 \"deux\" Arial 10 bold"}},
+        Row{"onlyTheLastSignEndsAParagraph",
+            u"a¶b¶¶\nc\n",
+            {"print 0,0 \"a¶b¶\" Arial 10", "print 0,200 \"c\" Arial 10"}},
+        Row{"theAdvanceIsThatOfTheFontAfterPrinting",
+            u"un\n##SI20\n¶\ndeux\n",
+            {"print 0,0 \"un\" Arial 10", "print 0,400 \"deux\" Arial 20"}},
+        Row{"unknownDirectivesAreIgnored",
+            u"##\n##ZZZ\n##bol1\n#\nun\n",
+            {"print 0,0 \"#\" Arial 10", "print 100,0 \"un\" Arial 10"}},
+        Row{"aLoneLineFeedEndsNoLine", u"", {}}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Alignment, MainLoop,
+    testing::Values(Row{"centreAndRightPlaceEachRun",
+                        u"##ALCE\nabcd\n##ALDR\nab\n##ALGA\nc\n",
+                        {"print 4300,0 \"abcd\" Arial 10", "print 8800,0 \"ab\" Arial 10",
+                         "print 9000,0 \"c\" Arial 10"}},
+                    Row{"paragraphsStartAtTheLeftMargin",
+                        u"##ALDR\nab¶\n##ALGA\nc\n",
+                        {"print 8800,0 \"ab\" Arial 10", "print 0,200 \"c\" Arial 10"}}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Shadow, MainLoop,
+    testing::Values(Row{"liesBelowAndToTheRight",
+                        u"##RELIEF2 08\nun\nb\n",
+                        {"print 30,30 \"un\" Arial 10 #808080", "print 0,0 \"un\" Arial 10",
+                         "print 230,30 \"b\" Arial 10 #808080", "print 200,0 \"b\" Arial 10"}},
+                    Row{"offsetZeroSwitchesItOff",
+                        u"##RELIEF2 08\n##RELIEF0 08\nun\n",
+                        {"print 0,0 \"un\" Arial 10"}},
+                    Row{"aColourOutsideThePaletteKeepsTheInk",
+                        u"##C005\n##RELIEF1 16\nun\n",
+                        {"failed 3 ", "print 15,15 \"un\" Arial 10 #800000",
+                         "print 0,0 \"un\" Arial 10 #800000"}}));
+
+TEST(MainLoopState, aLoneLineFeedIsText) {
+    test::PageBench bench;
+    bench.holder.setText(QStringLiteral("a\nb\r\nc\r"));
+    bench.renderer.affichepage();
+    EXPECT_EQ(test::describe(bench.recording), QStringList({"print 0,0 \"a\nb\" Arial 10"}));
+}
+
+TEST(MainLoopState, leavesTheHeightDrawn) {
+    test::PageBench bench;
+    bench.draw("un¶\n##PIY001\n");
+    EXPECT_EQ(bench.state.hauteurPage, 215);
+    EXPECT_DOUBLE_EQ(bench.texte.heightPx(), 215 / 15.);
+    EXPECT_EQ(bench.busy, QList<bool>({true, false}));
+}
+
+TEST(MainLoopState, goesOnBelowWhatStandsWhenTheHeightIsKept) {
+    test::PageBench bench;
+    bench.draw("un¶\n");
+    EXPECT_EQ(bench.draw("deux¶\n"), QStringList({"print 0,200 \"deux\" Arial 10"}));
+    bench.state.hauteurPage = 0;
+    EXPECT_EQ(bench.draw("trois¶\n"), QStringList({"print 0,0 \"trois\" Arial 10"}));
+}
+
+TEST(MainLoopState, stylesDoNotReachTheNextPage) {
+    test::PageBench bench;
+    bench.draw("##SI20\n##BOL1\n##ITA1\n##UND1\n##C005\n##ALDR\n##INTER3.00\n##RELIEF2 01\n"
+               "##FONT01\n##DECABAS\n");
+    bench.state.hauteurPage = 0;
+    EXPECT_EQ(bench.draw("un¶\ndeux¶\n"),
+              QStringList({"print 0,0 \"un\" Arial 10", "print 0,200 \"deux\" Arial 10"}));
+}
+
+TEST(MainLoopState, paperHasAColumnOfItsOwnAndKeepsThePointer) {
+    test::PageBench bench;
+    bench.state.enImpression = true;
+    bench.state.surfaceDessin = &bench.printer;
+    EXPECT_EQ(bench.draw("##ALDR\nab¶\n##PLOUF\n"), QStringList({"print 8800,0 \"ab\" Arial 10"}));
+    EXPECT_EQ(bench.state.hauteurPage, 0);
+    EXPECT_EQ(bench.preparations, 1);
+    EXPECT_EQ(bench.busy, QList<bool>({true}));
+    EXPECT_EQ(bench.printer.heightPx(), 0);
+    EXPECT_EQ(bench.refreshed, nullptr);
+}
+
+TEST(MainLoopState, aHostileHeightIsBounded) {
+    test::PageBench bench;
+    QString source = "##DECLIG1E9\nun¶\n";
+    for (int i = 0; i < 5000; ++i)
+        source += "##PLOUF\n";
+    bench.draw(source);
+    EXPECT_EQ(bench.texte.heightPx(), platform::kMaxSurfaceHeightPx);
+    EXPECT_EQ(bench.state.hauteurPage, 0) << "a height beyond 32 bits is not stored";
+}
+
+} // namespace

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "markup/renderer.h"
+#include "support/fixed_metrics.h"
+#include "support/recording_text.h"
+
+namespace test {
+
+/// A main window without a window: everything that a page can be drawn on, and what became of it.
+class PageBench : public markup::PageWindow, public markup::SourceWindow {
+public:
+    PageBench() {
+        state.surfaceDessin = &texte;
+        state.fenetreSource = this;
+    }
+
+    /// Draws a source whose lines are given with "\n" and gives the operations, a line each.
+    QStringList draw(QString source) {
+        recording.clear();
+        holder.setText(source.replace(QLatin1String("\n"), QLatin1String("\r\n")));
+        renderer.affichepage();
+        return describe(recording);
+    }
+
+    platform::RichTextHolder& code() override { return holder; }
+    platform::Surface& pictureTexte() override { return texte; }
+    platform::Surface& pictureIllus() override { return illus; }
+    platform::Surface& titre() override { return title; }
+    void setCaption(const QString& text) override { caption = text; }
+    void setBusy(bool on) override { busy.append(on); }
+    void refresh(platform::Surface& surface) override {
+        refreshedAt.append(static_cast<int>(recording.size()));
+        refreshed = &surface;
+    }
+    void preparePrinter() override { ++preparations; }
+
+    FixedMetrics metrics;
+    platform::Recording recording;
+    platform::Surface texte{platform::SurfaceId::PictureTexte, 9000, metrics, recording};
+    platform::Surface illus{platform::SurfaceId::PictureIllus, 2250, metrics, recording};
+    platform::Surface title{platform::SurfaceId::Titre, 9000, metrics, recording};
+    platform::Surface printer{platform::SurfaceId::Printer, 11000, metrics, recording};
+    platform::RichTextHolder holder;
+    markup::DrawingState state;
+    markup::Renderer renderer{state, *this, recording};
+
+    QString caption;
+    QList<bool> busy;
+    QList<int> refreshedAt;
+    platform::Surface* refreshed = nullptr;
+    int preparations = 0;
+};
+
+} // namespace test

@@ -1,0 +1,82 @@
+#include "markup/page_bench.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/// A source and the one text it prints, or the failures before it.
+struct Row {
+    const char* name;
+    const char16_t* source;
+    QStringList expected;
+};
+
+void PrintTo(const Row& row, std::ostream* out) {
+    *out << row.name;
+}
+
+class Styling : public testing::TestWithParam<Row> {};
+
+TEST_P(Styling, draws) {
+    test::PageBench bench;
+    EXPECT_EQ(bench.draw(QString::fromUtf16(GetParam().source)), GetParam().expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Fonts, Styling,
+    testing::Values(
+        Row{"size", u"##SI14\nx\n", {"print 0,0 \"x\" Arial 14"}},
+        // Sizes are written with two digits, meant so.
+        Row{"oneDigitIsSizeZero", u"##SI9\nx\n", {"print 0,0 \"x\" Arial 0"}},
+        Row{"aNegativeSizeIsRefused",
+            u"##SI-5\nx\n",
+            {"failed 1 ##SI-5", "print 0,0 \"x\" Arial 10"}},
+        Row{"aHugeSizeIsRefused", u"##SIE9\n##SI9E9\nx\n", {"print 0,0 \"x\" Arial 0"}},
+        Row{"stylesOnAndOff",
+            u"##BOL1\n##ITA1\n##UND1\nx\n##BOL0\n##ITA0\n##UND0\ny\n",
+            {"print 0,0 \"x\" Arial 10 bold italic underline", "print 100,0 \"y\" Arial 10"}},
+        Row{"aPrefixIsEnough", u"##BOL1 gras\nx\n", {"print 0,0 \"x\" Arial 10 bold"}},
+        // The taller face is raised so that the text keeps its foot.
+        Row{"aFaceKeepsTheFoot",
+            u"##FONT01\nl\n##FONT00\nx\n",
+            {"print 0,-100 \"l\" Symbol 10", "print 100,0 \"x\" Arial 10"}},
+        Row{"faces",
+            u"##FONT02\na\n##FONT03\nb\n##FONT04\nc\n##FONT05\nd\n",
+            {"print 0,0 \"a\" Times new roman 10", "print 100,0 \"b\" Wingdings 10",
+             "print 200,0 \"c\" Comic Sans MS 10", "print 300,0 \"d\" Comic Sans MS 10"}}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Inks, Styling,
+    testing::Values(
+        Row{"ofTheTable",
+            u"##C002\na\n##C008\nb\n##C014\nc\n##C007\nd\n",
+            {"print 0,0 \"a\" Arial 10 #0000c8", "print 100,0 \"b\" Arial 10 #b46400",
+             "print 200,0 \"c\" Arial 10 #00c0c0", "print 300,0 \"d\" Arial 10 #00ff00"}},
+        Row{"numbersOutsideKeepTheInk",
+            u"##C005\n##C015\n##C-01\nx\n",
+            {"print 0,0 \"x\" Arial 10 #800000"}},
+        Row{"oneDigitIsBlack", u"##C005\n##C3\nx\n", {"print 0,0 \"x\" Arial 10"}},
+        // "CHAPEAU" begins with "C" and its last three characters are no number: black, meant so.
+        Row{"aHatTurnsTheInkBlack", u"##C005\n##CHAPEAU\nx\n", {"print 0,0 \"x\" Arial 10"}},
+        Row{"aHugeNumberIsAbandoned",
+            u"##C9E9\nx\n",
+            {"failed 1 ##C9E9", "print 0,0 \"x\" Arial 10"}}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Spacing, Styling,
+    testing::Values(Row{"factor",
+                        u"##INTER1.50\na¶\nb\n",
+                        {"print 0,0 \"a\" Arial 10", "print 0,300 \"b\" Arial 10"}},
+                    Row{"wholeFactor",
+                        u"##INTER0002\na¶\nb\n",
+                        {"print 0,0 \"a\" Arial 10", "print 0,400 \"b\" Arial 10"}},
+                    // "INTER2" reads "TER2", which is 0: factors are written with four characters.
+                    Row{"fewerCharactersAreZero",
+                        u"##INTER2\na¶\nb\n",
+                        {"print 0,0 \"a\" Arial 10", "print 0,0 \"b\" Arial 10"}},
+                    Row{"anInfiniteFactorIsAbandoned",
+                        u"##INTER9E99\na¶\nb\n",
+                        {"failed 1 ##INTER9E99", "print 0,0 \"a\" Arial 10",
+                         "print 0,200 \"b\" Arial 10"}}));
+
+} // namespace
