@@ -14,6 +14,11 @@ constexpr double kWordGap = 30;
 
 using Runs = std::vector<const TextOperation*>;
 
+/// A shadow is the same text, drawn just before, as far to the side as below or above.
+bool isShadow(const TextOperation& before, const TextOperation& text) {
+    return before.text == text.text && before.y != text.y && before.y - text.y == before.x - text.x;
+}
+
 Runs runsOn(const Recording& recording, SurfaceId surface) {
     Runs runs;
     for (const Operation& operation : recording.operations()) {
@@ -23,10 +28,7 @@ Runs runsOn(const Recording& recording, SurfaceId surface) {
         } else if (const auto* text = std::get_if<TextOperation>(&operation)) {
             if (text->surface != surface)
                 continue;
-            // A shadow is the same text, drawn just before and a few pixels lower.
-            if (!runs.empty() && runs.back()->text == text->text && runs.back()->y > text->y &&
-                runs.back()->x > text->x && runs.back()->y - text->y <= 20 * 15 &&
-                runs.back()->y - text->y == runs.back()->x - text->x)
+            if (!runs.empty() && isShadow(*runs.back(), *text))
                 runs.pop_back();
             runs.push_back(text);
         }
@@ -38,10 +40,46 @@ double foot(const TextOperation& run) {
     return run.y + fontPixels(run.font.points) * 15.0;
 }
 
-/// Indices and exponents stand on a line when their middle lies within the line's height.
-bool sharesLine(const TextOperation& run, double top, double bottom) {
-    const double middle = (run.y + foot(run)) / 2;
-    return middle >= top && middle <= bottom;
+/// Runs side by side, and the extent of the tallest of them: indices and exponents stand on a line
+/// when their middle lies within it, or little outside.
+struct Line {
+    Runs runs;
+    double top = 0;
+    double bottom = 0;
+
+    bool takes(const TextOperation& run) const {
+        const double slack = std::max(bottom - top, foot(run) - run.y) / 4;
+        const double middle = (run.y + foot(run)) / 2;
+        return middle >= top - slack && middle <= bottom + slack;
+    }
+
+    void add(const TextOperation& run) {
+        if (runs.empty() || foot(run) - run.y > bottom - top) {
+            top = run.y;
+            bottom = foot(run);
+        }
+        runs.push_back(&run);
+    }
+};
+
+/// How many of the last lines a run may still belong to: the cells of a table are drawn one after
+/// the other, each with lines of its own.
+constexpr std::size_t kOpenLines = 64;
+
+std::vector<Line> lines(const Runs& runs) {
+    std::vector<Line> lines;
+    for (const TextOperation* run : runs) {
+        const std::size_t open = std::min(lines.size(), kOpenLines);
+        const auto found = std::find_if(lines.rbegin(), lines.rbegin() + static_cast<long>(open),
+                                        [&](const Line& line) { return line.takes(*run); });
+        if (found != lines.rbegin() + static_cast<long>(open))
+            found->add(*run);
+        else
+            lines.emplace_back().add(*run);
+    }
+    std::stable_sort(lines.begin(), lines.end(),
+                     [](const Line& a, const Line& b) { return a.top < b.top; });
+    return lines;
 }
 
 QString joined(Runs line) {
@@ -61,21 +99,9 @@ QString joined(Runs line) {
 } // namespace
 
 QString readableText(const Recording& recording, SurfaceId surface) {
-    Runs runs = runsOn(recording, surface);
-    // Small letters after large ones of the same line would otherwise open a line of their own.
-    std::stable_sort(runs.begin(), runs.end(),
-                     [](const auto* a, const auto* b) { return foot(*a) < foot(*b); });
     QString text;
-    for (std::size_t i = 0; i < runs.size();) {
-        double top = runs[i]->y;
-        double bottom = foot(*runs[i]);
-        Runs line;
-        while (i < runs.size() && (line.empty() || sharesLine(*runs[i], top, bottom))) {
-            top = std::min(top, runs[i]->y);
-            bottom = std::max(bottom, foot(*runs[i]));
-            line.push_back(runs[i++]);
-        }
-        const QString words = joined(std::move(line));
+    for (Line& line : lines(runsOn(recording, surface))) {
+        const QString words = joined(std::move(line.runs));
         if (!words.isEmpty())
             text += words + u'\n';
     }

@@ -93,7 +93,10 @@ public:
     void operator()(const CaptionOperation&) {}
     void operator()(const FailedOperation&) {}
 
-    void end() { painter_.end(); }
+    void end() {
+        if (painter_.isActive())
+            painter_.end();
+    }
 
 private:
     static bool reachable(double x, double y) {

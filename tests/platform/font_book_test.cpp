@@ -1,0 +1,91 @@
+#include "platform/qt/font_book.h"
+
+#include <QFontMetricsF>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+platform::Font font(const char16_t* face, double points) {
+    platform::Font font;
+    font.face = QString::fromUtf16(face);
+    font.points = points;
+    return font;
+}
+
+TEST(FontBook, facesAreInstalled) {
+    EXPECT_EQ(platform::FontBook::missingFamilies(), QStringList());
+}
+
+TEST(FontBook, lineHeightsAreThoseOfTheFacesAskedFor) {
+    // Pixels at 96 to the inch, as the system the pages were written for gives them.
+    const struct {
+        double points;
+        int sans;
+        int serif;
+    } rows[] = {{6, 9, 9},      {8, 12, 12},  {10, 15, 15}, {11, 17, 16}, {12, 17, 17},
+                {13.5, 20, 20}, {14, 21, 21}, {20, 30, 30}, {28, 41, 41}, {36, 53, 53}};
+    const platform::FontBook fonts;
+    for (const auto& row : rows) {
+        EXPECT_EQ(fonts.height(font(u"Arial", row.points)), row.sans * 15) << row.points;
+        EXPECT_EQ(fonts.height(font(u"Times new roman", row.points)), row.serif * 15) << row.points;
+    }
+}
+
+TEST(FontBook, widthsAreTheUnhintedOnesWithoutKerning) {
+    const platform::FontBook fonts;
+    QFont reference(QStringLiteral("Liberation Sans"));
+    reference.setPixelSize(16 * 15);
+    reference.setHintingPreference(QFont::PreferNoHinting);
+    reference.setKerning(false);
+    const QFontMetricsF metrics(reference);
+    for (const QString& text : {QStringLiteral("Un rayon lumineux change de direction"),
+                                QStringLiteral("AVATAR To."), QStringLiteral("é œ « »")})
+        EXPECT_NEAR(fonts.width(font(u"Arial", 12), text), metrics.horizontalAdvance(text), .5);
+}
+
+TEST(FontBook, widthsAddUp) {
+    const platform::FontBook fonts;
+    const auto sans = font(u"Arial", 12);
+    const double parts = fonts.width(sans, u"fin ") + fonts.width(sans, u"de ligne");
+    EXPECT_DOUBLE_EQ(fonts.width(sans, u"fin de ligne"), parts);
+    EXPECT_EQ(fonts.width(sans, u""), 0);
+    EXPECT_EQ(fonts.width(font(u"Arial", 0), u"rien"), 0);
+    EXPECT_EQ(fonts.height(font(u"Arial", 0)), 0);
+}
+
+TEST(FontBook, symbolCodesShowGreek) {
+    const platform::FontBook fonts;
+    const auto symbol = font(u"SYMBOL", 12);
+    const auto runs = fonts.place(symbol, u"lW");
+    ASSERT_EQ(runs.size(), 1u);
+    EXPECT_FALSE(runs[0].glyphs.contains(0u)) << "a code without glyph";
+    EXPECT_NE(runs[0].glyphs, fonts.place(font(u"Arial", 12), u"lW")[0].glyphs);
+    // Codes without a sign show nothing and keep the position.
+    EXPECT_EQ(fonts.width(symbol, u"l\u00F0W"), fonts.width(symbol, u"lW"));
+    // Greek typed as Greek comes from a face that has it.
+    ASSERT_EQ(fonts.place(symbol, u"λ").size(), 1u);
+    EXPECT_FALSE(fonts.place(symbol, u"λ")[0].glyphs.contains(0u));
+}
+
+TEST(FontBook, charactersAFaceLacksComeFromAnother) {
+    const platform::FontBook fonts;
+    const auto runs = fonts.place(font(u"Comic Sans MS", 12), u"aλb");
+    ASSERT_EQ(runs.size(), 3u);
+    EXPECT_EQ(runs[0].stage, runs[2].stage);
+    EXPECT_NE(runs[0].stage, runs[1].stage);
+    for (const char16_t* signs : {u"lnèüðJK", u"\u0080\u009F\u2022"}) {
+        for (const auto& run : fonts.place(font(u"Wingdings", 12), signs))
+            EXPECT_FALSE(run.glyphs.contains(0u));
+    }
+}
+
+TEST(FontBook, loneSurrogatesAndManySizesDoNoHarm) {
+    const platform::FontBook fonts;
+    const char16_t lone[] = {u'a', 0xD800, u'b', 0xDC00, 0};
+    EXPECT_GT(fonts.width(font(u"Arial", 12), lone), 0);
+    for (int i = 1; i < 600; ++i)
+        EXPECT_GT(fonts.width(font(u"Arial", i), u"a"), 0);
+}
+
+} // namespace

@@ -1,0 +1,128 @@
+#include "platform/qt/raster_surface.h"
+#include "platform/readable_text.h"
+#include "platform/surface.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using platform::SurfaceId;
+
+constexpr QRgb kWhite = 0xffffffff;
+constexpr QRgb kBlack = 0xff000000;
+constexpr QRgb kTint = 0xffdce6ff;
+
+class Raster : public testing::Test {
+protected:
+    int inked(const QImage& image, const QRect& area) const {
+        int count = 0;
+        for (int y = area.top(); y <= area.bottom(); ++y)
+            for (int x = area.left(); x <= area.right(); ++x)
+                count += image.pixel(x, y) != kWhite;
+        return count;
+    }
+
+    platform::FontBook fonts;
+    platform::Recording recording;
+    platform::Surface surface{SurfaceId::PictureTexte, 9000, fonts, recording};
+    platform::RasterSurface raster{SurfaceId::PictureTexte, 600, fonts, kWhite};
+};
+
+TEST_F(Raster, textStandsWhereItWasPrinted) {
+    surface.setPenX(1500);
+    surface.setPenY(3000);
+    surface.print(QStringLiteral("Xg"));
+    raster.play(recording);
+    const QImage image = raster.image(400);
+    const int width = qRound(surface.textWidth(u"Xg") / 15);
+    EXPECT_EQ(inked(image, QRect(0, 0, 600, 200)), 0);
+    EXPECT_GT(inked(image, QRect(100, 200, width, 15)), 20);
+    EXPECT_EQ(inked(image, QRect(0, 200, 99, 20)), 0);
+    EXPECT_EQ(inked(image, QRect(101 + width, 200, 400, 20)), 0);
+    EXPECT_EQ(inked(image, QRect(0, 215, 600, 185)), 0);
+}
+
+TEST_F(Raster, linesAndFillsCoverWholePixels) {
+    surface.line(150, 150, 300, 150);
+    surface.fill(0, 300, 150, 150, kTint, platform::FillMode::Copy);
+    for (const double ratio : {1.0, 2.0}) {
+        raster.setDevicePixelRatio(ratio);
+        raster.play(recording);
+        const QImage image = raster.image(40);
+        const int r = qRound(ratio);
+        EXPECT_EQ(inked(image, QRect(0, 0, 600 * r, 20 * r)), 10 * r * r);
+        EXPECT_EQ(image.pixel(10 * r, 10 * r), kBlack);
+        EXPECT_EQ(inked(image, QRect(0, 20 * r, 600 * r, 20 * r)), 100 * r * r);
+        EXPECT_EQ(image.pixel(10 * r - 1, 30 * r - 1), kTint);
+    }
+}
+
+TEST_F(Raster, aMaskFillLeavesTextVisible) {
+    surface.fill(0, 0, 300, 300, kBlack, platform::FillMode::Copy);
+    surface.fill(0, 0, 600, 300, kTint, platform::FillMode::Mask);
+    surface.fill(0, 0, 600, 300, 0xffffff90, platform::FillMode::Mask);
+    raster.play(recording);
+    const QImage image = raster.image(20);
+    EXPECT_EQ(image.pixel(5, 5), kBlack);
+    EXPECT_EQ(image.pixel(30, 5), kTint & 0xffffff90);
+}
+
+TEST_F(Raster, growsWithoutLosingWhatStands) {
+    for (int line = 0; line < 500; ++line) {
+        surface.line(0, line * 300, 15, line * 300);
+        raster.play(recording);
+    }
+    const QImage image = raster.image(10000);
+    EXPECT_EQ(inked(image, QRect(0, 0, 600, 10000)), 500);
+}
+
+TEST_F(Raster, whatIsFarOutsideCostsNothing) {
+    surface.setPenY(3e38);
+    surface.print(QStringLiteral("x"));
+    surface.setPenY(-3e38);
+    surface.print(QStringLiteral("x"));
+    surface.line(-3e38, 0, 3e38, 0);
+    surface.fill(0, 0, 1e30, 1e30, kTint, platform::FillMode::Copy);
+    surface.fill(0, 3e9, 15, 15, kTint, platform::FillMode::Copy);
+    surface.setPenY(0);
+    raster.play(recording);
+    EXPECT_LE(raster.drawnHeightPx(), platform::kMaxSurfaceHeightPx);
+    EXPECT_EQ(raster.image(1).pixel(599, 0), kTint);
+}
+
+TEST_F(Raster, clearingWipesAndOtherSurfacesDoNotShow) {
+    platform::Surface other(SurfaceId::Titre, 9000, fonts, recording);
+    other.print(QStringLiteral("titre"));
+    raster.play(recording);
+    EXPECT_TRUE(raster.isBlank());
+    surface.print(QStringLiteral("texte"));
+    raster.play(recording);
+    EXPECT_FALSE(raster.isBlank());
+    surface.clear();
+    raster.play(recording);
+    EXPECT_TRUE(raster.isBlank());
+    EXPECT_EQ(inked(raster.image(50), QRect(0, 0, 600, 50)), 0);
+}
+
+TEST_F(Raster, readableTextFollowsTheLines) {
+    surface.setFontPoints(12);
+    surface.print(QStringLiteral("H"));
+    surface.setFontPoints(8);
+    surface.setPenY(80);
+    surface.print(QStringLiteral("2"));
+    surface.setFontPoints(12);
+    surface.setPenY(0);
+    surface.print(QStringLiteral("O"));
+    surface.setPenX(6000);
+    surface.print(QStringLiteral("à droite"));
+    surface.setPenX(0);
+    surface.setPenY(400);
+    surface.setFace(QStringLiteral("Symbol"));
+    surface.print(QStringLiteral("l"));
+    EXPECT_EQ(platform::readableText(recording, SurfaceId::PictureTexte),
+              QString("H2O à droite\nλ\n"));
+    surface.clear();
+    EXPECT_EQ(platform::readableText(recording, SurfaceId::PictureTexte), QString());
+}
+
+} // namespace
