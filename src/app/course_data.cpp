@@ -1,6 +1,6 @@
 #include "app/course_data.h"
 
-#include "jet/database.h"
+#include "platform/jet_recordset.h"
 #include "viewer/page_loader.h"
 
 #include <cstdio>
