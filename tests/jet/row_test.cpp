@@ -35,12 +35,13 @@ Stored narrowRow(const std::vector<std::size_t>& lengths) {
         ++jumps;
     for (std::size_t i = count + 1; i-- > 0;)
         row.push_back(static_cast<std::uint8_t>(offsets[i]));
-    // The first value whose offset lies past each multiple of 256; 0xFF where none does.
+    // The first value whose offset lies past each multiple of 256; 0xFF a jump that none takes must
+    // be passed over whatever it says.
     for (std::size_t jump = jumps; jump > 0; --jump) {
         std::size_t from = 0;
         while (from <= count && offsets[from] < 256 * jump)
             ++from;
-        row.push_back(from <= count ? static_cast<std::uint8_t>(from) : 0xFF);
+        row.push_back(from <= count ? static_cast<std::uint8_t>(from) : 0);
     }
     row.push_back(static_cast<std::uint8_t>(count));
     row.insert(row.end(), maskBytes, 0xFF);
