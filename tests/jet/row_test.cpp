@@ -51,7 +51,8 @@ Stored narrowRow(const std::vector<std::size_t>& lengths) {
 TEST(Row, jumpBytesReachBeyond256) {
     const std::vector<std::vector<std::size_t>> rows{
         {1, 2, 3},           {250, 5, 5},  {255, 0, 1}, {100, 100, 100, 100, 100, 100, 100, 100},
-        {0, 600, 0, 600, 0}, {200, 40, 5}, {240, 3},    {900, 900}};
+        {0, 600, 0, 600, 0}, {200, 40, 5}, {249, 2},    {100, 100, 48},
+        {900, 900}};
     for (const auto& lengths : rows) {
         const Stored bytes = narrowRow(lengths);
         const auto parsed = jet::Row::parse(bytes, kNarrow);
