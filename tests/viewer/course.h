@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/memory_recordset.h"
+#include "support/printing.h"
 
 namespace test {
 
@@ -21,8 +22,7 @@ inline test_support::MemoryRecordset::Record page(int number, const QString& sou
 
 /// The same with some fields changed.
 inline test_support::MemoryRecordset::Record
-page(int number, const QString& source,
-     const QMap<QString, platform::FieldValue>& changes) {
+page(int number, const QString& source, const QMap<QString, platform::FieldValue>& changes) {
     auto record = page(number, source);
     record.insert(changes);
     return record;

@@ -61,12 +61,8 @@ public:
     viewer::Multim window{state, fonts, screen};
     markup::Renderer renderer{drawing, window, window.recording()};
     viewer::PageLoader pages{state, bound, window, window, renderer, neighbours.video};
-    viewer::ActionDispatcher actions{state,
-                                     pages,
-                                     window,
-                                     neighbours.modules,
-                                     neighbours.exercise,
-                                     neighbours.orderForm};
+    viewer::ActionDispatcher actions{
+        state, pages, window, neighbours.modules, neighbours.exercise, neighbours.orderForm};
     viewer::MainCommands commands{state, actions, window, neighbours.all(), prompter};
 };
 
