@@ -171,8 +171,8 @@ void Renderer::finish() {
         return;
     }
     const auto height = text::toInt32(surface().penY());
-    if (check(height.has_value(), u"la page est trop haute"))
-        state_.hauteurPage = *height;
+    check(height.has_value(), u"la page est trop haute");
+    state_.hauteurPage = height.value_or(state_.hauteurPage);
     check(surface().setHeightPx(surface().penY() / twipsPerPixel_),
           u"la surface refuse cette hauteur");
     window_.setBusy(false);

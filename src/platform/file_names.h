@@ -12,10 +12,9 @@ namespace platform {
 /// it is looked up.
 QString lastComponent(const QString& name);
 
-/// Path of the file `name` in `directory`, with the letter case that it has there: the exact name
-/// when there is one, otherwise the first, in code point order, that differs only in case. Hidden
-/// files count, directories and devices do not. Nothing when there is no such file, or when `name`
-/// is not a bare file name.
+/// Path of the file `name` in `directory`: the exact name when there is one, otherwise the first,
+/// in code point order, that differs only in letter case. Hidden files count, directories and
+/// devices do not. Nothing when there is no such file, or when `name` is not a bare file name.
 std::optional<QString> findWithoutCase(const QString& directory, const QString& name);
 
 } // namespace platform

@@ -24,10 +24,14 @@ public:
     virtual double scale() const { return 1; }
 };
 
-/// Width of the screen in pixels; an unknown number of twips in a pixel counts as kTwipsPerPixel.
+/// `reported` twips in a pixel; kTwipsPerPixel where the system does not say (0).
+inline double knownTwipsPerPixel(double reported) {
+    return reported == 0 ? kTwipsPerPixel : reported;
+}
+
+/// Width of the screen in pixels.
 inline double widthPixels(const Screen& screen) {
-    const double twipsPerPixel = screen.twipsPerPixelX();
-    return screen.widthTwips() / (twipsPerPixel == 0 ? kTwipsPerPixel : twipsPerPixel);
+    return screen.widthTwips() / knownTwipsPerPixel(screen.twipsPerPixelX());
 }
 
 } // namespace platform

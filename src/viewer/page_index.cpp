@@ -8,6 +8,9 @@ namespace viewer {
 
 namespace {
 
+/// Some milliseconds of work.
+constexpr int kRecordsAtATime = 10'000;
+
 using Table = std::vector<std::int16_t>;
 
 void enter(Table& table, const platform::FieldValue& number, int position) {
@@ -26,13 +29,16 @@ void enter(Table& table, const platform::FieldValue& number, int position) {
 
 } // namespace
 
-void buildPageIndex(const platform::Recordset& cours, shell::SharedState& state) {
+void buildPageIndex(const platform::Recordset& cours, shell::SharedState& state,
+                    const std::function<void()>& letMessagesRun) {
     Table byNumber;
     Table byOrder;
     cours.forEach({QStringLiteral("Numeropage"), QStringLiteral("Index")},
                   [&](int position, std::span<const platform::FieldValue> fields) {
                       enter(byNumber, fields[0], position);
                       enter(byOrder, fields[1], position);
+                      if (letMessagesRun && (position + 1) % kRecordsAtATime == 0)
+                          letMessagesRun();
                   });
     state.PageByNumber = std::move(byNumber);
     state.PageByOrder = std::move(byOrder);

@@ -3,6 +3,8 @@
 #include "platform/recordset.h"
 #include "shell/shared_state.h"
 
+#include <functional>
+
 namespace viewer {
 
 /// Highest page number or reading-order index that the tables take in. A database may hold any
@@ -13,6 +15,8 @@ inline constexpr int kMaxIndexedNumber = 1'000'000;
 /// position. Each table ends one slot after the highest number, and holes hold 0. Of records with
 /// the same number the last one counts. Negative numbers, numbers beyond kMaxIndexedNumber and NULL
 /// are not entered; a position beyond 32767 does not fit its 16-bit entry, which keeps its value.
-void buildPageIndex(const platform::Recordset& cours, shell::SharedState& state);
+/// `letMessagesRun` is called now and then, so that a window stays alive over a large table.
+void buildPageIndex(const platform::Recordset& cours, shell::SharedState& state,
+                    const std::function<void()>& letMessagesRun = {});
 
 } // namespace viewer

@@ -19,6 +19,12 @@ constexpr double kMaxImageBytes = 160e6;
 
 constexpr double kBytesPerPixel = 4;
 
+/// A picture starts with room for a page that fits the window, in logical pixels.
+constexpr int kFirstRowsPx = 448;
+
+/// A picture no taller than this is used again for the next page, in logical pixels.
+constexpr int kKeptRowsPx = 2000;
+
 /// Positions beyond this many logical pixels are outside any picture.
 constexpr double kFarPx = 1e6;
 
@@ -168,11 +174,6 @@ private:
 RasterSurface::RasterSurface(SurfaceId id, int widthPx, const FontBook& fonts, QRgb background)
     : id_(id), widthPx_(widthPx), fonts_(fonts), background_(background) {}
 
-void RasterSurface::setDevicePixelRatio(double ratio) {
-    ratio_ = ratio;
-    reset();
-}
-
 void RasterSurface::play(const Recording& recording) {
     Player player(*this);
     const auto& operations = recording.operations();
@@ -181,22 +182,36 @@ void RasterSurface::play(const Recording& recording) {
     player.end();
 }
 
-void RasterSurface::reset() {
+void RasterSurface::setDevicePixelRatio(double ratio) {
+    ratio_ = ratio;
     image_ = QImage();
+    lowestPx_ = 0;
+    played_ = 0;
+}
+
+void RasterSurface::reset() {
     wipe();
     played_ = 0;
 }
 
 void RasterSurface::wipe() {
+    // The next page finds the picture of this one in place; that of a very tall page goes.
+    if (image_.height() > kKeptRowsPx * ratio_)
+        image_ = QImage();
+    const int rows = std::min(image_.height(), qCeil(lowestPx_ * ratio_));
+    if (rows > 0)
+        std::fill_n(reinterpret_cast<QRgb*>(image_.bits()),
+                    static_cast<std::size_t>(rows) * static_cast<std::size_t>(image_.width()),
+                    background_);
     lowestPx_ = 0;
-    image_.fill(background_);
 }
 
 void RasterSurface::growTo(int heightPx) {
     const int width = qCeil(widthPx_ * ratio_);
     const int most = static_cast<int>(kMaxImageBytes / kBytesPerPixel / width);
     const int wanted = qCeil(heightPx * ratio_);
-    const int rows = std::min(std::max(wanted, image_.height() * 2), most);
+    const int first = qCeil(kFirstRowsPx * ratio_);
+    const int rows = std::min(std::max({wanted, image_.height() * 2, first}), most);
     if (rows <= image_.height())
         return;
     QImage larger(width, rows, QImage::Format_RGB32);
@@ -205,10 +220,10 @@ void RasterSurface::growTo(int heightPx) {
     const auto copied = static_cast<std::size_t>(image_.sizeInBytes());
     if (copied > 0)
         std::memcpy(larger.bits(), image_.constBits(), copied);
-    const QRect below(0, image_.height(), width, rows - image_.height());
-    QPainter painter(&larger);
-    painter.fillRect(below, QColor::fromRgb(background_));
-    painter.end();
+    const int kept = image_.height();
+    std::fill_n(reinterpret_cast<QRgb*>(larger.scanLine(kept)),
+                static_cast<std::size_t>(rows - kept) * static_cast<std::size_t>(width),
+                background_);
     image_ = std::move(larger);
 }
 

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QChar>
+#include <QString>
+#include <QStringList>
+
+#include <map>
+#include <optional>
+
+namespace app {
+
+/// What the person who starts the shell asks for.
+struct CommandLine {
+    std::optional<QString> course;   ///< --course DIR
+    std::map<QChar, QString> drives; ///< --drive L=DIR, any number of times
+    double scale = 1;                ///< --scale F; without meaning with scaleAuto
+    bool scaleAuto = false;          ///< --scale auto
+
+    /// Something to print instead of starting: the help, the version, or what is wrong.
+    std::optional<QString> message;
+    bool isError = false; ///< the message goes to standard error and the exit status is 2
+};
+
+/// Reads the arguments, the program's own name first. Works before there is an application object.
+CommandLine readCommandLine(const QStringList& arguments);
+
+} // namespace app

@@ -1,0 +1,15 @@
+#pragma once
+
+namespace app {
+
+inline constexpr double kSmallestScale = 1;
+inline constexpr double kLargestScale = 4;
+
+/// The factor that enlarges an 800 x 600 window well on a screen of this size, in device pixels:
+/// steps of a quarter, and a tenth of the screen left free. 1 on a screen that is too small.
+double automaticScale(double screenWidthPx, double screenHeightPx);
+
+/// The factor asked for, lowered to what the screen holds, never below 1.
+double fittingScale(double asked, double screenWidthPx, double screenHeightPx);
+
+} // namespace app

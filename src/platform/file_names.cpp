@@ -1,0 +1,52 @@
+#include "platform/file_names.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace platform {
+
+namespace {
+
+bool hasDrivePrefix(const QString& name) {
+    return name.size() >= 2 && name[1] == QLatin1Char(':') && name[0].unicode() < 0x80 &&
+           name[0].isLetter();
+}
+
+} // namespace
+
+QString lastComponent(const QString& name) {
+    QString rest = name.left(name.indexOf(QChar(u'\0')));
+    const qsizetype separator =
+        std::max(rest.lastIndexOf(QLatin1Char('\\')), rest.lastIndexOf(QLatin1Char('/')));
+    rest.remove(0, separator + 1);
+    if (hasDrivePrefix(rest))
+        rest.remove(0, 2);
+    // Some systems ignore blanks around a name, so ". " would be the directory as well.
+    const QString core = rest.trimmed();
+    if (core.isEmpty() || core == QLatin1String(".") || core == QLatin1String(".."))
+        return {};
+    return rest;
+}
+
+std::optional<QString> findWithoutCase(const QString& directory, const QString& name) {
+    // An empty directory would mean the current one, which is nobody's choice.
+    if (directory.isEmpty() || name.isEmpty() || lastComponent(name) != name)
+        return std::nullopt;
+    const QDir folder(directory);
+    // The exact name saves listing the folder, which takes long where it is large.
+    if (QFileInfo(folder, name).isFile())
+        return folder.filePath(name);
+
+    // No name filters: brackets and asterisks in a name are to be taken literally.
+    const QStringList entries =
+        folder.entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Name);
+    for (const QString& entry : entries) {
+        if (entry.compare(name, Qt::CaseInsensitive) == 0 && QFileInfo(folder, entry).isFile())
+            return folder.filePath(entry);
+    }
+    return std::nullopt;
+}
+
+} // namespace platform

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "platform/drives.h"
+
+#include <QStringList>
+
+#include <optional>
+#include <utility>
+
+namespace platform {
+
+/// A letter and the directory that stands for this drive.
+using DriveMapping = std::pair<QChar, QString>;
+
+/// Reads "L=DIR" (either case of the letter). Nothing when it is not of this form.
+std::optional<DriveMapping> parseDriveMapping(const QString& option);
+
+/// Gives the mounted `volumes`, in their order, the letters from "D" that `taken` leaves free; what
+/// goes beyond "Z" gets none. The result holds `taken` as well.
+std::map<QChar, QString> lettersFor(const QStringList& volumes, std::map<QChar, QString> taken);
+
+/// The system's drives. On Windows they have their own letters; elsewhere the mounted volumes get
+/// letters in mount order. `mappings` go before both, and the course's folder "disc" is the drive
+/// "C" where there is no other. A directory that does not exist is a drive that is not ready.
+class MountedDrives : public Drives {
+public:
+    explicit MountedDrives(const QString& courseDirectory, std::map<QChar, QString> mappings = {});
+
+    std::map<QChar, QString> ready() const override;
+
+private:
+    QString discDirectory_;
+    std::map<QChar, QString> mappings_;
+};
+
+} // namespace platform

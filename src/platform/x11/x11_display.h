@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QByteArray>
+#include <QByteArrayList>
+
+#include <xcb/xcb.h>
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+namespace platform {
+
+/// A short-lived connection to an X11 display, for looking at windows of other programs. A window
+/// may vanish at any time: what is asked of it then is empty.
+class X11Display {
+public:
+    /// `name` as in the variable DISPLAY, which is used when it is empty.
+    explicit X11Display(const QByteArray& name);
+
+    /// False when there is no such display; nothing else may be called then.
+    bool isOpen() const { return root_ != XCB_WINDOW_NONE; }
+
+    /// The windows of all programs, oldest first when a manager tells.
+    std::vector<xcb_window_t> programWindows() const;
+
+    /// Process that owns the window; 0 when the window does not say.
+    std::uint32_t processId(xcb_window_t window) const;
+
+    /// Instance and class name of the window's program; empty when it does not say.
+    QByteArrayList classNames(xcb_window_t window) const;
+
+    /// Asks for the window to come to the front with the keyboard's focus, and waits until the
+    /// display has taken the request.
+    void bringToFront(xcb_window_t window) const;
+
+private:
+    struct Disconnect {
+        void operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
+    };
+
+    xcb_atom_t atom(const char* name) const;
+    QByteArray property(xcb_window_t window, xcb_atom_t name, xcb_atom_t type) const;
+    std::vector<std::uint32_t> cardinals(xcb_window_t window, const char* name,
+                                         xcb_atom_t type) const;
+    bool hasManager() const;
+    std::vector<xcb_window_t> children(xcb_window_t parent) const;
+    /// Toolkits keep windows of their own that are never shown, or that are menus.
+    bool isShown(xcb_window_t window) const;
+    std::vector<xcb_window_t> unmanagedProgramWindows() const;
+
+    std::unique_ptr<xcb_connection_t, Disconnect> connection_;
+    xcb_window_t root_ = XCB_WINDOW_NONE;
+};
+
+} // namespace platform

@@ -1,0 +1,193 @@
+#include "shell/launcher.h"
+
+#include "shell/status_file.h"
+
+#include <algorithm>
+#include <array>
+#include <numeric>
+
+namespace shell {
+
+namespace {
+
+using platform::Answer;
+using platform::Message;
+using platform::StartFailure;
+
+struct ModuleProgram {
+    int module;
+    const char* fileName;
+};
+
+constexpr std::array<ModuleProgram, 5> kPrograms = {{
+    {2, "Simu21.exe"},
+    {7, "SIMU07.EXE"},
+    {9, "SIMU09.EXE"},
+    {10, "Simu22.exe"},
+    {23, "Simu23.exe"},
+}};
+
+struct LaunchExercise {
+    int code;
+    const char* fileName;
+};
+
+constexpr std::array<LaunchExercise, 8> kExercises = {{
+    {21, "Exercice 01.E24"},
+    {22, "Exercice 02.E24"},
+    {103, "Exercice 03.E20"},
+    {105, "Exercice 05.E20"},
+    {233, "Exercice 03.E21"},
+    {234, "Exercice 04.E21"},
+    {235, "Exercice 05.E21"},
+    {236, "Exercice 06.E21"},
+}};
+
+/// Program of a module; empty for a module without one.
+QString programOf(int module) {
+    for (const ModuleProgram& program : kPrograms) {
+        if (program.module == module)
+            return QString::fromLatin1(program.fileName);
+    }
+    return {};
+}
+
+/// Exercise that a launch code carries; empty for none.
+QString exerciseOf(int code) {
+    for (const LaunchExercise& exercise : kExercises) {
+        if (exercise.code == code)
+            return QString::fromLatin1(exercise.fileName);
+    }
+    return {};
+}
+
+const QString kRunning = QStringLiteral("OUI");
+const QString kNotRunning = QStringLiteral("NON");
+
+std::vector<int> moduleRecords() {
+    std::vector<int> records(StatusFile::kModuleRecords);
+    std::iota(records.begin(), records.end(), 1);
+    return records;
+}
+
+/// `text` without the spaces around it; other blanks stay.
+QString trimmedOfSpaces(const QString& text) {
+    qsizetype first = 0;
+    qsizetype end = text.size();
+    while (first < end && text[first] == u' ')
+        ++first;
+    while (end > first && text[end - 1] == u' ')
+        --end;
+    return text.mid(first, end - first);
+}
+
+QString whyNotStarted(StartFailure failure) {
+    switch (failure) {
+    case StartFailure::Missing:
+        return QStringLiteral("est introuvable dans le dossier du cours.");
+    case StartFailure::NeedsWine:
+        return QStringLiteral("est un programme Windows\u00A0: il faut installer Wine pour le "
+                              "lancer.");
+    case StartFailure::SixteenBit:
+        return QStringLiteral("est un ancien programme 16\u00A0bits, que ce système ne sait pas "
+                              "lancer.");
+    case StartFailure::NotAProgram:
+        return QStringLiteral("n’est pas un programme que ce système sait lancer.");
+    case StartFailure::Refused:
+        break;
+    }
+    return QStringLiteral("n’a pas pu être lancé\u00A0: le système l’a refusé.");
+}
+
+const Message kOtherModuleRuns = {QStringLiteral("Orvalente"),
+                                  QStringLiteral("Il y a déjà un module en cours d'exécution.\r\n"
+                                                 "Confirmez-vous cette commande ?"),
+                                  Message::Icon::Question, Message::Buttons::YesNo};
+
+const Message kNoUpdate = {
+    QStringLiteral("Mise à jour impossible"),
+    QStringLiteral(
+        "Pour effectuer une mise à jour, tous les modules du logiciel doivent être fermés"),
+    Message::Icon::Exclamation, Message::Buttons::Ok};
+
+} // namespace
+
+Launcher::Launcher(SharedState& state, platform::Prompter& prompter,
+                   platform::ProcessStarter& starter, platform::WindowActivator& activator,
+                   ReportSink& reports)
+    : state_(state), prompter_(prompter), starter_(starter), activator_(activator),
+      reports_(reports) {}
+
+void Launcher::queryModuleStatus(std::int16_t& module) const {
+    std::vector<int> records = moduleRecords();
+    records.insert(records.begin(), module);
+    QStringList texts = StatusFile(state_.InstallDir).read(records);
+
+    // Only the exact text counts here, while those below are trimmed: meant so.
+    if (texts.takeFirst() != kNotRunning) {
+        module = -1;
+        return;
+    }
+    module = static_cast<std::int16_t>(
+        std::count_if(texts.begin(), texts.end(),
+                      [](const QString& text) { return trimmedOfSpaces(text) == kRunning; }));
+}
+
+void Launcher::launchModule(std::int16_t code) {
+    const auto module = static_cast<std::int16_t>(code / 10);
+    state_.ModuleNumber = module;
+    if (module == 0)
+        return;
+    // Written before anything else is known, also when nothing is started in the end: meant so.
+    StatusFile(state_.InstallDir).write(StatusFile::kArgumentRecord, exerciseOf(code));
+    const QString program = programOf(module);
+    if (program.isEmpty())
+        return;
+
+    // The shared variable holds the status from here on; the module's slot keeps its own number.
+    queryModuleStatus(state_.ModuleNumber);
+    const bool anyRuns = state_.ModuleNumber != 0;
+    const bool startedBefore = state_.SiblingProcessIds.valueOr(module, 0) != 0;
+    if (anyRuns && !startedBefore && !mayStartBesideOthers())
+        return;
+    if (!(anyRuns && startedBefore))
+        start(module, program);
+    else
+        activate(module, program);
+}
+
+bool Launcher::mayStartBesideOthers() const {
+    return prompter_.ask(kOtherModuleRuns) == Answer::Yes;
+}
+
+void Launcher::start(std::int16_t module, const QString& program) {
+    const platform::StartResult started = starter_.start(state_.InstallDir + program);
+    if (!started.pid) {
+        reportFailure(reports_, QStringLiteral("Le module «\u00A0%1\u00A0» %2")
+                                    .arg(program, whyNotStarted(started.failure)));
+        return;
+    }
+    // Systems count processes with at most 32 bits.
+    state_.SiblingProcessIds.store(module, static_cast<std::int32_t>(*started.pid));
+    activate(module, program);
+}
+
+void Launcher::activate(std::int16_t module, const QString& program) {
+    const std::int32_t pid = state_.SiblingProcessIds.valueOr(module, 0);
+    activator_.activate(static_cast<std::uint32_t>(pid), program);
+}
+
+bool Launcher::updateIsPossible() const {
+    const QStringList texts = StatusFile(state_.InstallDir).read(moduleRecords());
+    return std::all_of(texts.begin(), texts.end(),
+                       [](const QString& text) { return text == kNotRunning; });
+}
+
+bool Launcher::confirmUpdateIsPossible() const {
+    const bool possible = updateIsPossible();
+    if (!possible)
+        prompter_.ask(kNoUpdate);
+    return possible;
+}
+
+} // namespace shell

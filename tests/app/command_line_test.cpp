@@ -1,0 +1,51 @@
+#include "app/command_line.h"
+#include "app/scale.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+app::CommandLine read(const QStringList& arguments) {
+    return app::readCommandLine(QStringList{QStringLiteral("orvalente")} + arguments);
+}
+
+TEST(CommandLine, takesValuesBehindAnEqualsSignOrABlank) {
+    const auto line =
+        read({"--course", "/un cours", "--drive=e=/mnt", "--drive", "F=/a=b", "--scale", "1,5"});
+    EXPECT_FALSE(line.message.has_value());
+    EXPECT_EQ(line.course, QStringLiteral("/un cours"));
+    EXPECT_EQ(line.drives.at(u'E'), QStringLiteral("/mnt"));
+    EXPECT_EQ(line.drives.at(u'F'), QStringLiteral("/a=b"));
+    EXPECT_EQ(line.scale, 1.5);
+    EXPECT_TRUE(read({"--scale", "auto"}).scaleAuto);
+    EXPECT_FALSE(read({}).course.has_value());
+}
+
+TEST(CommandLine, wrongCallsAreExplained) {
+    for (const QStringList& wrong : {QStringList{"--curse", "x"},
+                                     {"--course"},
+                                     {"--course="},
+                                     {"--scale", "0.5"},
+                                     {"--scale", "gros"},
+                                     {"--drive", "/mnt"},
+                                     {"/un/cours"}}) {
+        const auto line = read(wrong);
+        EXPECT_TRUE(line.isError) << wrong.join(u' ').toStdString();
+        EXPECT_TRUE(line.message.has_value());
+    }
+    EXPECT_FALSE(read({"--help"}).isError);
+    EXPECT_TRUE(read({"--help"}).message->contains(u"--course"));
+}
+
+TEST(Scale, fitsTheScreen) {
+    EXPECT_EQ(app::automaticScale(1024, 768), 1);
+    EXPECT_EQ(app::automaticScale(1920, 1080), 1.5);
+    EXPECT_EQ(app::automaticScale(3840, 2160), 3);
+    EXPECT_EQ(app::automaticScale(640, 480), 1);
+    EXPECT_EQ(app::automaticScale(20000, 20000), app::kLargestScale);
+    EXPECT_EQ(app::fittingScale(2, 1920, 1080), 1.8);
+    EXPECT_EQ(app::fittingScale(1.5, 1920, 1080), 1.5);
+    EXPECT_EQ(app::fittingScale(3, 800, 600), 1);
+}
+
+} // namespace

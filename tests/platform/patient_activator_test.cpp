@@ -1,0 +1,22 @@
+#include "platform/qt/patient_activator.h"
+#include "support/fake_processes.h"
+#include "support/files.h"
+
+using test_support::eventually;
+
+using Request = std::pair<qint64, QString>;
+
+TEST(PatientActivator, asksAgainForTheNewestWindowOnly) {
+    test_support::FakeActivator windows;
+    platform::PatientActivator activator(windows);
+    windows.result = false;
+    EXPECT_FALSE(activator.activate(1, "first.exe"));
+    EXPECT_FALSE(activator.activate(2, "second.exe"));
+    EXPECT_TRUE(eventually([&] { return windows.requests.size() >= 4; }));
+    EXPECT_EQ(windows.requests[2], Request(2, "second.exe"));
+    EXPECT_EQ(windows.requests[3], Request(2, "second.exe"));
+
+    windows.result = true;
+    EXPECT_TRUE(activator.activate(3, "third.exe"));
+    EXPECT_EQ(windows.requests.back(), Request(3, "third.exe"));
+}

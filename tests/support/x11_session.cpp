@@ -1,0 +1,59 @@
+#include "support/x11_session.h"
+
+#include "support/files.h"
+
+namespace test_support {
+
+X11Session::X11Session(Manager manager) {
+    // The server picks a free number itself and writes it down when it is ready.
+    server_.setStandardErrorFile(QProcess::nullDevice());
+    server_.start(QStringLiteral("Xvfb"),
+                  {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
+                   QStringLiteral("0"), QStringLiteral("1024x768x24"), QStringLiteral("-nolisten"),
+                   QStringLiteral("tcp")});
+    QByteArray number;
+    while (!number.endsWith('\n') && server_.waitForReadyRead())
+        number += server_.readAllStandardOutput();
+    if (!number.endsWith('\n')) {
+        ADD_FAILURE() << "Xvfb does not start: " << qPrintable(server_.errorString());
+        return;
+    }
+    display_ = ':' + number.trimmed();
+    if (manager == Manager::Openbox)
+        startManager();
+}
+
+X11Session::~X11Session() {
+    for (QProcess* process : {&manager_, &server_}) {
+        process->terminate();
+        process->waitForFinished();
+    }
+}
+
+void X11Session::startManager() {
+    manager_.setProcessEnvironment(environment());
+    manager_.setStandardErrorFile(QProcess::nullDevice());
+    manager_.start(QStringLiteral("openbox"), {QStringLiteral("--sm-disable")});
+    EXPECT_TRUE(eventually([this] {
+        return xprop({QStringLiteral("-root"), QStringLiteral("_NET_SUPPORTING_WM_CHECK")})
+            .contains("0x");
+    })) << "openbox does not start: "
+        << qPrintable(manager_.errorString());
+}
+
+QByteArray X11Session::xprop(const QStringList& arguments) const {
+    QProcess xprop;
+    xprop.setProcessEnvironment(environment());
+    xprop.start(QStringLiteral("xprop"), arguments);
+    xprop.waitForFinished();
+    return xprop.readAllStandardOutput();
+}
+
+QProcessEnvironment X11Session::environment() const {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("DISPLAY"), QString::fromLatin1(display_));
+    environment.insert(QStringLiteral("HOME"), home_.path());
+    return environment;
+}
+
+} // namespace test_support
