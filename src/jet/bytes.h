@@ -3,7 +3,9 @@
 #include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <span>
+#include <vector>
 
 namespace jet {
 
@@ -15,6 +17,7 @@ public:
     constexpr Bytes() = default;
     constexpr Bytes(const std::uint8_t* data, std::size_t size) : data_(data), size_(size) {}
     constexpr Bytes(std::span<const std::uint8_t> bytes) : Bytes(bytes.data(), bytes.size()) {}
+    Bytes(const std::vector<std::uint8_t>& bytes) : Bytes(bytes.data(), bytes.size()) {}
 
     const std::uint8_t* data() const { return data_; }
     std::size_t size() const { return size_; }
@@ -46,8 +49,13 @@ private:
         if (!has(offset, sizeof(Number)))
             return 0;
         Number value = 0;
-        for (std::size_t i = 0; i < sizeof(Number); ++i)
-            value = static_cast<Number>(value | static_cast<Number>(data_[offset + i]) << (8 * i));
+        if constexpr (std::endian::native == std::endian::little) {
+            std::memcpy(&value, data_ + offset, sizeof(Number));
+        } else {
+            for (std::size_t i = 0; i < sizeof(Number); ++i)
+                value =
+                    static_cast<Number>(value | static_cast<Number>(data_[offset + i]) << (8 * i));
+        }
         return value;
     }
 

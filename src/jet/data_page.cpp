@@ -33,7 +33,8 @@ std::optional<DataPage> DataPage::of(Page page, std::uint32_t owner, const Forma
 
 DataPage::DataPage(Page page, const Format& format) : page_(std::move(page)), format_(&format) {
     slotCount_ = page_.bytes.u16(format.slotCountAt);
-    if (slotCount_ > kMaxSlots || !page_.bytes.has(format.slotsAt, 2 * slotCount_))
+    isSound_ = slotCount_ <= kMaxSlots && page_.bytes.has(format.slotsAt, 2 * slotCount_);
+    if (!isSound_)
         slotCount_ = 0;
 }
 

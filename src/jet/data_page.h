@@ -22,7 +22,8 @@ public:
     static std::optional<DataPage> of(Page page, std::uint32_t owner, const Format& format);
 
     const Page& page() const { return page_; }
-    /// 0 when the page claims more slots than it has room for.
+    /// False when the page claims more slots than it has room for; then it has none.
+    bool isSound() const { return isSound_; }
     std::size_t slotCount() const { return slotCount_; }
     /// Nothing when there is no such slot or its row does not lie between the slots and the row
     /// before it.
@@ -34,6 +35,7 @@ private:
     Page page_;
     const Format* format_;
     std::size_t slotCount_;
+    bool isSound_;
 };
 
 /// The row a pointer leads to, and the page it lies on.

@@ -19,6 +19,7 @@ struct Format {
     std::size_t rowNumber;
 
     // Table definition, first page
+    std::size_t rowCountAt;
     std::size_t maxColumnsAt;
     std::size_t variableColumnsAt;
     std::size_t columnCountAt;
@@ -44,6 +45,7 @@ inline constexpr Format kJet3{.pageSize = 2048,
                               .slotCountAt = 8,
                               .slotsAt = 10,
                               .rowNumber = 1,
+                              .rowCountAt = 12,
                               .maxColumnsAt = 21,
                               .variableColumnsAt = 23,
                               .columnCountAt = 25,
@@ -66,6 +68,7 @@ inline constexpr Format kJet4{.pageSize = 4096,
                               .slotCountAt = 12,
                               .slotsAt = 14,
                               .rowNumber = 2,
+                              .rowCountAt = 16,
                               .maxColumnsAt = 41,
                               .variableColumnsAt = 43,
                               .columnCountAt = 45,

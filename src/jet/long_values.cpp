@@ -2,7 +2,9 @@
 
 #include "jet/data_page.h"
 
+#include <cstdint>
 #include <string>
+#include <unordered_set>
 
 namespace jet {
 
@@ -54,9 +56,9 @@ Result<LongValues::Value> LongValues::fetchSingle(RowPointer at, std::size_t len
 
 Result<LongValues::Value> LongValues::fetchChain(RowPointer first, std::size_t length) {
     pieces_.clear(); // grows as pieces arrive, never on the word of the header
+    std::unordered_set<std::uint32_t> visited;
     RowPointer next = first;
-    // A chain longer than the file has pages comes back to one it has been on.
-    for (std::uint32_t count = 0; count < source_->pageCount(); ++count) {
+    while (visited.insert(next.stored()).second) {
         const auto record = followPointer(*source_, next, kLongValueOwner, Slot::Kind::InPlace);
         if (!record)
             return damaged("dont un morceau est absent de la page qu'il nomme");

@@ -185,6 +185,7 @@ Result<TableDefinition> readTableDefinition(PageSource& source, std::uint32_t pa
     table.page = page;
     table.shape = {&format, content.u16(format.maxColumnsAt),
                    content.u16(format.variableColumnsAt) > 0};
+    table.rowCount = content.u32(format.rowCountAt);
     table.ownedPages = RowPointer(content.u32(format.ownedMapAt));
     if (const char* fault = readColumns(content, format, table))
         return damaged(page, fault);

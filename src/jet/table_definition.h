@@ -26,7 +26,8 @@ struct ColumnPlace {
 struct TableDefinition {
     std::uint32_t page = 0;
     RowShape shape{};
-    RowPointer ownedPages; ///< map of the table's data pages
+    std::uint32_t rowCount = 0; ///< as the file says; not to be relied on
+    RowPointer ownedPages;      ///< map of the table's data pages
     std::vector<Column> columns;
     std::vector<ColumnPlace> places; ///< one for each column
 };

@@ -1,6 +1,6 @@
 #include "jet/table_reader.h"
 
-#include "jet/cell.h"
+#include "jet/cell_decoder.h"
 #include "jet/unicode.h"
 
 #include <utility>

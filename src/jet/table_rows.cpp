@@ -46,10 +46,13 @@ void TableRows::listPages() {
     auto pages = pagesInMap(*source_, definition_->ownedPages);
     if (pages) {
         pages_ = std::move(*pages);
-        return;
+    } else {
+        problems_.add(label_ +
+                      " : la carte de ses pages est illisible, tout le fichier est parcouru");
+        listPagesByOwner();
     }
-    problems_.add(label_ + " : la carte de ses pages est illisible, tout le fichier est parcouru");
-    listPagesByOwner();
+    firstPositions_.reserve(pages_.size() + 1);
+    addCounted(0);
 }
 
 /// What a map would say can be found by looking at every page.
@@ -70,23 +73,35 @@ void TableRows::countPage(std::size_t index) {
 /// the list when it is met for the first time; then all its rows are counted in any case.
 void TableRows::visitPage(std::size_t index, const Callback& callback, bool& goOn) {
     noting_ = index + 1 == firstPositions_.size();
-    const std::uint32_t number = pages_[index];
     const std::size_t first = firstPositions_[index];
     std::size_t rows = 0;
-
-    const auto page = source_->page(number);
-    const auto data =
-        page ? DataPage::of(*page, definition_->page, source_->format()) : std::nullopt;
-    if (!data && noting_)
-        problems_.add(label_ + " : page " + std::to_string(number) +
-                      " passée, ce n'est pas une page de données de la table");
+    const auto data = dataPage(pages_[index]);
     const std::size_t slots = data ? data->slotCount() : 0;
     for (std::size_t slot = 0; slot < slots && (goOn || noting_); ++slot) {
         if (visitSlot(*data, slot, first + rows, callback, goOn))
             ++rows;
     }
     if (noting_ && firstPositions_.size() == index + 1)
-        firstPositions_.push_back(static_cast<std::uint32_t>(first + rows));
+        addCounted(first + rows);
+}
+
+std::optional<DataPage> TableRows::dataPage(std::uint32_t number) {
+    const auto page = source_->page(number);
+    auto data = page ? DataPage::of(*page, definition_->page, source_->format()) : std::nullopt;
+    if (noting_ && !data)
+        passOver(number, "ce n'est pas une page de données de la table");
+    if (noting_ && data && !data->isSound())
+        passOver(number, "elle annonce plus de lignes qu'elle n'en contient");
+    return data;
+}
+
+void TableRows::addCounted(std::size_t nextPosition) {
+    firstPositions_.push_back(static_cast<std::uint32_t>(nextPosition));
+    // Pages can be lost without a trace, by a damaged map; the count of the definition then tells.
+    if (firstPositions_.size() > pages_.size() && nextPosition < definition_->rowCount &&
+        problems_.empty())
+        problems_.add(label_ + " : elle annonce " + std::to_string(definition_->rowCount) +
+                      " enregistrements, " + std::to_string(nextPosition) + " se lisent");
 }
 
 /// Whether there is a row in the slot.
@@ -95,7 +110,7 @@ bool TableRows::visitSlot(const DataPage& page, std::size_t index, std::size_t p
     const RowPointer place(page.page().number, static_cast<std::uint8_t>(index));
     const auto slot = page.slot(index);
     if (!slot) {
-        passOver(place, "elle ne tient pas dans la page");
+        passOverRow(place, "elle ne tient pas dans la page");
         return false;
     }
     if (slot->kind == Slot::Kind::Body || slot->kind == Slot::Kind::Deleted)
@@ -104,13 +119,13 @@ bool TableRows::visitSlot(const DataPage& page, std::size_t index, std::size_t p
     if (slot->kind == Slot::Kind::Pointer) {
         moved = followPointer(*source_, place, definition_->page, Slot::Kind::Body);
         if (!moved) {
-            passOver(place, "elle a été déplacée et son renvoi ne mène à rien");
+            passOverRow(place, "elle a été déplacée et son renvoi ne mène à rien");
             return false;
         }
     }
     const Row::Parsed parsed = Row::parse(moved ? moved->row : slot->row, definition_->shape);
     if (!parsed.row) {
-        passOver(place, parsed.fault);
+        passOverRow(place, parsed.fault);
         return false;
     }
     if (goOn)
@@ -118,7 +133,11 @@ bool TableRows::visitSlot(const DataPage& page, std::size_t index, std::size_t p
     return true;
 }
 
-void TableRows::passOver(RowPointer place, const char* why) {
+void TableRows::passOver(std::uint32_t page, const char* why) {
+    problems_.add(label_ + " : page " + std::to_string(page) + " passée, " + why);
+}
+
+void TableRows::passOverRow(RowPointer place, const char* why) {
     if (noting_)
         problems_.add(label_ + " : page " + std::to_string(place.page) + ", ligne " +
                       std::to_string(place.row) + " passée, " + why);

@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -45,7 +46,10 @@ private:
     void countPage(std::size_t index);
     bool visitSlot(const DataPage& page, std::size_t slot, std::size_t position,
                    const Callback& callback, bool& goOn);
-    void passOver(RowPointer place, const char* why);
+    std::optional<DataPage> dataPage(std::uint32_t number);
+    void addCounted(std::size_t nextPosition);
+    void passOver(std::uint32_t page, const char* why);
+    void passOverRow(RowPointer place, const char* why);
 
     PageSource* source_;
     const TableDefinition* definition_;
@@ -53,7 +57,7 @@ private:
     bool listed_ = false;
     std::vector<std::uint32_t> pages_;
     /// Position of the first row of each page counted so far, and of the one to come after them.
-    std::vector<std::uint32_t> firstPositions_{0};
+    std::vector<std::uint32_t> firstPositions_;
     bool noting_ = false; ///< the page at hand is met for the first time
     Problems problems_;
 };

@@ -1,6 +1,6 @@
 #include "jet/text_codec.h"
 
-#include "jet/unicode.h"
+#include "jet/utf8_writer.h"
 
 #include <array>
 #include <cstddef>
@@ -48,90 +48,6 @@ public:
 
 private:
     std::u16string& out_;
-};
-
-/// Turns UTF-16 units into UTF-8 on the way.
-class Utf8Sink {
-public:
-    explicit Utf8Sink(std::string& out) : out_(out) {}
-
-    void unit(char16_t unit) {
-        if (unit < 0x80 && high_ == 0) {
-            out_ += static_cast<char>(unit);
-            return;
-        }
-        const bool low = unit >= 0xDC00 && unit <= 0xDFFF;
-        if (low && high_ != 0) {
-            appendUtf8(0x10000u + ((high_ - 0xD800u) << 10) + (unit - 0xDC00u), out_);
-            high_ = 0;
-            return;
-        }
-        finish();
-        if (unit >= 0xD800 && unit <= 0xDBFF)
-            high_ = unit;
-        else
-            appendUtf8(low ? kReplacement : char32_t{unit}, out_);
-    }
-
-    void ascii(const std::uint8_t* bytes, std::size_t count) {
-        if (count == 0)
-            return;
-        finish();
-        out_.append(reinterpret_cast<const char*>(bytes), count);
-    }
-
-    void wide(Bytes units) {
-        std::size_t at = 0;
-        while (at + 1 < units.size()) {
-            at += wideAscii(units.from(at));
-            if (at + 1 < units.size()) {
-                unit(static_cast<char16_t>(units.u16(at)));
-                at += 2;
-            }
-        }
-    }
-
-    /// A high surrogate that nothing followed.
-    void finish() {
-        if (high_ != 0)
-            appendUtf8(kReplacement, out_);
-        high_ = 0;
-    }
-
-private:
-    static constexpr char32_t kReplacement = 0xFFFD;
-    static constexpr std::size_t kChunk = 64;
-
-    /// Takes the units before the first one that is not ASCII, many at a time; gives their bytes.
-    std::size_t wideAscii(Bytes units) {
-        if (high_ != 0)
-            return 0;
-        std::array<char, kChunk> chunk;
-        std::size_t taken = 0;
-        while (units.size() - taken >= 2 * kChunk) {
-            const std::uint8_t* from = units.data() + taken;
-            unsigned beyondAscii = 0;
-            for (std::size_t i = 0; i < kChunk; ++i) {
-                beyondAscii |= (from[2 * i] & 0x80u) | from[2 * i + 1];
-                chunk[i] = static_cast<char>(from[2 * i]);
-            }
-            if (beyondAscii != 0)
-                break;
-            out_.append(chunk.data(), kChunk);
-            taken += 2 * kChunk;
-        }
-        while (units.size() - taken >= 2) {
-            const std::uint16_t unit = units.u16(taken);
-            if (unit >= 0x80)
-                break;
-            out_ += static_cast<char>(unit);
-            taken += 2;
-        }
-        return taken;
-    }
-
-    std::string& out_;
-    char16_t high_ = 0; ///< a high surrogate that waits for its other half
 };
 
 std::size_t asciiRun(Bytes bytes) {
@@ -237,7 +153,7 @@ void decodeText(Bytes bytes, TextForm form, std::u16string& out) {
 }
 
 void decodeTextUtf8(Bytes bytes, TextForm form, std::string& out) {
-    decode(bytes, form, Utf8Sink(out));
+    decode(bytes, form, Utf8Writer(out));
 }
 
 std::optional<std::vector<std::uint8_t>> encodeText(std::u16string_view text, bool compressible) {

@@ -76,31 +76,33 @@ char16_t folded(char16_t c) {
 
 } // namespace
 
-void appendUtf8(char32_t character, std::string& out) {
+char* encodeUtf8(char32_t character, char* to) {
     const auto tail = [&](unsigned shift) {
-        return static_cast<char>(0x80 | (character >> shift & 0x3F));
+        *to++ = static_cast<char>(0x80 | (character >> shift & 0x3F));
     };
     if (character < 0x80) {
-        out += static_cast<char>(character);
+        *to++ = static_cast<char>(character);
     } else if (character < 0x800) {
-        out += static_cast<char>(0xC0 | character >> 6);
-        out += tail(0);
+        *to++ = static_cast<char>(0xC0 | character >> 6);
+        tail(0);
     } else if (character < 0x10000) {
-        out += static_cast<char>(0xE0 | character >> 12);
-        out += tail(6);
-        out += tail(0);
+        *to++ = static_cast<char>(0xE0 | character >> 12);
+        tail(6);
+        tail(0);
     } else {
-        out += static_cast<char>(0xF0 | character >> 18);
-        out += tail(12);
-        out += tail(6);
-        out += tail(0);
+        *to++ = static_cast<char>(0xF0 | character >> 18);
+        tail(12);
+        tail(6);
+        tail(0);
     }
+    return to;
 }
 
 void appendUtf8(std::u16string_view text, std::string& out) {
     while (!text.empty()) {
         const Character next = firstOf(text);
-        appendUtf8(next.value, out);
+        char buffer[4];
+        out.append(buffer, encodeUtf8(next.value, buffer));
         text.remove_prefix(next.length);
     }
 }

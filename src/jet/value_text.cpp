@@ -16,10 +16,14 @@ constexpr std::size_t kCurrencyScale = 4;
 /// Digits of a whole number with the point `scale` digits from the right.
 std::string withPoint(std::string digits, std::size_t scale, bool negative) {
     if (digits.size() <= scale)
-        digits.insert(0, scale + 1 - digits.size(), '0');
-    if (scale > 0)
-        digits.insert(digits.size() - scale, ".");
-    return (negative ? "-" : "") + digits;
+        digits = std::string(scale + 1 - digits.size(), '0') + digits;
+    std::string text(negative ? "-" : "");
+    text.append(digits, 0, digits.size() - scale);
+    if (scale > 0) {
+        text += '.';
+        text.append(digits, digits.size() - scale);
+    }
+    return text;
 }
 
 /// Divides the number by ten in place and gives the remainder.
@@ -92,7 +96,7 @@ std::optional<std::string> toText(DateTime value) {
         return std::nullopt;
     using namespace std::chrono;
     const year_month_day date(sys_days(year(1899) / December / 30) + days(static_cast<int>(day)));
-    std::array<char, 32> text;
+    std::array<char, 64> text;
     std::snprintf(text.data(), text.size(), "%04d-%02u-%02uT%02ld:%02ld:%02ld",
                   static_cast<int>(date.year()), static_cast<unsigned>(date.month()),
                   static_cast<unsigned>(date.day()), second / 3600, second / 60 % 60, second % 60);
