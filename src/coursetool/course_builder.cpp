@@ -71,19 +71,17 @@ void CourseBuilder::compilePages() {
     if (cours_.count() == 0)
         report_.warning({shown(folder)}, "aucune page : le cours sera vide");
     if (numberWarnings_ > kNumberWarnings)
-        report_.warning({shown(folder)}, "et " +
-                                             std::to_string(numberWarnings_ - kNumberWarnings) +
+        report_.warning({shown(folder)}, "et " + std::to_string(numberWarnings_ - kNumberWarnings) +
                                              " autres numéros au-delà de 999");
 }
 
 void CourseBuilder::compilePage(const fs::path& file) {
     const auto source = readSource(file, report_);
-    const auto parts =
-        source ? splitFrontMatter(*source, shown(file), report_) : std::nullopt;
+    const auto parts = source ? splitFrontMatter(*source, shown(file), report_) : std::nullopt;
     if (!parts)
         return;
-    Fields fields = readFields(parts->frontMatter, 2, shown(file),
-                               frontMatterFields(coursTable()), report_);
+    Fields fields =
+        readFields(parts->frontMatter, 2, shown(file), frontMatterFields(coursTable()), report_);
     const Place place = placeOf(fields, file);
     pageNumbers_.take(fields.values.front(), place, report_);
     warnAboutNumber(fields);
@@ -145,12 +143,11 @@ void CourseBuilder::compileChapter(const fs::path& file) {
 
 void CourseBuilder::compileQuestion(const fs::path& file) {
     const auto source = readSource(file, report_);
-    const auto parts =
-        source ? splitFrontMatter(*source, shown(file), report_) : std::nullopt;
+    const auto parts = source ? splitFrontMatter(*source, shown(file), report_) : std::nullopt;
     if (!parts)
         return;
-    Fields fields = readFields(parts->frontMatter, 2, shown(file),
-                               frontMatterFields(contenuTable()), report_);
+    Fields fields =
+        readFields(parts->frontMatter, 2, shown(file), frontMatterFields(contenuTable()), report_);
     references_.take(fields.values.front(), placeOf(fields, file), report_);
     if (parts->body) {
         const QuestionParts texts =
@@ -186,7 +183,7 @@ void CourseBuilder::checkNames(const fs::path& root, const FileTree& tree,
             report_.fault({shown(root / path)},
                           "ce nom est celui d’une partie du cours : renommer le fichier");
         else if (const auto other = names.find(path))
-            report_.fault({shown(root / path)}, "même nom que " + quoted(shown(*other)) +
+            report_.fault({shown(root / path)}, "même nom que " + inQuotes(shown(*other)) +
                                                     ", à la casse près : en renommer un");
         else
             names.add(path);

@@ -147,8 +147,8 @@ void writeTable(const jet::Table& table, OutputBuffer& out) {
     out.lineDone();
 }
 
-void dumpTables(const jet::Database& database, const std::filesystem::path& file,
-                OutputBuffer& out, Report& report) {
+void dumpTables(const jet::Database& database, const std::filesystem::path& file, OutputBuffer& out,
+                Report& report) {
     for (const jet::TableInfo& info : database.tables()) {
         if (const auto table = database.table(info.name))
             writeTable(*table, out);

@@ -106,8 +106,9 @@ private:
                 return jet::sameName(info.name, jet::toUtf16(name));
             };
             if (std::none_of(known.begin(), known.end(), same))
-                report_.fault({shown(file)}, "table " + quoted(jet::toUtf8(info.name)) +
-                                                 " non reprise : les sources n’en ont pas la place");
+                report_.fault({shown(file)},
+                              "table " + inQuotes(jet::toUtf8(info.name)) +
+                                  " non reprise : les sources n’en ont pas la place");
         }
     }
 
@@ -121,8 +122,8 @@ private:
         KeyCheck numbers(report_);
         cours.forEach([&](SourceRecord& record) {
             numbers.take(record);
-            writer_.writePage(record, output_ / kPagesFolder /
-                                          (recordName(record, count) + kPageEnding));
+            writer_.writePage(record,
+                              output_ / kPagesFolder / (recordName(record, count) + kPageEnding));
         });
     }
 
@@ -162,8 +163,8 @@ private:
         contenu.forEach([&](SourceRecord& record) {
             references.take(record);
             const std::size_t folder = next < folders.size() ? folders[next++] : 0;
-            writer_.writeQuestion(record, folders_[folder] /
-                                              (recordName(record, count) + kQuestionEnding));
+            writer_.writeQuestion(record,
+                                  folders_[folder] / (recordName(record, count) + kQuestionEnding));
         });
     }
 

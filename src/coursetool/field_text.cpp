@@ -42,7 +42,8 @@ FieldText numberText(const FieldRule& rule, std::int64_t number) {
     const NumberRange range = numberRange(rule.type);
     const bool fits = number >= range.lowest && number <= range.highest;
     return {std::to_string(number),
-            fits ? "" : "le nombre " + std::to_string(number) + " est trop grand : build le refusera"};
+            fits ? ""
+                 : "le nombre " + std::to_string(number) + " est trop grand : build le refusera"};
 }
 
 FieldText numberText(const FieldRule& rule, double number) {
@@ -59,8 +60,9 @@ FieldText textAsNumber(const FieldRule& rule, const std::u16string& text) {
     const std::string utf8 = jet::toUtf8(text);
     if (const auto number = wholeNumber(utf8))
         return numberText(rule, *number);
-    return {tomlString(utf8), "le texte " + tomlString(utf8) + " n’est pas un nombre : build le "
-                                                               "refusera"};
+    return {tomlString(utf8), "le texte " + tomlString(utf8) +
+                                  " n’est pas un nombre : build le "
+                                  "refusera"};
 }
 
 FieldText toNumber(const FieldRule& rule, const jet::Value& value) {

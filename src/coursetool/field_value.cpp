@@ -19,8 +19,8 @@ NumberRange rangeOf() {
 
 FieldResult refuse(const FieldRule& rule, std::string_view expected, std::string_view instead) {
     return {{},
-            quoted(rule.name) + " attend " + std::string(expected) + " : écrire par exemple " +
-                quoted(std::string(rule.name) + " = " + std::string(instead))};
+            inQuotes(rule.name) + " attend " + std::string(expected) + " : écrire par exemple " +
+                inQuotes(std::string(rule.name) + " = " + std::string(instead))};
 }
 
 /// The number that the author probably meant.
@@ -43,7 +43,7 @@ FieldResult toNumber(const FieldRule& rule, const SourceValue& given) {
     const NumberRange range = numberRange(rule.type);
     if (*number < range.lowest || *number > range.highest)
         return {{},
-                quoted(rule.name) + " va de " + std::to_string(range.lowest) + " à " +
+                inQuotes(rule.name) + " va de " + std::to_string(range.lowest) + " à " +
                     std::to_string(range.highest)};
     if (rule.type == jet::ColumnType::Integer)
         return {static_cast<std::int16_t>(*number), {}};
@@ -67,7 +67,7 @@ FieldResult toText(const FieldRule& rule, const SourceValue& given) {
     std::u16string units = jet::toUtf16(*text);
     if (units.size() > kMaxTextLength)
         return {{},
-                quoted(rule.name) + " a " + std::to_string(units.size()) +
+                inQuotes(rule.name) + " a " + std::to_string(units.size()) +
                     " caractères : en garder 255 au plus"};
     return {std::move(units), {}};
 }

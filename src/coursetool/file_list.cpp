@@ -41,8 +41,7 @@ void listInto(FileTree& tree, const fs::path& root, const fs::path& relative, Re
 std::vector<fs::directory_entry> entriesOf(const fs::path& directory, Report& report) {
     std::vector<fs::directory_entry> entries;
     std::error_code error;
-    for (fs::directory_iterator it(directory, error), end; !error && it != end;
-         it.increment(error))
+    for (fs::directory_iterator it(directory, error), end; !error && it != end; it.increment(error))
         entries.push_back(*it);
     if (error)
         report.fault({shown(directory)}, "le dossier ne peut pas être lu : " + error.message());
@@ -70,9 +69,10 @@ std::optional<fs::path> NameTable::find(const fs::path& name) const {
     if (std::find(candidates.begin(), candidates.end(), name) != candidates.end())
         return name;
     const std::u16string wanted = jet::toUtf16(shown(name));
-    const auto same = std::find_if(candidates.begin(), candidates.end(), [&](const fs::path& other) {
-        return jet::sameName(jet::toUtf16(shown(other)), wanted);
-    });
+    const auto same =
+        std::find_if(candidates.begin(), candidates.end(), [&](const fs::path& other) {
+            return jet::sameName(jet::toUtf16(shown(other)), wanted);
+        });
     return same != candidates.end() ? std::optional(*same) : std::nullopt;
 }
 

@@ -83,8 +83,8 @@ private:
         if (description.find("redefine") != std::string_view::npos)
             report_.fault(place(at), "ce champ est déjà donné plus haut : n’en garder qu’un");
         else
-            report_.fault(place(at), quoted(line) + " ne se lit pas : écrire « champ = valeur », "
-                                                    "un texte entre guillemets");
+            report_.fault(place(at), inQuotes(line) + " ne se lit pas : écrire « champ = valeur », "
+                                                      "un texte entre guillemets");
     }
 
     static std::vector<Entry> inLineOrder(const toml::table& table) {
@@ -130,24 +130,24 @@ private:
         std::string names;
         for (const FieldRule& rule : rules_) {
             if (jet::sameName(jet::toUtf16(rule.name), jet::toUtf16(key.str()))) {
-                report_.fault(place(key.source().begin), "champ inconnu " + quoted(key.str()) +
-                                                             " : écrire " + quoted(rule.name));
+                report_.fault(place(key.source().begin), "champ inconnu " + inQuotes(key.str()) +
+                                                             " : écrire " + inQuotes(rule.name));
                 return;
             }
             names.append(names.empty() ? "" : ", ").append(rule.name);
         }
         report_.fault(place(key.source().begin),
-                      "champ inconnu " + quoted(key.str()) + " : les champs sont " + names);
+                      "champ inconnu " + inQuotes(key.str()) + " : les champs sont " + names);
     }
 
     void checkRequired() {
         for (std::size_t i = 0; i < rules_.size(); ++i) {
             const FieldRule& rule = rules_[i];
             if (rule.required && fields_.places[i].line == 0)
-                report_.fault({file_, 1, 1}, "le champ " + quoted(rule.name) +
-                                                 " manque : écrire par exemple " +
-                                                 quoted(std::string(rule.name) + " = " +
-                                                        std::string(rule.example)));
+                report_.fault(
+                    {file_, 1, 1},
+                    "le champ " + inQuotes(rule.name) + " manque : écrire par exemple " +
+                        inQuotes(std::string(rule.name) + " = " + std::string(rule.example)));
         }
     }
 

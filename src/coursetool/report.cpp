@@ -25,7 +25,7 @@ void Report::warning(const Place& place, std::string_view sentence) {
     lines_.push_back(locate(place).append("avertissement : ").append(sentence));
 }
 
-std::string quoted(std::string_view words) {
+std::string inQuotes(std::string_view words) {
     return std::string("« ").append(words).append(" »");
 }
 

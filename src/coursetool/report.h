@@ -33,6 +33,6 @@ private:
 };
 
 /// "« x »": words of a course inside a sentence.
-std::string quoted(std::string_view words);
+std::string inQuotes(std::string_view words);
 
 } // namespace coursetool

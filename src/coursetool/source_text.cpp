@@ -48,8 +48,8 @@ int firstBadColumn(std::string_view line) {
 
 int columnOf(std::string_view line, std::size_t offset) {
     const auto end = line.begin() + static_cast<std::ptrdiff_t>(offset);
-    return 1 + static_cast<int>(end - line.begin() -
-                                std::count_if(line.begin(), end, isContinuation));
+    return 1 +
+           static_cast<int>(end - line.begin() - std::count_if(line.begin(), end, isContinuation));
 }
 
 /// Calls `visit(line, number)` with each line, without its LF.
@@ -65,8 +65,7 @@ void forEachLine(std::string_view text, Visit visit) {
 }
 
 /// Turns CR LF into LF; names each other CR.
-std::string withoutCarriageReturns(std::string_view text, const std::string& file,
-                                   Report& report) {
+std::string withoutCarriageReturns(std::string_view text, const std::string& file, Report& report) {
     std::string result;
     result.reserve(text.size());
     forEachLine(text, [&](std::string_view line, int number) {
@@ -99,8 +98,7 @@ std::optional<std::string> readBytes(const std::filesystem::path& file, Report& 
         return std::nullopt;
     }
     if (size > kMaxSourceBytes) {
-        report.fault({shown(file)},
-                     "le fichier dépasse 64 Mo : ce n’est pas le texte d’une page");
+        report.fault({shown(file)}, "le fichier dépasse 64 Mo : ce n’est pas le texte d’une page");
         return std::nullopt;
     }
     std::string bytes(static_cast<std::size_t>(size), '\0');
@@ -149,7 +147,8 @@ std::string toSourceText(std::string_view databaseText, bool& clean) {
             source += c;
             continue;
         }
-        const bool lineEnd = c == '\r' && i + 1 < databaseText.size() && databaseText[i + 1] == '\n';
+        const bool lineEnd =
+            c == '\r' && i + 1 < databaseText.size() && databaseText[i + 1] == '\n';
         if (lineEnd)
             ++i;
         else

@@ -91,7 +91,7 @@ void SourceWriter::writeFile(const std::string& text, const std::filesystem::pat
 
 void SourceWriter::tell(const SourceRecord& record, const FieldRule& field,
                         const std::string& sentence) {
-    report_.fault(record.place, "champ " + quoted(field.name) + " : " + sentence);
+    report_.fault(record.place, "champ " + inQuotes(field.name) + " : " + sentence);
 }
 
 } // namespace coursetool

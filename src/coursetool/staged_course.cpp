@@ -39,8 +39,8 @@ bool StagedCourse::open(Report& report) {
         fs::create_directories(staging / kNewFiles, error);
     }
     if (error)
-        report.fault({shown(directory_)}, "le dossier ne peut pas être créé ou écrit : " +
-                                              error.message());
+        report.fault({shown(directory_)},
+                     "le dossier ne peut pas être créé ou écrit : " + error.message());
     return !error;
 }
 

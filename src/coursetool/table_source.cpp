@@ -26,7 +26,7 @@ void TableSource::matchColumns() {
         columns_.push_back(table_->columnIndex(jet::toUtf16(field.name)));
     const auto tell = [&](const jet::Column& column, std::string_view sentence) {
         report_.fault({shown(file_) + ": " + std::string(rule_.name)},
-                      "champ " + quoted(jet::toUtf8(column.name)) + std::string(sentence));
+                      "champ " + inQuotes(jet::toUtf8(column.name)) + std::string(sentence));
     };
     for (std::size_t i = 0; i < table_->columns().size(); ++i) {
         const jet::Column& column = table_->columns()[i];

@@ -51,7 +51,7 @@ void KeyPlaces::take(const jet::Value& number, const Place& place, Report& repor
         return;
     const auto [known, isNew] = places_.try_emplace(*key, place);
     if (!isNew)
-        report.fault(place, quoted(std::string(key_.name) + " = " + std::to_string(*key)) +
+        report.fault(place, inQuotes(std::string(key_.name) + " = " + std::to_string(*key)) +
                                 " est déjà pris par " + known->second.file + ", ligne " +
                                 std::to_string(known->second.line) + " : choisir un autre numéro");
 }
