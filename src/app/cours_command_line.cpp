@@ -28,11 +28,10 @@ struct Typed {
 class Reader {
 public:
     Reader() : app_("Écrit, vérifie et publie les cours d’Orvalente.", "orvalente-cours") {
-        app_.get_formatter()->label("OPTIONS", "[OPTIONS]");
-        app_.get_formatter()->label("Usage", "Usage :");
+        app_.get_formatter()->label("OPTIONS", "OPTIONS");
+        app_.get_formatter()->label("Usage", "Usage ");
         app_.get_formatter()->label("SUBCOMMAND", "SOUS-COMMANDE");
         app_.get_formatter()->label("Positionals", "Arguments");
-        app_.get_formatter()->label("Subcommands", "Sous-commandes");
         app_.option_defaults()->group("Options");
         app_.set_help_flag("-h,--help", "Affiche cette aide");
         app_.set_version_flag("--version", "orvalente-cours " ORVALENTE_VERSION,
@@ -65,7 +64,7 @@ public:
         try {
             app_.parse(argc, argv);
         } catch (const CLI::CallForHelp&) {
-            return ShowText{app_.help()};
+            return ShowText{app_.help() + "\n"};
         } catch (const CLI::CallForVersion&) {
             return ShowText{app_.version() + "\n"};
         } catch (const CLI::ParseError& error) {
@@ -77,7 +76,7 @@ public:
 private:
     CLI::App* add(const char* name, const char* description) {
         CLI::App* command = app_.add_subcommand(name, description);
-        command->get_formatter()->label("Subcommands", "Sous-commandes");
+        command->group("Sous-commandes");
         return command;
     }
 

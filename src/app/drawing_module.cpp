@@ -8,6 +8,8 @@ extern "C" Q_DECL_EXPORT void orvalenteTrace(int& argc, char** argv,
                                              const coursetool::TraceRequest& request,
                                              coursetool::OutputBuffer& out,
                                              coursetool::Report& report) {
+    // What Qt remarks about the system it runs on is no fault of a course.
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
     // Fonts need an application object, but no display.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
