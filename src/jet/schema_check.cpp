@@ -54,6 +54,8 @@ bool isBetween(int value, int least, int most) {
 }
 
 const char* typeFault(const Column& column) {
+    if (column.autoNumber && column.type != ColumnType::Long)
+        return "seul un Long se numérote de lui-même";
     switch (column.type) {
     case ColumnType::Unknown:
     case ColumnType::FixedBinary:
@@ -66,9 +68,7 @@ const char* typeFault(const Column& column) {
                    ? nullptr
                    : "la précision va de 1 à 28, les décimales de 0 à la précision";
     default:
-        return column.autoNumber && column.type != ColumnType::Long
-                   ? "seul un Long se numérote de lui-même"
-                   : nullptr;
+        return nullptr;
     }
 }
 
