@@ -53,4 +53,13 @@ void buildPageIndex(const platform::Recordset& cours, shell::SharedState& state,
     state.PageByOrder = std::move(byOrder);
 }
 
+std::optional<std::int16_t> positionByNumber(const shell::SharedState& state, std::int32_t number) {
+    // The last slot is the upper bound itself, which no page number reaches. Numbers without a
+    // record lead to the record of position 0, which is meant so.
+    const auto& table = state.PageByNumber;
+    if (number < 0 || !table || static_cast<std::size_t>(number) + 1 >= table->size())
+        return std::nullopt;
+    return (*table)[static_cast<std::size_t>(number)];
+}
+
 } // namespace viewer
