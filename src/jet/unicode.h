@@ -8,6 +8,8 @@ namespace jet {
 /// UTF-16 to UTF-8; unpaired surrogates become U+FFFD.
 std::string toUtf8(std::u16string_view text);
 void appendUtf8(std::u16string_view text, std::string& out);
+/// Writes one character, at most four bytes, and gives the end.
+char* encodeUtf8(char32_t character, char* to);
 
 /// UTF-8 to UTF-16; each byte that is part of no character becomes U+FFFD.
 std::u16string toUtf16(std::string_view text);

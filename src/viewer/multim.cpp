@@ -11,6 +11,7 @@
 #include "viewer/page_panel.h"
 #include "viewer/picture_box.h"
 #include "viewer/rail.h"
+#include "viewer/surface_widths.h"
 #include "viewer/toolbar.h"
 #include "viewer/video_frame.h"
 
@@ -34,7 +35,6 @@ constexpr QRect kVideoOpen(168, 296, 624, 256);
 constexpr QRect kFramebase(168, 560, 624, 32);
 
 /// Width of the drawing in the illustration area, which has a rule on either side.
-constexpr int kIllustrationWidth = 150;
 
 /// How long a window takes at most to get the size it asked for.
 constexpr int kSettledMs = 500;
@@ -74,20 +74,20 @@ void Multim::addControls() {
     auto* toolbar = new Toolbar(body_);
     toolbar->setGeometry(kToolbar);
 
-    titre_ = new PictureBox(SurfaceId::Titre, kTitle.width(), platform::look::kIvory, fonts_,
+    titre_ = new PictureBox(SurfaceId::Titre, kTitleWidthPx, platform::look::kIvory, fonts_,
                             recording_, body_);
     titre_->setGeometry(kTitle);
 
     panel_ = new PagePanel(body_);
     panel_->setGeometry(kPanel);
-    PictureTEXTE_ = new PictureBox(SurfaceId::PictureTexte, PagePanel::kPageWidth,
-                                   platform::look::kPaper, fonts_, recording_, panel_);
+    PictureTEXTE_ = new PictureBox(SurfaceId::PictureTexte, kPageWidthPx, platform::look::kPaper,
+                                   fonts_, recording_, panel_);
     panel_->setPage(PictureTEXTE_);
     videoFrame_ = new VideoFrame(body_);
 
     rail_ = new Rail(body_);
     rail_->setGeometry(kRail);
-    PICTUREILLUS_ = new PictureBox(SurfaceId::PictureIllus, kIllustrationWidth,
+    PICTUREILLUS_ = new PictureBox(SurfaceId::PictureIllus, kIllustrationWidthPx,
                                    platform::look::kPaper, fonts_, recording_, rail_);
     PICTUREILLUS_->setAccessibleName(QStringLiteral("Illustration de la page"));
     rail_->setIllustration(PICTUREILLUS_);

@@ -1,12 +1,11 @@
 // The main window as the page loader and the renderer see it.
 
 #include "platform/qt/look/button.h"
-#include "platform/qt/look/interface_font.h"
 #include "platform/qt/look/scroll_bar.h"
-#include "platform/twips.h"
 #include "viewer/chapter_bar.h"
 #include "viewer/multim.h"
 #include "viewer/page_panel.h"
+#include "viewer/page_title.h"
 #include "viewer/picture_box.h"
 #include "viewer/rail.h"
 
@@ -14,15 +13,6 @@
 #include <QWindow>
 
 namespace viewer {
-
-namespace {
-
-/// Foot of the title's letters, in pixels from the top of its band.
-constexpr double kTitleFootPx = 23;
-
-constexpr double kPointsPerPixel = 0.75;
-
-} // namespace
 
 void Multim::setPageVisible(bool visible) {
     // Hidden, the page loses the keyboard; it has it back with the next page.
@@ -60,26 +50,9 @@ void Multim::setTitle(const QString& title) {
     titre_->setAccessibleName(words);
     titre_->setToolTip({});
 
-    platform::Surface& band = titre_->surface();
-    band.setFace(QStringLiteral("Arial"));
-    band.setBold(true);
-    band.setItalic(false);
-    band.setUnderline(false);
-    band.setInk(0xff000000);
-    // A long title is written smaller; one too long even so ends in an ellipsis, and the whole of
-    // it stands in the tooltip.
-    QString shown = words;
-    int pixels = platform::look::kTitlePx;
-    band.setFontPoints(pixels * kPointsPerPixel);
-    while (band.textWidth(shown) > band.scaleWidth() && pixels > platform::look::kLabelPx)
-        band.setFontPoints(--pixels * kPointsPerPixel);
-    while (!shown.isEmpty() && band.textWidth(shown) > band.scaleWidth()) {
-        shown = words.first(shown.size() - (shown == words ? 1 : 2)).trimmed() + u'…';
+    const QString shown = drawPageTitle(titre_->surface(), fonts_, words);
+    if (shown != words)
         titre_->setToolTip(words);
-    }
-    band.setPenX(0);
-    band.setPenY(kTitleFootPx * platform::kTwipsPerPixel - fonts_.ascent(band.font()));
-    band.print(shown);
 }
 
 void Multim::setBackEnabled(bool enabled) {

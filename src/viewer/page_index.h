@@ -3,7 +3,9 @@
 #include "platform/recordset.h"
 #include "shell/shared_state.h"
 
+#include <cstdint>
 #include <functional>
+#include <optional>
 
 namespace viewer {
 
@@ -18,5 +20,9 @@ inline constexpr int kMaxIndexedNumber = 1'000'000;
 /// `letMessagesRun` is called now and then, so that a window stays alive over a large table.
 void buildPageIndex(const platform::Recordset& cours, shell::SharedState& state,
                     const std::function<void()>& letMessagesRun = {});
+
+/// Position of the page with this fixed number, 0 for a number that no page has; nothing for a
+/// number outside the table, or while there is no table.
+std::optional<std::int16_t> positionByNumber(const shell::SharedState& state, std::int32_t number);
 
 } // namespace viewer

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "viewer/scroll_geometry.h"
+#include "viewer/surface_widths.h"
 
 #include <QWidget>
 
@@ -17,7 +18,7 @@ class PictureBox;
 class PagePanel : public QWidget {
 public:
     /// Width of the page, in pixels.
-    static constexpr int kPageWidth = 600;
+    static constexpr int kPageWidth = kPageWidthPx;
 
     explicit PagePanel(QWidget* parent);
 

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "jet/page_source.h"
+#include "jet/result.h"
+
+#include <cstdint>
+#include <vector>
+
+namespace jet {
+
+/// Reads Memo and OLE values from their cells.
+class LongValues {
+public:
+    explicit LongValues(PageSource& source) : source_(&source), budget_(source.fileSize()) {}
+
+    /// Bytes of a value. They may lie in the cell, in a page (kept by `page`) or in a buffer that
+    /// the next fetch overwrites.
+    struct Value {
+        Page page;
+        Bytes bytes;
+    };
+
+    /// The value whose header and inline part are `cell`. The failure says what is wrong with the
+    /// value and leaves it to the caller to say whose it is.
+    Result<Value> fetch(Bytes cell);
+
+    /// Many rows of a damaged file can share one long chain. One pass over a table gives out this
+    /// many times the size of the file at most; a single cell, no more than the file.
+    static constexpr std::uint64_t kPassBudget = 64;
+    void startPass() { budget_ = kPassBudget * source_->fileSize(); }
+    void startCell() { budget_ = source_->fileSize(); }
+
+private:
+    Result<Value> fetchSingle(RowPointer at, std::size_t length);
+    Result<Value> fetchChain(RowPointer first, std::size_t length);
+
+    PageSource* source_;
+    std::uint64_t budget_;
+    std::vector<std::uint8_t> pieces_;
+};
+
+} // namespace jet
