@@ -61,7 +61,8 @@ private:
 class Ending : public viewer::ModalWindow {
 public:
     void open() override {
-        QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            qApp, [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
     }
 };
 

@@ -145,6 +145,16 @@ bool TableReader::isNull(const Row& row, std::size_t column) const {
                                           !row.isSet(definition_.places[column].number));
 }
 
+/// The bytes of a value of fixed length that is neither text nor a long value, when they are sound.
+std::optional<Bytes> TableReader::plainBytes(const Row& row, std::size_t column) const {
+    const ColumnPlace& place = definition_.places[column];
+    const ColumnType type = columns()[column].type;
+    if (!place.fixed || isText(type) || isLong(type))
+        return std::nullopt;
+    const auto bytes = row.fixedValue(place.fixedOffset, place.size);
+    return bytes && bytes->size() >= fixedSizeOf(type) ? bytes : std::nullopt;
+}
+
 /// The bytes of a cell that is not NULL, brought together if it is a long value.
 Result<LongValues::Value> TableReader::cellBytes(const Row& row, std::size_t column) {
     const ColumnPlace& place = definition_.places[column];
@@ -167,6 +177,11 @@ Result<void> TableReader::readCell(const LiveRow& live, std::size_t column, Valu
     const Column& declared = columns()[column];
     if (declared.type == ColumnType::Boolean) {
         into = live.row.isSet(definition_.places[column].number);
+        return {};
+    }
+    // Numbers and the like, which stand in the row itself: nothing to bring together.
+    if (const auto plain = plainBytes(live.row, column)) {
+        into = decodeCell(*plain, declared);
         return {};
     }
     const auto stored = cellBytes(live.row, column);

@@ -40,6 +40,7 @@ private:
     bool isNull(const Row& row, std::size_t column) const;
     Result<void> readCell(const LiveRow& live, std::size_t column, Value& into);
     Result<bool> appendCellUtf8(const LiveRow& live, std::size_t column, std::string& out);
+    std::optional<Bytes> plainBytes(const Row& row, std::size_t column) const;
     Result<LongValues::Value> cellBytes(const Row& row, std::size_t column);
     Failure cellFailure(const LiveRow& live, std::size_t column, const Failure& failure) const;
     Failure noSuch(std::size_t position, std::size_t column) const;

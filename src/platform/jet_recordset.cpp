@@ -2,8 +2,12 @@
 
 #include "jet/database.h"
 
+#include <algorithm>
+#include <cstdint>
 #include <filesystem>
 #include <limits>
+#include <variant>
+#include <vector>
 
 namespace platform {
 
@@ -13,22 +17,37 @@ std::u16string_view view(const QString& text) {
     return {reinterpret_cast<const char16_t*>(text.utf16()), static_cast<std::size_t>(text.size())};
 }
 
+/// Shows a cell as the forms know it.
+struct AsField {
+    FieldValue operator()(std::monostate) const { return {}; }
+    FieldValue operator()(bool yes) const { return yes; }
+    FieldValue operator()(std::uint8_t number) const { return static_cast<double>(number); }
+    FieldValue operator()(std::int16_t number) const { return static_cast<double>(number); }
+    FieldValue operator()(std::int32_t number) const { return static_cast<double>(number); }
+    FieldValue operator()(float number) const { return static_cast<double>(number); }
+    FieldValue operator()(double number) const { return number; }
+    FieldValue operator()(const std::u16string& text) const {
+        return QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
+    }
+    FieldValue operator()(const jet::Currency& amount) const {
+        return jet::Value(amount).number().value_or(0);
+    }
+    FieldValue operator()(const jet::Decimal& amount) const {
+        return jet::Value(amount).number().value_or(0);
+    }
+    FieldValue operator()(const jet::DateTime&) const { return {}; } // no form binds these
+    FieldValue operator()(const jet::Binary&) const { return {}; }
+    FieldValue operator()(const jet::Guid&) const { return {}; }
+};
+
 FieldValue fieldValue(const jet::Value& value) {
-    if (const bool* yes = value.as<bool>())
-        return *yes;
-    if (const std::u16string* text = value.text())
-        return QString::fromUtf16(text->data(), static_cast<qsizetype>(text->size()));
-    if (value.as<jet::DateTime>())
-        return {}; // no form binds dates
-    if (const auto number = value.number())
-        return *number;
-    return {};
+    return std::visit(AsField{}, value.content());
 }
 
 class JetRecordset : public Recordset {
 public:
     explicit JetRecordset(jet::Table table)
-        : table_(std::move(table)), position_(recordCount() > 0 ? 0 : -1) {}
+        : table_(std::move(table)), position_(exists(0) ? 0 : -1) {}
 
     int recordCount() const override {
         static constexpr std::size_t kMost = std::numeric_limits<int>::max();
@@ -38,7 +57,7 @@ public:
     int absolutePosition() const override { return position_; }
 
     bool setAbsolutePosition(int position) override {
-        if (position < 0 || position >= recordCount())
+        if (position < 0 || !exists(static_cast<std::size_t>(position)))
             return false;
         position_ = position;
         return true;
@@ -80,6 +99,12 @@ public:
     }
 
 private:
+    /// Finds one record without counting them all, which takes a look at every page.
+    bool exists(std::size_t position) const {
+        const auto first = table_.value(position, 0);
+        return first || first.error().kind != jet::Failure::Kind::NotFound;
+    }
+
     // Reading counts the rows and keeps pages at hand, which is no change to who looks at records.
     mutable jet::Table table_;
     int position_;

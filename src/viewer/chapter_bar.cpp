@@ -34,6 +34,15 @@ Button* addButton(const QString& name, const QString& caption, const QString& to
     return button;
 }
 
+/// Leaves the last words out, for the tooltip to tell, until the text fits the label's height.
+void shortenToFit(QLabel& label) {
+    QString words = label.text();
+    while (!words.isEmpty() && label.heightForWidth(label.width()) > label.height()) {
+        words.truncate(words.lastIndexOf(u' '));
+        label.setText(words + u'…');
+    }
+}
+
 } // namespace
 
 ChapterBar::ChapterBar(QWidget* parent) : QWidget(parent) {
@@ -90,6 +99,8 @@ void ChapterBar::showWords() {
                     : hasButtons ? QStringLiteral("Dans ce chapitre")
                                  : QString());
     words_->setToolTip(status_);
+    if (hasStatus)
+        shortenToFit(*words_);
     update();
 }
 

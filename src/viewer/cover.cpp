@@ -30,7 +30,7 @@ Cover::Cover(QWidget* parent) : QWidget(parent) {
 void Cover::setPicture(const QString& path) {
     path_ = path;
     picture_ = {};
-    const QSize size = QImageReader(path).size();
+    const QSize size = path.isEmpty() ? QSize() : QImageReader(path).size();
     const bool readable = !size.isEmpty() && qint64{size.width()} * size.height() <= kMostPixels;
     pictureSize_ = readable ? size : QSize();
     const QSize room(width() - 2 * kBorder, height() - 2 * (kBorder + kGap + kLineHeight));

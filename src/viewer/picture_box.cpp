@@ -9,7 +9,21 @@
 #include <QPaintEvent>
 #include <QPainter>
 
+#include <cmath>
+
 namespace viewer {
+
+namespace {
+
+/// What brings the painter's origin to a whole device pixel, in logical pixels: where a screen has
+/// one and a half pixels to a logical one, a scrolled page would be blurred otherwise.
+double toWholePixel(const QPainter& painter) {
+    const double ratio = painter.device()->devicePixelRatioF();
+    const double top = painter.deviceTransform().dy();
+    return (std::round(top) - top) / ratio;
+}
+
+} // namespace
 
 PictureBox::PictureBox(platform::SurfaceId id, int widthPx, QRgb ground,
                        const platform::FontBook& fonts, platform::Recording& recording,
@@ -56,7 +70,7 @@ void PictureBox::paintEvent(QPaintEvent* event) {
                                   QColor::fromRgb(platform::look::kPaper));
         painter.setClipRect(rect().adjusted(inset_, inset_, -inset_, -inset_));
     }
-    painter.translate(inset_, inset_);
+    painter.translate(inset_, inset_ + toWholePixel(painter));
     raster_.paint(painter, event->rect().translated(-inset_, -inset_));
 }
 

@@ -35,12 +35,13 @@ Stored narrowRow(const std::vector<std::size_t>& lengths) {
         ++jumps;
     for (std::size_t i = count + 1; i-- > 0;)
         row.push_back(static_cast<std::uint8_t>(offsets[i]));
-    // The first value whose offset lies past each multiple of 256; 0xFF where none does.
+    // The first value whose offset lies past each multiple of 256; 0xFF a jump that none takes must
+    // be passed over whatever it says.
     for (std::size_t jump = jumps; jump > 0; --jump) {
         std::size_t from = 0;
         while (from <= count && offsets[from] < 256 * jump)
             ++from;
-        row.push_back(from <= count ? static_cast<std::uint8_t>(from) : 0xFF);
+        row.push_back(from <= count ? static_cast<std::uint8_t>(from) : 0);
     }
     row.push_back(static_cast<std::uint8_t>(count));
     row.insert(row.end(), maskBytes, 0xFF);
@@ -50,7 +51,8 @@ Stored narrowRow(const std::vector<std::size_t>& lengths) {
 TEST(Row, jumpBytesReachBeyond256) {
     const std::vector<std::vector<std::size_t>> rows{
         {1, 2, 3},           {250, 5, 5},  {255, 0, 1}, {100, 100, 100, 100, 100, 100, 100, 100},
-        {0, 600, 0, 600, 0}, {200, 40, 5}, {240, 3},    {900, 900}};
+        {0, 600, 0, 600, 0}, {200, 40, 5}, {249, 2},    {100, 100, 48},
+        {900, 900}};
     for (const auto& lengths : rows) {
         const Stored bytes = narrowRow(lengths);
         const auto parsed = jet::Row::parse(bytes, kNarrow);

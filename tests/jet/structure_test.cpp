@@ -125,6 +125,20 @@ TEST_F(Structure, definitionsCountRowsAndKeys) {
     EXPECT_EQ(page(3).u32(63 + 4), 8 + kTables) << "rights of one object share a key";
 }
 
+TEST_F(Structure, tablesBelongToTheAdministratorAndAllUsers) {
+    constexpr std::size_t kTableObject = 0x0F000001;
+    const Bytes object = row(14 << 8 | 8);
+    EXPECT_EQ(object.u32(6), kTableObject) << "parent";
+    EXPECT_EQ(object.u16(10), 1) << "type";
+    EXPECT_EQ(object.u32(28), 0u) << "flags";
+    for (const auto& [slot, user] : {std::pair(16u, 0x8B64), std::pair(17u, 0x8B65)}) {
+        const Bytes right = row(15 << 8 | slot);
+        EXPECT_EQ(right.u32(2), object.u32(2));
+        EXPECT_EQ(right.u32(6), 0xFFEFFu);
+        EXPECT_EQ(right.u16(10), user);
+    }
+}
+
 TEST_F(Structure, freePagesAreThosePastTheEnd) {
     const std::size_t pages = file_.size() / kPage;
     ASSERT_GT(pages, 512u) << "too few pages for this test";

@@ -124,6 +124,22 @@ TEST(RoundTrip, manyTables) {
         EXPECT_EQ(readTable(scratch / "t.mdb", table.name), table.rows);
 }
 
+/// Memos short enough for the row leave it when the row would outgrow its page.
+TEST(RoundTrip, aRowThatIsFull) {
+    NewTable table{u"T", {}, {{}}};
+    for (int i = 0; i < 7; ++i) {
+        table.columns.push_back({.name = jet::toUtf16("t" + std::to_string(i)),
+                                 .type = ColumnType::Text,
+                                 .length = 255,
+                                 .compressible = false});
+        table.rows[0].emplace_back(std::u16string(255, u'x'));
+        table.columns.push_back(
+            {.name = jet::toUtf16("m" + std::to_string(i)), .type = ColumnType::Memo});
+        table.rows[0].emplace_back(std::u16string(60, u'm'));
+    }
+    expectReadBack(table);
+}
+
 TEST(RoundTrip, aTableWithoutRows) {
     expectReadBack({u"Vide", {{.name = u"n", .type = ColumnType::Long}}, {}});
 }

@@ -169,7 +169,7 @@ void Button::paintContent(QPainter& painter, const Colours& colours) const {
     }
     const double iconWidth = icon_.isEmpty() ? 0 : kIconPx;
     const double gap = icon_.isEmpty() || text().isEmpty() ? 0 : kIconGap;
-    const double left = std::floor((width() - iconWidth - gap - textWidth) / 2);
+    const double left = std::round((width() - iconWidth - gap - textWidth) / 2);
     const bool iconFirst = place_ == IconPlace::Left;
     const double iconX = iconFirst ? left : left + std::ceil(textWidth) + gap;
     icon_.paint(painter, {iconX, (height() - kIconPx) / 2, kIconPx, kIconPx}, colours.icon,
