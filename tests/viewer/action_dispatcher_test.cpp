@@ -7,7 +7,7 @@
 
 namespace {
 
-using test::page;
+using test_support::page;
 using testing::ElementsAre;
 
 class Actions : public testing::Test {
@@ -21,7 +21,7 @@ protected:
     }
 
     // In the order of the records; the numbers 0 and 2 have no page.
-    test::LogicBench bench{{page(3), page(1), page(5)}};
+    test_support::LogicBench bench{{page(3), page(1), page(5)}};
 };
 
 TEST_F(Actions, PageCodesLeadToTheRecordOfTheNumber) {

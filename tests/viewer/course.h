@@ -3,7 +3,7 @@
 #include "support/memory_recordset.h"
 #include "support/printing.h"
 
-namespace test {
+namespace test_support {
 
 /// A record of the table "cours". Its place in the order is its number unless told otherwise.
 inline test_support::MemoryRecordset::Record page(int number, const QString& source = {}) {
@@ -36,4 +36,4 @@ inline QList<test_support::MemoryRecordset::Record> pages(int count) {
     return all;
 }
 
-} // namespace test
+} // namespace test_support

@@ -8,7 +8,7 @@
 #include <functional>
 #include <utility>
 
-namespace test {
+namespace test_support {
 
 /// What stands beside the main window: each notes in `log` what it was asked for.
 struct FakeNeighbours {
@@ -84,4 +84,4 @@ struct FakeNeighbours {
     Window exitScreen{log, QStringLiteral("exit screen")};
 };
 
-} // namespace test
+} // namespace test_support

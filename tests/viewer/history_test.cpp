@@ -15,7 +15,7 @@ protected:
             bench.commands.runCode(viewer::pageCode(number));
     }
 
-    test::LogicBench bench{test::pages(150)};
+    test_support::LogicBench bench{test_support::pages(150)};
 };
 
 TEST_F(Histories, BackIsPossibleFromTheSecondPageOn) {

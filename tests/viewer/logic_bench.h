@@ -9,7 +9,7 @@
 #include "viewer/page_index.h"
 #include "viewer/page_loader.h"
 
-namespace test {
+namespace test_support {
 
 /// A main window of which only the calls are left, a line each, and what they leave behind.
 class LoggingView : public viewer::PageView {
@@ -86,4 +86,4 @@ public:
     viewer::MainCommands commands{state, actions, view, neighbours.all(), prompter};
 };
 
-} // namespace test
+} // namespace test_support

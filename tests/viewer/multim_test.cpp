@@ -21,7 +21,7 @@
 namespace {
 
 using platform::Answer;
-using test::page;
+using test_support::page;
 using testing::ElementsAre;
 
 /// Source of a page with so many lines of text.
@@ -30,7 +30,7 @@ QString lines(int count) {
 }
 
 QList<test_support::MemoryRecordset::Record> course() {
-    auto all = test::pages(161);
+    auto all = test_support::pages(161);
     all[0] = page(1, lines(100), {{QStringLiteral("suite"), true}});
     all[1] = page(2, lines(3),
                   {{QStringLiteral("precedent"), true},
@@ -57,7 +57,7 @@ protected:
     /// How far the page is scrolled, in pixels.
     int scrolled() { return -bench.control<QWidget>("PictureTEXTE")->y(); }
 
-    test::WindowBench bench{course()};
+    test_support::WindowBench bench{course()};
 };
 
 TEST_F(Window, OpensOnTheFirstPageWithEverythingInPlace) {
@@ -435,7 +435,7 @@ TEST_F(Window, ThePageKeepsTheKeyboardOverAPageChange) {
 // Starting
 
 TEST(WindowStart, StandsUnderItsCoverUntilTheFirstPage) {
-    test::WindowBench bench(test::pages(25'000));
+    test_support::WindowBench bench(test_support::pages(25'000));
     QTemporaryDir directory;
     QImage picture(100, 60, QImage::Format_RGB32);
     picture.fill(Qt::red);
@@ -482,7 +482,7 @@ TEST(WindowStart, CoverIsNeverLargerThanThePageArea) {
 }
 
 TEST(WindowStart, EndsWhenStartUpSaysSo) {
-    test::WindowBench bench(test::pages(3));
+    test_support::WindowBench bench(test_support::pages(3));
     bench.whileStarting = [] { return false; };
     EXPECT_FALSE(bench.start().started);
     EXPECT_FALSE(bench.window.isVisible());
@@ -490,7 +490,7 @@ TEST(WindowStart, EndsWhenStartUpSaysSo) {
 }
 
 TEST(WindowStart, ClosingMeanwhileEndsItWithoutAQuestion) {
-    test::WindowBench bench(test::pages(25'000));
+    test_support::WindowBench bench(test_support::pages(25'000));
     bench.whileStarting = [&] {
         QTimer::singleShot(0, [&] { bench.window.close(); });
         return true;
@@ -501,7 +501,7 @@ TEST(WindowStart, ClosingMeanwhileEndsItWithoutAQuestion) {
 }
 
 TEST(WindowStart, SizingByStartUpDoesNotArmTheRule) {
-    test::WindowBench bench(test::pages(3));
+    test_support::WindowBench bench(test_support::pages(3));
     bench.whileStarting = [&] {
         bench.window.setWidth(800 * 15);
         bench.window.place({1000, 500, 12000, 9000});
@@ -514,7 +514,7 @@ TEST(WindowStart, SizingByStartUpDoesNotArmTheRule) {
 }
 
 TEST(WindowStart, WithoutDatabaseShowsAnEmptyPage) {
-    test::WindowBench bench({});
+    test_support::WindowBench bench({});
     EXPECT_TRUE(bench.start().started);
     EXPECT_TRUE(bench.control<QWidget>("PictureTEXTE")->isVisibleTo(&bench.window));
     EXPECT_FALSE(bench.control<QWidget>("VScroll1")->isVisible());

@@ -14,7 +14,7 @@
 
 #include <QPushButton>
 
-namespace test {
+namespace test_support {
 
 /// The real main window on a course in memory, put together as the program does it.
 class WindowBench {
@@ -66,4 +66,4 @@ public:
     viewer::MainCommands commands{state, actions, window, neighbours.all(), prompter};
 };
 
-} // namespace test
+} // namespace test_support
