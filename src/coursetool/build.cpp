@@ -24,7 +24,8 @@ bool isWithin(const fs::path& path, const fs::path& directory) {
 bool liesAmongSources(const fs::path& source, const fs::path& output) {
     std::error_code error;
     const auto plain = [&](const fs::path& path) {
-        return fs::weakly_canonical(fs::absolute(path) / "", error).parent_path();
+        const fs::path result = fs::weakly_canonical(fs::absolute(path), error);
+        return result.has_filename() ? result : result.parent_path(); // no trailing separator
     };
     const fs::path from = plain(source);
     const fs::path to = plain(output);

@@ -9,7 +9,8 @@ namespace coursetool {
 /// Compiles the course sources in `source` into the installation directory `output`: both
 /// databases, the files and the disc directories. Every fault of the sources is reported; with one
 /// or more, and when something cannot be written, `output` stays as it was and the result is false.
-/// Time grows with the number of pages, memory by a few bytes for each.
+/// Time grows with the number of pages, memory by the places of their numbers (less than 1 KB
+/// each).
 bool build(const std::filesystem::path& source, const std::filesystem::path& output,
            Report& report);
 
