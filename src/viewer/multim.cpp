@@ -34,8 +34,6 @@ constexpr QRect kVideoClosed(168, 488, 624, 64);
 constexpr QRect kVideoOpen(168, 296, 624, 256);
 constexpr QRect kFramebase(168, 560, 624, 32);
 
-/// Width of the drawing in the illustration area, which has a rule on either side.
-
 /// How long a window takes at most to get the size it asked for.
 constexpr int kSettledMs = 500;
 
