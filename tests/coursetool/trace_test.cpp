@@ -17,7 +17,7 @@ using Lines = std::vector<std::string>;
 
 struct Trace : testing::Test {
     Workspace work;
-    test::FixedMetrics metrics;
+    test_support::FixedMetrics metrics;
     coursetool::Report report;
 
     /// The lines that `draw` writes.
