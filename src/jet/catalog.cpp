@@ -3,9 +3,10 @@
 #include "jet/table_reader.h"
 #include "jet/unicode.h"
 
-#include <algorithm>
 #include <array>
 #include <string>
+#include <unordered_set>
+#include <utility>
 
 namespace jet {
 
@@ -23,33 +24,55 @@ bool isUserTable(const Value& type, const Value& flags) {
            (static_cast<std::uint32_t>(bits.value_or(0)) & kSystemFlags) == 0;
 }
 
-/// Why a table of that name and page cannot be listed; nullptr when it can.
-const char* whyNot(const Catalog& catalog, const TableInfo& table, PageSource& source) {
-    for (const TableInfo& other : catalog.tables) {
-        if (other.definitionPage == table.definitionPage)
-            return "sa définition est celle d'une autre table";
-        if (sameName(other.name, table.name))
-            return "une autre table a le même nom";
-    }
-    const auto page = source.page(table.definitionPage);
-    return page && page->type() == PageType::Definition ? nullptr
-                                                        : "sa page n'est pas une définition";
-}
+/// Takes the entries one by one.
+class CatalogReader {
+public:
+    explicit CatalogReader(PageSource& source) : source_(source) {}
 
-void addEntry(std::span<const Value> cells, PageSource& source, Catalog& catalog) {
-    const auto id = cells[0].integer();
-    const std::u16string* name = cells[1].text();
-    if (!isUserTable(cells[2], cells[3]))
-        return;
-    if (!id || !name || name->empty()) {
-        catalog.problems.add("catalogue : une table sans nom ou sans numéro est passée");
-        return;
+    void add(std::span<const Value> cells) {
+        if (!isUserTable(cells[2], cells[3]))
+            return;
+        const auto id = cells[0].integer();
+        const std::u16string* name = cells[1].text();
+        if (!id || !name || name->empty()) {
+            catalog_.problems.add("catalogue : une table sans nom ou sans numéro est passée");
+            return;
+        }
+        const TableInfo table{*name, static_cast<std::uint32_t>(*id) & kPageOfId};
+        if (const char* fault = whyNot(table))
+            catalog_.problems.add("catalogue : table « " + toUtf8(*name) + " » passée, " + fault);
+        else
+            catalog_.tables.push_back(table);
     }
-    const TableInfo table{*name, static_cast<std::uint32_t>(*id) & kPageOfId};
-    if (const char* fault = whyNot(catalog, table, source))
-        catalog.problems.add("catalogue : table « " + toUtf8(table.name) + " » passée, " + fault);
-    else
-        catalog.tables.push_back(table);
+
+    Catalog take() { return std::move(catalog_); }
+
+private:
+    /// Why the table cannot be listed; nullptr when it can. Of two entries with the same name or
+    /// the same page the first one wins.
+    const char* whyNot(const TableInfo& table) {
+        const auto page = source_.page(table.definitionPage);
+        if (!page || page->type() != PageType::Definition)
+            return "sa page n'est pas une définition";
+        if (!pages_.insert(table.definitionPage).second)
+            return "sa définition est celle d'une autre table";
+        return names_.insert(foldedName(table.name)).second ? nullptr
+                                                            : "une autre table a le même nom";
+    }
+
+    PageSource& source_;
+    Catalog catalog_;
+    std::unordered_set<std::uint32_t> pages_;
+    std::unordered_set<std::u16string> names_;
+};
+
+/// Texts of Jet 3 are read in one code page only.
+void addForeignCodePage(const PageSource& source, Catalog& catalog) {
+    constexpr std::uint16_t kWindows1252 = 1252;
+    if (!source.format().wideText && source.header().codePage != kWindows1252)
+        catalog.problems.add("en-tête : la page de code " +
+                             std::to_string(source.header().codePage) +
+                             " est lue comme la page 1252");
 }
 
 } // namespace
@@ -67,12 +90,14 @@ Result<Catalog> readCatalog(const std::shared_ptr<PageSource>& source) {
                            "catalogue : il n'a pas de colonne « " + toUtf8(names[i]) + " »"};
         columns[i] = *index;
     }
-    Catalog catalog;
+    CatalogReader entries(*source);
     const Problems met = (*reader)->scan(columns, [&](std::size_t, std::span<const Value> cells) {
-        addEntry(cells, *source, catalog);
+        entries.add(cells);
         return true;
     });
+    Catalog catalog = entries.take();
     catalog.problems.add(met);
+    addForeignCodePage(*source, catalog);
     return catalog;
 }
 

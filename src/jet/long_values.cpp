@@ -32,9 +32,8 @@ Result<LongValues::Value> LongValues::fetch(Bytes cell) {
         return Value{{}, cell.from(kLongValueHeader).first(length)};
     if (length > source_->fileSize())
         return damaged("annoncée plus grande que le fichier");
-    if (length > budget_)
+    if (!spend(length))
         return damaged("refusée : la table en donne plus que le fichier n'en peut contenir");
-    budget_ -= length;
     switch (kind) {
     case LongValueKind::Single:
         return fetchSingle(pointer, length);
@@ -43,6 +42,14 @@ Result<LongValues::Value> LongValues::fetch(Bytes cell) {
     default:
         return damaged("d'une sorte inconnue");
     }
+}
+
+bool LongValues::spend(std::uint64_t bytes) {
+    if (bytes > recordBudget_ || bytes > passBudget_)
+        return false;
+    recordBudget_ -= bytes;
+    passBudget_ -= bytes;
+    return true;
 }
 
 Result<LongValues::Value> LongValues::fetchSingle(RowPointer at, std::size_t length) {
@@ -58,7 +65,8 @@ Result<LongValues::Value> LongValues::fetchChain(RowPointer first, std::size_t l
     pieces_.clear(); // grows as pieces arrive, never on the word of the header
     std::unordered_set<std::uint32_t> visited;
     RowPointer next = first;
-    while (visited.insert(next.stored()).second) {
+    // Each piece but the last fills a page, so there are no more of them than pages.
+    while (visited.size() < source_->pageCount() && visited.insert(next.stored()).second) {
         const auto record = followPointer(*source_, next, kLongValueOwner, Slot::Kind::InPlace);
         if (!record)
             return damaged("dont un morceau est absent de la page qu'il nomme");

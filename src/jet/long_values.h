@@ -11,7 +11,7 @@ namespace jet {
 /// Reads Memo and OLE values from their cells.
 class LongValues {
 public:
-    explicit LongValues(PageSource& source) : source_(&source), budget_(source.fileSize()) {}
+    explicit LongValues(PageSource& source) : source_(&source) {}
 
     /// Bytes of a value. They may lie in the cell, in a page (kept by `page`) or in a buffer that
     /// the next fetch overwrites.
@@ -24,18 +24,20 @@ public:
     /// value and leaves it to the caller to say whose it is.
     Result<Value> fetch(Bytes cell);
 
-    /// Many rows of a damaged file can share one long chain. One pass over a table gives out this
-    /// many times the size of the file at most; a single cell, no more than the file.
+    /// Many cells of a damaged file can share one long chain. One record gives out no more bytes
+    /// than the file has, one pass over a table this many times as much.
     static constexpr std::uint64_t kPassBudget = 64;
-    void startPass() { budget_ = kPassBudget * source_->fileSize(); }
-    void startCell() { budget_ = source_->fileSize(); }
+    void startPass() { passBudget_ = kPassBudget * source_->fileSize(); }
+    void startRecord() { recordBudget_ = source_->fileSize(); }
 
 private:
+    bool spend(std::uint64_t bytes);
     Result<Value> fetchSingle(RowPointer at, std::size_t length);
     Result<Value> fetchChain(RowPointer first, std::size_t length);
 
     PageSource* source_;
-    std::uint64_t budget_;
+    std::uint64_t passBudget_ = 0;
+    std::uint64_t recordBudget_ = 0;
     std::vector<std::uint8_t> pieces_;
 };
 

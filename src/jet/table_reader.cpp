@@ -74,7 +74,8 @@ std::optional<std::size_t> TableReader::columnIndex(std::u16string_view name) co
 Result<Value> TableReader::value(std::size_t position, std::size_t column) {
     if (column >= columns().size())
         return noSuch(position, column);
-    longValues_.startCell();
+    longValues_.startPass();
+    longValues_.startRecord();
     Value value;
     Result<void> read;
     const bool found = rows_.at(position, [&](const LiveRow& live) {
@@ -90,12 +91,12 @@ Result<Value> TableReader::value(std::size_t position, std::size_t column) {
 
 Result<std::vector<Value>> TableReader::record(std::size_t position) {
     std::vector<Value> values(columns().size());
+    longValues_.startPass();
+    longValues_.startRecord();
     Result<void> read;
     const bool found = rows_.at(position, [&](const LiveRow& live) {
-        for (std::size_t i = 0; i < values.size() && read; ++i) {
-            longValues_.startCell();
+        for (std::size_t i = 0; i < values.size() && read; ++i)
             read = readCell(live, i, values[i]);
-        }
         return true;
     });
     if (!found)
@@ -111,6 +112,7 @@ Problems TableReader::scan(std::span<const std::size_t> columns,
     Problems cellProblems;
     std::vector<Value> cells(columns.size());
     rows_.forEach([&](const LiveRow& live) {
+        longValues_.startRecord();
         for (std::size_t i = 0; i < columns.size(); ++i) {
             if (const auto read = readCell(live, columns[i], cells[i]); !read) {
                 cells[i] = Value();
@@ -128,6 +130,7 @@ Problems TableReader::visit(const Table::VisitCallback& callback) {
     longValues_.startPass();
     View view(*this);
     rows_.forEach([&](const LiveRow& live) {
+        longValues_.startRecord();
         view.moveTo(live);
         return callback(view);
     });

@@ -41,8 +41,12 @@ public:
     void unit(char16_t unit) { out_ += unit; }
     void ascii(const std::uint8_t* bytes, std::size_t count) { out_.append(bytes, bytes + count); }
     void wide(Bytes units) {
-        for (std::size_t i = 0; i + 1 < units.size(); i += 2)
-            out_ += static_cast<char16_t>(units.u16(i));
+        const std::size_t count = units.size() / 2;
+        const std::size_t before = out_.size();
+        out_.resize(before + count);
+        const std::uint8_t* from = units.data();
+        for (std::size_t i = 0; i < count; ++i)
+            out_[before + i] = static_cast<char16_t>(from[2 * i] | from[2 * i + 1] << 8);
     }
     void finish() {}
 

@@ -131,6 +131,12 @@ std::u16string toUtf16(std::string_view text) {
     return out;
 }
 
+std::u16string foldedName(std::u16string_view name) {
+    std::u16string out(name);
+    std::transform(out.begin(), out.end(), out.begin(), folded);
+    return out;
+}
+
 bool sameName(std::u16string_view a, std::u16string_view b) {
     return std::equal(a.begin(), a.end(), b.begin(), b.end(),
                       [](char16_t x, char16_t y) { return folded(x) == folded(y); });

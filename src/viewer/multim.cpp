@@ -194,6 +194,7 @@ void Multim::place(const shell::Placement& placement) {
 
 void Multim::pumpPendingMessages() {
     QCoreApplication::processEvents();
+    showPointer(); // the window may have come on the screen
 }
 
 void Multim::report(const QString& line) {

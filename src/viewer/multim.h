@@ -136,6 +136,7 @@ private:
     bool buildIndex();
     void showFirstPage();
 
+    void showPointer();
     bool Form_QueryUnload();
     void Form_Resize();
     void carryOut(const WindowSizeRule::Orders& orders);
@@ -186,6 +187,7 @@ private:
 
     bool startUpDone_ = false;
     bool working_ = false;
+    bool busy_ = false;
     bool closeRequested_ = false;
     bool resizing_ = false;
     bool left_ = false;

@@ -10,6 +10,7 @@
 #include "viewer/rail.h"
 
 #include <QAccessible>
+#include <QWindow>
 
 namespace viewer {
 
@@ -91,11 +92,24 @@ void Multim::setReturnToTestVisible(bool visible) {
 }
 
 void Multim::showHourglass() {
-    setCursor(Qt::WaitCursor);
+    busy_ = true;
+    showPointer();
 }
 
 void Multim::restorePointer() {
-    unsetCursor();
+    busy_ = false;
+    showPointer();
+}
+
+void Multim::showPointer() {
+    if (!busy_ && testAttribute(Qt::WA_SetCursor)) {
+        unsetCursor();
+        return;
+    }
+    // Before the window is on the screen no pointer can be over it, and reading the hourglass from
+    // the desktop's theme would delay the first page.
+    if (busy_ && windowHandle() && windowHandle()->isExposed())
+        setCursor(Qt::WaitCursor);
 }
 
 void Multim::setBusy(bool busy) {

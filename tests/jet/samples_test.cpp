@@ -1,5 +1,6 @@
 #include "jet/csv_dump.h"
 #include "jet/database.h"
+#include "jet/files.h"
 #include "jet/unicode.h"
 
 #include <gtest/gtest.h>
@@ -123,6 +124,17 @@ TEST_P(SampleFile, scansAndVisitsAsItReads) {
 
 INSTANTIATE_TEST_SUITE_P(Samples, SampleFile, testing::ValuesIn(kFiles),
                          [](const auto& test) { return std::string(test.param.name); });
+
+TEST(SampleFiles, ofAnotherCodePageSaySo) {
+    const ScratchFolder scratch;
+    FileBytes bytes = readBytes(samplePath("testV1997"));
+    bytes[0x3C] ^= 1252 ^ 1251; // under the mask, a change stays a change
+    writeBytes(scratch / "t.mdb", bytes);
+    const auto database = jet::Database::open(scratch / "t.mdb");
+    ASSERT_TRUE(database);
+    ASSERT_EQ(database->problems().count(), 1u);
+    EXPECT_NE(database->problems().sentences()[0].find("1251"), std::string::npos);
+}
 
 TEST(SampleFiles, eachDumpBelongsToATable) {
     std::size_t dumps = 0;

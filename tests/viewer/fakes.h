@@ -34,12 +34,17 @@ struct FakeNeighbours {
     struct Links : viewer::PageLinks {
         explicit Links(QStringList& calls) : log(calls) {}
         void shareCursor() override { log.append(QStringLiteral("share cursor")); }
-        void reset() override { log.append(QStringLiteral("free links")); }
+        void reset() override {
+            log.append(QStringLiteral("free links"));
+            if (whileResetting)
+                whileResetting();
+        }
         void resetHighlight(int kept) override {
             ++highlightResets;
             lastKept = kept;
         }
         QStringList& log;
+        std::function<void()> whileResetting;
         int highlightResets = 0;
         int lastKept = 0;
     };

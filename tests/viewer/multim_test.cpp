@@ -432,6 +432,48 @@ TEST_F(Window, ThePageKeepsTheKeyboardOverAPageChange) {
     EXPECT_TRUE(text->hasFocus());
 }
 
+TEST_F(Window, ShowsTheHourglassWhileItWorks) {
+    QList<Qt::CursorShape> shapes;
+    bench.neighbours.links.whileResetting = [&] { shapes.append(bench.window.cursor().shape()); };
+    click("suite");
+    EXPECT_THAT(shapes, ElementsAre(Qt::WaitCursor));
+    EXPECT_EQ(bench.window.cursor().shape(), Qt::ArrowCursor);
+}
+
+/// A window manager that wants the window larger, whatever it asks for.
+class StubbornManager : public QObject {
+public:
+    explicit StubbornManager(QWindow* managed) : QObject(managed), window(managed) {
+        window->installEventFilter(this);
+        window->resize(kSize);
+    }
+    static constexpr QSize kSize{1000, 700};
+    QWindow* window;
+    int requests = 0;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Resize && window->size() != kSize) {
+            ++requests;
+            QTimer::singleShot(0, this, [this] { window->resize(kSize); });
+        }
+        return QObject::eventFilter(watched, event);
+    }
+};
+
+TEST_F(Window, GivesInToAManagerThatRefusesItsSize) {
+    const StubbornManager manager(bench.window.windowHandle());
+    for (int round = 0; round < 200; ++round)
+        QApplication::processEvents();
+    EXPECT_GT(manager.requests, 0);
+    EXPECT_LE(manager.requests, 5);
+    EXPECT_EQ(bench.window.size(), StubbornManager::kSize);
+    // The contents stand in the middle, and work.
+    EXPECT_EQ(bench.control("Command2")->mapTo(&bench.window, QPoint()), QPoint(108, 54));
+    click("command5");
+    EXPECT_EQ(shown(), u"30"_qs);
+}
+
 // Starting
 
 TEST(WindowStart, StandsUnderItsCoverUntilTheFirstPage) {
