@@ -42,7 +42,7 @@ struct Perform {
             report.fault({ORVALENTE_DRAWING_MODULE}, "cette partie du programme manque, à "
                                                      "réinstaller : " +
                                                          module.reason);
-            return ExitCode::WrongCall;
+            return verdict();
         }
         reinterpret_cast<coursetool::TraceFunction>(module.address)(argc, argv, call, out, report);
         return verdict();

@@ -181,6 +181,8 @@ TEST_F(RoundTrip, namesWhatSourcesCannotCarry) {
     EXPECT_EQ(work.read("src/pages/1-1.page"),
               "+++\nNumeropage = 1\nIndex = 3\nprecedent = true\nsuite = false\n"
               "imprimable = false\nmoteur = false\ndebutimp = 1\n+++\nseul\nretour");
+    EXPECT_EQ(work.read("src/exercises/1-1/1-101.question"),
+              "+++\nREFERENCE = 101\n+++\nsans fin\n+++\nF");
 }
 
 TEST_F(RoundTrip, extractsWhatADamagedDatabaseStillHolds) {
