@@ -3,6 +3,7 @@
 #include "text/number_text.h"
 #include "text/numeric_reader.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace calculator {
@@ -62,12 +63,7 @@ std::optional<Text> valueText(Function function, TextView argument, AngleMode an
     return value ? std::optional(text::trimmedNumberText(*value)) : std::nullopt;
 }
 
-/// The function that waits, at the end of `done`, for the number that comes next. One at the very
-/// start of the text is never looked at.
-std::optional<Function> waitingAtEnd(const Text& done) {
-    return done.size() > kToArgument ? functionAt(done, done.size() - kToArgument) : std::nullopt;
-}
-
+/// The function that can be evaluated at `position`. One at the very start is never looked at.
 std::optional<Function> readyAt(const Text& text, std::size_t position) {
     const std::size_t argument = position + kToArgument;
     if (position == 0 || argument >= text.size() || !startsNumber(text[argument]))
@@ -106,35 +102,27 @@ std::optional<double> valueOf(Function function, double x, AngleMode angles) {
 }
 
 bool calculfonctions(Text& text, Counters& counters, AngleMode angles) {
-    // Behind the walk only a function whose argument has just become a number can be next, and it
-    // stands right before that number; so nothing needs to be searched from the start again.
-    Text done;
-    done.reserve(text.size());
-    std::size_t i = 0;
+    std::size_t i = 1;
     while (i < text.size() && counters.nbfonctions > 0) {
-        auto function = readyAt(text, i);
+        const auto function = readyAt(text, i);
         if (!function) {
-            done += text[i++];
+            ++i;
             continue;
         }
-        const std::size_t end = text.find_first_of(u") ", i + kToArgument + 1);
+        const std::size_t argument = i + kToArgument;
+        const std::size_t end = text.find_first_of(u") ", argument + 1);
         if (end == Text::npos)
             return false;
-        const TextView argument(text.data() + i + kToArgument, end - i - kToArgument);
-        auto value = valueText(*function, argument, angles);
-        --counters.nbfonctions;
-        while (value && counters.nbfonctions > 0 && (function = waitingAtEnd(done))) {
-            done.resize(done.size() - kToArgument);
-            value = valueText(*function, *value, angles);
-            --counters.nbfonctions;
-        }
+        const auto value =
+            valueText(*function, TextView(text).substr(argument, end - argument), angles);
         if (!value)
             return false;
-        done += *value;
-        i = end;
+        text.replace(i, end - i, *value);
+        --counters.nbfonctions;
+        // Only a function whose argument starts in the new value has become ready behind the walk;
+        // the leftmost is found from here as it would be from the start.
+        i -= std::min(i - 1, kToArgument);
     }
-    done.append(text, i);
-    text = std::move(done);
     return true;
 }
 
