@@ -11,10 +11,10 @@ namespace app {
 
 /// What the person who starts the shell asks for.
 struct CommandLine {
-    std::optional<QString> course; ///< --course DIR
+    std::optional<QString> course;   ///< --course DIR
     std::map<QChar, QString> drives; ///< --drive L=DIR, any number of times
-    double scale = 1;              ///< --scale F; without meaning with scaleAuto
-    bool scaleAuto = false;        ///< --scale auto
+    double scale = 1;                ///< --scale F; without meaning with scaleAuto
+    bool scaleAuto = false;          ///< --scale auto
 
     /// Something to print instead of starting: the help, the version, or what is wrong.
     std::optional<QString> message;

@@ -34,7 +34,8 @@ public:
 /// The records of one table, in the order of its pages. A record is read when it is asked for;
 /// what is kept is a few bytes for each page of the table. Rows too damaged to be read are passed
 /// over and have no position; problems() tells of them. Positions start at 0 and stay the same as
-/// long as the file does. Not to be used from two threads at once, nor two tables of one Database.
+/// long as the file does. Not to be used from two
+/// threads at once, nor two tables of one Database; nor from within its own callbacks.
 class Table {
 public:
     Table(Table&&) noexcept;

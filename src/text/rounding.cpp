@@ -19,12 +19,19 @@ namespace {
 
 template <class Integer>
 std::optional<Integer> rounded(double value) {
-    const double whole = roundHalfEven(value);
+    // Most values are whole and small already.
+    if (value >= std::numeric_limits<Integer>::min() &&
+        value <= std::numeric_limits<Integer>::max()) {
+        const auto whole = static_cast<Integer>(value);
+        if (static_cast<double>(whole) == value)
+            return whole;
+    }
+    const double nearest = roundHalfEven(value);
     // Negated so that NaN is refused too.
-    if (!(whole >= std::numeric_limits<Integer>::min() &&
-          whole <= std::numeric_limits<Integer>::max()))
+    if (!(nearest >= std::numeric_limits<Integer>::min() &&
+          nearest <= std::numeric_limits<Integer>::max()))
         return std::nullopt;
-    return static_cast<Integer>(whole);
+    return static_cast<Integer>(nearest);
 }
 
 } // namespace

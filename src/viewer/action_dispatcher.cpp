@@ -2,6 +2,7 @@
 
 #include "text/rounding.h"
 #include "viewer/page_code.h"
+#include "viewer/page_index.h"
 
 namespace viewer {
 
@@ -32,11 +33,8 @@ void ActionDispatcher::runAction(QString& code) {
 
 void ActionDispatcher::showPageByNumber(double number) {
     const auto n = text::toInt16(number);
-    const auto& table = state_.PageByNumber;
-    // The last slot is the upper bound itself, which no page number reaches. Numbers without a
-    // record lead to the record of position 0, which is meant so.
-    if (n && *n >= 0 && table && static_cast<std::size_t>(*n) + 1 < table->size())
-        loader_.moveTo((*table)[static_cast<std::size_t>(*n)]);
+    if (const auto position = n ? positionByNumber(state_, *n) : std::nullopt)
+        loader_.moveTo(*position);
     show();
 }
 

@@ -1,5 +1,7 @@
 #include "viewer/history.h"
 
+#include "text/rounding.h"
+
 namespace viewer {
 
 namespace {
@@ -19,14 +21,20 @@ void History::record(std::int16_t page) {
     state_.HistoryPages.store(state_.HistoryPos, page);
 }
 
-std::int16_t History::stepBack() {
-    --state_.HistoryPos;
-    return state_.HistoryPages.valueOr(state_.HistoryPos, 0);
+std::optional<std::int16_t> History::stepBack() {
+    return step(-1);
 }
 
-std::int16_t History::stepForward() {
-    ++state_.HistoryPos;
-    return state_.HistoryPages.valueOr(state_.HistoryPos, 0);
+std::optional<std::int16_t> History::stepForward() {
+    return step(1);
+}
+
+std::optional<std::int16_t> History::step(std::int16_t distance) {
+    // Beyond 16 bits the position keeps its value.
+    if (const auto position = text::toInt16(state_.HistoryPos + distance))
+        state_.HistoryPos = *position;
+    const std::int16_t* page = state_.HistoryPages.slot(state_.HistoryPos);
+    return page ? std::optional(*page) : std::nullopt;
 }
 
 bool History::nextSlotIsEmpty() const {

@@ -3,6 +3,7 @@
 #include "shell/shared_state.h"
 
 #include <cstdint>
+#include <optional>
 
 namespace viewer {
 
@@ -16,13 +17,14 @@ public:
     /// Appends a page; at 100 pages the oldest falls out.
     void record(std::int16_t page);
 
-    /// Moves one step and gives the page number there; 0 for an empty slot or one outside the
-    /// table. Called only while the button for it is enabled.
-    std::int16_t stepBack();
-    std::int16_t stepForward();
+    /// Moves one step and gives the page number there: 0 for an empty slot, nothing outside the
+    /// table, where the position goes all the same. Called only while the button for it is enabled.
+    std::optional<std::int16_t> stepBack();
+    std::optional<std::int16_t> stepForward();
 
     bool canGoBack() const { return state_.HistoryPos >= 2; }
-    /// Whether the last step forward leaves another one to make.
+    /// Whether forward would lead to an empty slot. False at the last slot, so that forward stays
+    /// possible there: meant so.
     bool nextSlotIsEmpty() const;
 
     /// While one of these lives, pages shown are not recorded.
@@ -40,6 +42,8 @@ public:
     };
 
 private:
+    std::optional<std::int16_t> step(std::int16_t distance);
+
     shell::SharedState& state_;
 };
 

@@ -10,6 +10,9 @@ public:
     virtual ~VideoDevice() = default;
     /// Closes whatever is open and hides the picture; without effect when nothing is.
     virtual void close() = 0;
+    /// Carries out the video button `index`: 0 play, 1 one frame forward, 2 pause, 3 stop,
+    /// 4 one frame back, 5 to the end, 6 to the start.
+    virtual void press(int index) = 0;
 };
 
 /// A window shown modally: open() returns once it is closed.
@@ -19,17 +22,53 @@ public:
     virtual void open() = 0;
 };
 
-/// The windows that the main window's buttons and page codes open. The exercise window leaves
-/// `ExerciseReturnPage` in the shared state, the search window, which starts afresh each time,
-/// `SearchChosenPage`. The exit screen does not return to the program: when it closes, all ends.
+/// Prints pages.
+class PagePrinting {
+public:
+    virtual ~PagePrinting() = default;
+    /// Prints what the page belongs to, after the print dialog.
+    virtual void print() = 0;
+    /// Called when a rendering that goes to the printer starts or is reset.
+    virtual void prepare() = 0;
+};
+
+/// The links that the page has placed on the main window.
+class PageLinks {
+public:
+    /// An index that belongs to no link.
+    static constexpr int kNone = -1;
+
+    virtual ~PageLinks() = default;
+    /// Gives all links the pointer of the first one.
+    virtual void shareCursor() = 0;
+    /// Hides every link and empties its tag and tooltip.
+    virtual void reset() = 0;
+    /// Shows all text links plain, except the one with index `kept`.
+    virtual void resetHighlight(int kept) = 0;
+};
+
+/// Whether the software may be updated now.
+class UpdateCheck {
+public:
+    virtual ~UpdateCheck() = default;
+    /// False while a module runs; the person has then been told.
+    virtual bool confirmUpdateIsPossible() = 0;
+};
+
+/// The windows and devices that the main window's buttons and page codes lead to. The exercise
+/// window leaves `ExerciseReturnPage` in the shared state, the search window, which starts afresh
+/// each time, `SearchChosenPage`. The exit screen does not return to the program: when it closes,
+/// all ends.
 struct Neighbours {
     VideoDevice& video;
+    PageLinks& links;
+    PagePrinting& printing;
+    UpdateCheck& updateCheck;
     ModalWindow& exercise;
     ModalWindow& orderForm;
     ModalWindow& search;
     ModalWindow& calculator; ///< not modal: open() returns at once
-    ModalWindow& printing;
-    ModalWindow& help; ///< not modal: open() returns at once
+    ModalWindow& help;       ///< not modal: open() returns at once
     ModalWindow& installation;
     ModalWindow& exitScreen;
 };

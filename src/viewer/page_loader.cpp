@@ -6,11 +6,15 @@
 
 namespace viewer {
 
-PageLoader::PageLoader(shell::SharedState& state, platform::Recordset* records, BoundRecord& bound,
-                       PageView& view, markup::SourceWindow& source, markup::Renderer& renderer,
-                       VideoDevice& video)
-    : state_(state), records_(records), bound_(bound), view_(view), source_(source),
-      renderer_(renderer), video_(video), history_(state) {}
+PageLoader::PageLoader(shell::SharedState& state, BoundRecord& bound, PageView& view,
+                       markup::SourceWindow& source, markup::Renderer& renderer, VideoDevice& video)
+    : state_(state), bound_(bound), view_(view), source_(source), renderer_(renderer),
+      video_(video), history_(state) {}
+
+void PageLoader::bindTo(platform::Recordset& records) {
+    records_ = &records;
+    moveTo(0);
+}
 
 void PageLoader::moveTo(int position) {
     if (records_ && records_->setAbsolutePosition(position))

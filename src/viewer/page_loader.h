@@ -13,10 +13,14 @@ namespace viewer {
 /// Shows the record that is current, from the emptied page area to the buttons that fit the page.
 class PageLoader {
 public:
-    /// `records` may be null when the database could not be opened: pages then show nothing.
-    PageLoader(shell::SharedState& state, platform::Recordset* records, BoundRecord& bound,
-               PageView& view, markup::SourceWindow& source, markup::Renderer& renderer,
-               VideoDevice& video);
+    PageLoader(shell::SharedState& state, BoundRecord& bound, PageView& view,
+               markup::SourceWindow& source, markup::Renderer& renderer, VideoDevice& video);
+
+    /// The table "cours", once it is open; its first record becomes current. Without it (the
+    /// database could not be opened) pages show nothing.
+    void bindTo(platform::Recordset& records);
+    /// Null before bindTo().
+    const platform::Recordset* records() const { return records_; }
 
     /// Moves to the record at `position`; no change when there is none.
     void moveTo(int position);
@@ -31,7 +35,7 @@ private:
     void showButtons();
 
     shell::SharedState& state_;
-    platform::Recordset* records_;
+    platform::Recordset* records_ = nullptr;
     BoundRecord& bound_;
     PageView& view_;
     markup::SourceWindow& source_;

@@ -43,7 +43,8 @@ public:
     /// Shows or hides the button that leads back to the test.
     virtual void setReturnToTestVisible(bool visible) = 0;
 
-    /// Gives the window its normal pointer.
+    /// Gives the window the pointer of a program at work, or its normal one.
+    virtual void showHourglass() = 0;
     virtual void restorePointer() = 0;
 };
 

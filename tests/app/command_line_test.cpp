@@ -10,8 +10,8 @@ app::CommandLine read(const QStringList& arguments) {
 }
 
 TEST(CommandLine, takesValuesBehindAnEqualsSignOrABlank) {
-    const auto line = read({"--course", "/un cours", "--drive=e=/mnt", "--drive", "F=/a=b",
-                            "--scale", "1,5"});
+    const auto line =
+        read({"--course", "/un cours", "--drive=e=/mnt", "--drive", "F=/a=b", "--scale", "1,5"});
     EXPECT_FALSE(line.message.has_value());
     EXPECT_EQ(line.course, QStringLiteral("/un cours"));
     EXPECT_EQ(line.drives.at(u'E'), QStringLiteral("/mnt"));
@@ -22,9 +22,13 @@ TEST(CommandLine, takesValuesBehindAnEqualsSignOrABlank) {
 }
 
 TEST(CommandLine, wrongCallsAreExplained) {
-    for (const QStringList& wrong :
-         {QStringList{"--curse", "x"}, {"--course"}, {"--course="}, {"--scale", "0.5"},
-          {"--scale", "gros"}, {"--drive", "/mnt"}, {"/un/cours"}}) {
+    for (const QStringList& wrong : {QStringList{"--curse", "x"},
+                                     {"--course"},
+                                     {"--course="},
+                                     {"--scale", "0.5"},
+                                     {"--scale", "gros"},
+                                     {"--drive", "/mnt"},
+                                     {"/un/cours"}}) {
         const auto line = read(wrong);
         EXPECT_TRUE(line.isError) << wrong.join(u' ').toStdString();
         EXPECT_TRUE(line.message.has_value());

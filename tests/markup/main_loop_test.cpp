@@ -19,7 +19,7 @@ void PrintTo(const Row& row, std::ostream* out) {
 class MainLoop : public testing::TestWithParam<Row> {};
 
 TEST_P(MainLoop, draws) {
-    test::PageBench bench;
+    test_support::PageBench bench;
     EXPECT_EQ(bench.draw(QString::fromUtf16(GetParam().source)), GetParam().expected);
 }
 
@@ -71,14 +71,15 @@ INSTANTIATE_TEST_SUITE_P(
                          "print 0,0 \"un\" Arial 10 #800000"}}));
 
 TEST(MainLoopState, aLoneLineFeedIsText) {
-    test::PageBench bench;
+    test_support::PageBench bench;
     bench.holder.setText(QStringLiteral("a\nb\r\nc\r"));
     bench.renderer.affichepage();
-    EXPECT_EQ(test::describe(bench.recording), QStringList({"print 0,0 \"a\nb\" Arial 10"}));
+    EXPECT_EQ(test_support::describe(bench.recording),
+              QStringList({"print 0,0 \"a\nb\" Arial 10"}));
 }
 
 TEST(MainLoopState, leavesTheHeightDrawn) {
-    test::PageBench bench;
+    test_support::PageBench bench;
     bench.draw("un¶\n##PIY001\n");
     EXPECT_EQ(bench.state.hauteurPage, 215);
     EXPECT_DOUBLE_EQ(bench.texte.heightPx(), 215 / 15.);
@@ -86,7 +87,7 @@ TEST(MainLoopState, leavesTheHeightDrawn) {
 }
 
 TEST(MainLoopState, goesOnBelowWhatStandsWhenTheHeightIsKept) {
-    test::PageBench bench;
+    test_support::PageBench bench;
     bench.draw("un¶\n");
     EXPECT_EQ(bench.draw("deux¶\n"), QStringList({"print 0,200 \"deux\" Arial 10"}));
     bench.state.hauteurPage = 0;
@@ -94,7 +95,7 @@ TEST(MainLoopState, goesOnBelowWhatStandsWhenTheHeightIsKept) {
 }
 
 TEST(MainLoopState, stylesDoNotReachTheNextPage) {
-    test::PageBench bench;
+    test_support::PageBench bench;
     bench.draw("##SI20\n##BOL1\n##ITA1\n##UND1\n##C005\n##ALDR\n##INTER3.00\n##RELIEF2 01\n"
                "##FONT01\n##DECABAS\n");
     bench.state.hauteurPage = 0;
@@ -103,7 +104,7 @@ TEST(MainLoopState, stylesDoNotReachTheNextPage) {
 }
 
 TEST(MainLoopState, paperHasAColumnOfItsOwnAndKeepsThePointer) {
-    test::PageBench bench;
+    test_support::PageBench bench;
     bench.state.enImpression = true;
     bench.state.surfaceDessin = &bench.printer;
     EXPECT_EQ(bench.draw("##ALDR\nab¶\n##PLOUF\n"), QStringList({"print 8800,0 \"ab\" Arial 10"}));
@@ -115,7 +116,7 @@ TEST(MainLoopState, paperHasAColumnOfItsOwnAndKeepsThePointer) {
 }
 
 TEST(MainLoopState, aHostileHeightIsBounded) {
-    test::PageBench bench;
+    test_support::PageBench bench;
     QString source = "##DECLIG1E9\nun¶\n";
     for (int i = 0; i < 5000; ++i)
         source += "##PLOUF\n";

@@ -4,7 +4,7 @@
 #include "support/fixed_metrics.h"
 #include "support/recording_text.h"
 
-namespace test {
+namespace test_support {
 
 /// A main window without a window: everything that a page can be drawn on, and what became of it.
 class PageBench : public markup::PageWindow, public markup::SourceWindow {
@@ -51,4 +51,4 @@ public:
     int preparations = 0;
 };
 
-} // namespace test
+} // namespace test_support

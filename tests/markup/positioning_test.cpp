@@ -17,7 +17,7 @@ void PrintTo(const Row& row, std::ostream* out) {
 class Positioning : public testing::TestWithParam<Row> {};
 
 TEST_P(Positioning, draws) {
-    test::PageBench bench;
+    test_support::PageBench bench;
     EXPECT_EQ(bench.draw(QString::fromUtf16(GetParam().source)), GetParam().expected);
 }
 
@@ -61,7 +61,7 @@ INSTANTIATE_TEST_SUITE_P(
              "print 115,15 \"b\" Arial 10 #808080", "print 100,0 \"b\" Arial 10"}}));
 
 TEST(Shifts, roundHalvesToEven) {
-    test::PageBench bench;
+    test_support::PageBench bench;
     // Height of a line at 0.5 points: 10 twips; its quarter is 2.5, its half 5.
     EXPECT_EQ(bench.draw("##SI.5\n##DECABA2\na\n##DECAB2DEF\nb\n"),
               QStringList({"print 0,2 \"a\" Arial 0.5", "print 5,2.5 \"b\" Arial 0.5"}));
@@ -85,7 +85,7 @@ INSTANTIATE_TEST_SUITE_P(
                         {"print 0,0 \"x\" Arial 10"}}));
 
 TEST(Surfaces, sizeFollowsThePen) {
-    test::PageBench bench;
+    test_support::PageBench bench;
     bench.draw("a¶\nb¶\n##OBJTAILLE\n##OBJILLUS\nc¶\n");
     EXPECT_DOUBLE_EQ(bench.texte.heightPx(), 400 / 15.);
     EXPECT_DOUBLE_EQ(bench.illus.heightPx(), 200 / 15.);
@@ -93,14 +93,14 @@ TEST(Surfaces, sizeFollowsThePen) {
 }
 
 TEST(Surfaces, refreshShowsWhatWasDrawnSoFarAndGrows) {
-    test::PageBench bench;
+    test_support::PageBench bench;
     bench.draw("a¶\n##PLOUF\nb¶\n##PLOUFX\n");
     EXPECT_EQ(bench.refreshedAt, QList<int>({1}));
     EXPECT_EQ(bench.refreshed, &bench.texte);
 }
 
 TEST(Surfaces, captionKeepsItsEighteenBlanks) {
-    test::PageBench bench;
+    test_support::PageBench bench;
     bench.draw("##TITBARLa lumière\n");
     EXPECT_EQ(bench.caption, "Orvalente - KAROPE" + QString(18, u' ') + "La lumière");
 }

@@ -18,7 +18,7 @@ void PrintTo(const Row& row, std::ostream* out) {
 class Styling : public testing::TestWithParam<Row> {};
 
 TEST_P(Styling, draws) {
-    test::PageBench bench;
+    test_support::PageBench bench;
     EXPECT_EQ(bench.draw(QString::fromUtf16(GetParam().source)), GetParam().expected);
 }
 

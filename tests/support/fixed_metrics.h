@@ -2,7 +2,7 @@
 
 #include "platform/text_metrics.h"
 
-namespace test {
+namespace test_support {
 
 /// Metrics one can reckon with: at 10 points a character is 100 twips wide and a line 200 high,
 /// other sizes in proportion. "Symbol" is half as high again, so that a change of face shows.
@@ -17,4 +17,4 @@ public:
     double ascent(const platform::Font& font) const override { return 16 * font.points; }
 };
 
-} // namespace test
+} // namespace test_support

@@ -1,6 +1,6 @@
 #include "support/recording_text.h"
 
-namespace test {
+namespace test_support {
 
 namespace {
 
@@ -60,4 +60,4 @@ QStringList describe(const platform::Recording& recording) {
     return lines;
 }
 
-} // namespace test
+} // namespace test_support

@@ -12,6 +12,11 @@ struct Row {
     double expected;
 };
 
+void PrintTo(const Row& row, std::ostream* out) {
+    for (const char16_t* c = row.input; *c; ++c)
+        *out << static_cast<char>(*c < 0x80 ? *c : '?');
+}
+
 class LeadingNumber : public testing::TestWithParam<Row> {};
 
 TEST_P(LeadingNumber, readsTheLongestNumericPrefix) {

@@ -49,15 +49,23 @@ const QStringList& fallbackFamilies() {
     return kFamilies;
 }
 
-QRawFont load(const QString& family, double pixelSize, const Font& style,
-              QFont::HintingPreference hinting) {
-    QFont font(family);
-    font.setPixelSize(qMax(1, qRound(pixelSize)));
-    font.setBold(style.bold);
-    font.setItalic(style.italic);
-    font.setHintingPreference(hinting);
-    font.setStyleStrategy(QFont::NoFontMerging);
-    QRawFont raw = QRawFont::fromFont(font);
+/// A face at one size. Choosing the file of a family costs a hundred times as much as another size
+/// of a face that is already there, so each style of a family is chosen once. Vertical hinting
+/// leaves advances as they are and makes small text crisp.
+QRawFont load(const QString& family, double pixelSize, const Font& style) {
+    static QHash<QString, QRawFont> chosen;
+    const QString key = family + (style.bold ? u'b' : u'-') + (style.italic ? u'i' : u'-');
+    auto found = chosen.find(key);
+    if (found == chosen.end()) {
+        QFont font(family);
+        font.setPixelSize(qMax(1, qRound(pixelSize)));
+        font.setBold(style.bold);
+        font.setItalic(style.italic);
+        font.setHintingPreference(QFont::PreferVerticalHinting);
+        font.setStyleStrategy(QFont::NoFontMerging);
+        found = chosen.insert(key, QRawFont::fromFont(font));
+    }
+    QRawFont raw = *found;
     if (raw.isValid() && raw.pixelSize() != pixelSize)
         raw.setPixelSize(pixelSize);
     return raw;
@@ -118,7 +126,7 @@ public:
         if (found == sizes.end())
             found = sizes
                         .emplace(pixelSize, load(stages_[static_cast<std::size_t>(stage)].family,
-                                                 pixelSize, font_, QFont::PreferVerticalHinting))
+                                                 pixelSize, font_))
                         .first;
         return found->second;
     }
@@ -135,8 +143,7 @@ private:
     const QRawFont& reference(int stage) const {
         Stage& wanted = stages_[static_cast<std::size_t>(stage)];
         if (!wanted.loaded) {
-            wanted.reference =
-                load(wanted.family, pixels_ * kTwipsPerPixel, font_, QFont::PreferNoHinting);
+            wanted.reference = load(wanted.family, pixels_ * kTwipsPerPixel, font_);
             wanted.loaded = true;
         }
         return wanted.reference;

@@ -1,0 +1,196 @@
+#include "app/cours_command_line.h"
+
+#include "coursetool/build.h"
+#include "coursetool/paths.h"
+#include "coursetool/report.h"
+
+#include <CLI/CLI.hpp>
+#include <charconv>
+#include <optional>
+
+namespace app {
+
+namespace {
+
+namespace fs = std::filesystem;
+using coursetool::inQuotes;
+using coursetool::pathFrom;
+
+/// The values of the options as they were typed.
+struct Typed {
+    std::string from;
+    std::string output;
+    std::string table;
+    std::string page;
+    std::string source;
+};
+
+class Reader {
+public:
+    Reader() : app_("Écrit, vérifie et publie les cours d’Orvalente.", "orvalente-cours") {
+        app_.get_formatter()->label("OPTIONS", "OPTIONS");
+        app_.get_formatter()->label("Usage", "Usage ");
+        app_.get_formatter()->label("SUBCOMMAND", "SOUS-COMMANDE");
+        app_.get_formatter()->label("Positionals", "Arguments");
+        app_.option_defaults()->group("Options");
+        app_.set_help_flag("-h,--help", "Affiche cette aide");
+        app_.set_version_flag("--version", "orvalente-cours " ORVALENTE_VERSION,
+                              "Affiche la version");
+        app_.footer("Code de sortie : 0 tout va bien, 1 des fautes dans le cours (sur la sortie "
+                    "d’erreur,\nfichier:ligne:colonne), 2 mauvais appel.");
+
+        build_ = add("build", "Compile les sources d’un cours en un dossier d’installation");
+        positional(build_, "SRC", typed_.from, "Dossier des sources");
+        output(build_, "Dossier d’installation à écrire");
+
+        extract_ = add("extract", "Le chemin inverse : les sources d’un cours installé");
+        positional(extract_, "DOSSIER", typed_.from, "Dossier d’installation");
+        output(extract_, "Dossier des sources à écrire, neuf ou vide");
+
+        dump_ = add("dump", "Montre une base : ses tables, ou les lignes d’une table, en JSON");
+        positional(dump_, "FICHIER.mdb", typed_.from, "Base de données");
+        positional(dump_, "TABLE", typed_.table, "Table ; sans elle, les tables et leurs champs");
+
+        trace_ = add("trace", "Les opérations de dessin d’une page, un objet JSON par ligne");
+        positional(trace_, "DOSSIER", typed_.from, "Dossier d’installation");
+        trace_->add_option("--page", typed_.page, "Numéro de la page")->type_name("N");
+        trace_
+            ->add_option("--source", typed_.source,
+                         "Dessine le texte d’une page, ses fins de ligne telles quelles")
+            ->type_name("FICHIER");
+    }
+
+    CoursCall read(int argc, char** argv) {
+        try {
+            app_.parse(argc, argv);
+        } catch (const CLI::CallForHelp&) {
+            return ShowText{app_.help() + "\n"};
+        } catch (const CLI::CallForVersion&) {
+            return ShowText{app_.version() + "\n"};
+        } catch (const CLI::ParseError& error) {
+            return WrongCall{sentence(error)};
+        }
+        return call();
+    }
+
+private:
+    CLI::App* add(const char* name, const char* description) {
+        CLI::App* command = app_.add_subcommand(name, description);
+        command->group("Sous-commandes");
+        return command;
+    }
+
+    static void positional(CLI::App* command, const char* name, std::string& value,
+                           const char* description) {
+        command->add_option(name, value, description)->type_name("");
+    }
+
+    void output(CLI::App* command, const char* description) {
+        command->add_option("-o,--output", typed_.output, description)->type_name("DOSSIER");
+    }
+
+    /// The library speaks English.
+    std::string sentence(const CLI::ParseError& error) const {
+        if (dynamic_cast<const CLI::ExtrasError*>(&error)) {
+            const std::vector<std::string> extra = app_.remaining(true);
+            return "argument inattendu : " + inQuotes(extra.empty() ? "" : extra.front());
+        }
+        const std::string text = error.what();
+        return "une option est répétée, ou sa valeur manque : " +
+               inQuotes(text.substr(0, text.find_first_of(": ")));
+    }
+
+    CoursCall call() const {
+        if (build_->parsed())
+            return buildCall();
+        if (extract_->parsed())
+            return extractCall();
+        if (dump_->parsed())
+            return dumpCall();
+        if (trace_->parsed())
+            return traceCall();
+        return WrongCall{"il manque une sous-commande"};
+    }
+
+    CoursCall buildCall() const {
+        const BuildCall call{pathFrom(typed_.from), pathFrom(typed_.output)};
+        if (const auto wrong = notADirectory(typed_.from, "le dossier des sources"))
+            return *wrong;
+        if (typed_.output.empty())
+            return WrongCall{"il manque « -o DOSSIER »"};
+        if (coursetool::liesAmongSources(call.source, call.output))
+            return WrongCall{inQuotes(typed_.output) +
+                             " fait partie des sources : choisir un autre dossier"};
+        return call;
+    }
+
+    CoursCall extractCall() const {
+        const ExtractCall call{pathFrom(typed_.from), pathFrom(typed_.output)};
+        if (const auto wrong = notADirectory(typed_.from, "le dossier d’installation"))
+            return *wrong;
+        if (typed_.output.empty())
+            return WrongCall{"il manque « -o DOSSIER »"};
+        std::error_code error;
+        if (fs::exists(call.output, error) && !fs::is_empty(call.output, error))
+            return WrongCall{inQuotes(typed_.output) +
+                             " n’est pas vide : choisir un dossier neuf ou vide"};
+        return call;
+    }
+
+    CoursCall dumpCall() const {
+        if (const auto wrong = notAFile(typed_.from, "la base de données"))
+            return *wrong;
+        return DumpCall{pathFrom(typed_.from), typed_.table};
+    }
+
+    CoursCall traceCall() const {
+        TraceCall call{pathFrom(typed_.from), 0, pathFrom(typed_.source)};
+        if (!typed_.source.empty()) {
+            if (!typed_.from.empty() || !typed_.page.empty())
+                return WrongCall{"« --source » va sans dossier ni « --page »"};
+            if (const auto wrong = notAFile(typed_.source, "le texte de la page"))
+                return *wrong;
+            return call;
+        }
+        if (const auto wrong = notADirectory(typed_.from, "le dossier d’installation"))
+            return *wrong;
+        const auto [end, error] =
+            std::from_chars(typed_.page.data(), typed_.page.data() + typed_.page.size(), call.page);
+        if (error != std::errc() || *end != '\0')
+            return WrongCall{"il manque « --page N », N un numéro de page"};
+        return call;
+    }
+
+    static std::optional<WrongCall> notADirectory(const std::string& path, const char* what) {
+        std::error_code error;
+        if (path.empty())
+            return WrongCall{std::string("il manque ") + what};
+        if (!fs::is_directory(pathFrom(path), error))
+            return WrongCall{inQuotes(path) + " n’est pas un dossier"};
+        return std::nullopt;
+    }
+
+    static std::optional<WrongCall> notAFile(const std::string& path, const char* what) {
+        std::error_code error;
+        if (path.empty())
+            return WrongCall{std::string("il manque ") + what};
+        if (!fs::exists(pathFrom(path), error) || fs::is_directory(pathFrom(path), error))
+            return WrongCall{inQuotes(path) + " n’est pas un fichier"};
+        return std::nullopt;
+    }
+
+    CLI::App app_;
+    Typed typed_;
+    CLI::App* build_ = nullptr;
+    CLI::App* extract_ = nullptr;
+    CLI::App* dump_ = nullptr;
+    CLI::App* trace_ = nullptr;
+};
+
+} // namespace
+
+CoursCall readCoursCommandLine(int argc, char** argv) {
+    return Reader().read(argc, argv);
+}
+
+} // namespace app

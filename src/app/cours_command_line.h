@@ -1,0 +1,41 @@
+#pragma once
+
+#include "coursetool/drawing_request.h"
+
+#include <filesystem>
+#include <string>
+#include <variant>
+
+namespace app {
+
+// What `orvalente-cours` was asked to do.
+
+struct BuildCall {
+    std::filesystem::path source;
+    std::filesystem::path output;
+};
+struct ExtractCall {
+    std::filesystem::path course;
+    std::filesystem::path output;
+};
+struct DumpCall {
+    std::filesystem::path file;
+    std::string table; ///< empty: the tables and their columns
+};
+using TraceCall = coursetool::TraceRequest;
+/// Help or version, for standard output.
+struct ShowText {
+    std::string text;
+};
+/// The call makes no sense; the sentence says why.
+struct WrongCall {
+    std::string sentence;
+};
+
+using CoursCall = std::variant<BuildCall, ExtractCall, DumpCall, TraceCall, ShowText, WrongCall>;
+
+/// Reads the command line. Directories and files that must be there are; an output directory of
+/// `extract` is empty or not there yet.
+CoursCall readCoursCommandLine(int argc, char** argv);
+
+} // namespace app

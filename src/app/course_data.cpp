@@ -1,0 +1,21 @@
+#include "app/course_data.h"
+
+#include "platform/jet_recordset.h"
+#include "viewer/page_loader.h"
+
+#include <cstdio>
+
+namespace app {
+
+void CourseData::bind(const QString& path) {
+    auto opened = platform::openRecordset(path, QStringLiteral("cours"));
+    if (!opened) {
+        // The window just stays empty; who looks for the reason finds it here.
+        std::fprintf(stderr, "orvalente : %s\n", opened.error().sentence.c_str());
+        return;
+    }
+    cours_ = std::move(*opened);
+    pages_.bindTo(*cours_);
+}
+
+} // namespace app

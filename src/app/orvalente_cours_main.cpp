@@ -1,0 +1,71 @@
+#include "app/cours_command_line.h"
+#include "coursetool/build.h"
+#include "coursetool/dump.h"
+#include "coursetool/exit_code.h"
+#include "coursetool/extract.h"
+#include "platform/module.h"
+
+#include <cstdio>
+
+namespace {
+
+using coursetool::ExitCode;
+using coursetool::OutputBuffer;
+using coursetool::Report;
+
+void print(std::FILE* stream, const std::string& text) {
+    std::fwrite(text.data(), 1, text.size(), stream);
+}
+
+/// Carries out one call, whatever its kind.
+struct Perform {
+    int& argc;
+    char** argv;
+    Report report;
+    OutputBuffer out{stdout};
+
+    ExitCode operator()(const app::BuildCall& call) {
+        coursetool::build(call.source, call.output, report);
+        return verdict();
+    }
+    ExitCode operator()(const app::ExtractCall& call) {
+        coursetool::extract(call.course, call.output, report);
+        return verdict();
+    }
+    ExitCode operator()(const app::DumpCall& call) {
+        return coursetool::dump(call.file, call.table, out, report);
+    }
+    ExitCode operator()(const app::TraceCall& call) {
+        const auto module =
+            platform::loadModuleFunction(ORVALENTE_DRAWING_MODULE, coursetool::kTraceSymbol);
+        if (!module.address) {
+            report.fault({ORVALENTE_DRAWING_MODULE}, "cette partie du programme manque, à "
+                                                     "réinstaller : " +
+                                                         module.reason);
+            return verdict();
+        }
+        reinterpret_cast<coursetool::TraceFunction>(module.address)(argc, argv, call, out, report);
+        return verdict();
+    }
+    ExitCode operator()(const app::ShowText& show) {
+        print(stdout, show.text);
+        return ExitCode::Fine;
+    }
+    ExitCode operator()(const app::WrongCall& wrong) {
+        print(stderr, "orvalente-cours : " + wrong.sentence +
+                          " ; « orvalente-cours --help » montre les sous-commandes.\n");
+        return ExitCode::WrongCall;
+    }
+
+    ExitCode verdict() const { return report.hasFaults() ? ExitCode::Faults : ExitCode::Fine; }
+};
+
+} // namespace
+
+int main(int argc, char** argv) {
+    Perform perform{argc, argv, {}};
+    const ExitCode code = std::visit(perform, app::readCoursCommandLine(argc, argv));
+    for (const std::string& line : perform.report.lines())
+        print(stderr, line + '\n');
+    return static_cast<int>(code);
+}

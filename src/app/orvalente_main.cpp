@@ -1,0 +1,60 @@
+#include "app/command_line.h"
+#include "app/scale.h"
+#include "app/shell_application.h"
+
+#include <QApplication>
+#include <QScreen>
+
+#include <cstdio>
+
+namespace {
+
+QStringList argumentsOf(int argc, char** argv) {
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    return arguments;
+}
+
+/// Size of the screen in its own pixels. Qt must be enlarged before the application object exists,
+/// so that an object of its own looks at the screen first.
+QSizeF screenPixels(int argc, char** argv) {
+    const QGuiApplication probe(argc, argv);
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen ? QSizeF(screen->size()) * screen->devicePixelRatio() : QSizeF();
+}
+
+double chooseScale(const app::CommandLine& line, int argc, char** argv) {
+    if (!line.scaleAuto && line.scale == 1)
+        return 1; // the usual case looks at no screen
+    const QSizeF screen = screenPixels(argc, argv);
+    if (line.scaleAuto)
+        return app::automaticScale(screen.width(), screen.height());
+    const double scale = app::fittingScale(line.scale, screen.width(), screen.height());
+    if (scale < line.scale)
+        std::fprintf(stderr, "orvalente : l’échelle %g ne tient pas sur l’écran ; %g à la place.\n",
+                     line.scale, scale);
+    return scale;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const app::CommandLine line = app::readCommandLine(argumentsOf(argc, argv));
+    if (line.message) {
+        std::fputs(qUtf8Printable(*line.message), line.isError ? stderr : stdout);
+        std::fputs(line.isError ? "\n" : "", stderr);
+        return line.isError ? 2 : 0;
+    }
+    const double scale = chooseScale(line, argc, argv);
+    if (scale != 1)
+        qputenv("QT_SCALE_FACTOR", QByteArray::number(scale));
+
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("orvalente"));
+    // The leaving question ends the program, not the closing of some window.
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    app::ShellApplication shell(line, scale);
+    return shell.start() ? QApplication::exec() : 0;
+}

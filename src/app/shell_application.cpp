@@ -1,0 +1,133 @@
+#include "app/shell_application.h"
+
+#include "app/course_data.h"
+#include "app/missing_parts.h"
+#include "app/prompted_display_warning.h"
+#include "markup/renderer.h"
+#include "platform/qt/font_book.h"
+#include "platform/qt/look/message_dialog.h"
+#include "platform/qt/patient_activator.h"
+#include "platform/qt/qt_processes.h"
+#include "platform/qt/qt_screen.h"
+#include "shell/course_directory.h"
+#include "shell/launcher.h"
+#include "shell/start_up.h"
+#include "viewer/action_dispatcher.h"
+#include "viewer/main_commands.h"
+#include "viewer/multim.h"
+
+#ifdef ORVALENTE_X11
+#include "platform/x11/x11_windows.h"
+#endif
+
+#include <QApplication>
+
+namespace app {
+
+namespace {
+
+/// Where the demonstration course stands beside an installed program.
+QString demonstrationCourse() {
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/../share/orvalente/course");
+}
+
+QString courseDirectory(const CommandLine& commandLine) {
+    return shell::chooseCourseDirectory(
+        {commandLine.course, QCoreApplication::applicationDirPath(), demonstrationCourse()});
+}
+
+#ifdef ORVALENTE_X11
+using OtherWindows = platform::X11Windows;
+#else
+/// Other programs' windows are out of reach; they come to the front by themselves when they start.
+class OtherWindows : public platform::WindowActivator {
+public:
+    bool activate(qint64, const QString&) override { return false; }
+};
+#endif
+
+class LaunchedModules : public viewer::ModuleStarter, public viewer::UpdateCheck {
+public:
+    explicit LaunchedModules(shell::Launcher& launcher) : launcher_(launcher) {}
+
+    void launchModule(std::int16_t code) override { launcher_.launchModule(code); }
+    bool confirmUpdateIsPossible() override { return launcher_.confirmUpdateIsPossible(); }
+
+private:
+    shell::Launcher& launcher_;
+};
+
+/// Ends the program.
+class Ending : public viewer::ModalWindow {
+public:
+    void open() override {
+        QMetaObject::invokeMethod(
+            qApp, [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
+    }
+};
+
+} // namespace
+
+/// Everything there is, in the order in which one needs the other.
+struct ShellApplication::Parts {
+    Parts(const CommandLine& commandLine, double scale)
+        : screen(scale), window(state, fonts, screen),
+          launcher(state, prompter, processes, activator, window), modules(launcher), video(window),
+          printing(window),
+          exercise(window, QStringLiteral("Cette édition n’a pas encore les tests.")),
+          orderForm(window, QStringLiteral("Cette édition n’a pas encore de bon de commande.")),
+          search(window, QStringLiteral("Cette édition n’a pas encore la recherche.")),
+          calculator(window, QStringLiteral("Cette édition n’a pas encore la calculatrice.")),
+          help(window, QStringLiteral("Cette édition n’a pas encore d’aide.")),
+          installation(window, QStringLiteral("Cette édition ne s’actualise pas encore.")),
+          renderer(drawing, window, window.recording()),
+          pages(state, bound, window, window, renderer, video),
+          actions(state, pages, window, modules, exercise, orderForm),
+          neighbours{video,  links,      printing, modules,      exercise, orderForm,
+                     search, calculator, help,     installation, ending},
+          commands(state, actions, window, neighbours, prompter), course(pages), warning(prompter),
+          startUp(state, courseDirectory(commandLine),
+                  {screen, prompter, window, course, warning}) {
+        window.attach({commands, actions, pages, renderer, neighbours,
+                       [this] { return startUp.run() == shell::StartUp::Outcome::GoOn; }});
+    }
+
+    shell::SharedState state;
+    markup::DrawingState drawing;
+    viewer::BoundRecord bound;
+    platform::FontBook fonts;
+    platform::QtScreen screen;
+    platform::look::DialogPrompter prompter;
+    platform::QtProcesses processes;
+    OtherWindows otherWindows;
+    platform::PatientActivator activator{otherWindows};
+
+    viewer::Multim window;
+    shell::Launcher launcher;
+    LaunchedModules modules;
+    MissingVideo video;
+    MissingPrinting printing;
+    MissingLinks links;
+    MissingWindow exercise, orderForm, search, calculator, help, installation;
+    Ending ending;
+
+    markup::Renderer renderer;
+    viewer::PageLoader pages;
+    viewer::ActionDispatcher actions;
+    viewer::Neighbours neighbours;
+    viewer::MainCommands commands;
+    CourseData course;
+    PromptedDisplayWarning warning;
+    shell::StartUp startUp;
+};
+
+ShellApplication::ShellApplication(const CommandLine& commandLine, double scale)
+    : parts_(std::make_unique<Parts>(commandLine, scale)) {}
+
+ShellApplication::~ShellApplication() = default;
+
+bool ShellApplication::start() {
+    return parts_->window.Form_Load();
+}
+
+} // namespace app

@@ -1,0 +1,223 @@
+#include "coursetool/course_builder.h"
+
+#include "coursetool/paths.h"
+#include "coursetool/source_text.h"
+#include "coursetool/tables.h"
+#include "jet/unicode.h"
+
+namespace coursetool {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// Highest number that a page code holds: codes have three digits.
+constexpr int kHighestCode = 999;
+/// Highest record position that the index of the pages holds: its entries have 16 bits.
+constexpr int kHighestPosition = 32767;
+/// Numbers warned about one by one; a course beyond these does not want to hear of each.
+constexpr int kNumberWarnings = 20;
+
+/// The files with this ending in file-name order. What else stands there, hidden files aside, is
+/// named: a page that silently is none would be missed late.
+std::vector<fs::path> sourcesIn(const fs::path& folder, std::string_view ending,
+                                std::string_view alsoExpected, Report& report) {
+    std::vector<fs::path> files;
+    for (const fs::directory_entry& entry : entriesOf(folder, report)) {
+        const std::string name = shown(entry.path().filename());
+        std::error_code error;
+        if (name.ends_with(ending) && entry.is_regular_file(error))
+            files.push_back(entry.path());
+        else if (!name.starts_with('.') && name != alsoExpected)
+            report.warning({shown(entry.path())},
+                           "laissé de côté : ce n’est pas un fichier " + std::string(ending));
+    }
+    return files;
+}
+
+jet::Value memo(std::optional<std::string_view> sourceText) {
+    if (!sourceText)
+        return {};
+    return jet::toUtf16(toDatabaseText(*sourceText));
+}
+
+Place placeOf(const Fields& fields, const fs::path& file) {
+    return fields.places.front().line > 0 ? fields.places.front() : Place{shown(file), 1, 1};
+}
+
+} // namespace
+
+CourseBuilder::CourseBuilder(const fs::path& source, StagedCourse& course, const fs::path& output,
+                             Report& report)
+    : source_(source), course_(course), report_(report),
+      courseDatabase_(course.pathFor(kCourseFile), shown(output / kCourseFile), report),
+      exerciseDatabase_(course.pathFor(kExerciseFile), shown(output / kExerciseFile), report),
+      cours_(courseDatabase_, coursTable(), report),
+      description_(exerciseDatabase_, descriptionTable(), report),
+      contenu_(exerciseDatabase_, contenuTable(), report),
+      pageNumbers_(coursTable().fields.front()), chapters_(descriptionTable().fields.front()),
+      references_(contenuTable().fields.front()) {}
+
+void CourseBuilder::compilePages() {
+    const fs::path folder = source_ / kPagesFolder;
+    std::error_code error;
+    if (!fs::is_directory(folder, error)) {
+        report_.fault({shown(folder)}, "le dossier des pages manque : y mettre un fichier .page "
+                                       "par page");
+        return;
+    }
+    for (const fs::path& file : sourcesIn(folder, kPageEnding, "", report_))
+        compilePage(file);
+    if (cours_.count() == 0)
+        report_.warning({shown(folder)}, "aucune page : le cours sera vide");
+    if (numberWarnings_ > kNumberWarnings)
+        report_.warning({shown(folder)}, "et " + std::to_string(numberWarnings_ - kNumberWarnings) +
+                                             " autres numéros au-delà de 999");
+}
+
+void CourseBuilder::compilePage(const fs::path& file) {
+    const auto source = readSource(file, report_);
+    const auto parts = source ? splitFrontMatter(*source, shown(file), report_) : std::nullopt;
+    if (!parts)
+        return;
+    Fields fields =
+        readFields(parts->frontMatter, 2, shown(file), frontMatterFields(coursTable()), report_);
+    const Place place = placeOf(fields, file);
+    pageNumbers_.take(fields.values.front(), place, report_);
+    warnAboutNumber(fields);
+    fields.values.push_back(memo(parts->body));
+    cours_.append(fields.values, place);
+    if (cours_.count() == kHighestPosition + 2)
+        report_.warning(place, "au-delà de 32 768 pages, l’index ne retient plus les positions : "
+                               "cette page et les suivantes restent hors d’atteinte");
+}
+
+void CourseBuilder::warnAboutNumber(const Fields& fields) {
+    const auto number = fields.values.front().integer();
+    if (!number || (*number >= 0 && *number <= kHighestCode))
+        return;
+    if (++numberWarnings_ > kNumberWarnings)
+        return;
+    report_.warning(fields.places.front(),
+                    *number < 0
+                        ? "un numéro de page négatif : aucun code ne mène à cette page"
+                        : "un numéro de page au-delà de 999 : un code n’en garde que les trois "
+                          "derniers chiffres et mène ailleurs");
+}
+
+void CourseBuilder::compileExercises() {
+    const fs::path folder = source_ / kExercisesFolder;
+    std::error_code error;
+    if (!fs::exists(folder, error))
+        return; // a course without tests: the tables are there and empty
+    for (const fs::directory_entry& entry : entriesOf(folder, report_)) {
+        if (entry.is_directory(error))
+            compileTest(entry.path());
+        else if (!shown(entry.path().filename()).starts_with('.'))
+            report_.warning({shown(entry.path())},
+                            "laissé de côté : les questions sont dans un dossier par test");
+    }
+}
+
+void CourseBuilder::compileTest(const fs::path& folder) {
+    compileChapter(folder / kChapterFile);
+    for (const fs::path& file : sourcesIn(folder, kQuestionEnding, kChapterFile, report_))
+        compileQuestion(file);
+}
+
+void CourseBuilder::compileChapter(const fs::path& file) {
+    std::error_code error;
+    if (!fs::exists(file, error)) {
+        report_.fault({shown(file)},
+                      "le fichier manque : y écrire Chapitre, Titre et Nbquest du test");
+        return;
+    }
+    const auto source = readSource(file, report_);
+    if (!source)
+        return;
+    const Fields fields =
+        readFields(*source, 1, shown(file), frontMatterFields(descriptionTable()), report_);
+    chapters_.take(fields.values.front(), placeOf(fields, file), report_);
+    description_.append(fields.values, placeOf(fields, file));
+}
+
+void CourseBuilder::compileQuestion(const fs::path& file) {
+    const auto source = readSource(file, report_);
+    const auto parts = source ? splitFrontMatter(*source, shown(file), report_) : std::nullopt;
+    if (!parts)
+        return;
+    Fields fields =
+        readFields(parts->frontMatter, 2, shown(file), frontMatterFields(contenuTable()), report_);
+    references_.take(fields.values.front(), placeOf(fields, file), report_);
+    if (parts->body) {
+        const QuestionParts texts =
+            splitQuestion(*parts->body, parts->bodyLine, shown(file), report_);
+        fields.values.push_back(memo(texts.question));
+        fields.values.push_back(memo(texts.siFaux));
+    } else {
+        fields.values.resize(contenuTable().fields.size());
+    }
+    contenu_.append(fields.values, placeOf(fields, file));
+}
+
+void CourseBuilder::checkFiles() {
+    const auto list = [&](const char* folder) {
+        std::error_code error;
+        const fs::path path = source_ / folder;
+        return fs::exists(path, error) ? listTree(path, report_) : FileTree();
+    };
+    files_ = list(kFilesFolder);
+    disc_ = list(kDiscFolder);
+    NameTable reserved;
+    for (const char* name : {kCourseFile, kExerciseFile, kDiscFolder, StagedCourse::kStagingFolder})
+        reserved.add(name);
+    checkNames(source_ / kFilesFolder, files_, reserved);
+    checkNames(source_ / kDiscFolder, disc_, {});
+}
+
+void CourseBuilder::checkNames(const fs::path& root, const FileTree& tree,
+                               const NameTable& reserved) {
+    NameTable names;
+    const auto take = [&](const fs::path& path) {
+        if (reserved.find(path))
+            report_.fault({shown(root / path)},
+                          "ce nom est celui d’une partie du cours : renommer le fichier");
+        else if (const auto other = names.find(path))
+            report_.fault({shown(root / path)}, "même nom que " + inQuotes(shown(*other)) +
+                                                    ", à la casse près : en renommer un");
+        else
+            names.add(path);
+    };
+    for (const fs::path& path : tree.directories)
+        take(path);
+    for (const fs::path& path : tree.files)
+        take(path);
+}
+
+void CourseBuilder::copyFiles() {
+    copyTree(source_ / kFilesFolder, files_, {});
+    copyTree(source_ / kDiscFolder, disc_, kDiscFolder);
+}
+
+void CourseBuilder::copyTree(const fs::path& from, const FileTree& tree, const fs::path& to) {
+    for (const fs::path& path : tree.directories)
+        course_.addDirectory(to / path);
+    for (const fs::path& path : tree.files) {
+        std::error_code error;
+        fs::copy_file(from / path, course_.pathFor(to / path), error);
+        if (error)
+            report_.fault({shown(from / path)},
+                          "le fichier ne peut pas être copié : " + error.message());
+        course_.add(to / path);
+    }
+}
+
+void CourseBuilder::finishDatabases() {
+    exerciseDatabase_.finish();
+    courseDatabase_.finish();
+    // Last, so that whoever reads the new pages finds what they name.
+    course_.add(kExerciseFile);
+    course_.add(kCourseFile);
+}
+
+} // namespace coursetool

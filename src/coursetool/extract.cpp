@@ -1,0 +1,229 @@
+#include "coursetool/extract.h"
+
+#include "coursetool/dump.h"
+#include "coursetool/file_list.h"
+#include "coursetool/paths.h"
+#include "coursetool/question_folders.h"
+#include "coursetool/source_writer.h"
+#include "coursetool/staged_course.h"
+#include "coursetool/table_source.h"
+#include "coursetool/tables.h"
+#include "jet/unicode.h"
+
+#include <unordered_map>
+#include <unordered_set>
+
+namespace coursetool {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// Questions of one test are numbered from 1 to 99 after its chapter: chapter 3 has 301 to 399.
+constexpr std::int32_t kReferencesPerChapter = 100;
+
+/// `number` with leading zeros, so that names of `count` files stand in the order of their numbers.
+std::string ordinal(std::size_t number, std::size_t count) {
+    const std::string digits = std::to_string(number);
+    const std::size_t width = std::to_string(count).size();
+    return std::string(width - std::min(width, digits.size()), '0') + digits;
+}
+
+/// "007-12" for the seventh record, whose key is 12; "007" when it has none.
+std::string recordName(const SourceRecord& record, std::size_t count) {
+    const auto key = record.values.front().integer();
+    return ordinal(record.position + 1, count) + (key ? '-' + std::to_string(*key) : "");
+}
+
+/// Reports keys that occur twice: `build` refuses them.
+class KeyCheck {
+public:
+    explicit KeyCheck(Report& report) : report_(report) {}
+
+    void take(const SourceRecord& record) {
+        const auto key = record.values.front().integer();
+        if (key && !seen_.insert(*key).second)
+            report_.fault(record.place, "le numéro " + std::to_string(*key) +
+                                            " est en double : build le refusera");
+    }
+
+private:
+    Report& report_;
+    std::unordered_set<std::int32_t> seen_;
+};
+
+class CourseExtractor {
+public:
+    CourseExtractor(const fs::path& course, const fs::path& output, Report& report)
+        : course_(course), output_(output), report_(report), writer_(report) {}
+
+    void run() {
+        const FileTree tree = listTree(course_, report_);
+        const auto courseFile = findDatabase(tree, kCourseFile);
+        const auto exerciseFile = findDatabase(tree, kExerciseFile);
+        if (!courseFile) {
+            report_.fault({shown(course_)}, "aucun cours ici : Zekx.mdb manque");
+            return;
+        }
+        if (!makeDirectory(output_ / kPagesFolder))
+            return;
+        extractPages(course_ / *courseFile);
+        if (exerciseFile)
+            extractExercises(course_ / *exerciseFile);
+        copyFiles(tree, *courseFile, exerciseFile.value_or(fs::path()));
+    }
+
+private:
+    static std::optional<fs::path> findDatabase(const FileTree& tree, const char* name) {
+        NameTable names;
+        for (const fs::path& file : tree.files)
+            names.add(file);
+        return names.find(name);
+    }
+
+    bool makeDirectory(const fs::path& path) {
+        std::error_code error;
+        fs::create_directories(path, error);
+        if (error)
+            report_.fault({shown(path)}, "le dossier ne peut pas être créé : " + error.message());
+        return !error;
+    }
+
+    std::optional<jet::Database> open(const fs::path& file) {
+        auto database = jet::Database::open(file);
+        if (!database) {
+            report_.fault({shown(file)}, database.error().sentence);
+            return std::nullopt;
+        }
+        reportProblems(database->problems(), file, report_);
+        return *std::move(database);
+    }
+
+    void tellOtherTables(const jet::Database& database, const fs::path& file,
+                         std::initializer_list<std::string_view> known) {
+        for (const jet::TableInfo& info : database.tables()) {
+            const auto same = [&](std::string_view name) {
+                return jet::sameName(info.name, jet::toUtf16(name));
+            };
+            if (std::none_of(known.begin(), known.end(), same))
+                report_.fault({shown(file)},
+                              "table " + inQuotes(jet::toUtf8(info.name)) +
+                                  " non reprise : les sources n’en ont pas la place");
+        }
+    }
+
+    void extractPages(const fs::path& file) {
+        const auto database = open(file);
+        if (!database)
+            return;
+        tellOtherTables(*database, file, {coursTable().name});
+        TableSource cours(*database, file, coursTable(), report_);
+        const std::size_t count = cours.recordCount();
+        KeyCheck numbers(report_);
+        cours.forEach([&](SourceRecord& record) {
+            numbers.take(record);
+            writer_.writePage(record,
+                              output_ / kPagesFolder / (recordName(record, count) + kPageEnding));
+        });
+    }
+
+    void extractExercises(const fs::path& file) {
+        const auto database = open(file);
+        if (!database)
+            return;
+        tellOtherTables(*database, file, {descriptionTable().name, contenuTable().name});
+        extractChapters(*database, file);
+        extractQuestions(*database, file);
+    }
+
+    void extractChapters(const jet::Database& database, const fs::path& file) {
+        TableSource description(database, file, descriptionTable(), report_);
+        const std::size_t count = description.recordCount();
+        KeyCheck chapters(report_);
+        description.forEach([&](SourceRecord& record) {
+            chapters.take(record);
+            if (const auto chapter = record.values.front().integer())
+                folderOfChapter_.try_emplace(*chapter, folders_.size());
+            folders_.push_back(output_ / kExercisesFolder / recordName(record, count));
+            if (makeDirectory(folders_.back()))
+                writer_.writeChapter(record, folders_.back() / kChapterFile);
+        });
+    }
+
+    void extractQuestions(const jet::Database& database, const fs::path& file) {
+        TableSource contenu(database, file, contenuTable(), report_);
+        const std::size_t count = contenu.recordCount();
+        std::vector<std::optional<std::size_t>> own;
+        contenu.forEach([&](SourceRecord& record) { own.push_back(folderOf(record)); });
+        if (count > 0 && folders_.empty())
+            makeFolderWithoutTest(file);
+        const std::vector<std::size_t> folders = shareOut(own);
+        KeyCheck references(report_);
+        std::size_t next = 0;
+        contenu.forEach([&](SourceRecord& record) {
+            references.take(record);
+            const std::size_t folder = next < folders.size() ? folders[next++] : 0;
+            writer_.writeQuestion(record,
+                                  folders_[folder] / (recordName(record, count) + kQuestionEnding));
+        });
+    }
+
+    std::optional<std::size_t> folderOf(const SourceRecord& record) const {
+        const auto reference = record.values.front().integer();
+        if (!reference)
+            return std::nullopt;
+        const auto found = folderOfChapter_.find(*reference / kReferencesPerChapter);
+        return found != folderOfChapter_.end() ? std::optional(found->second) : std::nullopt;
+    }
+
+    void makeFolderWithoutTest(const fs::path& file) {
+        report_.fault({shown(file)}, "DESCRIPTION est vide : build demandera un chapter.toml pour "
+                                     "les questions");
+        folders_.push_back(output_ / kExercisesFolder / "sans-test");
+        makeDirectory(folders_.back());
+    }
+
+    void copyFiles(const FileTree& tree, const fs::path& courseFile, const fs::path& exerciseFile) {
+        for (const fs::path& directory : tree.directories)
+            if (!isStaging(directory))
+                makeDirectory(placeOf(directory));
+        for (const fs::path& file : tree.files)
+            if (file != courseFile && file != exerciseFile && !isStaging(file))
+                copy(file);
+    }
+
+    static bool isStaging(const fs::path& path) {
+        return *path.begin() == StagedCourse::kStagingFolder;
+    }
+
+    /// Disc directories stand beside the files in the sources, among them in the course.
+    fs::path placeOf(const fs::path& relative) const {
+        const bool onDisc = *relative.begin() == kDiscFolder;
+        return onDisc ? output_ / relative : output_ / kFilesFolder / relative;
+    }
+
+    void copy(const fs::path& file) {
+        std::error_code error;
+        const fs::path to = placeOf(file);
+        fs::create_directories(to.parent_path(), error);
+        fs::copy_file(course_ / file, to, error);
+        if (error)
+            report_.fault({shown(course_ / file)},
+                          "le fichier ne peut pas être copié : " + error.message());
+    }
+
+    fs::path course_;
+    fs::path output_;
+    Report& report_;
+    SourceWriter writer_;
+    std::vector<fs::path> folders_;
+    std::unordered_map<std::int32_t, std::size_t> folderOfChapter_;
+};
+
+} // namespace
+
+void extract(const fs::path& course, const fs::path& output, Report& report) {
+    CourseExtractor(course, output, report).run();
+}
+
+} // namespace coursetool

@@ -1,0 +1,79 @@
+#include "coursetool/file_list.h"
+
+#include "coursetool/paths.h"
+#include "jet/unicode.h"
+
+#include <algorithm>
+
+namespace coursetool {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// The ASCII characters of a name in lower case: the same for all its case variants.
+std::string caseKey(const fs::path& name) {
+    std::string key;
+    for (const char c : shown(name))
+        if (static_cast<unsigned char>(c) < 0x80)
+            key += c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
+    return key;
+}
+
+void listInto(FileTree& tree, const fs::path& root, const fs::path& relative, Report& report) {
+    for (const fs::directory_entry& entry : entriesOf(root / relative, report)) {
+        const fs::path name = relative / entry.path().filename();
+        std::error_code error;
+        if (entry.is_regular_file(error)) {
+            tree.files.push_back(name);
+        } else if (entry.is_directory(error) && !entry.is_symlink(error)) {
+            tree.directories.push_back(name);
+            listInto(tree, root, name, report);
+        } else {
+            report.fault({shown(entry.path())}, "ni fichier ni dossier : à remplacer par une copie "
+                                                "de ce qu’il désigne, ou à enlever");
+        }
+    }
+}
+
+} // namespace
+
+std::vector<fs::directory_entry> entriesOf(const fs::path& directory, Report& report) {
+    std::vector<fs::directory_entry> entries;
+    std::error_code error;
+    for (fs::directory_iterator it(directory, error), end; !error && it != end; it.increment(error))
+        entries.push_back(*it);
+    if (error)
+        report.fault({shown(directory)}, "le dossier ne peut pas être lu : " + error.message());
+    std::sort(entries.begin(), entries.end(), [](const auto& a, const auto& b) {
+        return a.path().u8string() < b.path().u8string();
+    });
+    return entries;
+}
+
+FileTree listTree(const fs::path& directory, Report& report) {
+    FileTree tree;
+    listInto(tree, directory, {}, report);
+    return tree;
+}
+
+void NameTable::add(const fs::path& name) {
+    names_[caseKey(name)].push_back(name);
+}
+
+std::optional<fs::path> NameTable::find(const fs::path& name) const {
+    const auto found = names_.find(caseKey(name));
+    if (found == names_.end())
+        return std::nullopt;
+    const auto& candidates = found->second;
+    if (std::find(candidates.begin(), candidates.end(), name) != candidates.end())
+        return name;
+    const std::u16string wanted = jet::toUtf16(shown(name));
+    const auto same =
+        std::find_if(candidates.begin(), candidates.end(), [&](const fs::path& other) {
+            return jet::sameName(jet::toUtf16(shown(other)), wanted);
+        });
+    return same != candidates.end() ? std::optional(*same) : std::nullopt;
+}
+
+} // namespace coursetool

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "markup/renderer.h"
+#include "markup/windows.h"
+#include "platform/recording.h"
+#include "platform/rich_text_holder.h"
+#include "platform/surface.h"
+#include "platform/text_metrics.h"
+#include "viewer/neighbours.h"
+#include "viewer/page_view.h"
+
+namespace coursetool {
+
+/// The main window as far as a page can tell, without a window: its surfaces, its source, and a
+/// recording of what is drawn.
+class OffscreenPage : public markup::PageWindow,
+                      public markup::SourceWindow,
+                      public viewer::PageView,
+                      public viewer::VideoDevice {
+public:
+    explicit OffscreenPage(const platform::TextMetrics& metrics);
+
+    markup::DrawingState& state() { return state_; }
+    markup::Renderer& renderer() { return renderer_; }
+    const platform::Recording& recording() const { return recording_; }
+
+    /// Draws a bare page source.
+    void draw(const QString& source);
+
+    platform::Surface& pictureTexte() override { return pictureTexte_; }
+    platform::Surface& pictureIllus() override { return pictureIllus_; }
+    platform::Surface& titre() override { return titre_; }
+    platform::RichTextHolder& code() override { return code_; }
+
+    void clearPictures() override { recording_.clear(); }
+    void setTitle(const QString& title) override;
+
+    // What shows in the window alone.
+    void setBusy(bool) override {}
+    void refresh(platform::Surface&) override {}
+    void preparePrinter() override {}
+    void setPageVisible(bool) override {}
+    void resetLinks() override {}
+    void hideScrollBarAndVideoFrame() override {}
+    void setCaption(const QString&) override {}
+    void setBackEnabled(bool) override {}
+    void setForwardEnabled(bool) override {}
+    void fitPage() override {}
+    void setChapterButtons(bool, bool) override {}
+    void setPrintable(bool) override {}
+    void setSummary(const QString&, const QString&) override {}
+    void setReturnToTestVisible(bool) override {}
+    void showHourglass() override {}
+    void restorePointer() override {}
+    void close() override {}
+    void press(int) override {}
+
+private:
+    const platform::TextMetrics& metrics_;
+    platform::Recording recording_;
+    platform::Surface pictureTexte_;
+    platform::Surface pictureIllus_;
+    platform::Surface titre_;
+    platform::RichTextHolder code_;
+    markup::DrawingState state_;
+    markup::Renderer renderer_;
+};
+
+} // namespace coursetool

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace coursetool {
+
+/// A place in a source. Lines and columns count from 1, columns in characters; 0 where the file as
+/// a whole is meant.
+struct Place {
+    std::string file;
+    int line = 0;
+    int column = 0;
+};
+
+/// What a subcommand has to say about a course: one line each, French, "FILE:LINE:COLUMN: sentence"
+/// (a warning has "avertissement : " before its sentence).
+class Report {
+public:
+    void fault(const Place& place, std::string_view sentence);
+    void warning(const Place& place, std::string_view sentence);
+
+    bool hasFaults() const { return faults_ > 0; }
+    std::size_t faultCount() const { return faults_; }
+    /// In the order in which they were found.
+    const std::vector<std::string>& lines() const { return lines_; }
+
+private:
+    std::size_t faults_ = 0;
+    std::vector<std::string> lines_;
+};
+
+/// "« x »": words of a course inside a sentence.
+std::string inQuotes(std::string_view words);
+
+} // namespace coursetool

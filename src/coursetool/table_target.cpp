@@ -1,0 +1,59 @@
+#include "coursetool/table_target.h"
+
+#include "jet/unicode.h"
+
+namespace coursetool {
+
+DatabaseTarget::DatabaseTarget(std::filesystem::path path, std::string shownAs, Report& report)
+    : shownAs_(std::move(shownAs)), report_(report) {
+    auto writer = jet::DatabaseWriter::create(path);
+    if (writer)
+        writer_ = *std::move(writer);
+    else
+        tell(writer.error());
+}
+
+std::optional<jet::TableWriter> DatabaseTarget::addTable(const TableRule& rule) {
+    if (!writer_)
+        return std::nullopt;
+    auto table = writer_->addTable(jet::toUtf16(rule.name), columnsOf(rule));
+    if (table)
+        return *table;
+    tell(table.error());
+    return std::nullopt;
+}
+
+void DatabaseTarget::finish() {
+    if (!writer_)
+        return;
+    if (const auto done = writer_->finish(); !done)
+        tell(done.error());
+}
+
+void DatabaseTarget::tell(const jet::Failure& failure) {
+    report_.fault({shownAs_}, failure.sentence);
+}
+
+TableTarget::TableTarget(DatabaseTarget& database, const TableRule& rule, Report& report)
+    : report_(report), writer_(database.addTable(rule)) {}
+
+void TableTarget::append(std::span<const jet::Value> values, const Place& place) {
+    ++count_;
+    if (!writer_ || report_.hasFaults())
+        return;
+    if (const auto done = writer_->append(values); !done)
+        report_.fault(place, done.error().sentence);
+}
+
+void KeyPlaces::take(const jet::Value& number, const Place& place, Report& report) {
+    const auto key = number.integer();
+    if (!key)
+        return;
+    const auto [known, isNew] = places_.try_emplace(*key, place);
+    if (!isNew)
+        report.fault(place, inQuotes(std::string(key_.name) + " = " + std::to_string(*key)) +
+                                " est déjà pris par " + known->second.file + ", ligne " +
+                                std::to_string(known->second.line) + " : choisir un autre numéro");
+}
+
+} // namespace coursetool

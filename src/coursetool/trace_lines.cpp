@@ -1,0 +1,140 @@
+#include "coursetool/trace_lines.h"
+
+#include "coursetool/json_text.h"
+#include "jet/unicode.h"
+#include "platform/twips.h"
+
+namespace coursetool {
+
+namespace {
+
+void appendString(QStringView text, std::string& out) {
+    std::string utf8;
+    jet::appendUtf8({text.utf16(), static_cast<std::size_t>(text.size())}, utf8);
+    appendJsonString(utf8, out);
+}
+
+/// One JSON object, field by field in the order of the calls.
+class Line {
+public:
+    Line(std::string_view op, std::string& out) : out_(out) {
+        out_ += "{\"op\":";
+        appendJsonString(op, out_);
+    }
+    ~Line() { out_ += "}\n"; }
+    Line(const Line&) = delete;
+    Line& operator=(const Line&) = delete;
+
+    Line& text(std::string_view name, QStringView value) {
+        key(name);
+        appendString(value, out_);
+        return *this;
+    }
+    template <class Number>
+    Line& number(std::string_view name, Number value) {
+        key(name);
+        if constexpr (std::is_integral_v<Number>)
+            out_ += std::to_string(value);
+        else
+            appendJsonNumber(value + Number(0), out_); // no "-0"
+        return *this;
+    }
+    Line& flag(std::string_view name, bool value) {
+        key(name);
+        out_ += value ? "true" : "false";
+        return *this;
+    }
+    Line& colour(std::string_view name, QRgb value) {
+        return text(name, QStringLiteral("#%1").arg(value & 0xffffff, 6, 16, QLatin1Char('0')));
+    }
+    Line& surface(platform::SurfaceId id) { return text("surface", platform::surfaceName(id)); }
+    Line& font(const platform::Font& font) {
+        return text("font", font.face)
+            .number("size", font.points)
+            .flag("bold", font.bold)
+            .flag("italic", font.italic)
+            .flag("underline", font.underline);
+    }
+
+private:
+    void key(std::string_view name) {
+        out_ += ',';
+        appendJsonString(name, out_);
+        out_ += ':';
+    }
+
+    std::string& out_;
+};
+
+struct Describe {
+    std::string& out;
+
+    void operator()(const platform::TextOperation& text) const {
+        Line("text", out)
+            .surface(text.surface)
+            .number("x", text.x)
+            .number("y", text.y)
+            .text("text", text.text)
+            .font(text.font)
+            .colour("ink", text.ink)
+            .number("width", text.width);
+    }
+    void operator()(const platform::LineOperation& line) const {
+        Line("line", out)
+            .surface(line.surface)
+            .number("x1", line.x1)
+            .number("y1", line.y1)
+            .number("x2", line.x2)
+            .number("y2", line.y2)
+            .colour("ink", line.ink)
+            .number("lineWidth", line.lineWidth);
+    }
+    void operator()(const platform::FillOperation& fill) const {
+        const bool mask = fill.mode == platform::FillMode::Mask;
+        Line("fill", out)
+            .surface(fill.surface)
+            .number("x", fill.x)
+            .number("y", fill.y)
+            .number("width", fill.width)
+            .number("height", fill.height)
+            .colour("ink", fill.ink)
+            .text("mode", mask ? u"mask" : u"copy");
+    }
+    void operator()(const platform::SwitchOperation& change) const {
+        Line("surface", out).text("name", platform::surfaceName(change.surface));
+    }
+    void operator()(const platform::ClearOperation&) const {}
+    void operator()(const platform::CaptionOperation& caption) const {
+        Line("caption", out).text("text", caption.text);
+    }
+    void operator()(const platform::FailedOperation& failed) const {
+        Line("failed", out)
+            .number("line", failed.line)
+            .text("directive", failed.directive)
+            .text("reason", failed.reason);
+    }
+};
+
+} // namespace
+
+void appendTraceLine(const platform::Operation& operation, std::string& out) {
+    std::visit(Describe{out}, operation);
+}
+
+void appendTraceEnd(const markup::DrawingState& state, std::string& out) {
+    const platform::Surface& surface = *state.surfaceDessin;
+    Line("end", out)
+        .surface(surface.id())
+        .number("x", surface.penX())
+        .number("y", surface.penY())
+        .number("height", surface.heightPx() * platform::kTwipsPerPixel)
+        .number("hauteurPage", state.hauteurPage)
+        .number("alignement", state.alignement)
+        .number("margeGauche", state.margeGauche)
+        .number("margeDroite", state.margeDroite)
+        .number("interligne", state.interligne)
+        .font(surface.font())
+        .colour("ink", surface.ink());
+}
+
+} // namespace coursetool

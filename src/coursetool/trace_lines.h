@@ -1,0 +1,17 @@
+#pragma once
+
+#include "markup/drawing_state.h"
+#include "platform/recording.h"
+
+#include <string>
+
+namespace coursetool {
+
+/// Appends the operation as one line of a trace: a JSON object and a line end. Operations that draw
+/// nothing and change nothing a trace tells of append nothing.
+void appendTraceLine(const platform::Operation& operation, std::string& out);
+
+/// Appends the last line of a trace: the drawing state as the page left it.
+void appendTraceEnd(const markup::DrawingState& state, std::string& out);
+
+} // namespace coursetool

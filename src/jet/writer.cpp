@@ -1,0 +1,41 @@
+#include "jet/writer.h"
+
+#include "jet/database_builder.h"
+
+#include <utility>
+
+namespace jet {
+
+Result<void> TableWriter::append(std::span<const Value> values) {
+    const auto added = table_->add(values);
+    if (!added)
+        return added.error();
+    return {};
+}
+
+Result<DatabaseWriter> DatabaseWriter::create(const std::filesystem::path& path) {
+    auto file = OutputFile::create(path);
+    if (!file)
+        return file.error();
+    return DatabaseWriter(std::make_unique<DatabaseBuilder>(std::move(*file)));
+}
+
+DatabaseWriter::DatabaseWriter(std::unique_ptr<DatabaseBuilder> builder)
+    : builder_(std::move(builder)) {}
+DatabaseWriter::DatabaseWriter(DatabaseWriter&&) noexcept = default;
+DatabaseWriter& DatabaseWriter::operator=(DatabaseWriter&&) noexcept = default;
+DatabaseWriter::~DatabaseWriter() = default;
+
+Result<TableWriter> DatabaseWriter::addTable(std::u16string_view name,
+                                             std::span<const Column> columns) {
+    const auto table = builder_->addTable(name, columns);
+    if (!table)
+        return table.error();
+    return TableWriter(*table);
+}
+
+Result<void> DatabaseWriter::finish() {
+    return builder_->finish();
+}
+
+} // namespace jet

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+
+namespace platform {
+
+/// A function of a module that is installed with the program, or the reason why it is not to be
+/// had, in the system's own words.
+struct ModuleFunction {
+    void* address = nullptr;
+    std::string reason;
+};
+
+/// Loads the module with this bare file name, for good, and looks `symbol` up. The module is looked
+/// for beside the program and where the program was told to look when it was linked.
+ModuleFunction loadModuleFunction(const char* fileName, const char* symbol);
+
+} // namespace platform

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QByteArray>
+#include <QRectF>
+#include <QRgb>
+#include <QString>
+
+#include <array>
+#include <memory>
+
+class QPainter;
+class QSvgRenderer;
+
+namespace platform::look {
+
+/// A line drawing of the folder icons/, in blue with a pale accent. It is read when it is first
+/// painted and painted as curves, so that it is crisp at every density and at every place.
+class Icon {
+public:
+    /// `name` is that of the file, without its ending. A name without a file paints nothing.
+    explicit Icon(QString name = {});
+    ~Icon();
+    Icon(Icon&&) noexcept;
+    Icon& operator=(Icon&&) noexcept;
+
+    bool isEmpty() const { return name_.isEmpty(); }
+    const QString& name() const { return name_; }
+
+    enum class Style {
+        Coloured,
+        White, ///< lines only, for blue ground
+        Faded, ///< at 40 % over the ground, for what cannot be used now
+    };
+
+    /// `ground` is the colour below, which only the faded style asks for.
+    void paint(QPainter& painter, const QRectF& where, Style style, QRgb ground = 0) const;
+
+private:
+    QSvgRenderer& renderer(Style style, QRgb ground) const;
+
+    static constexpr std::size_t kStyles = 3;
+
+    QString name_;
+    mutable std::array<std::unique_ptr<QSvgRenderer>, kStyles> renderers_;
+    mutable QRgb fadedGround_ = 0;
+};
+
+} // namespace platform::look

@@ -1,0 +1,169 @@
+#include "platform/qt/look/message_dialog.h"
+
+#include "platform/qt/look/button.h"
+#include "platform/qt/look/mnemonics.h"
+#include "platform/qt/look/palette.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QPainter>
+#include <QTextLayout>
+
+namespace platform::look {
+
+namespace {
+
+constexpr int kWidth = 400;
+constexpr int kLeastHeight = 148;
+constexpr QRect kSign(24, 24, 48, 48);
+constexpr int kTextLeft = 96;
+constexpr int kTextWidth = kWidth - kTextLeft - 24;
+constexpr int kLineHeight = 20;
+constexpr int kBaseline = 15; ///< in a line
+constexpr int kMargin = 16;
+constexpr int kGap = 8;
+constexpr int kButtonHeight = 32;
+constexpr int kButtonWidth = 96; ///< at least
+constexpr int kAboveButtons = 28;
+
+/// A label whose lines stand further apart than the font asks for.
+class MessageText : public QLabel {
+public:
+    MessageText(const QString& text, QWidget* parent) : QLabel(parent) {
+        setTextFormat(Qt::PlainText);
+        setText(text);
+        setFont(interfaceFont(kLabelPx));
+    }
+
+    int wrappedHeight() const {
+        int lines = 0;
+        forEachLine([&lines](const QTextLine&, const QTextLayout&) { ++lines; });
+        return lines * kLineHeight;
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.setFont(font());
+        painter.setPen(QColor::fromRgb(kInk));
+        int baseline = kBaseline;
+        forEachLine([&](const QTextLine& line, const QTextLayout& layout) {
+            painter.drawText(QPointF(0, baseline),
+                             layout.text().mid(line.textStart(), line.textLength()));
+            baseline += kLineHeight;
+        });
+    }
+
+private:
+    template <class Visit>
+    void forEachLine(Visit visit) const {
+        const QStringList paragraphs = text().split(u'\n');
+        for (const QString& paragraph : paragraphs) {
+            QTextLayout layout(paragraph, font());
+            layout.beginLayout();
+            for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+                line.setLineWidth(kTextWidth);
+                visit(line, layout);
+            }
+            layout.endLayout();
+        }
+    }
+};
+
+QString signName(Message::Icon icon) {
+    switch (icon) {
+    case Message::Icon::Critical:
+        return QStringLiteral("error");
+    case Message::Icon::Question:
+        return QStringLiteral("question");
+    case Message::Icon::Exclamation:
+        return QStringLiteral("warning");
+    case Message::Icon::Information:
+        break;
+    }
+    return QStringLiteral("info");
+}
+
+struct Choice {
+    Answer answer;
+    QString caption;
+};
+
+/// In the order of the buttons. The last one is what closing the box answers.
+QList<Choice> choices(Message::Buttons buttons) {
+    const Choice ok{Answer::Ok, QStringLiteral("OK")};
+    const Choice cancel{Answer::Cancel, QStringLiteral("&Annuler")};
+    switch (buttons) {
+    case Message::Buttons::OkCancel:
+        return {ok, cancel};
+    case Message::Buttons::YesNo:
+        return {{Answer::Yes, QStringLiteral("&Oui")}, {Answer::No, QStringLiteral("&Non")}};
+    case Message::Buttons::RetryCancel:
+        return {{Answer::Retry, QStringLiteral("&Réessayer")}, cancel};
+    case Message::Buttons::Ok:
+        break;
+    }
+    return {ok};
+}
+
+} // namespace
+
+MessageDialog::MessageDialog(const Message& message, QWidget* parent)
+    : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                          Qt::WindowCloseButtonHint),
+      sign_(signName(message.icon)),
+      text_(new MessageText(
+          QString(message.text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")), this)),
+      answer_(choices(message.buttons).last().answer) {
+    setWindowTitle(message.title);
+    setAccessibleName(message.title);
+    setAccessibleDescription(text_->text());
+    setModal(true);
+    addButtons(message.buttons);
+    arrange();
+    new MnemonicDisplay(this);
+}
+
+void MessageDialog::addButtons(Message::Buttons buttons) {
+    for (const Choice& choice : choices(buttons)) {
+        const auto kind = buttons_.isEmpty() ? Button::Kind::Main : Button::Kind::Ordinary;
+        auto* button = new Button(choice.caption, {.kind = kind, .icon = {}}, this);
+        connect(button, &QPushButton::clicked, this, [this, answer = choice.answer] {
+            answer_ = answer;
+            accept();
+        });
+        buttons_.append(button);
+    }
+    buttons_.first()->setDefault(true);
+    buttons_.first()->setFocus();
+}
+
+void MessageDialog::arrange() {
+    const int textHeight = static_cast<MessageText*>(text_)->wrappedHeight();
+    // Beside the sign, on its middle; a text taller than the sign starts at its top.
+    const int textTop = qMax(kSign.top(), kSign.center().y() + 1 - textHeight / 2);
+    text_->setGeometry(kTextLeft, textTop, kTextWidth, textHeight);
+    const int buttonTop = qMax(kLeastHeight - kMargin - kButtonHeight,
+                               text_->geometry().bottom() + 1 + kAboveButtons);
+    int right = kWidth - kMargin;
+    for (auto button = buttons_.crbegin(); button != buttons_.crend(); ++button) {
+        const int width = qMax(kButtonWidth, (*button)->sizeHint().width());
+        (*button)->setGeometry(right - width, buttonTop, width, kButtonHeight);
+        right -= width + kGap;
+    }
+    setFixedSize(kWidth, buttonTop + kButtonHeight + kMargin);
+}
+
+void MessageDialog::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), QColor::fromRgb(kIvory));
+    sign_.paint(painter, kSign, Icon::Style::Coloured);
+}
+
+Answer DialogPrompter::ask(const Message& message) {
+    MessageDialog dialog(message, QApplication::activeWindow());
+    dialog.exec();
+    return dialog.answer();
+}
+
+} // namespace platform::look

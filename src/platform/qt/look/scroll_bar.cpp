@@ -1,0 +1,126 @@
+#include "platform/qt/look/scroll_bar.h"
+
+#include "platform/qt/look/palette.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QTimerEvent>
+
+namespace platform::look {
+
+namespace {
+
+constexpr double kArrowHeight = 16;
+constexpr double kArrowPx = 14;
+constexpr double kThumbWidth = 8;
+constexpr double kShortestThumb = 24;
+constexpr double kRadius = 4;
+
+// While the button is held on an arrow or the track.
+constexpr int kFirstRepeatMs = 400;
+constexpr int kNextRepeatMs = 50;
+
+} // namespace
+
+ScrollBar::ScrollBar(QWidget* parent) : QScrollBar(Qt::Vertical, parent) {
+    setFocusPolicy(Qt::NoFocus);
+}
+
+QRectF ScrollBar::track() const {
+    return {(width() - kThumbWidth) / 2, kArrowHeight, kThumbWidth, height() - 2 * kArrowHeight};
+}
+
+QRectF ScrollBar::thumb() const {
+    const QRectF all = track();
+    const double range = maximum() - minimum();
+    if (range <= 0)
+        return all;
+    const double length =
+        qBound(kShortestThumb, all.height() * pageStep() / (range + pageStep()), all.height());
+    const double top = all.top() + (all.height() - length) * (maximum() - value()) / range;
+    return {all.left(), top, all.width(), length};
+}
+
+int ScrollBar::valueOfThumbAt(double top) const {
+    const double room = track().height() - thumb().height();
+    if (room <= 0)
+        return maximum();
+    const double share = qBound(0.0, (top - track().top()) / room, 1.0);
+    return qRound(maximum() - share * (maximum() - minimum()));
+}
+
+void ScrollBar::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const double arrowX = (width() - kArrowPx) / 2;
+    up_.paint(painter, {arrowX, 1, kArrowPx, kArrowPx}, Icon::Style::Coloured);
+    down_.paint(painter, {arrowX, height() - kArrowPx - 1, kArrowPx, kArrowPx},
+                Icon::Style::Coloured);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor::fromRgb(kScrollTrack));
+    painter.drawRoundedRect(track(), kRadius, kRadius);
+    painter.setBrush(QColor::fromRgb(isSliderDown() ? kMuted : kEdge));
+    painter.drawRoundedRect(thumb(), kRadius, kRadius);
+}
+
+QAbstractSlider::SliderAction ScrollBar::actionAt(double y) const {
+    // Down on the page is towards the minimum.
+    if (y < kArrowHeight)
+        return SliderSingleStepAdd;
+    if (y >= height() - kArrowHeight)
+        return SliderSingleStepSub;
+    if (y < thumb().top())
+        return SliderPageStepAdd;
+    return y >= thumb().bottom() ? SliderPageStepSub : SliderNoAction;
+}
+
+void ScrollBar::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton)
+        return;
+    pressedAt_ = event->position().y();
+    repeated_ = actionAt(pressedAt_);
+    if (repeated_ == SliderNoAction) {
+        grip_ = pressedAt_ - thumb().top();
+        setSliderDown(true);
+        update();
+        return;
+    }
+    triggerAction(repeated_);
+    repeat_.start(kFirstRepeatMs, this);
+}
+
+void ScrollBar::mouseMoveEvent(QMouseEvent* event) {
+    if (isSliderDown())
+        setSliderPosition(valueOfThumbAt(event->position().y() - grip_));
+}
+
+void ScrollBar::mouseReleaseEvent(QMouseEvent*) {
+    repeat_.stop();
+    repeated_ = SliderNoAction;
+    setSliderDown(false);
+    update();
+}
+
+void ScrollBar::timerEvent(QTimerEvent* event) {
+    if (event->timerId() != repeat_.timerId()) {
+        QScrollBar::timerEvent(event);
+        return;
+    }
+    // The thumb stops once it has come under the pointer.
+    if (actionAt(pressedAt_) != repeated_) {
+        repeat_.stop();
+        return;
+    }
+    triggerAction(repeated_);
+    repeat_.start(kNextRepeatMs, this);
+}
+
+void ScrollBar::wheelEvent(QWheelEvent* event) {
+    event->ignore(); // the window scrolls, wherever the pointer is
+}
+
+void ScrollBar::contextMenuEvent(QContextMenuEvent* event) {
+    event->ignore(); // Qt's own menu is not in French
+}
+
+} // namespace platform::look

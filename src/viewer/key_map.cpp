@@ -1,0 +1,38 @@
+#include "viewer/key_map.h"
+
+#include <algorithm>
+#include <array>
+
+namespace viewer {
+
+namespace {
+
+struct Row {
+    int key;
+    Qt::KeyboardModifiers modifiers;
+    KeyCommand command;
+};
+
+constexpr std::array<Row, 9> kRows = {{
+    {Qt::Key_Up, Qt::NoModifier, KeyCommand::LineUp},
+    {Qt::Key_Down, Qt::NoModifier, KeyCommand::LineDown},
+    {Qt::Key_PageUp, Qt::NoModifier, KeyCommand::ScreenUp},
+    {Qt::Key_PageDown, Qt::NoModifier, KeyCommand::ScreenDown},
+    {Qt::Key_Home, Qt::NoModifier, KeyCommand::Top},
+    {Qt::Key_End, Qt::NoModifier, KeyCommand::Bottom},
+    {Qt::Key_Left, Qt::AltModifier, KeyCommand::HistoryBack},
+    {Qt::Key_Right, Qt::AltModifier, KeyCommand::HistoryForward},
+    {Qt::Key_Backspace, Qt::NoModifier, KeyCommand::HistoryBack},
+}};
+
+} // namespace
+
+std::optional<KeyCommand> keyCommand(int key, Qt::KeyboardModifiers modifiers) {
+    modifiers &= ~Qt::KeyboardModifiers(Qt::KeypadModifier);
+    const auto row = std::find_if(kRows.begin(), kRows.end(), [&](const Row& candidate) {
+        return candidate.key == key && candidate.modifiers == modifiers;
+    });
+    return row == kRows.end() ? std::nullopt : std::optional(row->command);
+}
+
+} // namespace viewer

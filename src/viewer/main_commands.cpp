@@ -1,0 +1,82 @@
+#include "viewer/main_commands.h"
+
+#include "viewer/page_code.h"
+
+#include <utility>
+
+namespace viewer {
+
+MainCommands::MainCommands(shell::SharedState& state, ActionDispatcher& actions, PageView& view,
+                           const Neighbours& neighbours, platform::Prompter& prompter)
+    : state_(state), actions_(actions), view_(view), neighbours_(neighbours), prompter_(prompter),
+      history_(state) {}
+
+void MainCommands::back() {
+    const History::Pause unrecorded(state_);
+    showVisited(history_.stepBack());
+    view_.setForwardEnabled(true);
+}
+
+void MainCommands::forward() {
+    const History::Pause unrecorded(state_);
+    showVisited(history_.stepForward());
+    view_.setBackEnabled(true);
+    if (history_.nextSlotIsEmpty())
+        view_.setForwardEnabled(false);
+}
+
+/// A step out of the table shows nothing, but has been made: going back from there leads to the
+/// page of slot 100 first. An empty slot shows page 0. Both are meant so.
+void MainCommands::showVisited(std::optional<std::int16_t> page) {
+    if (page)
+        runCode(pageCode(*page));
+}
+
+void MainCommands::nextInChapter() {
+    showNeighbour(1);
+}
+
+void MainCommands::previousInChapter() {
+    showNeighbour(-1);
+}
+
+void MainCommands::showNeighbour(int distance) {
+    const auto index = std::int64_t{state_.CurrentOrderIndex} + distance;
+    if (!std::in_range<std::int32_t>(index))
+        return;
+    view_.showHourglass();
+    actions_.showPageByOrder(static_cast<std::int32_t>(index));
+    view_.restorePointer();
+}
+
+void MainCommands::search() {
+    neighbours_.search.open();
+    if (state_.SearchChosenPage != 0)
+        runCode(pageCode(state_.SearchChosenPage));
+}
+
+void MainCommands::returnToTest() {
+    neighbours_.exercise.open();
+    const bool returns = state_.ExerciseReturnPage != 0;
+    view_.setReturnToTestVisible(returns);
+    if (returns)
+        runCode(pageCode(state_.ExerciseReturnPage));
+}
+
+void MainCommands::update() {
+    if (neighbours_.updateCheck.confirmUpdateIsPossible())
+        neighbours_.installation.open();
+}
+
+bool MainCommands::leave() {
+    const platform::Message question{
+        QStringLiteral("Quitter"), QStringLiteral("Attention: sortie du logiciel."),
+        platform::Message::Icon::Question, platform::Message::Buttons::OkCancel};
+    if (prompter_.ask(question) != platform::Answer::Ok)
+        return false;
+    neighbours_.video.close();
+    neighbours_.exitScreen.open();
+    return true;
+}
+
+} // namespace viewer

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "platform/message_box.h"
+#include "shell/shared_state.h"
+#include "viewer/action_dispatcher.h"
+#include "viewer/history.h"
+#include "viewer/neighbours.h"
+#include "viewer/page_view.h"
+
+#include <QString>
+
+#include <cstdint>
+#include <optional>
+
+namespace viewer {
+
+/// What the main window's buttons do. Each function is called only while its button is enabled.
+class MainCommands {
+public:
+    MainCommands(shell::SharedState& state, ActionDispatcher& actions, PageView& view,
+                 const Neighbours& neighbours, platform::Prompter& prompter);
+
+    /// Runs a page code.
+    void runCode(const QString& code) { actions_.run(code); }
+
+    void back();
+    void forward();
+    void nextInChapter();
+    void previousInChapter();
+
+    void search();
+    void returnToTest();
+    void calculator() { neighbours_.calculator.open(); }
+    void print() { neighbours_.printing.print(); }
+    void help() { neighbours_.help.open(); }
+    void update();
+
+    /// Asks whether to leave; false when the person stays. Otherwise closes the video and shows
+    /// the exit screen.
+    bool leave();
+
+private:
+    void showVisited(std::optional<std::int16_t> page);
+    void showNeighbour(int distance);
+
+    shell::SharedState& state_;
+    ActionDispatcher& actions_;
+    PageView& view_;
+    Neighbours neighbours_;
+    platform::Prompter& prompter_;
+    History history_;
+};
+
+} // namespace viewer

@@ -1,0 +1,202 @@
+#include "viewer/multim.h"
+
+#include "platform/file_names.h"
+#include "platform/qt/look/button.h"
+#include "platform/qt/look/mnemonics.h"
+#include "platform/qt/look/palette.h"
+#include "platform/twips.h"
+#include "viewer/chapter_bar.h"
+#include "viewer/cover.h"
+#include "viewer/page_index.h"
+#include "viewer/page_panel.h"
+#include "viewer/picture_box.h"
+#include "viewer/rail.h"
+#include "viewer/surface_widths.h"
+#include "viewer/toolbar.h"
+#include "viewer/video_frame.h"
+
+#include <QCoreApplication>
+#include <QIcon>
+
+namespace viewer {
+
+namespace {
+
+using platform::SurfaceId;
+
+constexpr QSize kSize(800, 600);
+
+constexpr QRect kToolbar(0, 0, 800, 64);
+constexpr QRect kRail(8, 72, 152, 520);
+constexpr QRect kTitle(176, 72, 600, 32);
+constexpr QRect kPanel(168, 112, 624, 440);
+constexpr QRect kVideoClosed(168, 488, 624, 64);
+constexpr QRect kVideoOpen(168, 296, 624, 256);
+constexpr QRect kFramebase(168, 560, 624, 32);
+
+/// How long a window takes at most to get the size it asked for.
+constexpr int kSettledMs = 500;
+
+} // namespace
+
+Multim::Multim(shell::SharedState& state, const platform::FontBook& fonts,
+               const platform::Screen& screen)
+    : state_(state), fonts_(fonts), screen_(screen), sizeRule_(state, screen) {
+    setObjectName(QStringLiteral("multim"));
+    setWindowTitle(QStringLiteral("Orvalente - KAROPE"));
+    resize(kSize);
+    setMinimumSize(kSize);
+    QPalette colours = palette();
+    colours.setColor(QPalette::Window, QColor::fromRgb(platform::look::kIvory));
+    setPalette(colours);
+    addControls();
+    connectHandlers();
+    watchPointer();
+    new platform::look::MnemonicDisplay(this);
+    sizeSettled_.setSingleShot(true);
+    sizeSettled_.setInterval(kSettledMs);
+    connect(&sizeSettled_, &QTimer::timeout, this, [this] { sizeRule_.settled(present()); });
+    // No button is chosen from the start; the Tab key leads to the first.
+    setFocus();
+}
+
+Multim::~Multim() = default;
+
+void Multim::attach(const Parts& parts) {
+    parts_.emplace(parts);
+}
+
+void Multim::addControls() {
+    body_ = new QWidget(this);
+    body_->setGeometry(QRect(QPoint(), kSize));
+    auto* toolbar = new Toolbar(body_);
+    toolbar->setGeometry(kToolbar);
+
+    titre_ = new PictureBox(SurfaceId::Titre, kTitleWidthPx, platform::look::kIvory, fonts_,
+                            recording_, body_);
+    titre_->setGeometry(kTitle);
+
+    panel_ = new PagePanel(body_);
+    panel_->setGeometry(kPanel);
+    PictureTEXTE_ = new PictureBox(SurfaceId::PictureTexte, kPageWidthPx, platform::look::kPaper,
+                                   fonts_, recording_, panel_);
+    panel_->setPage(PictureTEXTE_);
+    videoFrame_ = new VideoFrame(body_);
+
+    rail_ = new Rail(body_);
+    rail_->setGeometry(kRail);
+    PICTUREILLUS_ = new PictureBox(SurfaceId::PictureIllus, kIllustrationWidthPx,
+                                   platform::look::kPaper, fonts_, recording_, rail_);
+    PICTUREILLUS_->setAccessibleName(QStringLiteral("Illustration de la page"));
+    rail_->setIllustration(PICTUREILLUS_);
+
+    Framebase_ = new ChapterBar(body_);
+    Framebase_->setGeometry(kFramebase);
+    cover_ = new Cover(body_);
+    cover_->setGeometry(kPanel);
+    cover_->hide();
+
+    setVideoLayout(VideoLayout::None);
+    button("Command2").setLastingMnemonic(u'S');
+    setPrintable(false);
+}
+
+void Multim::setVideoLayout(VideoLayout layout) {
+    struct Heights {
+        int panel;
+        int view;
+    };
+    const Heights heights = layout == VideoLayout::None     ? Heights{kPanel.height(), 424}
+                            : layout == VideoLayout::Closed ? Heights{368, 352}
+                                                            : Heights{176, 160};
+    panel_->setPanelHeight(heights.panel, heights.view);
+    const bool open = layout == VideoLayout::Open;
+    videoFrame_->setGeometry(open ? kVideoOpen : kVideoClosed);
+    videoFrame_->setOpen(open);
+    videoFrame_->setVisible(layout != VideoLayout::None);
+}
+
+bool Multim::Form_Load() {
+    if (!parts_)
+        return false;
+    working_ = true;
+    if (!parts_->startUp())
+        return false;
+    prepareAreas();
+    showCover();
+    setUpRenderer();
+    if (!buildIndex())
+        return false;
+    cover_->hide();
+    showFirstPage();
+    working_ = false;
+    return !closeRequested_;
+}
+
+void Multim::prepareAreas() {
+    setPageVisible(false);
+    setVideoLayout(VideoLayout::None);
+}
+
+void Multim::showCover() {
+    const auto picture = platform::findWithoutCase(state_.InstallDir, QStringLiteral("couv1.jpg"));
+    cover_->setPicture(picture.value_or(QString()));
+    cover_->raise();
+    cover_->show();
+    // What sized the window so far was start-up itself: from here on a resize counts.
+    startUpDone_ = true;
+    show();
+}
+
+void Multim::setUpRenderer() {
+    markup::DrawingState& drawing = parts_->renderer.state();
+    drawing.surfaceDessin = &pictureTexte();
+    drawing.fenetreSource = this;
+    parts_->renderer.initecran();
+}
+
+/// False when the window was closed meanwhile.
+bool Multim::buildIndex() {
+    showHourglass();
+    pumpPendingMessages();
+    if (!closeRequested_ && parts_->pages.records())
+        buildPageIndex(*parts_->pages.records(), state_, [this] { pumpPendingMessages(); });
+    restorePointer();
+    return !closeRequested_;
+}
+
+void Multim::showFirstPage() {
+    parts_->actions.run(QStringLiteral("PAG001"));
+    setPageVisible(true);
+    // Only the window manager shows it, and reading it takes as long as a page: after the page.
+    QTimer::singleShot(
+        0, this, [this] { setWindowIcon(QIcon(QStringLiteral(":/look/icons/orvalente.svg"))); });
+}
+
+void Multim::shareLinkCursor() {
+    parts_->neighbours.links.shareCursor();
+}
+
+void Multim::setWidth(double twips) {
+    resize(qRound(twips / platform::kTwipsPerPixel), height());
+}
+
+void Multim::place(const shell::Placement& placement) {
+    const auto pixels = [](double twips) { return qRound(twips / platform::kTwipsPerPixel); };
+    const QSize size(pixels(placement.width), pixels(placement.height));
+    // The window manager then offers neither to resize nor to maximise it.
+    setFixedSize(size);
+    resize(size);
+    move(pixels(placement.left), pixels(placement.top));
+}
+
+void Multim::pumpPendingMessages() {
+    QCoreApplication::processEvents();
+    showPointer(); // the window may have come on the screen
+}
+
+void Multim::report(const QString& line) {
+    Framebase_->showStatus(line);
+}
+
+} // namespace viewer

@@ -1,0 +1,197 @@
+#pragma once
+
+#include "markup/renderer.h"
+#include "markup/windows.h"
+#include "platform/qt/font_book.h"
+#include "platform/recording.h"
+#include "platform/rich_text_holder.h"
+#include "platform/screen.h"
+#include "shell/report_sink.h"
+#include "shell/shared_state.h"
+#include "shell/start_up.h"
+#include "viewer/key_map.h"
+#include "viewer/main_commands.h"
+#include "viewer/neighbours.h"
+#include "viewer/page_loader.h"
+#include "viewer/page_view.h"
+#include "viewer/window_size_rule.h"
+
+#include <QTimer>
+#include <QWidget>
+
+#include <functional>
+#include <optional>
+
+namespace platform::look {
+class Button;
+}
+
+namespace viewer {
+
+class ChapterBar;
+class Cover;
+class PagePanel;
+class PictureBox;
+class Rail;
+class VideoFrame;
+
+/// The main window. It shows what the page loader tells it to and hands what its controls are asked
+/// for to MainCommands; the controls have the names of the handlers.
+///
+/// Until Form_Load() has shown the first page, and while a command runs, its buttons and keys have
+/// no effect: neither can start anew in the middle. Closed meanwhile, it closes when the work is at
+/// the next point where it can end.
+class Multim : public QWidget,
+               public PageView,
+               public markup::PageWindow,
+               public markup::SourceWindow,
+               public shell::StartUpWindow,
+               public shell::ReportSink {
+public:
+    Multim(shell::SharedState& state, const platform::FontBook& fonts,
+           const platform::Screen& screen);
+    ~Multim() override;
+
+    /// What the window works with; made after it, since most of it knows the window.
+    struct Parts {
+        MainCommands& commands;
+        ActionDispatcher& actions;
+        PageLoader& pages;
+        markup::Renderer& renderer;
+        Neighbours neighbours;
+        /// Start-up before the window sets itself up; false to end the program.
+        std::function<bool()> startUp;
+    };
+    void attach(const Parts& parts);
+
+    /// Starts the program: start-up, cover, page index, first page. The window appears with the
+    /// cover. False when the program is to end, because start-up said so or because the window
+    /// was closed meanwhile.
+    bool Form_Load();
+
+    /// The drawing of the page that is shown.
+    platform::Recording& recording() { return recording_; }
+
+    /// The frame of the video buttons, and where the video's picture goes.
+    enum class VideoLayout { None, Closed, Open };
+    void setVideoLayout(VideoLayout layout);
+    VideoFrame& videoFrame() { return *videoFrame_; }
+
+    /// A member of an array of link controls goes on the page area.
+    PictureBox& pageArea() { return *PictureTEXTE_; }
+    PictureBox& illustrationArea() { return *PICTUREILLUS_; }
+
+    // PageView
+    void setPageVisible(bool visible) override;
+    void resetLinks() override;
+    void hideScrollBarAndVideoFrame() override;
+    void clearPictures() override;
+    void setCaption(const QString& caption) override; // of markup::PageWindow too
+    void setTitle(const QString& title) override;
+    void setBackEnabled(bool enabled) override;
+    void setForwardEnabled(bool enabled) override;
+    void fitPage() override;
+    void setChapterButtons(bool previous, bool next) override;
+    void setPrintable(bool printable) override;
+    void setSummary(const QString& code, const QString& caption) override;
+    void setReturnToTestVisible(bool visible) override;
+    void showHourglass() override;
+    void restorePointer() override;
+
+    // markup::PageWindow, markup::SourceWindow
+    platform::Surface& pictureTexte() override;
+    platform::Surface& pictureIllus() override;
+    platform::Surface& titre() override;
+    void setBusy(bool busy) override;
+    void refresh(platform::Surface& surface) override;
+    void preparePrinter() override;
+    platform::RichTextHolder& code() override { return code_; }
+
+    // shell::StartUpWindow
+    void shareLinkCursor() override;
+    void setWidth(double twips) override;
+    void place(const shell::Placement& placement) override;
+    void pumpPendingMessages() override;
+
+    // shell::ReportSink
+    void report(const QString& line) override;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void addControls();
+    void connectHandlers();
+    void watchPointer();
+    platform::look::Button& button(const char* name) const;
+
+    // Form_Load, step by step.
+    void prepareAreas();
+    void showCover();
+    void setUpRenderer();
+    bool buildIndex();
+    void showFirstPage();
+
+    void showPointer();
+    bool Form_QueryUnload();
+    void Form_Resize();
+    void carryOut(const WindowSizeRule::Orders& orders);
+    WindowSizeRule::Window present() const;
+    void perform(KeyCommand command);
+
+    /// Runs `task`, unless other work is under way; closes the window afterwards if that was asked
+    /// for meanwhile.
+    void work(const std::function<void()>& task);
+
+    void apres_Click();
+    void avant_Click();
+    void suite_Click();
+    void avantcours_Click();
+    void Command2_Click();
+    void command6_Click();
+    void command5_Click();
+    void Command13_Click();
+    void Command12_Click();
+    void command4_Click();
+    void btexo_Click();
+    void Command3_Click();
+    void CommandIMPRIME_Click();
+    void Command10_Click();
+    void Command8_Click();
+    void Command14_Click();
+    void Image4_Click(int index);
+
+    shell::SharedState& state_;
+    const platform::FontBook& fonts_;
+    const platform::Screen& screen_;
+    platform::Recording recording_;
+    platform::RichTextHolder code_;
+    std::optional<Parts> parts_;
+    WindowSizeRule sizeRule_;
+    QTimer sizeSettled_;
+
+    QWidget* body_ = nullptr;
+    Rail* rail_ = nullptr;
+    PagePanel* panel_ = nullptr;
+    VideoFrame* videoFrame_ = nullptr;
+    ChapterBar* Framebase_ = nullptr;
+    Cover* cover_ = nullptr;
+    PictureBox* PictureTEXTE_ = nullptr;
+    PictureBox* PICTUREILLUS_ = nullptr;
+    PictureBox* titre_ = nullptr;
+    QString summaryCode_; ///< the tag of Command2
+
+    bool startUpDone_ = false;
+    bool working_ = false;
+    bool busy_ = false;
+    bool closeRequested_ = false;
+    bool resizing_ = false;
+    bool left_ = false;
+    bool pageHadFocus_ = false;
+};
+
+} // namespace viewer

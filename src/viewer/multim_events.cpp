@@ -1,0 +1,245 @@
+// The main window's handlers: what its controls, the keyboard, the pointer and the window system
+// tell it.
+
+#include "platform/qt/look/button.h"
+#include "platform/qt/look/scroll_bar.h"
+#include "platform/twips.h"
+#include "shell/display_check.h"
+#include "viewer/chapter_bar.h"
+#include "viewer/multim.h"
+#include "viewer/page_panel.h"
+#include "viewer/picture_box.h"
+#include "viewer/rail.h"
+#include "viewer/video_frame.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QScopedValueRollback>
+#include <QWheelEvent>
+
+namespace viewer {
+
+namespace {
+
+/// What a wheel reports for one notch, and how far the page then moves.
+constexpr double kWheelNotch = 120;
+constexpr double kLinesPerNotch = 3;
+
+} // namespace
+
+platform::look::Button& Multim::button(const char* name) const {
+    return *static_cast<platform::look::Button*>(
+        findChild<QPushButton*>(QString::fromLatin1(name)));
+}
+
+void Multim::connectHandlers() {
+    struct Row {
+        const char* name;
+        void (Multim::*click)();
+    };
+    static constexpr Row kRows[] = {
+        {"apres", &Multim::apres_Click},
+        {"avant", &Multim::avant_Click},
+        {"suite", &Multim::suite_Click},
+        {"avantcours", &Multim::avantcours_Click},
+        {"Command2", &Multim::Command2_Click},
+        {"command6", &Multim::command6_Click},
+        {"command5", &Multim::command5_Click},
+        {"Command13", &Multim::Command13_Click},
+        {"Command12", &Multim::Command12_Click},
+        {"command4", &Multim::command4_Click},
+        {"btexo", &Multim::btexo_Click},
+        {"Command3", &Multim::Command3_Click},
+        {"CommandIMPRIME", &Multim::CommandIMPRIME_Click},
+        {"Command10", &Multim::Command10_Click},
+        {"Command8", &Multim::Command8_Click},
+        {"Command14", &Multim::Command14_Click},
+    };
+    for (const Row& row : kRows)
+        connect(&button(row.name), &QPushButton::clicked, this,
+                [this, click = row.click] { (this->*click)(); });
+    videoFrame_->onImage4_Click([this](int index) { Image4_Click(index); });
+}
+
+void Multim::work(const std::function<void()>& task) {
+    if (working_ || !parts_)
+        return;
+    {
+        const QScopedValueRollback<bool> busy(working_, true);
+        task();
+    }
+    if (closeRequested_) {
+        closeRequested_ = false;
+        close();
+    }
+}
+
+void Multim::apres_Click() {
+    work([this] { parts_->commands.forward(); });
+}
+
+void Multim::avant_Click() {
+    work([this] { parts_->commands.back(); });
+}
+
+void Multim::suite_Click() {
+    work([this] { parts_->commands.nextInChapter(); });
+}
+
+void Multim::avantcours_Click() {
+    work([this] { parts_->commands.previousInChapter(); });
+}
+
+void Multim::Command2_Click() {
+    work([this] { parts_->commands.runCode(summaryCode_); });
+}
+
+void Multim::command6_Click() {
+    work([this] { parts_->commands.runCode(QStringLiteral("PAG028")); });
+}
+
+void Multim::command5_Click() {
+    work([this] { parts_->commands.runCode(QStringLiteral("PAG030")); });
+}
+
+void Multim::Command13_Click() {
+    work([this] { parts_->commands.runCode(QStringLiteral("PAG161")); });
+}
+
+void Multim::Command12_Click() {
+    work([this] { parts_->commands.runCode(QStringLiteral("EXE070")); });
+}
+
+void Multim::command4_Click() {
+    work([this] { parts_->commands.search(); });
+}
+
+void Multim::btexo_Click() {
+    work([this] { parts_->commands.returnToTest(); });
+}
+
+void Multim::Command3_Click() {
+    work([this] { parts_->commands.calculator(); });
+}
+
+void Multim::CommandIMPRIME_Click() {
+    work([this] { parts_->commands.print(); });
+}
+
+void Multim::Command10_Click() {
+    work([this] { parts_->commands.help(); });
+}
+
+void Multim::Command8_Click() {
+    work([this] { parts_->commands.update(); });
+}
+
+void Multim::Command14_Click() {
+    close();
+}
+
+void Multim::Image4_Click(int index) {
+    work([this, index] { parts_->neighbours.video.press(index); });
+}
+
+void Multim::keyPressEvent(QKeyEvent* event) {
+    const auto command = keyCommand(event->key(), event->modifiers());
+    if (command)
+        perform(*command);
+    else
+        QWidget::keyPressEvent(event);
+}
+
+/// A key does what its button would: nothing while that is disabled or the bar is hidden.
+void Multim::perform(KeyCommand command) {
+    switch (command) {
+    case KeyCommand::LineUp:
+        return panel_->scrollLines(-1);
+    case KeyCommand::LineDown:
+        return panel_->scrollLines(1);
+    case KeyCommand::ScreenUp:
+        return panel_->scrollScreens(-1);
+    case KeyCommand::ScreenDown:
+        return panel_->scrollScreens(1);
+    case KeyCommand::Top:
+        return panel_->scrollToTop();
+    case KeyCommand::Bottom:
+        return panel_->scrollToBottom();
+    case KeyCommand::HistoryBack:
+        return button("avant").click();
+    case KeyCommand::HistoryForward:
+        return button("apres").click();
+    }
+}
+
+void Multim::wheelEvent(QWheelEvent* event) {
+    // Touchpads report fractions of a notch.
+    panel_->scrollLines(-event->angleDelta().y() / kWheelNotch * kLinesPerNotch);
+    event->accept();
+}
+
+void Multim::watchPointer() {
+    for (QWidget* over :
+         {static_cast<QWidget*>(this), body_, &panel_->framekx(), static_cast<QWidget*>(Framebase_),
+          static_cast<QWidget*>(titre_), static_cast<QWidget*>(PictureTEXTE_),
+          static_cast<QWidget*>(PICTUREILLUS_)}) {
+        over->setMouseTracking(true);
+        over->installEventFilter(this);
+    }
+}
+
+bool Multim::eventFilter(QObject* watched, QEvent* event) {
+    // The pointer is on none of the links: they show plain again.
+    if (event->type() == QEvent::MouseMove && parts_)
+        parts_->neighbours.links.resetHighlight(PageLinks::kNone);
+    return QWidget::eventFilter(watched, event);
+}
+
+void Multim::closeEvent(QCloseEvent* event) {
+    if (working_) {
+        closeRequested_ = true;
+        event->ignore();
+    } else {
+        event->setAccepted(Form_QueryUnload());
+    }
+}
+
+/// Whether the window may close.
+bool Multim::Form_QueryUnload() {
+    if (!parts_ || left_)
+        return true;
+    const QScopedValueRollback<bool> asking(working_, true);
+    left_ = parts_->commands.leave();
+    closeRequested_ = false;
+    return left_;
+}
+
+void Multim::resizeEvent(QResizeEvent*) {
+    // Where the window is larger than its contents they stand in its middle.
+    body_->move(qMax(0, (width() - body_->width()) / 2), qMax(0, (height() - body_->height()) / 2));
+    Form_Resize();
+}
+
+WindowSizeRule::Window Multim::present() const {
+    return {!isMinimized() && !isMaximized() && !isFullScreen(), size() == body_->size()};
+}
+
+void Multim::Form_Resize() {
+    // Not while start-up gives the window its size, and not for the rule's own resizing.
+    if (!startUpDone_ || resizing_)
+        return;
+    carryOut(sizeRule_.resized(present()));
+    sizeSettled_.start();
+}
+
+void Multim::carryOut(const WindowSizeRule::Orders& orders) {
+    const QScopedValueRollback<bool> own(resizing_, true);
+    if (orders.makeNormal)
+        showNormal();
+    if (orders.setSize)
+        resize(body_->size());
+    if (orders.centre)
+        place(shell::centredWindow(screen_));
+}
+
+} // namespace viewer

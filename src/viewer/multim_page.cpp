@@ -1,0 +1,143 @@
+// The main window as the page loader and the renderer see it.
+
+#include "platform/qt/look/button.h"
+#include "platform/qt/look/scroll_bar.h"
+#include "viewer/chapter_bar.h"
+#include "viewer/multim.h"
+#include "viewer/page_panel.h"
+#include "viewer/page_title.h"
+#include "viewer/picture_box.h"
+#include "viewer/rail.h"
+
+#include <QAccessible>
+#include <QWindow>
+
+namespace viewer {
+
+void Multim::setPageVisible(bool visible) {
+    // Hidden, the page loses the keyboard; it has it back with the next page.
+    if (!visible)
+        pageHadFocus_ = PictureTEXTE_->hasFocus();
+    PictureTEXTE_->setVisible(visible);
+    PICTUREILLUS_->setVisible(visible);
+    if (visible && pageHadFocus_)
+        PictureTEXTE_->setFocus();
+}
+
+void Multim::resetLinks() {
+    parts_->neighbours.links.reset();
+}
+
+void Multim::hideScrollBarAndVideoFrame() {
+    panel_->VScroll1().hide();
+    setVideoLayout(VideoLayout::None);
+}
+
+void Multim::clearPictures() {
+    recording_.clear();
+    for (PictureBox* box : {PictureTEXTE_, PICTUREILLUS_, titre_})
+        box->empty();
+    Framebase_->clearStatus();
+}
+
+void Multim::setCaption(const QString& caption) {
+    setWindowTitle(caption);
+}
+
+void Multim::setTitle(const QString& title) {
+    const QString words = title.simplified();
+    PictureTEXTE_->setAccessibleName(words.isEmpty() ? QStringLiteral("Page du cours") : words);
+    titre_->setAccessibleName(words);
+    titre_->setToolTip({});
+
+    const QString shown = drawPageTitle(titre_->surface(), fonts_, words);
+    if (shown != words)
+        titre_->setToolTip(words);
+}
+
+void Multim::setBackEnabled(bool enabled) {
+    button("avant").setEnabled(enabled);
+}
+
+void Multim::setForwardEnabled(bool enabled) {
+    button("apres").setEnabled(enabled);
+}
+
+void Multim::fitPage() {
+    for (PictureBox* box : {PictureTEXTE_, PICTUREILLUS_, titre_})
+        box->showDrawing();
+    panel_->fitPage();
+    QAccessibleEvent changed(PictureTEXTE_, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&changed);
+}
+
+void Multim::setChapterButtons(bool previous, bool next) {
+    Framebase_->setButtonsVisible(previous, next);
+}
+
+void Multim::setPrintable(bool printable) {
+    button("CommandIMPRIME").setEnabled(printable);
+}
+
+void Multim::setSummary(const QString& code, const QString& caption) {
+    summaryCode_ = code;
+    platform::look::Button& Command2 = button("Command2");
+    Command2.setCaption(caption);
+    Command2.setIconName(caption == u"Accueil" ? QStringLiteral("home")
+                                               : QStringLiteral("summary"));
+}
+
+void Multim::setReturnToTestVisible(bool visible) {
+    rail_->setReturnToTestVisible(visible);
+}
+
+void Multim::showHourglass() {
+    busy_ = true;
+    showPointer();
+}
+
+void Multim::restorePointer() {
+    busy_ = false;
+    showPointer();
+}
+
+void Multim::showPointer() {
+    if (!busy_ && testAttribute(Qt::WA_SetCursor)) {
+        unsetCursor();
+        return;
+    }
+    // Before the window is on the screen no pointer can be over it, and reading the hourglass from
+    // the desktop's theme would delay the first page.
+    if (busy_ && windowHandle() && windowHandle()->isExposed())
+        setCursor(Qt::WaitCursor);
+}
+
+void Multim::setBusy(bool busy) {
+    busy ? showHourglass() : restorePointer();
+}
+
+platform::Surface& Multim::pictureTexte() {
+    return PictureTEXTE_->surface();
+}
+
+platform::Surface& Multim::pictureIllus() {
+    return PICTUREILLUS_->surface();
+}
+
+platform::Surface& Multim::titre() {
+    return titre_->surface();
+}
+
+void Multim::refresh(platform::Surface& surface) {
+    for (PictureBox* box : {PictureTEXTE_, PICTUREILLUS_, titre_})
+        if (&box->surface() == &surface) {
+            box->showDrawing();
+            box->repaint();
+        }
+}
+
+void Multim::preparePrinter() {
+    parts_->neighbours.printing.prepare();
+}
+
+} // namespace viewer

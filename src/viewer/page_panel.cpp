@@ -1,0 +1,106 @@
+#include "viewer/page_panel.h"
+
+#include "platform/qt/look/palette.h"
+#include "platform/qt/look/pixels.h"
+#include "platform/qt/look/scroll_bar.h"
+#include "platform/twips.h"
+#include "viewer/picture_box.h"
+
+#include <QEvent>
+#include <QPainter>
+
+namespace viewer {
+
+namespace {
+
+constexpr int kInset = 8;
+constexpr int kScrollBarWidth = 16;
+constexpr int kTwips = static_cast<int>(platform::kTwipsPerPixel);
+
+} // namespace
+
+PagePanel::PagePanel(QWidget* parent)
+    : QWidget(parent), framekx_(new QWidget(this)),
+      VScroll1_(new platform::look::ScrollBar(framekx_)) {
+    framekx_->setObjectName(QStringLiteral("framekx"));
+    VScroll1_->setObjectName(QStringLiteral("VScroll1"));
+    VScroll1_->setAccessibleName(QStringLiteral("Défilement de la page"));
+    VScroll1_->hide();
+    connect(VScroll1_, &QAbstractSlider::valueChanged, this, [this] { VScroll1_Change(); });
+    connect(VScroll1_, &QAbstractSlider::sliderMoved, this, [this] { VScroll1_Scroll(); });
+}
+
+void PagePanel::setPage(PictureBox* page) {
+    page_ = page;
+    page_->setParent(framekx_);
+    page_->setGeometry(0, 0, kPageWidth, 0);
+    // The keyboard reaches the page, so that a screen reader reads it there.
+    page_->setFocusPolicy(Qt::TabFocus);
+    page_->installEventFilter(this);
+    VScroll1_->raise();
+}
+
+void PagePanel::setPanelHeight(int height, int viewHeight) {
+    resize(width(), height);
+    framekx_->setGeometry(kInset, kInset, kPageWidth + kScrollBarWidth, viewHeight);
+    VScroll1_->setGeometry(kPageWidth, 0, kScrollBarWidth, viewHeight);
+}
+
+void PagePanel::fitPage() {
+    const int pageHeight = page_->pageHeightPx();
+    page_->resize(kPageWidth, pageHeight);
+    geometry_ = {VScroll1_->height() * kTwips, pageHeight * kTwips};
+    const int lowest = geometry_.isNeeded() ? geometry_.maximum() : 0;
+    // The value runs from 0 at the page's top down to a negative "maximum", which Qt calls the
+    // minimum.
+    VScroll1_->setRange(lowest, 0);
+    VScroll1_->setSingleStep(ScrollGeometry::kSmallChange);
+    VScroll1_->setPageStep(geometry_.largeChange());
+    VScroll1_->setValue(0);
+    VScroll1_Change();
+    VScroll1_->setVisible(geometry_.isNeeded());
+}
+
+void PagePanel::VScroll1_Change() {
+    page_->move(0, qRound(VScroll1_->value() / platform::kTwipsPerPixel));
+}
+
+void PagePanel::VScroll1_Scroll() {
+    VScroll1_Change();
+}
+
+void PagePanel::scrollBy(double twips) {
+    VScroll1_->setValue(geometry_.held(qRound(VScroll1_->value() - twips)));
+}
+
+void PagePanel::scrollLines(double count) {
+    scrollBy(count * ScrollGeometry::kSmallChange);
+}
+
+void PagePanel::scrollScreens(int count) {
+    scrollBy(count * geometry_.largeChange());
+}
+
+void PagePanel::scrollToTop() {
+    VScroll1_->setValue(VScroll1_->maximum());
+}
+
+void PagePanel::scrollToBottom() {
+    VScroll1_->setValue(VScroll1_->minimum());
+}
+
+bool PagePanel::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
+        update();
+    return QWidget::eventFilter(watched, event);
+}
+
+void PagePanel::paintEvent(QPaintEvent*) {
+    using namespace platform::look;
+    QPainter painter(this);
+    const bool focused = page_ && page_->hasFocus();
+    drawFrame(painter, rect(), 0, focused ? kBlue : kRule, QColor::fromRgb(kPaper),
+              focused ? 2 : 1);
+}
+
+} // namespace viewer

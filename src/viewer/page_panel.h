@@ -1,0 +1,58 @@
+#pragma once
+
+#include "viewer/scroll_geometry.h"
+#include "viewer/surface_widths.h"
+
+#include <QWidget>
+
+namespace platform::look {
+class ScrollBar;
+}
+
+namespace viewer {
+
+class PictureBox;
+
+/// The white sheet in the middle of the main window: the view `framekx`, in it the page
+/// `PictureTEXTE` and its scroll bar `VScroll1`.
+class PagePanel : public QWidget {
+public:
+    /// Width of the page, in pixels.
+    static constexpr int kPageWidth = kPageWidthPx;
+
+    explicit PagePanel(QWidget* parent);
+
+    QWidget& framekx() { return *framekx_; }
+    platform::look::ScrollBar& VScroll1() { return *VScroll1_; }
+
+    /// Takes the page area into the view.
+    void setPage(PictureBox* page);
+
+    /// Makes the panel `height` pixels tall and the view as tall as fits.
+    void setPanelHeight(int height, int viewHeight);
+
+    /// Shows the page from its top and sets the scroll bar up for its height.
+    void fitPage();
+
+    /// Moves the page by lines of running text or by screens, down for positive counts.
+    void scrollLines(double count);
+    void scrollScreens(int count);
+    void scrollToTop();
+    void scrollToBottom();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void VScroll1_Change();
+    void VScroll1_Scroll();
+    void scrollBy(double twips);
+
+    QWidget* framekx_;
+    platform::look::ScrollBar* VScroll1_;
+    PictureBox* page_ = nullptr;
+    ScrollGeometry geometry_{};
+};
+
+} // namespace viewer

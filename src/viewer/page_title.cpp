@@ -1,0 +1,44 @@
+#include "viewer/page_title.h"
+
+#include "platform/twips.h"
+
+namespace viewer {
+
+namespace {
+
+/// Size of a title, and the smallest one that a long title is written in, in pixels.
+constexpr int kTitlePx = 19;
+constexpr int kSmallestTitlePx = 13;
+
+/// Foot of the title's letters, in pixels from the top of its band.
+constexpr double kTitleFootPx = 23;
+
+constexpr double kPointsPerPixel = 0.75;
+
+/// No title of more characters fits the band; a longer one is cut before it is measured again and
+/// again.
+constexpr qsizetype kMostCharacters = 300;
+
+} // namespace
+
+QString drawPageTitle(platform::Surface& band, const platform::TextMetrics& metrics,
+                      const QString& title) {
+    band.setFace(QStringLiteral("Arial"));
+    band.setBold(true);
+    band.setItalic(false);
+    band.setUnderline(false);
+    band.setInk(0xff000000);
+    int pixels = kTitlePx;
+    band.setFontPoints(pixels * kPointsPerPixel);
+    while (band.textWidth(title) > band.scaleWidth() && pixels > kSmallestTitlePx)
+        band.setFontPoints(--pixels * kPointsPerPixel);
+    QString shown = title.size() > kMostCharacters ? title.first(kMostCharacters) + u'…' : title;
+    while (!shown.isEmpty() && band.textWidth(shown) > band.scaleWidth())
+        shown = title.first(shown.size() - (shown == title ? 1 : 2)).trimmed() + u'…';
+    band.setPenX(0);
+    band.setPenY(kTitleFootPx * platform::kTwipsPerPixel - metrics.ascent(band.font()));
+    band.print(shown);
+    return shown;
+}
+
+} // namespace viewer

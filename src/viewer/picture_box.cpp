@@ -1,0 +1,77 @@
+#include "viewer/picture_box.h"
+
+#include "platform/qt/look/palette.h"
+#include "platform/qt/look/pixels.h"
+#include "platform/readable_text.h"
+#include "platform/twips.h"
+#include "viewer/picture_accessible.h"
+
+#include <QPaintEvent>
+#include <QPainter>
+
+#include <cmath>
+
+namespace viewer {
+
+namespace {
+
+/// What brings the painter's origin to a whole device pixel, in logical pixels: where a screen has
+/// one and a half pixels to a logical one, a scrolled page would be blurred otherwise.
+double toWholePixel(const QPainter& painter) {
+    const double ratio = painter.device()->devicePixelRatioF();
+    const double top = painter.deviceTransform().dy();
+    return (std::round(top) - top) / ratio;
+}
+
+} // namespace
+
+PictureBox::PictureBox(platform::SurfaceId id, int widthPx, QRgb ground,
+                       const platform::FontBook& fonts, platform::Recording& recording,
+                       QWidget* parent)
+    : QWidget(parent), recording_(recording),
+      surface_(id, widthPx * platform::kTwipsPerPixel, fonts, recording),
+      raster_(id, widthPx, fonts, ground) {
+    setObjectName(platform::surfaceName(id));
+    PictureAccessible::install();
+}
+
+void PictureBox::empty() {
+    raster_.reset();
+    surface_.clear();
+    surface_.setHeightPx(0);
+    update();
+}
+
+void PictureBox::showDrawing() {
+    const double ratio = devicePixelRatioF();
+    if (ratio != raster_.devicePixelRatio())
+        raster_.setDevicePixelRatio(ratio);
+    raster_.play(recording_);
+    update();
+}
+
+int PictureBox::pageHeightPx() const {
+    return surface_.heightPx() > 0 ? qCeil(surface_.heightPx()) : raster_.drawnHeightPx();
+}
+
+QString PictureBox::readableText() const {
+    return platform::readableText(recording_, surface_.id());
+}
+
+void PictureBox::paintEvent(QPaintEvent* event) {
+    // The window may have come to a screen of another density.
+    if (devicePixelRatioF() != raster_.devicePixelRatio())
+        showDrawing();
+    if (inset_ > 0 && isBlank())
+        return;
+    QPainter painter(this);
+    if (inset_ > 0) {
+        platform::look::drawFrame(painter, rect(), 0, platform::look::kRule,
+                                  QColor::fromRgb(platform::look::kPaper));
+        painter.setClipRect(rect().adjusted(inset_, inset_, -inset_, -inset_));
+    }
+    painter.translate(inset_, inset_ + toWholePixel(painter));
+    raster_.paint(painter, event->rect().translated(-inset_, -inset_));
+}
+
+} // namespace viewer

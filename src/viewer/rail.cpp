@@ -1,0 +1,86 @@
+#include "viewer/rail.h"
+
+#include "platform/qt/look/button.h"
+#include "platform/qt/look/interface_font.h"
+#include "platform/qt/look/palette.h"
+#include "viewer/picture_box.h"
+
+#include <QLabel>
+#include <QPainter>
+
+namespace viewer {
+
+namespace {
+
+using platform::look::Button;
+
+// From the rail's top left corner, which is at 8,72 of the window.
+constexpr QRectF kMark(0, 4, 24, 24);
+constexpr QPointF kName(32, 21); ///< left end of the foot of the letters
+constexpr QRect kIllustration(0, 40, 152, 360);
+constexpr QRect kReturnToTest(0, 408, 152, 48);
+constexpr QRect kReturnWords(44, 8, 100, 32); ///< within the button
+constexpr QRect kBack(0, 464, 72, 56);
+constexpr QRect kForward(80, 464, 72, 56);
+
+Button* addHistoryButton(const QString& name, const QString& caption, const QString& toolTip,
+                         const QString& icon, const QRect& place, QWidget* parent) {
+    auto* button = new Button(
+        caption, {.kind = Button::Kind::Ordinary, .icon = icon, .place = Button::IconPlace::Top},
+        parent);
+    button->setObjectName(name);
+    button->setToolTip(toolTip);
+    button->setAccessibleDescription(toolTip);
+    button->setGeometry(place);
+    button->setEnabled(false);
+    return button;
+}
+
+} // namespace
+
+Rail::Rail(QWidget* parent) : QWidget(parent) {
+    const QString words = QStringLiteral("Retrouver le test");
+    auto* btexo = new Button(words,
+                             {.kind = Button::Kind::Main,
+                              .icon = QStringLiteral("back-to-test"),
+                              .weight = platform::look::Weight::Bold},
+                             this);
+    btexo->setObjectName(QStringLiteral("btexo"));
+    btexo->setGeometry(kReturnToTest);
+    btexo_ = btexo;
+    // The button paints the words, so that they follow its states; the label lies over them, and
+    // what is clicked on it reaches the button.
+    Label16_ = new QLabel(btexo);
+    Label16_->setObjectName(QStringLiteral("Label16"));
+    Label16_->setAccessibleName(words);
+    Label16_->setGeometry(kReturnWords);
+    setReturnToTestVisible(false);
+
+    addHistoryButton(QStringLiteral("avant"), QStringLiteral("&Précédent"),
+                     QStringLiteral("Page précédente"), QStringLiteral("previous-page"), kBack,
+                     this);
+    addHistoryButton(QStringLiteral("apres"), QStringLiteral("S&uivant"),
+                     QStringLiteral("Page suivante"), QStringLiteral("next-page"), kForward, this);
+}
+
+void Rail::setIllustration(PictureBox* illustration) {
+    illustration->setParent(this);
+    illustration->setInset(1);
+    illustration->setGeometry(kIllustration);
+}
+
+void Rail::setReturnToTestVisible(bool visible) {
+    btexo_->setVisible(visible);
+    Label16_->setVisible(visible);
+}
+
+void Rail::paintEvent(QPaintEvent*) {
+    using namespace platform::look;
+    QPainter painter(this);
+    mark_.paint(painter, kMark, Icon::Style::Coloured);
+    painter.setPen(QColor::fromRgb(kBlue));
+    painter.setFont(interfaceFont(kLabelPx, Weight::Bold));
+    painter.drawText(kName, QStringLiteral("Orvalente"));
+}
+
+} // namespace viewer

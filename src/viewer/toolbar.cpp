@@ -1,0 +1,73 @@
+#include "viewer/toolbar.h"
+
+#include "platform/qt/look/button.h"
+#include "platform/qt/look/palette.h"
+#include "platform/qt/look/pixels.h"
+
+#include <QPainter>
+
+#include <array>
+
+namespace viewer {
+
+namespace {
+
+using platform::look::Button;
+
+constexpr int kTop = 4;
+constexpr QSize kButton(64, 56);
+constexpr double kRuleY = 63;
+
+struct Row {
+    const char* name;
+    const char* caption;
+    const char* toolTip;
+    const char* icon;
+    int x;
+};
+
+constexpr std::array<Row, 11> kRows = {{
+    {"Command2", "Accueil", "Afficher le sommaire général", "home", 8},
+    {"command6", "Ph&ysique", "Sommaire physique", "physics", 72},
+    {"command5", "C&himie", "Sommaire chimie", "chemistry", 136},
+    {"command4", "&Rechercher", "Moteur de recherche", "search", 216},
+    {"Command3", "&Calculatrice", "Machine à calculer", "calculator", 280},
+    {"CommandIMPRIME", "&Imprimer", "Imprimer ou configurer l'imprimante", "print", 344},
+    {"Command12", "Int&ernet", "", "internet", 424},
+    {"Command13", "C&rédits", "", "credits", 488},
+    {"Command10", "&Aide", "Aide pour utiliser le logiciel", "help", 552},
+    {"Command8", "Actualiser", "Actualiser le logiciel", "update", 616},
+    {"Command14", "&Quitter", "Quitter l'application", "quit", 728},
+}};
+
+constexpr std::array<double, 2> kSeparators = {208, 416};
+constexpr double kSeparatorTop = 12;
+constexpr double kSeparatorHeight = 40;
+
+} // namespace
+
+Toolbar::Toolbar(QWidget* parent) : QWidget(parent) {
+    setObjectName(QStringLiteral("toolbar"));
+    for (const Row& row : kRows) {
+        auto* button = new Button(QString::fromUtf8(row.caption),
+                                  {.kind = Button::Kind::Toolbar,
+                                   .icon = QString::fromLatin1(row.icon),
+                                   .place = Button::IconPlace::Top},
+                                  this);
+        button->setObjectName(QString::fromLatin1(row.name));
+        button->setToolTip(QString::fromUtf8(row.toolTip));
+        button->setAccessibleDescription(button->toolTip());
+        button->setGeometry(QRect(QPoint(row.x, kTop), kButton));
+    }
+}
+
+void Toolbar::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const double line = platform::look::crisp(painter);
+    const QColor ink = QColor::fromRgb(platform::look::kRule);
+    painter.fillRect(QRectF(0, kRuleY, width(), line), ink);
+    for (const double x : kSeparators)
+        painter.fillRect(QRectF(x, kSeparatorTop, line, kSeparatorHeight), ink);
+}
+
+} // namespace viewer

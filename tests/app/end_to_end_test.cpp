@@ -1,0 +1,144 @@
+// The real program on the real demonstration course, on a display with a window manager.
+
+#include "support/files.h"
+#include "support/x11_session.h"
+
+#include <QDir>
+#include <QImage>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+
+using test_support::eventually;
+using test_support::X11Session;
+
+namespace {
+
+class EndToEnd : public testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_FALSE(session_.display().isEmpty()) << "Xvfb is missing";
+        ASSERT_EQ(QProcess::execute(ORVALENTE_COURS, {"build", COURSE_SOURCES, "-o", course()}), 0);
+    }
+
+    ~EndToEnd() override {
+        shell_.kill();
+        shell_.waitForFinished();
+    }
+
+    QString course() const { return directory_.filePath("cours"); }
+
+    QProcessEnvironment environment() const {
+        auto environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("DISPLAY", QString::fromLatin1(session_.display()));
+        environment.insert("QT_QPA_PLATFORM", "xcb");
+        environment.insert("XDG_RUNTIME_DIR", directory_.path());
+        return environment;
+    }
+
+    /// Starts the shell and waits for its window.
+    void start(const QStringList& arguments = {}) {
+        shell_.setProcessEnvironment(environment());
+        shell_.start(ORVALENTE, QStringList{"--course", course()} + arguments);
+        ASSERT_TRUE(eventually([&] { return !window().isEmpty() && !title().isEmpty(); }));
+    }
+
+    QByteArray run(const QString& program, const QStringList& arguments) const {
+        QProcess process;
+        process.setProcessEnvironment(environment());
+        process.start(program, arguments);
+        process.waitForFinished();
+        return process.readAllStandardOutput();
+    }
+
+    QString window() const {
+        return QString::fromLatin1(
+                   run("xdotool", {"search", "--onlyvisible", "--pid",
+                                   QString::number(shell_.processId()), "--name", "Orvalente"}))
+            .section(u'\n', 0, 0);
+    }
+
+    QString title() const {
+        return QString::fromUtf8(run("xdotool", {"getwindowname", window()})).trimmed();
+    }
+
+    QString activeTitle() const {
+        return QString::fromUtf8(run("xdotool", {"getactivewindow", "getwindowname"})).trimmed();
+    }
+
+    /// Left, top, width and height as the display tells.
+    QRect place() const {
+        const QString shown = QString::fromLatin1(run("xwininfo", {"-id", window()}));
+        const auto number = [&](const char* label) {
+            const QRegularExpression pattern(QString::fromLatin1(label) + ":\\s*(-?\\d+)");
+            return pattern.match(shown).captured(1).toInt();
+        };
+        return {number("Absolute upper-left X"), number("Absolute upper-left Y"), number("Width"),
+                number("Height")};
+    }
+
+    void press(const QString& key) { run("xdotool", {"key", "--clearmodifiers", key}); }
+
+    void click(int x, int y) {
+        const QPoint corner = place().topLeft();
+        run("xdotool", {"mousemove", QString::number(corner.x() + x),
+                        QString::number(corner.y() + y), "click", "1"});
+    }
+
+    X11Session session_{X11Session::Manager::Openbox};
+    QTemporaryDir directory_;
+    QProcess shell_;
+};
+
+TEST_F(EndToEnd, opensTheCourseInTheMiddleOfTheScreen) {
+    start();
+    EXPECT_TRUE(eventually([&] { return place().size() == QSize(800, 600); }));
+    EXPECT_TRUE(title().startsWith("Orvalente - KAROPE"));
+    // Each record is 128 bytes: a length and single-byte characters.
+    const QByteArray status = test_support::readFile(course() + "/TEMPKX.TMP");
+    ASSERT_GE(status.size(), 31 * 128);
+    for (int record = 0; record < 31; ++record)
+        EXPECT_EQ(status.mid(record * 128, 5), QByteArray("\x03\0NON", 5)) << record;
+}
+
+TEST_F(EndToEnd, refusesToBeResized) {
+    start();
+    ASSERT_TRUE(eventually([&] { return place().size() == QSize(800, 600); }));
+    run("xdotool", {"windowsize", window(), "1000", "700"});
+    EXPECT_TRUE(eventually([&] { return place().size() == QSize(800, 600); }));
+    EXPECT_EQ(shell_.state(), QProcess::Running);
+}
+
+TEST_F(EndToEnd, asksBeforeLeaving) {
+    start();
+    ASSERT_TRUE(eventually([&] { return place().size() == QSize(800, 600); }));
+    const QString shell = title();
+    press("alt+q");
+    ASSERT_TRUE(eventually([&] { return activeTitle() == "Quitter"; }));
+    press("Escape");
+    ASSERT_TRUE(eventually([&] { return activeTitle() == shell; }));
+    EXPECT_EQ(shell_.state(), QProcess::Running);
+    click(760, 32); // Command14
+    ASSERT_TRUE(eventually([&] { return activeTitle() == "Quitter"; }));
+    press("Return");
+    ASSERT_TRUE(shell_.waitForFinished(30'000));
+    EXPECT_EQ(shell_.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(shell_.exitCode(), 0);
+}
+
+TEST_F(EndToEnd, saysThatTheDatabaseIsAbsent) {
+    QFile::remove(course() + "/Zekx.mdb");
+    shell_.setProcessEnvironment(environment());
+    shell_.start(ORVALENTE, {"--course", course()});
+    ASSERT_TRUE(eventually([&] { return activeTitle() == "Exécution impossible"; }));
+    press("Return");
+    EXPECT_TRUE(shell_.waitForFinished(30'000));
+    EXPECT_FALSE(QFile::exists(course() + "/TEMPKX.TMP"));
+}
+
+TEST_F(EndToEnd, enlargesEverything) {
+    start({"--scale", "1.25"});
+    EXPECT_TRUE(eventually([&] { return place().size() == QSize(1000, 750); }));
+}
+
+} // namespace

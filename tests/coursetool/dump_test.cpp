@@ -1,0 +1,117 @@
+#include "coursetool/dump.h"
+#include "coursetool/json_text.h"
+#include "coursetool/workspace.h"
+
+#include <gmock/gmock.h>
+
+#include <limits>
+
+namespace {
+
+using jet::ColumnType;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+std::string json(const jet::Value& value) {
+    std::string out;
+    coursetool::appendJsonValue(value, out);
+    return out;
+}
+
+TEST(JsonValues, haveTheirFormats) {
+    const auto infinity = std::numeric_limits<double>::infinity();
+    const std::pair<jet::Value, const char*> rows[] = {
+        {{}, "null"},
+        {true, "true"},
+        {std::uint8_t{255}, "255"},
+        {std::int16_t{-32768}, "-32768"},
+        {std::int32_t{-2147483647 - 1}, "-2147483648"},
+        {jet::Currency{-125000}, "\"-12.5000\""},
+        {0.1f, "0.1"},
+        {0.1, "0.1"},
+        {1e300, "1e+300"},
+        {infinity, "\"Infinity\""},
+        {-infinity, "\"-Infinity\""},
+        {std::numeric_limits<double>::quiet_NaN(), "\"NaN\""},
+        {jet::DateTime{2.5}, "\"1900-01-01T12:00:00\""},
+        {jet::DateTime{1e9}, "1e+09"},
+        {jet::Binary{0x00, 0xAB}, "\"00ab\""},
+        {u"é\u0001", "\"é\\u0001\""},
+        {jet::Guid{{0x33, 0x22, 0x11, 0x00, 0x55, 0x44, 0x77, 0x66, 0x88, 0x99, 0xAA, 0xBB, 0xCC,
+                    0xDD, 0xEE, 0xFF}},
+         "\"{00112233-4455-6677-8899-AABBCCDDEEFF}\""},
+        {jet::Decimal{true, {0, 0, 0, 5}, 2}, "\"-0.05\""},
+    };
+    for (const auto& [value, expected] : rows)
+        EXPECT_EQ(json(value), expected);
+}
+
+TEST(JsonStrings, areEscapedWhereverTheCharacterStands) {
+    // Blocks of eight bytes and pieces of a thousand: each place in them, and each neighbour.
+    for (const auto& [c, escape] : {std::pair{'"', "\\\""},
+                                    {'\\', "\\\\"},
+                                    {'\n', "\\n"},
+                                    {'\r', "\\r"},
+                                    {'\t', "\\t"},
+                                    {'\0', "\\u0000"},
+                                    {'\x1F', "\\u001f"}}) {
+        for (std::size_t place = 0; place < 1040; place += place < 20 || place > 1000 ? 1 : 97) {
+            const std::string before(place, '\x20');
+            const std::string after = "!#[]\x7F\xC3\xA9\xFF";
+            std::string out;
+            coursetool::appendJsonString(before + c + c + after, out);
+            ASSERT_EQ(out, '"' + before + escape + escape + after + '"') << place;
+        }
+    }
+}
+
+struct Dump : testing::Test {
+    Workspace work;
+    coursetool::Report report;
+
+    coursetool::ExitCode dump(const std::string& file, const std::string& table) {
+        std::FILE* nowhere = std::tmpfile();
+        coursetool::OutputBuffer out(nowhere);
+        const auto code = coursetool::dump(work.path(file), table, out, report);
+        std::fclose(nowhere);
+        return code;
+    }
+};
+
+TEST_F(Dump, listsTablesAndColumns) {
+    writeDatabase(work.path("a.mdb"),
+                  {{u"Un", {{u"n", ColumnType::Long}, {u"é", ColumnType::Text, 20}}, {}},
+                   {u"Deux", {{u"m", ColumnType::Memo}}, {}}});
+    EXPECT_THAT(work.rows("a.mdb", ""),
+                testing::UnorderedElementsAre(
+                    R"({"table":"Un","columns":[{"name":"n","type":"Long"},)"
+                    R"({"name":"é","type":"Text","length":20}]})",
+                    R"({"table":"Deux","columns":[{"name":"m","type":"Memo"}]})"));
+}
+
+TEST_F(Dump, tellsWhatIsWrong) {
+    writeDatabase(work.path("a.mdb"), {{u"Un", {{u"n", ColumnType::Long}}, {}}});
+    EXPECT_EQ(dump("a.mdb", "Trois"), coursetool::ExitCode::WrongCall);
+    EXPECT_THAT(textOf(report), HasSubstr("Trois"));
+    work.write("b.mdb", "no database");
+    EXPECT_EQ(dump("b.mdb", ""), coursetool::ExitCode::Faults);
+    EXPECT_THAT(textOf(report), HasSubstr("b.mdb: "));
+}
+
+TEST_F(Dump, ofADamagedFileGivesTheRowsThatAreLeft) {
+    std::vector<std::vector<jet::Value>> rows;
+    for (std::int32_t i = 0; i < 500; ++i)
+        rows.push_back({i, std::u16string(100, u'y')});
+    writeDatabase(work.path("a.mdb"),
+                  {{u"t", {{u"n", ColumnType::Long}, {u"x", ColumnType::Text, 100}}, rows}});
+    std::string bytes = work.read("a.mdb");
+    work.write("a.mdb", bytes.substr(0, bytes.size() - 4 * 4096));
+    std::FILE* stream = std::tmpfile();
+    coursetool::OutputBuffer out(stream);
+    EXPECT_EQ(coursetool::dump(work.path("a.mdb"), "t", out, report), coursetool::ExitCode::Faults);
+    EXPECT_GT(std::ftell(stream), 1000);
+    EXPECT_TRUE(report.hasFaults());
+    std::fclose(stream);
+}
+
+} // namespace

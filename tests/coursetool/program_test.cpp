@@ -1,0 +1,126 @@
+// The program itself, as a child process: what it prints where, and how it ends.
+
+#include "coursetool/workspace.h"
+
+#include <QProcess>
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using testing::HasSubstr;
+using testing::StartsWith;
+
+struct Outcome {
+    int code = -1;
+    std::string out;
+    std::string err;
+};
+
+struct Program : testing::Test {
+    Workspace work;
+
+    Program() {
+        work.write("src/pages/1.page", "+++\nNumeropage = 1\ntitre = \"Un\"\n+++\nA¶\n");
+        work.write("src/files/a.txt", "a");
+    }
+
+    /// Runs in the workspace; without a display, whatever the tests run under.
+    Outcome run(const QStringList& arguments) {
+        QProcess child;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+            environment.remove(QString::fromLatin1(name));
+        child.setProcessEnvironment(environment);
+        child.setWorkingDirectory(QString::fromStdString(work.path().string()));
+        child.start(QStringLiteral(COURS_PROGRAM), arguments);
+        EXPECT_TRUE(child.waitForFinished(60'000));
+        EXPECT_EQ(child.exitStatus(), QProcess::NormalExit);
+        return {child.exitCode(), child.readAllStandardOutput().toStdString(),
+                child.readAllStandardError().toStdString()};
+    }
+    Outcome run(const char* arguments) {
+        return run(QString::fromUtf8(arguments).split(u' ', Qt::SkipEmptyParts));
+    }
+};
+
+TEST_F(Program, buildsDumpsTracesAndExtracts) {
+    const Outcome built = run("build src -o out");
+    EXPECT_EQ(built.code, 0);
+    EXPECT_EQ(built.out + built.err, "");
+    const Outcome dumped = run("dump out/Zekx.mdb cours");
+    EXPECT_EQ(dumped.code, 0);
+    EXPECT_THAT(dumped.out, StartsWith("{\"Numeropage\":1,"));
+    const Outcome traced = run("trace out --page 1");
+    EXPECT_EQ(traced.code, 0) << traced.err;
+    EXPECT_EQ(traced.err, "");
+    EXPECT_THAT(traced.out, HasSubstr("\"surface\":\"titre\""));
+    EXPECT_THAT(traced.out, HasSubstr("\n{\"op\":\"end\","));
+    EXPECT_EQ(run("extract out -o back").code, 0);
+    EXPECT_THAT(work.files("back"), testing::ElementsAre("files/a.txt", "pages/1-1.page"));
+}
+
+TEST_F(Program, endsWithOneForFaultsAndNamesThem) {
+    work.write("src/pages/2.page", "+++\nNumeropage = 1\nfaux = 2\n+++\n");
+    const Outcome built = run("build src -o out");
+    EXPECT_EQ(built.code, 1);
+    EXPECT_EQ(built.out, "");
+    EXPECT_THAT(built.err, HasSubstr("src/pages/2.page:3:1: champ inconnu « faux »"));
+    EXPECT_THAT(built.err, HasSubstr("src/pages/2.page:2:14: "));
+    work.write("bad.mdb", std::string(8192, 'x'));
+    EXPECT_EQ(run("dump bad.mdb").code, 1);
+    EXPECT_EQ(run("extract src -o back").code, 1);
+    EXPECT_EQ(run("trace src --page 1").code, 1);
+    work.write("latin1.txt", "\xE9\r\n");
+    EXPECT_EQ(run("trace --source latin1.txt").code, 1);
+}
+
+TEST_F(Program, endsWithTwoForWrongCallsAndDoesNothing) {
+    work.write("some/file", "x");
+    work.write("page.txt", "x");
+    for (const char* call : {"",
+                             "bidule",
+                             "build",
+                             "build src",
+                             "build nowhere -o out",
+                             "build src -o",
+                             "build src -o a -o b",
+                             "build src other -o out",
+                             "build src -o src/files/x",
+                             "build --chose src -o out",
+                             "extract src",
+                             "extract src -o some",
+                             "dump",
+                             "dump src",
+                             "dump nowhere.mdb",
+                             "trace",
+                             "trace src",
+                             "trace src --page",
+                             "trace src --page x",
+                             "trace src --page 1x",
+                             "trace --source nowhere",
+                             "trace src --source page.txt",
+                             "trace --page 1 --source page.txt"}) {
+        const Outcome outcome = run(call);
+        EXPECT_EQ(outcome.code, 2) << call;
+        EXPECT_EQ(outcome.out, "") << call;
+        EXPECT_THAT(outcome.err, StartsWith("orvalente-cours : ")) << call;
+    }
+    EXPECT_FALSE(work.has("out"));
+    run("build src -o out");
+    EXPECT_EQ(run("dump out/Zekx.mdb autre").code, 2);
+}
+
+TEST_F(Program, helpsInFrench) {
+    for (const char* call : {"--help", "build --help", "trace -h"}) {
+        const Outcome help = run(call);
+        EXPECT_EQ(help.code, 0);
+        EXPECT_THAT(help.out, HasSubstr("Usage : orvalente-cours"));
+        EXPECT_THAT(help.out, HasSubstr("Affiche cette aide"));
+        EXPECT_THAT(help.out,
+                    testing::Not(testing::ContainsRegex("REQUIRED|Subcommand|Positional")));
+    }
+    EXPECT_THAT(run("--version").out, StartsWith("orvalente-cours "));
+}
+
+} // namespace

@@ -1,0 +1,125 @@
+#include "jet/csv_dump.h"
+#include "jet/files.h"
+#include "jet/writing.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+#include <set>
+
+namespace {
+
+/// All that can be read of a file, and whether what could not be read was told.
+struct Harvest {
+    bool opened = false;
+    std::multiset<std::string> rows; ///< table name and all cells
+    std::size_t bytes = 0;           ///< of the cells' texts
+    bool mute = false;               ///< a failure had no sentence
+};
+
+void harvestTable(const jet::Database& database, const jet::TableInfo& info, Harvest& harvest) {
+    auto table = database.table(info.name);
+    if (!table) {
+        harvest.mute |= table.error().sentence.empty();
+        return;
+    }
+    const std::string name = testing::PrintToString(info.name);
+    const std::size_t columns = table->columns().size();
+    table->visit([&](jet::RecordView& record) {
+        std::string row = name;
+        for (std::size_t i = 0; i < columns; ++i) {
+            const auto value = record.value(i);
+            harvest.mute |= !value && value.error().sentence.empty();
+            row += '|' + (value ? dumpCell(*value).value_or("NULL") : "damaged");
+        }
+        harvest.bytes += row.size();
+        harvest.rows.insert(row);
+        return true;
+    });
+    EXPECT_EQ(static_cast<bool>(table->record(table->recordCount())), false);
+}
+
+Harvest harvest(const std::filesystem::path& path) {
+    Harvest harvest;
+    const auto database = jet::Database::open(path);
+    harvest.opened = static_cast<bool>(database);
+    if (!database) {
+        harvest.mute = database.error().sentence.empty();
+        return harvest;
+    }
+    for (const jet::TableInfo& info : database->tables())
+        harvestTable(*database, info, harvest);
+    return harvest;
+}
+
+class Corruption : public testing::TestWithParam<const char*> {
+protected:
+    ScratchFolder scratch_;
+    FileBytes sound_ = readBytes(samplePath(GetParam()));
+};
+
+/// A file cut off anywhere gives what is still there, and nothing that was not.
+TEST_P(Corruption, truncation) {
+    const Harvest whole = harvest(samplePath(GetParam()));
+    ASSERT_TRUE(whole.opened);
+    std::size_t shorter = 0;
+    for (std::size_t length = 0; length < sound_.size(); length += length < 300 ? 37 : 3001) {
+        writeBytes(scratch_ / "cut.mdb",
+                   FileBytes(sound_.begin(), sound_.begin() + static_cast<std::ptrdiff_t>(length)));
+        const Harvest left = harvest(scratch_ / "cut.mdb");
+        EXPECT_FALSE(left.mute) << length;
+        EXPECT_LE(left.rows.size(), whole.rows.size()) << length;
+        shorter += left.rows.size() < whole.rows.size() ? 1 : 0;
+        for (const std::string& row : left.rows)
+            EXPECT_TRUE(row.find("damaged") != std::string::npos || whole.rows.contains(row))
+                << length << ": " << row.substr(0, 200);
+    }
+    EXPECT_GT(shorter, 10u);
+}
+
+/// Bytes changed at random, most of them in the first bytes of pages and in their slots, where the
+/// structure is: nothing may crash or hang, nor give out much more than the file holds.
+TEST_P(Corruption, changedBytes) {
+    constexpr int kFiles = 150;
+    constexpr std::size_t kStructureBytes = 256;
+    std::mt19937 random(20240229); // fixed, so that a failure can be looked at
+    const std::size_t pageSize = sound_[0x14] == 0 ? 2048 : 4096;
+    const auto below = [&](std::size_t limit) {
+        return std::uniform_int_distribution<std::size_t>(0, limit - 1)(random);
+    };
+    int affected = 0;
+    const Harvest whole = harvest(samplePath(GetParam()));
+    for (int file = 0; file < kFiles; ++file) {
+        FileBytes bytes = sound_;
+        for (std::size_t i = 0; i < 1 + static_cast<std::size_t>(file) % 40; ++i) {
+            const std::size_t page = 1 + below(bytes.size() / pageSize - 1);
+            const std::size_t at = below(3) != 0 ? below(kStructureBytes) : below(pageSize);
+            bytes[page * pageSize + at] = static_cast<std::uint8_t>(below(256));
+        }
+        writeBytes(scratch_ / "changed.mdb", bytes);
+        const Harvest left = harvest(scratch_ / "changed.mdb");
+        EXPECT_FALSE(left.mute) << file;
+        EXPECT_LE(left.bytes, 300 * bytes.size()) << file;
+        affected += left.rows != whole.rows ? 1 : 0;
+    }
+    EXPECT_GT(affected, kFiles / 10) << "the changes did not reach what is read";
+}
+
+INSTANTIATE_TEST_SUITE_P(Samples, Corruption,
+                         testing::Values("testV1997", "test2V1997", "test2V2000",
+                                         "overflowTestV2000", "testUnicodeCompV2003"),
+                         [](const auto& test) { return std::string(test.param); });
+
+TEST(OpeningAFile, thatIsNoDatabase) {
+    const ScratchFolder scratch;
+    using Kind = jet::Failure::Kind;
+    EXPECT_EQ(jet::Database::open(scratch / "absent.mdb").error().kind, Kind::System);
+    EXPECT_EQ(jet::Database::open(scratch.path()).error().kind, Kind::System);
+    writeBytes(scratch / "empty.mdb", {});
+    EXPECT_EQ(jet::Database::open(scratch / "empty.mdb").error().kind, Kind::NotADatabase);
+    writeBytes(scratch / "text.mdb", FileBytes(5000, 'x'));
+    EXPECT_EQ(jet::Database::open(scratch / "text.mdb").error().kind, Kind::NotADatabase);
+}
+
+} // namespace

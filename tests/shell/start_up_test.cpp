@@ -1,0 +1,147 @@
+#include "raw_status_file.h"
+#include "shell/start_up.h"
+#include "support/fake_prompter.h"
+#include "support/fake_screen.h"
+
+#include <QTemporaryDir>
+
+using platform::Message;
+using shell::StartUp;
+
+/// Everything that start-up touches, writing down what is done to it.
+class StartUpTest : public testing::Test,
+                    public shell::StartUpWindow,
+                    public shell::CourseBinding,
+                    public shell::DisplayWarning {
+protected:
+    StartUpTest() {
+        test_support::writeFile(directory_.filePath("ZEKX.MDB"), "not a database at all");
+        state_.VideoOpen = true;
+        state_.PictureDataDir = state_.VideoDataDir = "E:\\ZEKXV\\";
+        for (int slot = 0; slot <= 40; ++slot)
+            state_.SiblingProcessIds.store(slot, 77);
+    }
+
+    void shareLinkCursor() override { steps_ << "cursor"; }
+    void setWidth(double twips) override { steps_ << QString("width %1").arg(twips); }
+    void place(const shell::Placement& at) override {
+        steps_
+            << QString("place %1 %2 %3 %4").arg(at.left).arg(at.top).arg(at.width).arg(at.height);
+    }
+    void pumpPendingMessages() override {
+        steps_ << (raw_status_file::all(directory_.path()).isEmpty() ? "pump" : "pump, file there");
+    }
+    void bind(const QString& path) override {
+        steps_ << "bind " + path.mid(directory_.path().size());
+        screen_.width = widthAfterBinding_.value_or(screen_.width / 15) * 15;
+    }
+    Choice showModally() override {
+        steps_ << QString("warning %1").arg(state_.DisplayWarningMode);
+        screen_.width += 100 * 15;
+        return choice_;
+    }
+
+    StartUp::Outcome run() { return startUp_.run(); }
+
+    QByteArray record(int number) const {
+        return raw_status_file::characters(directory_.path(), number);
+    }
+
+    QTemporaryDir directory_;
+    shell::SharedState state_;
+    test_support::FakeScreen screen_{1024, 768};
+    test_support::FakePrompter prompter_;
+    std::optional<double> widthAfterBinding_;
+    Choice choice_ = Choice::Continue;
+    QStringList steps_;
+    StartUp startUp_{state_, directory_.path(), {screen_, prompter_, *this, *this, *this}};
+};
+
+TEST_F(StartUpTest, runsItsStepsInOrder) {
+    EXPECT_EQ(run(), StartUp::Outcome::GoOn);
+    EXPECT_EQ(steps_,
+              (QStringList{"cursor", "width 12000", "bind /ZEKX.MDB", "pump",
+                           "place 1680 1260 12000 9000", "pump, file there", "pump, file there"}));
+    EXPECT_TRUE(prompter_.messages.empty());
+    EXPECT_EQ(startUp_.coverPath(), directory_.path() + "/couverture.jpg");
+}
+
+TEST_F(StartUpTest, leavesTheSharedStateReady) {
+    run();
+    EXPECT_EQ(state_.InstallDir, directory_.path() + '/');
+    EXPECT_FALSE(state_.VideoOpen);
+    EXPECT_EQ(state_.PictureDataDir + state_.VideoDataDir, "");
+    EXPECT_EQ(state_.DisplayWarningMode, 0);
+    EXPECT_TRUE(state_.HistoryRecording);
+    const auto& names = state_.SiblingProgramNames;
+    EXPECT_EQ(names.valueOr(0, "?") + names.valueOr(20, "?"), "");
+    EXPECT_EQ(names.valueOr(1, ""), "SIMU01.EXE");
+    EXPECT_EQ(names.valueOr(19, ""), "SIMU19.EXE");
+    for (int slot = 0; slot <= 40; ++slot)
+        EXPECT_EQ(*state_.SiblingProcessIds.slot(slot), slot >= 1 && slot <= 30 ? 0 : 77) << slot;
+}
+
+TEST_F(StartUpTest, resetsTheStatusFileOfAnEarlierSession) {
+    test_support::writeFile(directory_.filePath(raw_status_file::kName),
+                            raw_status_file::record("OUI", '#').repeated(33));
+    run();
+    for (int number = 1; number <= 31; ++number)
+        EXPECT_EQ(record(number), "NON") << number;
+    EXPECT_EQ(record(32), "Orvalente 1.0");
+    EXPECT_EQ(raw_status_file::all(directory_.path()).mid(32 * 128),
+              raw_status_file::record("OUI", '#'));
+}
+
+TEST_F(StartUpTest, endsOnAScreenTooNarrowBeforeAnythingIsLookedFor) {
+    screen_.width = 699 * 15;
+    QFile::remove(directory_.filePath("ZEKX.MDB"));
+    EXPECT_EQ(run(), StartUp::Outcome::End);
+    EXPECT_EQ(
+        prompter_.messages,
+        (std::vector{Message{"Exécution impossible", "La configyaration d'écran est inadaptée",
+                             Message::Icon::Critical, Message::Buttons::Ok}}));
+    EXPECT_EQ(steps_, (QStringList{"cursor", "width 12000"}));
+    EXPECT_FALSE(QFile::exists(directory_.filePath(raw_status_file::kName)));
+    EXPECT_EQ(*state_.SiblingProcessIds.slot(1), 77);
+}
+
+TEST_F(StartUpTest, endsWithoutADatabaseAndWithoutTouchingTheStatusFile) {
+    QFile::remove(directory_.filePath("ZEKX.MDB"));
+    EXPECT_EQ(run(), StartUp::Outcome::End);
+    EXPECT_EQ(prompter_.messages,
+              (std::vector{Message{"Exécution impossible", "Base de données absente",
+                                   Message::Icon::Critical, Message::Buttons::Ok}}));
+    EXPECT_EQ(steps_, (QStringList{"cursor", "width 12000"}));
+    EXPECT_FALSE(QFile::exists(directory_.filePath(raw_status_file::kName)));
+}
+
+TEST_F(StartUpTest, placesTheWindowOnlyOnAWiderScreen) {
+    for (const double width : {700., 810., 811.}) {
+        steps_.clear();
+        screen_.width = width * 15;
+        EXPECT_EQ(run(), StartUp::Outcome::GoOn) << width;
+        EXPECT_EQ(steps_.filter("place").size(), width > 810 ? 1 : 0) << width;
+    }
+}
+
+TEST_F(StartUpTest, warnsAsLongAsTheScreenHasBecomeTooNarrow) {
+    widthAfterBinding_ = 550;
+    EXPECT_EQ(run(), StartUp::Outcome::GoOn);
+    EXPECT_EQ(steps_.mid(2), (QStringList{"bind /ZEKX.MDB", "pump", "warning 1", "warning 1",
+                                          "pump, file there", "pump, file there"}));
+    EXPECT_EQ(state_.DisplayWarningMode, 1);
+}
+
+TEST_F(StartUpTest, theWarningMayEndTheProgram) {
+    widthAfterBinding_ = 699;
+    choice_ = Choice::Quit;
+    EXPECT_EQ(run(), StartUp::Outcome::End);
+    EXPECT_EQ(steps_.back(), "warning 1");
+    EXPECT_TRUE(raw_status_file::all(directory_.path()).isEmpty());
+}
+
+TEST(InstallDir, endsWithExactlyOneSeparator) {
+    EXPECT_EQ(shell::installDir("/cours"), "/cours/");
+    EXPECT_EQ(shell::installDir("/cours///"), "/cours/");
+    EXPECT_EQ(shell::installDir("/"), "/");
+}

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "platform/recordset.h"
+
+#include <QList>
+#include <QMap>
+
+#include <vector>
+
+namespace test_support {
+
+/// A table in memory. Field names are those of the first record.
+class MemoryRecordset : public platform::Recordset {
+public:
+    using Record = QMap<QString, platform::FieldValue>;
+
+    explicit MemoryRecordset(QList<Record> all) : records(std::move(all)) {}
+
+    int recordCount() const override { return static_cast<int>(records.size()); }
+    int absolutePosition() const override { return position_; }
+
+    bool setAbsolutePosition(int position) override {
+        if (position < 0 || position >= recordCount())
+            return false;
+        position_ = position;
+        return true;
+    }
+
+    bool hasField(const QString& name) const override {
+        return !records.isEmpty() && records.first().contains(name);
+    }
+
+    std::optional<platform::FieldValue> field(const QString& name) const override {
+        if (position_ < 0 || !hasField(name) || unreadable.contains(name))
+            return std::nullopt;
+        return records[position_].value(name);
+    }
+
+    void forEach(const QStringList& fields,
+                 const std::function<void(int, std::span<const platform::FieldValue>)>& visit)
+        const override {
+        for (int position = 0; position < recordCount(); ++position) {
+            std::vector<platform::FieldValue> values;
+            for (const QString& name : fields)
+                values.push_back(records[position].value(name));
+            visit(position, values);
+        }
+    }
+
+    QList<Record> records;
+    QStringList unreadable; ///< fields that exist but cannot be read
+
+private:
+    int position_ = -1;
+};
+
+} // namespace test_support

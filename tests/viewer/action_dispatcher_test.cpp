@@ -1,0 +1,125 @@
+#include "viewer/action_dispatcher.h"
+#include "viewer/logic_bench.h"
+
+#include <gmock/gmock.h>
+
+#include <limits>
+
+namespace {
+
+using test_support::page;
+using testing::ElementsAre;
+
+class Actions : public testing::Test {
+protected:
+    /// Runs a code; the number of the page shown by it, or "-" when it showed none.
+    QString run(const QString& code) {
+        bench.neighbours.log.clear();
+        bench.actions.run(code);
+        return bench.neighbours.log.contains(QStringLiteral("show page")) ? bench.shown()
+                                                                          : QStringLiteral("-");
+    }
+
+    // In the order of the records; the numbers 0 and 2 have no page.
+    test_support::LogicBench bench{{page(3), page(1), page(5)}};
+};
+
+TEST_F(Actions, PageCodesLeadToTheRecordOfTheNumber) {
+    struct Row {
+        QString code;
+        QString shown;
+    };
+    for (const Row& row : {
+             Row{u"PAG001"_qs, u"1"_qs},
+             Row{u"PAG003"_qs, u"3"_qs},
+             Row{u"PAG005"_qs, u"5"_qs}, // the highest number is still reached
+             Row{u"PAG002"_qs, u"3"_qs}, // a hole leads to the record of position 0: meant so
+             Row{u"PAG000"_qs, u"3"_qs},
+             Row{u"PAG001"_qs, u"1"_qs},
+             Row{u"PAG006"_qs, u"1"_qs}, // out of bounds: the page stays
+             Row{u"PAG999"_qs, u"1"_qs},
+             Row{u"PAG-05"_qs, u"1"_qs},
+             Row{u"PAG1005"_qs, u"5"_qs}, // only three digits count
+             Row{u"pag003"_qs, u"-"_qs},  // letter case counts
+             Row{u"PA"_qs, u"-"_qs},
+             Row{u""_qs, u"-"_qs},
+             Row{u"XYZ003"_qs, u"-"_qs},
+         })
+        EXPECT_EQ(run(row.code), row.shown) << qPrintable(row.code);
+}
+
+TEST_F(Actions, OutOfBoundsRecordsThePageOnceMore) {
+    run(QStringLiteral("PAG003"));
+    run(QStringLiteral("PAG900"));
+    bench.actions.showPageByOrder(900);
+    EXPECT_THAT(bench.history(), ElementsAre(3, 3, 3));
+}
+
+TEST_F(Actions, ReadingOrderHasItsOwnTable) {
+    bench.cours.records = {page(3, {}, {{QStringLiteral("Index"), 7.0}}),
+                           page(1, {}, {{QStringLiteral("Index"), 8.0}})};
+    viewer::buildPageIndex(bench.cours, bench.state);
+    bench.actions.showPageByOrder(8);
+    EXPECT_EQ(bench.shown(), QStringLiteral("1"));
+    EXPECT_EQ(bench.state.CurrentOrderIndex, 8);
+    bench.commands.previousInChapter();
+    EXPECT_EQ(bench.shown(), QStringLiteral("3"));
+    bench.commands.nextInChapter();
+    EXPECT_EQ(bench.shown(), QStringLiteral("1"));
+    for (const int index : {9, -1, std::numeric_limits<int>::min()}) {
+        bench.actions.showPageByOrder(index);
+        EXPECT_EQ(bench.shown(), index == 9 ? QStringLiteral("3") : bench.shown()) << index;
+    }
+}
+
+TEST_F(Actions, NeighbourOfTheHighestIndexIsNone) {
+    run(QStringLiteral("PAG001"));
+    bench.state.CurrentOrderIndex = std::numeric_limits<std::int32_t>::max();
+    bench.neighbours.log.clear();
+    bench.commands.nextInChapter();
+    EXPECT_TRUE(bench.neighbours.log.isEmpty());
+}
+
+TEST_F(Actions, WithoutIndexThePageStays) {
+    run(QStringLiteral("PAG001"));
+    bench.state.PageByNumber.reset();
+    bench.state.PageByOrder.reset();
+    EXPECT_EQ(run(QStringLiteral("PAG003")), QStringLiteral("1"));
+    bench.actions.showPageByOrder(3);
+    EXPECT_EQ(bench.shown(), QStringLiteral("1"));
+}
+
+TEST_F(Actions, OtherPrefixesLeaveThePageAlone) {
+    EXPECT_EQ(run(QStringLiteral("EXE235")), QStringLiteral("-"));
+    EXPECT_THAT(bench.neighbours.log,
+                ElementsAre(QStringLiteral("launch 235"), QStringLiteral("normal pointer")));
+    run(QStringLiteral("BDC000"));
+    EXPECT_THAT(bench.neighbours.log,
+                ElementsAre(QStringLiteral("order form"), QStringLiteral("normal pointer")));
+    run(QStringLiteral("??"));
+    EXPECT_THAT(bench.neighbours.log, ElementsAre(QStringLiteral("normal pointer")));
+}
+
+TEST_F(Actions, PendingChapterIsNeverOverwritten) {
+    bench.actions.run(QStringLiteral("EXO012"));
+    EXPECT_EQ(bench.state.PendingExerciseChapter, 12);
+    bench.actions.run(QStringLiteral("EXO034"));
+    EXPECT_EQ(bench.state.PendingExerciseChapter, 12);
+    EXPECT_EQ(bench.neighbours.log.count(QStringLiteral("exercise")), 2);
+}
+
+TEST_F(Actions, ExerciseMayReplaceTheCodeByThePageToReturnTo) {
+    bench.neighbours.exercise.whileOpen = [this] { bench.state.ExerciseReturnPage = 7; };
+    QString code = QStringLiteral("EXO001");
+    bench.actions.runAction(code);
+    EXPECT_EQ(code, QStringLiteral("PAG007"));
+    EXPECT_TRUE(bench.view.returnToTest);
+
+    bench.neighbours.exercise.whileOpen = [this] { bench.state.ExerciseReturnPage = 0; };
+    code = QStringLiteral("EXO001");
+    bench.actions.runAction(code);
+    EXPECT_EQ(code, QStringLiteral("EXO001"));
+    EXPECT_FALSE(bench.view.returnToTest);
+}
+
+} // namespace

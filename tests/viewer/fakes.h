@@ -1,0 +1,92 @@
+#pragma once
+
+#include "viewer/action_dispatcher.h"
+#include "viewer/neighbours.h"
+
+#include <QStringList>
+
+#include <functional>
+#include <utility>
+
+namespace test_support {
+
+/// What stands beside the main window: each notes in `log` what it was asked for.
+struct FakeNeighbours {
+    struct Window : viewer::ModalWindow {
+        Window(QStringList& calls, QString text) : log(calls), name(std::move(text)) {}
+        void open() override {
+            log.append(name);
+            if (whileOpen)
+                whileOpen();
+        }
+        QStringList& log;
+        QString name;
+        std::function<void()> whileOpen;
+    };
+
+    struct Video : viewer::VideoDevice {
+        explicit Video(QStringList& calls) : log(calls) {}
+        void close() override { log.append(QStringLiteral("close video")); }
+        void press(int index) override { log.append(QStringLiteral("video %1").arg(index)); }
+        QStringList& log;
+    };
+
+    struct Links : viewer::PageLinks {
+        explicit Links(QStringList& calls) : log(calls) {}
+        void shareCursor() override { log.append(QStringLiteral("share cursor")); }
+        void reset() override {
+            log.append(QStringLiteral("free links"));
+            if (whileResetting)
+                whileResetting();
+        }
+        void resetHighlight(int kept) override {
+            ++highlightResets;
+            lastKept = kept;
+        }
+        QStringList& log;
+        std::function<void()> whileResetting;
+        int highlightResets = 0;
+        int lastKept = 0;
+    };
+
+    struct Printing : viewer::PagePrinting {
+        explicit Printing(QStringList& calls) : log(calls) {}
+        void print() override { log.append(QStringLiteral("print")); }
+        void prepare() override { log.append(QStringLiteral("prepare printer")); }
+        QStringList& log;
+    };
+
+    struct Updates : viewer::UpdateCheck {
+        bool confirmUpdateIsPossible() override { return possible; }
+        bool possible = true;
+    };
+
+    struct Modules : viewer::ModuleStarter {
+        explicit Modules(QStringList& calls) : log(calls) {}
+        void launchModule(std::int16_t code) override {
+            log.append(QStringLiteral("launch %1").arg(code));
+        }
+        QStringList& log;
+    };
+
+    viewer::Neighbours all() {
+        return {video,  links,      printing, updates,      exercise,  orderForm,
+                search, calculator, help,     installation, exitScreen};
+    }
+
+    QStringList log;
+    Video video{log};
+    Links links{log};
+    Printing printing{log};
+    Updates updates;
+    Modules modules{log};
+    Window exercise{log, QStringLiteral("exercise")};
+    Window orderForm{log, QStringLiteral("order form")};
+    Window search{log, QStringLiteral("search")};
+    Window calculator{log, QStringLiteral("calculator")};
+    Window help{log, QStringLiteral("help")};
+    Window installation{log, QStringLiteral("installation")};
+    Window exitScreen{log, QStringLiteral("exit screen")};
+};
+
+} // namespace test_support

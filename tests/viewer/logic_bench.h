@@ -1,0 +1,89 @@
+#pragma once
+
+#include "markup/page_bench.h"
+#include "support/fake_prompter.h"
+#include "viewer/action_dispatcher.h"
+#include "viewer/course.h"
+#include "viewer/fakes.h"
+#include "viewer/main_commands.h"
+#include "viewer/page_index.h"
+#include "viewer/page_loader.h"
+
+namespace test_support {
+
+/// A main window of which only the calls are left, a line each, and what they leave behind.
+class LoggingView : public viewer::PageView {
+public:
+    explicit LoggingView(QStringList& calls) : log(calls) {}
+
+    void setPageVisible(bool on) override { note(on ? u"show page"_qs : u"hide page"_qs); }
+    void resetLinks() override { note(u"free links"_qs); }
+    void hideScrollBarAndVideoFrame() override { note(u"hide bar"_qs); }
+    void clearPictures() override { note(u"clear pictures"_qs); }
+    void setCaption(const QString& text) override { note(u"caption "_qs + text); }
+    void setTitle(const QString& text) override { note(u"title "_qs + text); }
+    void setBackEnabled(bool on) override {
+        back = on;
+        note(u"back "_qs + QString::number(on));
+    }
+    void setForwardEnabled(bool on) override {
+        forward = on;
+        note(u"forward "_qs + QString::number(on));
+    }
+    void fitPage() override { note(u"fit page"_qs); }
+    void setChapterButtons(bool previous, bool next) override {
+        note(u"chapter %1%2"_qs.arg(previous).arg(next));
+    }
+    void setPrintable(bool on) override { note(u"printable "_qs + QString::number(on)); }
+    void setSummary(const QString& code, const QString& caption) override {
+        summary = code + u' ' + caption;
+        note(u"summary "_qs + summary);
+    }
+    void setReturnToTestVisible(bool on) override { returnToTest = on; }
+    void showHourglass() override { note(u"hourglass"_qs); }
+    void restorePointer() override { note(u"normal pointer"_qs); }
+
+    QStringList& log;
+    bool back = false;
+    bool forward = false;
+    bool returnToTest = false;
+    QString summary;
+
+private:
+    void note(const QString& call) { log.append(call); }
+};
+
+/// Course, dispatcher and commands without a window.
+class LogicBench {
+public:
+    explicit LogicBench(QList<test_support::MemoryRecordset::Record> course)
+        : cours(std::move(course)) {
+        pages.bindTo(cours);
+        viewer::buildPageIndex(cours, state);
+    }
+
+    /// Number of the page that is shown.
+    QString shown() const { return bound.TextID; }
+
+    /// Fixed numbers in the history, up to the position.
+    QList<int> history() const {
+        QList<int> visited;
+        for (int slot = 1; slot <= state.HistoryPos; ++slot)
+            visited.append(state.HistoryPages.valueOr(slot, -1));
+        return visited;
+    }
+
+    test_support::MemoryRecordset cours;
+    FakeNeighbours neighbours;
+    test_support::FakePrompter prompter;
+    LoggingView view{neighbours.log};
+    PageBench window;
+    shell::SharedState state;
+    viewer::BoundRecord bound;
+    viewer::PageLoader pages{state, bound, view, window, window.renderer, neighbours.video};
+    viewer::ActionDispatcher actions{
+        state, pages, view, neighbours.modules, neighbours.exercise, neighbours.orderForm};
+    viewer::MainCommands commands{state, actions, view, neighbours.all(), prompter};
+};
+
+} // namespace test_support

@@ -1,0 +1,565 @@
+#include "platform/qt/look/scroll_bar.h"
+#include "viewer/chapter_bar.h"
+#include "viewer/cover.h"
+#include "viewer/multim.h"
+#include "viewer/page_code.h"
+#include "viewer/picture_box.h"
+#include "viewer/window_bench.h"
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QApplication>
+#include <QDir>
+#include <QLabel>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <QWheelEvent>
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using platform::Answer;
+using test_support::page;
+using testing::ElementsAre;
+
+/// Source of a page with so many lines of text.
+QString lines(int count) {
+    return QStringLiteral("Une ligne de texte¶\r\n").repeated(count);
+}
+
+QList<test_support::MemoryRecordset::Record> course() {
+    auto all = test_support::pages(161);
+    all[0] = page(1, lines(100), {{QStringLiteral("suite"), true}});
+    all[1] = page(2, lines(3),
+                  {{QStringLiteral("precedent"), true},
+                   {QStringLiteral("imprimable"), true},
+                   {QStringLiteral("sommaire"), 28.0}});
+    return all;
+}
+
+class Window : public testing::Test {
+protected:
+    Window() {
+        bench.start();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&bench.window));
+    }
+
+    void click(const char* name) {
+        QTest::mouseClick(bench.control<QWidget>(name), Qt::LeftButton);
+    }
+    void press(int key, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(&bench.window, Qt::Key(key), modifiers);
+    }
+    void show(int number) { bench.commands.runCode(viewer::pageCode(number)); }
+    QString shown() const { return bench.bound.TextID; }
+    /// How far the page is scrolled, in pixels.
+    int scrolled() { return -bench.control<QWidget>("PictureTEXTE")->y(); }
+
+    test_support::WindowBench bench{course()};
+};
+
+TEST_F(Window, OpensOnTheFirstPageWithEverythingInPlace) {
+    EXPECT_TRUE(bench.started);
+    EXPECT_THAT(bench.history(), ElementsAre(1));
+    EXPECT_EQ(bench.window.size(), QSize(800, 600));
+    struct Row {
+        const char* name;
+        QRect place;
+        bool visible, enabled;
+    };
+    for (const Row& row : {
+             Row{"Command2", {8, 4, 64, 56}, true, true},
+             Row{"command6", {72, 4, 64, 56}, true, true},
+             Row{"command5", {136, 4, 64, 56}, true, true},
+             Row{"command4", {216, 4, 64, 56}, true, true},
+             Row{"Command3", {280, 4, 64, 56}, true, true},
+             Row{"CommandIMPRIME", {344, 4, 64, 56}, true, false},
+             Row{"Command12", {424, 4, 64, 56}, true, true},
+             Row{"Command13", {488, 4, 64, 56}, true, true},
+             Row{"Command10", {552, 4, 64, 56}, true, true},
+             Row{"Command8", {616, 4, 64, 56}, true, true},
+             Row{"Command14", {728, 4, 64, 56}, true, true},
+             Row{"titre", {176, 72, 600, 32}, true, true},
+             Row{"PICTUREILLUS", {8, 112, 152, 360}, true, true},
+             Row{"btexo", {8, 480, 152, 48}, false, true},
+             Row{"avant", {8, 536, 72, 56}, true, false},
+             Row{"apres", {88, 536, 72, 56}, true, false},
+             Row{"framekx", {176, 120, 616, 424}, true, true},
+             Row{"VScroll1", {776, 120, 16, 424}, true, true},
+             Row{"Framebase", {168, 560, 624, 32}, true, true},
+             Row{"avantcours", {168, 560, 152, 32}, false, true},
+             Row{"suite", {640, 560, 152, 32}, true, true},
+             Row{"projo", {176, 496, 320, 240}, false, true},
+         }) {
+        const auto* control = bench.control<QWidget>(row.name);
+        ASSERT_NE(control, nullptr) << row.name;
+        EXPECT_EQ(QRect(control->mapTo(&bench.window, QPoint()), control->size()), row.place)
+            << row.name;
+        EXPECT_EQ(control->isVisible(), row.visible) << row.name;
+        EXPECT_EQ(control->isEnabled(), row.enabled) << row.name;
+    }
+    EXPECT_FALSE(bench.control<QWidget>("cover")->isVisible());
+    EXPECT_EQ(bench.window.windowTitle(), QStringLiteral("Orvalente - KAROPE"));
+}
+
+TEST_F(Window, EachButtonDoesWhatItSays) {
+    struct Row {
+        const char* button;
+        QString call; ///< what a neighbour was asked for, or
+        QString page; ///< the page shown
+    };
+    for (const Row& row : {
+             Row{"command6", {}, u"28"_qs},
+             Row{"command5", {}, u"30"_qs},
+             Row{"Command13", {}, u"161"_qs},
+             Row{"Command2", {}, u"1"_qs},
+             Row{"suite", {}, u"2"_qs},
+             Row{"avantcours", {}, u"1"_qs},
+             Row{"avant", {}, u"2"_qs},
+             Row{"apres", {}, u"1"_qs},
+             Row{"Command12", u"launch 70"_qs, {}},
+             Row{"command4", u"search"_qs, {}},
+             Row{"Command3", u"calculator"_qs, {}},
+             Row{"Command10", u"help"_qs, {}},
+             Row{"Command8", u"installation"_qs, {}},
+         }) {
+        bench.neighbours.log.clear();
+        click(row.button);
+        if (!row.page.isEmpty())
+            EXPECT_EQ(shown(), row.page) << row.button;
+        else
+            EXPECT_EQ(bench.neighbours.log.value(0), row.call) << row.button;
+    }
+}
+
+TEST_F(Window, ButtonsThatAPageDoesNotOfferDoNothing) {
+    bench.neighbours.log.clear();
+    for (const char* name : {"CommandIMPRIME", "avant", "apres"})
+        click(name);
+    press(Qt::Key_Left, Qt::AltModifier);
+    press(Qt::Key_Right, Qt::AltModifier);
+    press(Qt::Key_Backspace);
+    press(Qt::Key_I, Qt::AltModifier);
+    press(Qt::Key_P, Qt::AltModifier);
+    EXPECT_TRUE(bench.neighbours.log.isEmpty());
+    EXPECT_EQ(bench.state.HistoryPos, 1);
+
+    show(2);
+    bench.neighbours.log.clear();
+    click("CommandIMPRIME");
+    EXPECT_THAT(bench.neighbours.log, ElementsAre(QStringLiteral("print")));
+}
+
+TEST_F(Window, MnemonicsPressTheirButtons) {
+    show(2);
+    show(3);
+    struct Row {
+        int key;
+        QString page;
+    };
+    for (const Row& row :
+         {Row{Qt::Key_P, u"2"_qs}, Row{Qt::Key_U, u"3"_qs}, Row{Qt::Key_Y, u"28"_qs},
+          Row{Qt::Key_H, u"30"_qs}, Row{Qt::Key_S, u"1"_qs}}) {
+        press(row.key, Qt::AltModifier);
+        EXPECT_EQ(shown(), row.page) << char(row.key);
+    }
+    bench.neighbours.log.clear();
+    press(Qt::Key_C, Qt::AltModifier);
+    press(Qt::Key_A, Qt::AltModifier);
+    press(Qt::Key_E, Qt::AltModifier);
+    EXPECT_THAT(bench.neighbours.log.mid(0, 3),
+                ElementsAre(QStringLiteral("calculator"), QStringLiteral("help"),
+                            QStringLiteral("launch 70")));
+}
+
+TEST_F(Window, SearchAndCreditsShareAMnemonicAndBothWork) {
+    EXPECT_EQ(QApplication::focusWidget(), &bench.window); // no button is chosen from the start
+    QSet<QString> reached;
+    for (int time = 0; time < 2; ++time) {
+        press(Qt::Key_R, Qt::AltModifier);
+        reached.insert(QApplication::focusWidget()->objectName());
+    }
+    EXPECT_EQ(reached, (QSet<QString>{QStringLiteral("command4"), QStringLiteral("Command13")}));
+    QTest::keyClick(bench.control("Command13"), Qt::Key_Return);
+    EXPECT_EQ(shown(), QStringLiteral("161"));
+}
+
+TEST_F(Window, KeysWalkTheHistory) {
+    show(2);
+    press(Qt::Key_Left, Qt::AltModifier);
+    EXPECT_EQ(shown(), QStringLiteral("1"));
+    press(Qt::Key_Right, Qt::AltModifier);
+    EXPECT_EQ(shown(), QStringLiteral("2"));
+    QTest::keyClick(bench.control("Command3"), Qt::Key_Backspace); // wherever the focus is
+    EXPECT_EQ(shown(), QStringLiteral("1"));
+}
+
+TEST_F(Window, KeysWheelAndBarScrollATallPage) {
+    auto* bar = bench.control<platform::look::ScrollBar>("VScroll1");
+    const int height = bench.control<QWidget>("PictureTEXTE")->height();
+    const int furthest = height - 424;
+    ASSERT_GT(furthest, 424);
+    struct Row {
+        int key;
+        int scrolled;
+    };
+    for (const Row& row :
+         {Row{Qt::Key_Up, 0}, Row{Qt::Key_Down, 22}, Row{Qt::Key_PageDown, 22 + 423},
+          Row{Qt::Key_PageUp, 22}, Row{Qt::Key_End, furthest}, Row{Qt::Key_Down, furthest},
+          Row{Qt::Key_Home, 0}}) {
+        press(row.key);
+        EXPECT_EQ(scrolled(), row.scrolled) << row.key;
+    }
+    QTest::keyClick(bench.control("Command3"), Qt::Key_Down); // a button does not keep the arrows
+    EXPECT_EQ(scrolled(), 22);
+    EXPECT_EQ(bar->value(), -22 * 15);
+
+    QWheelEvent notch({400, 300}, {400, 300}, {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase,
+                      false);
+    QApplication::sendEvent(&bench.window, &notch);
+    EXPECT_EQ(scrolled(), 22 + 3 * 22);
+    bar->setValue(-1500);
+    EXPECT_EQ(scrolled(), 100);
+
+    show(2); // fits the view, and starts from its top
+    EXPECT_EQ(scrolled(), 0);
+    EXPECT_FALSE(bar->isVisible());
+    press(Qt::Key_End);
+    EXPECT_EQ(scrolled(), 0);
+}
+
+TEST_F(Window, PageIsAsTallAsWhatWasDrawnOnIt) {
+    struct Row {
+        QString source;
+        int height;
+    };
+    // A line of 10 points is 15 pixels high.
+    for (const Row& row :
+         {Row{u"a¶\r\nb¶\r\n"_qs, 30}, Row{u"a¶\r\n##OBJILLUS\r\nb¶\r\n"_qs, 15}, Row{u""_qs, 0}}) {
+        bench.cours.records[4] = page(5, row.source);
+        show(1);
+        show(5);
+        const int height = bench.control<QWidget>("PictureTEXTE")->height();
+        EXPECT_NEAR(height, row.height, 2) << qPrintable(row.source);
+    }
+}
+
+TEST_F(Window, SummaryButtonFollowsThePage) {
+    auto* summary = bench.control("Command2");
+    EXPECT_EQ(summary->text(), QStringLiteral("Accueil"));
+    show(2);
+    EXPECT_EQ(summary->text(), QStringLiteral("Sommaire"));
+    press(Qt::Key_S, Qt::AltModifier);
+    EXPECT_EQ(shown(), QStringLiteral("28"));
+}
+
+TEST_F(Window, SearchShowsThePageChosen) {
+    bench.neighbours.search.whileOpen = [this] { bench.state.SearchChosenPage = 30; };
+    click("command4");
+    EXPECT_EQ(shown(), QStringLiteral("30"));
+}
+
+TEST_F(Window, ReturnToTheTestIsOneButton) {
+    bench.state.ExerciseReturnPage = 12;
+    bench.actions.run(QStringLiteral("EXO001"));
+    for (const char* name : {"btexo", "Label16"}) {
+        EXPECT_TRUE(bench.control<QWidget>(name)->isVisible()) << name;
+        show(1);
+        click(name);
+        EXPECT_EQ(shown(), QStringLiteral("12")) << name;
+    }
+    bench.state.ExerciseReturnPage = 0;
+    click("btexo");
+    EXPECT_FALSE(bench.control<QWidget>("btexo")->isVisible());
+    EXPECT_EQ(shown(), QStringLiteral("12"));
+}
+
+TEST_F(Window, UpdateWaitsUntilNoModuleRuns) {
+    bench.neighbours.updates.possible = false;
+    click("Command8");
+    EXPECT_FALSE(bench.neighbours.log.contains(QStringLiteral("installation")));
+}
+
+TEST_F(Window, PagesLeaveNothingBehind) {
+    bench.cours.records[4] =
+        page(5, QStringLiteral("##OBJILLUS\r\nIci¶\r\n##OBJTIT\r\nAutre¶\r\n##TITBARX\r\n"));
+    auto* illustration = bench.control<QWidget>("PICTUREILLUS");
+    const auto text = [&](const char* name) {
+        return static_cast<viewer::PictureBox*>(bench.control<QWidget>(name))
+            ->readableText()
+            .trimmed();
+    };
+    const QImage blank = illustration->grab().toImage();
+    show(5);
+    EXPECT_EQ(text("titre"), QStringLiteral("Autre"));
+    EXPECT_EQ(text("PICTUREILLUS"), QStringLiteral("Ici"));
+    EXPECT_NE(illustration->grab().toImage(), blank);
+    EXPECT_TRUE(bench.window.windowTitle().endsWith(u'X'));
+    show(2);
+    EXPECT_EQ(text("titre"), QStringLiteral("Page 2"));
+    EXPECT_EQ(text("PICTUREILLUS"), QString());
+    EXPECT_EQ(illustration->grab().toImage(), blank);
+    EXPECT_EQ(bench.window.windowTitle(), QStringLiteral("Orvalente - KAROPE"));
+}
+
+TEST_F(Window, LongTitlesStayWithinTheBand) {
+    for (const int words : {1, 5, 40}) {
+        const QString title = QStringLiteral("La réfraction ").repeated(words).trimmed();
+        bench.cours.records[4] = page(5, {}, {{QStringLiteral("titre"), title}});
+        show(5);
+        const auto& operations = bench.window.recording().operations();
+        double right = 0;
+        for (const auto& operation : operations)
+            if (const auto* text = std::get_if<platform::TextOperation>(&operation))
+                right = std::max(right, text->x + text->width);
+        EXPECT_GT(right, 0) << words;
+        EXPECT_LE(right, 600 * 15) << words;
+        EXPECT_EQ(bench.control<QWidget>("titre")->toolTip(), words == 40 ? title : QString());
+    }
+}
+
+TEST_F(Window, VideoFrameMakesTheViewShorterUntilTheNextPage) {
+    using Layout = viewer::Multim::VideoLayout;
+    auto* view = bench.control<QWidget>("framekx");
+    bench.window.setVideoLayout(Layout::Closed);
+    EXPECT_EQ(view->height(), 352);
+    bench.neighbours.log.clear();
+    for (const int index : {6, 4, 0, 2, 3, 1, 5})
+        click(qPrintable(QStringLiteral("Image4_%1").arg(index)));
+    EXPECT_THAT(bench.neighbours.log,
+                ElementsAre(u"video 6"_qs, u"video 4"_qs, u"video 0"_qs, u"video 2"_qs,
+                            u"video 3"_qs, u"video 1"_qs, u"video 5"_qs));
+    const auto placeOfPlay = [this] {
+        auto* play = bench.control("Image4_0");
+        return QRect(play->mapTo(&bench.window, QPoint()), play->size());
+    };
+    EXPECT_EQ(placeOfPlay(), QRect(629, 496, 31, 32));
+    bench.window.setVideoLayout(Layout::Open);
+    EXPECT_EQ(placeOfPlay(), QRect(629, 496, 31, 32));
+    EXPECT_EQ(view->height(), 160);
+    EXPECT_EQ(bench.control<QWidget>("projo")->mapTo(&bench.window, QPoint()), QPoint(176, 304));
+    show(2);
+    EXPECT_EQ(view->height(), 424);
+    EXPECT_FALSE(bench.control<QWidget>("projo")->isVisible());
+}
+
+TEST_F(Window, ReportsShowUntilTheNextPage) {
+    auto* words = bench.control<QLabel>("status");
+    bench.window.report(QStringLiteral("Le module est introuvable."));
+    EXPECT_EQ(words->text(), QStringLiteral("Le module est introuvable."));
+    bench.window.report(QStringLiteral("Un très long message. ").repeated(20));
+    EXPECT_LE(words->heightForWidth(words->width()), words->height());
+    EXPECT_EQ(words->toolTip(), QStringLiteral("Un très long message. ").repeated(20));
+    show(2);
+    EXPECT_EQ(words->text(), QStringLiteral("Dans ce chapitre"));
+    show(3);
+    EXPECT_EQ(words->text(), QString());
+}
+
+TEST_F(Window, MovingThePointerResetsTheLinks) {
+    for (const char* name : {"framekx", "Framebase", "titre", "PictureTEXTE", "PICTUREILLUS"}) {
+        bench.neighbours.links.highlightResets = 0;
+        QTest::mouseMove(bench.control<QWidget>(name), {5, 5});
+        QTest::mouseMove(bench.control<QWidget>(name), {6, 6});
+        EXPECT_GT(bench.neighbours.links.highlightResets, 0) << name;
+        EXPECT_EQ(bench.neighbours.links.lastKept, viewer::PageLinks::kNone);
+    }
+}
+
+TEST_F(Window, LeavingAsksFirst) {
+    bench.prompter.answers = {Answer::Cancel};
+    click("Command14");
+    ASSERT_EQ(bench.prompter.messages.size(), 1U);
+    EXPECT_EQ(bench.prompter.messages[0],
+              (platform::Message{
+                  QStringLiteral("Quitter"), QStringLiteral("Attention: sortie du logiciel."),
+                  platform::Message::Icon::Question, platform::Message::Buttons::OkCancel}));
+    EXPECT_TRUE(bench.window.isVisible());
+    EXPECT_TRUE(bench.neighbours.log.isEmpty());
+
+    bench.prompter.answers = {Answer::Ok};
+    press(Qt::Key_Q, Qt::AltModifier);
+    EXPECT_FALSE(bench.window.isVisible());
+    EXPECT_THAT(bench.neighbours.log,
+                ElementsAre(QStringLiteral("close video"), QStringLiteral("exit screen")));
+}
+
+TEST_F(Window, WorkDoesNotStartAnewAndClosingWaitsForItsEnd) {
+    bench.prompter.answers = {Answer::Ok};
+    bench.neighbours.search.whileOpen = [this] {
+        bench.neighbours.log.clear();
+        click("Command3");
+        press(Qt::Key_H, Qt::AltModifier);
+        bench.window.close();
+        EXPECT_TRUE(bench.neighbours.log.isEmpty());
+        EXPECT_TRUE(bench.window.isVisible());
+    };
+    click("command4");
+    EXPECT_FALSE(bench.window.isVisible());
+    EXPECT_EQ(shown(), QStringLiteral("1"));
+}
+
+TEST_F(Window, ScreenReadersFindNamesAndThePagesText) {
+    for (const QWidget* control : bench.window.findChildren<QAbstractButton*>()) {
+        auto* reader = QAccessible::queryAccessibleInterface(const_cast<QWidget*>(control));
+        EXPECT_FALSE(reader->text(QAccessible::Name).isEmpty())
+            << qPrintable(control->objectName());
+        EXPECT_EQ(reader->role(), QAccessible::Button) << qPrintable(control->objectName());
+    }
+    show(2);
+    auto* reader = QAccessible::queryAccessibleInterface(bench.control<QWidget>("PictureTEXTE"));
+    EXPECT_EQ(reader->text(QAccessible::Name), QStringLiteral("Page 2"));
+    EXPECT_EQ(reader->text(QAccessible::Description).count(QStringLiteral("Une ligne de texte")),
+              3);
+    auto* text = reader->textInterface();
+    ASSERT_NE(text, nullptr);
+    int start = 0;
+    int end = 0;
+    EXPECT_EQ(text->textAtOffset(5, QAccessible::WordBoundary, &start, &end).trimmed(),
+              QStringLiteral("ligne"));
+    EXPECT_EQ(text->text(0, text->characterCount()), reader->text(QAccessible::Description));
+    auto* bar = QAccessible::queryAccessibleInterface(bench.control<QWidget>("VScroll1"));
+    EXPECT_EQ(bar->role(), QAccessible::ScrollBar);
+}
+
+TEST_F(Window, ThePageKeepsTheKeyboardOverAPageChange) {
+    auto* text = bench.control<QWidget>("PictureTEXTE");
+    text->setFocus(Qt::TabFocusReason);
+    press(Qt::Key_H, Qt::AltModifier);
+    EXPECT_EQ(shown(), QStringLiteral("30"));
+    EXPECT_TRUE(text->hasFocus());
+}
+
+TEST_F(Window, ShowsTheHourglassWhileItWorks) {
+    QList<Qt::CursorShape> shapes;
+    bench.neighbours.links.whileResetting = [&] { shapes.append(bench.window.cursor().shape()); };
+    click("suite");
+    EXPECT_THAT(shapes, ElementsAre(Qt::WaitCursor));
+    EXPECT_EQ(bench.window.cursor().shape(), Qt::ArrowCursor);
+}
+
+/// A window manager that wants the window larger, whatever it asks for.
+class StubbornManager : public QObject {
+public:
+    explicit StubbornManager(QWindow* managed) : QObject(managed), window(managed) {
+        window->installEventFilter(this);
+        window->resize(kSize);
+    }
+    static constexpr QSize kSize{1000, 700};
+    QWindow* window;
+    int requests = 0;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Resize && window->size() != kSize) {
+            ++requests;
+            QTimer::singleShot(0, this, [this] { window->resize(kSize); });
+        }
+        return QObject::eventFilter(watched, event);
+    }
+};
+
+TEST_F(Window, GivesInToAManagerThatRefusesItsSize) {
+    const StubbornManager manager(bench.window.windowHandle());
+    for (int round = 0; round < 200; ++round)
+        QApplication::processEvents();
+    EXPECT_GT(manager.requests, 0);
+    EXPECT_LE(manager.requests, 5);
+    EXPECT_EQ(bench.window.size(), StubbornManager::kSize);
+    // The contents stand in the middle, and work.
+    EXPECT_EQ(bench.control("Command2")->mapTo(&bench.window, QPoint()), QPoint(108, 54));
+    click("command5");
+    EXPECT_EQ(shown(), u"30"_qs);
+}
+
+// Starting
+
+TEST(WindowStart, StandsUnderItsCoverUntilTheFirstPage) {
+    test_support::WindowBench bench(test_support::pages(25'000));
+    QTemporaryDir directory;
+    QImage picture(100, 60, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    ASSERT_TRUE(picture.save(directory.filePath(QStringLiteral("COUV1.JPG")), "JPG"));
+    bench.state.InstallDir = directory.path() + u'/';
+    auto* cover = static_cast<viewer::Cover*>(bench.control<QWidget>("cover"));
+    QStringList seen;
+    bench.whileStarting = [&] {
+        EXPECT_FALSE(bench.window.isVisible());
+        // Later, while the index is built: the cover stands, and no button works.
+        QTimer::singleShot(0, [&] {
+            EXPECT_TRUE(cover->isVisible());
+            EXPECT_EQ(cover->pictureRect(), QRect(262, 190, 100, 60));
+            EXPECT_EQ(cover->labelRect().top(), 258);
+            const QImage shown = cover->grab().toImage();
+            EXPECT_GT(qRed(shown.pixel(312, 220)), 200);
+            EXPECT_FALSE(bench.control<QWidget>("PictureTEXTE")->isVisible());
+            EXPECT_FALSE(bench.state.PageByNumber.has_value());
+            QTest::mouseClick(bench.control("Command3"), Qt::LeftButton);
+            seen = bench.neighbours.log;
+        });
+        return true;
+    };
+    EXPECT_TRUE(bench.window.Form_Load());
+    EXPECT_FALSE(cover->isVisible());
+    EXPECT_TRUE(bench.control<QWidget>("PictureTEXTE")->isVisible());
+    EXPECT_EQ(seen, QStringList{});
+    EXPECT_THAT(bench.history(), ElementsAre(1));
+}
+
+TEST(WindowStart, CoverIsNeverLargerThanThePageArea) {
+    viewer::Cover cover(nullptr);
+    cover.resize(624, 440);
+    QTemporaryDir directory;
+    const QString path = directory.filePath(QStringLiteral("couv1.jpg"));
+    QImage(3000, 1000, QImage::Format_RGB32).save(path, "JPG");
+    cover.setPicture(path);
+    EXPECT_TRUE(cover.rect().contains(cover.pictureRect()));
+    EXPECT_TRUE(cover.rect().contains(cover.labelRect()));
+    EXPECT_EQ(cover.pictureRect().width(), 622);
+    cover.setPicture(directory.filePath(QStringLiteral("none.jpg")));
+    EXPECT_TRUE(cover.pictureRect().isEmpty());
+    EXPECT_TRUE(cover.rect().contains(cover.labelRect()));
+}
+
+TEST(WindowStart, EndsWhenStartUpSaysSo) {
+    test_support::WindowBench bench(test_support::pages(3));
+    bench.whileStarting = [] { return false; };
+    EXPECT_FALSE(bench.start().started);
+    EXPECT_FALSE(bench.window.isVisible());
+    EXPECT_EQ(bench.state.HistoryPos, 0);
+}
+
+TEST(WindowStart, ClosingMeanwhileEndsItWithoutAQuestion) {
+    test_support::WindowBench bench(test_support::pages(25'000));
+    bench.whileStarting = [&] {
+        QTimer::singleShot(0, [&] { bench.window.close(); });
+        return true;
+    };
+    EXPECT_FALSE(bench.start().started);
+    EXPECT_TRUE(bench.prompter.messages.empty());
+    EXPECT_EQ(bench.state.HistoryPos, 0);
+}
+
+TEST(WindowStart, SizingByStartUpDoesNotArmTheRule) {
+    test_support::WindowBench bench(test_support::pages(3));
+    bench.whileStarting = [&] {
+        bench.window.setWidth(800 * 15);
+        bench.window.place({1000, 500, 12000, 9000});
+        EXPECT_EQ(bench.state.DisplayWarningMode, 0);
+        return true;
+    };
+    bench.start();
+    EXPECT_EQ(bench.window.size(), QSize(800, 600));
+    EXPECT_EQ(bench.state.DisplayWarningMode, 2); // the resize of appearing did
+}
+
+TEST(WindowStart, WithoutDatabaseShowsAnEmptyPage) {
+    test_support::WindowBench bench({});
+    EXPECT_TRUE(bench.start().started);
+    EXPECT_TRUE(bench.control<QWidget>("PictureTEXTE")->isVisibleTo(&bench.window));
+    EXPECT_FALSE(bench.control<QWidget>("VScroll1")->isVisible());
+}
+
+} // namespace

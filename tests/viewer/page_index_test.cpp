@@ -1,0 +1,60 @@
+#include "viewer/course.h"
+#include "viewer/page_index.h"
+
+#include <gmock/gmock.h>
+
+#include <numeric>
+
+namespace {
+
+using platform::FieldValue;
+using test_support::MemoryRecordset;
+using testing::ElementsAre;
+
+MemoryRecordset numbered(const QList<FieldValue>& numbers) {
+    QList<MemoryRecordset::Record> records;
+    for (const FieldValue& number : numbers)
+        records.append({{QStringLiteral("Numeropage"), number}, {QStringLiteral("Index"), 0.0}});
+    return MemoryRecordset(records);
+}
+
+std::vector<std::int16_t> byNumber(const QList<FieldValue>& numbers) {
+    shell::SharedState state;
+    viewer::buildPageIndex(numbered(numbers), state);
+    return *state.PageByNumber;
+}
+
+TEST(PageIndex, HoldsPositionsWithOneSlotMoreThanTheHighestNumber) {
+    EXPECT_THAT(byNumber({3.0, 1.0}), ElementsAre(0, 1, 0, 0, 0));
+}
+
+TEST(PageIndex, PassesOverNumbersThatNoCodeCanReach) {
+    EXPECT_THAT(byNumber({-1.0, FieldValue{}, 1.0, 4e9, viewer::kMaxIndexedNumber + 1.0}),
+                ElementsAre(0, 2, 0));
+    EXPECT_THAT(byNumber({}), ElementsAre());
+}
+
+TEST(PageIndex, ReadsNumbersAsTheBoundControlsShowThem) {
+    EXPECT_THAT(byNumber({QStringLiteral("2 pages"), 1.5, 0.5}), ElementsAre(2, 0, 1, 0));
+}
+
+TEST(PageIndex, LastOfEqualNumbersCounts) {
+    EXPECT_THAT(byNumber({1.0, 1.0}), ElementsAre(0, 1, 0));
+}
+
+TEST(PageIndex, KeepsPositionsWithin16Bits) {
+    QList<FieldValue> numbers(40'000);
+    std::iota(numbers.begin(), numbers.end(), 0.0);
+    const auto table = byNumber(numbers);
+    EXPECT_EQ(table[32767], 32767);
+    EXPECT_EQ(table[32768], 0);
+}
+
+TEST(PageIndex, LetsMessagesRunOverALargeTable) {
+    shell::SharedState state;
+    int looks = 0;
+    viewer::buildPageIndex(numbered(QList<FieldValue>(25'000, 1.0)), state, [&] { ++looks; });
+    EXPECT_EQ(looks, 2);
+}
+
+} // namespace

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "markup/renderer.h"
+#include "platform/qt/font_book.h"
+#include "support/fake_prompter.h"
+#include "support/fake_screen.h"
+#include "viewer/action_dispatcher.h"
+#include "viewer/course.h"
+#include "viewer/fakes.h"
+#include "viewer/main_commands.h"
+#include "viewer/multim.h"
+#include "viewer/page_index.h"
+#include "viewer/page_loader.h"
+
+#include <QPushButton>
+
+namespace test_support {
+
+/// The real main window on a course in memory, put together as the program does it.
+class WindowBench {
+public:
+    explicit WindowBench(QList<test_support::MemoryRecordset::Record> course)
+        : cours(std::move(course)) {
+        window.attach({commands, actions, pages, renderer, neighbours.all(), [this] {
+                           pages.bindTo(cours);
+                           return !whileStarting || whileStarting();
+                       }});
+    }
+
+    /// Starts the program, up to the first page.
+    WindowBench& start() {
+        started = window.Form_Load();
+        neighbours.log.clear();
+        return *this;
+    }
+
+    template <class Control = QPushButton>
+    Control* control(const char* name) {
+        return window.findChild<Control*>(QString::fromLatin1(name));
+    }
+
+    /// Fixed numbers of the pages in the history, up to the position.
+    QList<int> history() const {
+        QList<int> visited;
+        for (int slot = 1; slot <= state.HistoryPos; ++slot)
+            visited.append(state.HistoryPages.valueOr(slot, 0));
+        return visited;
+    }
+
+    test_support::MemoryRecordset cours;
+    test_support::FakeScreen screen;
+    test_support::FakePrompter prompter;
+    FakeNeighbours neighbours;
+    std::function<bool()> whileStarting;
+    bool started = false;
+
+    platform::FontBook fonts;
+    shell::SharedState state;
+    markup::DrawingState drawing;
+    viewer::BoundRecord bound;
+    viewer::Multim window{state, fonts, screen};
+    markup::Renderer renderer{drawing, window, window.recording()};
+    viewer::PageLoader pages{state, bound, window, window, renderer, neighbours.video};
+    viewer::ActionDispatcher actions{
+        state, pages, window, neighbours.modules, neighbours.exercise, neighbours.orderForm};
+    viewer::MainCommands commands{state, actions, window, neighbours.all(), prompter};
+};
+
+} // namespace test_support
