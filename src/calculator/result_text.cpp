@@ -27,7 +27,8 @@ Decimal decimalOf(double magnitude) {
                          .ptr;
     const std::string written(buffer.data(), end);
     Decimal decimal;
-    decimal.digits = written.substr(0, 1) + written.substr(2, text::kSignificantDigits - 1);
+    decimal.digits = written.front();
+    decimal.digits.append(written, 2, text::kSignificantDigits - 1);
     decimal.exponent = std::stoi(written.substr(written.find('e') + 1));
     return decimal;
 }
@@ -40,7 +41,7 @@ void roundToPattern(Decimal& decimal) {
         return;
     const std::size_t last = decimal.digits.find_last_not_of('9');
     if (last == std::string::npos) {
-        decimal.digits = "1";
+        decimal.digits.assign(1, '1');
         ++decimal.exponent;
         return;
     }
@@ -59,13 +60,17 @@ Text scientificText(double value, char16_t point) {
     roundToPattern(decimal);
     decimal.digits.resize(std::max<std::size_t>(1, decimal.digits.find_last_not_of('0') + 1));
 
-    Text out = value < 0 ? u"-" : u"";
+    Text out;
+    if (value < 0)
+        out += u'-';
     out += wide(decimal.digits.substr(0, 1));
     out += point;
     out += wide(decimal.digits.substr(1));
     out += decimal.exponent < 0 ? u"E-" : u"E+";
     const std::string exponent = std::to_string(std::abs(decimal.exponent));
-    return out + wide(exponent.size() < 2 ? "0" + exponent : exponent);
+    if (exponent.size() < 2)
+        out += u'0';
+    return out + wide(exponent);
 }
 
 std::optional<Text> resultLine(TextView result, Format format) {
