@@ -5,12 +5,13 @@
 namespace test_support {
 
 X11Session::X11Session(Manager manager) {
-    // The server picks a free number itself and writes it down when it is ready.
+    // The server picks a free number itself and writes it down when it is ready. It must not start
+    // anew when its last client leaves, which may be at the moment when the next one comes.
     server_.setStandardErrorFile(QProcess::nullDevice());
     server_.start(QStringLiteral("Xvfb"),
                   {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
                    QStringLiteral("0"), QStringLiteral("1024x768x24"), QStringLiteral("-nolisten"),
-                   QStringLiteral("tcp")});
+                   QStringLiteral("tcp"), QStringLiteral("-noreset")});
     QByteArray number;
     while (!number.endsWith('\n') && server_.waitForReadyRead())
         number += server_.readAllStandardOutput();
