@@ -33,8 +33,9 @@ endfunction()
 # The tests of one folder, as one GoogleTest binary whose cases CTest lists one by one.
 #   orvalente_test(text_tests SOURCES a_test.cpp LINKS text)
 # QT: the binary brings its own main with an offscreen application (tests/support).
+# DISPLAYS: some cases start X servers of their own; they run one at a time.
 function(orvalente_test name)
-    cmake_parse_arguments(ARG "QT" "" "SOURCES;LINKS" ${ARGN})
+    cmake_parse_arguments(ARG "QT;DISPLAYS" "" "SOURCES;LINKS" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
     if(ARG_QT)
@@ -42,6 +43,10 @@ function(orvalente_test name)
     else()
         target_link_libraries(${name} PRIVATE orvalente_options ${ARG_LINKS} GTest::gmock GTest::gtest_main)
     endif()
+    set(lock)
+    if(ARG_DISPLAYS)
+        set(lock RESOURCE_LOCK display)
+    endif()
     gtest_discover_tests(${name} TEST_PREFIX "${name}." DISCOVERY_MODE PRE_TEST
-        PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TIMEOUT 120)
+        PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TIMEOUT 120 ${lock})
 endfunction()

@@ -85,7 +85,8 @@ double leadingNumber(std::u16string_view input) {
     const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), value);
     if (error == std::errc::result_out_of_range) {
         // from_chars does not say which end of the range was left; the exponent's sign does.
-        value = number.find("e-") != std::string::npos ? 0 : std::numeric_limits<double>::infinity();
+        value =
+            number.find("e-") != std::string::npos ? 0 : std::numeric_limits<double>::infinity();
     }
     return negative ? -value : value;
 }

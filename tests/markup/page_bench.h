@@ -4,7 +4,22 @@
 #include "support/fixed_metrics.h"
 #include "support/recording_text.h"
 
+#include <gtest/gtest.h>
+
+#include <ostream>
+
 namespace test_support {
+
+/// A page source and the operations it is to give.
+struct PageRow {
+    const char* name;
+    const char16_t* source;
+    QStringList expected;
+};
+
+inline void PrintTo(const PageRow& row, std::ostream* out) {
+    *out << row.name;
+}
 
 /// A main window without a window: everything that a page can be drawn on, and what became of it.
 class PageBench : public markup::PageWindow, public markup::SourceWindow {
@@ -49,6 +64,15 @@ public:
     QList<int> refreshedAt;
     platform::Surface* refreshed = nullptr;
     int preparations = 0;
+};
+
+/// Cases that draw a source and compare the operations.
+class PageCase : public testing::TestWithParam<PageRow> {
+protected:
+    void draws() {
+        PageBench bench;
+        EXPECT_EQ(bench.draw(QString::fromUtf16(GetParam().source)), GetParam().expected);
+    }
 };
 
 } // namespace test_support

@@ -4,21 +4,12 @@
 
 namespace {
 
-struct Row {
-    const char* name;
-    const char16_t* source;
-    QStringList expected;
-};
+using Row = test_support::PageRow;
 
-void PrintTo(const Row& row, std::ostream* out) {
-    *out << row.name;
-}
-
-class Positioning : public testing::TestWithParam<Row> {};
+class Positioning : public test_support::PageCase {};
 
 TEST_P(Positioning, draws) {
-    test_support::PageBench bench;
-    EXPECT_EQ(bench.draw(QString::fromUtf16(GetParam().source)), GetParam().expected);
+    draws();
 }
 
 INSTANTIATE_TEST_SUITE_P(

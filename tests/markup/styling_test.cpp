@@ -4,22 +4,12 @@
 
 namespace {
 
-/// A source and the one text it prints, or the failures before it.
-struct Row {
-    const char* name;
-    const char16_t* source;
-    QStringList expected;
-};
+using Row = test_support::PageRow;
 
-void PrintTo(const Row& row, std::ostream* out) {
-    *out << row.name;
-}
-
-class Styling : public testing::TestWithParam<Row> {};
+class Styling : public test_support::PageCase {};
 
 TEST_P(Styling, draws) {
-    test_support::PageBench bench;
-    EXPECT_EQ(bench.draw(QString::fromUtf16(GetParam().source)), GetParam().expected);
+    draws();
 }
 
 INSTANTIATE_TEST_SUITE_P(

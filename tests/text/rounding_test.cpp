@@ -7,7 +7,7 @@
 TEST(Rounding, halvesGoToTheEvenNeighbour) {
     const struct {
         double value, expected;
-    } rows[] = {{.5, 0},   {1.5, 2},  {2.5, 2},  {-.5, 0},  {-1.5, -2},
+    } rows[] = {{.5, 0},    {1.5, 2}, {2.5, 2}, {-.5, 0},   {-1.5, -2},
                 {-2.5, -2}, {2.4, 2}, {2.6, 3}, {-2.6, -3}, {1e15 + .5, 1e15}};
     for (const auto& row : rows)
         EXPECT_EQ(text::roundHalfEven(row.value), row.expected) << row.value;

@@ -1,64 +1,22 @@
 #include "platform/qt/look/scroll_bar.h"
-#include "viewer/chapter_bar.h"
-#include "viewer/cover.h"
 #include "viewer/multim.h"
-#include "viewer/page_code.h"
 #include "viewer/picture_box.h"
 #include "viewer/window_bench.h"
+#include "viewer/window_case.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
-#include <QApplication>
-#include <QDir>
 #include <QLabel>
-#include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
-#include <QWheelEvent>
 
 #include <gmock/gmock.h>
-
 namespace {
 
 using platform::Answer;
+using test_support::lines;
 using test_support::page;
+using test_support::Window;
 using testing::ElementsAre;
-
-/// Source of a page with so many lines of text.
-QString lines(int count) {
-    return QStringLiteral("Une ligne de texte¶\r\n").repeated(count);
-}
-
-QList<test_support::MemoryRecordset::Record> course() {
-    auto all = test_support::pages(161);
-    all[0] = page(1, lines(100), {{QStringLiteral("suite"), true}});
-    all[1] = page(2, lines(3),
-                  {{QStringLiteral("precedent"), true},
-                   {QStringLiteral("imprimable"), true},
-                   {QStringLiteral("sommaire"), 28.0}});
-    return all;
-}
-
-class Window : public testing::Test {
-protected:
-    Window() {
-        bench.start();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&bench.window));
-    }
-
-    void click(const char* name) {
-        QTest::mouseClick(bench.control<QWidget>(name), Qt::LeftButton);
-    }
-    void press(int key, Qt::KeyboardModifiers modifiers = {}) {
-        QTest::keyClick(&bench.window, Qt::Key(key), modifiers);
-    }
-    void show(int number) { bench.commands.runCode(viewer::pageCode(number)); }
-    QString shown() const { return bench.bound.TextID; }
-    /// How far the page is scrolled, in pixels.
-    int scrolled() { return -bench.control<QWidget>("PictureTEXTE")->y(); }
-
-    test_support::WindowBench bench{course()};
-};
 
 TEST_F(Window, OpensOnTheFirstPageWithEverythingInPlace) {
     EXPECT_TRUE(bench.started);
@@ -150,84 +108,6 @@ TEST_F(Window, ButtonsThatAPageDoesNotOfferDoNothing) {
     bench.neighbours.log.clear();
     click("CommandIMPRIME");
     EXPECT_THAT(bench.neighbours.log, ElementsAre(QStringLiteral("print")));
-}
-
-TEST_F(Window, MnemonicsPressTheirButtons) {
-    show(2);
-    show(3);
-    struct Row {
-        int key;
-        QString page;
-    };
-    for (const Row& row :
-         {Row{Qt::Key_P, u"2"_qs}, Row{Qt::Key_U, u"3"_qs}, Row{Qt::Key_Y, u"28"_qs},
-          Row{Qt::Key_H, u"30"_qs}, Row{Qt::Key_S, u"1"_qs}}) {
-        press(row.key, Qt::AltModifier);
-        EXPECT_EQ(shown(), row.page) << char(row.key);
-    }
-    bench.neighbours.log.clear();
-    press(Qt::Key_C, Qt::AltModifier);
-    press(Qt::Key_A, Qt::AltModifier);
-    press(Qt::Key_E, Qt::AltModifier);
-    EXPECT_THAT(bench.neighbours.log.mid(0, 3),
-                ElementsAre(QStringLiteral("calculator"), QStringLiteral("help"),
-                            QStringLiteral("launch 70")));
-}
-
-TEST_F(Window, SearchAndCreditsShareAMnemonicAndBothWork) {
-    EXPECT_EQ(QApplication::focusWidget(), &bench.window); // no button is chosen from the start
-    QSet<QString> reached;
-    for (int time = 0; time < 2; ++time) {
-        press(Qt::Key_R, Qt::AltModifier);
-        reached.insert(QApplication::focusWidget()->objectName());
-    }
-    EXPECT_EQ(reached, (QSet<QString>{QStringLiteral("command4"), QStringLiteral("Command13")}));
-    QTest::keyClick(bench.control("Command13"), Qt::Key_Return);
-    EXPECT_EQ(shown(), QStringLiteral("161"));
-}
-
-TEST_F(Window, KeysWalkTheHistory) {
-    show(2);
-    press(Qt::Key_Left, Qt::AltModifier);
-    EXPECT_EQ(shown(), QStringLiteral("1"));
-    press(Qt::Key_Right, Qt::AltModifier);
-    EXPECT_EQ(shown(), QStringLiteral("2"));
-    QTest::keyClick(bench.control("Command3"), Qt::Key_Backspace); // wherever the focus is
-    EXPECT_EQ(shown(), QStringLiteral("1"));
-}
-
-TEST_F(Window, KeysWheelAndBarScrollATallPage) {
-    auto* bar = bench.control<platform::look::ScrollBar>("VScroll1");
-    const int height = bench.control<QWidget>("PictureTEXTE")->height();
-    const int furthest = height - 424;
-    ASSERT_GT(furthest, 424);
-    struct Row {
-        int key;
-        int scrolled;
-    };
-    for (const Row& row :
-         {Row{Qt::Key_Up, 0}, Row{Qt::Key_Down, 22}, Row{Qt::Key_PageDown, 22 + 423},
-          Row{Qt::Key_PageUp, 22}, Row{Qt::Key_End, furthest}, Row{Qt::Key_Down, furthest},
-          Row{Qt::Key_Home, 0}}) {
-        press(row.key);
-        EXPECT_EQ(scrolled(), row.scrolled) << row.key;
-    }
-    QTest::keyClick(bench.control("Command3"), Qt::Key_Down); // a button does not keep the arrows
-    EXPECT_EQ(scrolled(), 22);
-    EXPECT_EQ(bar->value(), -22 * 15);
-
-    QWheelEvent notch({400, 300}, {400, 300}, {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase,
-                      false);
-    QApplication::sendEvent(&bench.window, &notch);
-    EXPECT_EQ(scrolled(), 22 + 3 * 22);
-    bar->setValue(-1500);
-    EXPECT_EQ(scrolled(), 100);
-
-    show(2); // fits the view, and starts from its top
-    EXPECT_EQ(scrolled(), 0);
-    EXPECT_FALSE(bar->isVisible());
-    press(Qt::Key_End);
-    EXPECT_EQ(scrolled(), 0);
 }
 
 TEST_F(Window, PageIsAsTallAsWhatWasDrawnOnIt) {
@@ -438,128 +318,6 @@ TEST_F(Window, ShowsTheHourglassWhileItWorks) {
     click("suite");
     EXPECT_THAT(shapes, ElementsAre(Qt::WaitCursor));
     EXPECT_EQ(bench.window.cursor().shape(), Qt::ArrowCursor);
-}
-
-/// A window manager that wants the window larger, whatever it asks for.
-class StubbornManager : public QObject {
-public:
-    explicit StubbornManager(QWindow* managed) : QObject(managed), window(managed) {
-        window->installEventFilter(this);
-        window->resize(kSize);
-    }
-    static constexpr QSize kSize{1000, 700};
-    QWindow* window;
-    int requests = 0;
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() == QEvent::Resize && window->size() != kSize) {
-            ++requests;
-            QTimer::singleShot(0, this, [this] { window->resize(kSize); });
-        }
-        return QObject::eventFilter(watched, event);
-    }
-};
-
-TEST_F(Window, GivesInToAManagerThatRefusesItsSize) {
-    const StubbornManager manager(bench.window.windowHandle());
-    for (int round = 0; round < 200; ++round)
-        QApplication::processEvents();
-    EXPECT_GT(manager.requests, 0);
-    EXPECT_LE(manager.requests, 5);
-    EXPECT_EQ(bench.window.size(), StubbornManager::kSize);
-    // The contents stand in the middle, and work.
-    EXPECT_EQ(bench.control("Command2")->mapTo(&bench.window, QPoint()), QPoint(108, 54));
-    click("command5");
-    EXPECT_EQ(shown(), u"30"_qs);
-}
-
-// Starting
-
-TEST(WindowStart, StandsUnderItsCoverUntilTheFirstPage) {
-    test_support::WindowBench bench(test_support::pages(25'000));
-    QTemporaryDir directory;
-    QImage picture(100, 60, QImage::Format_RGB32);
-    picture.fill(Qt::red);
-    ASSERT_TRUE(picture.save(directory.filePath(QStringLiteral("COUV1.JPG")), "JPG"));
-    bench.state.InstallDir = directory.path() + u'/';
-    auto* cover = static_cast<viewer::Cover*>(bench.control<QWidget>("cover"));
-    QStringList seen;
-    bench.whileStarting = [&] {
-        EXPECT_FALSE(bench.window.isVisible());
-        // Later, while the index is built: the cover stands, and no button works.
-        QTimer::singleShot(0, [&] {
-            EXPECT_TRUE(cover->isVisible());
-            EXPECT_EQ(cover->pictureRect(), QRect(262, 190, 100, 60));
-            EXPECT_EQ(cover->labelRect().top(), 258);
-            const QImage shown = cover->grab().toImage();
-            EXPECT_GT(qRed(shown.pixel(312, 220)), 200);
-            EXPECT_FALSE(bench.control<QWidget>("PictureTEXTE")->isVisible());
-            EXPECT_FALSE(bench.state.PageByNumber.has_value());
-            QTest::mouseClick(bench.control("Command3"), Qt::LeftButton);
-            seen = bench.neighbours.log;
-        });
-        return true;
-    };
-    EXPECT_TRUE(bench.window.Form_Load());
-    EXPECT_FALSE(cover->isVisible());
-    EXPECT_TRUE(bench.control<QWidget>("PictureTEXTE")->isVisible());
-    EXPECT_EQ(seen, QStringList{});
-    EXPECT_THAT(bench.history(), ElementsAre(1));
-}
-
-TEST(WindowStart, CoverIsNeverLargerThanThePageArea) {
-    viewer::Cover cover(nullptr);
-    cover.resize(624, 440);
-    QTemporaryDir directory;
-    const QString path = directory.filePath(QStringLiteral("couv1.jpg"));
-    QImage(3000, 1000, QImage::Format_RGB32).save(path, "JPG");
-    cover.setPicture(path);
-    EXPECT_TRUE(cover.rect().contains(cover.pictureRect()));
-    EXPECT_TRUE(cover.rect().contains(cover.labelRect()));
-    EXPECT_EQ(cover.pictureRect().width(), 622);
-    cover.setPicture(directory.filePath(QStringLiteral("none.jpg")));
-    EXPECT_TRUE(cover.pictureRect().isEmpty());
-    EXPECT_TRUE(cover.rect().contains(cover.labelRect()));
-}
-
-TEST(WindowStart, EndsWhenStartUpSaysSo) {
-    test_support::WindowBench bench(test_support::pages(3));
-    bench.whileStarting = [] { return false; };
-    EXPECT_FALSE(bench.start().started);
-    EXPECT_FALSE(bench.window.isVisible());
-    EXPECT_EQ(bench.state.HistoryPos, 0);
-}
-
-TEST(WindowStart, ClosingMeanwhileEndsItWithoutAQuestion) {
-    test_support::WindowBench bench(test_support::pages(25'000));
-    bench.whileStarting = [&] {
-        QTimer::singleShot(0, [&] { bench.window.close(); });
-        return true;
-    };
-    EXPECT_FALSE(bench.start().started);
-    EXPECT_TRUE(bench.prompter.messages.empty());
-    EXPECT_EQ(bench.state.HistoryPos, 0);
-}
-
-TEST(WindowStart, SizingByStartUpDoesNotArmTheRule) {
-    test_support::WindowBench bench(test_support::pages(3));
-    bench.whileStarting = [&] {
-        bench.window.setWidth(800 * 15);
-        bench.window.place({1000, 500, 12000, 9000});
-        EXPECT_EQ(bench.state.DisplayWarningMode, 0);
-        return true;
-    };
-    bench.start();
-    EXPECT_EQ(bench.window.size(), QSize(800, 600));
-    EXPECT_EQ(bench.state.DisplayWarningMode, 2); // the resize of appearing did
-}
-
-TEST(WindowStart, WithoutDatabaseShowsAnEmptyPage) {
-    test_support::WindowBench bench({});
-    EXPECT_TRUE(bench.start().started);
-    EXPECT_TRUE(bench.control<QWidget>("PictureTEXTE")->isVisibleTo(&bench.window));
-    EXPECT_FALSE(bench.control<QWidget>("VScroll1")->isVisible());
 }
 
 } // namespace

@@ -1,0 +1,99 @@
+// The main window by the keyboard, the wheel and the scroll bar.
+
+#include "platform/qt/look/scroll_bar.h"
+#include "viewer/multim.h"
+#include "viewer/window_bench.h"
+#include "viewer/window_case.h"
+
+#include <QApplication>
+#include <QTest>
+#include <QWheelEvent>
+
+#include <gmock/gmock.h>
+namespace {
+
+using platform::Answer;
+using test_support::lines;
+using test_support::page;
+using test_support::Window;
+using testing::ElementsAre;
+
+TEST_F(Window, MnemonicsPressTheirButtons) {
+    show(2);
+    show(3);
+    struct Row {
+        int key;
+        QString page;
+    };
+    for (const Row& row :
+         {Row{Qt::Key_P, u"2"_qs}, Row{Qt::Key_U, u"3"_qs}, Row{Qt::Key_Y, u"28"_qs},
+          Row{Qt::Key_H, u"30"_qs}, Row{Qt::Key_S, u"1"_qs}}) {
+        press(row.key, Qt::AltModifier);
+        EXPECT_EQ(shown(), row.page) << char(row.key);
+    }
+    bench.neighbours.log.clear();
+    press(Qt::Key_C, Qt::AltModifier);
+    press(Qt::Key_A, Qt::AltModifier);
+    press(Qt::Key_E, Qt::AltModifier);
+    EXPECT_THAT(bench.neighbours.log.mid(0, 3),
+                ElementsAre(QStringLiteral("calculator"), QStringLiteral("help"),
+                            QStringLiteral("launch 70")));
+}
+
+TEST_F(Window, SearchAndCreditsShareAMnemonicAndBothWork) {
+    EXPECT_EQ(QApplication::focusWidget(), &bench.window); // no button is chosen from the start
+    QSet<QString> reached;
+    for (int time = 0; time < 2; ++time) {
+        press(Qt::Key_R, Qt::AltModifier);
+        reached.insert(QApplication::focusWidget()->objectName());
+    }
+    EXPECT_EQ(reached, (QSet<QString>{QStringLiteral("command4"), QStringLiteral("Command13")}));
+    QTest::keyClick(bench.control("Command13"), Qt::Key_Return);
+    EXPECT_EQ(shown(), QStringLiteral("161"));
+}
+
+TEST_F(Window, KeysWalkTheHistory) {
+    show(2);
+    press(Qt::Key_Left, Qt::AltModifier);
+    EXPECT_EQ(shown(), QStringLiteral("1"));
+    press(Qt::Key_Right, Qt::AltModifier);
+    EXPECT_EQ(shown(), QStringLiteral("2"));
+    QTest::keyClick(bench.control("Command3"), Qt::Key_Backspace); // wherever the focus is
+    EXPECT_EQ(shown(), QStringLiteral("1"));
+}
+
+TEST_F(Window, KeysWheelAndBarScrollATallPage) {
+    auto* bar = bench.control<platform::look::ScrollBar>("VScroll1");
+    const int height = bench.control<QWidget>("PictureTEXTE")->height();
+    const int furthest = height - 424;
+    ASSERT_GT(furthest, 424);
+    struct Row {
+        int key;
+        int scrolled;
+    };
+    for (const Row& row :
+         {Row{Qt::Key_Up, 0}, Row{Qt::Key_Down, 22}, Row{Qt::Key_PageDown, 22 + 423},
+          Row{Qt::Key_PageUp, 22}, Row{Qt::Key_End, furthest}, Row{Qt::Key_Down, furthest},
+          Row{Qt::Key_Home, 0}}) {
+        press(row.key);
+        EXPECT_EQ(scrolled(), row.scrolled) << row.key;
+    }
+    QTest::keyClick(bench.control("Command3"), Qt::Key_Down); // a button does not keep the arrows
+    EXPECT_EQ(scrolled(), 22);
+    EXPECT_EQ(bar->value(), -22 * 15);
+
+    QWheelEvent notch({400, 300}, {400, 300}, {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase,
+                      false);
+    QApplication::sendEvent(&bench.window, &notch);
+    EXPECT_EQ(scrolled(), 22 + 3 * 22);
+    bar->setValue(-1500);
+    EXPECT_EQ(scrolled(), 100);
+
+    show(2); // fits the view, and starts from its top
+    EXPECT_EQ(scrolled(), 0);
+    EXPECT_FALSE(bar->isVisible());
+    press(Qt::Key_End);
+    EXPECT_EQ(scrolled(), 0);
+}
+
+} // namespace
