@@ -103,7 +103,7 @@ bool KeyRules::type(QChar character) {
 
 void KeyRules::show(const QString& text) {
     display_ = text;
-    face_.show(text);
+    face_.showText(text);
 }
 
 void KeyRules::append(QStringView text) {

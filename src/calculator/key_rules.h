@@ -19,7 +19,7 @@ public:
     virtual ~Face() = default;
 
     /// The display's text has become `text`.
-    virtual void show(const QString& text) = 0;
+    virtual void showText(const QString& text) = 0;
     virtual void beep() = 0;
     /// Called again and again during an evaluation, between any two of its reductions: the chance
     /// to let pending input through.

@@ -13,7 +13,7 @@ namespace {
 /// have a key on the keyboard, by that character.
 class Keys : public testing::Test, public Face {
 protected:
-    void show(const QString& text) override { shown << text; }
+    void showText(const QString& text) override { shown << text; }
     void beep() override { ++beeps; }
     void breathe() override {
         if (whileBusy)

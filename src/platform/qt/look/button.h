@@ -48,13 +48,15 @@ protected:
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
+    /// The caption in the painter's pen and font, its mnemonic underlined when that is shown.
+    void paintCaption(QPainter& painter, QPointF baseline) const;
+
 private:
     struct Colours;
 
     Colours colours() const;
     void paintGround(QPainter& painter, const Colours& colours) const;
     void paintContent(QPainter& painter, const Colours& colours) const;
-    void paintCaption(QPainter& painter, QPointF baseline) const;
     qsizetype mnemonicPosition() const;
 
     Kind kind_;

@@ -1,0 +1,89 @@
+#include "calculator/display.h"
+
+#include "platform/qt/look/interface_font.h"
+#include "platform/qt/look/palette.h"
+#include "platform/qt/look/pixels.h"
+
+#include <QFontMetricsF>
+#include <QKeyEvent>
+#include <QPainter>
+
+namespace calculator {
+
+namespace look = platform::look;
+
+namespace {
+
+constexpr QRgb kEdge = 0xff7d8f8b;
+constexpr double kRadius = 4;
+
+/// From the edge to the text, of which the base class itself keeps two pixels.
+constexpr int kMarginPx = 9;
+constexpr int kOwnMarginPx = 2;
+
+constexpr int kLargestPx = 19;
+constexpr int kSmallestPx = look::kSmallPx;
+
+} // namespace
+
+Display::Display(QWidget* parent) : QLineEdit(parent) {
+    setObjectName(QStringLiteral("z1"));
+    setAccessibleName(QStringLiteral("Affichage"));
+    setReadOnly(true);
+    setFrame(false);
+    setContextMenuPolicy(Qt::NoContextMenu);
+    // Keys arrive one by one, "^" included where it waits for the next letter elsewhere.
+    setAttribute(Qt::WA_InputMethodEnabled, false);
+    setTextMargins(kMarginPx - kOwnMarginPx, 0, kMarginPx - kOwnMarginPx, 0);
+    QPalette colours = palette();
+    colours.setColor(QPalette::Base, Qt::transparent);
+    colours.setColor(QPalette::Text, QColor::fromRgb(look::kInk));
+    colours.setColor(QPalette::Highlight, QColor::fromRgb(look::kPressedTint));
+    colours.setColor(QPalette::HighlightedText, QColor::fromRgb(look::kInk));
+    setPalette(colours);
+    setFont(look::interfaceFont(kLargestPx));
+}
+
+void Display::showText(const QString& text) {
+    fitFont(text);
+    setText(text);
+    end(false);
+    setFocus();
+    update();
+}
+
+void Display::fitFont(const QString& text) {
+    const double room = width() - 2 * kMarginPx;
+    int pixels = kLargestPx;
+    while (pixels > kSmallestPx &&
+           QFontMetricsF(look::interfaceFont(pixels)).horizontalAdvance(text) > room)
+        --pixels;
+    if (pixels != font().pixelSize())
+        setFont(look::interfaceFont(pixels));
+}
+
+void Display::paintEvent(QPaintEvent* event) {
+    {
+        QPainter painter(this);
+        look::drawFrame(painter, rect(), kRadius, hasFocus() ? look::kBlue : kEdge,
+                        QColor::fromRgb(look::kPaper));
+    }
+    QLineEdit::paintEvent(event);
+    if (!hasFocus() || hasSelectedText())
+        return;
+    QPainter painter(this);
+    const QRect caret = cursorRect();
+    const double x = std::min<double>(caret.center().x() + 1, width() - kMarginPx + 1);
+    painter.fillRect(
+        QRectF(look::snapped(painter, x), caret.top(), look::crisp(painter), caret.height()),
+        QColor::fromRgb(look::kInk));
+}
+
+void Display::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Copy))
+        copy();
+    else
+        event->ignore();
+}
+
+} // namespace calculator

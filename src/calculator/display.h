@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QLineEdit>
+
+namespace calculator {
+
+/// The one-line display. It cannot be edited: every key goes on to the window, but for the one that
+/// copies a selection. Letters grow smaller for a longer text, and when they are at their smallest
+/// the end of the text is shown; the caret stands there always.
+class Display : public QLineEdit {
+public:
+    explicit Display(QWidget* parent);
+
+    void showText(const QString& text);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void fitFont(const QString& text);
+};
+
+} // namespace calculator

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QStringView>
+
+#include <cstdint>
+#include <span>
+
+namespace calculator {
+
+/// How a key looks. The only blue one is "=".
+enum class KeyStyle : std::uint8_t { Function, Digit, Operator, Main };
+
+/// Where a key stands in the window and how its caption is set, in logical pixels.
+struct KeyPlace {
+    QStringView name; ///< of the key
+    int x;
+    int y;
+    int width;
+    int height;
+    KeyStyle style;
+    int captionPx;
+};
+
+/// Places of all keys.
+std::span<const KeyPlace> keyLayout();
+
+} // namespace calculator

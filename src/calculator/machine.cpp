@@ -1,0 +1,156 @@
+#include "calculator/machine.h"
+
+#include "calculator/display.h"
+#include "calculator/key_button.h"
+#include "calculator/option_frame.h"
+#include "platform/qt/look/mnemonics.h"
+#include "text/rounding.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QLocale>
+#include <QPainter>
+#include <QRadioButton>
+
+namespace calculator {
+
+namespace {
+
+constexpr QSize kSize(302, 430);
+constexpr QRect kDisplay(7, 12, 286, 44);
+constexpr QRect kAngles(7, 64, 84, 64);
+constexpr QRect kFormats(99, 64, 98, 64);
+
+constexpr int kDefaultBreathingInterval = 20;
+
+/// The character that a key of the keyboard stands for; null for none. A "^" that waits for the
+/// next letter, as on French keyboards, counts at once.
+QChar characterOf(const QKeyEvent& event) {
+    if (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
+        return {};
+    switch (event.key()) {
+    case Qt::Key_Backspace:
+        return u'\b';
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return u'\r';
+    case Qt::Key_Dead_Circumflex:
+        return u'^';
+    default:
+        return event.text().size() == 1 ? event.text().front() : QChar();
+    }
+}
+
+/// The four sides of a rectangle, one pixel wide, given by its first and last pixels.
+void outline(QPainter& painter, QPoint first, QPoint last, Qt::GlobalColor colour) {
+    const int width = last.x() - first.x() + 1;
+    const int height = last.y() - first.y() + 1;
+    painter.fillRect(first.x(), first.y(), width, 1, colour);
+    painter.fillRect(first.x(), last.y(), width, 1, colour);
+    painter.fillRect(first.x(), first.y(), 1, height, colour);
+    painter.fillRect(last.x(), first.y(), 1, height, colour);
+}
+
+} // namespace
+
+Machine::Machine(Memory& memory)
+    : rules_(memory, *this, QLocale().decimalPoint().front()), z1_(new Display(this)),
+      breathingInterval_(kDefaultBreathingInterval) {
+    setObjectName(QStringLiteral("Machine"));
+    setWindowTitle(QStringLiteral("Calculatrice"));
+    setFixedSize(kSize);
+    z1_->setGeometry(kDisplay);
+    addOptions();
+    addKeys();
+    new platform::look::MnemonicDisplay(this);
+    rules_.load();
+    z1_->setFocus();
+}
+
+void Machine::addOptions() {
+    const auto add = [this](const char* caption, const char* name,
+                            const std::array<QString, 2>& captions, const QRect& where,
+                            auto choose) {
+        auto* const frame =
+            new OptionFrame(QString::fromUtf8(caption), QString::fromUtf8(name), captions, this);
+        frame->setGeometry(where);
+        frame->option(1)->setChecked(true);
+        for (const int index : {0, 1}) {
+            // Chosen again an option acts again: the format shows the result anew.
+            connect(frame->option(index), &QRadioButton::clicked, this,
+                    [choose, index] { choose(index); });
+        }
+    };
+    add("Angles", "angle", {QStringLiteral("Degrés"), QStringLiteral("Radians")}, kAngles,
+        [this](int index) { rules_.setAngles(static_cast<AngleMode>(index)); });
+    add("Affichage", "C", {QStringLiteral("Scientifique"), QStringLiteral("Standard")}, kFormats,
+        [this](int index) { rules_.setFormat(static_cast<Format>(index)); });
+}
+
+void Machine::addKeys() {
+    for (const Key& key : keypad()) {
+        for (const KeyPlace& place : keyLayout()) {
+            if (place.name != key.name)
+                continue;
+            auto* const button = new KeyButton(key, place, this);
+            connect(button, &KeyButton::clicked, this, [this, &key] { press(key); });
+        }
+    }
+}
+
+void Machine::press(const Key& key) {
+    rules_.press(key);
+    // The memory keys change no text, yet hand the focus back to the display as all keys do.
+    z1_->setFocus();
+    if (closing_ && !rules_.evaluating())
+        close();
+}
+
+void Machine::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape)
+        return rules_.cancel();
+    if (const Key* const key = keyTyped(characterOf(*event)))
+        return press(*key);
+    QWidget::keyPressEvent(event);
+}
+
+void Machine::closeEvent(QCloseEvent* event) {
+    if (!rules_.evaluating())
+        return QWidget::closeEvent(event);
+    closing_ = true;
+    rules_.cancel();
+    event->ignore();
+}
+
+void Machine::showText(const QString& text) {
+    if (!rules_.evaluating())
+        sinceBreath_.start();
+    z1_->showText(text);
+}
+
+void Machine::beep() {
+    QApplication::beep();
+}
+
+void Machine::breathe() {
+    if (sinceBreath_.elapsed() < breathingInterval_)
+        return;
+    QCoreApplication::processEvents();
+    sinceBreath_.start();
+}
+
+void Machine::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    for (int x = 0; x < kSize.width(); ++x) {
+        const int g = static_cast<int>(text::roundHalfEven(200 - x / 2.0));
+        painter.fillRect(x, 0, 1, kSize.height(), QColor(g, g + 50, g + 50));
+    }
+    outline(painter, {1, 1}, {299, 428}, Qt::white);
+    painter.fillRect(1, 1, 299, 1, Qt::black);
+    painter.fillRect(1, 1, 1, 427, Qt::black);
+    outline(painter, {82, 290}, {206, 421}, Qt::white);
+    outline(painter, {81, 289}, {205, 420}, Qt::cyan);
+}
+
+} // namespace calculator

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "calculator/machine.h"
+
+#include <QPoint>
+#include <QPointer>
+
+#include <optional>
+
+namespace calculator {
+
+/// Opens the calculator. Each opening after a closing is a new window; only the memory stays. One
+/// that is open already comes to the front.
+class MachineOpener {
+public:
+    explicit MachineOpener(Memory& memory) : memory_(memory) {}
+    ~MachineOpener();
+
+    /// `place` is the upper left corner of the window with its frame, in logical screen pixels;
+    /// without one the window system chooses, and a window already open stays where it is.
+    void open(std::optional<QPoint> place = std::nullopt);
+
+    /// The window, null while there is none.
+    Machine* window() const { return window_; }
+
+private:
+    Memory& memory_;
+    QPointer<Machine> window_;
+};
+
+} // namespace calculator

@@ -1,0 +1,90 @@
+#include "calculator/option_frame.h"
+
+#include "platform/qt/look/interface_font.h"
+#include "platform/qt/look/palette.h"
+#include "platform/qt/look/pixels.h"
+
+#include <QPainter>
+#include <QRadioButton>
+
+namespace calculator {
+
+namespace look = platform::look;
+
+namespace {
+
+constexpr QRgb kFrameEdge = 0xff7d8f8b;
+
+constexpr int kOptionX = 4;
+constexpr int kFirstOptionY = 17;
+constexpr int kOptionHeight = 21;
+
+// Within an option; the rest of its area is there to be hit.
+constexpr double kCircleX = 10.5;
+constexpr double kCircleRadius = 6;
+constexpr double kDotRadius = 3.25;
+constexpr double kTextX = 22;
+constexpr double kMiddle = 0.355; ///< of the letters' size, from their middle to their foot
+
+class Option : public QRadioButton {
+public:
+    using QRadioButton::QRadioButton;
+
+protected:
+    bool hitButton(const QPoint& position) const override { return rect().contains(position); }
+
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        const double middle = kOptionHeight / 2.0;
+        const QColor blue = QColor::fromRgb(isDown() ? look::kDarkBlue : look::kBlue);
+        painter.setPen(QPen(blue, hasFocus() ? 2 : 1.25));
+        painter.setBrush(QColor::fromRgb(isDown()       ? look::kPressedTint
+                                         : underMouse() ? look::kHoverTint
+                                                        : look::kPaper));
+        painter.drawEllipse(QPointF(kCircleX, middle), kCircleRadius, kCircleRadius);
+        if (isChecked()) {
+            painter.setPen(Qt::NoPen);
+            painter.setBrush(blue);
+            painter.drawEllipse(QPointF(kCircleX, middle), kDotRadius, kDotRadius);
+        }
+        painter.setPen(QColor::fromRgb(look::kInk));
+        painter.setFont(font());
+        painter.drawText(
+            QPointF(kTextX, look::snapped(painter, middle + kMiddle * font().pixelSize())), text());
+    }
+};
+
+} // namespace
+
+OptionFrame::OptionFrame(const QString& caption, const QString& name,
+                         const std::array<QString, 2>& captions, QWidget* parent)
+    : QWidget(parent), caption_(caption), options_{} {
+    for (std::size_t i = 0; i < options_.size(); ++i) {
+        auto* const option = new Option(captions[i], this);
+        option->setObjectName(name + QString::number(i));
+        option->setFont(look::interfaceFont(look::kSmallPx));
+        option->setAttribute(Qt::WA_Hover);
+        option->setFocusPolicy(Qt::TabFocus);
+        options_[i] = option;
+    }
+    setAccessibleName(caption);
+}
+
+void OptionFrame::resizeEvent(QResizeEvent*) {
+    int y = kFirstOptionY;
+    for (QRadioButton* const option : options_) {
+        option->setGeometry(kOptionX, y, width() - 2 * kOptionX, kOptionHeight);
+        y += kOptionHeight;
+    }
+}
+
+void OptionFrame::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    look::drawFrame(painter, rect(), 4, kFrameEdge, QColor::fromRgb(look::kIvory));
+    painter.setFont(look::interfaceFont(look::kSmallPx));
+    painter.setPen(QColor::fromRgb(look::kMuted));
+    painter.drawText(QPointF(8, 14), caption_);
+}
+
+} // namespace calculator

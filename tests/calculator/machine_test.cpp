@@ -1,0 +1,212 @@
+#include "calculator/key_layout.h"
+#include "calculator/machine.h"
+#include "calculator/machine_opener.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QFontMetricsF>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QLocale>
+#include <QPainter>
+#include <QTest>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+namespace calculator {
+namespace {
+
+class Window : public testing::Test {
+protected:
+    Window() { open(); }
+    ~Window() override { QLocale::setDefault(QLocale::c()); }
+
+    void open() {
+        opener.open();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(opener.window()));
+    }
+    template <class T>
+    T* control(const char* name) {
+        auto* const found = opener.window()->findChild<T*>(QString::fromUtf8(name));
+        EXPECT_TRUE(found) << name;
+        return found;
+    }
+    void click(const char* names) {
+        for (const QString& name : QString::fromUtf8(names).split(u' '))
+            QTest::mouseClick(control<QAbstractButton>(name.toUtf8().constData()), Qt::LeftButton);
+    }
+    void type(const char* keys) {
+        QTest::keyClicks(QApplication::focusWidget(), QString::fromUtf8(keys));
+    }
+    void hit(int key, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), modifiers);
+    }
+    std::string shown() { return control<QLineEdit>("z1")->text().toStdString(); }
+
+    Memory memory;
+    MachineOpener opener{memory};
+};
+
+TEST_F(Window, calculatesByMouse) {
+    click("B2 multip B3 EXE");
+    EXPECT_EQ(shown(), " 6");
+    click("plus B1 EXE");
+    EXPECT_EQ(shown(), " 7");
+    click("RAZ B9 racine B1 B6 EFFACE");
+    EXPECT_EQ(shown(), "9 * SQR 1");
+    click("EXE C0");
+    EXPECT_EQ(shown(), "9.E+00");
+}
+
+TEST_F(Window, calculatesByKeyboard) {
+    type("(2+3)*4e-1x,");
+    EXPECT_EQ(shown(), "(2 + 3) * 4E-1");
+    hit(Qt::Key_Backspace);
+    hit(Qt::Key_Enter, Qt::KeypadModifier);
+    EXPECT_EQ(shown(), " 20");
+    type("^2");
+    hit(Qt::Key_Return);
+    EXPECT_EQ(shown(), " 400");
+    hit(Qt::Key_H, Qt::ControlModifier); // not an erasing key, whatever it types elsewhere
+    type("3");
+    QKeyEvent waiting(QEvent::KeyPress, Qt::Key_Dead_Circumflex, {});
+    QApplication::sendEvent(QApplication::focusWidget(), &waiting);
+    EXPECT_EQ(shown(), "3 ^ ");
+    hit(Qt::Key_Escape);
+    EXPECT_EQ(shown(), "3 ^ ");
+}
+
+TEST_F(Window, theDisplayKeepsTheFocusAndIsNotEdited) {
+    click("B1 Command1");
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), QStringLiteral("z1"));
+    hit(Qt::Key_Left);
+    hit(Qt::Key_Home);
+    hit(Qt::Key_Delete);
+    type("2");
+    EXPECT_EQ(shown(), "12");
+    EXPECT_EQ(control<QLineEdit>("z1")->cursorPosition(), 2);
+}
+
+TEST_F(Window, mnemonicsPressTheFunctions) {
+    hit(Qt::Key_S, Qt::AltModifier);
+    EXPECT_EQ(shown(), "sin ");
+    hit(Qt::Key_A, Qt::AltModifier);
+    EXPECT_EQ(shown(), "sin invTAN ");
+}
+
+TEST_F(Window, anglesAndFormatStandAsDesigned) {
+    EXPECT_TRUE(control<QAbstractButton>("angle1")->isChecked());
+    EXPECT_TRUE(control<QAbstractButton>("C1")->isChecked());
+    click("bsin B3 B0 EXE");
+    EXPECT_EQ(shown(), "-.988031624092862");
+    click("angle0 RAZ bsin B3 B0 EXE");
+    EXPECT_EQ(shown(), " .5");
+}
+
+TEST_F(Window, onlyTheMemoryOutlivesIt) {
+    click("B8 Command1 C0 plus B1 EXE");
+    opener.window()->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(opener.window(), nullptr);
+    open();
+    EXPECT_EQ(shown(), "");
+    EXPECT_TRUE(control<QAbstractButton>("C1")->isChecked());
+    click("ANS");
+    EXPECT_EQ(shown(), "");
+    click("Command3");
+    EXPECT_EQ(shown(), "8");
+}
+
+TEST_F(Window, openedAgainItIsTheSame) {
+    Machine* const window = opener.window();
+    click("B5");
+    opener.open(QPoint(40, 30));
+    EXPECT_EQ(opener.window(), window);
+    EXPECT_EQ(window->pos(), QPoint(40, 30));
+    EXPECT_EQ(shown(), "5");
+}
+
+TEST_F(Window, frenchSeparatorOnlyInTheScientificRecall) {
+    opener.window()->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QLocale::setDefault(QLocale(QLocale::French, QLocale::France));
+    open();
+    type("1/8");
+    hit(Qt::Key_Return);
+    EXPECT_EQ(shown(), " .125");
+    click("Command1 C0");
+    EXPECT_EQ(shown(), "1.25E-01");
+    click("Command3");
+    EXPECT_EQ(shown(), "1,25E-01");
+}
+
+TEST_F(Window, escapeEndsALongEvaluation) {
+    type("1+2+3+4+5+6");
+    opener.window()->setBreathingInterval(0);
+    std::string meanwhile;
+    QTimer::singleShot(0, opener.window(), [&] {
+        meanwhile = shown();
+        type("9");
+        click("RAZ");
+        hit(Qt::Key_Escape);
+    });
+    hit(Qt::Key_Return);
+    EXPECT_EQ(meanwhile, "    Patience... Calculs en cours.     ");
+    EXPECT_EQ(shown(), "Calcul impossible");
+    type("7");
+    EXPECT_EQ(shown(), "1 + 2 + 3 + 4 + 5 + 67");
+}
+
+TEST_F(Window, closedInTheMiddleItClosesAtTheEnd) {
+    type("1+2+3+4+5+6");
+    opener.window()->setBreathingInterval(0);
+    QTimer::singleShot(0, opener.window(), [&] {
+        opener.window()->close();
+        EXPECT_TRUE(opener.window()->isVisible());
+    });
+    hit(Qt::Key_Return);
+    EXPECT_FALSE(opener.window() && opener.window()->isVisible());
+}
+
+TEST_F(Window, everyKeyHasItsPlace) {
+    const auto buttons = opener.window()->findChildren<QAbstractButton*>();
+    QRegion taken;
+    int keys = 0;
+    for (const auto* button : buttons) {
+        if (button->parentWidget() != opener.window())
+            continue;
+        ++keys;
+        EXPECT_FALSE(taken.intersects(button->geometry())) << button->objectName().toStdString();
+        EXPECT_TRUE(opener.window()->rect().contains(button->geometry()));
+        EXPECT_FALSE(button->accessibleName().isEmpty()) << button->objectName().toStdString();
+        const double text =
+            QFontMetricsF(button->font()).horizontalAdvance(button->text().remove(u'&'));
+        EXPECT_LE(text, button->width() - 2) << button->objectName().toStdString();
+        taken += button->geometry();
+    }
+    EXPECT_EQ(keys, static_cast<int>(keypad().size()));
+    EXPECT_EQ(keyLayout().size(), keypad().size());
+}
+
+TEST_F(Window, theLongestMessageFitsTheDisplay) {
+    type("2**3");
+    hit(Qt::Key_Return);
+    const auto* const display = control<QLineEdit>("z1");
+    EXPECT_EQ(display->text(), u"Erreur saisie: incompréhension sur opérateurs: ^ * / + -");
+    EXPECT_LE(QFontMetricsF(display->font()).horizontalAdvance(display->text()), 270);
+}
+
+TEST_F(Window, theGroundIsPaintedColumnByColumn) {
+    const QImage picture = opener.window()->grab().toImage();
+    EXPECT_EQ(picture.pixel(0, 60), qRgb(200, 250, 250));
+    EXPECT_EQ(picture.pixel(3, 60), qRgb(198, 248, 248)); // 198.5: halves to the even neighbour
+    EXPECT_EQ(picture.pixel(295, 60), qRgb(52, 102, 102));
+    EXPECT_EQ(picture.pixel(81, 300), qRgb(0, 255, 255));
+    EXPECT_EQ(picture.pixel(206, 300), qRgb(255, 255, 255));
+    EXPECT_EQ(picture.pixel(1, 200), qRgb(0, 0, 0));
+    EXPECT_EQ(picture.pixel(299, 200), qRgb(255, 255, 255));
+}
+
+} // namespace
+} // namespace calculator
