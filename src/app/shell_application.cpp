@@ -3,6 +3,7 @@
 #include "app/course_data.h"
 #include "app/missing_parts.h"
 #include "app/prompted_display_warning.h"
+#include "calculator/machine_opener.h"
 #include "markup/renderer.h"
 #include "platform/qt/font_book.h"
 #include "platform/qt/look/message_dialog.h"
@@ -57,6 +58,16 @@ private:
     shell::Launcher& launcher_;
 };
 
+/// The calculator; its memory lives as long as the program.
+class Calculator : public viewer::ModalWindow {
+public:
+    void open() override { opener_.open(); }
+
+private:
+    calculator::Memory memory_;
+    calculator::MachineOpener opener_{memory_};
+};
+
 /// Ends the program.
 class Ending : public viewer::ModalWindow {
 public:
@@ -77,7 +88,6 @@ struct ShellApplication::Parts {
           exercise(window, QStringLiteral("Cette édition n’a pas encore les tests.")),
           orderForm(window, QStringLiteral("Cette édition n’a pas encore de bon de commande.")),
           search(window, QStringLiteral("Cette édition n’a pas encore la recherche.")),
-          calculator(window, QStringLiteral("Cette édition n’a pas encore la calculatrice.")),
           help(window, QStringLiteral("Cette édition n’a pas encore d’aide.")),
           installation(window, QStringLiteral("Cette édition ne s’actualise pas encore.")),
           renderer(drawing, window, window.recording()),
@@ -108,7 +118,8 @@ struct ShellApplication::Parts {
     MissingVideo video;
     MissingPrinting printing;
     MissingLinks links;
-    MissingWindow exercise, orderForm, search, calculator, help, installation;
+    MissingWindow exercise, orderForm, search, help, installation;
+    Calculator calculator;
     Ending ending;
 
     markup::Renderer renderer;
