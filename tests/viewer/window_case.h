@@ -9,7 +9,6 @@
 
 namespace test_support {
 
-
 /// Source of a page with so many lines of text.
 inline QString lines(int count) {
     return QStringLiteral("Une ligne de texte¶\r\n").repeated(count);
