@@ -21,6 +21,8 @@ constexpr double kRadius = 4;
 constexpr int kMarginPx = 9;
 constexpr int kOwnMarginPx = 2;
 
+constexpr double kCaretGap = 2;
+
 constexpr int kLargestPx = 19;
 constexpr int kSmallestPx = look::kSmallPx;
 
@@ -65,15 +67,15 @@ void Display::fitFont(const QString& text) {
 void Display::paintEvent(QPaintEvent* event) {
     {
         QPainter painter(this);
-        look::drawFrame(painter, rect(), kRadius, hasFocus() ? look::kBlue : kEdge,
-                        QColor::fromRgb(look::kPaper));
+        look::drawFrame(painter, rect(), kRadius, kEdge, QColor::fromRgb(look::kPaper));
     }
     QLineEdit::paintEvent(event);
     if (!hasFocus() || hasSelectedText())
         return;
     QPainter painter(this);
     const QRect caret = cursorRect();
-    const double x = std::min<double>(caret.center().x() + 1, width() - kMarginPx + 1);
+    const double x =
+        std::min<double>(caret.center().x() + kCaretGap, width() - kMarginPx + kCaretGap);
     painter.fillRect(
         QRectF(look::snapped(painter, x), caret.top(), look::crisp(painter), caret.height()),
         QColor::fromRgb(look::kInk));

@@ -92,6 +92,7 @@ INSTANTIATE_TEST_SUITE_P(
         Row{u"1 + 2 - 3 + 4 - 5", u"-1"},           // 1 + (2-3) + (4-5)
         Row{u"ln (20 + 7)", u"1.94591014905531"},   // the space after LON is lost: ln of the 7
         Row{u"ln (20 + 7.5)", u"2.01490302054226"}, // ... of 7.5
+        Row{u"sin -(1 + 2)", u"2"},                 // a sign makes the group an argument: sin 0 + 2
         Row{u"3(2 + 3)", u"35"},                    // no implicit multiplication: texts are joined
         Row{u"(1)(2)", u"12"},                      // plain groups lose their parentheses
         Row{u"2E(3)", u"2E3"},                      // ... even within a number

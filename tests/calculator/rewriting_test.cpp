@@ -84,6 +84,17 @@ Text wellFormed(std::mt19937& random, int depth) {
     return text;
 }
 
+TEST(AgainstLiteralRewriting, negativeGroupsAfterEverySign) {
+    for (const Text before : {u"", u"-", u"+", u"7-", u"7+", u"7*", u"(+", u"(-", u"sin +", u"2E+",
+                              u"2E-", u"5+(", u"5-((", u"3", u"7*+(-"}) {
+        Text after;
+        for (const char16_t c : before)
+            after += c == u'(' ? u")" : u"";
+        for (const Text group : {u"(1-5)", u"(2E+20*-3)", u"((1-5))", u"(5-1)"})
+            expectSame(before + group + after + u"+4");
+    }
+}
+
 TEST(AgainstLiteralRewriting, wellFormedExpressions) {
     std::mt19937 random(5);
     for (int i = 0; i < 60; ++i)
