@@ -1,9 +1,11 @@
 #include "app/command_line.h"
 #include "app/scale.h"
 #include "app/shell_application.h"
+#include "platform/qt/font_book.h"
 
 #include <QApplication>
 #include <QScreen>
+#include <QTimer>
 
 #include <cstdio>
 
@@ -37,6 +39,15 @@ double chooseScale(const app::CommandLine& line, int argc, char** argv) {
     return scale;
 }
 
+/// Pages were laid out for these faces: without their stand-ins, lines run past the margins and
+/// signs are missing.
+void warnOfMissingFaces() {
+    const QStringList missing = platform::FontBook::missingFamilies();
+    if (!missing.isEmpty())
+        std::fprintf(stderr, "orvalente : polices absentes, les pages en souffriront : %s.\n",
+                     qUtf8Printable(missing.join(QStringLiteral(", "))));
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -56,5 +67,8 @@ int main(int argc, char** argv) {
     QApplication::setQuitOnLastWindowClosed(false);
 
     app::ShellApplication shell(line, scale);
-    return shell.start() ? QApplication::exec() : 0;
+    if (!shell.start())
+        return 0;
+    QTimer::singleShot(0, &application, &warnOfMissingFaces); // the page comes first
+    return QApplication::exec();
 }
