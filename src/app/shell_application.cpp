@@ -4,6 +4,7 @@
 #include "app/missing_parts.h"
 #include "app/prompted_display_warning.h"
 #include "calculator/machine_opener.h"
+#include "markup/no_pictures.h"
 #include "markup/renderer.h"
 #include "platform/qt/font_book.h"
 #include "platform/qt/look/message_dialog.h"
@@ -90,7 +91,7 @@ struct ShellApplication::Parts {
           search(window, QStringLiteral("Cette édition n’a pas encore la recherche.")),
           help(window, QStringLiteral("Cette édition n’a pas encore d’aide.")),
           installation(window, QStringLiteral("Cette édition ne s’actualise pas encore.")),
-          renderer(drawing, window, window.recording()),
+          renderer(drawing, window, pictures, window.recording()),
           pages(state, bound, window, window, renderer, video),
           actions(state, pages, window, modules, exercise, orderForm),
           neighbours{video,  links,      printing, modules,      exercise, orderForm,
@@ -122,6 +123,7 @@ struct ShellApplication::Parts {
     Calculator calculator;
     Ending ending;
 
+    markup::NoPictures pictures;
     markup::Renderer renderer;
     viewer::PageLoader pages;
     viewer::ActionDispatcher actions;

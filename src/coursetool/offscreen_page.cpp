@@ -15,7 +15,7 @@ OffscreenPage::OffscreenPage(const platform::TextMetrics& metrics)
       pictureIllus_(SurfaceId::PictureIllus, viewer::kIllustrationWidthPx * kTwipsPerPixel, metrics,
                     recording_),
       titre_(SurfaceId::Titre, viewer::kTitleWidthPx * kTwipsPerPixel, metrics, recording_),
-      renderer_(state_, *this, recording_) {
+      renderer_(state_, *this, pictures_, recording_) {
     state_.surfaceDessin = &pictureTexte_;
     state_.fenetreSource = this;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "markup/no_pictures.h"
 #include "markup/renderer.h"
 #include "markup/windows.h"
 #include "platform/recording.h"
@@ -39,6 +40,7 @@ public:
     void setBusy(bool) override {}
     void refresh(platform::Surface&) override {}
     void preparePrinter() override {}
+    void showVideoFrame() override {}
     void setPageVisible(bool) override {}
     void resetLinks() override {}
     void hideScrollBarAndVideoFrame() override {}
@@ -62,6 +64,7 @@ private:
     platform::Surface pictureIllus_;
     platform::Surface titre_;
     platform::RichTextHolder code_;
+    markup::NoPictures pictures_;
     markup::DrawingState state_;
     markup::Renderer renderer_;
 };

@@ -45,4 +45,26 @@ void refreshAndGrow(Renderer& renderer, QStringView d);
 void chooseSurface(Renderer& renderer, QStringView d);
 void windowCaption(Renderer& renderer, QStringView d);
 
+// pictures.cpp
+void symbolInLine(Renderer& renderer, QStringView d);
+void pictureOverText(Renderer& renderer, QStringView d);
+void pictureAboveText(Renderer& renderer, QStringView d);
+void pictureOfGivenSize(Renderer& renderer, QStringView d);
+
+// links.cpp
+void firstCaptionLine(Renderer& renderer, QStringView d);
+void textLink(Renderer& renderer, QStringView d);
+void pictureLink(Renderer& renderer, QStringView d);
+void pictureLinkWithTooltip(Renderer& renderer, QStringView d);
+void floatingMenu(Renderer& renderer, QStringView d);
+void menuEntry(Renderer& renderer, QStringView d);
+
+// answer_fields.cpp
+void optionField(Renderer& renderer, QStringView d);
+void checkField(Renderer& renderer, QStringView d);
+void textField(Renderer& renderer, QStringView d);
+void questionLink(Renderer& renderer, QStringView d);
+void questionVideo(Renderer& renderer, QStringView d);
+void pageVideo(Renderer& renderer, QStringView d);
+
 } // namespace markup

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "markup/link_table.h"
 #include "markup/qb_color.h"
 #include "platform/surface.h"
 #include "text/bounded_array.h"
@@ -32,7 +33,9 @@ struct DrawingState {
     std::int16_t reliefCouleur = 0;  ///< index of the 16-colour palette
     bool dansTableau = false;
     text::BoundedArray<QRgb, TopEdge, RightEdge> couleursBord;
-    QString lienEnAttente;
+    QString lienEnAttente; ///< first line of the next link's caption, with its line end
+    LinkTable links;
+    std::int16_t menuCourant = 0; ///< the floating menu that entries are added to
     std::int32_t hauteurPage = 0;
     QString videoPage;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "markup/renderer.h"
+#include "support/fake_pictures.h"
 #include "support/fixed_metrics.h"
 #include "support/recording_text.h"
 
@@ -48,6 +49,8 @@ public:
         refreshed = &surface;
     }
     void preparePrinter() override { ++preparations; }
+    void showVideoFrame() override { ++videoFrames; }
+    markup::AnswerFields* answerFields() override { return isQuestion ? &fields : nullptr; }
 
     FixedMetrics metrics;
     platform::Recording recording;
@@ -56,14 +59,18 @@ public:
     platform::Surface title{platform::SurfaceId::Titre, 9000, metrics, recording};
     platform::Surface printer{platform::SurfaceId::Printer, 11000, metrics, recording};
     platform::RichTextHolder holder;
+    FakePictures pictures;
+    markup::AnswerFields fields;
+    bool isQuestion = false;
     markup::DrawingState state;
-    markup::Renderer renderer{state, *this, recording};
+    markup::Renderer renderer{state, *this, pictures, recording};
 
     QString caption;
     QList<bool> busy;
     QList<int> refreshedAt;
     platform::Surface* refreshed = nullptr;
     int preparations = 0;
+    int videoFrames = 0;
 };
 
 /// Cases that draw a source and compare the operations.

@@ -95,6 +95,23 @@ public:
         target_.wipe();
     }
 
+    void operator()(const PictureOperation& picture) {
+        if (picture.surface != target_.id_ || !reachable(picture.x, picture.y) ||
+            !room(picture.y, picture.y + picture.height))
+            return;
+        const QRect place(
+            QPoint(pixel(picture.x), pixel(picture.y)),
+            QPoint(pixel(std::min(picture.x + picture.width, kFarPx * kTwipsPerPixel)) - 1,
+                   pixel(std::min(picture.y + picture.height, kFarPx * kTwipsPerPixel)) - 1));
+        if (!place.isEmpty())
+            painter().drawImage(place.topLeft(), picture.picture->image(place.size()));
+    }
+
+    // Links and answers are controls of their own on the window.
+    void operator()(const LinkOperation&) {}
+    void operator()(const MenuOperation&) {}
+    void operator()(const FieldOperation&) {}
+    void operator()(const VideoOperation&) {}
     void operator()(const SwitchOperation&) {}
     void operator()(const CaptionOperation&) {}
     void operator()(const FailedOperation&) {}
