@@ -34,8 +34,8 @@ INSTANTIATE_TEST_SUITE_P(
              "print 3300,0 \"V\" Arial 10"}},
         Row{"linksLeadToPages",
             u"##EXOLIle cours#12\n##EXOVIle film#13\nx\n##EXOLIa#\n",
-            {"field Image1(0) 0,0 420 12", "field Labelien(0) 420,0 800 \"le cours\" 12",
-             "field Icovideo(0) 1220,0 360 tip \"le film\" 13", "print 1580,0 \"x\" Arial 10",
+            {"field Image1(0) 0,0 480 12", "field Labelien(0) 480,0 800 \"le cours\" 12",
+             "field Icovideo(0) 1280,0 360 tip \"le film\" 13", "print 1640,0 \"x\" Arial 10",
              "failed 4 ##EXOLIa#"}}));
 
 TEST(AnswerFieldsState, ofTwoTypedAnswersTheLastPlaceCounts) {
