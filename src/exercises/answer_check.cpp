@@ -63,6 +63,11 @@ private:
     std::size_t matched_ = 0;
 };
 
+bool startsAWord(std::u16string_view text, std::size_t position) {
+    return position == 0 || !isWordAt(text, position - 1);
+}
+
+/// Whether a word ends at `position`, or after an ending that stands there.
 bool endsAWord(std::u16string_view text, std::size_t position) {
     return std::any_of(std::begin(kEndings), std::end(kEndings), [&](std::u16string_view ending) {
         return text.substr(position).starts_with(ending) &&
@@ -90,23 +95,17 @@ std::u16string foldedAnswer(std::u16string_view typed) {
     return out;
 }
 
-bool holdsWord(std::u16string_view folded, std::u16string_view word) {
-    const std::u16string text = smallLetters(folded);
-    const std::u16string sought = smallLetters(word);
+bool castexte(std::u16string_view solution, std::u16string_view typed) {
+    const std::u16string text = foldedAnswer(typed);
+    const std::u16string sought = smallLetters(solution);
     WordReader reader(sought);
     for (std::size_t end = 0;; ++end) {
-        const bool found = reader.isWhole();
-        const std::size_t start = end - (found ? sought.size() : 0);
-        if (found && (start == 0 || !isWordAt(text, start - 1)) && endsAWord(text, end))
+        if (reader.isWhole() && startsAWord(text, end - sought.size()) && endsAWord(text, end))
             return true;
         if (end == text.size())
             return false;
         reader.read(text[end]);
     }
-}
-
-bool castexte(std::u16string_view solution, std::u16string_view typed) {
-    return holdsWord(foldedAnswer(typed), solution);
 }
 
 } // namespace exercises

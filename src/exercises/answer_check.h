@@ -12,14 +12,13 @@ namespace exercises {
 /// which slides into the place of a deleted one is left as it is: "a--b" becomes "a-b". Meant so.
 std::u16string foldedAnswer(std::u16string_view typed);
 
-/// Whether `word`, or `word` with one of the endings "s", "e", "es" and "x", stands in `folded` as
-/// a whole word, letter case left aside: no letter or digit just before or just after it. `word`
-/// may hold spaces; an empty one is found where no letter or digit is on either side, so in an
-/// empty text. Takes time proportional to both lengths.
-bool holdsWord(std::u16string_view folded, std::u16string_view word);
-
-/// Whether a typed answer is right. Only what was typed is folded: a solution that has an accent
-/// of the folding table, or a sign of it, fits no answer. Meant so.
+/// Whether a typed answer is right: the solution, or the solution with one of the endings "s", "e",
+/// "es" and "x", stands in the folded answer as whole words, letter case left aside. No letter or
+/// digit may come just before or just after it. An empty solution stands wherever no letter or
+/// digit is on either side, so in an empty answer.
+///
+/// Only what was typed is folded: a solution with an accent or a sign of the folding fits no
+/// answer. Meant so. Takes time proportional to both lengths.
 bool castexte(std::u16string_view solution, std::u16string_view typed);
 
 } // namespace exercises

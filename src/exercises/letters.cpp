@@ -22,7 +22,6 @@ constexpr Capitals kCapitals[] = {
     {0x00C0, 0x00D6, 1, 0x20},    // À to Ö
     {0x00D8, 0x00DE, 1, 0x20},    // Ø to Þ
     {0x0100, 0x012E, 2, 1},       // Latin Extended-A
-    {0x0130, 0x0130, 1, -0xC7},   // İ, whose small letter is the plain i
     {0x0132, 0x0136, 2, 1},       // Œ is among the following
     {0x0139, 0x0147, 2, 1},       //
     {0x014A, 0x0176, 2, 1},       //
