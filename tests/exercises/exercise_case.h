@@ -1,0 +1,195 @@
+#pragma once
+
+#include "exercises/test_session.h"
+#include "jet/writer.h"
+#include "support/fake_prompter.h"
+
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <optional>
+
+namespace exercises::test {
+
+/// The window without a window: it keeps what it is told, and its drawing of a question shows a
+/// control for each "##EXOCK", "##EXOOP" and "##EXOTX".
+class FakeWindow : public TestView, public AnswerControls, public CourseWindow {
+public:
+    struct Choice {
+        bool visible = false;
+        bool selected = false;
+        bool enabled = true;
+        std::optional<Mark> mark;
+    };
+
+    Choice& check(int index) { return choices[0][static_cast<std::size_t>(index)]; }
+    Choice& option(int index) { return choices[1][static_cast<std::size_t>(index)]; }
+
+    void setTitle(const QString& text) override { title = text; }
+    void setCaption(const QString& text) override { caption = text; }
+    void setPreviousVisible(bool visible) override { previous = visible; }
+    void setNextVisible(bool visible) override { next = visible; }
+    void setValidateVisible(bool visible) override { validate = visible; }
+    void setScoreVisible(bool visible) override { score = visible; }
+    void placeMarker(int question, int count) override { marker = {question, count}; }
+    void setMarkerVisible(bool visible) override { markerVisible = visible; }
+    void setFace(int level) override { face = level; }
+    void repaintStrip() override { ++stripPaintings; }
+    void focusStrip() override { stripHasFocus = true; }
+    void hideReturnToTest() override { returnToTest = false; }
+
+    void misanet() override {
+        choices = {};
+        typed.clear();
+        typedEnabled = true;
+        typedVisible = false;
+        source = QStringLiteral("(empty)");
+    }
+
+    void drawQuestion(const QString& text) override {
+        source = text;
+        for (int i = 0; i < qMin(kChoices, int(text.count(QStringLiteral("##EXOCK")))); ++i)
+            check(i).visible = true;
+        for (int i = 0; i < qMin(kChoices, int(text.count(QStringLiteral("##EXOOP")))); ++i)
+            option(i).visible = true;
+        typedVisible = text.contains(QStringLiteral("##EXOTX"));
+    }
+
+    void showRightAnswer() override {
+        EXPECT_FALSE(markerVisible);
+        ++popups;
+        if (duringPopup)
+            duringPopup();
+    }
+
+    bool isVisible(ChoiceArray array, int i) const override { return at(array, i).visible; }
+    bool isSelected(ChoiceArray array, int i) const override { return at(array, i).selected; }
+    void setSelected(ChoiceArray array, int i, bool selected) override {
+        at(array, i).selected = selected;
+    }
+    void disable(ChoiceArray array, int i) override { at(array, i).enabled = false; }
+    void paintMark(ChoiceArray array, int i, Mark mark) override { at(array, i).mark = mark; }
+    QString typedText() const override { return typed; }
+    void setTypedText(const QString& text) override { typed = text; }
+    void disableTypedText() override { typedEnabled = false; }
+
+    /// The marks of an array from the first control: "+" in the solution, "-" not, " " none.
+    QString marks(ChoiceArray array) const {
+        QString all;
+        for (int i = 0; i < kChoices; ++i) {
+            const auto mark = at(array, i).mark;
+            all += QLatin1Char(!mark ? ' ' : *mark == Mark::InSolution ? '+' : '-');
+        }
+        return all;
+    }
+
+    std::array<std::array<Choice, kChoices>, 2> choices;
+    QString title, caption, source, typed;
+    std::pair<int, int> marker;
+    bool previous = false, next = false, validate = false, score = true;
+    bool markerVisible = true, typedVisible = false, typedEnabled = true;
+    bool stripHasFocus = false, returnToTest = true;
+    int face = 0, stripPaintings = 0, popups = 0;
+    std::function<void()> duringPopup;
+
+private:
+    const Choice& at(ChoiceArray array, int index) const {
+        return choices[array == ChoiceArray::Option1][static_cast<std::size_t>(index)];
+    }
+    Choice& at(ChoiceArray array, int index) {
+        return choices[array == ChoiceArray::Option1][static_cast<std::size_t>(index)];
+    }
+};
+
+using Rows = std::vector<std::vector<jet::Value>>;
+
+/// A record of "DESCRIPTION" and one of "Contenu".
+inline std::vector<jet::Value> description(int chapter, const char16_t* title, jet::Value count) {
+    return {jet::Value(std::int16_t(chapter)), jet::Value(title), std::move(count)};
+}
+inline jet::Value number(int value) {
+    return jet::Value(std::int16_t(value));
+}
+inline std::vector<jet::Value> question(int reference, int type, const char16_t* solution,
+                                        const char16_t* text, const char16_t* comment) {
+    return {jet::Value(std::int32_t(reference)), number(type), jet::Value(solution),
+            jet::Value(text), jet::Value(comment)};
+}
+
+/// A course with a real exercise database, and the test's window over it.
+class ExerciseCase : public testing::Test {
+protected:
+    ExerciseCase() { shared.PendingExerciseChapter = 3; }
+
+    void write(const Rows& descriptions, const Rows& questions) {
+        using enum jet::ColumnType;
+        tables = {};
+        auto file = jet::DatabaseWriter::create(folder.filePath("QEKX.mdb").toStdString());
+        ASSERT_TRUE(file) << file.error().sentence;
+        fill(*file, u"DESCRIPTION",
+             {{u"Chapitre", Integer}, {u"Titre", Text, 255}, {u"Nbquest", Integer}}, descriptions);
+        fill(*file, u"Contenu",
+             {{u"REFERENCE", Long},
+              {u"type", Integer},
+              {u"solution", Text, 255},
+              {u"question", Memo},
+              {u"SiFaux", Memo}},
+             questions);
+        ASSERT_TRUE(file->finish());
+    }
+
+    /// A test of chapter 3 with `count` questions, each with one box that is to be ticked.
+    void writeBoxes(int count) {
+        Rows questions;
+        for (int i = 1; i <= qMin(count, 150); ++i)
+            questions.push_back(question(300 + i, 1, u"10000", u"##EXOCK\r\n", u"Non\r\n"));
+        write({description(3, u"Cases", number(count))}, questions);
+    }
+
+    /// Opens the window, as a page does with the code of a test.
+    void open() {
+        tables = openExerciseTables(folder.path());
+        EXPECT_EQ(tables.failures, QStringList());
+        session.emplace(shared, state, window, window, window, prompter);
+        session->load(tables.description.get(), tables.contenu.get());
+        session->activate();
+    }
+
+    /// Answers the current question of writeBoxes().
+    void answer(bool right) {
+        window.check(0).selected = right;
+        session->validate();
+    }
+
+    QTemporaryDir folder;
+    ExerciseTables tables;
+    shell::SharedState shared;
+    TestState state;
+    FakeWindow window;
+    test_support::FakePrompter prompter;
+    std::optional<TestSession> session;
+
+private:
+    struct NamedColumn {
+        const char16_t* name;
+        jet::ColumnType type;
+        int length = 0;
+    };
+
+    static void fill(jet::DatabaseWriter& file, const char16_t* name,
+                     const std::vector<NamedColumn>& named, const Rows& rows) {
+        std::vector<jet::Column> columns;
+        for (const NamedColumn& column : named)
+            columns.push_back({.name = column.name, .type = column.type, .length = column.length});
+        auto table = file.addTable(name, columns);
+        ASSERT_TRUE(table) << table.error().sentence;
+        for (const auto& row : rows) {
+            const auto done = table->append(row);
+            ASSERT_TRUE(done) << done.error().sentence;
+        }
+    }
+};
+
+} // namespace exercises::test
