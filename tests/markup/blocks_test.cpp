@@ -25,8 +25,7 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         Row{"reachFromMarginToMargin", u"##POX010\n##PIY010\n##RECT020\nx\n",
             frame(0, 150, 8985, 435) + QStringList("print 150,150 \"x\" Arial 10")},
-        Row{"aWidthIsForOneFrame",
-            u"##POX010\n##LARGEUR100\n##RECT020\n##ALDR\n##RECT020\n",
+        Row{"aWidthIsForOneFrame", u"##POX010\n##LARGEUR100\n##RECT020\n##ALDR\n##RECT020\n",
             frame(150, 0, 1635, 285) + frame(0, 0, 8985, 285)},
         Row{"areCentred", u"##ALCE\n##LARGEUR100\n##RECT020\n", frame(3750, 0, 5235, 285)},
         Row{"standAtTheRightMargin", u"##TAB010200 1\n##ALDR\n##LARGEUR100\n##RECT020\n",
