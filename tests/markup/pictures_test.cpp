@@ -23,7 +23,8 @@ class Pictures : public testing::TestWithParam<Row> {};
 
 TEST_P(Pictures, draws) {
     PictureBench bench;
-    EXPECT_EQ(bench.draw(QString::fromUtf16(GetParam().source)), GetParam().expected);
+    EXPECT_EQ(test_support::lines(bench.draw(QString::fromUtf16(GetParam().source))),
+              test_support::lines(GetParam().expected));
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -39,8 +40,7 @@ INSTANTIATE_TEST_SUITE_P(
                         {"picture 6000,0 3000,1500 a.bmp", "print 6000,1500 \"b\" Arial 10"}},
                     Row{"thatAreMissingChangeNothing",
                         u"##ALCE\n##IXAb.bmp\n##IHDEFb.bmp200100\n##ALGA\nb\n",
-                        {"failed 2 ##IXAb.bmp", "failed 3 ##IHDEFb.bmp200100",
-                         "print 0,0 \"b\" Arial 10"}},
+                        {"print 0,0 \"b\" Arial 10"}},
                     // The statements that can be carried out are: the room stays.
                     Row{"thatCannotBeReadPaintNothing",
                         u"##IXAcassee.gif\n##IHDEFcassee.gif200100\nb\n",
