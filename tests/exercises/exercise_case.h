@@ -1,6 +1,8 @@
 #pragma once
 
+#include "coursetool/tables.h"
 #include "exercises/test_session.h"
+#include "jet/unicode.h"
 #include "jet/writer.h"
 #include "support/fake_prompter.h"
 
@@ -9,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <map>
 #include <optional>
 
 namespace exercises::test {
@@ -24,8 +27,9 @@ public:
         std::optional<Mark> mark;
     };
 
-    Choice& check(int index) { return choices[0][static_cast<std::size_t>(index)]; }
-    Choice& option(int index) { return choices[1][static_cast<std::size_t>(index)]; }
+    Choice& at(ChoiceArray array, int index) const { return choices[{array, index}]; }
+    Choice& check(int index) { return at(ChoiceArray::Check1, index); }
+    Choice& option(int index) { return at(ChoiceArray::Option1, index); }
 
     void setTitle(const QString& text) override { title = text; }
     void setCaption(const QString& text) override { caption = text; }
@@ -44,17 +48,15 @@ public:
         choices = {};
         typed.clear();
         typedEnabled = true;
-        typedVisible = false;
         source = QStringLiteral("(empty)");
     }
 
     void drawQuestion(const QString& text) override {
         source = text;
-        for (int i = 0; i < qMin(kChoices, int(text.count(QStringLiteral("##EXOCK")))); ++i)
-            check(i).visible = true;
-        for (int i = 0; i < qMin(kChoices, int(text.count(QStringLiteral("##EXOOP")))); ++i)
-            option(i).visible = true;
-        typedVisible = text.contains(QStringLiteral("##EXOTX"));
+        for (int i = 0; i < kChoices; ++i) {
+            check(i).visible = i < text.count(QStringLiteral("##EXOCK"));
+            option(i).visible = i < text.count(QStringLiteral("##EXOOP"));
+        }
     }
 
     void showRightAnswer() override {
@@ -85,22 +87,14 @@ public:
         return all;
     }
 
-    std::array<std::array<Choice, kChoices>, 2> choices;
+    mutable std::map<std::pair<ChoiceArray, int>, Choice> choices;
     QString title, caption, source, typed;
     std::pair<int, int> marker;
     bool previous = false, next = false, validate = false, score = true;
-    bool markerVisible = true, typedVisible = false, typedEnabled = true;
+    bool markerVisible = true, typedEnabled = true;
     bool stripHasFocus = false, returnToTest = true;
     int face = 0, stripPaintings = 0, popups = 0;
     std::function<void()> duringPopup;
-
-private:
-    const Choice& at(ChoiceArray array, int index) const {
-        return choices[array == ChoiceArray::Option1][static_cast<std::size_t>(index)];
-    }
-    Choice& at(ChoiceArray array, int index) {
-        return choices[array == ChoiceArray::Option1][static_cast<std::size_t>(index)];
-    }
 };
 
 using Rows = std::vector<std::vector<jet::Value>>;
@@ -124,19 +118,11 @@ protected:
     ExerciseCase() { shared.PendingExerciseChapter = 3; }
 
     void write(const Rows& descriptions, const Rows& questions) {
-        using enum jet::ColumnType;
         tables = {};
         auto file = jet::DatabaseWriter::create(folder.filePath("QEKX.mdb").toStdString());
         ASSERT_TRUE(file) << file.error().sentence;
-        fill(*file, u"DESCRIPTION",
-             {{u"Chapitre", Integer}, {u"Titre", Text, 255}, {u"Nbquest", Integer}}, descriptions);
-        fill(*file, u"Contenu",
-             {{u"REFERENCE", Long},
-              {u"type", Integer},
-              {u"solution", Text, 255},
-              {u"question", Memo},
-              {u"SiFaux", Memo}},
-             questions);
+        fill(*file, coursetool::descriptionTable(), descriptions);
+        fill(*file, coursetool::contenuTable(), questions);
         ASSERT_TRUE(file->finish());
     }
 
@@ -163,6 +149,9 @@ protected:
         session->validate();
     }
 
+    int verdict(int question) const { return state.QuestionState.valueOr(question, 0); }
+    QString given(int question) const { return state.GivenAnswers.valueOr(question, {}); }
+
     QTemporaryDir folder;
     ExerciseTables tables;
     shell::SharedState shared;
@@ -172,18 +161,9 @@ protected:
     std::optional<TestSession> session;
 
 private:
-    struct NamedColumn {
-        const char16_t* name;
-        jet::ColumnType type;
-        int length = 0;
-    };
-
-    static void fill(jet::DatabaseWriter& file, const char16_t* name,
-                     const std::vector<NamedColumn>& named, const Rows& rows) {
-        std::vector<jet::Column> columns;
-        for (const NamedColumn& column : named)
-            columns.push_back({.name = column.name, .type = column.type, .length = column.length});
-        auto table = file.addTable(name, columns);
+    static void fill(jet::DatabaseWriter& file, const coursetool::TableRule& rule,
+                     const Rows& rows) {
+        auto table = file.addTable(jet::toUtf16(rule.name), coursetool::columnsOf(rule));
         ASSERT_TRUE(table) << table.error().sentence;
         for (const auto& row : rows) {
             const auto done = table->append(row);

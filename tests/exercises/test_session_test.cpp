@@ -5,7 +5,7 @@ using platform::Answer;
 namespace exercises::test {
 namespace {
 
-class Opening : public ExerciseCase {};
+using Opening = ExerciseCase;
 
 TEST_F(Opening, showsTheFirstQuestionOfTheChapter) {
     write({description(2, u"Autre", number(9)), description(3, u"Optique", number(2)),
@@ -37,20 +37,6 @@ TEST_F(Opening, aChapterWithoutATestHasAStripOfTwo) {
     EXPECT_EQ(window.marker, std::pair(2, 2));
 }
 
-TEST_F(Opening, withoutADatabaseTheWindowStaysUsable) {
-    tables = openExerciseTables(folder.path());
-    EXPECT_EQ(tables.failures.size(), 1);
-    session.emplace(shared, state, window, window, window, prompter);
-    session->load(nullptr, nullptr);
-    session->activate();
-    EXPECT_EQ(window.source, u"");
-    session->next();
-    session->validate();
-    EXPECT_EQ(state.QuestionState.valueOr(2, 0), -1);
-    prompter.answers = {Answer::Yes};
-    EXPECT_TRUE(session->close());
-}
-
 TEST_F(Opening, nullsAreFailuresOfTheirStatementOnly) {
     write({{number(3), jet::Value(u"Titre"), number(4)},
            {number(3), jet::Value(), jet::Value()},
@@ -62,11 +48,22 @@ TEST_F(Opening, nullsAreFailuresOfTheirStatementOnly) {
     EXPECT_EQ(window.caption, u"Question 1 / 4 :");
     EXPECT_EQ(window.source, u"");
     session->validate();
-    EXPECT_EQ(state.QuestionState.valueOr(1, 0), -1);
+    EXPECT_EQ(verdict(1), -1);
     EXPECT_EQ(window.source, u"");
+
+    session->load(nullptr, nullptr); // as when there is no database at all
+    session->next();
+    session->validate();
+    EXPECT_EQ(verdict(2), -1);
 }
 
-class Moving : public ExerciseCase {};
+TEST_F(Opening, aMissingDatabaseIsTold) {
+    tables = openExerciseTables(folder.path());
+    EXPECT_FALSE(tables.description || tables.contenu);
+    EXPECT_EQ(tables.failures.size(), 1);
+}
+
+using Moving = ExerciseCase;
 
 TEST_F(Moving, staysBetweenTheFirstAndTheLast) {
     writeBoxes(3);
@@ -103,7 +100,7 @@ TEST_F(Moving, aRightAnswerLeadsToTheNextOneLeft) {
     EXPECT_EQ(window.caption, u"Question 2 / 6 :");
 }
 
-class Answering : public ExerciseCase {};
+using Answering = ExerciseCase;
 
 TEST_F(Answering, boxesAreComparedAsACode) {
     write({description(3, u"", number(2))},
@@ -113,8 +110,8 @@ TEST_F(Answering, boxesAreComparedAsACode) {
     window.check(4).selected = true; // hidden ones count too
     window.option(0).selected = true;
     session->validate();
-    EXPECT_EQ(state.GivenAnswers.valueOr(1, {}), u"01001");
-    EXPECT_EQ(state.QuestionState.valueOr(1, 0), 1);
+    EXPECT_EQ(given(1), u"01001");
+    EXPECT_EQ(verdict(1), 1);
     EXPECT_EQ(window.marks(ChoiceArray::Check1), u"     "); // moved on
 
     session->previous(); // answered right: marks, but no comment
@@ -129,10 +126,9 @@ TEST_F(Answering, aWrongChoiceIsCorrectedWithTheComment) {
     write({description(3, u"", number(2))},
           {question(301, 2, u"00100", u"##EXOOP\r\n##EXOOP\r\n##EXOOP\r\n", u"Non\r\n")});
     open();
-    EXPECT_TRUE(session->canValidate());
     session->validate();
-    EXPECT_EQ(state.GivenAnswers.valueOr(1, {}), u"00000");
-    EXPECT_EQ(state.QuestionState.valueOr(1, 0), -1);
+    EXPECT_EQ(given(1), u"00000");
+    EXPECT_EQ(verdict(1), -1);
     EXPECT_EQ(window.source, u"##EXOOP\r\n##EXOOP\r\n##EXOOP\r\nNon\r\n");
     EXPECT_EQ(window.marks(ChoiceArray::Option1), u"--+  ");
     EXPECT_EQ(window.face, 1);
@@ -140,8 +136,7 @@ TEST_F(Answering, aWrongChoiceIsCorrectedWithTheComment) {
 
     window.option(2).selected = true; // a question is answered once
     session->validate();
-    EXPECT_FALSE(session->canValidate());
-    EXPECT_EQ(state.QuestionState.valueOr(1, 0), -1);
+    EXPECT_EQ(verdict(1), -1);
 }
 
 TEST_F(Answering, aTypedAnswerIsKeptAsItStands) {
@@ -157,11 +152,10 @@ TEST_F(Answering, aTypedAnswerIsKeptAsItStands) {
     EXPECT_TRUE(window.typed.isEmpty() && window.typedEnabled);
     window.typed = QStringLiteral("La Force");
     session->validate();
-    EXPECT_EQ(state.QuestionState.valueOr(1, 0), -1);
-    EXPECT_EQ(state.QuestionState.valueOr(2, 0), 1);
-    EXPECT_EQ(state.GivenAnswers.valueOr(2, {}), u"La Force");
+    EXPECT_EQ(verdict(1), -1);
+    EXPECT_EQ(verdict(2), 1);
+    EXPECT_EQ(given(2), u"La Force");
     EXPECT_EQ(TestSession::typedCharacter(u'.'), u',');
-    EXPECT_EQ(TestSession::typedCharacter(u'é'), u'é');
 }
 
 TEST_F(Answering, solutionsThatFitNoAnswer) {
@@ -185,8 +179,8 @@ TEST_F(Answering, solutionsThatFitNoAnswer) {
         state = {};
         open();
         answer(true);
-        EXPECT_EQ(state.QuestionState.valueOr(1, 0), -1);
-        EXPECT_EQ(state.GivenAnswers.valueOr(1, {}).isEmpty(), row.type != 1);
+        EXPECT_EQ(verdict(1), -1);
+        EXPECT_EQ(given(1).isEmpty(), row.type != 1);
         EXPECT_EQ(window.marks(ChoiceArray::Check1), row.marks) << row.type;
         EXPECT_FALSE(window.validate);
     }
@@ -200,7 +194,6 @@ TEST_F(Answering, theLastAnswerShowsTheScore) {
         window.duringPopup = [&] { EXPECT_TRUE(prompter.messages.empty()); };
         open();
         answer(true);
-        EXPECT_EQ(window.caption, u"Question 2 / 2 :");
         answer(last);
         ASSERT_EQ(prompter.messages.size(), 1u);
         EXPECT_EQ(prompter.messages[0].title, u"Test terminé");
@@ -230,23 +223,21 @@ TEST_F(Answering, theSequenceOfARightAnswerEndsOnTheStrip) {
     EXPECT_TRUE(window.stripHasFocus);
 }
 
-class Counting : public ExerciseCase, public testing::WithParamInterface<int> {};
-
-TEST_P(Counting, anyNumberOfQuestionsLeavesTheWindowUsable) {
-    writeBoxes(GetParam());
-    open();
-    session->next();
-    session->choose(299, 300);
-    answer(false);
-    session->prochainval();
-    session->showScore();
-    EXPECT_GE(state.CurrentQuestion, 1);
-    prompter.answers = {Answer::Yes};
-    EXPECT_TRUE(session->close());
-    EXPECT_EQ(state.CurrentQuestion, 1);
+TEST_F(Answering, anyNumberOfQuestionsLeavesTheWindowUsable) {
+    for (const int count : {-32768, -3, 0, 101, 32767}) {
+        writeBoxes(count);
+        state = {};
+        open();
+        session->next();
+        session->choose(299, 300);
+        answer(false);
+        session->prochainval();
+        session->showScore();
+        EXPECT_GE(state.CurrentQuestion, 1) << count;
+        prompter.answers = {Answer::Yes};
+        EXPECT_TRUE(session->close());
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Strange, Counting, testing::Values(-32768, -3, 0, 101, 32767));
 
 TEST_F(Answering, nothingIsKeptOfAQuestionAboveAHundred) {
     writeBoxes(101);
@@ -264,7 +255,7 @@ TEST_F(Answering, nothingIsKeptOfAQuestionAboveAHundred) {
     EXPECT_TRUE(prompter.messages.empty()); // so the test never counts as complete
 }
 
-class Closing : public ExerciseCase {};
+using Closing = ExerciseCase;
 
 TEST_F(Closing, asksWhileQuestionsAreLeft) {
     writeBoxes(2);
@@ -272,7 +263,7 @@ TEST_F(Closing, asksWhileQuestionsAreLeft) {
     answer(false);
     prompter.answers = {Answer::No, Answer::Yes};
     EXPECT_FALSE(session->close());
-    EXPECT_EQ(state.QuestionState.valueOr(1, 0), -1);
+    EXPECT_EQ(verdict(1), -1);
     EXPECT_TRUE(window.returnToTest);
     EXPECT_TRUE(session->close());
     const platform::Message question{
