@@ -1,5 +1,6 @@
 #pragma once
 
+#include "exercises/question_writer.h"
 #include "shell/report_sink.h"
 #include "viewer/neighbours.h"
 
@@ -18,6 +19,13 @@ public:
 private:
     shell::ReportSink& reports_;
     QString sentence_;
+};
+
+class MissingQuestionWriter : public exercises::QuestionWriter {
+public:
+    std::optional<QString> write(int, const QString&) override {
+        return QStringLiteral("Cette édition n’enregistre pas encore les questions.");
+    }
 };
 
 class MissingVideo : public viewer::VideoDevice {

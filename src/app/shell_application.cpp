@@ -4,6 +4,7 @@
 #include "app/missing_parts.h"
 #include "app/prompted_display_warning.h"
 #include "calculator/machine_opener.h"
+#include "exercises/exo_opener.h"
 #include "markup/no_pictures.h"
 #include "markup/renderer.h"
 #include "platform/qt/font_book.h"
@@ -60,9 +61,13 @@ private:
 };
 
 /// The calculator; its memory lives as long as the program.
-class Calculator : public viewer::ModalWindow {
+class Calculator : public viewer::ModalWindow, public exercises::CalculatorBeside {
 public:
     void open() override { opener_.open(); }
+    void openAfresh(const std::function<QPoint(QSize)>& placeFor, QWindow* before) override {
+        opener_.openAfresh(placeFor, before);
+    }
+    void keepBefore(QWindow* before) override { opener_.keepBefore(before); }
 
 private:
     calculator::Memory memory_;
@@ -86,11 +91,12 @@ struct ShellApplication::Parts {
         : screen(scale), window(state, fonts, screen),
           launcher(state, prompter, processes, activator, window), modules(launcher), video(window),
           printing(window),
-          exercise(window, QStringLiteral("Cette édition n’a pas encore les tests.")),
           orderForm(window, QStringLiteral("Cette édition n’a pas encore de bon de commande.")),
           search(window, QStringLiteral("Cette édition n’a pas encore la recherche.")),
           help(window, QStringLiteral("Cette édition n’a pas encore d’aide.")),
           installation(window, QStringLiteral("Cette édition ne s’actualise pas encore.")),
+          exercise(window, {state, drawing, pictures, fonts, screen, prompter, calculator,
+                            commandLine.author ? &questionWriter : nullptr}),
           renderer(drawing, window, pictures, window.recording()),
           pages(state, bound, window, window, renderer, video),
           actions(state, pages, window, modules, exercise, orderForm),
@@ -119,11 +125,13 @@ struct ShellApplication::Parts {
     MissingVideo video;
     MissingPrinting printing;
     MissingLinks links;
-    MissingWindow exercise, orderForm, search, help, installation;
+    MissingWindow orderForm, search, help, installation;
     Calculator calculator;
     Ending ending;
 
     markup::NoPictures pictures;
+    MissingQuestionWriter questionWriter;
+    exercises::ExoOpener exercise;
     markup::Renderer renderer;
     viewer::PageLoader pages;
     viewer::ActionDispatcher actions;

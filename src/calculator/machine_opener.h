@@ -4,8 +4,12 @@
 
 #include <QPoint>
 #include <QPointer>
+#include <QSize>
 
+#include <functional>
 #include <optional>
+
+class QWindow;
 
 namespace calculator {
 
@@ -20,10 +24,19 @@ public:
     /// without one the window system chooses, and a window already open stays where it is.
     void open(std::optional<QPoint> place = std::nullopt);
 
+    /// Opens it anew, a window already open being closed. `placeFor` gives the place of a window of
+    /// a size. It stays in front of `before`, which may be modal, unless that is null.
+    void openAfresh(const std::function<QPoint(QSize)>& placeFor, QWindow* before);
+
+    /// Lets a window already open stay in front of `before` from now on; null: of none.
+    void keepBefore(QWindow* before);
+
     /// The window, null while there is none.
     Machine* window() const { return window_; }
 
 private:
+    void make();
+
     Memory& memory_;
     QPointer<Machine> window_;
 };

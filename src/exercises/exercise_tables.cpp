@@ -77,6 +77,11 @@ void QuestionRecord::moveTo(std::int32_t reference) {
     contenu_->setAbsolutePosition(first.value_or(last));
 }
 
+std::optional<int> QuestionRecord::position() const {
+    const int position = contenu_ ? contenu_->absolutePosition() : -1;
+    return position < 0 ? std::nullopt : std::optional(position);
+}
+
 std::optional<platform::FieldValue> QuestionRecord::field(const QString& name) const {
     return contenu_ ? contenu_->field(name) : std::nullopt;
 }

@@ -47,6 +47,9 @@ public:
     /// Makes the first record with this "REFERENCE" current; the last of the table when none has.
     void moveTo(std::int32_t reference);
 
+    /// Where the current record stands in the table, from 0; absent when there is none.
+    std::optional<int> position() const;
+
     int type() const; ///< 1 check boxes, 2 option buttons, 3 typed answer; 0 when there is none
     std::optional<QString> solution() const; ///< absent for NULL
     QString question() const;                ///< page source; empty for NULL

@@ -1,0 +1,51 @@
+#include "exercises/question_edit.h"
+
+namespace exercises {
+
+namespace {
+
+constexpr char16_t kNoRecord[] = u"Cette question n’a pas de fiche dans la base des exercices.";
+
+platform::Message failure(const QString& reason, const char16_t* consequence,
+                          platform::Message::Buttons buttons) {
+    return {.title = QStringLiteral("Question non enregistrée"),
+            .text = reason + QStringLiteral("\r\n\r\n") + QString::fromUtf16(consequence),
+            .icon = platform::Message::Icon::Exclamation,
+            .buttons = buttons};
+}
+
+} // namespace
+
+QString QuestionEdit::begin() {
+    position_ = session_.record().position();
+    return session_.record().question();
+}
+
+/// Why `typed` is not in the database; nothing when it is.
+std::optional<QString> QuestionEdit::write(const std::optional<QString>& typed) {
+    if (!typed)
+        return std::nullopt;
+    if (!position_)
+        return QString::fromUtf16(kNoRecord);
+    auto reason = writer_.write(*position_, *typed);
+    if (!reason)
+        reopen_();
+    return reason;
+}
+
+bool QuestionEdit::commit(const std::optional<QString>& typed) {
+    const auto reason = write(typed);
+    if (reason)
+        prompter_.ask(
+            failure(*reason, u"Votre texte reste affiché.", platform::Message::Buttons::Ok));
+    return !reason;
+}
+
+bool QuestionEdit::commitOrLose(const std::optional<QString>& typed) {
+    const auto reason = write(typed);
+    return !reason ||
+           prompter_.ask(failure(*reason, u"Fermer quand même et perdre votre texte ?",
+                                 platform::Message::Buttons::YesNo)) == platform::Answer::Yes;
+}
+
+} // namespace exercises
