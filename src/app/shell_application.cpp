@@ -64,10 +64,10 @@ private:
 class Calculator : public viewer::ModalWindow, public exercises::CalculatorBeside {
 public:
     void open() override { opener_.open(); }
-    void openAfresh(const std::function<QPoint(QSize)>& placeFor, QWindow* before) override {
-        opener_.openAfresh(placeFor, before);
+    void openAfresh(const std::function<QPoint(QSize)>& placeFor) override {
+        opener_.openAfresh(placeFor);
     }
-    void keepBefore(QWindow* before) override { opener_.keepBefore(before); }
+    void raise() override { opener_.raise(); }
 
 private:
     calculator::Memory memory_;

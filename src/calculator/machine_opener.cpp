@@ -1,7 +1,5 @@
 #include "calculator/machine_opener.h"
 
-#include <QWindow>
-
 #include <utility>
 
 namespace calculator {
@@ -27,32 +25,17 @@ void MachineOpener::open(std::optional<QPoint> place) {
     window_->activateWindow();
 }
 
-void MachineOpener::openAfresh(const std::function<QPoint(QSize)>& placeFor, QWindow* before) {
+void MachineOpener::openAfresh(const std::function<QPoint(QSize)>& placeFor) {
     // One in the middle of an evaluation goes when that has ended.
     if (Machine* const old = std::exchange(window_, nullptr))
         old->close();
     make();
-    keepBefore(before);
     open(placeFor(window_->size()));
 }
 
-void MachineOpener::keepBefore(QWindow* before) {
-    if (!window_)
-        return;
-    window_->winId(); // makes the window that the window system knows
-    if (window_->windowHandle()->transientParent() == before)
-        return;
-    // The window manager looks at it when the window appears.
-    const bool shown = window_->isVisible();
-    const QPoint place = window_->pos();
-    window_->hide();
-    window_->windowHandle()->setTransientParent(before);
-    if (shown) {
-        window_->setAttribute(Qt::WA_ShowWithoutActivating);
-        window_->move(place);
-        window_->show();
-        window_->setAttribute(Qt::WA_ShowWithoutActivating, false);
-    }
+void MachineOpener::raise() {
+    if (window_)
+        window_->raise();
 }
 
 } // namespace calculator

@@ -9,8 +9,6 @@
 #include <functional>
 #include <optional>
 
-class QWindow;
-
 namespace calculator {
 
 /// Opens the calculator. Each opening after a closing is a new window; only the memory stays. One
@@ -25,11 +23,11 @@ public:
     void open(std::optional<QPoint> place = std::nullopt);
 
     /// Opens it anew, a window already open being closed. `placeFor` gives the place of a window of
-    /// a size. It stays in front of `before`, which may be modal, unless that is null.
-    void openAfresh(const std::function<QPoint(QSize)>& placeFor, QWindow* before);
+    /// a size.
+    void openAfresh(const std::function<QPoint(QSize)>& placeFor);
 
-    /// Lets a window already open stay in front of `before` from now on; null: of none.
-    void keepBefore(QWindow* before);
+    /// Puts a window already open in front of all others; the keyboard stays where it is.
+    void raise();
 
     /// The window, null while there is none.
     Machine* window() const { return window_; }

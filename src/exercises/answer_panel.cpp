@@ -127,7 +127,11 @@ void AnswerPanel::placeText() {
     if (!fields_.Text1.visible)
         return;
     const int width = static_cast<int>(AnswerFields::kTextBoxWidth / platform::kTwipsPerPixel);
-    Text1_->setGeometry(QRect(placeOf(fields_.Text1.place), QSize(width, kTextHeightPx)));
+    QRect place(placeOf(fields_.Text1.place), QSize(width, kTextHeightPx));
+    // On the first line the box begins above the question: what would be cut there is left out.
+    if (place.top() < 0 && place.bottom() >= 0)
+        place.setTop(0);
+    Text1_->setGeometry(place);
     const QString asked = textLeftOf(fields_.Text1.place, fields_, recording_).text;
     Text1_->setAccessibleName(asked.isEmpty() ? QStringLiteral("Votre réponse") : asked);
     Text1_->setAccessibleDescription(textRightOf(fields_.Text1.place, fields_, recording_).text);
@@ -138,7 +142,10 @@ void AnswerPanel::placeLinks() {
     if (fields_.Labelien.visible)
         Labelien_->show(fields_.Labelien.place);
     if (fields_.Image1.visible) {
+        // On the middle of the label's line, which is lower than the drawing is tall.
         Image1_->show(fields_.Image1.place);
+        if (fields_.Labelien.visible)
+            Image1_->move(Image1_->x(), Labelien_->geometry().center().y() - Image1_->height() / 2);
         Image1_->setAccessibleName(Labelien_->accessibleName());
     }
     if (fields_.Icovideo.visible) {

@@ -5,8 +5,6 @@
 
 #include <functional>
 
-class QWindow;
-
 namespace exercises {
 
 /// The calculator as the test's window knows it.
@@ -15,11 +13,11 @@ public:
     virtual ~CalculatorBeside() = default;
 
     /// Opens it afresh, closing one that is open. `placeFor` tells where the upper left corner of
-    /// a window of a size goes, in logical screen pixels. It stays in front of `before`.
-    virtual void openAfresh(const std::function<QPoint(QSize)>& placeFor, QWindow* before) = 0;
+    /// a window of a size goes, in logical screen pixels.
+    virtual void openAfresh(const std::function<QPoint(QSize)>& placeFor) = 0;
 
-    /// Keeps one that is open in front of `before` from now on; null: in front of none.
-    virtual void keepBefore(QWindow* before) = 0;
+    /// Brings one that is open in front of the test, which keeps the keyboard.
+    virtual void raise() = 0;
 };
 
 } // namespace exercises

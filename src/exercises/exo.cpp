@@ -108,6 +108,8 @@ void Exo::addLabels() {
     (new TitleBandView(body_))->setGeometry(kTito);
     Label2_ = addLabel("Label2", kTitle, look::kInk, body_);
     noa_ = addLabel("noa", kCaption, look::kBlue, body_);
+    noa_->setAlignment(Qt::AlignTop);
+    noa_->setContentsMargins(0, 1, 0, 0); // further from the question than from the title
 }
 
 void Exo::addQuestionArea() {
@@ -194,8 +196,6 @@ void Exo::start() {
     place();
     session_->activate();
     show();
-    focusQuestion();
-    parts_.calculator.keepBefore(windowHandle());
 }
 
 void Exo::Form_Load() {

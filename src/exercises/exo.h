@@ -99,6 +99,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -134,6 +135,7 @@ private:
     std::optional<QString> typedSource() const;
     void showSource();
 
+    void setButtonVisible(platform::look::Button& button, bool visible);
     bool mayClose();
     void fitQuestion();
     void reveal(const QWidget& control);

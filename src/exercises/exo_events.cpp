@@ -89,7 +89,7 @@ void Exo::Command7_Click() {
         return QPoint(qRound(place.left / platform::kTwipsPerPixel),
                       qRound(place.top / platform::kTwipsPerPixel));
     };
-    parts_.calculator.openAfresh(placeFor, windowHandle());
+    parts_.calculator.openAfresh(placeFor);
 }
 
 /// `Labelien_Click`, and that of `Image1` and `Icovideo`.
@@ -161,10 +161,16 @@ void Exo::closeEvent(QCloseEvent* event) {
     if (!event->isAccepted())
         return;
     leaving_ = true;
-    parts_.calculator.keepBefore(nullptr);
     if (popup_)
         popup_->close();
     loop_.quit();
+}
+
+/// Clicked on, the test would cover the calculator, which is small and wanted beside it.
+void Exo::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        parts_.calculator.raise();
 }
 
 void Exo::keyPressEvent(QKeyEvent* event) {

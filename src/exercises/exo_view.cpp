@@ -46,20 +46,28 @@ void Exo::setCaption(const QString& caption) {
     noa_->setText(caption);
 }
 
+/// A button that goes leaves the keyboard to the question, not to some other button: the same key
+/// struck again must not press that one.
+void Exo::setButtonVisible(platform::look::Button& button, bool visible) {
+    if (!visible && focusWidget() == &button)
+        Picture2_->setFocus();
+    button.setVisible(visible);
+}
+
 void Exo::setPreviousVisible(bool visible) {
-    Command3_->setVisible(visible);
+    setButtonVisible(*Command3_, visible);
 }
 
 void Exo::setNextVisible(bool visible) {
-    command4_->setVisible(visible);
+    setButtonVisible(*command4_, visible);
 }
 
 void Exo::setValidateVisible(bool visible) {
-    command5_->setVisible(visible);
+    setButtonVisible(*command5_, visible);
 }
 
 void Exo::setScoreVisible(bool visible) {
-    command6_->setVisible(visible);
+    setButtonVisible(*command6_, visible);
 }
 
 void Exo::placeMarker(int question, int count) {
@@ -121,7 +129,7 @@ void Exo::drawQuestion(const QString& source) {
     fitQuestion();
     putInTabOrder();
     nameQuestion();
-    if (questionHadFocus_)
+    if (focusWidget() == this)
         focusQuestion();
 }
 

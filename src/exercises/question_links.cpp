@@ -65,7 +65,7 @@ void LinkCaption::show(const platform::FieldOperation& field) {
     setTag(field.tag);
     setAccessibleName(field.caption.simplified());
     const auto extent = platform::captionExtent(field.caption, field.font, fonts_);
-    const QSize size(pixels(extent.width), pixels(extent.height));
+    const QSize size(pixels(extent.width) + 1, pixels(extent.height) + 1);
     setGeometry(QRect(placeOf(field), size.boundedTo(kLargestCaption))
                     .adjusted(-kMargin, -kMargin, kMargin, kMargin));
     setVisible(true);
@@ -74,7 +74,8 @@ void LinkCaption::show(const platform::FieldOperation& field) {
 /// Draws the letters as the question does, on what the question has drawn there.
 void LinkCaption::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const int width = this->width() - 2 * kMargin;
+    // Letters may lean out of their line a little, into the margin.
+    const QSize room = size() - QSize(kMargin, kMargin);
     platform::Recording recording;
     platform::LinkOperation label;
     label.surface = field_.surface;
@@ -84,13 +85,13 @@ void LinkCaption::paintEvent(QPaintEvent*) {
     label.ink = field_.ink;
     for (auto& line : platform::captionLines(label, fonts_))
         recording.add(std::move(line));
-    platform::RasterSurface raster(field_.surface, width, fonts_, look::kPaper);
+    platform::RasterSurface raster(field_.surface, room.width(), fonts_, look::kPaper);
     raster.setDevicePixelRatio(devicePixelRatioF());
     raster.play(recording);
     // Darkening leaves the ground of a coloured row in place.
     painter.setCompositionMode(QPainter::RasterOp_SourceAndDestination);
     painter.translate(kMargin, kMargin);
-    painter.drawImage(0, 0, raster.image(height() - 2 * kMargin));
+    painter.drawImage(0, 0, raster.image(room.height()));
     painter.resetTransform();
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     paintRing(painter);
