@@ -136,6 +136,7 @@ private:
     void showSource();
 
     void setButtonVisible(platform::look::Button& button, bool visible);
+    bool keepTyped();
     bool mayClose();
     void fitQuestion();
     void reveal(const QWidget& control);

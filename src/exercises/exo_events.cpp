@@ -12,7 +12,9 @@
 #include "viewer/page_panel.h"
 #include "viewer/picture_box.h"
 
+#include <QClipboard>
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPlainTextEdit>
 #include <QScopedValueRollback>
@@ -142,6 +144,20 @@ void Exo::leaveQuestion(const std::function<void()>& go) {
         showSource();
 }
 
+/// Puts what the author has typed into the database, or where it is not lost; false when the window
+/// is to stay.
+bool Exo::keepTyped() {
+    const auto typed = typedSource();
+    if (!typed)
+        return true;
+    const auto outcome = edit_->commitForClosing(typed);
+    if (outcome == QuestionEdit::Closing::Abandoned)
+        QGuiApplication::clipboard()->setText(*typed);
+    if (outcome != QuestionEdit::Closing::Refused)
+        source_->document()->setModified(false);
+    return outcome != QuestionEdit::Closing::Refused;
+}
+
 /// Whether the window may close: nothing typed is lost, and the test is ended.
 bool Exo::mayClose() {
     if (leaving_)
@@ -149,11 +165,7 @@ bool Exo::mayClose() {
     if (asking_)
         return false;
     const QScopedValueRollback<bool> asking(asking_, true);
-    if (edit_ && !edit_->commitOrLose(typedSource()))
-        return false;
-    if (source_)
-        source_->document()->setModified(false);
-    return session_->close();
+    return keepTyped() && session_->close();
 }
 
 void Exo::closeEvent(QCloseEvent* event) {

@@ -41,11 +41,14 @@ bool QuestionEdit::commit(const std::optional<QString>& typed) {
     return !reason;
 }
 
-bool QuestionEdit::commitOrLose(const std::optional<QString>& typed) {
+QuestionEdit::Closing QuestionEdit::commitForClosing(const std::optional<QString>& typed) {
     const auto reason = write(typed);
-    return !reason ||
-           prompter_.ask(failure(*reason, u"Fermer quand même et perdre votre texte ?",
-                                 platform::Message::Buttons::YesNo)) == platform::Answer::Yes;
+    if (!reason)
+        return Closing::Written;
+    const auto message =
+        failure(*reason, u"Fermer quand même ? Votre texte restera dans le presse-papiers.",
+                platform::Message::Buttons::YesNo);
+    return prompter_.ask(message) == platform::Answer::Yes ? Closing::Abandoned : Closing::Refused;
 }
 
 } // namespace exercises

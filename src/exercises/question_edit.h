@@ -27,9 +27,13 @@ public:
     /// False when it could not be written: the author has been told, and it must stay in sight.
     bool commit(const std::optional<QString>& typed);
 
-    /// The same when the window is to close: false when it cannot be written and the author does
-    /// not want to lose it.
-    bool commitOrLose(const std::optional<QString>& typed);
+    enum class Closing {
+        Written,   ///< or there was nothing to write
+        Refused,   ///< it could not be written, and the author goes on with it
+        Abandoned, ///< it could not be written, and the author closes all the same
+    };
+    /// The same when the window is to close.
+    Closing commitForClosing(const std::optional<QString>& typed);
 
 private:
     std::optional<QString> write(const std::optional<QString>& typed);
