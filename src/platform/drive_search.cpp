@@ -2,29 +2,10 @@
 
 #include "platform/file_names.h"
 
-#include <QDir>
-#include <QFileInfo>
-
 #include <system_error>
 #include <thread>
 
 namespace platform {
-
-namespace {
-
-std::optional<QString> findFolder(const QString& top, const QString& name) {
-    const QDir drive(top);
-    if (QFileInfo(drive, name).isDir())
-        return drive.filePath(name);
-    // Discs are often mounted with all names in small letters.
-    const QStringList entries = drive.entryList(QDir::Dirs | QDir::Hidden, QDir::Name);
-    for (const QString& entry : entries)
-        if (entry.compare(name, Qt::CaseInsensitive) == 0)
-            return drive.filePath(entry);
-    return std::nullopt;
-}
-
-} // namespace
 
 DriveSearch::DriveSearch(const Drives& drives, Probe probe, std::chrono::milliseconds patience)
     : drives_(drives), probe_(std::move(probe)), patience_(patience) {}
@@ -50,7 +31,7 @@ std::optional<DriveFile> DriveSearch::findOn(QChar letter, const QString& folder
 
 std::optional<QString> DriveSearch::findInFolder(const QString& top, const QString& folder,
                                                  const QString& name) {
-    const auto directory = findFolder(top, folder);
+    const auto directory = findFolderWithoutCase(top, folder);
     return directory ? findWithoutCase(*directory, name) : std::nullopt;
 }
 
