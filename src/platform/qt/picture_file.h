@@ -10,8 +10,8 @@
 namespace platform {
 
 // Pictures of a course: BMP, GIF (its first frame), JPEG, PNG and SVG, told apart by what is in
-// them. Windows metafiles are not read: the libraries that could have had no care for years, and a
-// course is not to be trusted. A photo's note on how the camera was held is left aside: authors see
+// them. Windows metafiles are not read: no library for them is kept so well that it could be given
+// files from anywhere. A photo's note on how the camera was held is left aside: authors see
 // pixels, and pages were written for programs that show them as they lie.
 
 /// Largest file, in bytes: an uncompressed picture of nearly the most pixels still fits.
