@@ -23,6 +23,7 @@ struct Typed {
     std::string table;
     std::string page;
     std::string source;
+    std::vector<std::string> drives;
 };
 
 class Reader {
@@ -58,6 +59,16 @@ public:
             ->add_option("--source", typed_.source,
                          "Dessine le texte d’une page, ses fins de ligne telles quelles")
             ->type_name("FICHIER");
+        trace_
+            ->add_option("--drive", typed_.drives,
+                         "Donne la lettre de lecteur L à un dossier, plusieurs fois si besoin")
+            ->type_name("L=DOSSIER")
+            ->expected(1)
+            ->take_all();
+
+        symbols_ = add("symbols", "La liste d’images : clés, images, et d’où elles viennent");
+        positional(symbols_, "DOSSIER", typed_.from,
+                   "Dossier d’installation, dont les symboles comptent aussi");
     }
 
     CoursCall read(int argc, char** argv) {
@@ -109,6 +120,8 @@ private:
             return dumpCall();
         if (trace_->parsed())
             return traceCall();
+        if (symbols_->parsed())
+            return symbolsCall();
         return WrongCall{"il manque une sous-commande"};
     }
 
@@ -144,7 +157,10 @@ private:
     }
 
     CoursCall traceCall() const {
-        TraceCall call{pathFrom(typed_.from), 0, pathFrom(typed_.source)};
+        TraceCall call{pathFrom(typed_.from), 0, pathFrom(typed_.source), {}};
+        for (const std::string& drive : typed_.drives)
+            if (!addDrive(drive, call.drives))
+                return WrongCall{inQuotes(drive) + " n’est pas de la forme L=DOSSIER"};
         if (!typed_.source.empty()) {
             if (!typed_.from.empty() || !typed_.page.empty())
                 return WrongCall{"« --source » va sans dossier ni « --page »"};
@@ -159,6 +175,24 @@ private:
         if (error != std::errc() || *end != '\0')
             return WrongCall{"il manque « --page N », N un numéro de page"};
         return call;
+    }
+
+    CoursCall symbolsCall() const {
+        if (!typed_.from.empty())
+            if (const auto wrong = notADirectory(typed_.from, "le dossier d’installation"))
+                return *wrong;
+        return SymbolsCall{pathFrom(typed_.from)};
+    }
+
+    /// Reads "L=DIR"; false when it is not of this form.
+    static bool addDrive(const std::string& typed, std::map<char, fs::path>& drives) {
+        if (typed.size() < 3 || typed[1] != '=')
+            return false;
+        const char letter = static_cast<char>(typed[0] & ~('a' - 'A'));
+        if (letter < 'A' || letter > 'Z')
+            return false;
+        drives.insert_or_assign(letter, pathFrom(typed.substr(2)));
+        return true;
     }
 
     static std::optional<WrongCall> notADirectory(const std::string& path, const char* what) {
@@ -185,6 +219,7 @@ private:
     CLI::App* extract_ = nullptr;
     CLI::App* dump_ = nullptr;
     CLI::App* trace_ = nullptr;
+    CLI::App* symbols_ = nullptr;
 };
 
 } // namespace

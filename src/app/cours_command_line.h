@@ -23,6 +23,9 @@ struct DumpCall {
     std::string table; ///< empty: the tables and their columns
 };
 using TraceCall = coursetool::TraceRequest;
+struct SymbolsCall {
+    std::filesystem::path course; ///< empty: the symbols of the program alone
+};
 /// Help or version, for standard output.
 struct ShowText {
     std::string text;
@@ -32,7 +35,8 @@ struct WrongCall {
     std::string sentence;
 };
 
-using CoursCall = std::variant<BuildCall, ExtractCall, DumpCall, TraceCall, ShowText, WrongCall>;
+using CoursCall =
+    std::variant<BuildCall, ExtractCall, DumpCall, TraceCall, SymbolsCall, ShowText, WrongCall>;
 
 /// Reads the command line. Directories and files that must be there are; an output directory of
 /// `extract` is empty or not there yet.

@@ -3,6 +3,7 @@
 #include "coursetool/dump.h"
 #include "coursetool/exit_code.h"
 #include "coursetool/extract.h"
+#include "coursetool/symbols.h"
 #include "platform/module.h"
 
 #include <cstdio>
@@ -45,6 +46,10 @@ struct Perform {
             return verdict();
         }
         reinterpret_cast<coursetool::TraceFunction>(module.address)(argc, argv, call, out, report);
+        return verdict();
+    }
+    ExitCode operator()(const app::SymbolsCall& call) {
+        coursetool::listSymbols(call.course, out, report);
         return verdict();
     }
     ExitCode operator()(const app::ShowText& show) {
