@@ -180,5 +180,20 @@ TEST_F(Keys, cancelKeepsTheExpression) {
     EXPECT_EQ(rules.display(), u"Calcul impossible");
 }
 
+TEST(Scientific, followsThePattern) {
+    const std::pair<double, Text> rows[] = {
+        {12345, u"1.2345E+04"},
+        {5, u"5.E+00"},
+        {0, u"0.E+00"},
+        {-.05, u"-5.E-02"},
+        {1.23456789, u"1.2345679E+00"},
+        {1.00000005, u"1.0000001E+00"},
+        {99999999.5, u"1.E+08"},
+        {1.95e-300, u"1.95E-300"},
+    };
+    for (const auto& [value, expected] : rows)
+        EXPECT_EQ(scientificText(value), expected);
+}
+
 } // namespace
 } // namespace calculator

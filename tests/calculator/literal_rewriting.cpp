@@ -1,5 +1,6 @@
 #include "literal_rewriting.h"
 
+#include "calculator/checks.h"
 #include "calculator/functions.h"
 #include "text/number_text.h"
 #include "text/numeric_reader.h"
@@ -45,32 +46,37 @@ Text stripped(const Text& text) {
     return out;
 }
 
+/// Whether `what` stands at the position.
+bool stands(const Text& text, int position, TextView what) {
+    return position <= length(text) &&
+           text.compare(static_cast<std::size_t>(position - 1), what.size(), what) == 0;
+}
+
 void insertSpaces(Text& text) {
     text = stripped(text);
-    if (mid(text, 1) == u"+")
+    if (stands(text, 1, u"+"))
         text.erase(0, 1);
     text = u" " + text + u" ";
     const int bound = 3 * length(text);
     for (int i = 1; i <= bound; ++i) {
-        const auto three = [&] { return mid(text, i, 3); };
-        const auto before = [&] { return i > 1 ? mid(text, i - 1) : Text(); };
-        if (mid(text, i, 2) == u"LN")
+        if (stands(text, i, u"LN"))
             put(text, i + 1, 1, u"ON ");
-        for (const Text name :
+        for (const TextView name :
              {u"SQR", u"SIN", u"COS", u"LOG", u"TAN", u"ISI", u"EXP", u"ITA", u"ICO"})
-            if (three() == name)
+            if (stands(text, i, name))
                 put(text, i + 3, 0, u" ");
-        if (three() == u"INV") {
+        if (stands(text, i, u"INV")) {
             put(text, i + 1, 2, u"");
             put(text, i + 3, 1, u" ");
         }
-        for (const Text op : {u"^", u"*", u"/", u"+", u"-"}) {
-            const bool exponent = before() == u"D" || before() == u"E";
-            const bool opening = before() == u"(" || before() == u" ";
-            if (mid(text, i) != op || (op == u"+" && exponent) ||
-                (op == u"-" && (exponent || opening)))
+        for (const char16_t op : {u'^', u'*', u'/', u'+', u'-'}) {
+            const Text before = i > 1 ? mid(text, i - 1) : Text();
+            const bool exponent = before == u"D" || before == u"E";
+            const bool opening = before == u"(" || before == u" ";
+            if (mid(text, i) != Text{op} || (op == u'+' && exponent) ||
+                (op == u'-' && (exponent || opening)))
                 continue;
-            put(text, i, 1, u" " + op + u" ");
+            put(text, i, 1, {u' ', op, u' '});
             ++i;
         }
     }
@@ -98,13 +104,13 @@ void cleanUp(Text& text) {
         remembered = text;
         for (int i = 1, end = length(text); i <= end; ++i)
             for (const auto& [pair, sign] :
-                 {std::pair<Text, Text>{u"--", u"+"}, {u"+-", u"-"}, {u"-+", u"-"}, {u"++", u"+"}})
-                if (mid(text, i, 2) == pair)
+                 {std::pair{u"--", u"+"}, {u"+-", u"-"}, {u"-+", u"-"}, {u"++", u"+"}})
+                if (stands(text, i, pair))
                     put(text, i, 2, sign);
-        if (mid(text, 1) == u"+")
+        if (stands(text, 1, u"+"))
             text.erase(0, 1);
         for (int i = 1; i <= length(text); ++i)
-            if (mid(text, i) == u"(")
+            if (stands(text, i, u"("))
                 unwrapPlainGroup(text, i);
     } while (text != remembered);
     insertSpaces(text);
@@ -113,23 +119,17 @@ void cleanUp(Text& text) {
 struct Machine {
     Text text;
     AngleMode angles;
-    int parentheses = 0;
-    int functions = 0;
-    int operators = 0;
+    Counters left{};
 
     void count() {
-        parentheses = functions = operators = 0;
-        for (int i = 1; i <= length(text); ++i) {
-            parentheses += mid(text, i) == u"(";
-            const Text three = mid(text, i, 3);
-            for (const Text op : {u" + ", u" - ", u" * ", u" / ", u" ^ "})
-                operators += three == op;
-            functions += functionAt(text, static_cast<std::size_t>(i - 1)).has_value();
-        }
+        const auto counted = compter(text);
+        if (!counted)
+            throw Fault{};
+        left = *counted;
     }
 
     void evaluateFunctions() {
-        for (int i = 2; i < length(text) && functions > 0; ++i) {
+        for (int i = 2; i < length(text) && left.nbfonctions > 0; ++i) {
             const auto function = functionAt(text, static_cast<std::size_t>(i - 1));
             const Text first = mid(text, i + 4);
             if (!function || first.empty() || Text(u"-.0123456789").find(first) == Text::npos)
@@ -143,7 +143,7 @@ struct Machine {
             if (!value)
                 throw Fault{};
             put(text, i, end - i, text::trimmedNumberText(*value));
-            --functions;
+            --left.nbfonctions;
             i = 1;
         }
     }
@@ -175,7 +175,7 @@ struct Machine {
         if (!std::isfinite(a) || !std::isfinite(b) || !std::isfinite(value))
             throw Fault{};
         put(expression, start + 1, end - start - 1, text::trimmedNumberText(value));
-        --operators;
+        --left.nboperateurs;
         return true;
     }
 
@@ -185,7 +185,7 @@ struct Machine {
         for (std::size_t op = 0; op < order.size(); ++op) {
             if (!reduceFirst(expression, order[op]))
                 continue;
-            if (operators < 1)
+            if (left.nboperateurs < 1)
                 return;
             op = static_cast<std::size_t>(-1);
         }
@@ -206,26 +206,14 @@ struct Machine {
             cleanUp(inner);
             evaluateOperators(inner);
             text.replace(open, close - open + 1, inner);
-            --parentheses;
+            --left.nbparentheses;
             cleanUp(text);
-        } while (parentheses > 0);
-    }
-
-    ErrorCode check() const {
-        int balance = 0;
-        ErrorCode error = ErrorCode::None;
-        for (int i = 1; i <= length(text); ++i) {
-            const Text c = mid(text, i);
-            balance += c == u"(" ? 1 : c == u")" ? -1 : 0;
-            if ((c == u"*" || c == u"/" || c == u"^") && mid(text, i + 2) == u" ")
-                error = ErrorCode::Operators;
-        }
-        return balance != 0 ? ErrorCode::Parentheses : error;
+        } while (left.nbparentheses > 0);
     }
 
     ErrorCode run() {
         cleanUp(text);
-        if (const ErrorCode error = check(); error != ErrorCode::None)
+        if (const ErrorCode error = verifier(text); error != ErrorCode::None)
             return error;
         count();
         Text remembered;
@@ -235,19 +223,19 @@ struct Machine {
             remembered = text;
             if (pass > 100)
                 return ErrorCode::Impossible;
-            if (functions > 0) {
+            if (left.nbfonctions > 0) {
                 evaluateFunctions();
                 cleanUp(text);
             }
-            if (parentheses > 0)
+            if (left.nbparentheses > 0)
                 evaluateGroups();
             count();
-            if (functions > 0 || parentheses > 0)
+            if (left.nbfonctions > 0 || left.nbparentheses > 0)
                 continue;
-            if (operators > 0)
+            if (left.nboperateurs > 0)
                 evaluateOperators(text);
             count();
-            if (operators < 1)
+            if (left.nboperateurs < 1)
                 break;
         }
         while (!text.empty() && text.front() == u' ')
