@@ -92,6 +92,7 @@ TEST_F(Keys, eraseBackwards) {
     EXPECT_EQ(entry("* Bcos EFFACE"), "|12 * |");
     EXPECT_EQ(entry("RAZ 2 5 EFFACE"), "|2|");
     EXPECT_EQ(entry("EFFACE EFFACE"), "||");
+    EXPECT_EQ(display("EXE"), " 0"); // nothing at all is zero
     EXPECT_EQ(entry("( invsin EFFACE"), "|(|");
     EXPECT_EQ(entry("RAZ Bln EFFACE"), "||");
     EXPECT_EQ(entry("RAZ - - EFFACE"), "|- |");
@@ -116,10 +117,6 @@ TEST_F(Keys, aResultBeyondTheRangeIsNoError) {
     EXPECT_EQ(entry("ANS"), "|Dépassement de capacité|");
 }
 
-TEST_F(Keys, emptyEntryGivesZero) {
-    EXPECT_EQ(display("EXE"), " 0");
-}
-
 TEST_F(Keys, recallTheLastExpression) {
     press("1 + 2 EXE 9 rappel");
     EXPECT_EQ(entry("+ 1"), "|1 + 2 + 1|");
@@ -136,12 +133,6 @@ TEST_F(Keys, formatsShowTheResultAgain) {
     press("3");
     rules.setFormat(Format::Standard);
     EXPECT_EQ(rules.display(), u"3"); // an entry stays as it is
-}
-
-TEST_F(Keys, anglesAreRadiansAtFirst) {
-    EXPECT_EQ(display("invsin 1 EXE"), " 1.5707963267949");
-    rules.setAngles(AngleMode::Degrees);
-    EXPECT_EQ(display("invsin 1 EXE"), " 90");
 }
 
 TEST_F(Keys, memoryTakesWhatTheDisplayShows) {

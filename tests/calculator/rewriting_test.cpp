@@ -78,33 +78,9 @@ TEST(AgainstLiteralRewriting, negativeGroupsAfterEverySign) {
     }
 }
 
-/// A well-formed expression: operands that are numbers, groups or functions.
-Text wellFormed(Random& random, int depth) {
-    static const std::vector<Text> operators = {u" + ", u" - ", u" * ", u" / ", u" ^ "};
-    static const std::vector<Text> functions = {u"sin ", u"cos ", u"exp ", u"SQR ", u"invTAN "};
-    Text text;
-    for (int operands = 1 + random.below(4); operands > 0; --operands) {
-        const int kind = depth > 0 ? random.below(5) : 0;
-        if (kind == 2 || kind == 3)
-            text += random.of(functions);
-        text += kind >= 3         ? u"(" + wellFormed(random, depth - 1) + u")"
-                : random.oneIn(4) ? u"-" + text::trimmedNumberText(random.below(100) / 8.0)
-                                  : text::trimmedNumberText(random.below(100) / 8.0);
-        if (operands > 1)
-            text += random.of(operators);
-    }
-    return text;
-}
-
-TEST(AgainstLiteralRewriting, wellFormedExpressions) {
-    Random random(5);
-    for (int i = 0; i < 60; ++i)
-        expectSame(wellFormed(random, 3));
-}
-
-/// Random expressions on which school rules and rewriting agree: a sum of products of powers
-/// without "-" after "+" and without "/" after "*". Counted on the way as plain arithmetic, each
-/// value as it would be written down and read again.
+/// Random expressions on which school rules and rewriting agree: a sum of products of powers and
+/// roots without "-" after "+" and without "/" after "*". Counted on the way as plain arithmetic,
+/// each value as it would be written down and read again.
 class PlainArithmetic {
 public:
     struct Sample {
@@ -133,7 +109,10 @@ private:
     Sample factor(int depth) {
         if (depth > 0 && random_.oneIn(3)) {
             const Sample group = sum(depth - 1);
-            return {u"(" + group.text + u")", group.value};
+            const Text inParentheses = u"(" + group.text + u")";
+            if (group.value < 0 || random_.oneIn(2))
+                return {inParentheses, group.value};
+            return {u"SQR " + inParentheses, asWritten(std::sqrt(group.value))};
         }
         const double value = random_.below(1000) / 8.0 - (random_.oneIn(4) ? 60 : 0);
         Sample number{text::trimmedNumberText(value), value};
@@ -146,17 +125,19 @@ private:
         total.text += Text{u' ', op, u' '} + next.text;
         const double a = total.value;
         const double b = next.value;
-        total.value = text::leadingNumber(text::numberText(op == u'+'   ? a + b
-                                                           : op == u'-' ? a - b
-                                                           : op == u'*' ? a * b
-                                                           : op == u'/' ? a / b
-                                                                        : std::pow(a, b)));
+        total.value = asWritten(op == u'+'   ? a + b
+                                : op == u'-' ? a - b
+                                : op == u'*' ? a * b
+                                : op == u'/' ? a / b
+                                             : std::pow(a, b));
     }
+
+    static double asWritten(double value) { return text::leadingNumber(text::numberText(value)); }
 
     Random random_{6};
 };
 
-TEST(PlainArithmetic, agreesOnThousandsOfExpressions) {
+TEST(WellFormed, agreesWithPlainArithmetic) {
     PlainArithmetic samples;
     for (int i = 0; i < 5000; ++i) {
         const auto sample = samples.sum(3);
@@ -165,6 +146,18 @@ TEST(PlainArithmetic, agreesOnThousandsOfExpressions) {
         ASSERT_NEAR(text::leadingNumber(found.text), sample.value,
                     1e-7 * std::max(1.0, std::abs(sample.value)))
             << testing::PrintToString(sample.text);
+    }
+}
+
+TEST(WellFormed, withAnyOperatorsAgreesWithLiteralRewriting) {
+    PlainArithmetic samples;
+    Random random(7);
+    for (int i = 0; i < 200; ++i) {
+        Text text = samples.sum(3).text;
+        for (std::size_t at = 1; at + 1 < text.size(); ++at)
+            if (text[at - 1] == u' ' && text[at + 1] == u' ')
+                text[at] = random.of({u"+", u"-", u"*", u"/", u"^"}).front();
+        expectSame(text);
     }
 }
 
