@@ -11,6 +11,7 @@
 #include <QLocale>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 
 #include <gtest/gtest.h>
 
@@ -129,11 +130,16 @@ TEST_F(Window, worksBesideAModalWindowOpenedBeforeOrAgain) {
     test.setWindowModality(Qt::WindowModal);
     shell.show();
     test.show();
-    click("B5");
+    // As the window system sends it: a window that is blocked does not get it.
+    const auto clickOn = [this](const char* key) {
+        QTest::mouseClick(opener.window()->windowHandle(), Qt::LeftButton, {},
+                          control<QAbstractButton>(key)->geometry().center());
+    };
+    clickOn("B5");
     opener.open(QPoint(40, 30));
     EXPECT_EQ(opener.window()->pos(), QPoint(40, 30));
-    click("plus B1 EXE");
-    EXPECT_EQ(shown(), " 6");
+    clickOn("B6");
+    EXPECT_EQ(shown(), "56");
 }
 
 TEST_F(Window, escapeEndsALongEvaluation) {
