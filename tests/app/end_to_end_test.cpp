@@ -51,12 +51,15 @@ protected:
         return process.readAllStandardOutput();
     }
 
-    QString window() const {
+    /// The windows of that name; there is more than one only when something is wrong.
+    QStringList windows(const QString& name) const {
         return QString::fromLatin1(
-                   run("xdotool", {"search", "--onlyvisible", "--pid",
-                                   QString::number(shell_.processId()), "--name", "Orvalente"}))
-            .section(u'\n', 0, 0);
+                   run("xdotool", {"search", "--all", "--onlyvisible", "--pid",
+                                   QString::number(shell_.processId()), "--name", name}))
+            .split(u'\n', Qt::SkipEmptyParts);
     }
+
+    QString window(const QString& name = "Orvalente") const { return windows(name).value(0); }
 
     QString title() const {
         return QString::fromUtf8(run("xdotool", {"getwindowname", window()})).trimmed();
@@ -67,8 +70,8 @@ protected:
     }
 
     /// Left, top, width and height as the display tells.
-    QRect place() const {
-        const QString shown = QString::fromLatin1(run("xwininfo", {"-id", window()}));
+    QRect place(const QString& name = "Orvalente") const {
+        const QString shown = QString::fromLatin1(run("xwininfo", {"-id", window(name)}));
         const auto number = [&](const char* label) {
             const QRegularExpression pattern(QString::fromLatin1(label) + ":\\s*(-?\\d+)");
             return pattern.match(shown).captured(1).toInt();
@@ -79,10 +82,11 @@ protected:
 
     void press(const QString& key) { run("xdotool", {"key", "--clearmodifiers", key}); }
 
-    void click(int x, int y) {
-        const QPoint corner = place().topLeft();
-        run("xdotool", {"mousemove", QString::number(corner.x() + x),
-                        QString::number(corner.y() + y), "click", "1"});
+    void click(int x, int y, const QString& name = "Orvalente", int times = 1) {
+        const QPoint corner = place(name).topLeft();
+        run("xdotool",
+            {"mousemove", QString::number(corner.x() + x), QString::number(corner.y() + y), "click",
+             "--delay", "50", "--repeat", QString::number(times), "1"});
     }
 
     X11Session session_{X11Session::Manager::Openbox};
@@ -124,6 +128,33 @@ TEST_F(EndToEnd, asksBeforeLeaving) {
     ASSERT_TRUE(shell_.waitForFinished(30'000));
     EXPECT_EQ(shell_.exitStatus(), QProcess::NormalExit);
     EXPECT_EQ(shell_.exitCode(), 0);
+}
+
+TEST_F(EndToEnd, calculatesBesideTheCourse) {
+    start();
+    ASSERT_TRUE(eventually([&] { return place().size() == QSize(800, 600); }));
+    run("xdotool", {"windowmove", window(), "300", "100"});
+    ASSERT_TRUE(eventually([&] { return place().x() >= 300; }));
+    click(312, 32); // Command3
+    ASSERT_TRUE(eventually([&] { return activeTitle() == "Calculatrice"; }));
+    run("xdotool", {"windowmove", window("Calculatrice"), "0", "0"});
+    ASSERT_TRUE(eventually([&] { return place("Calculatrice").x() < 10; }));
+    EXPECT_EQ(place("Calculatrice").size(), QSize(302, 430));
+    run("xdotool", {"type", "2*30"});
+    press("Return");
+    click(230, 371, "Calculatrice"); // plus: the last answer comes first
+    click(103, 371, "Calculatrice"); // 1
+    click(273, 403, "Calculatrice"); // =
+    // What a double click in the display selects can be copied.
+    EXPECT_TRUE(eventually([&] {
+        click(25, 34, "Calculatrice", 2);
+        return run(SELECTED_TEXT, {}) == "61";
+    }));
+    click(700, 550);
+    ASSERT_TRUE(eventually([&] { return activeTitle().startsWith("Orvalente"); }));
+    click(312, 32);
+    ASSERT_TRUE(eventually([&] { return activeTitle() == "Calculatrice"; }));
+    EXPECT_EQ(windows("Calculatrice").size(), 1);
 }
 
 TEST_F(EndToEnd, saysThatTheDatabaseIsAbsent) {
