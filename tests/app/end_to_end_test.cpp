@@ -1,5 +1,6 @@
 // The real program on the real demonstration course, on a display with a window manager.
 
+#include "app/x11_picture.h"
 #include "support/files.h"
 #include "support/x11_session.h"
 
@@ -18,8 +19,11 @@ class EndToEnd : public testing::Test {
 protected:
     void SetUp() override {
         ASSERT_FALSE(session_.display().isEmpty()) << "Xvfb is missing";
-        ASSERT_EQ(QProcess::execute(ORVALENTE_COURS, {"build", COURSE_SOURCES, "-o", course()}), 0);
+        ASSERT_EQ(QProcess::execute(ORVALENTE_COURS, {"build", sources(), "-o", course()}), 0);
     }
+
+    /// Directory of the sources of the course.
+    virtual QString sources() { return COURSE_SOURCES; }
 
     ~EndToEnd() override {
         shell_.kill();
@@ -82,11 +86,15 @@ protected:
 
     void press(const QString& key) { run("xdotool", {"key", "--clearmodifiers", key}); }
 
-    void click(int x, int y, const QString& name = "Orvalente", int times = 1) {
+    void movePointer(int x, int y, const QString& name = "Orvalente") {
         const QPoint corner = place(name).topLeft();
         run("xdotool",
-            {"mousemove", QString::number(corner.x() + x), QString::number(corner.y() + y), "click",
-             "--delay", "50", "--repeat", QString::number(times), "1"});
+            {"mousemove", QString::number(corner.x() + x), QString::number(corner.y() + y)});
+    }
+
+    void click(int x, int y, const QString& name = "Orvalente", int times = 1) {
+        movePointer(x, y, name);
+        run("xdotool", {"click", "--delay", "50", "--repeat", QString::number(times), "1"});
     }
 
     X11Session session_{X11Session::Manager::Openbox};
@@ -170,6 +178,62 @@ TEST_F(EndToEnd, saysThatTheDatabaseIsAbsent) {
 TEST_F(EndToEnd, enlargesEverything) {
     start({"--scale", "1.25"});
     EXPECT_TRUE(eventually([&] { return place().size() == QSize(1000, 750); }));
+}
+
+/// A course of two pages. The first shows the same words without and with a link in them, 40 pixels
+/// below; the second has a title of its own.
+class LinkedPages : public EndToEnd {
+protected:
+    QString sources() override {
+        const QString directory = directory_.filePath("sources");
+        QDir().mkpath(directory + "/pages");
+        test_support::writeFile(directory + "/pages/1.page",
+                                "+++\nNumeropage = 1\nIndex = 1\n+++\n##SI12\n##PIY020\n"
+                                "Avant, un mot, après\n##POX000\n##PIY040\n"
+                                "Avant, \n##LIERTun mot#PAG002\n, après\n##PIY040\n");
+        test_support::writeFile(directory + "/pages/2.page",
+                                "+++\nNumeropage = 2\nIndex = 2\n+++\n##TITBARDeux\n");
+        return directory;
+    }
+
+    /// The line of the page at a height, in pixels of the page, on a window enlarged by `scale`.
+    QImage line(int y, double scale) const {
+        const QRectF part(176, 120 + y, 300, 24);
+        return test_support::pictureOfScreen(session_.display(),
+                                             QRectF(part.topLeft() * scale, part.size() * scale)
+                                                 .translated(place().topLeft())
+                                                 .toAlignedRect());
+    }
+};
+
+TEST_F(LinkedPages, LinksLookAsTextUntilThePointerComes) {
+    for (const double scale : {1.0, 1.25}) {
+        start({"--scale", QString::number(scale)});
+        run("xdotool", {"mousemove", "5", "5"});
+        const auto plain = [&] { return line(20, scale); };
+        const auto linked = [&] { return line(60, scale); };
+        const auto blank = [&] { return line(100, scale); };
+        EXPECT_TRUE(eventually([&] { return plain() != blank() && linked() == plain(); })) << scale;
+        movePointer(qRound(240 * scale), qRound(190 * scale));
+        EXPECT_TRUE(eventually([&] { return linked() != plain(); })) << scale;
+        shell_.kill();
+        shell_.waitForFinished();
+    }
+}
+
+TEST_F(LinkedPages, LinksAreFollowedByMouseAndKeyboard) {
+    start();
+    const auto isSecond = [&] { return title().endsWith("Deux"); };
+    ASSERT_TRUE(eventually([&] { return place().size() == QSize(800, 600); }));
+    click(240, 190);
+    EXPECT_TRUE(eventually(isSecond));
+    press("alt+Left");
+    ASSERT_TRUE(eventually([&] { return !isSecond(); }));
+    // Over the ten buttons of the toolbar and the page to its link.
+    for (int stop = 0; stop < 12; ++stop)
+        press("Tab");
+    press("Return");
+    EXPECT_TRUE(eventually(isSecond));
 }
 
 } // namespace
