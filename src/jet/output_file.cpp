@@ -85,9 +85,7 @@ Result<void> OutputFile::putInPlace() {
 }
 
 Failure OutputFile::failure(const char* what) const {
-    const std::u8string name = target_.filename().u8string();
-    return {Failure::Kind::System,
-            "base de données « " + std::string(name.begin(), name.end()) + " » : " + what};
+    return fileFailure(Failure::Kind::System, target_, what);
 }
 
 } // namespace jet
