@@ -85,15 +85,27 @@ Result<std::vector<ChangedCell>> encode(const OpenTable& table, std::span<const 
     return encoded;
 }
 
-Result<RowPointer> placeOf(OpenTable& table, std::size_t position) {
+Result<RowPointer> placeOf(const OpenTable& table, std::size_t position) {
+    TableRows rows(*table.source, table.definition, table.label);
     RowPointer place;
-    const bool found = TableRows(*table.source, table.definition, table.label)
-                           .at(position, [&place](const LiveRow& live) {
-                               place = live.place;
-                               return true;
-                           });
+    RowPointer body;
+    const bool found = rows.at(position, [&](const LiveRow& live) {
+        place = live.place;
+        body = live.body;
+        return true;
+    });
     if (!found)
         return Failure{Failure::Kind::NotFound, "pas d'enregistrement " + std::to_string(position)};
+    // Pointers of a damaged table can lead to one and the same row.
+    bool isShared = false;
+    if (!(body == place))
+        rows.forEach([&](const LiveRow& live) {
+            isShared = live.body == body && live.position != position;
+            return !isShared;
+        });
+    if (isShared)
+        return Failure{Failure::Kind::Damaged, "l'enregistrement " + std::to_string(position) +
+                                                   " en est un autre à la fois"};
     return place;
 }
 

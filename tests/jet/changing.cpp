@@ -13,23 +13,33 @@
 #include <algorithm>
 #include <set>
 
-CutSink::CutSink(const std::filesystem::path& path, std::size_t allowed, std::size_t& done)
-    : file_(std::move(*jet::PageFile::open(path))), allowed_(allowed), done_(&done) {}
+namespace {
+
+const jet::Failure kCut{jet::Failure::Kind::System, "coupé"};
+
+} // namespace
+
+CutSink::CutSink(const std::filesystem::path& path, std::size_t allowed, std::size_t& done,
+                 Then then)
+    : file_(std::move(*jet::PageFile::open(path))), allowed_(allowed), done_(&done), then_(then) {}
 
 jet::Result<void> CutSink::write(std::uint32_t number, jet::Bytes page) {
-    if (*done_ == allowed_)
-        return jet::Failure{jet::Failure::Kind::System, "cut"};
-    ++*done_;
+    if (*done_ == allowed_ && !(cut_ && then_ == Then::Works)) {
+        cut_ = true;
+        return kCut;
+    }
+    *done_ += cut_ ? 0 : 1;
     return file_->write(number, page);
 }
 
 jet::Result<void> CutSink::sync() {
-    return *done_ == allowed_ ? jet::Failure{jet::Failure::Kind::System, "cut"}
-                              : jet::Result<void>();
+    return cut_ && then_ == Then::Dead ? kCut : jet::Result<void>();
 }
 
 void CutSink::cutBack() {
-    ADD_FAILURE() << "pages are cut off though those that name them could not be put back";
+    EXPECT_FALSE(cut_ && then_ == Then::Dead)
+        << "pages are cut off though those that name them could not be put back";
+    file_->cutBack();
 }
 
 Snapshot snapshot(const std::filesystem::path& path) {

@@ -11,12 +11,16 @@
 #include <utility>
 #include <vector>
 
-/// The real file, up to a number of writes; all that comes later fails, as if the program were gone
-/// (nothing is taken back) or the disk full.
+/// The real file, up to a number of writes. It does not wait for the disk.
 class CutSink : public jet::PageSink {
 public:
+    enum class Then {
+        Dead, ///< all that comes later fails too, so that nothing is taken back
+        Works ///< one write fails, as on a full disk
+    };
     /// `done` counts the writes that reached the file.
-    CutSink(const std::filesystem::path& path, std::size_t allowed, std::size_t& done);
+    CutSink(const std::filesystem::path& path, std::size_t allowed, std::size_t& done,
+            Then then = Then::Dead);
 
     jet::Result<void> write(std::uint32_t number, jet::Bytes page) override;
     jet::Result<void> sync() override;
@@ -26,7 +30,12 @@ private:
     std::unique_ptr<jet::PageSink> file_;
     std::size_t allowed_;
     std::size_t* done_;
+    Then then_;
+    bool cut_ = false;
 };
+
+/// As many writes as a change may make.
+inline constexpr std::size_t kUncut = 100000;
 
 /// The cells of each record of a file, by table and position, as a dump shows them; "damaged" for
 /// one that cannot be read.
