@@ -61,8 +61,11 @@ TEST_F(PdfLook, noPaperShowsBetweenTheStripsOfAGradient) {
     for (int i = 0; i < 100; ++i)
         surface.fill(0, i * 45, 9000, 45, 0xff000080, platform::FillMode::Copy);
     write({sheet()});
-    run(u"pdftoppm"_qs, {u"-r"_qs, u"83"_qs, u"-singlefile"_qs, u"-png"_qs, path(), path(u"p"_qs)});
+    // A reader that blends edges which are no pixels of its own, as most do; poppler moves them.
+    run(u"mutool"_qs,
+        {u"draw"_qs, u"-r"_qs, u"83"_qs, u"-c"_qs, u"rgb"_qs, u"-o"_qs, path(u"p.png"_qs), path()});
     const QImage page(path(QStringLiteral("p.png")));
+    ASSERT_FALSE(page.isNull());
     const int x = page.width() / 2;
     for (int y = page.height() / 5; y < page.height() / 2; ++y)
         EXPECT_LE(farthestChannel(page.pixel(x, y), 0xff000080), 2) << y;
