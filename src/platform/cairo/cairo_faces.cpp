@@ -70,6 +70,19 @@ CairoFaces::~CairoFaces() {
 }
 
 const CairoFaces::Face& CairoFaces::face(const Font& font, int stage) {
+    for (const Asked& asked : asked_)
+        if (asked.stage == stage && asked.bold == font.bold && asked.italic == font.italic &&
+            asked.face == font.face)
+            return *asked.answer;
+    // A page can ask for faces by any number of names.
+    constexpr std::size_t kMaxAsked = 64;
+    if (asked_.size() >= kMaxAsked)
+        asked_.clear();
+    asked_.push_back({font.face, font.bold, font.italic, stage, &find(font, stage)});
+    return *asked_.back().answer;
+}
+
+const CairoFaces::Face& CairoFaces::find(const Font& font, int stage) {
     const FontBook::FaceSource& source = FontBook::faceSource(font, stage);
     const auto [slot, isNew] = faces_.try_emplace(&source);
     if (isNew)

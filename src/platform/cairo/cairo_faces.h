@@ -5,6 +5,7 @@
 #include <cairo.h>
 
 #include <unordered_map>
+#include <vector>
 
 namespace platform {
 
@@ -26,6 +27,16 @@ public:
     const Face& face(const Font& font, int stage);
 
 private:
+    struct Asked {
+        QString face;
+        bool bold, italic;
+        int stage;
+        const Face* answer;
+    };
+
+    const Face& find(const Font& font, int stage);
+
+    std::vector<Asked> asked_; ///< a course has a dozen; whole texts ask for the same
     std::unordered_map<const FontBook::FaceSource*, Face> faces_;
 };
 

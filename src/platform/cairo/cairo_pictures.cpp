@@ -40,10 +40,9 @@ void attach(cairo_surface_t* surface, const char* type, const QByteArray& bytes)
         delete held;
 }
 
-/// A surface whose pixels nobody looks at: the document has them already, or takes the file.
-CairoSurface blank(QSize pixels) {
-    return CairoSurface(
-        cairo_image_surface_create(CAIRO_FORMAT_RGB24, pixels.width(), pixels.height()));
+/// Stands for a picture whose pixels nobody asks for: the document has them, or takes the file.
+CairoSurface placeholder() {
+    return CairoSurface(cairo_image_surface_create(CAIRO_FORMAT_RGB24, 1, 1));
 }
 
 CairoSurface copyOf(const QImage& image) {
@@ -87,7 +86,7 @@ cairo_surface_t* CairoPictures::surface(const std::shared_ptr<const Picture>& pi
         return found->second.get();
 
     CairoSurface made =
-        photograph || written_.contains(id) ? blank(pixels) : copyOf(picture->image(pixels));
+        photograph || written_.contains(id) ? placeholder() : copyOf(picture->image(pixels));
     if (made) {
         attach(made.get(), CAIRO_MIME_TYPE_UNIQUE_ID, id);
         if (photograph)

@@ -22,8 +22,9 @@ using CairoSurface = std::unique_ptr<cairo_surface_t, CairoSurfaceRelease>;
 /// handed over once and only named afterwards. Drawings (SVG) become pixels, fine enough for print.
 class CairoPictures {
 public:
-    /// What shows `picture` when it is painted and stretched to `drawn` (logical pixels); null when
-    /// it cannot be decoded. It lives until the end of the page.
+    /// What shows `picture` when it is painted and stretched to `drawn` (logical pixels), whatever
+    /// size it has itself; null when the picture cannot be decoded. It lives until the end of the
+    /// page.
     cairo_surface_t* surface(const std::shared_ptr<const Picture>& picture, QSize drawn);
 
     /// What the page showed is in the document now; its pixels are let go of.
