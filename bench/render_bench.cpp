@@ -1,5 +1,6 @@
 // Page source to pixels, beside the bare cost of the same drawing calls and beside QTextDocument.
 
+#include "markup/no_pictures.h"
 #include "markup/renderer.h"
 #include "platform/qt/font_book.h"
 #include "platform/qt/raster_surface.h"
@@ -47,7 +48,8 @@ public:
     platform::Surface title{platform::SurfaceId::Titre, 9000, fonts, recording};
     platform::RichTextHolder holder;
     markup::DrawingState state;
-    markup::Renderer renderer{state, *this, recording};
+    markup::NoPictures pictures;
+    markup::Renderer renderer{state, *this, pictures, recording};
 };
 
 void pageSourceToPixels(benchmark::State& loop) {

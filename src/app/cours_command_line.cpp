@@ -32,6 +32,7 @@ struct Typed {
     bool scientific = false;
     bool steps = false;
     bool batch = false;
+    std::vector<std::string> drives;
 };
 
 /// Whether an argument of `calc` is an option and not an expression with a sign in front, "-3" or
@@ -91,18 +92,18 @@ public:
             ->add_option("--source", typed_.source,
                          "Dessine le texte d’une page, ses fins de ligne telles quelles")
             ->type_name("FICHIER");
+        trace_
+            ->add_option("--drive", typed_.drives,
+                         "Donne la lettre de lecteur L à un dossier, plusieurs fois si besoin")
+            ->type_name("L=DOSSIER")
+            ->expected(1)
+            ->take_all();
 
-        calc_ = add("calc", "Calcule une expression comme la calculatrice du cours");
-        calc_->add_option("EXPRESSION", typed_.expression, "En un seul argument, entre guillemets")
-            ->type_name("");
-        calc_->add_flag("--radians", typed_.radians, "Angles en radians, et non en degrés");
-        calc_->add_flag("--scientific", typed_.scientific, "Affichage scientifique : 1.2345E+04");
-        calc_->add_flag("--trace", typed_.steps, "Montre le texte après chaque étape");
-        calc_->add_flag("--batch", typed_.batch,
-                        "Une expression par ligne de l’entrée ; pour chacune le code d’erreur,\n"
-                        "une tabulation, le résultat ou le message");
-        calc_->footer("Code de sortie : 0, ou le code d’erreur de la calculatrice (1 à 3) ;\n"
-                      "64 mauvais appel.");
+        symbols_ = add("symbols", "La liste d’images : clés, images, et d’où elles viennent");
+        positional(symbols_, "DOSSIER", typed_.from,
+                   "Dossier d’installation, dont les symboles comptent aussi");
+
+        addCalc();
     }
 
     CoursCall read(int argc, char** argv) {
@@ -123,6 +124,20 @@ private:
         CLI::App* command = app_.add_subcommand(name, description);
         command->group("Sous-commandes");
         return command;
+    }
+
+    void addCalc() {
+        calc_ = add("calc", "Calcule une expression comme la calculatrice du cours");
+        calc_->add_option("EXPRESSION", typed_.expression, "En un seul argument, entre guillemets")
+            ->type_name("");
+        calc_->add_flag("--radians", typed_.radians, "Angles en radians, et non en degrés");
+        calc_->add_flag("--scientific", typed_.scientific, "Affichage scientifique : 1.2345E+04");
+        calc_->add_flag("--trace", typed_.steps, "Montre le texte après chaque étape");
+        calc_->add_flag("--batch", typed_.batch,
+                        "Une expression par ligne de l’entrée ; pour chacune le code d’erreur,\n"
+                        "une tabulation, le résultat ou le message");
+        calc_->footer("Code de sortie : 0, ou le code d’erreur de la calculatrice (1 à 3) ;\n"
+                      "64 mauvais appel.");
     }
 
     static void positional(CLI::App* command, const char* name, std::string& value,
@@ -162,6 +177,8 @@ private:
             return traceCall();
         if (calc_->parsed())
             return calcCall();
+        if (symbols_->parsed())
+            return symbolsCall();
         return WrongCall{"il manque une sous-commande"};
     }
 
@@ -197,7 +214,10 @@ private:
     }
 
     CoursCall traceCall() const {
-        TraceCall call{pathFrom(typed_.from), 0, pathFrom(typed_.source)};
+        TraceCall call{pathFrom(typed_.from), 0, pathFrom(typed_.source), {}};
+        for (const std::string& drive : typed_.drives)
+            if (!addDrive(drive, call.drives))
+                return WrongCall{inQuotes(drive) + " n’est pas de la forme L=DOSSIER"};
         if (!typed_.source.empty()) {
             if (!typed_.from.empty() || !typed_.page.empty())
                 return WrongCall{"« --source » va sans dossier ni « --page »"};
@@ -227,6 +247,24 @@ private:
                         typed_.steps};
     }
 
+    CoursCall symbolsCall() const {
+        if (!typed_.from.empty())
+            if (const auto wrong = notADirectory(typed_.from, "le dossier d’installation"))
+                return *wrong;
+        return SymbolsCall{pathFrom(typed_.from)};
+    }
+
+    /// Reads "L=DIR"; false when it is not of this form.
+    static bool addDrive(const std::string& typed, std::map<char, fs::path>& drives) {
+        if (typed.size() < 3 || typed[1] != '=')
+            return false;
+        const char letter = static_cast<char>(typed[0] & ~('a' - 'A'));
+        if (letter < 'A' || letter > 'Z')
+            return false;
+        drives.insert_or_assign(letter, pathFrom(typed.substr(2)));
+        return true;
+    }
+
     static std::optional<WrongCall> notADirectory(const std::string& path, const char* what) {
         std::error_code error;
         if (path.empty())
@@ -252,6 +290,7 @@ private:
     CLI::App* dump_ = nullptr;
     CLI::App* trace_ = nullptr;
     CLI::App* calc_ = nullptr;
+    CLI::App* symbols_ = nullptr;
 };
 
 } // namespace

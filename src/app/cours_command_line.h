@@ -26,6 +26,9 @@ struct DumpCall {
 };
 using TraceCall = coursetool::TraceRequest;
 using CalcCall = calculator::CalcOptions;
+struct SymbolsCall {
+    std::filesystem::path course; ///< empty: the symbols of the program alone
+};
 /// Help or version, for standard output.
 struct ShowText {
     std::string text;
@@ -36,8 +39,8 @@ struct WrongCall {
     int status = static_cast<int>(coursetool::ExitCode::WrongCall);
 };
 
-using CoursCall =
-    std::variant<BuildCall, ExtractCall, DumpCall, TraceCall, CalcCall, ShowText, WrongCall>;
+using CoursCall = std::variant<BuildCall, ExtractCall, DumpCall, TraceCall, SymbolsCall, CalcCall,
+                               ShowText, WrongCall>;
 
 /// Reads the command line. Directories and files that must be there are; an output directory of
 /// `extract` is empty or not there yet.

@@ -3,6 +3,7 @@
 #include "coursetool/dump.h"
 #include "coursetool/exit_code.h"
 #include "coursetool/extract.h"
+#include "coursetool/symbols.h"
 #include "platform/module.h"
 
 #include <cstdio>
@@ -55,6 +56,10 @@ struct Perform {
         if (std::cout.flush())
             return error;
         report.fault({"sortie standard"}, "tout n’a pas pu être écrit");
+        return verdict();
+    }
+    int operator()(const app::SymbolsCall& call) {
+        coursetool::listSymbols(call.course, out, report);
         return verdict();
     }
     int operator()(const app::ShowText& show) {

@@ -18,7 +18,7 @@ class OffscreenPage : public markup::PageWindow,
                       public viewer::PageView,
                       public viewer::VideoDevice {
 public:
-    explicit OffscreenPage(const platform::TextMetrics& metrics);
+    OffscreenPage(const platform::TextMetrics& metrics, markup::PictureShelf& pictures);
 
     markup::DrawingState& state() { return state_; }
     markup::Renderer& renderer() { return renderer_; }
@@ -39,6 +39,7 @@ public:
     void setBusy(bool) override {}
     void refresh(platform::Surface&) override {}
     void preparePrinter() override {}
+    void showVideoFrame() override {}
     void setPageVisible(bool) override {}
     void resetLinks() override {}
     void hideScrollBarAndVideoFrame() override {}

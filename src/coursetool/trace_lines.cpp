@@ -100,6 +100,51 @@ struct Describe {
             .colour("ink", fill.ink)
             .text("mode", mask ? u"mask" : u"copy");
     }
+    void operator()(const platform::PictureOperation& picture) const {
+        Line("picture", out)
+            .surface(picture.surface)
+            .number("x", picture.x)
+            .number("y", picture.y)
+            .number("width", picture.width)
+            .number("height", picture.height)
+            .text(picture.symbol ? "key" : "name", picture.name);
+    }
+    void operator()(const platform::LinkOperation& link) const {
+        Line("link", out)
+            .surface(link.surface)
+            .text("control", platform::linkControlName(link.control))
+            .number("index", link.index)
+            .number("x", link.x)
+            .number("y", link.y)
+            .number("width", link.width)
+            .number("height", link.height)
+            .text("caption", link.caption)
+            .text("tag", link.tag)
+            .text("tooltip", link.tooltip)
+            .text("key", link.key);
+    }
+    void operator()(const platform::MenuOperation& menu) const {
+        Line("menu", out)
+            .number("menu", menu.menu)
+            .number("entry", menu.entry)
+            .text("caption", menu.caption)
+            .text("target", menu.target);
+    }
+    void operator()(const platform::FieldOperation& field) const {
+        Line("field", out)
+            .surface(field.surface)
+            .text("control", platform::fieldControlName(field.control))
+            .number("index", field.index)
+            .number("x", field.x)
+            .number("y", field.y)
+            .number("width", field.width)
+            .text("caption", field.caption)
+            .text("tag", field.tag)
+            .text("tooltip", field.tooltip);
+    }
+    void operator()(const platform::VideoOperation& video) const {
+        Line("video", out).text("name", video.name);
+    }
     void operator()(const platform::SwitchOperation& change) const {
         Line("surface", out).text("name", platform::surfaceName(change.surface));
     }

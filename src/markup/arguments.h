@@ -4,6 +4,8 @@
 
 #include <QStringView>
 
+#include <optional>
+
 namespace markup {
 
 // Arguments of a directive stand at fixed places. `d` is the directive without its leading "##";
@@ -19,6 +21,19 @@ inline QStringView charactersFrom(QStringView d, qsizetype position) {
 
 inline QStringView characterAt(QStringView d, qsizetype position) {
     return charactersFrom(d, position).first(position <= d.size() ? 1 : 0);
+}
+
+/// Two texts with a "#" between them, split at the last one. A "#" in the last place does not
+/// count: what follows may not be empty. Nothing when there is none.
+struct SplitArgument {
+    QStringView before; ///< what stands between the keyword and the "#"
+    QStringView after;
+};
+inline std::optional<SplitArgument> splitAtLastSharp(QStringView d, qsizetype keywordLength) {
+    for (qsizetype i = d.size() - 2; i >= keywordLength; --i)
+        if (d[i] == u'#')
+            return SplitArgument{d.sliced(keywordLength, i - keywordLength), d.sliced(i + 1)};
+    return std::nullopt;
 }
 
 /// The number in the last characters; 0 when they start with none.

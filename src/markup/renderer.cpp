@@ -16,9 +16,24 @@ constexpr double kPaperColumnPx = 600;
 
 } // namespace
 
-Renderer::Renderer(DrawingState& state, PageWindow& window, platform::Recording& recording,
-                   double screenTwipsPerPixel)
-    : state_(state), window_(window), recording_(recording), twipsPerPixel_(screenTwipsPerPixel) {}
+Renderer::Renderer(DrawingState& state, PageWindow& window, PictureShelf& pictures,
+                   platform::Recording& recording, double screenTwipsPerPixel)
+    : state_(state), window_(window), pictures_(pictures), recording_(recording),
+      twipsPerPixel_(screenTwipsPerPixel) {}
+
+bool Renderer::onCoursePage() const {
+    return !state_.enImpression && !state_.fenetreSource->answerFields();
+}
+
+void Renderer::drawOnPaper() {
+    state_.surfaceDessin = paper_;
+}
+
+void Renderer::drawNowhere() {
+    discarded_.clear();
+    nowhere_.emplace(paper_->id(), paper_->scaleWidth(), paper_->metrics(), discarded_);
+    state_.surfaceDessin = &*nowhere_;
+}
 
 double Renderer::fullWidth() const {
     return state_.enImpression ? kPaperColumnPx * twipsPerPixel_
@@ -60,6 +75,7 @@ void Renderer::initecran() {
     state_.interligne = 1;
     state_.decalageUnique = 0;
     state_.margeGauche = 0;
+    state_.largeurCadre = 0;
     store(state_.margeDroite, fullWidth());
 
     target.setLineWidth(1);
@@ -79,6 +95,7 @@ void Renderer::affichepage() {
         return;
     lineNumber_ = 0;
     directive_ = {};
+    paper_ = state_.surfaceDessin;
     initecran();
 
     platform::RichTextHolder& code = state_.fenetreSource->code();
@@ -94,6 +111,10 @@ void Renderer::affichepage() {
     }
     directive_ = {};
     finish();
+    // A page that ended nowhere leaves the paper to whoever writes the footer.
+    if (state_.enImpression)
+        drawOnPaper();
+    discarded_.clear();
 }
 
 void Renderer::drawLine(QStringView ligne) {

@@ -1,11 +1,14 @@
 #pragma once
 
 #include "markup/drawing_state.h"
+#include "markup/picture_shelf.h"
 #include "markup/windows.h"
 #include "platform/recording.h"
 #include "platform/twips.h"
 
 #include <QStringView>
+
+#include <optional>
 
 namespace markup {
 
@@ -14,8 +17,8 @@ namespace markup {
 class Renderer {
 public:
     /// `screenTwipsPerPixel` is the vertical one. All references must outlive the renderer.
-    Renderer(DrawingState& state, PageWindow& window, platform::Recording& recording,
-             double screenTwipsPerPixel = platform::kTwipsPerPixel);
+    Renderer(DrawingState& state, PageWindow& window, PictureShelf& pictures,
+             platform::Recording& recording, double screenTwipsPerPixel = platform::kTwipsPerPixel);
 
     /// Draws the whole source of `fenetreSource`. Callers set `surfaceDessin`, `fenetreSource` and
     /// `enImpression` first, load the source, and set `hauteurPage` to 0 unless the drawing is to
@@ -34,9 +37,18 @@ public:
 
     DrawingState& state() { return state_; }
     PageWindow& window() { return window_; }
+    PictureShelf& pictures() { return pictures_; }
     platform::Recording& recording() { return recording_; }
     platform::Surface& surface() { return *state_.surfaceDessin; }
     double twipsPerPixel() const { return twipsPerPixel_; }
+
+    /// Whether the page at hand is a course page on screen: the only kind that places links and
+    /// has a title bar and a video.
+    bool onCoursePage() const;
+
+    /// Where "OBJ" directives lead while printing: back to the paper, or nowhere.
+    void drawOnPaper();
+    void drawNowhere();
 
     /// Width of the text column when nothing narrows it.
     double fullWidth() const;
@@ -57,8 +69,12 @@ private:
 
     DrawingState& state_;
     PageWindow& window_;
+    PictureShelf& pictures_;
     platform::Recording& recording_;
     double twipsPerPixel_;
+    platform::Surface* paper_ = nullptr;
+    platform::Recording discarded_;
+    std::optional<platform::Surface> nowhere_;
     int lineNumber_ = 0;
     QStringView directive_;
 };

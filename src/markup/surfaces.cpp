@@ -16,6 +16,27 @@ void drawOn(Renderer& renderer, platform::Surface& surface) {
     renderer.recording().add(platform::SwitchOperation{surface.id()});
 }
 
+/// What a name after "OBJ" leads to on screen.
+void chooseOnScreen(Renderer& renderer, QStringView name) {
+    if (name == u"TIT") {
+        drawOn(renderer, renderer.window().titre());
+        // The title stands there already; a page that draws its own wants an empty band.
+        renderer.surface().clear();
+    } else if (name == u"ILLUS") {
+        drawOn(renderer, renderer.window().pictureIllus());
+    } else if (name == u"PRINCIPAL") {
+        drawOn(renderer, renderer.window().pictureTexte());
+    }
+}
+
+/// Paper shows the text column only.
+void chooseOnPaper(Renderer& renderer, QStringView name) {
+    if (name == u"PRINCIPAL")
+        renderer.drawOnPaper();
+    else if (name == u"TIT" || name == u"ILLUS")
+        renderer.drawNowhere();
+}
+
 } // namespace
 
 void refreshAndGrow(Renderer& renderer, QStringView) {
@@ -28,15 +49,11 @@ void refreshAndGrow(Renderer& renderer, QStringView) {
 
 void chooseSurface(Renderer& renderer, QStringView d) {
     const QStringView name = charactersFrom(d, 4);
-    if (name == u"TIT") {
-        drawOn(renderer, renderer.window().titre());
-        // The title stands there already; a page that draws its own wants an empty band.
-        renderer.surface().clear();
-    } else if (name == u"ILLUS") {
-        drawOn(renderer, renderer.window().pictureIllus());
-    } else if (name == u"PRINCIPAL") {
-        drawOn(renderer, renderer.window().pictureTexte());
-    } else if (name == u"TAILLE") {
+    if (renderer.state().enImpression)
+        chooseOnPaper(renderer, name);
+    else
+        chooseOnScreen(renderer, name);
+    if (name == u"TAILLE") {
         platform::Surface& surface = renderer.surface();
         renderer.check(surface.setHeightPx(surface.penY() / renderer.twipsPerPixel()),
                        kHeightRefused);
@@ -45,6 +62,8 @@ void chooseSurface(Renderer& renderer, QStringView d) {
 }
 
 void windowCaption(Renderer& renderer, QStringView d) {
+    if (!renderer.onCoursePage())
+        return;
     // The eighteen blanks keep the page's own words apart from the name of the course.
     const QString caption =
         QStringLiteral("Orvalente - KAROPE                  ") + charactersFrom(d, 7).toString();

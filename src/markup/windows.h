@@ -1,5 +1,6 @@
 #pragma once
 
+#include "markup/answer_fields.h"
 #include "platform/rich_text_holder.h"
 #include "platform/surface.h"
 
@@ -12,6 +13,9 @@ class SourceWindow {
 public:
     virtual ~SourceWindow() = default;
     virtual platform::RichTextHolder& code() = 0;
+
+    /// The answer controls that its pages can place; null where pages place links instead.
+    virtual AnswerFields* answerFields() { return nullptr; }
 };
 
 /// The main window as the renderer knows it.
@@ -30,6 +34,9 @@ public:
 
     /// Makes what was drawn so far on the surface visible now.
     virtual void refresh(platform::Surface& surface) = 0;
+
+    /// Shows the frame of the video buttons: the page has a video.
+    virtual void showVideoFrame() = 0;
 
     /// Called when a rendering that goes to the printer starts or is reset.
     virtual void preparePrinter() = 0;

@@ -18,4 +18,27 @@ QString surfaceName(SurfaceId id) {
     return {};
 }
 
+QString linkControlName(LinkControl control) {
+    return control == LinkControl::Labelien ? QStringLiteral("Labelien")
+                                            : QStringLiteral("Imagelien");
+}
+
+QString fieldControlName(FieldControl control) {
+    switch (control) {
+    case FieldControl::Option1:
+        return QStringLiteral("Option1");
+    case FieldControl::Check1:
+        return QStringLiteral("Check1");
+    case FieldControl::Text1:
+        return QStringLiteral("Text1");
+    case FieldControl::Labelien:
+        return QStringLiteral("Labelien");
+    case FieldControl::Image1:
+        return QStringLiteral("Image1");
+    case FieldControl::Icovideo:
+        return QStringLiteral("Icovideo");
+    }
+    return {};
+}
+
 } // namespace platform

@@ -86,6 +86,12 @@ void Surface::fill(double x, double y, double width, double height, QRgb ink, Fi
     recording_.add(FillOperation{id_, x, y, width, height, ink, mode});
 }
 
+void Surface::paint(std::shared_ptr<const Picture> picture, double width, double height,
+                    const QString& name, bool symbol) {
+    recording_.add(
+        PictureOperation{id_, penX_, penY_, width, height, std::move(picture), name, symbol});
+}
+
 void Surface::clear() {
     recording_.add(ClearOperation{id_});
     penX_ = 0;

@@ -6,6 +6,8 @@
 #include <QPointF>
 #include <QRgb>
 
+#include <memory>
+
 namespace platform {
 
 /// Tallest surface, in pixels: more than seventy screenfuls, and a raster of it stays below
@@ -42,6 +44,7 @@ public:
     int lineWidth() const { return lineWidth_; }
     void setLineWidth(int pixels) { lineWidth_ = pixels; }
 
+    const TextMetrics& metrics() const { return metrics_; }
     double textWidth(QStringView text) const;
     /// Height of a line in the current font, for any text.
     double textHeight() const;
@@ -51,6 +54,10 @@ public:
     /// Draws in the current ink and line width; the pen ends at the line's end.
     void line(double x1, double y1, double x2, double y2);
     void fill(double x, double y, double width, double height, QRgb ink, FillMode mode);
+    /// Paints a picture at the pen, stretched to `width` x `height`; the pen stays. `name` is the
+    /// bare file name, or the key of a symbol of the image list.
+    void paint(std::shared_ptr<const Picture> picture, double width, double height,
+               const QString& name, bool symbol);
     /// Wipes the surface and puts the pen at its top left corner.
     void clear();
 

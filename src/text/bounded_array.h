@@ -19,6 +19,10 @@ public:
         return contains(index) ? &slots_[static_cast<std::size_t>(index - First)] : nullptr;
     }
 
+    T* slot(int index) {
+        return contains(index) ? &slots_[static_cast<std::size_t>(index - First)] : nullptr;
+    }
+
     bool store(int index, const T& value) {
         if (!contains(index))
             return false;

@@ -105,6 +105,7 @@ public:
     void setBusy(bool busy) override;
     void refresh(platform::Surface& surface) override;
     void preparePrinter() override;
+    void showVideoFrame() override;
     platform::RichTextHolder& code() override { return code_; }
 
     // shell::StartUpWindow

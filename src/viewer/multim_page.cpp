@@ -136,6 +136,10 @@ void Multim::refresh(platform::Surface& surface) {
         }
 }
 
+void Multim::showVideoFrame() {
+    setVideoLayout(VideoLayout::Closed);
+}
+
 void Multim::preparePrinter() {
     parts_->neighbours.printing.prepare();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "markup/renderer.h"
+#include "support/fake_pictures.h"
 #include "support/fixed_metrics.h"
 #include "support/recording_text.h"
 
@@ -19,6 +20,11 @@ struct PageRow {
 
 inline void PrintTo(const PageRow& row, std::ostream* out) {
     *out << row.name;
+}
+
+/// Operations as a test prints them: a line each.
+inline std::string lines(const QStringList& operations) {
+    return operations.join(u'\n').toStdString();
 }
 
 /// A main window without a window: everything that a page can be drawn on, and what became of it.
@@ -48,6 +54,8 @@ public:
         refreshed = &surface;
     }
     void preparePrinter() override { ++preparations; }
+    void showVideoFrame() override { ++videoFrames; }
+    markup::AnswerFields* answerFields() override { return isQuestion ? &fields : nullptr; }
 
     FixedMetrics metrics;
     platform::Recording recording;
@@ -56,14 +64,18 @@ public:
     platform::Surface title{platform::SurfaceId::Titre, 9000, metrics, recording};
     platform::Surface printer{platform::SurfaceId::Printer, 11000, metrics, recording};
     platform::RichTextHolder holder;
+    FakePictures pictures;
+    markup::AnswerFields fields;
+    bool isQuestion = false;
     markup::DrawingState state;
-    markup::Renderer renderer{state, *this, recording};
+    markup::Renderer renderer{state, *this, pictures, recording};
 
     QString caption;
     QList<bool> busy;
     QList<int> refreshedAt;
     platform::Surface* refreshed = nullptr;
     int preparations = 0;
+    int videoFrames = 0;
 };
 
 /// Cases that draw a source and compare the operations.
@@ -71,7 +83,8 @@ class PageCase : public testing::TestWithParam<PageRow> {
 protected:
     void draws() {
         PageBench bench;
-        EXPECT_EQ(bench.draw(QString::fromUtf16(GetParam().source)), GetParam().expected);
+        EXPECT_EQ(lines(bench.draw(QString::fromUtf16(GetParam().source))),
+                  lines(GetParam().expected));
     }
 };
 

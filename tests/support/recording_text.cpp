@@ -37,6 +37,42 @@ struct Describe {
                                                               : QString()) +
                colour(fill.ink);
     }
+    QString operator()(const platform::PictureOperation& picture) const {
+        return QStringLiteral("%1 %2 %3 %4")
+            .arg(picture.symbol ? QStringLiteral("symbol") : QStringLiteral("picture"),
+                 point(picture.x, picture.y), point(picture.width, picture.height), picture.name);
+    }
+    QString operator()(const platform::LinkOperation& link) const {
+        QString line = QStringLiteral("link %1(%2) %3 %4 \"%5\" %6")
+                           .arg(platform::linkControlName(link.control))
+                           .arg(link.index)
+                           .arg(point(link.x, link.y), point(link.width, link.height),
+                                link.caption + link.key, link.tag);
+        if (!link.tooltip.isEmpty())
+            line += QStringLiteral(" tip \"%1\"").arg(link.tooltip);
+        return line + colour(link.ink);
+    }
+    QString operator()(const platform::MenuOperation& menu) const {
+        return QStringLiteral("menu %1 %2 \"%3\" %4")
+            .arg(menu.menu)
+            .arg(menu.entry)
+            .arg(menu.caption, menu.target);
+    }
+    QString operator()(const platform::FieldOperation& field) const {
+        QString line = QStringLiteral("field %1(%2) %3 %4")
+                           .arg(platform::fieldControlName(field.control))
+                           .arg(field.index)
+                           .arg(point(field.x, field.y))
+                           .arg(field.width);
+        if (!field.caption.isEmpty())
+            line += QStringLiteral(" \"%1\"").arg(field.caption);
+        if (!field.tooltip.isEmpty())
+            line += QStringLiteral(" tip \"%1\"").arg(field.tooltip);
+        return field.tag.isEmpty() ? line : line + u' ' + field.tag;
+    }
+    QString operator()(const platform::VideoOperation& video) const {
+        return QStringLiteral("video ") + video.name;
+    }
     QString operator()(const platform::SwitchOperation& change) const {
         return QStringLiteral("surface ") + platform::surfaceName(change.surface);
     }

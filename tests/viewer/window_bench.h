@@ -2,6 +2,7 @@
 
 #include "markup/renderer.h"
 #include "platform/qt/font_book.h"
+#include "support/fake_pictures.h"
 #include "support/fake_prompter.h"
 #include "support/fake_screen.h"
 #include "viewer/action_dispatcher.h"
@@ -59,7 +60,8 @@ public:
     markup::DrawingState drawing;
     viewer::BoundRecord bound;
     viewer::Multim window{state, fonts, screen};
-    markup::Renderer renderer{drawing, window, window.recording()};
+    FakePictures pictures;
+    markup::Renderer renderer{drawing, window, pictures, window.recording()};
     viewer::PageLoader pages{state, bound, window, window, renderer, neighbours.video};
     viewer::ActionDispatcher actions{
         state, pages, window, neighbours.modules, neighbours.exercise, neighbours.orderForm};

@@ -25,6 +25,11 @@ constexpr int kFirstRowsPx = 448;
 /// A picture no taller than this is used again for the next page, in logical pixels.
 constexpr int kKeptRowsPx = 2000;
 
+/// Most device pixels that a picture is prepared in (64 MB): the largest size that a page can give,
+/// at four times the density. What is stretched beyond is prepared smaller and enlarged where it
+/// shows.
+constexpr double kMaxPicturePixels = 16e6;
+
 /// Positions beyond this many logical pixels are outside any picture.
 constexpr double kFarPx = 1e6;
 
@@ -95,6 +100,26 @@ public:
         target_.wipe();
     }
 
+    void operator()(const PictureOperation& picture) {
+        if (picture.surface != target_.id_ || !reachable(picture.x, picture.y) ||
+            !room(picture.y, picture.y + picture.height))
+            return;
+        const QRect place(
+            QPoint(pixel(picture.x), pixel(picture.y)),
+            QPoint(pixel(std::min(picture.x + picture.width, kFarPx * kTwipsPerPixel)) - 1,
+                   pixel(std::min(picture.y + picture.height, kFarPx * kTwipsPerPixel)) - 1));
+        if (!place.intersects(target_.image_.rect()))
+            return;
+        const QImage image = picture.picture->image(preparedSize(place.size()));
+        painter().setRenderHint(QPainter::SmoothPixmapTransform, image.size() != place.size());
+        painter().drawImage(place, image);
+    }
+
+    // Links and answers are controls of their own on the window.
+    void operator()(const LinkOperation&) {}
+    void operator()(const MenuOperation&) {}
+    void operator()(const FieldOperation&) {}
+    void operator()(const VideoOperation&) {}
     void operator()(const SwitchOperation&) {}
     void operator()(const CaptionOperation&) {}
     void operator()(const FailedOperation&) {}
@@ -107,6 +132,13 @@ public:
 private:
     static bool reachable(double x, double y) {
         return std::abs(x) < kFarPx * kTwipsPerPixel && std::abs(y) < kFarPx * kTwipsPerPixel;
+    }
+
+    static QSize preparedSize(QSize place) {
+        const double pixels = static_cast<double>(place.width()) * place.height();
+        if (pixels <= kMaxPicturePixels)
+            return place;
+        return (QSizeF(place) * std::sqrt(kMaxPicturePixels / pixels)).toSize().expandedTo({1, 1});
     }
 
     double toDevice(double twips) const { return twips / kTwipsPerPixel * target_.ratio_; }

@@ -1,0 +1,117 @@
+#include "markup/answer_fields.h"
+
+#include "markup/arguments.h"
+#include "markup/directives.h"
+#include "markup/renderer.h"
+#include "platform/link_view.h"
+
+namespace markup {
+
+namespace {
+
+constexpr qsizetype kKeywordLength = 5;
+
+// Where a control stands in the line, and what it takes of it, in twips. Questions are laid out
+// with these figures.
+constexpr double kOptionDrop = 45;
+constexpr double kCheckDrop = 30;
+constexpr double kTextRise = 30;
+constexpr double kChoiceAdvance = 270;
+
+platform::FieldOperation fieldAtPen(Renderer& renderer, platform::FieldControl control, double drop,
+                                    double width) {
+    const platform::Surface& surface = renderer.surface();
+    platform::FieldOperation place;
+    place.surface = surface.id();
+    place.control = control;
+    place.x = surface.penX();
+    place.y = surface.penY() + drop;
+    place.width = width;
+    return place;
+}
+
+/// Shows the control and moves the pen past it.
+void show(Renderer& renderer, AnswerFields::Field& field, const platform::FieldOperation& place) {
+    field = {true, place};
+    renderer.recording().add(place);
+    renderer.surface().setPenX(place.x + place.width);
+}
+
+/// The first control of an array that is still hidden; when all show, nothing happens.
+void showNext(Renderer& renderer, AnswerFields::Choices& choices, platform::FieldControl control,
+              double drop) {
+    for (int index = 0; index <= AnswerFields::kLastChoice; ++index) {
+        AnswerFields::Field& field = *choices.slot(index);
+        if (field.visible)
+            continue;
+        auto place = fieldAtPen(renderer, control, drop, kChoiceAdvance);
+        place.index = index;
+        return show(renderer, field, place);
+    }
+}
+
+} // namespace
+
+// Questions only: a course page has no answer controls.
+
+void optionField(Renderer& renderer, QStringView) {
+    if (AnswerFields* fields = renderer.state().fenetreSource->answerFields())
+        showNext(renderer, fields->Option1, platform::FieldControl::Option1, kOptionDrop);
+}
+
+void checkField(Renderer& renderer, QStringView) {
+    if (AnswerFields* fields = renderer.state().fenetreSource->answerFields())
+        showNext(renderer, fields->Check1, platform::FieldControl::Check1, kCheckDrop);
+}
+
+void textField(Renderer& renderer, QStringView) {
+    if (AnswerFields* fields = renderer.state().fenetreSource->answerFields())
+        show(renderer, fields->Text1,
+             fieldAtPen(renderer, platform::FieldControl::Text1, -kTextRise,
+                        AnswerFields::kTextBoxWidth));
+}
+
+void questionLink(Renderer& renderer, QStringView d) {
+    AnswerFields* fields = renderer.state().fenetreSource->answerFields();
+    const auto argument = splitAtLastSharp(d, kKeywordLength);
+    if (!fields || !argument)
+        return;
+    const platform::Surface& surface = renderer.surface();
+    auto icon = fieldAtPen(renderer, platform::FieldControl::Image1, 0,
+                           AnswerFields::kIconWidth + AnswerFields::kIconGap);
+    icon.tag = argument->after.toString();
+    show(renderer, fields->Image1, icon);
+
+    auto label = fieldAtPen(renderer, platform::FieldControl::Labelien, 0, 0);
+    label.caption = argument->before.toString();
+    label.tag = icon.tag;
+    label.font = surface.font();
+    label.font.underline = false;
+    label.ink = surface.ink();
+    label.width = platform::captionExtent(label.caption, label.font, surface.metrics()).width;
+    show(renderer, fields->Labelien, label);
+}
+
+void questionVideo(Renderer& renderer, QStringView d) {
+    AnswerFields* fields = renderer.state().fenetreSource->answerFields();
+    const auto argument = splitAtLastSharp(d, kKeywordLength);
+    if (!fields || !argument)
+        return;
+    auto icon = fieldAtPen(renderer, platform::FieldControl::Icovideo, 0, AnswerFields::kIconWidth);
+    icon.tooltip = argument->before.toString();
+    icon.tag = argument->after.toString();
+    show(renderer, fields->Icovideo, icon);
+}
+
+// Course pages only.
+
+void pageVideo(Renderer& renderer, QStringView d) {
+    if (!renderer.onCoursePage())
+        return;
+    const QString name = d.sliced(kKeywordLength).toString();
+    renderer.state().videoPage = name;
+    renderer.recording().add(platform::VideoOperation{name});
+    renderer.window().showVideoFrame();
+}
+
+} // namespace markup
