@@ -27,12 +27,12 @@ struct Typed {
     std::string table;
     std::string page;
     std::string source;
-    std::vector<std::string> drives;
     std::optional<std::string> expression;
     bool radians = false;
     bool scientific = false;
     bool steps = false;
     bool batch = false;
+    std::vector<std::string> drives;
 };
 
 /// Whether an argument of `calc` is an option and not an expression with a sign in front, "-3" or
@@ -103,17 +103,7 @@ public:
         positional(symbols_, "DOSSIER", typed_.from,
                    "Dossier d’installation, dont les symboles comptent aussi");
 
-        calc_ = add("calc", "Calcule une expression comme la calculatrice du cours");
-        calc_->add_option("EXPRESSION", typed_.expression, "En un seul argument, entre guillemets")
-            ->type_name("");
-        calc_->add_flag("--radians", typed_.radians, "Angles en radians, et non en degrés");
-        calc_->add_flag("--scientific", typed_.scientific, "Affichage scientifique : 1.2345E+04");
-        calc_->add_flag("--trace", typed_.steps, "Montre le texte après chaque étape");
-        calc_->add_flag("--batch", typed_.batch,
-                        "Une expression par ligne de l’entrée ; pour chacune le code d’erreur,\n"
-                        "une tabulation, le résultat ou le message");
-        calc_->footer("Code de sortie : 0, ou le code d’erreur de la calculatrice (1 à 3) ;\n"
-                      "64 mauvais appel.");
+        addCalc();
     }
 
     CoursCall read(int argc, char** argv) {
@@ -134,6 +124,20 @@ private:
         CLI::App* command = app_.add_subcommand(name, description);
         command->group("Sous-commandes");
         return command;
+    }
+
+    void addCalc() {
+        calc_ = add("calc", "Calcule une expression comme la calculatrice du cours");
+        calc_->add_option("EXPRESSION", typed_.expression, "En un seul argument, entre guillemets")
+            ->type_name("");
+        calc_->add_flag("--radians", typed_.radians, "Angles en radians, et non en degrés");
+        calc_->add_flag("--scientific", typed_.scientific, "Affichage scientifique : 1.2345E+04");
+        calc_->add_flag("--trace", typed_.steps, "Montre le texte après chaque étape");
+        calc_->add_flag("--batch", typed_.batch,
+                        "Une expression par ligne de l’entrée ; pour chacune le code d’erreur,\n"
+                        "une tabulation, le résultat ou le message");
+        calc_->footer("Code de sortie : 0, ou le code d’erreur de la calculatrice (1 à 3) ;\n"
+                      "64 mauvais appel.");
     }
 
     static void positional(CLI::App* command, const char* name, std::string& value,
@@ -171,10 +175,10 @@ private:
             return dumpCall();
         if (trace_->parsed())
             return traceCall();
-        if (symbols_->parsed())
-            return symbolsCall();
         if (calc_->parsed())
             return calcCall();
+        if (symbols_->parsed())
+            return symbolsCall();
         return WrongCall{"il manque une sous-commande"};
     }
 
@@ -230,6 +234,19 @@ private:
         return call;
     }
 
+    CoursCall calcCall() const {
+        if (typed_.batch && (typed_.expression || typed_.steps))
+            return WrongCall{"« --batch » va sans expression ni « --trace »", wrongCallStatus()};
+        if (!typed_.batch && !typed_.expression)
+            return WrongCall{"il manque l’expression", wrongCallStatus()};
+        using calculator::AngleMode;
+        using calculator::Format;
+        return CalcCall{typed_.expression.value_or(std::string()),
+                        typed_.radians ? AngleMode::Radians : AngleMode::Degrees,
+                        typed_.scientific ? Format::Scientific : Format::Standard, typed_.batch,
+                        typed_.steps};
+    }
+
     CoursCall symbolsCall() const {
         if (!typed_.from.empty())
             if (const auto wrong = notADirectory(typed_.from, "le dossier d’installation"))
@@ -246,19 +263,6 @@ private:
             return false;
         drives.insert_or_assign(letter, pathFrom(typed.substr(2)));
         return true;
-    }
-
-    CoursCall calcCall() const {
-        if (typed_.batch && (typed_.expression || typed_.steps))
-            return WrongCall{"« --batch » va sans expression ni « --trace »", wrongCallStatus()};
-        if (!typed_.batch && !typed_.expression)
-            return WrongCall{"il manque l’expression", wrongCallStatus()};
-        using calculator::AngleMode;
-        using calculator::Format;
-        return CalcCall{typed_.expression.value_or(std::string()),
-                        typed_.radians ? AngleMode::Radians : AngleMode::Degrees,
-                        typed_.scientific ? Format::Scientific : Format::Standard, typed_.batch,
-                        typed_.steps};
     }
 
     static std::optional<WrongCall> notADirectory(const std::string& path, const char* what) {
@@ -285,8 +289,8 @@ private:
     CLI::App* extract_ = nullptr;
     CLI::App* dump_ = nullptr;
     CLI::App* trace_ = nullptr;
-    CLI::App* symbols_ = nullptr;
     CLI::App* calc_ = nullptr;
+    CLI::App* symbols_ = nullptr;
 };
 
 } // namespace

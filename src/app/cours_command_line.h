@@ -25,10 +25,10 @@ struct DumpCall {
     std::string table; ///< empty: the tables and their columns
 };
 using TraceCall = coursetool::TraceRequest;
+using CalcCall = calculator::CalcOptions;
 struct SymbolsCall {
     std::filesystem::path course; ///< empty: the symbols of the program alone
 };
-using CalcCall = calculator::CalcOptions;
 /// Help or version, for standard output.
 struct ShowText {
     std::string text;

@@ -49,10 +49,6 @@ struct Perform {
         reinterpret_cast<coursetool::TraceFunction>(module.address)(argc, argv, call, out, report);
         return verdict();
     }
-    int operator()(const app::SymbolsCall& call) {
-        coursetool::listSymbols(call.course, out, report);
-        return verdict();
-    }
     int operator()(const app::CalcCall& call) {
         std::ios::sync_with_stdio(false);
         std::cin.tie(nullptr);
@@ -60,6 +56,10 @@ struct Perform {
         if (std::cout.flush())
             return error;
         report.fault({"sortie standard"}, "tout n’a pas pu être écrit");
+        return verdict();
+    }
+    int operator()(const app::SymbolsCall& call) {
+        coursetool::listSymbols(call.course, out, report);
         return verdict();
     }
     int operator()(const app::ShowText& show) {
