@@ -42,7 +42,7 @@ Result<ChangedCell> encodeChangedCell(const TableDefinition& definition, const T
     if (const char* why = whyNotChangeable(declared, cell.place, definition, tail))
         return refused(why);
     if (declared.type == ColumnType::Boolean)
-        cell.place.size = 0;
+        cell.place.fixedOffset = cell.place.size = 0;
 
     const bool* boolean = value.as<bool>();
     cell.absent = value.isNull() || (declared.type == ColumnType::Boolean && boolean && !*boolean);

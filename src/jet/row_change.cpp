@@ -62,26 +62,16 @@ Result<void> RowChange::plan(RowPointer place, std::vector<ChangedCell> cells) {
         if (!(cell.absent ? parts_->clear(cell.place) : parts_->set(cell.place, {})))
             return damaged("l'enregistrement ne correspond pas à la définition");
 
-    // A long value stays in the row if it can; then outside it; then the row moves.
-    std::size_t longestInline = kLongestInline;
-    bool staysOnPage = fits(*site, assemble(longestInline));
-    if (!staysOnPage && fits(*site, assemble(0))) {
-        longestInline = 0;
-        staysOnPage = true;
-    }
-    const std::size_t longestRow = changes_->format().longestRow;
-    if (!staysOnPage && assemble(longestInline).size() > longestRow)
-        longestInline = 0;
-    if (assemble(longestInline).size() > longestRow)
+    const auto form = chooseForm(*site);
+    if (!form)
         return Failure{Failure::Kind::Refused, "l'enregistrement ne tient pas dans une page"};
-
-    if (const auto stored = store(longestInline); !stored)
+    if (const auto stored = store(form->longestInline); !stored)
         return stored;
-    const RowBytes bytes = assemble(longestInline);
-    if (!isAsAsked(*row, bytes, longestInline))
+    const RowBytes bytes = assemble(form->longestInline);
+    if (!isAsAsked(*row, bytes, form->longestInline))
         return damaged("la définition mêle les colonnes de l'enregistrement");
     noteLeftValues(*row);
-    if (const auto put = staysOnPage ? replace(*site, bytes) : moveOut(*site, bytes); !put)
+    if (const auto put = form->staysOnPage ? replace(*site, bytes) : moveOut(*site, bytes); !put)
         return put;
     return markTaken();
 }
@@ -94,6 +84,17 @@ std::optional<PointedRow> RowChange::locate(RowPointer place) {
     if (slot && slot->kind == Slot::Kind::InPlace)
         return PointedRow{*page, slot->row, place, place};
     return followPointer(source, place, definition_->page, Slot::Kind::Body);
+}
+
+/// A long value stays in the row if it can; then it goes outside; then the row moves.
+std::optional<RowChange::Form> RowChange::chooseForm(const PointedRow& site) {
+    for (const std::size_t longestInline : {kLongestInline, std::size_t{0}})
+        if (fits(site, assemble(longestInline)))
+            return Form{longestInline, true};
+    for (const std::size_t longestInline : {kLongestInline, std::size_t{0}})
+        if (assemble(longestInline).size() <= changes_->format().longestRow)
+            return Form{longestInline, false};
+    return std::nullopt;
 }
 
 /// Whether the page the row lies on takes it in its new form.

@@ -41,7 +41,13 @@ public:
 private:
     using RowBytes = std::vector<std::uint8_t>;
 
+    struct Form {
+        std::size_t longestInline; ///< longer Memo and OLE values lie outside the row
+        bool staysOnPage;
+    };
+
     std::optional<PointedRow> locate(RowPointer place);
+    std::optional<Form> chooseForm(const PointedRow& site);
     bool fits(const PointedRow& site, Bytes row);
     RowBytes storedForm(std::size_t cell, std::size_t longestInline) const;
     RowBytes assemble(std::size_t longestInline) const;
