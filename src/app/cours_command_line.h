@@ -1,6 +1,8 @@
 #pragma once
 
+#include "calculator/calc_command.h"
 #include "coursetool/drawing_request.h"
+#include "coursetool/exit_code.h"
 
 #include <filesystem>
 #include <string>
@@ -23,6 +25,10 @@ struct DumpCall {
     std::string table; ///< empty: the tables and their columns
 };
 using TraceCall = coursetool::TraceRequest;
+using CalcCall = calculator::CalcOptions;
+struct SymbolsCall {
+    std::filesystem::path course; ///< empty: the symbols of the program alone
+};
 /// Help or version, for standard output.
 struct ShowText {
     std::string text;
@@ -30,9 +36,11 @@ struct ShowText {
 /// The call makes no sense; the sentence says why.
 struct WrongCall {
     std::string sentence;
+    int status = static_cast<int>(coursetool::ExitCode::WrongCall);
 };
 
-using CoursCall = std::variant<BuildCall, ExtractCall, DumpCall, TraceCall, ShowText, WrongCall>;
+using CoursCall = std::variant<BuildCall, ExtractCall, DumpCall, TraceCall, SymbolsCall, CalcCall,
+                               ShowText, WrongCall>;
 
 /// Reads the command line. Directories and files that must be there are; an output directory of
 /// `extract` is empty or not there yet.

@@ -15,7 +15,7 @@ extern "C" Q_DECL_EXPORT void orvalenteTrace(int& argc, char** argv,
     const QGuiApplication application(argc, argv);
     const platform::FontBook fonts;
     if (request.source.empty())
-        coursetool::tracePage(request.course, request.page, fonts, out, report);
+        coursetool::tracePage(request, fonts, out, report);
     else
-        coursetool::traceSource(request.source, fonts, out, report);
+        coursetool::traceSource(request, fonts, out, report);
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "exercises/question_writer.h"
 #include "shell/report_sink.h"
 #include "viewer/neighbours.h"
 
@@ -19,13 +18,6 @@ public:
 private:
     shell::ReportSink& reports_;
     QString sentence_;
-};
-
-class MissingQuestionWriter : public exercises::QuestionWriter {
-public:
-    std::optional<QString> write(int, const QString&) override {
-        return QStringLiteral("Cette édition n’enregistre pas encore les questions.");
-    }
 };
 
 class MissingVideo : public viewer::VideoDevice {
@@ -52,14 +44,6 @@ public:
 
 private:
     shell::ReportSink& reports_;
-};
-
-/// Pages place no links, so there are none to reset.
-class MissingLinks : public viewer::PageLinks {
-public:
-    void shareCursor() override {}
-    void reset() override {}
-    void resetHighlight(int) override {}
 };
 
 } // namespace app

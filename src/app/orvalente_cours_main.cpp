@@ -3,9 +3,11 @@
 #include "coursetool/dump.h"
 #include "coursetool/exit_code.h"
 #include "coursetool/extract.h"
+#include "coursetool/symbols.h"
 #include "platform/module.h"
 
 #include <cstdio>
+#include <iostream>
 
 namespace {
 
@@ -24,18 +26,18 @@ struct Perform {
     Report report;
     OutputBuffer out{stdout};
 
-    ExitCode operator()(const app::BuildCall& call) {
+    int operator()(const app::BuildCall& call) {
         coursetool::build(call.source, call.output, report);
         return verdict();
     }
-    ExitCode operator()(const app::ExtractCall& call) {
+    int operator()(const app::ExtractCall& call) {
         coursetool::extract(call.course, call.output, report);
         return verdict();
     }
-    ExitCode operator()(const app::DumpCall& call) {
-        return coursetool::dump(call.file, call.table, out, report);
+    int operator()(const app::DumpCall& call) {
+        return status(coursetool::dump(call.file, call.table, out, report));
     }
-    ExitCode operator()(const app::TraceCall& call) {
+    int operator()(const app::TraceCall& call) {
         const auto module =
             platform::loadModuleFunction(ORVALENTE_DRAWING_MODULE, coursetool::kTraceSymbol);
         if (!module.address) {
@@ -47,25 +49,39 @@ struct Perform {
         reinterpret_cast<coursetool::TraceFunction>(module.address)(argc, argv, call, out, report);
         return verdict();
     }
-    ExitCode operator()(const app::ShowText& show) {
-        print(stdout, show.text);
-        return ExitCode::Fine;
+    int operator()(const app::CalcCall& call) {
+        std::ios::sync_with_stdio(false);
+        std::cin.tie(nullptr);
+        const int error = calculator::runCalc(call, std::cin, std::cout, std::cerr);
+        if (std::cout.flush())
+            return error;
+        report.fault({"sortie standard"}, "tout n’a pas pu être écrit");
+        return verdict();
     }
-    ExitCode operator()(const app::WrongCall& wrong) {
+    int operator()(const app::SymbolsCall& call) {
+        coursetool::listSymbols(call.course, out, report);
+        return verdict();
+    }
+    int operator()(const app::ShowText& show) {
+        print(stdout, show.text);
+        return status(ExitCode::Fine);
+    }
+    int operator()(const app::WrongCall& wrong) {
         print(stderr, "orvalente-cours : " + wrong.sentence +
                           " ; « orvalente-cours --help » montre les sous-commandes.\n");
-        return ExitCode::WrongCall;
+        return wrong.status;
     }
 
-    ExitCode verdict() const { return report.hasFaults() ? ExitCode::Faults : ExitCode::Fine; }
+    static int status(ExitCode code) { return static_cast<int>(code); }
+    int verdict() const { return status(report.hasFaults() ? ExitCode::Faults : ExitCode::Fine); }
 };
 
 } // namespace
 
 int main(int argc, char** argv) {
     Perform perform{argc, argv, {}};
-    const ExitCode code = std::visit(perform, app::readCoursCommandLine(argc, argv));
+    const int status = std::visit(perform, app::readCoursCommandLine(argc, argv));
     for (const std::string& line : perform.report.lines())
         print(stderr, line + '\n');
-    return static_cast<int>(code);
+    return status;
 }

@@ -5,17 +5,21 @@
 #include "app/prompted_display_warning.h"
 #include "calculator/machine_opener.h"
 #include "exercises/exo_opener.h"
-#include "markup/no_pictures.h"
 #include "markup/renderer.h"
 #include "platform/qt/font_book.h"
 #include "platform/qt/look/message_dialog.h"
+#include "platform/qt/mounted_drives.h"
 #include "platform/qt/patient_activator.h"
+#include "platform/qt/qt_beeper.h"
 #include "platform/qt/qt_processes.h"
 #include "platform/qt/qt_screen.h"
 #include "shell/course_directory.h"
+#include "shell/data_location.h"
 #include "shell/launcher.h"
 #include "shell/start_up.h"
 #include "viewer/action_dispatcher.h"
+#include "viewer/course_pictures.h"
+#include "viewer/link_controls.h"
 #include "viewer/main_commands.h"
 #include "viewer/multim.h"
 
@@ -90,13 +94,15 @@ struct ShellApplication::Parts {
     Parts(const CommandLine& commandLine, double scale)
         : screen(scale), window(state, fonts, screen),
           launcher(state, prompter, processes, activator, window), modules(launcher), video(window),
-          printing(window),
+          printing(window), links(window, fonts, drawing.links),
           orderForm(window, QStringLiteral("Cette édition n’a pas encore de bon de commande.")),
           search(window, QStringLiteral("Cette édition n’a pas encore la recherche.")),
           help(window, QStringLiteral("Cette édition n’a pas encore d’aide.")),
           installation(window, QStringLiteral("Cette édition ne s’actualise pas encore.")),
+          drives(courseDirectory(commandLine), commandLine.drives),
+          symbols(courseDirectory(commandLine)),
           exercise(window, {state, drawing, pictures, fonts, screen, prompter, calculator,
-                            commandLine.author ? &questionWriter : nullptr}),
+                            commandLine.author}),
           renderer(drawing, window, pictures, window.recording()),
           pages(state, bound, window, window, renderer, video),
           actions(state, pages, window, modules, exercise, orderForm),
@@ -124,13 +130,16 @@ struct ShellApplication::Parts {
     LaunchedModules modules;
     MissingVideo video;
     MissingPrinting printing;
-    MissingLinks links;
+    viewer::LinkControls links;
     MissingWindow orderForm, search, help, installation;
     Calculator calculator;
     Ending ending;
 
-    markup::NoPictures pictures;
-    MissingQuestionWriter questionWriter;
+    platform::MountedDrives drives;
+    platform::QtBeeper beeper;
+    shell::DataLocation location{state, drives, prompter, beeper};
+    viewer::ImageList symbols;
+    viewer::CoursePictures pictures{location, symbols};
     exercises::ExoOpener exercise;
     markup::Renderer renderer;
     viewer::PageLoader pages;

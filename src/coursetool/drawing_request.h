@@ -4,6 +4,7 @@
 #include "coursetool/report.h"
 
 #include <filesystem>
+#include <map>
 #include <string>
 
 namespace coursetool {
@@ -13,6 +14,7 @@ struct TraceRequest {
     std::filesystem::path course;
     int page = 0;
     std::filesystem::path source;
+    std::map<char, std::filesystem::path> drives; ///< directories by letter, in upper case
 };
 
 // What draws is a module of its own, which brings Qt along; it is loaded when it is needed, so that

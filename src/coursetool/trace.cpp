@@ -4,6 +4,7 @@
 #include "coursetool/paths.h"
 #include "coursetool/source_text.h"
 #include "coursetool/tables.h"
+#include "coursetool/tool_pictures.h"
 #include "coursetool/trace_lines.h"
 #include "jet/unicode.h"
 #include "platform/file_names.h"
@@ -43,38 +44,41 @@ std::unique_ptr<platform::Recordset> openCourse(const std::filesystem::path& cou
 
 } // namespace
 
-void tracePage(const std::filesystem::path& course, int number,
-               const platform::TextMetrics& metrics, OutputBuffer& out, Report& report) {
-    const auto records = openCourse(course, report);
+void tracePage(const TraceRequest& request, const platform::TextMetrics& metrics, OutputBuffer& out,
+               Report& report) {
+    const auto records = openCourse(request.course, report);
     if (!records)
         return;
     shell::SharedState state;
     viewer::buildPageIndex(*records, state);
 
-    OffscreenPage page(metrics);
+    ToolPictures pictures(request.course, request.drives, report);
+    OffscreenPage page(metrics, pictures);
     viewer::BoundRecord bound;
     viewer::PageLoader loader(state, bound, page, page, page.renderer(), page);
     loader.bindTo(*records);
-    if (const auto position = viewer::positionByNumber(state, number))
+    if (const auto position = viewer::positionByNumber(state, request.page))
         loader.moveTo(*position);
     loader.takeOverOrderIndex();
     loader.showCurrentRecord();
 
-    const QString wanted = QString::number(number);
+    const QString wanted = QString::number(request.page);
     if (bound.TextID != wanted)
-        report.warning({shown(course)}, "aucune page ne porte le numéro " + wanted.toStdString() +
-                                            " : voici celle que le programme montre à sa place");
+        report.warning({shown(request.course)},
+                       "aucune page ne porte le numéro " + wanted.toStdString() +
+                           " : voici celle que le programme montre à sa place");
     write(page, out, report);
 }
 
-void traceSource(const std::filesystem::path& file, const platform::TextMetrics& metrics,
+void traceSource(const TraceRequest& request, const platform::TextMetrics& metrics,
                  OutputBuffer& out, Report& report) {
-    const auto bytes = readBytes(file, report);
+    const auto bytes = readBytes(request.source, report);
     if (!bytes)
         return;
-    checkUtf8(*bytes, shown(file), report);
+    checkUtf8(*bytes, shown(request.source), report);
     const std::u16string source = jet::toUtf16(*bytes);
-    OffscreenPage page(metrics);
+    ToolPictures pictures({}, request.drives, report);
+    OffscreenPage page(metrics, pictures);
     page.draw(QString::fromUtf16(source.data(), static_cast<qsizetype>(source.size())));
     write(page, out, report);
 }

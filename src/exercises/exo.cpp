@@ -89,7 +89,7 @@ Exo::Exo(const Parts& parts, QWidget& mainWindow)
     addStrip();
     renderer_.emplace(parts_.drawing, page_, parts_.pictures, recording_);
     session_.emplace(parts_.shared, parts_.test, *this, *answers_, parts_.course, parts_.prompter);
-    if (parts_.writer)
+    if (parts_.author)
         addAuthoringSwitch();
     connectHandlers();
     new look::MnemonicDisplay(this);
@@ -180,7 +180,7 @@ void Exo::addAuthoringSwitch() {
     source_->setContextMenuPolicy(Qt::NoContextMenu); // Qt's own menu is not in French
     source_->setGeometry(kFrame1);
     source_->hide();
-    edit_.emplace(*session_, *parts_.writer, parts_.prompter, [this] { openTables(); });
+    edit_.emplace(*session_, parts_.prompter);
 }
 
 void Exo::run() {
@@ -206,11 +206,14 @@ void Exo::Form_Load() {
     session_->load(tables_.description.get(), tables_.contenu.get());
 }
 
-/// Opens the tables again; keeps those that are open when that fails.
-void Exo::openTables() {
-    ExerciseTables fresh = openExerciseTables(parts_.shared.InstallDir);
+/// Opens the tables again, to be written; read-only ones stay where that cannot be.
+void Exo::makeWritable() {
+    if (writable_)
+        return;
+    ExerciseTables fresh = openExerciseTables(parts_.shared.InstallDir, platform::Access::Writable);
     if (!fresh.description || !fresh.contenu)
         return;
+    writable_ = true;
     session_->reopen(fresh.contenu.get());
     tables_ = std::move(fresh);
 }

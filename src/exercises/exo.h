@@ -4,7 +4,6 @@
 #include "exercises/exercise_tables.h"
 #include "exercises/question_edit.h"
 #include "exercises/question_page.h"
-#include "exercises/question_writer.h"
 #include "exercises/test_session.h"
 #include "exercises/test_state.h"
 #include "exercises/test_view.h"
@@ -63,7 +62,7 @@ public:
         platform::Prompter& prompter;
         CourseWindow& course;
         CalculatorBeside& calculator;
-        QuestionWriter* writer = nullptr; ///< null for pupils, who see no authoring switch
+        bool author = false; ///< shows the authoring switch
     };
 
     Exo(const Parts& parts, QWidget& mainWindow);
@@ -118,7 +117,7 @@ private:
 
     void Form_Load();
     void place();
-    void openTables();
+    void makeWritable();
 
     void Command3_MouseUp();
     void command4_MouseUp();
@@ -175,8 +174,9 @@ private:
 
     bool markerPlaced_ = false;
     bool questionHadFocus_ = false;
-    bool asking_ = false;  ///< the question before closing is on the screen
-    bool leaving_ = false; ///< it may close without a question
+    bool asking_ = false;   ///< the question before closing is on the screen
+    bool writable_ = false; ///< the tables are opened for an author
+    bool leaving_ = false;  ///< it may close without a question
 };
 
 } // namespace exercises

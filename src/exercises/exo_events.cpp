@@ -103,7 +103,7 @@ void Exo::Labelien_Click(const QString& tag) {
 
 void Exo::Command1_Click() {
     if (source_->isHidden()) {
-        openTables();
+        makeWritable();
         showSource();
         frame1_->hide();
         source_->show();
@@ -119,7 +119,7 @@ void Exo::Command1_Click() {
 
 /// Shows the field "question" of the current record to the author.
 void Exo::showSource() {
-    source_->setPlainText(edit_->begin());
+    source_->setPlainText(session_->record().question());
     source_->document()->setModified(false);
 }
 

@@ -21,7 +21,7 @@ public:
         const platform::Screen& screen;
         platform::Prompter& prompter;
         CalculatorBeside& calculator;
-        QuestionWriter* writer = nullptr; ///< null for pupils
+        bool author = false; ///< shows the authoring switch
     };
 
     ExoOpener(viewer::Multim& window, const Parts& parts) : window_(window), parts_(parts) {}

@@ -4,33 +4,20 @@ namespace exercises {
 
 namespace {
 
-constexpr char16_t kNoRecord[] = u"Cette question n’a pas de fiche dans la base des exercices.";
-
 platform::Message failure(const QString& reason, const char16_t* consequence,
                           platform::Message::Buttons buttons) {
     return {.title = QStringLiteral("Question non enregistrée"),
-            .text = reason + QStringLiteral("\r\n\r\n") + QString::fromUtf16(consequence),
+            .text = QStringLiteral("La question n’a pas été enregistrée : ") + reason +
+                    QStringLiteral(".\r\n\r\n") + QString::fromUtf16(consequence),
             .icon = platform::Message::Icon::Exclamation,
             .buttons = buttons};
 }
 
 } // namespace
 
-QString QuestionEdit::begin() {
-    position_ = session_.record().position();
-    return session_.record().question();
-}
-
 /// Why `typed` is not in the database; nothing when it is.
 std::optional<QString> QuestionEdit::write(const std::optional<QString>& typed) {
-    if (!typed)
-        return std::nullopt;
-    if (!position_)
-        return QString::fromUtf16(kNoRecord);
-    auto reason = writer_.write(*position_, *typed);
-    if (!reason)
-        reopen_();
-    return reason;
+    return typed ? session_.record().setQuestion(*typed) : std::nullopt;
 }
 
 bool QuestionEdit::commit(const std::optional<QString>& typed) {

@@ -1,30 +1,23 @@
 #pragma once
 
-#include "exercises/question_writer.h"
 #include "exercises/test_session.h"
 #include "platform/message_box.h"
 
 #include <QString>
 
-#include <functional>
 #include <optional>
 
 namespace exercises {
 
-/// What the authoring switch does: it takes the field "question" of the record shown, and nothing
-/// that a wrong answer adds to it, and hands what the author makes of it to the writer.
+/// Puts what an author has typed over a question into the field "question" of the record shown:
+/// that and nothing else, so never what a wrong answer adds to it.
 class QuestionEdit {
 public:
-    /// `reopen` opens the tables again, so that the session sees what was written.
-    QuestionEdit(const TestSession& session, QuestionWriter& writer, platform::Prompter& prompter,
-                 std::function<void()> reopen)
-        : session_(session), writer_(writer), prompter_(prompter), reopen_(std::move(reopen)) {}
+    QuestionEdit(TestSession& session, platform::Prompter& prompter)
+        : session_(session), prompter_(prompter) {}
 
-    /// Starts over the record now shown; its source.
-    QString begin();
-
-    /// Writes `typed` to the record that begin() met; absent when the author has typed nothing.
-    /// False when it could not be written: the author has been told, and it must stay in sight.
+    /// Writes `typed`; absent when the author has typed nothing. False when it could not be
+    /// written: the author has been told, and it must stay in sight.
     bool commit(const std::optional<QString>& typed);
 
     enum class Closing {
@@ -38,11 +31,8 @@ public:
 private:
     std::optional<QString> write(const std::optional<QString>& typed);
 
-    const TestSession& session_;
-    QuestionWriter& writer_;
+    TestSession& session_;
     platform::Prompter& prompter_;
-    std::function<void()> reopen_;
-    std::optional<int> position_;
 };
 
 } // namespace exercises

@@ -34,8 +34,9 @@ public:
     /// opened. The test stays where it is.
     void reopen(platform::Recordset* contenu);
     /// The record of the question shown.
-    const QuestionRecord& record() const { return record_; }
-    /// The window has become the active one: shows the current question.
+    QuestionRecord& record() { return record_; }
+    /// The window has come up: shows the current question. Once a showing: drawing it again would
+    /// take away what has been ticked or typed.
     void activate();
 
     void tritexte(); ///< shows the current question, with what stands around it

@@ -37,12 +37,12 @@ struct Trace : testing::Test {
     Lines source(std::string_view text) {
         work.write("page.txt", text);
         return lines([&](auto& out) {
-            coursetool::traceSource(work.path("page.txt"), metrics, out, report);
+            coursetool::traceSource({{}, 0, work.path("page.txt"), {}}, metrics, out, report);
         });
     }
     Lines page(int number) {
         return lines([&](auto& out) {
-            coursetool::tracePage(work.path("out"), number, metrics, out, report);
+            coursetool::tracePage({work.path("out"), number, {}, {}}, metrics, out, report);
         });
     }
     void buildCourse() {
