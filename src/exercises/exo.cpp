@@ -196,6 +196,7 @@ void Exo::start() {
     place();
     session_->activate();
     show();
+    activateWindow();
 }
 
 void Exo::Form_Load() {

@@ -138,7 +138,6 @@ private:
     bool keepTyped();
     bool mayClose();
     void fitQuestion();
-    void reveal(const QWidget& control);
     void focusQuestion();
     void nameQuestion();
 

@@ -6,7 +6,6 @@
 #include "exercises/placement.h"
 #include "exercises/strip.h"
 #include "platform/qt/look/button.h"
-#include "platform/qt/look/scroll_bar.h"
 #include "platform/qt/look/text_field.h"
 #include "platform/twips.h"
 #include "viewer/page_panel.h"
@@ -28,9 +27,6 @@ namespace {
 /// What a wheel reports for one notch, and how far the question then moves.
 constexpr double kWheelNotch = 120;
 constexpr double kLinesPerNotch = 3;
-
-/// Room above or below a control that the keyboard brings into sight.
-constexpr int kRevealMarginPx = 8;
 
 bool isEnter(const QKeyEvent& event) {
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
@@ -231,23 +227,8 @@ bool Exo::eventFilter(QObject* watched, QEvent* event) {
             return true;
     }
     if (event->type() == QEvent::FocusIn && Picture2_->isAncestorOf(control))
-        reveal(*control);
+        frame1_->reveal(control->geometry());
     return QWidget::eventFilter(watched, event);
-}
-
-/// Scrolls as little as it takes to have a control of the question in sight.
-void Exo::reveal(const QWidget& control) {
-    const int above = control.y() - kRevealMarginPx;
-    const int below = control.geometry().bottom() + 1 + kRevealMarginPx;
-    QScrollBar& bar = frame1_->VScroll1();
-    const int viewTop = -Picture2_->y();
-    const auto scrollTo = [&bar](int top) {
-        bar.setValue(qRound(-top * platform::kTwipsPerPixel)); // the bar holds it in its range
-    };
-    if (above < viewTop)
-        scrollTo(above);
-    else if (below > viewTop + bar.height())
-        scrollTo(below - bar.height());
 }
 
 } // namespace exercises

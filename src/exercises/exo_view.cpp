@@ -166,7 +166,7 @@ void Exo::putInTabOrder() {
 /// leads to its choices.
 void Exo::focusQuestion() {
     platform::look::TextField& Text1 = answers_->Text1();
-    if (!Text1.isHidden() && Text1.isEnabled() && session_->canValidate())
+    if (!Text1.isHidden() && !isAnswered(parts_.test, parts_.test.CurrentQuestion))
         Text1.setFocus();
     else if (questionHadFocus_)
         Picture2_->setFocus();
