@@ -23,8 +23,8 @@ constexpr double kRadius = 6;
 } // namespace
 
 Cjuste::Cjuste(QWidget* window)
-    : QDialog(window, Qt::Dialog | Qt::FramelessWindowHint), Image1_(QStringLiteral("bravo-1")),
-      Image2_(QStringLiteral("bravo-2")) {
+    : QDialog(window, Qt::Dialog | Qt::FramelessWindowHint),
+      Image1_(QStringLiteral("faces/bravo-1")), Image2_(QStringLiteral("faces/bravo-2")) {
     const QString words = QStringLiteral("Réponse exacte");
     setObjectName(QStringLiteral("Cjuste"));
     setWindowTitle(words);

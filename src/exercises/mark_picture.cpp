@@ -14,7 +14,7 @@ constexpr int kMarkPx = 16;
 class DrawnMark : public platform::Picture {
 public:
     explicit DrawnMark(const QString& name) : icon_(name) {
-        QFile file(QStringLiteral(":/look/icons/%1.svg").arg(name));
+        QFile file(platform::look::Icon::fileOf(name));
         if (file.open(QIODevice::ReadOnly))
             bytes_ = file.readAll();
     }
@@ -40,7 +40,7 @@ private:
 } // namespace
 
 QString markName(Mark mark) {
-    return mark == Mark::InSolution ? QStringLiteral("mark-right") : QStringLiteral("mark-wrong");
+    return mark == Mark::InSolution ? QStringLiteral("faces/right") : QStringLiteral("faces/wrong");
 }
 
 std::shared_ptr<const platform::Picture> markPicture(Mark mark) {

@@ -166,7 +166,7 @@ Marker::Marker(QWidget* parent) : QWidget(parent) {
 }
 
 void Marker::setFace(int face) {
-    face_ = look::Icon(QStringLiteral("face-%1").arg(face));
+    face_ = look::Icon(QStringLiteral("faces/%1").arg(face));
     update();
 }
 
