@@ -1,11 +1,12 @@
 #include "app/cours_command_line.h"
 
+#include "app/render_words.h"
+#include "app/whole_number.h"
 #include "coursetool/build.h"
 #include "coursetool/paths.h"
 #include "coursetool/report.h"
 
 #include <CLI/CLI.hpp>
-#include <charconv>
 #include <optional>
 
 namespace app {
@@ -22,7 +23,9 @@ struct Typed {
     std::string output;
     std::string table;
     std::string page;
+    std::string question;
     std::string source;
+    RenderWords render;
 };
 
 class Reader {
@@ -51,13 +54,29 @@ public:
         positional(dump_, "FICHIER.mdb", typed_.from, "Base de données");
         positional(dump_, "TABLE", typed_.table, "Table ; sans elle, les tables et leurs champs");
 
-        trace_ = add("trace", "Les opérations de dessin d’une page, un objet JSON par ligne");
+        trace_ = add("trace", "Les opérations de dessin, un objet JSON par ligne");
         positional(trace_, "DOSSIER", typed_.from, "Dossier d’installation");
-        trace_->add_option("--page", typed_.page, "Numéro de la page")->type_name("N");
+        pageAndQuestion(trace_, typed_.page, typed_.question);
         trace_
             ->add_option("--source", typed_.source,
                          "Dessine le texte d’une page, ses fins de ligne telles quelles")
             ->type_name("FICHIER");
+
+        RenderWords& words = typed_.render;
+        render_ = add("render", "Dessine des pages et des questions dans des fichiers");
+        positional(render_, "DOSSIER", words.course, "Dossier d’installation");
+        pageAndQuestion(render_, words.page, words.question);
+        render_->add_flag("--all", words.all, "Toutes les pages, puis toutes les questions");
+        render_
+            ->add_option("-o,--output", words.output,
+                         "Fichier à écrire ; avec --all un dossier, ou un PDF pour le tout")
+            ->type_name("SORTIE");
+        render_
+            ->add_option("--format", words.format,
+                         "png, pdf ou svg ; d’ordinaire la fin du nom de SORTIE le dit")
+            ->type_name("FORMAT");
+        render_->add_option("--scale", words.scale, "Agrandissement, de 0.1 à 16 (png et svg)")
+            ->type_name("F");
     }
 
     CoursCall read(int argc, char** argv) {
@@ -85,6 +104,12 @@ private:
         command->add_option(name, value, description)->type_name("");
     }
 
+    static void pageAndQuestion(CLI::App* command, std::string& page, std::string& question) {
+        command->add_option("--page", page, "Numéro de la page")->type_name("N");
+        command->add_option("--question", question, "Référence de la question : 307")
+            ->type_name("REF");
+    }
+
     void output(CLI::App* command, const char* description) {
         command->add_option("-o,--output", typed_.output, description)->type_name("DOSSIER");
     }
@@ -109,6 +134,8 @@ private:
             return dumpCall();
         if (trace_->parsed())
             return traceCall();
+        if (render_->parsed())
+            return renderCall();
         return WrongCall{"il manque une sous-commande"};
     }
 
@@ -144,20 +171,39 @@ private:
     }
 
     CoursCall traceCall() const {
-        TraceCall call{pathFrom(typed_.from), 0, pathFrom(typed_.source)};
+        TraceCall call{pathFrom(typed_.from), wholeNumber(typed_.page),
+                       wholeNumber(typed_.question), pathFrom(typed_.source)};
         if (!typed_.source.empty()) {
-            if (!typed_.from.empty() || !typed_.page.empty())
-                return WrongCall{"« --source » va sans dossier ni « --page »"};
+            if (!typed_.from.empty() || !typed_.page.empty() || !typed_.question.empty())
+                return WrongCall{"« --source » va sans dossier, « --page » ni « --question »"};
             if (const auto wrong = notAFile(typed_.source, "le texte de la page"))
                 return *wrong;
             return call;
         }
         if (const auto wrong = notADirectory(typed_.from, "le dossier d’installation"))
             return *wrong;
-        const auto [end, error] =
-            std::from_chars(typed_.page.data(), typed_.page.data() + typed_.page.size(), call.page);
-        if (error != std::errc() || *end != '\0')
-            return WrongCall{"il manque « --page N », N un numéro de page"};
+        if (!typed_.page.empty() && !typed_.question.empty())
+            return WrongCall{"« --page » ou « --question », pas les deux"};
+        if (!call.page && !call.question)
+            return WrongCall{"il manque « --page N » ou « --question REF », des nombres"};
+        return call;
+    }
+
+    CoursCall renderCall() const {
+        if (const auto wrong = notADirectory(typed_.render.course, "le dossier d’installation"))
+            return *wrong;
+        const auto read = readRenderWords(typed_.render);
+        if (const auto* sentence = std::get_if<std::string>(&read))
+            return WrongCall{*sentence};
+        const auto& call = std::get<RenderCall>(read);
+        const bool intoDirectory = call.all() && call.format != coursetool::RenderFormat::Pdf;
+        std::error_code error;
+        if (!intoDirectory && fs::is_directory(call.output, error))
+            return WrongCall{inQuotes(typed_.render.output) +
+                             " est un dossier : nommer un fichier"};
+        if (intoDirectory && fs::exists(call.output, error) &&
+            !fs::is_directory(call.output, error))
+            return WrongCall{inQuotes(typed_.render.output) + " n’est pas un dossier"};
         return call;
     }
 
@@ -185,6 +231,7 @@ private:
     CLI::App* extract_ = nullptr;
     CLI::App* dump_ = nullptr;
     CLI::App* trace_ = nullptr;
+    CLI::App* render_ = nullptr;
 };
 
 } // namespace

@@ -23,6 +23,7 @@ struct DumpCall {
     std::string table; ///< empty: the tables and their columns
 };
 using TraceCall = coursetool::TraceRequest;
+using RenderCall = coursetool::RenderRequest;
 /// Help or version, for standard output.
 struct ShowText {
     std::string text;
@@ -32,7 +33,8 @@ struct WrongCall {
     std::string sentence;
 };
 
-using CoursCall = std::variant<BuildCall, ExtractCall, DumpCall, TraceCall, ShowText, WrongCall>;
+using CoursCall =
+    std::variant<BuildCall, ExtractCall, DumpCall, TraceCall, RenderCall, ShowText, WrongCall>;
 
 /// Reads the command line. Directories and files that must be there are; an output directory of
 /// `extract` is empty or not there yet.

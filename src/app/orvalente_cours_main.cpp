@@ -36,15 +36,13 @@ struct Perform {
         return coursetool::dump(call.file, call.table, out, report);
     }
     ExitCode operator()(const app::TraceCall& call) {
-        const auto module =
-            platform::loadModuleFunction(ORVALENTE_DRAWING_MODULE, coursetool::kTraceSymbol);
-        if (!module.address) {
-            report.fault({ORVALENTE_DRAWING_MODULE}, "cette partie du programme manque, à "
-                                                     "réinstaller : " +
-                                                         module.reason);
-            return verdict();
-        }
-        reinterpret_cast<coursetool::TraceFunction>(module.address)(argc, argv, call, out, report);
+        if (const auto run = drawing<coursetool::TraceFunction>(coursetool::kTraceSymbol))
+            run(argc, argv, call, out, report);
+        return verdict();
+    }
+    ExitCode operator()(const app::RenderCall& call) {
+        if (const auto run = drawing<coursetool::RenderFunction>(coursetool::kRenderSymbol))
+            run(argc, argv, call, report);
         return verdict();
     }
     ExitCode operator()(const app::ShowText& show) {
@@ -55,6 +53,16 @@ struct Perform {
         print(stderr, "orvalente-cours : " + wrong.sentence +
                           " ; « orvalente-cours --help » montre les sous-commandes.\n");
         return ExitCode::WrongCall;
+    }
+
+    /// A function of the module that draws; a fault, and null, when it is not to be had.
+    template <class Function>
+    Function drawing(const char* symbol) {
+        const auto found = platform::loadModuleFunction(ORVALENTE_DRAWING_MODULE, symbol);
+        if (!found.address)
+            report.fault({ORVALENTE_DRAWING_MODULE},
+                         "cette partie du programme manque, à réinstaller : " + found.reason);
+        return reinterpret_cast<Function>(found.address);
     }
 
     ExitCode verdict() const { return report.hasFaults() ? ExitCode::Faults : ExitCode::Fine; }

@@ -9,13 +9,13 @@ namespace coursetool {
 using platform::kTwipsPerPixel;
 using platform::SurfaceId;
 
-OffscreenPage::OffscreenPage(const platform::TextMetrics& metrics)
+OffscreenPage::OffscreenPage(const platform::TextMetrics& metrics, markup::PictureShelf& pictures)
     : metrics_(metrics), pictureTexte_(SurfaceId::PictureTexte,
                                        viewer::kPageWidthPx * kTwipsPerPixel, metrics, recording_),
       pictureIllus_(SurfaceId::PictureIllus, viewer::kIllustrationWidthPx * kTwipsPerPixel, metrics,
                     recording_),
       titre_(SurfaceId::Titre, viewer::kTitleWidthPx * kTwipsPerPixel, metrics, recording_),
-      renderer_(state_, *this, pictures_, recording_) {
+      renderer_(state_, *this, pictures, recording_) {
     state_.surfaceDessin = &pictureTexte_;
     state_.fenetreSource = this;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "markup/no_pictures.h"
+#include "markup/picture_shelf.h"
 #include "markup/renderer.h"
 #include "markup/windows.h"
 #include "platform/recording.h"
@@ -19,7 +19,7 @@ class OffscreenPage : public markup::PageWindow,
                       public viewer::PageView,
                       public viewer::VideoDevice {
 public:
-    explicit OffscreenPage(const platform::TextMetrics& metrics);
+    OffscreenPage(const platform::TextMetrics& metrics, markup::PictureShelf& pictures);
 
     markup::DrawingState& state() { return state_; }
     markup::Renderer& renderer() { return renderer_; }
@@ -64,7 +64,6 @@ private:
     platform::Surface pictureIllus_;
     platform::Surface titre_;
     platform::RichTextHolder code_;
-    markup::NoPictures pictures_;
     markup::DrawingState state_;
     markup::Renderer renderer_;
 };

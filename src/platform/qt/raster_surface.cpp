@@ -1,9 +1,8 @@
 #include "platform/qt/raster_surface.h"
 
+#include "platform/qt/operation_painter.h"
 #include "platform/surface.h"
 #include "platform/twips.h"
-
-#include <QGlyphRun>
 
 #include <algorithm>
 #include <cmath>
@@ -25,67 +24,18 @@ constexpr int kFirstRowsPx = 448;
 /// A picture no taller than this is used again for the next page, in logical pixels.
 constexpr int kKeptRowsPx = 2000;
 
-/// Positions beyond this many logical pixels are outside any picture.
-constexpr double kFarPx = 1e6;
-
 } // namespace
 
-/// Draws operations on the image, in device pixels. Lines and fills keep to whole pixels, so that
-/// they are crisp at any density.
+/// Draws operations on the image, which grows as they need it.
 class RasterSurface::Player {
 public:
-    explicit Player(RasterSurface& target) : target_(target) {}
+    explicit Player(RasterSurface& target)
+        : target_(target), operations_(painter_, target.fonts_, target.ratio_) {}
 
-    void operator()(const TextOperation& text) {
-        if (text.surface != target_.id_ || !reachable(text.x, text.y))
-            return;
-        const double bottom = text.y + target_.fonts_.height(text.font);
-        if (!room(text.y, bottom))
-            return;
-        const double x = toDevice(text.x);
-        const double foot = std::round(toDevice(text.y + target_.fonts_.ascent(text.font)));
-        painter().setPen(QColor::fromRgb(text.ink));
-        const double pixelSize = fontPixels(text.font.points) * target_.ratio_;
-        for (const FontBook::Run& run : target_.fonts_.place(text.font, text.text))
-            drawRun(run, target_.fonts_.deviceFont(text.font, run.stage, pixelSize), x, foot);
-        if (text.font.underline)
-            underline(text, x, foot);
-    }
-
-    void operator()(const LineOperation& line) {
-        if (line.surface != target_.id_ || !reachable(line.x1, line.y1) ||
-            !reachable(line.x2, line.y2))
-            return;
-        const double half = line.lineWidth * kTwipsPerPixel;
-        if (!room(std::min(line.y1, line.y2), std::max(line.y1, line.y2) + half))
-            return;
-        const int width = std::max(1, qRound(line.lineWidth * target_.ratio_));
-        if (line.y1 == line.y2 || line.x1 == line.x2) {
-            straightLine(line, width);
-            return;
-        }
-        painter().setPen(QPen(QColor::fromRgb(line.ink), width));
-        painter().setRenderHint(QPainter::Antialiasing);
-        // A line of one pixel covers the pixel at its position.
-        const double centre = target_.ratio_ / 2;
-        painter().drawLine(QPointF(toDevice(line.x1) + centre, toDevice(line.y1) + centre),
-                           QPointF(toDevice(line.x2) + centre, toDevice(line.y2) + centre));
-        painter().setRenderHint(QPainter::Antialiasing, false);
-    }
-
-    void operator()(const FillOperation& fill) {
-        if (fill.surface != target_.id_ || !reachable(fill.x, fill.y) || fill.width <= 0 ||
-            fill.height <= 0 || !room(fill.y, fill.y + fill.height))
-            return;
-        const int left = pixel(fill.x);
-        const int top = pixel(fill.y);
-        const int right = pixel(std::min(fill.x + fill.width, kFarPx * kTwipsPerPixel));
-        const int bottom = pixel(std::min(fill.y + fill.height, kFarPx * kTwipsPerPixel));
-        // AND of ink and picture: black text stays black, white paper turns into the ink.
-        if (fill.mode == FillMode::Mask)
-            painter().setCompositionMode(QPainter::RasterOp_SourceAndDestination);
-        painter().fillRect(left, top, right - left, bottom - top, QColor::fromRgb(fill.ink));
-        painter().setCompositionMode(QPainter::CompositionMode_SourceOver);
+    template <class Operation>
+    void operator()(const Operation& operation) {
+        if constexpr (Drawn<Operation>)
+            draw(operation);
     }
 
     void operator()(const ClearOperation& clear) {
@@ -95,44 +45,22 @@ public:
         target_.wipe();
     }
 
-    void operator()(const PictureOperation& picture) {
-        if (picture.surface != target_.id_ || !reachable(picture.x, picture.y) ||
-            !room(picture.y, picture.y + picture.height))
-            return;
-        const QRect place(
-            QPoint(pixel(picture.x), pixel(picture.y)),
-            QPoint(pixel(std::min(picture.x + picture.width, kFarPx * kTwipsPerPixel)) - 1,
-                   pixel(std::min(picture.y + picture.height, kFarPx * kTwipsPerPixel)) - 1));
-        if (!place.isEmpty())
-            painter().drawImage(place.topLeft(), picture.picture->image(place.size()));
-    }
-
-    // Links and answers are controls of their own on the window.
-    void operator()(const LinkOperation&) {}
-    void operator()(const MenuOperation&) {}
-    void operator()(const FieldOperation&) {}
-    void operator()(const VideoOperation&) {}
-    void operator()(const SwitchOperation&) {}
-    void operator()(const CaptionOperation&) {}
-    void operator()(const FailedOperation&) {}
-
     void end() {
         if (painter_.isActive())
             painter_.end();
     }
 
 private:
-    static bool reachable(double x, double y) {
-        return std::abs(x) < kFarPx * kTwipsPerPixel && std::abs(y) < kFarPx * kTwipsPerPixel;
-    }
-
-    double toDevice(double twips) const { return twips / kTwipsPerPixel * target_.ratio_; }
-    int pixel(double twips) const { return qRound(toDevice(twips)); }
-
-    QPainter& painter() {
+    template <class Operation>
+    void draw(const Operation& operation) {
+        if (operation.surface != target_.id_)
+            return;
+        const auto span = operations_.span(operation);
+        if (!span || !room(span->top, span->bottom))
+            return;
         if (!painter_.isActive())
             painter_.begin(&target_.image_);
-        return painter_;
+        operations_.draw(operation);
     }
 
     /// Makes the picture tall enough for something between two heights; false when nothing of it
@@ -152,40 +80,9 @@ private:
         return true;
     }
 
-    void drawRun(const FontBook::Run& run, const QRawFont& font, double x, double foot) {
-        if (!font.isValid())
-            return;
-        QList<QPointF> positions;
-        positions.reserve(run.offsets.size());
-        for (const double offset : run.offsets)
-            positions.append(QPointF(toDevice(offset), 0));
-        QGlyphRun glyphs;
-        glyphs.setRawFont(font);
-        glyphs.setGlyphIndexes(run.glyphs);
-        glyphs.setPositions(positions);
-        painter().drawGlyphRun(QPointF(x, foot), glyphs);
-    }
-
-    void underline(const TextOperation& text, double x, double foot) {
-        const double em = fontPixels(text.font.points) * target_.ratio_;
-        // A tenth of the em below the foot, a fourteenth thick: where the text face has it.
-        const int thickness = std::max(1, qRound(em / 14));
-        painter().fillRect(qRound(x), qRound(foot + em / 10), qRound(toDevice(text.width)),
-                           thickness, QColor::fromRgb(text.ink));
-    }
-
-    void straightLine(const LineOperation& line, int width) {
-        const int x1 = pixel(std::min(line.x1, line.x2));
-        const int x2 = pixel(std::max(line.x1, line.x2));
-        const int y1 = pixel(std::min(line.y1, line.y2));
-        const int y2 = pixel(std::max(line.y1, line.y2));
-        const bool level = line.y1 == line.y2;
-        painter().fillRect(x1, y1, level ? std::max(x2 - x1, width) : width,
-                           level ? width : std::max(y2 - y1, width), QColor::fromRgb(line.ink));
-    }
-
     RasterSurface& target_;
     QPainter painter_;
+    OperationPainter operations_;
 };
 
 RasterSurface::RasterSurface(SurfaceId id, int widthPx, const FontBook& fonts, QRgb background)

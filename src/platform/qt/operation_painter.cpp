@@ -1,0 +1,135 @@
+#include "platform/qt/operation_painter.h"
+
+#include "platform/twips.h"
+
+#include <QGlyphRun>
+
+#include <algorithm>
+#include <cmath>
+
+namespace platform {
+
+namespace {
+
+bool reachable(double x, double y) {
+    return std::abs(x) < kFarPx * kTwipsPerPixel && std::abs(y) < kFarPx * kTwipsPerPixel;
+}
+
+} // namespace
+
+std::optional<OperationPainter::Span> OperationPainter::span(const TextOperation& text) const {
+    if (!reachable(text.x, text.y))
+        return std::nullopt;
+    return Span{text.y, text.y + fonts_.height(text.font)};
+}
+
+std::optional<OperationPainter::Span> OperationPainter::span(const LineOperation& line) const {
+    if (!reachable(line.x1, line.y1) || !reachable(line.x2, line.y2))
+        return std::nullopt;
+    return Span{std::min(line.y1, line.y2),
+                std::max(line.y1, line.y2) + line.lineWidth * kTwipsPerPixel};
+}
+
+std::optional<OperationPainter::Span> OperationPainter::span(const FillOperation& fill) const {
+    if (!reachable(fill.x, fill.y) || !(fill.width > 0) || !(fill.height > 0))
+        return std::nullopt;
+    return Span{fill.y, fill.y + fill.height};
+}
+
+std::optional<OperationPainter::Span>
+OperationPainter::span(const PictureOperation& picture) const {
+    if (!picture.picture || !reachable(picture.x, picture.y))
+        return std::nullopt;
+    return Span{picture.y, picture.y + picture.height};
+}
+
+void OperationPainter::draw(const TextOperation& text) {
+    const double x = toDevice(text.x);
+    const double foot = std::round(toDevice(text.y + fonts_.ascent(text.font)));
+    painter_.setPen(QColor::fromRgb(text.ink));
+    const double pixelSize = fontPixels(text.font.points) * ratio_;
+    for (const FontBook::Run& run : fonts_.place(text.font, text.text))
+        drawRun(run, fonts_.deviceFont(text.font, run.stage, pixelSize), x, foot);
+    if (text.font.underline)
+        underline(text, x, foot);
+}
+
+void OperationPainter::draw(const LineOperation& line) {
+    const int width = std::max(1, qRound(line.lineWidth * ratio_));
+    if (line.y1 == line.y2 || line.x1 == line.x2) {
+        straightLine(line, width);
+        return;
+    }
+    painter_.setPen(QPen(QColor::fromRgb(line.ink), width));
+    painter_.setRenderHint(QPainter::Antialiasing);
+    // A line of one pixel covers the pixel at its position.
+    const double centre = ratio_ / 2;
+    painter_.drawLine(QPointF(toDevice(line.x1) + centre, toDevice(line.y1) + centre),
+                      QPointF(toDevice(line.x2) + centre, toDevice(line.y2) + centre));
+    painter_.setRenderHint(QPainter::Antialiasing, false);
+}
+
+void OperationPainter::draw(const FillOperation& fill) {
+    const int left = pixel(fill.x);
+    const int top = pixel(fill.y);
+    // AND of ink and picture: black text stays black, white paper turns into the ink.
+    if (fill.mode == FillMode::Mask)
+        painter_.setCompositionMode(QPainter::RasterOp_SourceAndDestination);
+    painter_.fillRect(left, top, farEdge(fill.x + fill.width) - left,
+                      farEdge(fill.y + fill.height) - top, QColor::fromRgb(fill.ink));
+    painter_.setCompositionMode(QPainter::CompositionMode_SourceOver);
+}
+
+void OperationPainter::draw(const PictureOperation& picture) {
+    const QPoint corner(pixel(picture.x), pixel(picture.y));
+    const QRect place(corner, QPoint(farEdge(picture.x + picture.width) - 1,
+                                     farEdge(picture.y + picture.height) - 1));
+    if (!place.isEmpty())
+        painter_.drawImage(corner, picture.picture->image(place.size()));
+}
+
+double OperationPainter::toDevice(double twips) const {
+    return twips / kTwipsPerPixel * ratio_;
+}
+
+int OperationPainter::pixel(double twips) const {
+    return qRound(toDevice(twips));
+}
+
+int OperationPainter::farEdge(double twips) const {
+    return pixel(std::min(twips, kFarPx * kTwipsPerPixel));
+}
+
+void OperationPainter::drawRun(const FontBook::Run& run, const QRawFont& font, double x,
+                               double foot) {
+    if (!font.isValid())
+        return;
+    QList<QPointF> positions;
+    positions.reserve(run.offsets.size());
+    for (const double offset : run.offsets)
+        positions.append(QPointF(toDevice(offset), 0));
+    QGlyphRun glyphs;
+    glyphs.setRawFont(font);
+    glyphs.setGlyphIndexes(run.glyphs);
+    glyphs.setPositions(positions);
+    painter_.drawGlyphRun(QPointF(x, foot), glyphs);
+}
+
+void OperationPainter::underline(const TextOperation& text, double x, double foot) {
+    const double em = fontPixels(text.font.points) * ratio_;
+    const int thickness = std::max(1, qRound(em * kUnderlineThickness));
+    painter_.fillRect(qRound(x), qRound(foot + em * kUnderlineDrop), qRound(toDevice(text.width)),
+                      thickness, QColor::fromRgb(text.ink));
+}
+
+void OperationPainter::straightLine(const LineOperation& line, int width) {
+    const int x1 = pixel(std::min(line.x1, line.x2));
+    const int x2 = pixel(std::max(line.x1, line.x2));
+    const int y1 = pixel(std::min(line.y1, line.y2));
+    const int y2 = pixel(std::max(line.y1, line.y2));
+    const bool level = line.y1 == line.y2;
+    painter_.fillRect(x1, y1, level ? std::max(x2 - x1, width) : width,
+                      level ? width : std::max(y2 - y1, width), QColor::fromRgb(line.ink));
+}
+
+} // namespace platform

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "platform/qt/font_book.h"
+#include "platform/recording.h"
+
+#include <QPainter>
+
+#include <optional>
+
+namespace platform {
+
+/// Positions beyond this many logical pixels are outside any picture.
+inline constexpr double kFarPx = 1e6;
+
+/// Draws operations with a painter whose units are device pixels and whose origin is the top left
+/// corner of the surface. Lines and fills keep to whole pixels, so that they are crisp at any
+/// density.
+class OperationPainter {
+public:
+    /// `ratio`: device pixels to a logical one. The painter need not be active yet.
+    OperationPainter(QPainter& painter, const FontBook& fonts, double ratio)
+        : painter_(painter), fonts_(fonts), ratio_(ratio) {}
+
+    /// From where to where something reaches, in twips.
+    struct Span {
+        double top, bottom;
+    };
+
+    /// How far an operation reaches; nothing when no part of it can show.
+    std::optional<Span> span(const TextOperation& text) const;
+    std::optional<Span> span(const LineOperation& line) const;
+    std::optional<Span> span(const FillOperation& fill) const;
+    std::optional<Span> span(const PictureOperation& picture) const;
+
+    /// Draws what has a span.
+    void draw(const TextOperation& text);
+    void draw(const LineOperation& line);
+    void draw(const FillOperation& fill);
+    void draw(const PictureOperation& picture);
+
+private:
+    double toDevice(double twips) const;
+    int pixel(double twips) const;
+    /// The right or lower edge of an area, held where a painter can still reckon with it.
+    int farEdge(double twips) const;
+
+    void drawRun(const FontBook::Run& run, const QRawFont& font, double x, double foot);
+    void underline(const TextOperation& text, double x, double foot);
+    void straightLine(const LineOperation& line, int width);
+
+    QPainter& painter_;
+    const FontBook& fonts_;
+    double ratio_;
+};
+
+/// What an OperationPainter draws. Links and answers are controls of their own on a window; the
+/// rest leaves nothing on a surface.
+template <class Operation>
+concept Drawn = requires(const OperationPainter& painter, const Operation& operation) {
+    painter.span(operation);
+};
+
+} // namespace platform
