@@ -39,6 +39,7 @@ public:
     void setCaption(const QString&) override {}
     void setBusy(bool) override {}
     void refresh(platform::Surface&) override {}
+    void showVideoFrame() override {}
     void preparePrinter() override {}
 
     platform::FontBook fonts;

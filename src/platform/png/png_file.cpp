@@ -1,8 +1,11 @@
 #include "platform/png/png_file.h"
 
+#include <QtEndian>
+
 #include <png.h>
 
 #include <cmath>
+#include <cstring>
 #include <vector>
 
 namespace platform {
@@ -12,8 +15,11 @@ namespace {
 constexpr int kFastest = 1;
 constexpr int kChannels = 3;
 
+/// Pixels that are packed together. Most runs of a page are nothing but paper.
+constexpr int kRun = 16;
+
 /// Compressed data is written in pieces of this size, in bytes.
-constexpr std::size_t kPieceBytes = 256 * 1024;
+constexpr std::size_t kPieceBytes = 64 * 1024;
 
 constexpr double kInchesPerMetre = 1 / 0.0254;
 
@@ -31,6 +37,30 @@ void ignoreWarning(png_structp, png_const_charp) {}
 /// The library would print its errors.
 [[noreturn]] void jumpOut(png_structp png, png_const_charp) {
     png_longjmp(png, 1);
+}
+
+bool isPaper(const QRgb* pixels) {
+    QRgb common = 0xffffffff;
+    for (int i = 0; i < kRun; ++i)
+        common &= pixels[i];
+    return common == 0xffffffff;
+}
+
+/// Four pixels of three bytes are three words of four.
+void packRun(const QRgb* pixels, png_byte* out) {
+    if (isPaper(pixels)) {
+        std::memset(out, 0xff, kRun * kChannels);
+        return;
+    }
+    for (int i = 0; i < kRun; i += 4, out += 4 * kChannels) {
+        const QRgb* four = pixels + i;
+        const quint32 words[] = {
+            qToBigEndian(four[0] << 8 | (four[1] >> 16 & 0xff)),
+            qToBigEndian(four[1] << 16 | (four[2] >> 8 & 0xffff)),
+            qToBigEndian(four[2] << 24 | (four[3] & 0xffffff)),
+        };
+        std::memcpy(out, words, sizeof words);
+    }
 }
 
 } // namespace
@@ -51,8 +81,8 @@ struct PngFile::Writer {
         info = png ? png_create_info_struct(png) : nullptr;
         if (!info)
             return false;
-        row.resize(static_cast<std::size_t>(pixels.width()) * kChannels);
         width = pixels.width();
+        row.resize(static_cast<std::size_t>(width) * kChannels);
         rowsLeft = pixels.height();
         if (setjmp(png_jmpbuf(png)))
             return false;
@@ -73,10 +103,8 @@ struct PngFile::Writer {
     bool add(const QImage& band) {
         if (setjmp(png_jmpbuf(png)))
             return fail();
-        for (int y = 0; y < band.height(); ++y) {
-            pack(reinterpret_cast<const QRgb*>(band.constScanLine(y)));
-            png_write_row(png, row.data());
-        }
+        for (int y = 0; y < band.height(); ++y)
+            png_write_row(png, packed(reinterpret_cast<const QRgb*>(band.constScanLine(y))));
         rowsLeft -= band.height();
         return true;
     }
@@ -93,14 +121,18 @@ struct PngFile::Writer {
         return false;
     }
 
-    void pack(const QRgb* pixels) {
+    /// The row as red, green, blue.
+    const png_byte* packed(const QRgb* pixels) {
         png_byte* out = row.data();
-        for (int x = 0; x < width; ++x) {
-            const QRgb pixel = pixels[x];
-            *out++ = static_cast<png_byte>(pixel >> 16);
-            *out++ = static_cast<png_byte>(pixel >> 8);
-            *out++ = static_cast<png_byte>(pixel);
+        int x = 0;
+        for (; x + kRun <= width; x += kRun, out += kRun * kChannels)
+            packRun(pixels + x, out);
+        for (; x < width; ++x) {
+            *out++ = static_cast<png_byte>(qRed(pixels[x]));
+            *out++ = static_cast<png_byte>(qGreen(pixels[x]));
+            *out++ = static_cast<png_byte>(qBlue(pixels[x]));
         }
+        return row.data();
     }
 };
 
