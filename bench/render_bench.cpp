@@ -1,5 +1,6 @@
 // Page source to pixels, beside the bare cost of the same drawing calls and beside QTextDocument.
 
+#include "bench_page.h"
 #include "markup/no_pictures.h"
 #include "markup/renderer.h"
 #include "platform/qt/font_book.h"
@@ -17,49 +18,15 @@ namespace {
 constexpr int kWidthPx = 600;
 constexpr int kHeightPx = 400;
 
-/// A main window without a window.
-class Page : public markup::PageWindow, public markup::SourceWindow {
-public:
-    explicit Page(const QString& source) {
-        holder.setText(source);
-        state.fenetreSource = this;
-    }
-
-    void draw() {
-        recording.clear();
-        state.surfaceDessin = &texte;
-        state.hauteurPage = 0;
-        renderer.affichepage();
-    }
-
-    platform::RichTextHolder& code() override { return holder; }
-    platform::Surface& pictureTexte() override { return texte; }
-    platform::Surface& pictureIllus() override { return illus; }
-    platform::Surface& titre() override { return title; }
-    void setCaption(const QString&) override {}
-    void setBusy(bool) override {}
-    void refresh(platform::Surface&) override {}
-    void showVideoFrame() override {}
-    void preparePrinter() override {}
-
-    platform::FontBook fonts;
-    platform::Recording recording;
-    platform::Surface texte{platform::SurfaceId::PictureTexte, 9000, fonts, recording};
-    platform::Surface illus{platform::SurfaceId::PictureIllus, 2250, fonts, recording};
-    platform::Surface title{platform::SurfaceId::Titre, 9000, fonts, recording};
-    platform::RichTextHolder holder;
-    markup::DrawingState state;
-    markup::NoPictures pictures;
-    markup::Renderer renderer{state, *this, pictures, recording};
-};
-
 void pageSourceToPixels(benchmark::State& loop) {
-    Page page(bench::richPageSource());
+    markup::NoPictures pictures;
+    bench::Page page(pictures);
+    const QString source = bench::richPageSource();
     platform::RasterSurface raster(platform::SurfaceId::PictureTexte, kWidthPx, page.fonts,
                                    0xffffffff);
     for (auto _ : loop) {
         raster.reset();
-        page.draw();
+        page.draw(source);
         raster.play(page.recording);
         benchmark::DoNotOptimize(raster.drawnHeightPx());
     }
@@ -74,8 +41,9 @@ void bareDrawingCalls(benchmark::State& loop) {
         QPointF foot;
         QString text;
     };
-    Page page(bench::richPageSource());
-    page.draw();
+    markup::NoPictures pictures;
+    bench::Page page(pictures);
+    page.draw(bench::richPageSource());
     std::vector<Call> calls;
     for (const platform::Operation& operation : page.recording.operations()) {
         const auto& text = std::get<platform::TextOperation>(operation);
@@ -105,7 +73,9 @@ void bareDrawingCalls(benchmark::State& loop) {
 BENCHMARK(bareDrawingCalls)->Unit(benchmark::kMicrosecond);
 
 void textDocument(benchmark::State& loop) {
-    const QString html = bench::richPageHtml();
+    const QString html =
+        QStringLiteral("<body style='font-family:Liberation Sans;font-size:16px'>") +
+        bench::richPageHtml();
     QImage image(kWidthPx, kHeightPx, QImage::Format_RGB32);
     for (auto _ : loop) {
         QTextDocument document;

@@ -24,11 +24,41 @@ inline QString richPageHtml() {
         u"<p>Un rayon lumineux qui passe obliquement de l’air dans l’eau change <b><span "
         u"style='color:#b46400'>de direction</span></b> : c’est <i>la réfraction</i>.<br>Son "
         u"indice <i>n</i><sub>1</sub> dépend du milieu et de la couleur.</p>";
-    QString html = QStringLiteral("<body style='font-family:Liberation Sans;font-size:16px'>"
-                                  "<h1 style='font-size:19px'>La réfraction de la lumière</h1>");
+    QString html = QStringLiteral("<h1 style='font-size:19px'>La réfraction de la lumière</h1>");
     for (int i = 0; i < 6; ++i)
         html += QString::fromUtf16(kParagraph);
-    return html + QStringLiteral("</body>");
+    return html;
+}
+
+/// Page `number` of a course of `count`: the rich page, a table of three rows, a picture of 320 by
+/// 240 pixels ("photo.jpg") and links to four other pages.
+inline QString coursePageSource(int number, int count) {
+    QString source = richPageSource();
+    for (const char16_t* row :
+         {u"air¶\n##TAB200400 2\n1,000¶\n##TAB400590 3\n300 000¶\n##FINTAC01",
+          u"eau¶\n##TAB200400 2\n1,333¶\n##TAB400590 3\n225 000¶\n##FINTAB",
+          u"verre¶\n##TAB200400 2\n1,500¶\n##TAB400590 3\n200 000¶\n##FINTAC04"})
+        source += QLatin1String("##TAB010200 1\n") + QString::fromUtf16(row) + u'\n';
+    source += QLatin1String("##IHDEFphoto.jpg320240\n");
+    for (const int step : {1, 2, 10, 100})
+        source += QStringLiteral("##LIERTpage %1#PAG%1\n  \n").arg((number + step) % count + 1);
+    source += QStringLiteral("¶\n");
+    return source.replace(QLatin1String("\r\n"), QLatin1String("\n"))
+        .replace(QStringLiteral(" : c’est \n"),
+                 QStringLiteral(" :¶\nc’est \n")) // or the line would leave the column
+        .replace(QLatin1String("\n"), QLatin1String("\r\n"));
+}
+
+/// The same content as HTML.
+inline QString coursePageHtml(int number, int count) {
+    QString html = QStringLiteral("<section id='p%1'>").arg(number + 1) + richPageHtml();
+    html += QStringLiteral("<table><tr style='background:#dcffe6'><td>air<td>1,000<td>300 000"
+                           "<tr class='b'><td>eau<td>1,333<td>225 000"
+                           "<tr style='background:#dce6ff'><td>verre<td>1,500<td>200 000</table>"
+                           "<img src='photo.jpg' width='320' height='240'><p>");
+    for (const int step : {1, 2, 10, 100})
+        html += QStringLiteral("<a href='#p%1'>page %1</a> ").arg((number + step) % count + 1);
+    return html + QStringLiteral("</p></section>\n");
 }
 
 } // namespace bench

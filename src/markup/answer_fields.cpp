@@ -48,7 +48,6 @@ void showNext(Renderer& renderer, AnswerFields::Choices& choices, platform::Fiel
         place.index = index;
         return show(renderer, field, place);
     }
-    renderer.check(false, u"tous les choix de la question sont déjà placés");
 }
 
 } // namespace
@@ -75,7 +74,7 @@ void textField(Renderer& renderer, QStringView) {
 void questionLink(Renderer& renderer, QStringView d) {
     AnswerFields* fields = renderer.state().fenetreSource->answerFields();
     const auto argument = splitAtLastSharp(d, kKeywordLength);
-    if (!fields || !renderer.check(argument.has_value(), u"il manque « # » et ce qui le suit"))
+    if (!fields || !argument)
         return;
     const platform::Surface& surface = renderer.surface();
     auto icon = fieldAtPen(renderer, platform::FieldControl::Image1, 0,
@@ -96,7 +95,7 @@ void questionLink(Renderer& renderer, QStringView d) {
 void questionVideo(Renderer& renderer, QStringView d) {
     AnswerFields* fields = renderer.state().fenetreSource->answerFields();
     const auto argument = splitAtLastSharp(d, kKeywordLength);
-    if (!fields || !renderer.check(argument.has_value(), u"il manque « # » et ce qui le suit"))
+    if (!fields || !argument)
         return;
     auto icon = fieldAtPen(renderer, platform::FieldControl::Icovideo, 0, AnswerFields::kIconWidth);
     icon.tooltip = argument->before.toString();

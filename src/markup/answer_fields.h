@@ -14,7 +14,7 @@ struct AnswerFields {
     static constexpr double kTextBoxWidth = 200 * 15;
     /// Side of the pictures beside a link and of the video icon, and the gap after the former.
     static constexpr double kIconWidth = 24 * 15;
-    static constexpr double kIconGap = 4 * 15;
+    static constexpr double kIconGap = 8 * 15;
 
     struct Field {
         bool visible = false;

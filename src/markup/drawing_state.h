@@ -5,6 +5,7 @@
 #include "platform/surface.h"
 #include "text/bounded_array.h"
 
+#include <QPointF>
 #include <QString>
 
 #include <cstdint>
@@ -38,6 +39,18 @@ struct DrawingState {
     std::int16_t menuCourant = 0; ///< the floating menu that entries are added to
     std::int32_t hauteurPage = 0;
     QString videoPage;
+
+    // Nothing resets these: a page that ends a fraction, a root or a row which it never began goes
+    // on from the last one drawn, meant so.
+    std::int16_t fracDebutX = 0;      ///< where the numerator began
+    std::int16_t fracFinX = 0;        ///< right end of the longer part of the fraction
+    QPointF debutRacine;              ///< pen at the start of the square root
+    std::int32_t hautRangee = 0;      ///< top of the table row
+    std::int32_t basRangee = 0;       ///< lowest pen in the row's cells so far
+    std::int16_t colonneCourante = 0; ///< number of the last cell opened
+    text::BoundedArray<std::int16_t, 0, 30> bordsColonne; ///< left edge of each cell
+
+    std::int16_t largeurCadre = 0; ///< width of the next frame; 0: the whole column
 };
 
 } // namespace markup

@@ -17,9 +17,6 @@ constexpr char16_t kFloating[] = u"FLOTTANT";
 /// Side of what stands for a picture that the image list does not have, in twips.
 constexpr double kPlaceholderSide = 24 * platform::kTwipsPerPixel;
 
-constexpr char16_t kNoTarget[] = u"il manque « # » et ce qui le suit";
-constexpr char16_t kNoSymbol[] = u"aucun symbole n’a cette clé";
-
 /// The lowest free element; element 0 once all are taken, so that a page with more links than
 /// elements still shows its last ones.
 int freeElement(const LinkTable::Elements& elements) {
@@ -102,7 +99,6 @@ std::optional<int> placePicture(Renderer& renderer, QStringView key, const QStri
     link.tooltip = tooltip;
     link.key = key.toString();
     link.picture = renderer.pictures().symbol(link.key);
-    renderer.check(link.picture != nullptr, kNoSymbol);
     const QSize pixels = link.picture ? link.picture->size() : QSize();
     link.width = link.picture ? pixels.width() * platform::kTwipsPerPixel : kPlaceholderSide;
     link.height = link.picture ? pixels.height() * platform::kTwipsPerPixel : kPlaceholderSide;
@@ -125,7 +121,7 @@ void firstCaptionLine(Renderer& renderer, QStringView d) {
 
 void textLink(Renderer& renderer, QStringView d) {
     const auto argument = splitAtLastSharp(d, kKeywordLength);
-    if (!renderer.check(argument.has_value(), kNoTarget))
+    if (!argument)
         return;
     platform::Surface& surface = renderer.surface();
     platform::LinkOperation link = linkAtPen(renderer, platform::LinkControl::Labelien);
@@ -152,7 +148,7 @@ void pictureLink(Renderer& renderer, QStringView d) {
 
 void pictureLinkWithTooltip(Renderer& renderer, QStringView d) {
     const auto argument = splitAtLastSharp(d, kKeywordLength);
-    if (!renderer.check(argument.has_value(), kNoTarget))
+    if (!argument)
         return;
     const qsizetype keyLength = qMin(kKeyLength, argument->before.size());
     placePicture(renderer, argument->before.first(keyLength), argument->after.toString(),
@@ -168,7 +164,7 @@ void floatingMenu(Renderer& renderer, QStringView d) {
 
 void menuEntry(Renderer& renderer, QStringView d) {
     const auto argument = splitAtLastSharp(d, kKeywordLength);
-    if (!renderer.check(argument.has_value(), kNoTarget))
+    if (!argument)
         return;
     DrawingState& state = renderer.state();
     const QString caption = takeCaption(state, argument->before);

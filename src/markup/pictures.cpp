@@ -46,7 +46,7 @@ void alignPen(Renderer& renderer, double width) {
 /// `given` is the size that a sized picture is stretched to.
 void chargeimage(Renderer& renderer, const QString& nom, Mode mode, Size given) {
     const QString path = renderer.pictures().locatePicture(nom);
-    if (!renderer.check(!path.isEmpty(), u"l’image est introuvable"))
+    if (path.isEmpty())
         return;
     // A picture that cannot be read has no size of its own; one of a given size still takes its
     // room.
@@ -68,7 +68,7 @@ void chargeimage(Renderer& renderer, const QString& nom, Mode mode, Size given) 
 void symbolInLine(Renderer& renderer, QStringView d) {
     const QString key = lastCharacters(d, 2).toString();
     const auto picture = renderer.pictures().symbol(key);
-    if (!renderer.check(picture != nullptr, u"aucun symbole n’a cette clé"))
+    if (!picture)
         return;
     const Size size = ownSize(picture.get());
     platform::Surface& surface = renderer.surface();

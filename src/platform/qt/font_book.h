@@ -2,6 +2,7 @@
 
 #include "platform/text_metrics.h"
 
+#include <QByteArray>
 #include <QList>
 #include <QPointF>
 #include <QRawFont>
@@ -37,6 +38,27 @@ public:
 
     /// The face of a run at a size of its own, in device pixels, for drawing on a raster.
     QRawFont deviceFont(const Font& font, int stage, double pixelSize) const;
+
+    /// One glyph of a text, and the character that it shows.
+    struct PlacedGlyph {
+        int stage; ///< which face of the list, for faceSource()
+        quint32 index;
+        double offset;      ///< twips from the start of the text
+        char32_t character; ///< Unicode, also for the sign faces' codes; 0 when there is none
+    };
+
+    /// The same as place(), glyph by glyph, for devices that keep text as text.
+    std::vector<PlacedGlyph> glyphs(const Font& font, QStringView text) const;
+
+    /// Where the glyphs of a stage come from, for devices that draw without Qt.
+    struct FaceSource {
+        QByteArray file;   ///< a font file whose glyph numbers are those of PlacedGlyph
+        bool bold, italic; ///< what was asked for; a file that is not so itself is made so
+    };
+
+    /// The same object for the same file and style, for as long as the program runs. The file is
+    /// empty when no face is there.
+    static const FaceSource& faceSource(const Font& font, int stage);
 
     /// Families that no installed font answers for, as a person would name them; empty when all
     /// stand-ins are there.

@@ -1,0 +1,38 @@
+// Draws whatever it is given, on a course page, in a question and on paper, then as pixels.
+//   scripts/fuzz [SECONDS]
+
+#include "markup/any_page.h"
+#include "platform/qt/font_book.h"
+#include "platform/qt/raster_surface.h"
+
+#include <QGuiApplication>
+
+#include <cstdint>
+
+namespace {
+
+/// Longer sources say nothing that shorter ones do not.
+constexpr std::size_t kMostBytes = 20000;
+
+} // namespace
+
+extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    static QGuiApplication application(*argc, *argv);
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static test_support::PageBench bench;
+    static const platform::FontBook fonts;
+    static platform::RasterSurface raster(platform::SurfaceId::PictureTexte, 600, fonts,
+                                          qRgb(255, 255, 255));
+    if (size > kMostBytes)
+        return 0;
+    QString source =
+        QString::fromUtf8(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
+    test_support::drawAnyWay(source.replace(QLatin1String("\n"), QLatin1String("\r\n")), bench);
+    raster.reset();
+    raster.play(bench.recording);
+    return 0;
+}

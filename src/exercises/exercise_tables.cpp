@@ -1,0 +1,101 @@
+#include "exercises/exercise_tables.h"
+
+#include "platform/file_names.h"
+#include "platform/jet_recordset.h"
+#include "text/rounding.h"
+
+namespace exercises {
+
+namespace {
+
+bool isNull(const std::optional<platform::FieldValue>& value) {
+    return !value || std::holds_alternative<std::monostate>(*value);
+}
+
+/// A field stored into a 16-bit number; nothing for NULL and for what does not fit.
+std::optional<std::int16_t> int16Of(const std::optional<platform::FieldValue>& value) {
+    return isNull(value) ? std::nullopt : text::toInt16(platform::fieldNumber(value));
+}
+
+bool equals(const platform::FieldValue& value, std::int32_t number) {
+    return !isNull(value) && platform::fieldNumber(value) == number;
+}
+
+std::unique_ptr<platform::Recordset> open(const QString& path, const QString& table,
+                                          QStringList& failures) {
+    auto opened = platform::openRecordset(path, table);
+    if (opened)
+        return std::move(*opened);
+    failures += QString::fromStdString(opened.error().sentence);
+    return nullptr;
+}
+
+} // namespace
+
+ExerciseTables openExerciseTables(const QString& installDirectory) {
+    ExerciseTables tables;
+    const auto path = platform::findWithoutCase(installDirectory, kExerciseDatabaseName);
+    if (!path) {
+        tables.failures += kExerciseDatabaseName + QStringLiteral(": not in the course directory");
+        return tables;
+    }
+    tables.description = open(*path, QStringLiteral("DESCRIPTION"), tables.failures);
+    tables.contenu = open(*path, QStringLiteral("Contenu"), tables.failures);
+    return tables;
+}
+
+TestDescription describeTest(const platform::Recordset& description, std::int16_t chapter) {
+    TestDescription found;
+    description.forEach(
+        {QStringLiteral("Chapitre"), QStringLiteral("Titre"), QStringLiteral("Nbquest")},
+        [&](int, std::span<const platform::FieldValue> fields) {
+            if (!equals(fields[0], chapter))
+                return;
+            if (!isNull(fields[1]))
+                found.title = platform::shownText(fields[1]);
+            if (const auto count = int16Of(fields[2]))
+                found.count = count;
+        });
+    return found;
+}
+
+std::int32_t questionReference(std::int16_t chapter, std::int16_t question) {
+    return chapter * 100 + question;
+}
+
+void QuestionRecord::moveTo(std::int32_t reference) {
+    if (!contenu_)
+        return;
+    std::optional<int> first;
+    int last = -1;
+    contenu_->forEach({QStringLiteral("REFERENCE")},
+                      [&](int position, std::span<const platform::FieldValue> fields) {
+                          if (!first && equals(fields[0], reference))
+                              first = position;
+                          last = position;
+                      });
+    contenu_->setAbsolutePosition(first.value_or(last));
+}
+
+std::optional<platform::FieldValue> QuestionRecord::field(const QString& name) const {
+    return contenu_ ? contenu_->field(name) : std::nullopt;
+}
+
+int QuestionRecord::type() const {
+    return int16Of(field(QStringLiteral("type"))).value_or(0);
+}
+
+std::optional<QString> QuestionRecord::solution() const {
+    const auto value = field(QStringLiteral("solution"));
+    return isNull(value) ? std::nullopt : std::optional(platform::shownText(value));
+}
+
+QString QuestionRecord::question() const {
+    return platform::shownText(field(QStringLiteral("question")));
+}
+
+QString QuestionRecord::siFaux() const {
+    return platform::shownText(field(QStringLiteral("SiFaux")));
+}
+
+} // namespace exercises

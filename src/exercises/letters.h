@@ -1,0 +1,15 @@
+#pragma once
+
+namespace exercises {
+
+/// Lower case of a letter of the Latin or the Greek alphabet and of the signs for ohm, kelvin and
+/// ångström, one character for one (Unicode's simple mapping); every other character as it stands.
+/// A course in French is written with these.
+char16_t lowerCase(char16_t c);
+
+/// Whether a character belongs to a word: letters, digits (raised and lowered ones too) and the
+/// accents that stand beside their letter. Exact below U+0250; beyond, all but the blocks of
+/// punctuation, signs, symbols and surrogates count as letters.
+bool isWordCharacter(char16_t c);
+
+} // namespace exercises

@@ -1,0 +1,105 @@
+#include "platform/cairo/cairo_pictures.h"
+
+#include "platform/cairo/jpeg_header.h"
+
+#include <QCryptographicHash>
+
+#include <cmath>
+#include <cstring>
+
+namespace platform {
+
+namespace {
+
+/// Pixels of a drawing for each logical pixel that it takes: 384 to the inch.
+constexpr int kDrawingDensity = 4;
+
+/// Most pixels that a drawing becomes, a page full of them at 288 to the inch: 16 MB while the page
+/// is written.
+constexpr double kMaxDrawingPixels = 4e6;
+
+/// How large a picture is to stand in the document. Photographs and the like keep their pixels.
+QSize pixelsOf(const Picture& picture, QSize drawn) {
+    if (picture.format() != PictureFormat::Svg)
+        return picture.size();
+    const double area = double(drawn.width()) * drawn.height();
+    const double density = std::min<double>(kDrawingDensity, std::sqrt(kMaxDrawingPixels / area));
+    return {std::max(1, static_cast<int>(drawn.width() * density)),
+            std::max(1, static_cast<int>(drawn.height() * density))};
+}
+
+void releaseBytes(void* bytes) {
+    delete static_cast<QByteArray*>(bytes);
+}
+
+void attach(cairo_surface_t* surface, const char* type, const QByteArray& bytes) {
+    auto* held = new QByteArray(bytes);
+    if (cairo_surface_set_mime_data(
+            surface, type, reinterpret_cast<const unsigned char*>(held->constData()),
+            static_cast<unsigned long>(held->size()), releaseBytes, held) != CAIRO_STATUS_SUCCESS)
+        delete held;
+}
+
+/// Stands for a picture whose pixels nobody asks for: the document has them, or takes the file.
+CairoSurface placeholder() {
+    return CairoSurface(cairo_image_surface_create(CAIRO_FORMAT_RGB24, 1, 1));
+}
+
+CairoSurface copyOf(const QImage& image) {
+    if (image.isNull())
+        return nullptr;
+    const bool transparent = image.hasAlphaChannel();
+    const QImage source = image.convertToFormat(transparent ? QImage::Format_ARGB32_Premultiplied
+                                                            : QImage::Format_RGB32);
+    CairoSurface copy(cairo_image_surface_create(
+        transparent ? CAIRO_FORMAT_ARGB32 : CAIRO_FORMAT_RGB24, source.width(), source.height()));
+    if (cairo_surface_status(copy.get()) != CAIRO_STATUS_SUCCESS)
+        return nullptr;
+    unsigned char* row = cairo_image_surface_get_data(copy.get());
+    for (int y = 0; y < source.height(); ++y, row += cairo_image_surface_get_stride(copy.get()))
+        std::memcpy(row, source.constScanLine(y), static_cast<std::size_t>(source.width()) * 4);
+    cairo_surface_mark_dirty(copy.get());
+    return copy;
+}
+
+} // namespace
+
+const QByteArray& CairoPictures::idOf(const std::shared_ptr<const Picture>& picture) {
+    Known& known = known_[picture.get()];
+    if (known.picture.lock() != picture) {
+        known.picture = picture;
+        known.id = picture->bytes().isEmpty()
+                       ? "nameless " + QByteArray::number(++nameless_)
+                       : QCryptographicHash::hash(picture->bytes(), QCryptographicHash::Sha256);
+    }
+    return known.id;
+}
+
+cairo_surface_t* CairoPictures::surface(const std::shared_ptr<const Picture>& picture,
+                                        QSize drawn) {
+    const auto photograph = picture->format() == PictureFormat::Jpeg ? jpegSize(picture->bytes())
+                                                                     : std::optional<QSize>();
+    const QSize pixels = photograph ? *photograph : pixelsOf(*picture, drawn);
+    const QByteArray id = idOf(picture) + ' ' + QByteArray::number(pixels.width()) + ' ' +
+                          QByteArray::number(pixels.height());
+    if (const auto found = page_.find(id); found != page_.end())
+        return found->second.get();
+
+    CairoSurface made =
+        photograph || written_.contains(id) ? placeholder() : copyOf(picture->image(pixels));
+    if (made) {
+        attach(made.get(), CAIRO_MIME_TYPE_UNIQUE_ID, id);
+        if (photograph)
+            attach(made.get(), CAIRO_MIME_TYPE_JPEG, picture->bytes());
+    }
+    return page_.emplace(id, std::move(made)).first->second.get();
+}
+
+void CairoPictures::endPage() {
+    for (const auto& [id, surface] : page_)
+        if (surface)
+            written_.insert(id);
+    page_.clear();
+}
+
+} // namespace platform

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "platform/cairo/cairo_faces.h"
+#include "platform/cairo/cairo_pictures.h"
+#include "platform/qt/font_book.h"
+#include "platform/sheet.h"
+
+#include <cairo.h>
+
+namespace platform {
+
+/// Draws sheets on a cairo device that keeps text and vectors. Mask fills are multiplied in their
+/// place (see multiplyInks()); fills, straight lines and pictures keep to whole pixels of the
+/// screen, so that they meet as they do there.
+class SheetPlayer {
+public:
+    SheetPlayer(const FontBook& fonts, CairoFaces& faces, CairoPictures& pictures);
+
+    /// Draws with one unit of `cairo` to the twip.
+    void play(const Sheet& sheet, cairo_t* cairo);
+
+private:
+    class Player;
+
+    const FontBook& fonts_;
+    CairoFaces& faces_;
+    CairoPictures& pictures_;
+    bool word_ = false; ///< turns with each word, see kLowered
+};
+
+} // namespace platform

@@ -1,0 +1,177 @@
+#include "platform_cairo/pdf_bench.h"
+
+#include <QRegularExpression>
+#include <QSet>
+
+namespace {
+
+using platform::SurfaceId;
+
+class PdfFile : public test_support::PdfBench {
+protected:
+    void printIn(const char16_t* face, double y, const QString& words) {
+        surface.setFace(QString::fromUtf16(face));
+        print(150, y, words);
+    }
+
+    /// The page of a link's tag, when it is one of the two that the file has.
+    static std::optional<int> pageOfTag(const QString& tag) {
+        return tag == u"PAG012" ? 12 : tag == u"PAG013" ? 13 : std::optional<int>();
+    }
+
+    QString outlineOf(const QString& name) const {
+        return QString::fromUtf8(
+            run(QStringLiteral("qpdf"),
+                {QStringLiteral("--json"), QStringLiteral("--json-key=outlines"), path(name)}));
+    }
+};
+
+TEST_F(PdfFile, textIsUnicodeInEveryFace) {
+    printIn(u"Arial", 150, QStringLiteral("« cœur » é → Δ∆ µμ ¶"));
+    printIn(u"Symbol", 450, QString::fromLatin1("lWab\xB7\xAE"));
+    printIn(u"Symbol", 750, QStringLiteral("λx\uF06C"));
+    printIn(u"Wingdings", 1050, QString::fromLatin1("l\xFC"));
+    printIn(u"Comic Sans MS", 1350, QStringLiteral("aλb"));
+    printIn(u"times NEW roman", 1650, QStringLiteral("insé\u00ADcable"));
+    write({sheet()});
+    EXPECT_EQ(text().trimmed().split(u'\n', Qt::SkipEmptyParts),
+              (QStringList{QStringLiteral("« cœur » é → Δ∆ µμ ¶"), QStringLiteral("λΩαβ•→"),
+                           QStringLiteral("λξλ"), QStringLiteral("●✔"), QStringLiteral("aλb"),
+                           QStringLiteral("insé\u00ADcable")}));
+}
+
+TEST_F(PdfFile, wordsStandWhereTheFontBookPutsThem) {
+    const QString words = QStringLiteral("Un rayon qui passe obliquement de l’air dans l’eau "
+                                         "change sa direction : réfraction.");
+    QMap<QString, double> expected; // line and word, to twips
+    int line = 0;
+    for (const double points : {8.0, 10.0, 12.0, 13.0}) {
+        surface.setFontPoints(points);
+        surface.setPenY(150 + 450 * line);
+        surface.setPenX(150);
+        // In runs, as a change of ink makes them; each begins where the one before ended.
+        for (const QString& word : words.split(u' ')) {
+            expected[QString::number(line) + word] = surface.penX();
+            surface.print(word + u' ');
+        }
+        ++line;
+    }
+    write({sheet()});
+    const QString said = text({QStringLiteral("-bbox")});
+    static const QRegularExpression kWord(
+        QStringLiteral("xMin=\"([0-9.]+)\" yMin=\"([0-9.]+)\"[^>]*>([^<]+)<"));
+    int seen = 0;
+    for (auto found = kWord.globalMatch(said); found.hasNext(); ++seen) {
+        const auto match = found.next();
+        const double y = match.captured(2).toDouble() * 20 - kTop;
+        const QString key = QString::number(qRound((y - 150) / 450)) + match.captured(3);
+        ASSERT_TRUE(expected.contains(key)) << qPrintable(key);
+        EXPECT_NEAR(match.captured(1).toDouble() * 20 - kLeft, expected[key], 2) << qPrintable(key);
+    }
+    EXPECT_EQ(seen, 4 * words.split(u' ').size());
+}
+
+TEST_F(PdfFile, linksOutlineLabelsAndMetadata) {
+    platform::LinkOperation link;
+    link.x = 1500;
+    link.y = 300;
+    link.width = 900;
+    link.height = 255;
+    link.caption = QStringLiteral("suite");
+    link.tag = QStringLiteral("PAG013");
+    recording.add(link);
+    link.index = 1;
+    link.tag = QStringLiteral("PAG099");
+    link.y = 900;
+    recording.add(link);
+    const QString title = QStringLiteral("Réfraction λ");
+    write({sheet(12, title), sheet(13), sheet(12, QStringLiteral("encore"))},
+          {QStringLiteral("Cours d’optique λ"), QStringLiteral("Élise"), pageOfTag});
+
+    EXPECT_TRUE(run(u"qpdf"_qs, {u"--check"_qs, path()}).contains("No syntax or stream"));
+    const QString about = QString::fromUtf8(run(QStringLiteral("pdfinfo"), {path()}));
+    for (const char16_t* line : {u"Title:           Cours d’optique λ", u"Author:          Élise",
+                                 u"Tagged:          yes", u"Page size:       555 x 375 pts"})
+        EXPECT_TRUE(about.contains(QString::fromUtf16(line))) << qPrintable(about);
+    const QString targets =
+        QString::fromUtf8(run(u"pdfinfo"_qs, {u"-dests"_qs, path()})).simplified();
+    EXPECT_TRUE(
+        targets.endsWith(u"1 [ XYZ 0 375 null ] \"page12\" 2 [ XYZ 0 375 null ] \"page13\""))
+        << qPrintable(targets);
+
+    const QString json = QString::fromUtf8(run(u"qpdf"_qs, {u"--json=1"_qs, path()})).simplified();
+    // Two live links to page 13: one on each sheet 12; the tag 99 leads nowhere.
+    EXPECT_EQ(json.count(u"\"/Subtype\": \"/Link\""), 3);
+    EXPECT_EQ(json.count(u"/Rect\": [ 150, 302, 195, 315 ]"), 3) << qPrintable(json);
+    EXPECT_TRUE(json.contains(u"\"title\": \"Réfraction λ\""));
+    EXPECT_TRUE(json.contains(u"\"title\": \"Page 13\""));
+    for (const char16_t* label : {u"\"/St\": 12", u"\"/St\": 13"})
+        EXPECT_TRUE(json.contains(QString::fromUtf16(label)));
+}
+
+TEST_F(PdfFile, theSameSheetsGiveTheSameBytes) {
+    printIn(u"Arial", 150, QStringLiteral("Un texte"));
+    surface.fill(0, 0, 3000, 600, 0xffdce6ff, platform::FillMode::Mask);
+    const platform::PdfDocument document{QStringLiteral("é"), {}, pageOfTag};
+    write({sheet(12), sheet(13)}, document);
+    write({sheet(12), sheet(13)}, document, QStringLiteral("autre.pdf"));
+    const QByteArray bytes = test_support::readFile(path());
+    EXPECT_EQ(bytes, test_support::readFile(path(QStringLiteral("autre.pdf"))));
+    EXPECT_FALSE(bytes.contains("/CreationDate"));
+}
+
+TEST_F(PdfFile, facesAreSubsetsEmbeddedOnce) {
+    printIn(u"Arial", 150, QStringLiteral("Un texte"));
+    printIn(u"Symbol", 450, QStringLiteral("l"));
+    surface.setItalic(true);
+    printIn(u"Symbol", 750, QStringLiteral("l"));
+    std::vector<platform::Sheet> sheets(20, sheet());
+    write(sheets);
+    const QStringList faces = listed(QStringLiteral("pdffonts"));
+    ASSERT_EQ(faces.size(), 3);
+    for (const QString& face : faces)
+        EXPECT_TRUE(face.contains(QRegularExpression(QStringLiteral("yes +yes +yes"))))
+            << qPrintable(face);
+    EXPECT_LT(test_support::readFile(path()).size(), 40'000);
+}
+
+TEST_F(PdfFile, aSheetTallerThanPdfAllowsIsScaledAsAWhole) {
+    printIn(u"Arial", 150, QStringLiteral("haut"));
+    printIn(u"Arial", 599'000, QStringLiteral("bas"));
+    platform::Sheet tall = sheet(12);
+    tall.height = kTop + 600'000;
+    tall.surfaces[0].height = 600'000;
+    tall.links.push_back({SurfaceId::PictureTexte, 0, 599'000, 1500, 300, u"PAG012"_qs, {}});
+    write({tall, sheet()}, {QString(), QString(), pageOfTag});
+    const QString sizes = QString::fromUtf8(run(u"pdfinfo"_qs, {u"-l"_qs, u"2"_qs, path()}));
+    const double scale = 14400 * 20 / tall.height;
+    EXPECT_TRUE(sizes.contains(QRegularExpression(
+        QStringLiteral("Page +1 size: +%1[0-9.]* x 14400 pts").arg(int(555 * scale)))))
+        << qPrintable(sizes);
+    EXPECT_TRUE(sizes.contains(QRegularExpression(QStringLiteral("Page +2 size: +555 x 375 pts"))));
+    EXPECT_EQ(text({u"-l"_qs, u"1"_qs}).simplified(), QString("haut bas"));
+    EXPECT_TRUE(test_support::readFile(path()).contains("/Rect [ 35 "));
+    run(QStringLiteral("qpdf"), {QStringLiteral("--check"), path()});
+}
+
+TEST_F(PdfFile, surfacesStandWhereTheyArePlacedAndAreCut) {
+    printIn(u"Arial", 150, QStringLiteral("visible"));
+    printIn(u"Arial", 6300, QStringLiteral("dessous"));
+    surface.fill(8000, 0, 3000, 9000, 0xffff0000, platform::FillMode::Copy);
+    platform::Surface title(SurfaceId::Titre, 9000, fonts, recording);
+    title.print(QStringLiteral("titre"));
+    platform::Surface other(SurfaceId::PictureIllus, 9000, fonts, recording);
+    other.print(QStringLiteral("ailleurs"));
+    platform::Sheet page = sheet();
+    page.surfaces.insert(page.surfaces.begin(), {SurfaceId::Titre, 1500, 150, 9000, 480});
+    write({page});
+    EXPECT_EQ(text().simplified(), QString("titre visible"));
+    run(u"pdftoppm"_qs, {u"-r"_qs, u"96"_qs, u"-singlefile"_qs, u"-png"_qs, path(), path(u"p"_qs)});
+    const QImage whole(path(QStringLiteral("p.png")));
+    EXPECT_EQ(whole.pixel(699, 459), 0xffff0000u);
+    EXPECT_EQ(whole.pixel(701, 300), 0xffffffffu);
+    EXPECT_EQ(whole.pixel(690, 461), 0xffffffffu);
+    EXPECT_EQ(whole.pixel(690, 59), 0xffffffffu);
+}
+
+} // namespace
