@@ -26,6 +26,7 @@ struct Typed {
     std::string question;
     std::string source;
     RenderWords render;
+    std::vector<std::string> drives;
 };
 
 class Reader {
@@ -61,6 +62,7 @@ public:
             ->add_option("--source", typed_.source,
                          "Dessine le texte d’une page, ses fins de ligne telles quelles")
             ->type_name("FICHIER");
+        drives(trace_);
 
         RenderWords& words = typed_.render;
         render_ = add("render", "Dessine des pages et des questions dans des fichiers");
@@ -77,6 +79,11 @@ public:
             ->type_name("FORMAT");
         render_->add_option("--scale", words.scale, "Agrandissement, de 0.1 à 16 (png et svg)")
             ->type_name("F");
+        drives(render_);
+
+        symbols_ = add("symbols", "La liste d’images : clés, images, et d’où elles viennent");
+        positional(symbols_, "DOSSIER", typed_.from,
+                   "Dossier d’installation, dont les symboles comptent aussi");
     }
 
     CoursCall read(int argc, char** argv) {
@@ -110,6 +117,15 @@ private:
             ->type_name("REF");
     }
 
+    void drives(CLI::App* command) {
+        command
+            ->add_option("--drive", typed_.drives,
+                         "Donne la lettre de lecteur L à un dossier, plusieurs fois si besoin")
+            ->type_name("L=DOSSIER")
+            ->expected(1)
+            ->take_all();
+    }
+
     void output(CLI::App* command, const char* description) {
         command->add_option("-o,--output", typed_.output, description)->type_name("DOSSIER");
     }
@@ -136,6 +152,8 @@ private:
             return traceCall();
         if (render_->parsed())
             return renderCall();
+        if (symbols_->parsed())
+            return symbolsCall();
         return WrongCall{"il manque une sous-commande"};
     }
 
@@ -171,8 +189,13 @@ private:
     }
 
     CoursCall traceCall() const {
-        TraceCall call{pathFrom(typed_.from), wholeNumber(typed_.page),
-                       wholeNumber(typed_.question), pathFrom(typed_.source)};
+        TraceCall call{pathFrom(typed_.from),
+                       wholeNumber(typed_.page),
+                       pathFrom(typed_.source),
+                       {},
+                       wholeNumber(typed_.question)};
+        if (const auto wrong = readDrives(call.drives))
+            return *wrong;
         if (!typed_.source.empty()) {
             if (!typed_.from.empty() || !typed_.page.empty() || !typed_.question.empty())
                 return WrongCall{"« --source » va sans dossier, « --page » ni « --question »"};
@@ -192,10 +215,12 @@ private:
     CoursCall renderCall() const {
         if (const auto wrong = notADirectory(typed_.render.course, "le dossier d’installation"))
             return *wrong;
-        const auto read = readRenderWords(typed_.render);
+        auto read = readRenderWords(typed_.render);
         if (const auto* sentence = std::get_if<std::string>(&read))
             return WrongCall{*sentence};
-        const auto& call = std::get<RenderCall>(read);
+        auto& call = std::get<RenderCall>(read);
+        if (const auto wrong = readDrives(call.drives))
+            return *wrong;
         const bool intoDirectory = call.all() && call.format != coursetool::RenderFormat::Pdf;
         std::error_code error;
         if (!intoDirectory && fs::is_directory(call.output, error))
@@ -205,6 +230,31 @@ private:
             !fs::is_directory(call.output, error))
             return WrongCall{inQuotes(typed_.render.output) + " n’est pas un dossier"};
         return call;
+    }
+
+    CoursCall symbolsCall() const {
+        if (!typed_.from.empty())
+            if (const auto wrong = notADirectory(typed_.from, "le dossier d’installation"))
+                return *wrong;
+        return SymbolsCall{pathFrom(typed_.from)};
+    }
+
+    /// Reads "L=DIR"; false when it is not of this form.
+    static bool addDrive(const std::string& typed, std::map<char, fs::path>& drives) {
+        if (typed.size() < 3 || typed[1] != '=')
+            return false;
+        const char letter = static_cast<char>(typed[0] & ~('a' - 'A'));
+        if (letter < 'A' || letter > 'Z')
+            return false;
+        drives.insert_or_assign(letter, pathFrom(typed.substr(2)));
+        return true;
+    }
+
+    std::optional<WrongCall> readDrives(std::map<char, fs::path>& drives) const {
+        for (const std::string& drive : typed_.drives)
+            if (!addDrive(drive, drives))
+                return WrongCall{inQuotes(drive) + " n’est pas de la forme L=DOSSIER"};
+        return std::nullopt;
     }
 
     static std::optional<WrongCall> notADirectory(const std::string& path, const char* what) {
@@ -232,6 +282,7 @@ private:
     CLI::App* dump_ = nullptr;
     CLI::App* trace_ = nullptr;
     CLI::App* render_ = nullptr;
+    CLI::App* symbols_ = nullptr;
 };
 
 } // namespace

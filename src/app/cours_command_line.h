@@ -24,6 +24,9 @@ struct DumpCall {
 };
 using TraceCall = coursetool::TraceRequest;
 using RenderCall = coursetool::RenderRequest;
+struct SymbolsCall {
+    std::filesystem::path course; ///< empty: the symbols of the program alone
+};
 /// Help or version, for standard output.
 struct ShowText {
     std::string text;
@@ -33,8 +36,8 @@ struct WrongCall {
     std::string sentence;
 };
 
-using CoursCall =
-    std::variant<BuildCall, ExtractCall, DumpCall, TraceCall, RenderCall, ShowText, WrongCall>;
+using CoursCall = std::variant<BuildCall, ExtractCall, DumpCall, TraceCall, RenderCall, SymbolsCall,
+                               ShowText, WrongCall>;
 
 /// Reads the command line. Directories and files that must be there are; an output directory of
 /// `extract` is empty or not there yet.

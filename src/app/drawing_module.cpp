@@ -1,7 +1,7 @@
 #include "coursetool/drawing_request.h"
 #include "coursetool/render.h"
+#include "coursetool/tool_pictures.h"
 #include "coursetool/trace.h"
-#include "markup/no_pictures.h"
 #include "platform/qt/font_book.h"
 #include "platform/qt/look/field_pictures.h"
 
@@ -26,7 +26,6 @@ struct Ground {
     NoDisplay noDisplay;
     QGuiApplication application;
     platform::FontBook fonts;
-    markup::NoPictures pictures;
 };
 
 } // namespace
@@ -35,14 +34,15 @@ extern "C" Q_DECL_EXPORT void orvalenteTrace(int& argc, char** argv,
                                              const coursetool::TraceRequest& request,
                                              coursetool::OutputBuffer& out,
                                              coursetool::Report& report) {
-    Ground ground(argc, argv);
-    coursetool::trace(request, ground.fonts, ground.pictures, out, report);
+    const Ground ground(argc, argv);
+    coursetool::ToolPictures pictures(request.course, request.drives, report);
+    coursetool::trace(request, ground.fonts, pictures, out, report);
 }
 
 extern "C" Q_DECL_EXPORT void orvalenteRender(int& argc, char** argv,
                                               const coursetool::RenderRequest& request,
                                               coursetool::Report& report) {
-    Ground ground(argc, argv);
-    coursetool::render(request, ground.fonts, ground.pictures, platform::look::fieldPictures(),
-                       report);
+    const Ground ground(argc, argv);
+    coursetool::ToolPictures pictures(request.course, request.drives, report);
+    coursetool::render(request, ground.fonts, pictures, platform::look::fieldPictures(), report);
 }

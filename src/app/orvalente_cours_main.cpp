@@ -3,6 +3,7 @@
 #include "coursetool/dump.h"
 #include "coursetool/exit_code.h"
 #include "coursetool/extract.h"
+#include "coursetool/symbols.h"
 #include "platform/module.h"
 
 #include <cstdio>
@@ -43,6 +44,10 @@ struct Perform {
     ExitCode operator()(const app::RenderCall& call) {
         if (const auto run = drawing<coursetool::RenderFunction>(coursetool::kRenderSymbol))
             run(argc, argv, call, report);
+        return verdict();
+    }
+    ExitCode operator()(const app::SymbolsCall& call) {
+        coursetool::listSymbols(call.course, out, report);
         return verdict();
     }
     ExitCode operator()(const app::ShowText& show) {

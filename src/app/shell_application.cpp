@@ -4,17 +4,20 @@
 #include "app/missing_parts.h"
 #include "app/prompted_display_warning.h"
 #include "calculator/machine_opener.h"
-#include "markup/no_pictures.h"
 #include "markup/renderer.h"
 #include "platform/qt/font_book.h"
 #include "platform/qt/look/message_dialog.h"
+#include "platform/qt/mounted_drives.h"
 #include "platform/qt/patient_activator.h"
+#include "platform/qt/qt_beeper.h"
 #include "platform/qt/qt_processes.h"
 #include "platform/qt/qt_screen.h"
 #include "shell/course_directory.h"
+#include "shell/data_location.h"
 #include "shell/launcher.h"
 #include "shell/start_up.h"
 #include "viewer/action_dispatcher.h"
+#include "viewer/course_pictures.h"
 #include "viewer/main_commands.h"
 #include "viewer/multim.h"
 
@@ -91,6 +94,8 @@ struct ShellApplication::Parts {
           search(window, QStringLiteral("Cette édition n’a pas encore la recherche.")),
           help(window, QStringLiteral("Cette édition n’a pas encore d’aide.")),
           installation(window, QStringLiteral("Cette édition ne s’actualise pas encore.")),
+          drives(courseDirectory(commandLine), commandLine.drives),
+          symbols(courseDirectory(commandLine)),
           renderer(drawing, window, pictures, window.recording()),
           pages(state, bound, window, window, renderer, video),
           actions(state, pages, window, modules, exercise, orderForm),
@@ -123,7 +128,11 @@ struct ShellApplication::Parts {
     Calculator calculator;
     Ending ending;
 
-    markup::NoPictures pictures;
+    platform::MountedDrives drives;
+    platform::QtBeeper beeper;
+    shell::DataLocation location{state, drives, prompter, beeper};
+    viewer::ImageList symbols;
+    viewer::CoursePictures pictures{location, symbols};
     markup::Renderer renderer;
     viewer::PageLoader pages;
     viewer::ActionDispatcher actions;

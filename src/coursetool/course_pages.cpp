@@ -46,6 +46,11 @@ CoursePages::CoursePages(CourseRecords pages) : pages_(std::move(pages)) {
                             });
 }
 
+QString CoursePages::title() const {
+    pages_.records->setAbsolutePosition(0);
+    return platform::shownText(pages_.records->field(QStringLiteral("titre"))).simplified();
+}
+
 std::optional<int> CoursePages::number(int position) const {
     return numbers_.at(static_cast<std::size_t>(position));
 }

@@ -20,6 +20,9 @@ public:
     int count() const { return static_cast<int>(numbers_.size()); }
     const std::string& file() const { return pages_.file; }
 
+    /// The course's title: that of its first page.
+    QString title() const;
+
     /// Fixed number of the page at a position; nothing for a record that has none.
     std::optional<int> number(int position) const;
 

@@ -4,17 +4,22 @@
 #include "coursetool/report.h"
 
 #include <filesystem>
+#include <map>
 #include <optional>
 
 namespace coursetool {
+
+/// Directories that stand for drives, by their letters in upper case.
+using Drives = std::map<char, std::filesystem::path>;
 
 /// What is to be traced: a page or a question of a course, or a bare page source when `source` is
 /// not empty.
 struct TraceRequest {
     std::filesystem::path course;
     std::optional<int> page;
-    std::optional<int> question;
     std::filesystem::path source;
+    Drives drives;
+    std::optional<int> question = {};
 };
 
 enum class RenderFormat { Png, Pdf, Svg };
@@ -33,6 +38,7 @@ struct RenderRequest {
     std::filesystem::path output; ///< a directory for all pages, unless they go into one PDF
     RenderFormat format = RenderFormat::Png;
     double scale = 1; ///< pixels of the picture to one of the screen
+    Drives drives;
 
     bool all() const { return !page && !question; }
 };

@@ -66,7 +66,7 @@ public:
         QStringList pageNames;
         for (int position = 0; position < pages->count(); ++position)
             pageNames.append(names.next("page", pages->number(position)));
-        const auto files = openSheetFiles(request_, fonts_, linksInto(*pages, pageNames), report_);
+        const auto files = openSheetFiles(request_, fonts_, asOne(*pages, pageNames), report_);
         if (!files)
             return;
         for (int position = 0; position < pages->count(); ++position)
@@ -78,8 +78,10 @@ public:
     }
 
 private:
-    static SheetLinks linksInto(const CoursePages& pages, const QStringList& names) {
-        return {[&](const QString& tag) {
+    /// Refers to both, which outlive the files.
+    static SheetSet asOne(const CoursePages& pages, const QStringList& names) {
+        return {pages.title(),
+                [&](const QString& tag) {
                     const auto position = pages.positionShown(tag);
                     return position ? names[*position] : QString();
                 },
@@ -102,9 +104,9 @@ private:
 
     /// A single sheet has nowhere to lead to.
     void writeOne(const platform::Sheet& sheet) {
-        const SheetLinks nowhere{[](const QString&) { return QString(); },
-                                 [](const QString&) { return std::optional<int>(); }};
-        const auto files = openSheetFiles(request_, fonts_, nowhere, report_);
+        const SheetSet alone{sheet.title, [](const QString&) { return QString(); },
+                             [](const QString&) { return std::optional<int>(); }};
+        const auto files = openSheetFiles(request_, fonts_, alone, report_);
         if (files && files->add(sheet, {}))
             files->finish();
     }

@@ -1,6 +1,7 @@
 #include "coursetool/sheet_files.h"
 
 #include "coursetool/paths.h"
+#include "platform/cairo/pdf_file.h"
 #include "platform/png/png_file.h"
 #include "platform/qt/sheet_raster.h"
 #include "platform/svg/svg_file.h"
@@ -68,14 +69,14 @@ private:
 
 class SvgFiles : public SeparateFiles {
 public:
-    SvgFiles(const RenderRequest& request, const platform::FontBook& fonts, SheetLinks links,
+    SvgFiles(const RenderRequest& request, const platform::FontBook& fonts, SheetSet set,
              Report& report)
-        : SeparateFiles(request, ".svg", report), fonts_(fonts), links_(std::move(links)) {}
+        : SeparateFiles(request, ".svg", report), fonts_(fonts), set_(std::move(set)) {}
 
 private:
     bool write(const platform::Sheet& sheet, QFile& file) override {
         const auto address = [this](const QString& tag) {
-            const QString name = links_.file(tag);
+            const QString name = set_.fileOfTag(tag);
             return name.isEmpty() ? name : name + ending_;
         };
         const QByteArray document = platform::svgDocument(sheet, fonts_, address, request_.scale);
@@ -83,14 +84,44 @@ private:
     }
 
     const platform::FontBook& fonts_;
-    SheetLinks links_;
+    SheetSet set_;
+};
+
+class PdfSheets : public SheetFiles {
+public:
+    PdfSheets(const RenderRequest& request, const platform::FontBook& fonts,
+              platform::PdfDocument document, Report& report)
+        : place_{shown(request.output)},
+          pdf_(QString::fromStdString(place_.file), fonts, std::move(document)), report_(report) {}
+
+    bool add(const platform::Sheet& sheet, const QString&) override {
+        return pdf_.addSheet(sheet) || fail();
+    }
+    void finish() override {
+        if (!pdf_.finish())
+            fail();
+    }
+
+private:
+    bool fail() {
+        report_.fault(place_, pdf_.error().toStdString());
+        return false;
+    }
+
+    Place place_;
+    platform::PdfFile pdf_;
+    Report& report_;
 };
 
 } // namespace
 
 std::unique_ptr<SheetFiles> openSheetFiles(const RenderRequest& request,
-                                           const platform::FontBook& fonts, SheetLinks links,
+                                           const platform::FontBook& fonts, SheetSet set,
                                            Report& report) {
+    if (request.format == RenderFormat::Pdf)
+        return std::make_unique<PdfSheets>(
+            request, fonts, platform::PdfDocument{set.title, {}, std::move(set.numberOfTag)},
+            report);
     if (request.all()) {
         std::error_code error;
         fs::create_directories(request.output, error);
@@ -100,7 +131,7 @@ std::unique_ptr<SheetFiles> openSheetFiles(const RenderRequest& request,
         }
     }
     if (request.format == RenderFormat::Svg)
-        return std::make_unique<SvgFiles>(request, fonts, std::move(links), report);
+        return std::make_unique<SvgFiles>(request, fonts, std::move(set), report);
     return std::make_unique<PngFiles>(request, fonts, report);
 }
 

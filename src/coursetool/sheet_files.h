@@ -8,15 +8,18 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace coursetool {
 
-/// Where the links of a drawn course lead, by their tags.
-struct SheetLinks {
-    /// Name, without ending, of the file that holds the sheet; empty when none does.
-    std::function<QString(const QString& tag)> file;
-    /// Number of the sheet; nothing when it is not drawn.
-    std::function<std::optional<int>(const QString& tag)> number;
+/// What the sheets that go into files are together.
+struct SheetSet {
+    QString title; ///< of a file that holds them all
+    /// Name, without ending, of the file that holds the sheet a link with this tag leads to; empty
+    /// when none does.
+    std::function<QString(const QString& tag)> fileOfTag;
+    /// Number of that sheet; nothing when it is not among them.
+    std::function<std::optional<int>(const QString& tag)> numberOfTag;
 };
 
 /// Takes sheets and makes files of them.
@@ -36,7 +39,7 @@ public:
 /// directory there, which is made, or into one PDF. A fault, and null, when that directory cannot
 /// be made.
 std::unique_ptr<SheetFiles> openSheetFiles(const RenderRequest& request,
-                                           const platform::FontBook& fonts, SheetLinks links,
+                                           const platform::FontBook& fonts, SheetSet set,
                                            Report& report);
 
 } // namespace coursetool

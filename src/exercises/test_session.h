@@ -30,7 +30,8 @@ public:
     /// be opened; they must outlive the session. A chapter without a test leaves title and count as
     /// they were.
     void load(const platform::Recordset* description, platform::Recordset* contenu);
-    /// The window has become the active one: shows the current question.
+    /// The window has come up: shows the current question. Once a showing: drawing it again would
+    /// take away what has been ticked or typed.
     void activate();
 
     void tritexte(); ///< shows the current question, with what stands around it

@@ -14,6 +14,25 @@ bool hasDrivePrefix(const QString& name) {
            name[0].isLetter();
 }
 
+std::optional<QString> findEntry(const QString& directory, const QString& name, QDir::Filter kind,
+                                 bool (QFileInfo::*isKind)() const) {
+    // An empty directory would mean the current one, which is nobody's choice.
+    if (directory.isEmpty() || name.isEmpty() || lastComponent(name) != name)
+        return std::nullopt;
+    const QDir folder(directory);
+    // The exact name saves listing the folder, which takes long where it is large.
+    if ((QFileInfo(folder, name).*isKind)())
+        return folder.filePath(name);
+
+    // No name filters: brackets and asterisks in a name are to be taken literally.
+    const QStringList entries = folder.entryList(kind | QDir::Hidden | QDir::System, QDir::Name);
+    for (const QString& entry : entries) {
+        if (entry.compare(name, Qt::CaseInsensitive) == 0 && (QFileInfo(folder, entry).*isKind)())
+            return folder.filePath(entry);
+    }
+    return std::nullopt;
+}
+
 } // namespace
 
 QString lastComponent(const QString& name) {
@@ -31,22 +50,11 @@ QString lastComponent(const QString& name) {
 }
 
 std::optional<QString> findWithoutCase(const QString& directory, const QString& name) {
-    // An empty directory would mean the current one, which is nobody's choice.
-    if (directory.isEmpty() || name.isEmpty() || lastComponent(name) != name)
-        return std::nullopt;
-    const QDir folder(directory);
-    // The exact name saves listing the folder, which takes long where it is large.
-    if (QFileInfo(folder, name).isFile())
-        return folder.filePath(name);
+    return findEntry(directory, name, QDir::Files, &QFileInfo::isFile);
+}
 
-    // No name filters: brackets and asterisks in a name are to be taken literally.
-    const QStringList entries =
-        folder.entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Name);
-    for (const QString& entry : entries) {
-        if (entry.compare(name, Qt::CaseInsensitive) == 0 && QFileInfo(folder, entry).isFile())
-            return folder.filePath(entry);
-    }
-    return std::nullopt;
+std::optional<QString> findFolderWithoutCase(const QString& directory, const QString& name) {
+    return findEntry(directory, name, QDir::Dirs, &QFileInfo::isDir);
 }
 
 } // namespace platform

@@ -17,4 +17,7 @@ QString lastComponent(const QString& name);
 /// devices do not. Nothing when there is no such file, or when `name` is not a bare file name.
 std::optional<QString> findWithoutCase(const QString& directory, const QString& name);
 
+/// The same for a directory.
+std::optional<QString> findFolderWithoutCase(const QString& directory, const QString& name);
+
 } // namespace platform

@@ -109,6 +109,17 @@ void putOnSheet(const Recording& recording, const TextMetrics& metrics, Sheet& s
     putFields(recording, metrics, fields, sheet);
 }
 
+SurfaceId surfaceOf(const Operation& operation) {
+    return std::visit(
+        [](const auto& drawn) {
+            if constexpr (requires { drawn.surface; })
+                return drawn.surface;
+            else
+                return SurfaceId::Printer; // not on sheets
+        },
+        operation);
+}
+
 double drawnHeight(const std::vector<Operation>& operations, SurfaceId surface,
                    const TextMetrics& metrics) {
     double lowest = 0;

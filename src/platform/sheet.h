@@ -43,6 +43,9 @@ struct Sheet {
 void putOnSheet(const Recording& recording, const TextMetrics& metrics, Sheet& sheet,
                 const FieldPictures& fields = {});
 
+/// The surface that an operation of a sheet draws on.
+SurfaceId surfaceOf(const Operation& operation);
+
 /// Foot of the lowest operation on a surface, in twips; 0 when nothing stands there.
 double drawnHeight(const std::vector<Operation>& operations, SurfaceId surface,
                    const TextMetrics& metrics);

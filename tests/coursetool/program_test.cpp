@@ -100,7 +100,11 @@ TEST_F(Program, endsWithTwoForWrongCallsAndDoesNothing) {
                              "trace src --page 1x",
                              "trace --source nowhere",
                              "trace src --source page.txt",
-                             "trace --page 1 --source page.txt"}) {
+                             "trace --page 1 --source page.txt",
+                             "trace --source page.txt --drive",
+                             "trace --source page.txt --drive disc",
+                             "trace --source page.txt --drive 1=src",
+                             "symbols nowhere"}) {
         const Outcome outcome = run(call);
         EXPECT_EQ(outcome.code, 2) << call;
         EXPECT_EQ(outcome.out, "") << call;
@@ -109,6 +113,21 @@ TEST_F(Program, endsWithTwoForWrongCallsAndDoesNothing) {
     EXPECT_FALSE(work.has("out"));
     run("build src -o out");
     EXPECT_EQ(run("dump out/Zekx.mdb autre").code, 2);
+}
+
+TEST_F(Program, listsSymbolsAndTracesWithDrives) {
+    const Outcome listed = run("symbols src");
+    EXPECT_EQ(listed.code, 0) << listed.err;
+    EXPECT_THAT(listed.out, HasSubstr("\nLK\tLK-lien.svg\tOrvalente\n"));
+    work.write("page.txt", "##IXAfig.svg\r\n");
+    work.write("disc/ZEKXDATA/fig.svg", "<svg width='10' height='20'><path d='M0 0h9v9z'/></svg>");
+    const Outcome traced = run("trace --source page.txt --drive X=src --drive y=disc");
+    EXPECT_EQ(traced.code, 0);
+    EXPECT_EQ(traced.err, "");
+    EXPECT_THAT(traced.out, HasSubstr(R"("width":150,"height":300,"name":"fig.svg")"));
+    const Outcome missing = run("trace --source page.txt");
+    EXPECT_EQ(missing.code, 0);
+    EXPECT_THAT(missing.err, HasSubstr("« fig.svg » : image introuvable"));
 }
 
 TEST_F(Program, helpsInFrench) {

@@ -39,7 +39,7 @@ struct Trace : testing::Test {
     Lines source(std::string_view text) {
         work.write("page.txt", text);
         return lines([&](auto& out) {
-            coursetool::trace({{}, {}, {}, work.path("page.txt")}, metrics, pictures, out, report);
+            coursetool::trace({{}, {}, work.path("page.txt"), {}}, metrics, pictures, out, report);
         });
     }
     Lines page(int number) {

@@ -52,7 +52,7 @@ TEST(Castexte, findsWholeWords) {
                          Row{u"masse", u"c'est la masse"}, Row{u"masse", u"amasse masse"},
                          Row{u"masse", u"(masse)"}, Row{u"masse", u"masse…"},
                          Row{u"force vive", u"la force vive"}, Row{u"9 81", u"9,81"},
-                         Row{u"Ω", u"10 ω"}, Row{u"aab", u"aaab aab"}});
+                         Row{u"Ω", u"10 ω"}, Row{u"a a b", u"a a a b"}});
     expectVerdict(false, {Row{u"masse", u"massette"}, Row{u"masse", u"la biomasse"},
                           Row{u"electron", u"electronique"}, Row{u"masse", u"masse2"},
                           Row{u"9 81", u"9,810"}, Row{u"m", u"m²"}, Row{u"masse", u""}});
@@ -150,7 +150,7 @@ std::u16string anything(std::mt19937& random, std::size_t most) {
 TEST(CastexteAnywhere, agreesWithThePlainestWay) {
     std::mt19937 random(5);
     int right = 0;
-    for (int i = 0; i < 50'000; ++i) {
+    for (int i = 0; i < 20'000; ++i) {
         const std::u16string typed = anything(random, 24);
         const std::u16string solution = anything(random, 3);
         ASSERT_EQ(foldedAnswer(typed), foldLiterally(typed)) << jet::toUtf8(typed);
@@ -159,7 +159,7 @@ TEST(CastexteAnywhere, agreesWithThePlainestWay) {
             << jet::toUtf8(solution) << " <- " << jet::toUtf8(typed);
         right += expected;
     }
-    EXPECT_GT(right, 1000); // the rows do reach both verdicts
+    EXPECT_GT(right, 500); // the rows do reach both verdicts
 }
 
 /// With time that grows as the square of the length this would outlast the run.

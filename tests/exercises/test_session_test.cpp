@@ -13,6 +13,7 @@ TEST_F(Opening, showsTheFirstQuestionOfTheChapter) {
           {question(201, 1, u"", u"Autre\r\n", u""), question(301, 3, u"x", u"Un\r\n", u"Non"),
            question(301, 1, u"", u"Double\r\n", u"")});
     shared.ExerciseReturnPage = 12;
+    state.CurrentQuestion = 4; // of a longer test
     open();
     EXPECT_EQ(window.title, u"Lumière"); // the last description counts, the first question
     EXPECT_EQ(window.caption, u"Question 1 / 3 :");
@@ -25,11 +26,12 @@ TEST_F(Opening, showsTheFirstQuestionOfTheChapter) {
 }
 
 TEST_F(Opening, aChapterWithoutATestHasAStripOfTwo) {
-    write({description(2, u"Autre", number(9))}, {question(201, 1, u"", u"Seule\r\n", u"")});
+    write({description(2, u"Autre", number(9))},
+          {question(201, 1, u"", u"Une\r\n", u""), question(202, 1, u"", u"Autre\r\n", u"")});
     open();
     EXPECT_EQ(window.title, u"");
     EXPECT_EQ(window.caption, u"Question 1 / 0 :");
-    EXPECT_EQ(window.source, u"Seule\r\n"); // the last record stands in for a missing one
+    EXPECT_EQ(window.source, u"Autre\r\n"); // the last record stands in for a missing one
     EXPECT_EQ(window.marker, std::pair(0, 0));
     EXPECT_EQ(state.QuestionCount, 2);
     session->next();
@@ -50,6 +52,9 @@ TEST_F(Opening, nullsAreFailuresOfTheirStatementOnly) {
     session->validate();
     EXPECT_EQ(verdict(1), -1);
     EXPECT_EQ(window.source, u"");
+    shared.PendingExerciseChapter = 0; // which is not NULL
+    open();
+    EXPECT_EQ(window.caption, u"Question 1 / 4 :");
 
     session->load(nullptr, nullptr); // as when there is no database at all
     session->next();
@@ -199,15 +204,16 @@ TEST_F(Answering, theLastAnswerShowsTheScore) {
         EXPECT_EQ(prompter.messages[0].title, u"Test terminé");
         EXPECT_EQ(window.caption, u"Question 2 / 2 :");
         EXPECT_EQ(window.marks(ChoiceArray::Check1), last ? u"     " : u"+    ");
+        EXPECT_FALSE(window.validate);
         EXPECT_TRUE(session->close()); // nothing left to ask about
         EXPECT_EQ(prompter.messages.size(), 1u);
     }
 }
 
-TEST_F(Answering, aTestClosedFromThePopupShowsNothingMore) {
+TEST_F(Answering, aTestLeftFromThePopupShowsNothingMore) {
     writeBoxes(1);
     open();
-    window.duringPopup = [&] { EXPECT_TRUE(session->close()); };
+    window.duringPopup = [&] { session->leaveFor(QStringLiteral("5")); };
     answer(true);
     EXPECT_TRUE(prompter.messages.empty());
     EXPECT_EQ(window.face, TestSession::kNeutralFace);
@@ -231,6 +237,7 @@ TEST_F(Answering, anyNumberOfQuestionsLeavesTheWindowUsable) {
         session->next();
         session->choose(299, 300);
         answer(false);
+        EXPECT_TRUE(window.score);
         session->prochainval();
         session->showScore();
         EXPECT_GE(state.CurrentQuestion, 1) << count;
@@ -249,6 +256,7 @@ TEST_F(Answering, nothingIsKeptOfAQuestionAboveAHundred) {
     EXPECT_EQ(window.caption, u"Question 101 / 101 :");
     answer(true);
     EXPECT_EQ(window.popups, 2);
+    EXPECT_FALSE(session->canValidate()); // no question is left to go to
     session->tritexte();
     EXPECT_TRUE(session->canValidate());
     EXPECT_EQ(counts(state).answered, 100);
@@ -263,6 +271,7 @@ TEST_F(Closing, asksWhileQuestionsAreLeft) {
     answer(false);
     prompter.answers = {Answer::No, Answer::Yes};
     EXPECT_FALSE(session->close());
+    shared.ExerciseReturnPage = 5;
     EXPECT_EQ(verdict(1), -1);
     EXPECT_TRUE(window.returnToTest);
     EXPECT_TRUE(session->close());
@@ -271,6 +280,7 @@ TEST_F(Closing, asksWhileQuestionsAreLeft) {
         platform::Message::Icon::Question, platform::Message::Buttons::YesNo};
     EXPECT_EQ(prompter.messages, std::vector({question, question}));
     EXPECT_EQ(shared.PendingExerciseChapter, 0);
+    EXPECT_EQ(shared.ExerciseReturnPage, 0);
     EXPECT_EQ(state.CurrentQuestion, 1);
     EXPECT_EQ(counts(state).answered, 0);
     EXPECT_FALSE(window.returnToTest);

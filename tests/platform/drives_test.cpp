@@ -1,9 +1,11 @@
+#include "platform/drive_search.h"
 #include "platform/qt/mounted_drives.h"
 
-#include <QDir>
-#include <QTemporaryDir>
-
 #include <gtest/gtest.h>
+
+#include <atomic>
+#include <semaphore>
+#include <thread>
 
 using Letters = std::map<QChar, QString>;
 
@@ -26,17 +28,50 @@ TEST(Drives, volumesGetTheFreeLettersFromD) {
     EXPECT_EQ(letters.at(u'Z'), "22");
 }
 
+TEST(Drives, volumesAreThoseOfDevices) {
+    EXPECT_EQ(platform::volumesIn("sysfs /sys sysfs rw 0 0\n"
+                                  "/dev/sda1 / ext4 rw 0 0\n"
+                                  "server:/home /home nfs4 rw 0 0\n"
+                                  "/dev/fuse /run/user/1000/doc fuse rw 0 0\n"
+                                  "/dev/sr0 /media/Le\\040cours\\134\\0402 iso9660 ro 0 0\n"
+                                  "/dev/sdb1 /media/a\\9\\04 vfat rw 0 0\n"
+                                  "/dev/sdc1\n\n"),
+              (QStringList{"/", "/media/Le cours\\ 2", "/media/a\\9\\04"}));
+}
+
 TEST(Drives, theCourseHasADiscOfItsOwnWhereThereIsNoOther) {
-    const QTemporaryDir course;
-    const QString disc = course.filePath("disc");
-    EXPECT_FALSE(platform::MountedDrives(course.path()).ready().contains(u'C'));
+    EXPECT_EQ(platform::MountedDrives("/course").letters().at(u'C'), "/course/disc");
+    EXPECT_FALSE(platform::MountedDrives("").letters().contains(u'C'));
+    const platform::MountedDrives mapped("/course", {{u'C', "/other"}, {u'Q', "/no/such"}});
+    EXPECT_EQ(mapped.letters().at(u'C'), "/other");
+    EXPECT_EQ(mapped.letters().at(u'Q'), "/no/such");
+}
 
-    QDir(course.path()).mkpath("disc");
-    EXPECT_EQ(platform::MountedDrives(course.path()).ready().at(u'C'), disc);
-
-    const QTemporaryDir other;
-    const platform::MountedDrives mapped(course.path(),
-                                         {{u'C', other.path()}, {u'Q', "/no/such/directory"}});
-    EXPECT_EQ(mapped.ready().at(u'C'), other.path());
-    EXPECT_FALSE(mapped.ready().contains(u'Q'));
+TEST(Drives, oneThatDoesNotAnswerHoldsUpNobodyTwice) {
+    struct TwoDrives : platform::Drives {
+        std::map<QChar, QString> letters() const override {
+            return {{u'D', "sound"}, {u'E', "stuck"}};
+        }
+    } drives;
+    struct Shared {
+        std::binary_semaphore release{0};
+        std::atomic<int> asked{0};
+    };
+    const auto shared = std::make_shared<Shared>();
+    platform::DriveSearch search(
+        drives,
+        [shared](const QString& top, const QString&, const QString& name) {
+            if (top == "stuck" && ++shared->asked == 1)
+                shared->release.acquire();
+            return std::optional(top + '/' + name);
+        },
+        std::chrono::milliseconds(50));
+    EXPECT_EQ(search.find("F", "a").value().path, "sound/a");
+    EXPECT_EQ(search.find("F", "b").value().letter, u'D');
+    EXPECT_EQ(shared->asked, 1);
+    // The drive counts again once it has answered.
+    shared->release.release();
+    while (search.find("F", "c").value().letter != u'E')
+        std::this_thread::yield();
+    EXPECT_EQ(shared->asked, 2);
 }

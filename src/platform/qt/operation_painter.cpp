@@ -11,6 +11,18 @@ namespace platform {
 
 namespace {
 
+/// Most device pixels that a picture is prepared in (64 MB): the largest size that a page can give,
+/// at four times the density. What is stretched beyond is prepared smaller and enlarged where it
+/// shows.
+constexpr double kMaxPicturePixels = 16e6;
+
+QSize preparedSize(QSize place) {
+    const double pixels = static_cast<double>(place.width()) * place.height();
+    if (pixels <= kMaxPicturePixels)
+        return place;
+    return (QSizeF(place) * std::sqrt(kMaxPicturePixels / pixels)).toSize().expandedTo({1, 1});
+}
+
 bool reachable(double x, double y) {
     return std::abs(x) < kFarPx * kTwipsPerPixel && std::abs(y) < kFarPx * kTwipsPerPixel;
 }
@@ -81,11 +93,20 @@ void OperationPainter::draw(const FillOperation& fill) {
 }
 
 void OperationPainter::draw(const PictureOperation& picture) {
-    const QPoint corner(pixel(picture.x), pixel(picture.y));
-    const QRect place(corner, QPoint(farEdge(picture.x + picture.width) - 1,
-                                     farEdge(picture.y + picture.height) - 1));
-    if (!place.isEmpty())
-        painter_.drawImage(corner, picture.picture->image(place.size()));
+    const QRect place(
+        QPoint(pixel(picture.x), pixel(picture.y)),
+        QPoint(farEdge(picture.x + picture.width) - 1, farEdge(picture.y + picture.height) - 1));
+    if (!place.intersects(shown()))
+        return;
+    const QImage image = picture.picture->image(preparedSize(place.size()));
+    painter_.setRenderHint(QPainter::SmoothPixmapTransform, image.size() != place.size());
+    painter_.drawImage(place, image);
+}
+
+QRect OperationPainter::shown() const {
+    const QRect device(0, 0, painter_.device()->width(), painter_.device()->height());
+    const QRect whole = painter_.worldTransform().inverted().mapRect(device);
+    return painter_.hasClipping() ? whole & painter_.clipBoundingRect().toAlignedRect() : whole;
 }
 
 double OperationPainter::toDevice(double twips) const {

@@ -58,17 +58,6 @@ private:
     QPoint origin_;
 };
 
-SurfaceId surfaceOf(const Operation& operation) {
-    return std::visit(
-        [](const auto& drawn) {
-            if constexpr (requires { drawn.surface; })
-                return drawn.surface;
-            else
-                return SurfaceId::Printer;
-        },
-        operation);
-}
-
 } // namespace
 
 QSize SheetRaster::size(const Sheet& sheet) const {

@@ -1,5 +1,6 @@
 #include "platform/svg/svg_file.h"
 
+#include "platform/multiply_inks.h"
 #include "platform/svg/svg_text.h"
 #include "platform/twips.h"
 
@@ -28,6 +29,10 @@ constexpr char kStyle[] =
 template <class... Values>
 bool near(Values... values) {
     return ((std::abs(values) < kFarTwips) && ...);
+}
+
+double wholePixels(double twips) {
+    return std::round(twips / kTwipsPerPixel) * kTwipsPerPixel;
 }
 
 /// The pictures of a document, each stored once under a name of its own.
@@ -94,6 +99,12 @@ public:
     ElementWriter(const TextMetrics& metrics, PictureStore& pictures, QByteArray& out)
         : metrics_(metrics), pictures_(pictures), out_(out) {}
 
+    /// `ink` is the operation's own where mask fills multiply.
+    void write(const Operation& operation, QRgb ink) {
+        ink_ = ink;
+        std::visit(*this, operation);
+    }
+
     void operator()(const TextOperation& text) const {
         const int em = fontPixels(text.font.points);
         const QString shown = svg::shownText(text.font.face, text.text);
@@ -109,7 +120,7 @@ public:
             attribute("font-weight", "bold");
         if (text.font.italic)
             attribute("font-style", "italic");
-        fill(text.ink);
+        fillColour();
         if (text.width > 0)
             attribute("textLength", pixels(text.width));
         // The widths of sign faces are not those of the faces that have their signs.
@@ -120,8 +131,7 @@ public:
         out_ += "</text>\n";
         if (text.font.underline)
             rectangle(text.x, foot + em * kUnderlineDrop * kTwipsPerPixel, text.width,
-                      std::max(1.0, std::round(em * kUnderlineThickness)) * kTwipsPerPixel,
-                      text.ink);
+                      std::max(1.0, std::round(em * kUnderlineThickness)) * kTwipsPerPixel);
     }
 
     void operator()(const LineOperation& line) const {
@@ -134,7 +144,7 @@ public:
             // It covers the pixels at its positions, as on screen.
             rectangle(std::min(line.x1, line.x2), std::min(line.y1, line.y2),
                       down == 0 ? std::max(across, width) : width,
-                      down == 0 ? width : std::max(down, width), line.ink);
+                      down == 0 ? width : std::max(down, width));
             return;
         }
         const double centre = kTwipsPerPixel / 2;
@@ -143,14 +153,14 @@ public:
         attribute("y1", pixels(line.y1 + centre));
         attribute("x2", pixels(line.x2 + centre));
         attribute("y2", pixels(line.y2 + centre));
-        attribute("stroke", colour(line.ink));
+        attribute("stroke", colour(ink_));
         attribute("stroke-width", pixels(width));
         attribute("style", "shape-rendering:auto");
         out_ += "/>\n";
     }
 
     void operator()(const FillOperation& fill) const {
-        rectangle(fill.x, fill.y, fill.width, fill.height, fill.ink,
+        rectangle(fill.x, fill.y, fill.width, fill.height,
                   fill.mode == FillMode::Mask ? "m" : nullptr);
     }
 
@@ -197,9 +207,9 @@ private:
         out_.append(' ').append(name).append("=\"").append(value).append('"');
     }
 
-    void fill(QRgb ink) const {
-        if ((ink & 0xffffff) != 0)
-            attribute("fill", colour(ink));
+    void fillColour() const {
+        if ((ink_ & 0xffffff) != 0)
+            attribute("fill", colour(ink_));
     }
 
     void box(double x, double y, double width, double height) const {
@@ -209,13 +219,20 @@ private:
         attribute("height", pixels(height));
     }
 
-    void rectangle(double x, double y, double width, double height, QRgb ink,
+    /// Covers the whole pixels that it covers on screen.
+    void rectangle(double x, double y, double width, double height,
                    const char* className = nullptr) const {
         if (!near(x, y) || !(width > 0) || !(height > 0))
             return;
+        const double left = wholePixels(x);
+        const double top = wholePixels(y);
+        const double right = wholePixels(std::min(x + width, kFarTwips));
+        const double foot = wholePixels(std::min(y + height, kFarTwips));
+        if (right == left || foot == top)
+            return;
         out_ += "<rect";
-        box(x, y, std::min(width, kFarTwips), std::min(height, kFarTwips));
-        fill(ink);
+        box(left, top, right - left, foot - top);
+        fillColour();
         if (className)
             attribute("class", className);
         out_ += "/>\n";
@@ -224,12 +241,14 @@ private:
     const TextMetrics& metrics_;
     PictureStore& pictures_;
     QByteArray& out_;
+    QRgb ink_ = 0;
 };
 
 class DocumentWriter {
 public:
     DocumentWriter(const Sheet& sheet, const TextMetrics& metrics, const LinkAddress& address)
-        : sheet_(sheet), metrics_(metrics), address_(address) {}
+        : sheet_(sheet), metrics_(metrics), address_(address),
+          inks_(multiplyInks(sheet.operations, metrics)) {}
 
     QByteArray write(double scale) {
         for (const PlacedSurface& surface : sheet_.surfaces)
@@ -259,15 +278,10 @@ private:
                   "\" height=\"" + pixels(surface.height) + "\"/></clipPath>\n";
         body_ += "<g transform=\"translate(" + pixels(surface.x) + ' ' + pixels(surface.y) +
                  ")\" clip-path=\"url(#" + name + ")\">\n";
-        const ElementWriter elements(metrics_, pictures_, body_);
-        for (const Operation& operation : sheet_.operations)
-            std::visit(
-                [&](const auto& drawn) {
-                    if constexpr (requires { drawn.surface; })
-                        if (drawn.surface == surface.surface)
-                            elements(drawn);
-                },
-                operation);
+        ElementWriter elements(metrics_, pictures_, body_);
+        for (std::size_t i = 0; i < sheet_.operations.size(); ++i)
+            if (surfaceOf(sheet_.operations[i]) == surface.surface)
+                elements.write(sheet_.operations[i], inks_[i]);
         for (const LinkArea& area : sheet_.links)
             if (area.surface == surface.surface)
                 if (const QString to = address_ ? address_(area.tag) : QString(); !to.isEmpty())
@@ -278,6 +292,7 @@ private:
     const Sheet& sheet_;
     const TextMetrics& metrics_;
     const LinkAddress& address_;
+    std::vector<QRgb> inks_;
     PictureStore pictures_;
     QByteArray clips_;
     QByteArray body_;

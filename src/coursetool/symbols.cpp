@@ -1,0 +1,69 @@
+#include "coursetool/symbols.h"
+
+#include "coursetool/file_list.h"
+#include "coursetool/paths.h"
+#include "viewer/symbol_names.h"
+
+namespace coursetool {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// The folder of a course's own symbols, in any letter case; empty when there is none.
+fs::path symbolFolder(const fs::path& course, Report& report) {
+    NameTable folders;
+    for (const fs::directory_entry& entry : entriesOf(course, report)) {
+        std::error_code error;
+        if (entry.is_directory(error))
+            folders.add(entry.path().filename());
+    }
+    const auto name = folders.find(viewer::kSymbolFolder);
+    return name ? course / *name : fs::path();
+}
+
+/// The names of the files in the folder; those that name no symbol are warned about.
+std::vector<std::string> symbolFiles(const fs::path& folder, Report& report) {
+    std::vector<std::string> names;
+    for (const fs::directory_entry& entry : entriesOf(folder, report)) {
+        const std::string name = shown(entry.path().filename());
+        std::error_code error;
+        if (entry.is_regular_file(error) && viewer::symbolKey(name))
+            names.push_back(name);
+        else if (!name.starts_with('.'))
+            report.warning(
+                {shown(entry.path())},
+                "laissé de côté : le nom d’un symbole commence par sa clé de deux "
+                "caractères, suivie de « - » ou « . », et finit comme celui d’une image");
+    }
+    return names;
+}
+
+void warnAboutHidden(const fs::path& folder, const std::vector<std::string>& names,
+                     const std::map<std::string, viewer::SymbolFile>& list, Report& report) {
+    for (const std::string& name : names) {
+        const viewer::SymbolFile& shownOne = list.at(viewer::symbolKey(name).value());
+        if (shownOne.name != name)
+            report.warning({shown(folder / pathFrom(name))},
+                           "laissé de côté : sa clé est celle de " + inQuotes(shownOne.name));
+    }
+}
+
+} // namespace
+
+void listSymbols(const fs::path& course, OutputBuffer& out, Report& report) {
+    const fs::path folder = course.empty() ? fs::path() : symbolFolder(course, report);
+    const std::vector<std::string> names =
+        folder.empty() ? std::vector<std::string>() : symbolFiles(folder, report);
+    const auto list = viewer::imageListOf(names);
+    warnAboutHidden(folder, names, list, report);
+    for (const auto& [key, file] : list) {
+        out.text() +=
+            key + '\t' + file.name + '\t' + (file.isOwn ? "Orvalente" : shown(folder)) + '\n';
+        out.lineDone();
+    }
+    if (!out.flush())
+        report.fault({"sortie standard"}, "tout n’a pas pu être écrit");
+}
+
+} // namespace coursetool

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "coursetool/report.h"
+#include "platform/qt/mounted_drives.h"
+#include "viewer/course_pictures.h"
+
+#include <QSet>
+
+#include <filesystem>
+#include <map>
+
+namespace coursetool {
+
+/// The pictures of a course, for work that nobody waits beside: a disc that is missing is not asked
+/// for. Each missing picture is told once, as a warning.
+class ToolPictures : public markup::PictureShelf {
+public:
+    /// Without a course (`course` empty) there are the symbols and what the drives hold. `drives`
+    /// are directories by letter, in upper case.
+    ToolPictures(const std::filesystem::path& course,
+                 const std::map<char, std::filesystem::path>& drives, Report& report);
+
+    QString locatePicture(const QString& name) override;
+    std::shared_ptr<const platform::Picture> load(const QString& path) override;
+    std::shared_ptr<const platform::Picture> symbol(const QString& key) override;
+
+private:
+    /// Nobody is there to answer, and nobody hears a beep.
+    struct Absent : platform::Prompter, platform::Beeper {
+        platform::Answer ask(const platform::Message&) override { return platform::Answer::Cancel; }
+        void beep() override {}
+    };
+
+    void warnOnce(const QString& subject, const std::string& sentence);
+
+    std::string place_;
+    Report& report_;
+    QSet<QString> told_;
+    shell::SharedState state_;
+    platform::MountedDrives drives_;
+    Absent nobody_;
+    shell::DataLocation location_;
+    viewer::ImageList symbols_;
+    viewer::CoursePictures pictures_;
+};
+
+} // namespace coursetool

@@ -1,0 +1,208 @@
+#include "platform/qt/svg_guard.h"
+
+#include "platform/qt/picture_file.h"
+#include "platform/qt/svg_size.h"
+
+#include <QBuffer>
+#include <QHash>
+#include <QXmlStreamReader>
+#include <QXmlStreamWriter>
+
+#include <vector>
+
+namespace platform {
+
+namespace {
+
+/// Length of a path's description that takes as long to draw as an element more.
+constexpr qsizetype kPathCharacters = 256;
+
+/// How an SVG's elements hold and use each other.
+class UseGraph {
+public:
+    /// Takes an element as it begins; false when there are too many, too deep.
+    bool begin(const QString& id, const QString& uses, qint64 weight) {
+        const int index = static_cast<int>(nodes_.size());
+        if (index >= kMaxSvgElements || open_.size() >= kMaxSvgDepth)
+            return false;
+        if (!open_.empty())
+            nodes_[open_.back()].children.push_back(index);
+        if (!id.isEmpty())
+            ids_.insert(id, index);
+        nodes_.push_back({uses, weight, {}, Node::State::Unknown});
+        open_.push_back(static_cast<std::size_t>(index));
+        return true;
+    }
+
+    void end() { open_.pop_back(); }
+
+    /// The weight of the whole, when it is bounded.
+    std::optional<qint64> weight() {
+        if (nodes_.empty() || !add(0, 0))
+            return std::nullopt;
+        return nodes_.front().weight;
+    }
+
+private:
+    struct Node {
+        QString uses;
+        qint64 weight;
+        std::vector<int> children;
+        enum class State { Unknown, BeingAdded, Added } state;
+    };
+
+    /// Chains of elements that use each other, within each other; more would be deep recursion.
+    static constexpr int kMaxNesting = 4 * kMaxSvgDepth;
+
+    /// Adds to an element's weight that of all it holds and uses; false beyond the bounds.
+    bool add(int index, int nesting) {
+        Node& node = nodes_[static_cast<std::size_t>(index)];
+        if (node.state == Node::State::Added)
+            return true;
+        if (node.state == Node::State::BeingAdded || nesting > kMaxNesting)
+            return false;
+        node.state = Node::State::BeingAdded;
+        for (const int child : node.children)
+            if (!addTo(node, child, nesting))
+                return false;
+        if (const auto used = ids_.constFind(node.uses); used != ids_.constEnd())
+            if (!addTo(node, *used, nesting))
+                return false;
+        node.state = Node::State::Added;
+        return true;
+    }
+
+    bool addTo(Node& node, int part, int nesting) {
+        if (!add(part, nesting + 1))
+            return false;
+        node.weight += nodes_[static_cast<std::size_t>(part)].weight;
+        return node.weight <= kMaxSvgWeight;
+    }
+
+    std::vector<Node> nodes_;
+    std::vector<std::size_t> open_;
+    QHash<QString, int> ids_;
+};
+
+class Guard {
+public:
+    explicit Guard(const QByteArray& file) : reader_(file), writer_(&guarded_.source) {
+        // Programs leave behind names of spaces that they do not declare.
+        reader_.setNamespaceProcessing(false);
+    }
+
+    std::optional<GuardedSvg> run() {
+        while (!reader_.atEnd() && !refused_)
+            take(reader_.readNext());
+        if (refused_ || reader_.hasError())
+            return std::nullopt;
+        const auto weight = uses_.weight();
+        if (!weight)
+            return std::nullopt;
+        guarded_.weight = *weight;
+        return guarded_;
+    }
+
+private:
+    void take(QXmlStreamReader::TokenType token) {
+        if (token == QXmlStreamReader::StartElement) {
+            beginElement();
+        } else if (token == QXmlStreamReader::EndElement) {
+            writer_.writeEndElement();
+            uses_.end();
+        } else if (token == QXmlStreamReader::Characters) {
+            writer_.writeCharacters(reader_.text().toString());
+        }
+    }
+
+    /// The element's name as it is without a name space: "svg:path" is a path.
+    QString elementName() const {
+        const QString name = reader_.qualifiedName().toString();
+        return name.startsWith(QLatin1String("svg:")) ? name.mid(4) : name;
+    }
+
+    void beginElement() {
+        const QString name = elementName();
+        const QXmlStreamAttributes attributes = reader_.attributes();
+        if (isFirst_ && name != QLatin1String("svg")) {
+            refused_ = true;
+            return;
+        }
+        if (name == QLatin1String("script")) {
+            reader_.skipCurrentElement();
+            return;
+        }
+        writer_.writeStartElement(name);
+        QString uses;
+        qint64 weight = 1;
+        for (const QXmlStreamAttribute& attribute : attributes) {
+            const QString value = attribute.value().toString();
+            if (isReference(attribute)) {
+                if (!mayRefer(name, value))
+                    continue;
+                uses = value.trimmed().mid(1);
+            }
+            weight += value.size() / kPathCharacters;
+            writer_.writeAttribute(attribute.qualifiedName().toString(), value);
+        }
+        if (isFirst_)
+            takeSize(attributes);
+        isFirst_ = false;
+        refused_ = !uses_.begin(attributes.value(QLatin1String("id")).toString(), uses, weight) ||
+                   refused_;
+    }
+
+    static bool isReference(const QXmlStreamAttribute& attribute) {
+        const auto name = attribute.qualifiedName();
+        return name == QLatin1String("href") || name.endsWith(QLatin1String(":href"));
+    }
+
+    /// Whether what is referred to lies in the file itself.
+    bool mayRefer(const QString& element, const QString& value) {
+        return value.trimmed().startsWith(u'#') ||
+               (element == QLatin1String("image") && isPictureInside(value));
+    }
+
+    /// Only pictures that can be read: for any other the drawing library would look for a file.
+    bool isPictureInside(const QString& value) {
+        const QLatin1String encoded("base64,");
+        const qsizetype at = value.lastIndexOf(encoded);
+        if (!value.startsWith(QLatin1String("data:")) || at < 0)
+            return false;
+        const QByteArray bytes = QByteArray::fromBase64(value.mid(at + encoded.size()).toLatin1());
+        if (pictureFormat(bytes) == PictureFormat::Svg)
+            return false;
+        const auto picture = pictureFrom(bytes);
+        if (!picture)
+            return false;
+        pixelsInside_ += qint64(picture->size().width()) * picture->size().height();
+        refused_ = refused_ || pixelsInside_ > kMaxPicturePixels;
+        return true;
+    }
+
+    void takeSize(const QXmlStreamAttributes& attributes) {
+        guarded_.size = svgSize(attributes);
+        if (!guarded_.size.isEmpty() && !attributes.hasAttribute(QLatin1String("viewBox")))
+            writer_.writeAttribute(
+                QStringLiteral("viewBox"),
+                QStringLiteral("0 0 %1 %2").arg(guarded_.size.width()).arg(guarded_.size.height()));
+    }
+
+    QXmlStreamReader reader_;
+    GuardedSvg guarded_;
+    QXmlStreamWriter writer_;
+    UseGraph uses_;
+    qint64 pixelsInside_ = 0;
+    bool isFirst_ = true;
+    bool refused_ = false;
+};
+
+} // namespace
+
+std::optional<GuardedSvg> guardSvg(const QByteArray& file) {
+    if (file.size() > kMaxSvgBytes)
+        return std::nullopt;
+    return Guard(file).run();
+}
+
+} // namespace platform

@@ -1,0 +1,37 @@
+#include "viewer/image_list.h"
+
+#include "platform/file_names.h"
+#include "platform/qt/picture_file.h"
+#include "viewer/symbol_names.h"
+
+#include <QDir>
+
+namespace viewer {
+
+std::shared_ptr<const platform::Picture> ImageList::symbol(const QString& key) {
+    if (!paths_)
+        paths_ = listFiles();
+    const std::string plain = plainSymbolKey(key.toStdString());
+    const auto path = paths_->find(plain);
+    if (path == paths_->end())
+        return nullptr;
+    const auto [held, isNew] = pictures_.try_emplace(plain);
+    if (isNew)
+        held->second = platform::loadPicture(path->second);
+    return held->second;
+}
+
+std::map<std::string, QString> ImageList::listFiles() const {
+    const auto folder = platform::findFolderWithoutCase(courseDirectory_, kSymbolFolder);
+    std::vector<std::string> courseFiles;
+    if (folder)
+        for (const QString& name : QDir(*folder).entryList(QDir::Files))
+            courseFiles.push_back(name.toStdString());
+    std::map<std::string, QString> paths;
+    for (const auto& [key, file] : imageListOf(std::move(courseFiles)))
+        paths[key] = (file.isOwn ? QStringLiteral(":/symbols") : *folder) + u'/' +
+                     QString::fromStdString(file.name);
+    return paths;
+}
+
+} // namespace viewer
