@@ -33,20 +33,22 @@ inline QString richPageHtml() {
 /// Page `number` of a course of `count`: the rich page, a table of three rows, a picture of 320 by
 /// 240 pixels ("photo.jpg") and links to four other pages.
 inline QString coursePageSource(int number, int count) {
-    QString source = richPageSource();
-    for (const char16_t* row :
-         {u"air¶\n##TAB200400 2\n1,000¶\n##TAB400590 3\n300 000¶\n##FINTAC01",
-          u"eau¶\n##TAB200400 2\n1,333¶\n##TAB400590 3\n225 000¶\n##FINTAB",
-          u"verre¶\n##TAB200400 2\n1,500¶\n##TAB400590 3\n200 000¶\n##FINTAC04"})
-        source += QLatin1String("##TAB010200 1\n") + QString::fromUtf16(row) + u'\n';
-    source += QLatin1String("##IHDEFphoto.jpg320240\n");
+    static const QString kCommon = [] {
+        QString source = richPageSource();
+        // Or the line would leave the column.
+        source.replace(QStringLiteral(" : c’est \r\n"), QStringLiteral(" :¶\r\nc’est \r\n"));
+        for (const char16_t* row :
+             {u"air¶\r\n##TAB200400 2\r\n1,000¶\r\n##TAB400590 3\r\n300 000¶\r\n##FINTAC01",
+              u"eau¶\r\n##TAB200400 2\r\n1,333¶\r\n##TAB400590 3\r\n225 000¶\r\n##FINTAB",
+              u"verre¶\r\n##TAB200400 2\r\n1,500¶\r\n##TAB400590 3\r\n200 000¶\r\n##FINTAC04"})
+            source += QLatin1String("##TAB010200 1\r\n") + QString::fromUtf16(row) +
+                      QLatin1String("\r\n");
+        return source + QLatin1String("##IHDEFphoto.jpg320240\r\n");
+    }();
+    QString source = kCommon;
     for (const int step : {1, 2, 10, 100})
-        source += QStringLiteral("##LIERTpage %1#PAG%1\n  \n").arg((number + step) % count + 1);
-    source += QStringLiteral("¶\n");
-    return source.replace(QLatin1String("\r\n"), QLatin1String("\n"))
-        .replace(QStringLiteral(" : c’est \n"),
-                 QStringLiteral(" :¶\nc’est \n")) // or the line would leave the column
-        .replace(QLatin1String("\n"), QLatin1String("\r\n"));
+        source += QStringLiteral("##LIERTpage %1#PAG%1\r\n  \r\n").arg((number + step) % count + 1);
+    return source + QStringLiteral("¶\r\n");
 }
 
 /// The same content as HTML.

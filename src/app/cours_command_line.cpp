@@ -7,7 +7,12 @@
 #include "coursetool/report.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
+#include <cctype>
+#include <charconv>
 #include <optional>
+#include <string_view>
+#include <vector>
 
 namespace app {
 
@@ -26,8 +31,37 @@ struct Typed {
     std::string question;
     std::string source;
     RenderWords render;
+    std::optional<std::string> expression;
+    bool radians = false;
+    bool scientific = false;
+    bool steps = false;
+    bool batch = false;
     std::vector<std::string> drives;
 };
+
+/// Whether an argument of `calc` is an option and not an expression with a sign in front, "-3" or
+/// "-sin 30". A single "-" before words without a digit is a slip of the pen for "--".
+bool isCalcOption(std::string_view argument) {
+    const bool isLong = argument.starts_with("--");
+    const std::string_view name = argument.substr(isLong ? 2 : 1);
+    return argument == "--" ||
+           (!name.empty() && std::isalpha(static_cast<unsigned char>(name[0])) &&
+            (isLong || name.find_first_of("0123456789") == name.npos));
+}
+
+/// The arguments after the program's name, the first last. Blanks mean nothing in an expression;
+/// one in front of a sign keeps it from being taken for an option.
+std::vector<std::string> argumentsBackwards(int argc, char** argv) {
+    std::vector<std::string> arguments(argv + std::min(argc, 1), argv + argc);
+    if (!arguments.empty() && arguments.front() == "calc") {
+        for (std::string& argument : arguments) {
+            if (argument.starts_with('-') && !isCalcOption(argument))
+                argument.insert(0, 1, ' ');
+        }
+    }
+    std::ranges::reverse(arguments);
+    return arguments;
+}
 
 class Reader {
 public:
@@ -84,17 +118,19 @@ public:
         symbols_ = add("symbols", "La liste d’images : clés, images, et d’où elles viennent");
         positional(symbols_, "DOSSIER", typed_.from,
                    "Dossier d’installation, dont les symboles comptent aussi");
+
+        addCalc();
     }
 
     CoursCall read(int argc, char** argv) {
         try {
-            app_.parse(argc, argv);
+            app_.parse(argumentsBackwards(argc, argv));
         } catch (const CLI::CallForHelp&) {
             return ShowText{app_.help() + "\n"};
         } catch (const CLI::CallForVersion&) {
             return ShowText{app_.version() + "\n"};
         } catch (const CLI::ParseError& error) {
-            return WrongCall{sentence(error)};
+            return WrongCall{sentence(error), wrongCallStatus()};
         }
         return call();
     }
@@ -104,6 +140,20 @@ private:
         CLI::App* command = app_.add_subcommand(name, description);
         command->group("Sous-commandes");
         return command;
+    }
+
+    void addCalc() {
+        calc_ = add("calc", "Calcule une expression comme la calculatrice du cours");
+        calc_->add_option("EXPRESSION", typed_.expression, "En un seul argument, entre guillemets")
+            ->type_name("");
+        calc_->add_flag("--radians", typed_.radians, "Angles en radians, et non en degrés");
+        calc_->add_flag("--scientific", typed_.scientific, "Affichage scientifique : 1.2345E+04");
+        calc_->add_flag("--trace", typed_.steps, "Montre le texte après chaque étape");
+        calc_->add_flag("--batch", typed_.batch,
+                        "Une expression par ligne de l’entrée ; pour chacune le code d’erreur,\n"
+                        "une tabulation, le résultat ou le message");
+        calc_->footer("Code de sortie : 0, ou le code d’erreur de la calculatrice (1 à 3) ;\n"
+                      "64 mauvais appel.");
     }
 
     static void positional(CLI::App* command, const char* name, std::string& value,
@@ -134,11 +184,17 @@ private:
     std::string sentence(const CLI::ParseError& error) const {
         if (dynamic_cast<const CLI::ExtrasError*>(&error)) {
             const std::vector<std::string> extra = app_.remaining(true);
+            if (typed_.expression && !extra.empty() && !extra.front().starts_with('-'))
+                return "l’expression tient en un seul argument, entre guillemets";
             return "argument inattendu : " + inQuotes(extra.empty() ? "" : extra.front());
         }
         const std::string text = error.what();
         return "une option est répétée, ou sa valeur manque : " +
                inQuotes(text.substr(0, text.find_first_of(": ")));
+    }
+
+    int wrongCallStatus() const {
+        return calc_->parsed() ? calculator::kWrongCall : WrongCall{}.status;
     }
 
     CoursCall call() const {
@@ -152,6 +208,8 @@ private:
             return traceCall();
         if (render_->parsed())
             return renderCall();
+        if (calc_->parsed())
+            return calcCall();
         if (symbols_->parsed())
             return symbolsCall();
         return WrongCall{"il manque une sous-commande"};
@@ -232,6 +290,19 @@ private:
         return call;
     }
 
+    CoursCall calcCall() const {
+        if (typed_.batch && (typed_.expression || typed_.steps))
+            return WrongCall{"« --batch » va sans expression ni « --trace »", wrongCallStatus()};
+        if (!typed_.batch && !typed_.expression)
+            return WrongCall{"il manque l’expression", wrongCallStatus()};
+        using calculator::AngleMode;
+        using calculator::Format;
+        return CalcCall{typed_.expression.value_or(std::string()),
+                        typed_.radians ? AngleMode::Radians : AngleMode::Degrees,
+                        typed_.scientific ? Format::Scientific : Format::Standard, typed_.batch,
+                        typed_.steps};
+    }
+
     CoursCall symbolsCall() const {
         if (!typed_.from.empty())
             if (const auto wrong = notADirectory(typed_.from, "le dossier d’installation"))
@@ -282,6 +353,7 @@ private:
     CLI::App* dump_ = nullptr;
     CLI::App* trace_ = nullptr;
     CLI::App* render_ = nullptr;
+    CLI::App* calc_ = nullptr;
     CLI::App* symbols_ = nullptr;
 };
 

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "calculator/calc_command.h"
 #include "coursetool/drawing_request.h"
+#include "coursetool/exit_code.h"
 
 #include <filesystem>
 #include <string>
@@ -24,6 +26,7 @@ struct DumpCall {
 };
 using TraceCall = coursetool::TraceRequest;
 using RenderCall = coursetool::RenderRequest;
+using CalcCall = calculator::CalcOptions;
 struct SymbolsCall {
     std::filesystem::path course; ///< empty: the symbols of the program alone
 };
@@ -34,10 +37,11 @@ struct ShowText {
 /// The call makes no sense; the sentence says why.
 struct WrongCall {
     std::string sentence;
+    int status = static_cast<int>(coursetool::ExitCode::WrongCall);
 };
 
 using CoursCall = std::variant<BuildCall, ExtractCall, DumpCall, TraceCall, RenderCall, SymbolsCall,
-                               ShowText, WrongCall>;
+                               CalcCall, ShowText, WrongCall>;
 
 /// Reads the command line. Directories and files that must be there are; an output directory of
 /// `extract` is empty or not there yet.

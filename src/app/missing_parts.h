@@ -46,12 +46,4 @@ private:
     shell::ReportSink& reports_;
 };
 
-/// Pages place no links, so there are none to reset.
-class MissingLinks : public viewer::PageLinks {
-public:
-    void shareCursor() override {}
-    void reset() override {}
-    void resetHighlight(int) override {}
-};
-
 } // namespace app

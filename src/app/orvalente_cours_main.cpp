@@ -7,6 +7,7 @@
 #include "platform/module.h"
 
 #include <cstdio>
+#include <iostream>
 
 namespace {
 
@@ -25,39 +26,48 @@ struct Perform {
     Report report;
     OutputBuffer out{stdout};
 
-    ExitCode operator()(const app::BuildCall& call) {
+    int operator()(const app::BuildCall& call) {
         coursetool::build(call.source, call.output, report);
         return verdict();
     }
-    ExitCode operator()(const app::ExtractCall& call) {
+    int operator()(const app::ExtractCall& call) {
         coursetool::extract(call.course, call.output, report);
         return verdict();
     }
-    ExitCode operator()(const app::DumpCall& call) {
-        return coursetool::dump(call.file, call.table, out, report);
+    int operator()(const app::DumpCall& call) {
+        return status(coursetool::dump(call.file, call.table, out, report));
     }
-    ExitCode operator()(const app::TraceCall& call) {
+    int operator()(const app::TraceCall& call) {
         if (const auto run = drawing<coursetool::TraceFunction>(coursetool::kTraceSymbol))
             run(argc, argv, call, out, report);
         return verdict();
     }
-    ExitCode operator()(const app::RenderCall& call) {
+    int operator()(const app::RenderCall& call) {
         if (const auto run = drawing<coursetool::RenderFunction>(coursetool::kRenderSymbol))
             run(argc, argv, call, report);
         return verdict();
     }
-    ExitCode operator()(const app::SymbolsCall& call) {
+    int operator()(const app::CalcCall& call) {
+        std::ios::sync_with_stdio(false);
+        std::cin.tie(nullptr);
+        const int error = calculator::runCalc(call, std::cin, std::cout, std::cerr);
+        if (std::cout.flush())
+            return error;
+        report.fault({"sortie standard"}, "tout n’a pas pu être écrit");
+        return verdict();
+    }
+    int operator()(const app::SymbolsCall& call) {
         coursetool::listSymbols(call.course, out, report);
         return verdict();
     }
-    ExitCode operator()(const app::ShowText& show) {
+    int operator()(const app::ShowText& show) {
         print(stdout, show.text);
-        return ExitCode::Fine;
+        return status(ExitCode::Fine);
     }
-    ExitCode operator()(const app::WrongCall& wrong) {
+    int operator()(const app::WrongCall& wrong) {
         print(stderr, "orvalente-cours : " + wrong.sentence +
                           " ; « orvalente-cours --help » montre les sous-commandes.\n");
-        return ExitCode::WrongCall;
+        return wrong.status;
     }
 
     /// A function of the module that draws; a fault, and null, when it is not to be had.
@@ -70,15 +80,16 @@ struct Perform {
         return reinterpret_cast<Function>(found.address);
     }
 
-    ExitCode verdict() const { return report.hasFaults() ? ExitCode::Faults : ExitCode::Fine; }
+    static int status(ExitCode code) { return static_cast<int>(code); }
+    int verdict() const { return status(report.hasFaults() ? ExitCode::Faults : ExitCode::Fine); }
 };
 
 } // namespace
 
 int main(int argc, char** argv) {
     Perform perform{argc, argv, {}};
-    const ExitCode code = std::visit(perform, app::readCoursCommandLine(argc, argv));
+    const int status = std::visit(perform, app::readCoursCommandLine(argc, argv));
     for (const std::string& line : perform.report.lines())
         print(stderr, line + '\n');
-    return static_cast<int>(code);
+    return status;
 }

@@ -18,6 +18,7 @@
 #include "shell/start_up.h"
 #include "viewer/action_dispatcher.h"
 #include "viewer/course_pictures.h"
+#include "viewer/link_controls.h"
 #include "viewer/main_commands.h"
 #include "viewer/multim.h"
 
@@ -88,7 +89,7 @@ struct ShellApplication::Parts {
     Parts(const CommandLine& commandLine, double scale)
         : screen(scale), window(state, fonts, screen),
           launcher(state, prompter, processes, activator, window), modules(launcher), video(window),
-          printing(window),
+          printing(window), links(window, fonts, drawing.links),
           exercise(window, QStringLiteral("Cette édition n’a pas encore les tests.")),
           orderForm(window, QStringLiteral("Cette édition n’a pas encore de bon de commande.")),
           search(window, QStringLiteral("Cette édition n’a pas encore la recherche.")),
@@ -123,7 +124,7 @@ struct ShellApplication::Parts {
     LaunchedModules modules;
     MissingVideo video;
     MissingPrinting printing;
-    MissingLinks links;
+    viewer::LinkControls links;
     MissingWindow exercise, orderForm, search, help, installation;
     Calculator calculator;
     Ending ending;

@@ -1,6 +1,7 @@
 #include "calculator/calc_command.h"
 
 #include "calculator/evaluator.h"
+#include "jet/unicode.h"
 
 #include <istream>
 #include <ostream>
@@ -15,72 +16,72 @@ constexpr std::size_t kLongestLine = 1 << 20;
 
 struct Answer {
     ErrorCode error;
-    Text line; ///< result line or message
+    std::string line; ///< result line or message
 };
 
-Answer answerTo(const Text& expression, const CalcOptions& options, Hooks hooks = {}) {
-    const Evaluation found = Evaluator(std::move(hooks)).evaluer(expression, options.angles);
-    if (found.error != ErrorCode::None)
-        return {found.error, Text(message(found.error))};
-    if (const auto line = resultLine(found.text, options.format))
-        return {ErrorCode::None, *line};
-    return {ErrorCode::Impossible, Text(kOverflowMessage)};
+Answer failure(ErrorCode error) {
+    return {error, jet::toUtf8(message(error))};
 }
 
-std::string utf8(TextView text) {
-    return QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size())).toStdString();
+Answer answerTo(const std::string& expression, const CalcOptions& options, Hooks hooks = {}) {
+    const Evaluation found =
+        Evaluator(std::move(hooks)).evaluer(jet::toUtf16(expression), options.angles);
+    if (found.error != ErrorCode::None)
+        return failure(found.error);
+    if (const auto line = resultLine(found.text, options.format))
+        return {ErrorCode::None, jet::toUtf8(*line)};
+    return {ErrorCode::Impossible, jet::toUtf8(kOverflowMessage)};
 }
 
 enum class Line { None, Whole, TooLong };
 
 /// Reads a line without its end (LF or CR LF); of one that is too long only the start is kept.
-Line readLine(std::istream& in, std::string& line) {
+Line readLine(std::streambuf& in, std::string& line) {
+    constexpr int kEnd = std::char_traits<char>::eof();
     line.clear();
-    bool any = false;
+    int c = in.sbumpc();
+    if (c == kEnd)
+        return Line::None;
     bool tooLong = false;
-    for (char c = 0; in.get(c);) {
-        any = true;
-        if (c == '\n')
-            break;
+    for (; c != kEnd && c != '\n'; c = in.sbumpc()) {
         if (line.size() < kLongestLine)
-            line += c;
+            line += static_cast<char>(c);
         else
             tooLong = true;
     }
     if (!line.empty() && line.back() == '\r')
         line.pop_back();
-    return !any ? Line::None : tooLong ? Line::TooLong : Line::Whole;
+    return tooLong ? Line::TooLong : Line::Whole;
 }
 
-void runBatch(const CalcOptions& options, std::istream& in, std::ostream& out) {
+void runBatch(const CalcOptions& options, std::streambuf& in, std::ostream& out) {
     std::string line;
-    for (Line read = readLine(in, line); read != Line::None; read = readLine(in, line)) {
+    while (out) {
+        if (in.in_avail() <= 0)
+            out.flush();
+        const Line read = readLine(in, line);
+        if (read == Line::None)
+            return;
         const Answer answer =
-            read == Line::TooLong
-                ? Answer{ErrorCode::Impossible, Text(message(ErrorCode::Impossible))}
-                : answerTo(QString::fromStdString(line).toStdU16String(), options);
-        out << static_cast<int>(answer.error) << '\t' << utf8(answer.line) << '\n';
+            read == Line::TooLong ? failure(ErrorCode::Impossible) : answerTo(line, options);
+        out << static_cast<int>(answer.error) << '\t' << answer.line << '\n';
     }
 }
 
 } // namespace
 
 int runCalc(const CalcOptions& options, std::istream& in, std::ostream& out, std::ostream& err) {
-    if (options.batch && options.trace) {
-        err << "calc : --trace ne va pas avec --batch.\n";
-        return kWrongCall;
-    }
     if (options.batch) {
-        runBatch(options, in, out);
+        runBatch(options, *in.rdbuf(), out);
         return 0;
     }
     Hooks hooks;
     if (options.trace)
         hooks.trace = [&out](const char* step, TextView text) {
-            out << step << '\t' << utf8(text) << '\n';
+            out << step << '\t' << jet::toUtf8(text) << '\n';
         };
-    const Answer answer = answerTo(options.expression.toStdU16String(), options, std::move(hooks));
-    (answer.error == ErrorCode::None ? out : err) << utf8(answer.line) << '\n';
+    const Answer answer = answerTo(options.expression, options, std::move(hooks));
+    (answer.error == ErrorCode::None ? out : err) << answer.line << '\n';
     return static_cast<int>(answer.error);
 }
 

@@ -23,6 +23,9 @@ constexpr int kOwnMarginPx = 2;
 
 constexpr double kCaretGap = 2;
 
+/// Where the start of a text lies beyond the left edge, what is cut there fades out.
+constexpr double kFadePx = 20;
+
 constexpr int kLargestPx = 19;
 constexpr int kSmallestPx = look::kSmallPx;
 
@@ -55,13 +58,26 @@ void Display::showText(const QString& text) {
 }
 
 void Display::fitFont(const QString& text) {
-    const double room = width() - 2 * kMarginPx;
     int pixels = kLargestPx;
     while (pixels > kSmallestPx &&
-           QFontMetricsF(look::interfaceFont(pixels)).horizontalAdvance(text) > room)
+           QFontMetricsF(look::interfaceFont(pixels)).horizontalAdvance(text) > room())
         --pixels;
     if (pixels != font().pixelSize())
         setFont(look::interfaceFont(pixels));
+}
+
+double Display::room() const {
+    return width() - 2 * kMarginPx;
+}
+
+void Display::paintFade() {
+    const double left = kMarginPx - kOwnMarginPx;
+    QLinearGradient fade(left, 0, left + kFadePx, 0);
+    QColor paper = QColor::fromRgb(look::kPaper);
+    fade.setColorAt(0, paper);
+    paper.setAlpha(0);
+    fade.setColorAt(1, paper);
+    QPainter(this).fillRect(QRectF(left, kRadius, kFadePx, height() - 2 * kRadius), fade);
 }
 
 void Display::paintEvent(QPaintEvent* event) {
@@ -70,6 +86,8 @@ void Display::paintEvent(QPaintEvent* event) {
         look::drawFrame(painter, rect(), kRadius, kEdge, QColor::fromRgb(look::kPaper));
     }
     QLineEdit::paintEvent(event);
+    if (QFontMetricsF(font()).horizontalAdvance(text()) > room())
+        paintFade();
     if (!hasFocus() || hasSelectedText())
         return;
     QPainter painter(this);

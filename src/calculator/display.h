@@ -19,6 +19,8 @@ protected:
 
 private:
     void fitFont(const QString& text);
+    double room() const;
+    void paintFade();
 };
 
 } // namespace calculator

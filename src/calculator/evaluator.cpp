@@ -37,13 +37,15 @@ private:
 
     bool passUntilDone() {
         Text remembered;
+        Counters counted;
         for (int pass = 1; pass <= kMostPasses; ++pass) {
             if (text_ == remembered) {
                 simplify();
-                if (text_ == remembered)
+                if (text_ == remembered && counters_ == counted)
                     return false; // every further pass would do the same, up to the last
             }
             remembered = text_;
+            counted = counters_;
             if (!functionsAndGroups() || !count())
                 return false;
             if (counters_.nbfonctions > 0 || counters_.nbparentheses > 0)

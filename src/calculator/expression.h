@@ -33,11 +33,13 @@ struct Counters {
     std::int16_t nbparentheses = 0; ///< "("
     std::int16_t nbfonctions = 0;   ///< names of functions
     std::int16_t nboperateurs = 0;  ///< operators between two spaces
+
+    bool operator==(const Counters&) const = default;
 };
 
 /// What may watch an evaluation. Empty members are never asked.
 struct Hooks {
-    /// Asked before every reduction; true ends the evaluation at once.
+    /// Asked before every group and every operator; true ends the evaluation at once.
     std::function<bool()> cancelled;
     /// Told the step and the text that it leaves; within a group that is the group's own text.
     std::function<void(const char* step, TextView text)> trace;

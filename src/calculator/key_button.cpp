@@ -90,8 +90,13 @@ void KeyButton::paintEvent(QPaintEvent*) {
     if (const qsizetype mark = caption.indexOf(u'^'); mark >= 0)
         return paintRaised(painter, caption.first(mark), caption.sliced(mark + 1));
     const double textWidth = QFontMetricsF(font()).horizontalAdvance(caption);
-    paintCaption(painter,
-                 {(width() - textWidth) / 2, height() / 2.0 + kMiddle * font().pixelSize()});
+    paintCaption(painter, {(width() - textWidth) / 2, baseline()});
+}
+
+/// Words and signs on the function keys of a row stand on one line, whatever their sizes.
+double KeyButton::baseline() const {
+    const int pixels = style_ == KeyStyle::Function ? look::kButtonPx : font().pixelSize();
+    return height() / 2.0 + kMiddle * pixels;
 }
 
 void KeyButton::paintRaised(QPainter& painter, const QString& base, const QString& raised) const {
@@ -101,12 +106,11 @@ void KeyButton::paintRaised(QPainter& painter, const QString& base, const QStrin
     const double baseWidth = QFontMetricsF(baseFont).horizontalAdvance(base) + 1;
     const double whole = baseWidth + QFontMetricsF(raisedFont).horizontalAdvance(raised);
     const double left = (width() - whole) / 2;
-    const double baseline =
-        look::snapped(painter, height() / 2.0 + kMiddle * baseFont.pixelSize() + 1);
+    const double foot = look::snapped(painter, baseline() + 1);
     painter.setFont(baseFont);
-    painter.drawText(QPointF(left, baseline), base);
+    painter.drawText(QPointF(left, foot), base);
     painter.setFont(raisedFont);
-    painter.drawText(QPointF(left + baseWidth, look::snapped(painter, baseline - kRaise)), raised);
+    painter.drawText(QPointF(left + baseWidth, look::snapped(painter, foot - kRaise)), raised);
 }
 
 } // namespace calculator

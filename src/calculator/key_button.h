@@ -19,6 +19,7 @@ private:
     struct Colours;
 
     Colours colours() const;
+    double baseline() const;
     void paintRaised(QPainter& painter, const QString& base, const QString& raised) const;
 
     KeyStyle style_;

@@ -1,6 +1,5 @@
 #include "jet/cell_encoder.h"
 
-#include "jet/format.h"
 #include "jet/text_codec.h"
 #include "jet/value_text.h"
 
@@ -110,7 +109,8 @@ EncodedCell encodeBytes(const Value& value, std::size_t longest) {
     return bytes->size() <= longest ? EncodedCell(*bytes) : kTooLong;
 }
 
-EncodedCell encodeCharacters(const Value& value, std::size_t longest, const Column& column) {
+EncodedCell encodeCharacters(const Value& value, std::size_t longest, const Column& column,
+                             const Format& format) {
     const std::u16string* text = value.text();
     if (!text)
         return kOtherType;
@@ -122,13 +122,19 @@ EncodedCell encodeCharacters(const Value& value, std::size_t longest, const Colu
         padded = *text;
         padded.resize(longest, u' ');
     }
-    auto bytes = encodeText(fills ? padded : *text, column.compressible && !fills);
+    const std::u16string& stored = fills ? padded : *text;
+    if (!format.wideText) {
+        auto bytes = encodeWindows1252(stored);
+        return bytes ? EncodedCell(std::move(*bytes))
+                     : "le texte a un caractère que la page de code 1252 n'a pas";
+    }
+    auto bytes = encodeText(stored, column.compressible && !fills);
     return bytes ? EncodedCell(std::move(*bytes)) : "le texte commence par U+FEFF";
 }
 
 } // namespace
 
-EncodedCell encodeCell(const Value& value, const Column& column) {
+EncodedCell encodeCell(const Value& value, const Column& column, const Format& format) {
     const auto declared = static_cast<std::size_t>(column.length);
     switch (column.type) {
     case ColumnType::Boolean:
@@ -156,9 +162,9 @@ EncodedCell encodeCell(const Value& value, const Column& column) {
     case ColumnType::Ole:
         return encodeBytes(value, kLongValueLengthMask);
     case ColumnType::Text:
-        return encodeCharacters(value, declared, column);
+        return encodeCharacters(value, declared, column, format);
     case ColumnType::Memo:
-        return encodeCharacters(value, kLongValueLengthMask / 2, column);
+        return encodeCharacters(value, kLongValueLengthMask / 2, column, format);
     case ColumnType::Unknown:
     case ColumnType::FixedBinary:
         break;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "jet/column.h"
+#include "jet/format.h"
 #include "jet/value.h"
 
 #include <cstdint>
@@ -20,6 +21,6 @@ struct EncodedCell {
 
 /// Encodes a value that is not NULL. Of Memo and OLE, the value alone, without its header; of
 /// Boolean, whose value is its bit in the row, nothing.
-EncodedCell encodeCell(const Value& value, const Column& column);
+EncodedCell encodeCell(const Value& value, const Column& column, const Format& format = kJet4);
 
 } // namespace jet

@@ -8,7 +8,6 @@ namespace {
 
 /// A moved row has one pointer; more come only from rows moved again, or from damage in a circle.
 constexpr int kMaxHops = 8;
-constexpr std::size_t kPointerBytes = 4;
 
 Slot::Kind kindOf(std::uint16_t stored) {
     switch (stored & kSlotDeleted) {
@@ -54,6 +53,7 @@ std::optional<Slot> DataPage::slot(std::size_t index) const {
 std::optional<PointedRow> followPointer(PageSource& source, RowPointer start, std::uint32_t owner,
                                         Slot::Kind wanted) {
     RowPointer pointer = start;
+    RowPointer before = start;
     for (int hop = 0; hop < kMaxHops; ++hop) {
         const std::optional<Page> page = source.page(pointer.page);
         if (!page)
@@ -63,9 +63,10 @@ std::optional<PointedRow> followPointer(PageSource& source, RowPointer start, st
         if (!slot)
             return std::nullopt;
         if (slot->kind == wanted)
-            return PointedRow{*page, slot->row};
+            return PointedRow{*page, slot->row, pointer, before};
         if (slot->kind != Slot::Kind::Pointer || slot->row.size() < kPointerBytes)
             return std::nullopt;
+        before = pointer;
         pointer = RowPointer(slot->row.u32(0));
     }
     return std::nullopt;

@@ -38,10 +38,12 @@ private:
     bool isSound_;
 };
 
-/// The row a pointer leads to, and the page it lies on.
+/// The row a pointer leads to, the page it lies on and its place there.
 struct PointedRow {
     Page page;
     Bytes row;
+    RowPointer place;
+    RowPointer pointer; ///< the last slot on the way; `place` itself when there was none before it
 };
 
 /// Follows pointers from `start` to a row of the kind `wanted` on a page of `owner`, over at most

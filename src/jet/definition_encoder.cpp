@@ -16,7 +16,6 @@ constexpr std::size_t kIndexColumns = 10;
 constexpr std::size_t kNone = 0xFFFF;
 constexpr std::size_t kPageHeader = 8;
 constexpr std::size_t kNextPageAt = 4;
-constexpr std::size_t kFreeBytesAt = 2;
 constexpr std::size_t kLengthAt = 8;
 
 bool hasOwnPages(ColumnType type) {

@@ -26,12 +26,6 @@ struct LogicalIndex {
     bool primaryKey = false;
 };
 
-/// Maps of the pages of a table or of one of its Memo and OLE columns.
-struct PageMaps {
-    RowPointer owned;
-    RowPointer withRoom;
-};
-
 /// All that the definition of a Jet 4 table says.
 struct NewDefinition {
     bool system = false;

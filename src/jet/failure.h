@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <string>
 
 namespace jet {
@@ -18,5 +19,8 @@ struct Failure {
     Kind kind;
     std::string sentence;
 };
+
+/// « base de données « nom » : », then what happened to the file.
+Failure fileFailure(Failure::Kind kind, const std::filesystem::path& path, const char* what);
 
 } // namespace jet

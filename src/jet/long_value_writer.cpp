@@ -6,14 +6,8 @@
 
 namespace jet {
 
-namespace {
-
-/// Longest record of a page of long values, the engine's own bound.
-constexpr std::size_t kLongestRecord = 4076;
-constexpr std::size_t kNextPieceBytes = 4;
-constexpr std::size_t kLongestPiece = kLongestRecord - kNextPieceBytes;
-
-std::vector<std::uint8_t> cell(LongValueKind kind, std::size_t length, RowPointer pointer) {
+std::vector<std::uint8_t> longValueCell(LongValueKind kind, std::size_t length,
+                                        RowPointer pointer) {
     ByteWriter out;
     out.u32(static_cast<std::uint32_t>(kind) << kLongValueKindShift | length);
     out.u32(pointer.stored());
@@ -21,18 +15,16 @@ std::vector<std::uint8_t> cell(LongValueKind kind, std::size_t length, RowPointe
     return out.written();
 }
 
-} // namespace
-
 std::vector<std::uint8_t> inlineCell(Bytes value) {
-    std::vector<std::uint8_t> bytes = cell(LongValueKind::Inline, value.size(), {});
+    std::vector<std::uint8_t> bytes = longValueCell(LongValueKind::Inline, value.size(), {});
     bytes.insert(bytes.end(), value.data(), value.data() + value.size());
     return bytes;
 }
 
 std::vector<std::uint8_t> LongValueWriter::store(Bytes value) {
-    if (value.size() <= kLongestRecord)
-        return cell(LongValueKind::Single, value.size(), storeSingle(value));
-    return cell(LongValueKind::Chain, value.size(), storeChain(value));
+    if (value.size() <= kJet4.longestSingle)
+        return longValueCell(LongValueKind::Single, value.size(), storeSingle(value));
+    return longValueCell(LongValueKind::Chain, value.size(), storeChain(value));
 }
 
 void LongValueWriter::flush() {
@@ -57,7 +49,7 @@ RowPointer LongValueWriter::storeChain(Bytes value) {
     DataPageBuilder page = newPage();
     const RowPointer first(page.number(), 0);
     while (!value.empty()) {
-        const Bytes piece = value.first(kLongestPiece);
+        const Bytes piece = value.first(kJet4.longestPiece);
         value = value.from(piece.size());
         std::optional<DataPageBuilder> next;
         if (!value.empty())

@@ -9,8 +9,8 @@
 
 namespace jet {
 
-/// Longest value that stays in its row.
-inline constexpr std::size_t kLongestInline = 64;
+/// Header of a value of `length` bytes; of one that stays in its row, it comes before the value.
+std::vector<std::uint8_t> longValueCell(LongValueKind kind, std::size_t length, RowPointer pointer);
 
 /// Cell of a value that stays in its row.
 std::vector<std::uint8_t> inlineCell(Bytes value);

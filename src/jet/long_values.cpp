@@ -10,9 +10,6 @@ namespace jet {
 
 namespace {
 
-constexpr std::size_t kPointerAt = 4;
-constexpr std::size_t kNextPieceBytes = 4; ///< pointer in front of each piece of a chain
-
 Failure damaged(const char* what) {
     return {Failure::Kind::Damaged, std::string("valeur longue ") + what};
 }
@@ -25,7 +22,7 @@ Result<LongValues::Value> LongValues::fetch(Bytes cell) {
     const std::uint32_t stored = cell.u32(0);
     const std::size_t length = stored & kLongValueLengthMask;
     const auto kind = static_cast<LongValueKind>(stored >> kLongValueKindShift);
-    const RowPointer pointer(cell.u32(kPointerAt));
+    const RowPointer pointer(cell.u32(kLongValuePointerAt));
     if (length == 0)
         return Value{};
     if (kind == LongValueKind::Inline) // a length beyond the cell is cut to what is there

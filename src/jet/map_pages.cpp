@@ -6,7 +6,6 @@ namespace jet {
 
 namespace {
 
-constexpr std::uint32_t kOwner = 0;
 constexpr std::size_t kMapsOfPage = (kJet4.pageSize - kJet4.slotsAt) / (kMapRowBytes + 2);
 
 } // namespace
@@ -22,7 +21,7 @@ RowPointer MapPages::add(const PageSet& pages) {
 void MapPages::write() {
     std::size_t next = 0;
     for (const std::uint32_t number : pages_) {
-        DataPageBuilder page(number, kOwner);
+        DataPageBuilder page(number, kMapOwner);
         for (std::size_t i = 0; i < kMapsOfPage && next < maps_.size(); ++i, ++next)
             page.add(usageMapRow(*maps_[next], *file_));
         file_->write(number, page.image());

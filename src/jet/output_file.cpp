@@ -10,8 +10,6 @@ namespace jet {
 
 namespace {
 
-/// The engine's limit of 2 GB.
-constexpr std::uint32_t kMaxPages = 0x7FFFFFFF / kJet4.pageSize;
 constexpr int kNamesTried = 100;
 
 /// A name beside the target that no file has; empty when all those tried are taken.
@@ -64,7 +62,7 @@ Result<void> OutputFile::state() const {
         return Failure{Failure::Kind::Refused, "la base est déjà terminée"};
     if (failed_)
         return failure("l'écriture a échoué (disque plein ?)");
-    if (pageCount_ > kMaxPages)
+    if (pageCount_ > kJet4.maxPages)
         return Failure{Failure::Kind::Refused, "la base dépasserait 2 Go"};
     return {};
 }
@@ -87,9 +85,7 @@ Result<void> OutputFile::putInPlace() {
 }
 
 Failure OutputFile::failure(const char* what) const {
-    const std::u8string name = target_.filename().u8string();
-    return {Failure::Kind::System,
-            "base de données « " + std::string(name.begin(), name.end()) + " » : " + what};
+    return fileFailure(Failure::Kind::System, target_, what);
 }
 
 } // namespace jet

@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cstring>
 #include <limits>
-#include <string>
 #include <utility>
 
 namespace jet {
@@ -23,11 +22,6 @@ constexpr std::size_t kMaskLengthJet3 = 126;
 constexpr std::size_t kMaskLengthJet4 = 128;
 constexpr std::size_t kCodePageAt = 0x3C;
 constexpr std::size_t kPageKeyAt = 0x3E;
-
-Failure failure(Failure::Kind kind, const std::filesystem::path& path, const char* what) {
-    const std::u8string name = path.filename().u8string();
-    return {kind, "base de données « " + std::string(name.begin(), name.end()) + " » : " + what};
-}
 
 bool hasEngineName(Bytes header, const char* name) {
     return std::memcmp(header.data() + kEngineNameAt, name, std::strlen(name) + 1) == 0;
@@ -65,18 +59,18 @@ Result<std::shared_ptr<PageSource>> PageSource::open(const std::filesystem::path
     std::error_code error;
     const std::uintmax_t size = std::filesystem::file_size(path, error);
     if (!file || error)
-        return failure(Failure::Kind::System, path, "le fichier ne peut pas être ouvert");
+        return fileFailure(Failure::Kind::System, path, "le fichier ne peut pas être ouvert");
 
     std::array<std::uint8_t, kHeaderBytes> stored{};
     file.read(reinterpret_cast<char*>(stored.data()), stored.size());
     if (!file)
-        return failure(Failure::Kind::NotADatabase, path,
-                       "le fichier est plus court qu'un en-tête");
+        return fileFailure(Failure::Kind::NotADatabase, path,
+                           "le fichier est plus court qu'un en-tête");
     const ParsedHeader parsed = parseHeader(stored);
     if (parsed.fault)
-        return failure(parsed.kind, path, parsed.fault);
+        return fileFailure(parsed.kind, path, parsed.fault);
     if (size / parsed.header.format->pageSize <= kCatalogPage)
-        return failure(Failure::Kind::Damaged, path, "le fichier s'arrête avant son catalogue");
+        return fileFailure(Failure::Kind::Damaged, path, "le fichier s'arrête avant son catalogue");
     return std::shared_ptr<PageSource>(new PageSource(std::move(file), parsed.header, size));
 }
 

@@ -83,10 +83,10 @@ std::size_t Row::variableOffset(std::size_t index) const {
 }
 
 std::optional<Bytes> Row::fixedValue(std::size_t offset, std::size_t size) const {
-    const Bytes fixedArea = bytes_.first(fixedEnd_).from(format_->rowNumber);
-    if (!fixedArea.has(offset, size))
+    const Bytes area = fixedArea();
+    if (!area.has(offset, size))
         return std::nullopt;
-    return fixedArea.part(offset, size);
+    return area.part(offset, size);
 }
 
 std::optional<Bytes> Row::variableValue(std::size_t index) const {

@@ -31,6 +31,12 @@ public:
 
     /// `size` bytes of the fixed area at `offset`; nothing when they reach out of it.
     std::optional<Bytes> fixedValue(std::size_t offset, std::size_t size) const;
+    std::size_t columnCount() const { return columnCount_; }
+    std::size_t variableCount() const { return variableCount_; }
+    /// Behind the column count, up to the first variable value.
+    Bytes fixedArea() const { return bytes_.first(fixedEnd_).from(format_->rowNumber); }
+    Bytes mask() const { return bytes_.from(maskAt_); }
+
     /// Variable value `index`, empty when the row has fewer; nothing when its bounds are none.
     std::optional<Bytes> variableValue(std::size_t index) const;
 

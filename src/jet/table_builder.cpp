@@ -11,9 +11,6 @@ namespace jet {
 
 namespace {
 
-/// The engine's own bound, below what a page could hold.
-constexpr std::size_t kLongestRow = 4060;
-
 bool isLong(const Column& column) {
     return column.type == ColumnType::Memo || column.type == ColumnType::Ole;
 }
@@ -93,10 +90,10 @@ Result<RowPointer> TableBuilder::add(std::span<const Value> values) {
     if (const auto encoded = encodeCells(values); !encoded)
         return encoded.error();
     std::size_t longestInline = kLongestInline;
-    if (rowSize(values, longestInline) > kLongestRow)
+    if (rowSize(values, longestInline) > kJet4.longestRow)
         longestInline = 0;
     const std::size_t size = rowSize(values, longestInline);
-    if (size > kLongestRow)
+    if (size > kJet4.longestRow)
         return refused("il ne tient pas dans une page");
 
     const std::size_t reserve = reserveForNulls(definition_.columns, values);

@@ -145,6 +145,8 @@ const char* readColumns(Bytes content, const Format& format, TableDefinition& ta
         table.places.push_back(readPlace(block, column.type, format));
         table.columns.push_back(std::move(column));
     }
+    const Bytes rest = content.from(nameAt);
+    table.rest.assign(rest.data(), rest.data() + rest.size());
     return nullptr;
 }
 
@@ -186,7 +188,11 @@ Result<TableDefinition> readTableDefinition(PageSource& source, std::uint32_t pa
     table.shape = {&format, content.u16(format.maxColumnsAt),
                    content.u16(format.variableColumnsAt) > 0};
     table.rowCount = content.u32(format.rowCountAt);
+    table.variableColumns = content.u16(format.variableColumnsAt);
+    table.realIndexes = content.u32(format.realIndexesAt);
+    table.logicalIndexes = content.u32(format.logicalIndexesAt);
     table.ownedPages = RowPointer(content.u32(format.ownedMapAt));
+    table.pagesWithRoom = RowPointer(content.u32(format.roomMapAt));
     if (const char* fault = readColumns(content, format, table))
         return damaged(page, fault);
     sortByNumber(table);

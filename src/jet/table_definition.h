@@ -26,8 +26,15 @@ struct ColumnPlace {
 struct TableDefinition {
     std::uint32_t page = 0;
     RowShape shape{};
-    std::uint32_t rowCount = 0; ///< as the file says; not to be relied on
-    RowPointer ownedPages;      ///< map of the table's data pages
+    std::uint32_t rowCount = 0;      ///< as the file says; not to be relied on
+    RowPointer ownedPages;           ///< map of the table's data pages
+    RowPointer pagesWithRoom;        ///< map of those that take further rows
+    std::size_t variableColumns = 0; ///< those deleted since are counted
+    std::size_t realIndexes = 0;
+    std::size_t logicalIndexes = 0;
+    /// What stands behind the column names: indexes, and the maps of Memo and OLE columns. Reading
+    /// does without, so it is not looked at.
+    std::vector<std::uint8_t> rest;
     std::vector<Column> columns;
     std::vector<ColumnPlace> places; ///< one for each column
 };

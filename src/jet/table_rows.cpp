@@ -129,7 +129,7 @@ bool TableRows::visitSlot(const DataPage& page, std::size_t index, std::size_t p
         return false;
     }
     if (goOn)
-        goOn = callback(LiveRow{position, place, *parsed.row});
+        goOn = callback(LiveRow{position, place, moved ? moved->place : place, *parsed.row});
     return true;
 }
 

@@ -18,6 +18,7 @@ namespace jet {
 struct LiveRow {
     std::size_t position;
     RowPointer place; ///< the slot that counts as the row's place, even if it was moved since
+    RowPointer body;  ///< where its bytes are
     const Row& row;
 };
 

@@ -18,7 +18,8 @@ constexpr char16_t kByteOrderMark = 0xFEFF;
 constexpr std::size_t kShortestCompressed = 3;
 constexpr std::size_t kLongestCompressed = 1024;
 
-/// Windows-1252 from 0x80 to 0x9F; 0xFFFD where it defines nothing. The rest is Latin-1.
+constexpr char16_t kUndefined = 0xFFFD;
+/// Windows-1252 from 0x80 to 0x9F; kUndefined where it defines nothing. The rest is Latin-1.
 constexpr std::array<char16_t, 32> kWindows1252High{
     0x20AC, 0xFFFD, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0xFFFD, 0x017D, 0xFFFD, 0xFFFD, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
@@ -26,6 +27,15 @@ constexpr std::array<char16_t, 32> kWindows1252High{
 
 char16_t fromWindows1252(std::uint8_t byte) {
     return byte >= 0x80 && byte < 0xA0 ? kWindows1252High[byte - 0x80u] : char16_t{byte};
+}
+
+std::optional<std::uint8_t> toWindows1252(char16_t unit) {
+    if (unit < 0x80 || (unit >= 0xA0 && unit <= 0xFF))
+        return static_cast<std::uint8_t>(unit);
+    for (std::size_t i = 0; i < kWindows1252High.size(); ++i)
+        if (kWindows1252High[i] == unit && unit != kUndefined)
+            return static_cast<std::uint8_t>(0x80 + i);
+    return std::nullopt;
 }
 
 bool isCompressed(Bytes bytes) {
@@ -169,6 +179,18 @@ std::optional<std::vector<std::uint8_t>> encodeText(std::u16string_view text, bo
     if (text.starts_with(kByteOrderMark))
         return std::nullopt;
     return plainUnits(text);
+}
+
+std::optional<std::vector<std::uint8_t>> encodeWindows1252(std::u16string_view text) {
+    std::vector<std::uint8_t> bytes;
+    bytes.reserve(text.size());
+    for (const char16_t unit : text) {
+        const auto byte = toWindows1252(unit);
+        if (!byte)
+            return std::nullopt;
+        bytes.push_back(*byte);
+    }
+    return bytes;
 }
 
 } // namespace jet

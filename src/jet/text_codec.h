@@ -26,4 +26,7 @@ void decodeTextUtf8(Bytes bytes, TextForm form, std::string& out);
 /// Nothing for a text that cannot be told from a compressed one: U+FEFF first, and not compressed.
 std::optional<std::vector<std::uint8_t>> encodeText(std::u16string_view text, bool compressible);
 
+/// The stored form in Jet 3. Nothing for a text with a character that Windows-1252 lacks.
+std::optional<std::vector<std::uint8_t>> encodeWindows1252(std::u16string_view text);
+
 } // namespace jet

@@ -9,15 +9,6 @@ namespace jet {
 
 namespace {
 
-constexpr std::uint8_t kInlineMap = 0;
-constexpr std::uint8_t kMapByReference = 1;
-constexpr std::size_t kInlineFirstPageAt = 1;
-constexpr std::size_t kInlineBitsAt = 5;
-constexpr std::size_t kReferencesAt = 1;
-constexpr std::size_t kBitmapPageBitsAt = 4;
-/// Owner that pages with usage maps name.
-constexpr std::uint32_t kMapOwner = 0;
-
 void addPages(Bytes bits, std::uint64_t firstPage, std::uint32_t pageCount,
               std::vector<std::uint32_t>& pages) {
     for (std::size_t i = 0; i < bits.size(); ++i) {
@@ -32,7 +23,7 @@ void addPages(Bytes bits, std::uint64_t firstPage, std::uint32_t pageCount,
 }
 
 std::optional<std::vector<std::uint32_t>> pagesByReference(PageSource& source, Bytes references) {
-    const std::uint64_t pagesPerBitmap = (source.format().pageSize - kBitmapPageBitsAt) * 8;
+    const std::uint64_t pagesPerBitmap = (source.format().pageSize - kBitmapAt) * 8;
     std::vector<std::uint32_t> pages;
     std::uint64_t firstPage = 0;
     for (std::size_t at = 0; references.has(at, 4) && firstPage < source.pageCount();
@@ -43,24 +34,25 @@ std::optional<std::vector<std::uint32_t>> pagesByReference(PageSource& source, B
         const auto page = source.page(number);
         if (!page || page->type() != PageType::UsageBitmap)
             return std::nullopt;
-        addPages(page->bytes.from(kBitmapPageBitsAt), firstPage, source.pageCount(), pages);
+        addPages(page->bytes.from(kBitmapAt), firstPage, source.pageCount(), pages);
     }
     return pages;
 }
 
 } // namespace
 
-std::optional<std::vector<std::uint32_t>> pagesInMap(PageSource& source, RowPointer map) {
-    const auto found = followPointer(source, map, kMapOwner, Slot::Kind::InPlace);
+std::optional<std::vector<std::uint32_t>> pagesInMap(PageSource& source, RowPointer map,
+                                                     std::uint32_t owner) {
+    const auto found = followPointer(source, map, owner, Slot::Kind::InPlace);
     if (!found || found->row.empty())
         return std::nullopt;
     const Bytes row = found->row;
     if (row.u8(0) == kMapByReference)
-        return pagesByReference(source, row.from(kReferencesAt));
-    if (row.u8(0) != kInlineMap || !row.has(0, kInlineBitsAt))
+        return pagesByReference(source, row.from(kMapReferencesAt));
+    if (row.u8(0) != kInlineMap || !row.has(0, kMapBitsAt))
         return std::nullopt;
     std::vector<std::uint32_t> pages;
-    addPages(row.from(kInlineBitsAt), row.u32(kInlineFirstPageAt), source.pageCount(), pages);
+    addPages(row.from(kMapBitsAt), row.u32(kMapFirstPageAt), source.pageCount(), pages);
     return pages;
 }
 

@@ -8,11 +8,7 @@ namespace jet {
 
 namespace {
 
-constexpr std::size_t kInlineBitsAt = 5;
-constexpr std::size_t kInlineBytes = kMapRowBytes - kInlineBitsAt;
-constexpr std::size_t kReferencesAt = 1;
-constexpr std::uint8_t kByReference = 1;
-constexpr std::size_t kBitmapAt = 4;
+constexpr std::size_t kInlineBytes = kMapRowBytes - kMapBitsAt;
 constexpr std::size_t kBitmapBytes = kJet4.pageSize - kBitmapAt;
 
 void writeBitmapPage(std::uint32_t number, Bytes bits, std::uint8_t rest, OutputFile& file) {
@@ -56,16 +52,16 @@ std::vector<std::uint8_t> usageMapRow(const PageSet& pages, OutputFile& file) {
     std::vector<std::uint8_t> row(kMapRowBytes);
     const Bytes bits(pages.bits());
     if (bits.size() <= kInlineBytes) {
-        putBytes(row, kInlineBitsAt, bits);
+        putBytes(row, kMapBitsAt, bits);
         return row;
     }
-    row[0] = kByReference;
+    row[0] = kMapByReference;
     for (std::size_t at = 0, i = 0; at < bits.size(); at += kBitmapBytes, ++i) {
         const Bytes window = bits.from(at).first(kBitmapBytes);
-        if (isEmpty(window) || kReferencesAt + 4 * i + 4 > row.size())
+        if (isEmpty(window) || kMapReferencesAt + 4 * i + 4 > row.size())
             continue;
         const std::uint32_t page = file.allocate();
-        put32(row, kReferencesAt + 4 * i, page);
+        put32(row, kMapReferencesAt + 4 * i, page);
         writeBitmapPage(page, window, 0, file);
     }
     return row;
@@ -74,19 +70,19 @@ std::vector<std::uint8_t> usageMapRow(const PageSet& pages, OutputFile& file) {
 std::vector<std::uint8_t> globalMapRow(OutputFile& file) {
     std::vector<std::uint8_t> row(kMapRowBytes, 0xFF);
     if (file.pageCount() <= 8 * kInlineBytes) {
-        std::fill_n(row.begin(), kInlineBitsAt, std::uint8_t{0});
-        putBytes(row, kInlineBitsAt, freeAfter(file.pageCount()));
+        std::fill_n(row.begin(), kMapBitsAt, std::uint8_t{0});
+        putBytes(row, kMapBitsAt, freeAfter(file.pageCount()));
         return row;
     }
     std::fill(row.begin(), row.end(), std::uint8_t{0});
-    row[0] = kByReference;
+    row[0] = kMapByReference;
     // The bitmap pages are in use too; taking one can make one more necessary.
     std::vector<std::uint32_t> bitmaps;
     while (bitmaps.size() * kBitmapBytes * 8 < file.pageCount())
         bitmaps.push_back(file.allocate());
     const std::vector<std::uint8_t> bits = freeAfter(file.pageCount());
-    for (std::size_t i = 0; i < bitmaps.size() && kReferencesAt + 4 * i + 4 <= row.size(); ++i) {
-        put32(row, kReferencesAt + 4 * i, bitmaps[i]);
+    for (std::size_t i = 0; i < bitmaps.size() && kMapReferencesAt + 4 * i + 4 <= row.size(); ++i) {
+        put32(row, kMapReferencesAt + 4 * i, bitmaps[i]);
         writeBitmapPage(bitmaps[i], Bytes(bits).from(i * kBitmapBytes).first(kBitmapBytes), 0xFF,
                         file);
     }

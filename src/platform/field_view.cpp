@@ -98,8 +98,8 @@ void drawFrame(const FillOperation& area, std::vector<Operation>& operations) {
     const auto edge = [&](double x1, double y1, double x2, double y2) {
         operations.emplace_back(LineOperation{area.surface, x1, y1, x2, y2, area.ink, 1});
     };
-    edge(area.x, area.y, area.x + area.width, area.y);
-    edge(area.x, foot, area.x + area.width, foot);
+    edge(area.x, area.y, right, area.y);
+    edge(area.x, foot, right, foot);
     edge(area.x, area.y, area.x, foot);
     edge(right, area.y, right, foot);
 }

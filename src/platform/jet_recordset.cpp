@@ -1,11 +1,14 @@
 #include "platform/jet_recordset.h"
 
 #include "jet/database.h"
+#include "jet/editor.h"
 
 #include <algorithm>
 #include <cstdint>
 #include <filesystem>
 #include <limits>
+#include <string>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -44,10 +47,28 @@ FieldValue fieldValue(const jet::Value& value) {
     return std::visit(AsField{}, value.content());
 }
 
+/// Where a table is read from, again after each change.
+struct TablePlace {
+    std::filesystem::path path;
+    std::u16string name;
+
+    jet::Result<jet::Table> open() const {
+        auto database = jet::Database::open(path);
+        if (!database)
+            return database.error();
+        return database->table(name);
+    }
+};
+
+QString sentence(const jet::Failure& failure) {
+    return QString::fromStdString(failure.sentence);
+}
+
 class JetRecordset : public Recordset {
 public:
-    explicit JetRecordset(jet::Table table)
-        : table_(std::move(table)), position_(exists(0) ? 0 : -1) {}
+    JetRecordset(jet::Table table, TablePlace place, Access access)
+        : table_(std::move(table)), place_(std::move(place)), access_(access),
+          position_(exists(0) ? 0 : -1) {}
 
     int recordCount() const override {
         static constexpr std::size_t kMost = std::numeric_limits<int>::max();
@@ -75,6 +96,26 @@ public:
         if (!value)
             return std::nullopt;
         return fieldValue(*value);
+    }
+
+    std::optional<QString> setField(const QString& name, const QString& text) override {
+        if (access_ == Access::ReadOnly)
+            return Recordset::setField(name, text);
+        if (position_ < 0)
+            return QStringLiteral("aucun enregistrement n'est choisi");
+        auto editor = jet::DatabaseEditor::open(place_.path);
+        if (!editor)
+            return sentence(editor.error());
+        const auto changed = editor->changeText(place_.name, static_cast<std::size_t>(position_),
+                                                view(name), view(text));
+        if (!changed)
+            return sentence(changed.error());
+        // Pages read before are old; a record keeps its position when it changes.
+        auto reopened = place_.open();
+        if (!reopened)
+            return sentence(reopened.error());
+        table_ = std::move(*reopened);
+        return std::nullopt;
     }
 
     void
@@ -107,19 +148,24 @@ private:
 
     // Reading counts the rows and keeps pages at hand, which is no change to who looks at records.
     mutable jet::Table table_;
+    TablePlace place_;
+    Access access_;
     int position_;
 };
 
 } // namespace
 
-jet::Result<std::unique_ptr<Recordset>> openRecordset(const QString& path, const QString& table) {
-    auto database = jet::Database::open(std::filesystem::path(path.toStdU16String()));
-    if (!database)
-        return database.error();
-    auto opened = database->table(view(table));
+jet::Result<std::unique_ptr<Recordset>> openRecordset(const QString& path, const QString& table,
+                                                      Access access) {
+    TablePlace place{std::filesystem::path(path.toStdU16String()), table.toStdU16String()};
+    auto opened = place.open();
     if (!opened)
         return opened.error();
-    return std::unique_ptr<Recordset>(std::make_unique<JetRecordset>(std::move(*opened)));
+    if (access == Access::Writable) // better known now than when something was typed
+        if (const auto editor = jet::DatabaseEditor::open(place.path); !editor)
+            return editor.error();
+    return std::unique_ptr<Recordset>(
+        std::make_unique<JetRecordset>(std::move(*opened), std::move(place), access));
 }
 
 } // namespace platform

@@ -1,8 +1,12 @@
 #include "platform/readable_text.h"
 
+#include "platform/link_view.h"
 #include "platform/sign_faces.h"
 
+#include <QStringList>
+
 #include <algorithm>
+#include <deque>
 #include <vector>
 
 namespace platform {
@@ -19,18 +23,46 @@ bool isShadow(const TextOperation& before, const TextOperation& text) {
     return before.text == text.text && before.y != text.y && before.y - text.y == before.x - text.x;
 }
 
-Runs runsOn(const Recording& recording, SurfaceId surface) {
+/// The lines of a label on the surface. All are taken to be as wide as the label.
+void addCaption(const LinkOperation& link, std::deque<TextOperation>& captions, Runs& runs) {
+    const QStringList lines = link.caption.split(QStringLiteral("\r\n"));
+    const double height = link.height / static_cast<double>(lines.size());
+    double y = link.y;
+    for (const QString& line : lines) {
+        captions.push_back({link.surface, link.x, y, line, link.font, link.ink, link.width});
+        runs.push_back(&captions.back());
+        y += height;
+    }
+}
+
+/// What is wiped leaves the links in place: they are controls on top of the drawing.
+void wipe(const std::deque<TextOperation>& captions, Runs& runs) {
+    runs.clear();
+    for (const TextOperation& caption : captions)
+        runs.push_back(&caption);
+}
+
+/// The runs in drawing order; `captions` holds those that links stand for.
+Runs runsOn(const Recording& recording, SurfaceId surface, std::deque<TextOperation>& captions) {
+    const auto links = standingLinks(recording);
+    auto nextLink = links.begin();
     Runs runs;
     for (const Operation& operation : recording.operations()) {
         if (const auto* clear = std::get_if<ClearOperation>(&operation)) {
             if (clear->surface == surface)
-                runs.clear();
+                wipe(captions, runs);
         } else if (const auto* text = std::get_if<TextOperation>(&operation)) {
             if (text->surface != surface)
                 continue;
             if (!runs.empty() && isShadow(*runs.back(), *text))
                 runs.pop_back();
             runs.push_back(text);
+        } else if (const auto* link = std::get_if<LinkOperation>(&operation)) {
+            if (nextLink == links.end() || *nextLink != link)
+                continue;
+            ++nextLink;
+            if (link->surface == surface && link->control == LinkControl::Labelien)
+                addCaption(*link, captions, runs);
         }
     }
     return runs;
@@ -100,7 +132,8 @@ QString joined(Runs line) {
 
 QString readableText(const Recording& recording, SurfaceId surface) {
     QString text;
-    for (Line& line : lines(runsOn(recording, surface))) {
+    std::deque<TextOperation> captions; // stay in place while it grows
+    for (Line& line : lines(runsOn(recording, surface, captions))) {
         const QString words = joined(std::move(line.runs));
         if (!words.isEmpty())
             text += words + u'\n';

@@ -80,6 +80,8 @@ struct LinkOperation {
     Font font;   ///< of labels
     QRgb ink = 0xff000000;
     std::shared_ptr<const Picture> picture; ///< null for labels, and for a key that is not there
+
+    bool operator==(const LinkOperation&) const = default;
 };
 
 /// An entry was added to a floating menu.

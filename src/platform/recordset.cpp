@@ -4,6 +4,10 @@
 
 namespace platform {
 
+std::optional<QString> Recordset::setField(const QString&, const QString&) {
+    return QStringLiteral("les enregistrements sont ouverts en lecture seule");
+}
+
 bool isChecked(const std::optional<FieldValue>& value) {
     if (!value)
         return false;

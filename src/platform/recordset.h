@@ -14,7 +14,7 @@ namespace platform {
 /// values) show as NULL: no form binds them.
 using FieldValue = std::variant<std::monostate, bool, double, QString>;
 
-/// The records of one table, in their stored order, one of them current. Read-only.
+/// The records of one table, in their stored order, one of them current.
 class Recordset {
 public:
     virtual ~Recordset() = default;
@@ -32,6 +32,11 @@ public:
     /// Field of the current record, its name taken without regard to case; nothing when the table
     /// has no such field, no record is current, or the value cannot be read.
     virtual std::optional<FieldValue> field(const QString& name) const = 0;
+
+    /// Gives a text field of the current record another text, in the stored table. Nothing when
+    /// that is done; otherwise why it is not, in French and without a final full stop, and the
+    /// stored record is as it was. Records are read-only unless they were opened for writing.
+    virtual std::optional<QString> setField(const QString& name, const QString& text);
 
     /// Hands the named fields of every record to `visit`, in record order, without reading any
     /// other field. A missing field, and one that cannot be read, is NULL.

@@ -11,6 +11,13 @@ MainCommands::MainCommands(shell::SharedState& state, ActionDispatcher& actions,
     : state_(state), actions_(actions), view_(view), neighbours_(neighbours), prompter_(prompter),
       history_(state) {}
 
+void MainCommands::followLink(const QString& tag) {
+    QString code = tag;
+    actions_.runAction(code);
+    if (code != tag)
+        actions_.runAction(code);
+}
+
 void MainCommands::back() {
     const History::Pause unrecorded(state_);
     showVisited(history_.stepBack());

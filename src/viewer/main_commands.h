@@ -23,6 +23,10 @@ public:
     /// Runs a page code.
     void runCode(const QString& code) { actions_.run(code); }
 
+    /// Runs the tag of a link or of a menu entry. When that opens the test and a page is to follow
+    /// it, that page is shown; the link goes on leading to the test.
+    void followLink(const QString& tag);
+
     void back();
     void forward();
     void nextInChapter();

@@ -77,9 +77,14 @@ public:
     void setVideoLayout(VideoLayout layout);
     VideoFrame& videoFrame() { return *videoFrame_; }
 
-    /// A member of an array of link controls goes on the page area.
     PictureBox& pageArea() { return *PictureTEXTE_; }
-    PictureBox& illustrationArea() { return *PICTUREILLUS_; }
+    /// The control that shows a surface; the page area for surfaces of other windows.
+    PictureBox& box(platform::SurfaceId surface);
+    /// Scrolls so that this part of the page area shows, in its pixels.
+    void reveal(const QRect& part);
+
+    /// Runs the tag of a link or of a menu entry; without effect while other work is under way.
+    void followLink(const QString& tag);
 
     // PageView
     void setPageVisible(bool visible) override;
@@ -126,6 +131,7 @@ protected:
 
 private:
     void addControls();
+    bool pageHasFocus() const;
     void connectHandlers();
     void watchPointer();
     platform::look::Button& button(const char* name) const;

@@ -74,6 +74,10 @@ void Multim::work(const std::function<void()>& task) {
     }
 }
 
+void Multim::followLink(const QString& tag) {
+    work([this, tag] { parts_->commands.followLink(tag); });
+}
+
 void Multim::apres_Click() {
     work([this] { parts_->commands.forward(); });
 }
@@ -189,8 +193,10 @@ void Multim::watchPointer() {
 }
 
 bool Multim::eventFilter(QObject* watched, QEvent* event) {
-    // The pointer is on none of the links: they show plain again.
-    if (event->type() == QEvent::MouseMove && parts_)
+    // The pointer is on none of the links: they show plain again. On its way out of the window it
+    // may have been seen nowhere else.
+    const bool left = watched == this && event->type() == QEvent::Leave;
+    if (parts_ && (left || event->type() == QEvent::MouseMove))
         parts_->neighbours.links.resetHighlight(PageLinks::kNone);
     return QWidget::eventFilter(watched, event);
 }

@@ -14,10 +14,19 @@
 
 namespace viewer {
 
+/// Whether the page, or a link on it, has the keyboard.
+bool Multim::pageHasFocus() const {
+    const QWidget* focused = focusWidget();
+    const auto holds = [focused](const PictureBox* box) {
+        return focused == box || box->isAncestorOf(focused);
+    };
+    return focused && (holds(PictureTEXTE_) || holds(PICTUREILLUS_) || holds(titre_));
+}
+
 void Multim::setPageVisible(bool visible) {
     // Hidden, the page loses the keyboard; it has it back with the next page.
     if (!visible)
-        pageHadFocus_ = PictureTEXTE_->hasFocus();
+        pageHadFocus_ = pageHasFocus();
     PictureTEXTE_->setVisible(visible);
     PICTUREILLUS_->setVisible(visible);
     if (visible && pageHadFocus_)
@@ -66,6 +75,7 @@ void Multim::setForwardEnabled(bool enabled) {
 void Multim::fitPage() {
     for (PictureBox* box : {PictureTEXTE_, PICTUREILLUS_, titre_})
         box->showDrawing();
+    parts_->neighbours.links.show();
     panel_->fitPage();
     QAccessibleEvent changed(PictureTEXTE_, QAccessible::NameChanged);
     QAccessible::updateAccessibility(&changed);
@@ -132,8 +142,25 @@ void Multim::refresh(platform::Surface& surface) {
     for (PictureBox* box : {PictureTEXTE_, PICTUREILLUS_, titre_})
         if (&box->surface() == &surface) {
             box->showDrawing();
+            if (box->isVisible())
+                parts_->neighbours.links.show();
             box->repaint();
         }
+}
+
+PictureBox& Multim::box(platform::SurfaceId surface) {
+    switch (surface) {
+    case platform::SurfaceId::Titre:
+        return *titre_;
+    case platform::SurfaceId::PictureIllus:
+        return *PICTUREILLUS_;
+    default:
+        return *PictureTEXTE_;
+    }
+}
+
+void Multim::reveal(const QRect& part) {
+    panel_->reveal(part);
 }
 
 void Multim::showVideoFrame() {

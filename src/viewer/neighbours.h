@@ -43,6 +43,8 @@ public:
     virtual void shareCursor() = 0;
     /// Hides every link and empties its tag and tooltip.
     virtual void reset() = 0;
+    /// Shows the links that the page has placed up to now, each on its surface.
+    virtual void show() = 0;
     /// Shows all text links plain, except the one with index `kept`.
     virtual void resetHighlight(int kept) = 0;
 };

@@ -28,7 +28,7 @@ void PageLoader::takeOverOrderIndex() {
 
 void PageLoader::showCurrentRecord() {
     view_.setPageVisible(false);
-    view_.resetLinks();
+    freeLinks();
     view_.hideScrollBarAndVideoFrame();
     view_.clearPictures();
     video_.close();
@@ -39,6 +39,13 @@ void PageLoader::showCurrentRecord() {
     view_.fitPage();
     showButtons();
     view_.setPageVisible(true);
+}
+
+/// Links, the entries of their menus and half a caption belong to one page.
+void PageLoader::freeLinks() {
+    view_.resetLinks();
+    renderer_.state().links = {};
+    renderer_.state().lienEnAttente.clear();
 }
 
 void PageLoader::recordVisit() {

@@ -29,6 +29,7 @@ public:
     void showCurrentRecord();
 
 private:
+    void freeLinks();
     void prepareSurfaces();
     void recordVisit();
     void drawPage();

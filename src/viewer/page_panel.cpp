@@ -15,6 +15,8 @@ namespace {
 
 constexpr int kInset = 8;
 constexpr int kScrollBarWidth = 16;
+/// Room above or below what is revealed.
+constexpr int kRevealMargin = 8;
 constexpr int kTwips = static_cast<int>(platform::kTwipsPerPixel);
 
 } // namespace
@@ -33,6 +35,7 @@ PagePanel::PagePanel(QWidget* parent)
 void PagePanel::setPage(PictureBox* page) {
     page_ = page;
     page_->setParent(framekx_);
+    page_->setFollowsPage();
     page_->setGeometry(0, 0, kPageWidth, 0);
     // The keyboard reaches the page, so that a screen reader reads it there.
     page_->setFocusPolicy(Qt::TabFocus);
@@ -87,6 +90,17 @@ void PagePanel::scrollToTop() {
 
 void PagePanel::scrollToBottom() {
     VScroll1_->setValue(VScroll1_->minimum());
+}
+
+void PagePanel::reveal(const QRect& part) {
+    const int above = part.top() - kRevealMargin;
+    const int below = part.bottom() + 1 + kRevealMargin;
+    const int viewTop = -page_->y();
+    const int viewHeight = VScroll1_->height();
+    if (above < viewTop)
+        VScroll1_->setValue(geometry_.held(-above * kTwips));
+    else if (below > viewTop + viewHeight)
+        VScroll1_->setValue(geometry_.held(-(below - viewHeight) * kTwips));
 }
 
 bool PagePanel::eventFilter(QObject* watched, QEvent* event) {

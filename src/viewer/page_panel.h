@@ -40,6 +40,10 @@ public:
     void scrollToTop();
     void scrollToBottom();
 
+    /// Scrolls as little as it takes to show this part of the page, in pixels, and a little around
+    /// it.
+    void reveal(const QRect& part);
+
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;

@@ -9,21 +9,10 @@
 #include <QPaintEvent>
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
 
 namespace viewer {
-
-namespace {
-
-/// What brings the painter's origin to a whole device pixel, in logical pixels: where a screen has
-/// one and a half pixels to a logical one, a scrolled page would be blurred otherwise.
-double toWholePixel(const QPainter& painter) {
-    const double ratio = painter.device()->devicePixelRatioF();
-    const double top = painter.deviceTransform().dy();
-    return (std::round(top) - top) / ratio;
-}
-
-} // namespace
 
 PictureBox::PictureBox(platform::SurfaceId id, int widthPx, QRgb ground,
                        const platform::FontBook& fonts, platform::Recording& recording,
@@ -39,6 +28,7 @@ void PictureBox::empty() {
     raster_.reset();
     surface_.clear();
     surface_.setHeightPx(0);
+    controlsFoot_ = 0;
     update();
 }
 
@@ -51,7 +41,21 @@ void PictureBox::showDrawing() {
 }
 
 int PictureBox::pageHeightPx() const {
-    return surface_.heightPx() > 0 ? qCeil(surface_.heightPx()) : raster_.drawnHeightPx();
+    return surface_.heightPx() > 0 ? qCeil(surface_.heightPx())
+                                   : std::max(raster_.drawnHeightPx(), controlsFoot_);
+}
+
+QRect PictureBox::shownArea() const {
+    const int below = followsPage_ ? pageHeightPx() : height();
+    return QRect(0, 0, width(), below).adjusted(inset_, inset_, -inset_, -inset_);
+}
+
+void PictureBox::moveToSurface(QPainter& painter, QPoint place) const {
+    painter.translate(QPoint(inset_, inset_) - place);
+    const double ratio = painter.device()->devicePixelRatioF();
+    const QTransform now = painter.deviceTransform();
+    painter.translate((std::round(now.dx()) - now.dx()) / ratio,
+                      (std::round(now.dy()) - now.dy()) / ratio);
 }
 
 QString PictureBox::readableText() const {
@@ -70,7 +74,7 @@ void PictureBox::paintEvent(QPaintEvent* event) {
                                   QColor::fromRgb(platform::look::kPaper));
         painter.setClipRect(rect().adjusted(inset_, inset_, -inset_, -inset_));
     }
-    painter.translate(inset_, inset_ + toWholePixel(painter));
+    moveToSurface(painter);
     raster_.paint(painter, event->rect().translated(-inset_, -inset_));
 }
 

@@ -24,14 +24,33 @@ public:
     /// control shows neither, but the window below.
     void setInset(int pixels) { inset_ = pixels; }
 
+    /// Says that the control is given the height of its page.
+    void setFollowsPage() { followsPage_ = true; }
+
+    /// Says how far down controls stand on the surface, in its pixels: they belong to the page as
+    /// what is drawn does. 0 when there are none.
+    void setControlsFoot(int pixels) { controlsFoot_ = pixels; }
+
+    /// The part of the control where something on the surface shows, at the height the control will
+    /// have for the page as it stands.
+    QRect shownArea() const;
+
+    /// Moves the painter of a control that stands at `place` on this one to the top left corner of
+    /// the surface, and to a whole device pixel: where a screen has one and a half pixels to a
+    /// logical one, a scrolled page would be blurred otherwise.
+    void moveToSurface(QPainter& painter, QPoint place = {}) const;
+
+    /// Logical pixels between the corners of the control and of the surface.
+    int inset() const { return inset_; }
+
     /// Wipes the picture, for a new page. The recording must have been emptied before.
     void empty();
 
     /// Shows what was drawn up to now; it appears at the next repaint.
     void showDrawing();
 
-    /// Whether nothing was drawn, as far as it was shown.
-    bool isBlank() const { return raster_.isBlank(); }
+    /// Whether nothing was drawn, as far as it was shown, and no controls stand there.
+    bool isBlank() const { return raster_.isBlank() && controlsFoot_ == 0; }
 
     /// Height of the page on it, in pixels: what the surface was set to; a page that left it
     /// without setting one is as tall as what stands on it.
@@ -48,6 +67,8 @@ private:
     platform::Surface surface_;
     platform::RasterSurface raster_;
     int inset_ = 0;
+    int controlsFoot_ = 0;
+    bool followsPage_ = false;
 };
 
 } // namespace viewer

@@ -1,5 +1,6 @@
 // The real program on the real demonstration course, on a display with a window manager.
 
+#include "app/x11_picture.h"
 #include "support/files.h"
 #include "support/x11_session.h"
 
@@ -18,8 +19,11 @@ class EndToEnd : public testing::Test {
 protected:
     void SetUp() override {
         ASSERT_FALSE(session_.display().isEmpty()) << "Xvfb is missing";
-        ASSERT_EQ(QProcess::execute(ORVALENTE_COURS, {"build", COURSE_SOURCES, "-o", course()}), 0);
+        ASSERT_EQ(QProcess::execute(ORVALENTE_COURS, {"build", sources(), "-o", course()}), 0);
     }
+
+    /// Directory of the sources of the course.
+    virtual QString sources() { return COURSE_SOURCES; }
 
     ~EndToEnd() override {
         shell_.kill();
@@ -51,12 +55,15 @@ protected:
         return process.readAllStandardOutput();
     }
 
-    QString window() const {
+    /// The windows of that name; there is more than one only when something is wrong.
+    QStringList windows(const QString& name) const {
         return QString::fromLatin1(
-                   run("xdotool", {"search", "--onlyvisible", "--pid",
-                                   QString::number(shell_.processId()), "--name", "Orvalente"}))
-            .section(u'\n', 0, 0);
+                   run("xdotool", {"search", "--all", "--onlyvisible", "--pid",
+                                   QString::number(shell_.processId()), "--name", name}))
+            .split(u'\n', Qt::SkipEmptyParts);
     }
+
+    QString window(const QString& name = "Orvalente") const { return windows(name).value(0); }
 
     QString title() const {
         return QString::fromUtf8(run("xdotool", {"getwindowname", window()})).trimmed();
@@ -67,8 +74,8 @@ protected:
     }
 
     /// Left, top, width and height as the display tells.
-    QRect place() const {
-        const QString shown = QString::fromLatin1(run("xwininfo", {"-id", window()}));
+    QRect place(const QString& name = "Orvalente") const {
+        const QString shown = QString::fromLatin1(run("xwininfo", {"-id", window(name)}));
         const auto number = [&](const char* label) {
             const QRegularExpression pattern(QString::fromLatin1(label) + ":\\s*(-?\\d+)");
             return pattern.match(shown).captured(1).toInt();
@@ -79,10 +86,15 @@ protected:
 
     void press(const QString& key) { run("xdotool", {"key", "--clearmodifiers", key}); }
 
-    void click(int x, int y) {
-        const QPoint corner = place().topLeft();
-        run("xdotool", {"mousemove", QString::number(corner.x() + x),
-                        QString::number(corner.y() + y), "click", "1"});
+    void movePointer(int x, int y, const QString& name = "Orvalente") {
+        const QPoint corner = place(name).topLeft();
+        run("xdotool",
+            {"mousemove", QString::number(corner.x() + x), QString::number(corner.y() + y)});
+    }
+
+    void click(int x, int y, const QString& name = "Orvalente", int times = 1) {
+        movePointer(x, y, name);
+        run("xdotool", {"click", "--delay", "50", "--repeat", QString::number(times), "1"});
     }
 
     X11Session session_{X11Session::Manager::Openbox};
@@ -126,6 +138,33 @@ TEST_F(EndToEnd, asksBeforeLeaving) {
     EXPECT_EQ(shell_.exitCode(), 0);
 }
 
+TEST_F(EndToEnd, calculatesBesideTheCourse) {
+    start();
+    ASSERT_TRUE(eventually([&] { return place().size() == QSize(800, 600); }));
+    run("xdotool", {"windowmove", window(), "300", "100"});
+    ASSERT_TRUE(eventually([&] { return place().x() >= 300; }));
+    click(312, 32); // Command3
+    ASSERT_TRUE(eventually([&] { return activeTitle() == "Calculatrice"; }));
+    run("xdotool", {"windowmove", window("Calculatrice"), "0", "0"});
+    ASSERT_TRUE(eventually([&] { return place("Calculatrice").x() < 10; }));
+    EXPECT_EQ(place("Calculatrice").size(), QSize(302, 430));
+    run("xdotool", {"type", "2*30"});
+    press("Return");
+    click(230, 371, "Calculatrice"); // plus: the last answer comes first
+    click(103, 371, "Calculatrice"); // 1
+    click(273, 403, "Calculatrice"); // =
+    // What a double click in the display selects can be copied.
+    EXPECT_TRUE(eventually([&] {
+        click(25, 34, "Calculatrice", 2);
+        return run(SELECTED_TEXT, {}) == "61";
+    }));
+    click(700, 550);
+    ASSERT_TRUE(eventually([&] { return activeTitle().startsWith("Orvalente"); }));
+    click(312, 32);
+    ASSERT_TRUE(eventually([&] { return activeTitle() == "Calculatrice"; }));
+    EXPECT_EQ(windows("Calculatrice").size(), 1);
+}
+
 TEST_F(EndToEnd, saysThatTheDatabaseIsAbsent) {
     QFile::remove(course() + "/Zekx.mdb");
     shell_.setProcessEnvironment(environment());
@@ -139,6 +178,62 @@ TEST_F(EndToEnd, saysThatTheDatabaseIsAbsent) {
 TEST_F(EndToEnd, enlargesEverything) {
     start({"--scale", "1.25"});
     EXPECT_TRUE(eventually([&] { return place().size() == QSize(1000, 750); }));
+}
+
+/// A course of two pages. The first shows the same words without and with a link in them, 40 pixels
+/// below; the second has a title of its own.
+class LinkedPages : public EndToEnd {
+protected:
+    QString sources() override {
+        const QString directory = directory_.filePath("sources");
+        QDir().mkpath(directory + "/pages");
+        test_support::writeFile(directory + "/pages/1.page",
+                                "+++\nNumeropage = 1\nIndex = 1\n+++\n##SI12\n##PIY020\n"
+                                "Avant, un mot, après\n##POX000\n##PIY040\n"
+                                "Avant, \n##LIERTun mot#PAG002\n, après\n##PIY040\n");
+        test_support::writeFile(directory + "/pages/2.page",
+                                "+++\nNumeropage = 2\nIndex = 2\n+++\n##TITBARDeux\n");
+        return directory;
+    }
+
+    /// The line of the page at a height, in pixels of the page, on a window enlarged by `scale`.
+    QImage line(int y, double scale) const {
+        const QRectF part(176, 120 + y, 300, 24);
+        return test_support::pictureOfScreen(session_.display(),
+                                             QRectF(part.topLeft() * scale, part.size() * scale)
+                                                 .translated(place().topLeft())
+                                                 .toAlignedRect());
+    }
+};
+
+TEST_F(LinkedPages, LinksLookAsTextUntilThePointerComes) {
+    for (const double scale : {1.0, 1.25}) {
+        start({"--scale", QString::number(scale)});
+        run("xdotool", {"mousemove", "5", "5"});
+        const auto plain = [&] { return line(20, scale); };
+        const auto linked = [&] { return line(60, scale); };
+        const auto blank = [&] { return line(100, scale); };
+        EXPECT_TRUE(eventually([&] { return plain() != blank() && linked() == plain(); })) << scale;
+        movePointer(qRound(240 * scale), qRound(190 * scale));
+        EXPECT_TRUE(eventually([&] { return linked() != plain(); })) << scale;
+        shell_.kill();
+        shell_.waitForFinished();
+    }
+}
+
+TEST_F(LinkedPages, LinksAreFollowedByMouseAndKeyboard) {
+    start();
+    const auto isSecond = [&] { return title().endsWith("Deux"); };
+    ASSERT_TRUE(eventually([&] { return place().size() == QSize(800, 600); }));
+    click(240, 190);
+    EXPECT_TRUE(eventually(isSecond));
+    press("alt+Left");
+    ASSERT_TRUE(eventually([&] { return !isSecond(); }));
+    // Over the ten buttons of the toolbar and the page to its link.
+    for (int stop = 0; stop < 12; ++stop)
+        press("Tab");
+    press("Return");
+    EXPECT_TRUE(eventually(isSecond));
 }
 
 } // namespace

@@ -92,6 +92,7 @@ TEST_F(Keys, eraseBackwards) {
     EXPECT_EQ(entry("* Bcos EFFACE"), "|12 * |");
     EXPECT_EQ(entry("RAZ 2 5 EFFACE"), "|2|");
     EXPECT_EQ(entry("EFFACE EFFACE"), "||");
+    EXPECT_EQ(display("EXE"), " 0"); // nothing at all is zero
     EXPECT_EQ(entry("( invsin EFFACE"), "|(|");
     EXPECT_EQ(entry("RAZ Bln EFFACE"), "||");
     EXPECT_EQ(entry("RAZ - - EFFACE"), "|- |");
@@ -116,10 +117,6 @@ TEST_F(Keys, aResultBeyondTheRangeIsNoError) {
     EXPECT_EQ(entry("ANS"), "|Dépassement de capacité|");
 }
 
-TEST_F(Keys, emptyEntryGivesZero) {
-    EXPECT_EQ(display("EXE"), " 0");
-}
-
 TEST_F(Keys, recallTheLastExpression) {
     press("1 + 2 EXE 9 rappel");
     EXPECT_EQ(entry("+ 1"), "|1 + 2 + 1|");
@@ -136,12 +133,6 @@ TEST_F(Keys, formatsShowTheResultAgain) {
     press("3");
     rules.setFormat(Format::Standard);
     EXPECT_EQ(rules.display(), u"3"); // an entry stays as it is
-}
-
-TEST_F(Keys, anglesAreRadiansAtFirst) {
-    EXPECT_EQ(display("invsin 1 EXE"), " 1.5707963267949");
-    rules.setAngles(AngleMode::Degrees);
-    EXPECT_EQ(display("invsin 1 EXE"), " 90");
 }
 
 TEST_F(Keys, memoryTakesWhatTheDisplayShows) {
@@ -178,6 +169,21 @@ TEST_F(Keys, cancelKeepsTheExpression) {
     EXPECT_EQ(rules.saisie(), u"1 + 2 + 3 + 4");
     rules.cancel(); // nothing is under way
     EXPECT_EQ(rules.display(), u"Calcul impossible");
+}
+
+TEST(Scientific, followsThePattern) {
+    const std::pair<double, Text> rows[] = {
+        {12345, u"1.2345E+04"},
+        {5, u"5.E+00"},
+        {0, u"0.E+00"},
+        {-.05, u"-5.E-02"},
+        {1.23456789, u"1.2345679E+00"},
+        {1.00000005, u"1.0000001E+00"},
+        {99999999.5, u"1.E+08"},
+        {1.95e-300, u"1.95E-300"},
+    };
+    for (const auto& [value, expected] : rows)
+        EXPECT_EQ(scientificText(value), expected);
 }
 
 } // namespace

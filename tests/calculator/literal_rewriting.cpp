@@ -1,5 +1,6 @@
 #include "literal_rewriting.h"
 
+#include "calculator/checks.h"
 #include "calculator/functions.h"
 #include "text/number_text.h"
 #include "text/numeric_reader.h"
@@ -12,29 +13,31 @@ namespace {
 
 struct Fault {};
 
-Text mid(const Text& text, int from, int count = 1) {
-    if (from < 1 || count < 0)
-        throw Fault{};
-    return from > static_cast<int>(text.size())
-               ? Text()
-               : text.substr(static_cast<std::size_t>(from - 1), static_cast<std::size_t>(count));
-}
-
-Text left(const Text& text, int count) {
-    return text.substr(0, static_cast<std::size_t>(count));
-}
-
-Text from(const Text& text, int position) {
-    return mid(text, position, 1 << 30);
-}
-
 int length(const Text& text) {
     return static_cast<int>(text.size());
 }
 
+/// The character at a position; none beyond the end.
+char16_t at(const Text& text, int position) {
+    if (position < 1)
+        throw Fault{};
+    return position <= length(text) ? text[static_cast<std::size_t>(position - 1)] : u'\0';
+}
+
+bool stands(const Text& text, int position, TextView what) {
+    return position <= length(text) &&
+           text.compare(static_cast<std::size_t>(position - 1), what.size(), what) == 0;
+}
+
+/// The characters from `first` up to, not including, `end`.
+Text between(const Text& text, int first, int end) {
+    return text.substr(static_cast<std::size_t>(first - 1), static_cast<std::size_t>(end - first));
+}
+
 /// Puts `by` in the place of the `count` characters from `position` on.
 void put(Text& text, int position, int count, const Text& by) {
-    text = left(text, position - 1) + by + from(text, position + count);
+    text.replace(std::min(static_cast<std::size_t>(position - 1), text.size()),
+                 static_cast<std::size_t>(count), by);
 }
 
 Text stripped(const Text& text) {
@@ -47,46 +50,46 @@ Text stripped(const Text& text) {
 
 void insertSpaces(Text& text) {
     text = stripped(text);
-    if (mid(text, 1) == u"+")
+    if (at(text, 1) == u'+')
         text.erase(0, 1);
     text = u" " + text + u" ";
     const int bound = 3 * length(text);
     for (int i = 1; i <= bound; ++i) {
-        const auto three = [&] { return mid(text, i, 3); };
-        const auto before = [&] { return i > 1 ? mid(text, i - 1) : Text(); };
-        if (mid(text, i, 2) == u"LN")
+        if (stands(text, i, u"LN"))
             put(text, i + 1, 1, u"ON ");
-        for (const Text name :
+        for (const TextView name :
              {u"SQR", u"SIN", u"COS", u"LOG", u"TAN", u"ISI", u"EXP", u"ITA", u"ICO"})
-            if (three() == name)
+            if (stands(text, i, name))
                 put(text, i + 3, 0, u" ");
-        if (three() == u"INV") {
+        if (stands(text, i, u"INV")) {
             put(text, i + 1, 2, u"");
             put(text, i + 3, 1, u" ");
         }
-        for (const Text op : {u"^", u"*", u"/", u"+", u"-"}) {
-            const bool exponent = before() == u"D" || before() == u"E";
-            const bool opening = before() == u"(" || before() == u" ";
-            if (mid(text, i) != op || (op == u"+" && exponent) ||
-                (op == u"-" && (exponent || opening)))
+        for (const char16_t op : {u'^', u'*', u'/', u'+', u'-'}) {
+            const char16_t before = i > 1 ? at(text, i - 1) : u'\0';
+            const bool exponent = before == u'D' || before == u'E';
+            const bool opening = before == u'(' || before == u' ';
+            if (at(text, i) != op || (op == u'+' && exponent) ||
+                (op == u'-' && (exponent || opening)))
                 continue;
-            put(text, i, 1, u" " + op + u" ");
+            put(text, i, 1, {u' ', op, u' '});
             ++i;
         }
     }
 }
 
+bool isDigitOrPoint(char16_t c) {
+    return (c >= u'0' && c <= u'9') || c == u'.';
+}
+
 void unwrapPlainGroup(Text& text, int open) {
-    int at = open + 1;
-    const auto numeric = [&] {
-        const Text c = mid(text, at);
-        return !c.empty() && (Text(u".0123456789").find(c) != Text::npos ||
-                              (at == open + 1 && (c == u"-" || c == u"+")));
-    };
-    while (numeric())
-        ++at;
-    if (mid(text, at) == u")" && at > open + 1) {
-        put(text, at, 1, u"");
+    int i = open + 1;
+    if (at(text, i) == u'-' || at(text, i) == u'+')
+        ++i;
+    while (isDigitOrPoint(at(text, i)))
+        ++i;
+    if (at(text, i) == u')' && i > open + 1) {
+        put(text, i, 1, u"");
         put(text, open, 1, u"");
     }
 }
@@ -98,13 +101,13 @@ void cleanUp(Text& text) {
         remembered = text;
         for (int i = 1, end = length(text); i <= end; ++i)
             for (const auto& [pair, sign] :
-                 {std::pair<Text, Text>{u"--", u"+"}, {u"+-", u"-"}, {u"-+", u"-"}, {u"++", u"+"}})
-                if (mid(text, i, 2) == pair)
+                 {std::pair{u"--", u"+"}, {u"+-", u"-"}, {u"-+", u"-"}, {u"++", u"+"}})
+                if (stands(text, i, pair))
                     put(text, i, 2, sign);
-        if (mid(text, 1) == u"+")
+        if (at(text, 1) == u'+')
             text.erase(0, 1);
         for (int i = 1; i <= length(text); ++i)
-            if (mid(text, i) == u"(")
+            if (at(text, i) == u'(')
                 unwrapPlainGroup(text, i);
     } while (text != remembered);
     insertSpaces(text);
@@ -113,60 +116,51 @@ void cleanUp(Text& text) {
 struct Machine {
     Text text;
     AngleMode angles;
-    int parentheses = 0;
-    int functions = 0;
-    int operators = 0;
+    Counters left{};
 
     void count() {
-        parentheses = functions = operators = 0;
-        for (int i = 1; i <= length(text); ++i) {
-            parentheses += mid(text, i) == u"(";
-            const Text three = mid(text, i, 3);
-            for (const Text op : {u" + ", u" - ", u" * ", u" / ", u" ^ "})
-                operators += three == op;
-            functions += functionAt(text, static_cast<std::size_t>(i - 1)).has_value();
-        }
+        const auto counted = compter(text);
+        if (!counted)
+            throw Fault{};
+        left = *counted;
     }
 
     void evaluateFunctions() {
-        for (int i = 2; i < length(text) && functions > 0; ++i) {
+        for (int i = 2; i < length(text) && left.nbfonctions > 0; ++i) {
             const auto function = functionAt(text, static_cast<std::size_t>(i - 1));
-            const Text first = mid(text, i + 4);
-            if (!function || first.empty() || Text(u"-.0123456789").find(first) == Text::npos)
+            const char16_t first = at(text, i + 4);
+            if (!function || (first != u'-' && !isDigitOrPoint(first)))
                 continue;
             int end = i + 5;
-            while (mid(text, end) != u")" && mid(text, end) != u" ")
+            while (at(text, end) != u')' && at(text, end) != u' ')
                 if (++end > length(text))
                     throw Fault{};
-            const double x = text::leadingNumber(mid(text, i + 4, end - i - 3));
+            const double x = text::leadingNumber(between(text, i + 4, end + 1));
             const auto value = std::isfinite(x) ? valueOf(*function, x, angles) : std::nullopt;
             if (!value)
                 throw Fault{};
             put(text, i, end - i, text::trimmedNumberText(*value));
-            --functions;
+            --left.nbfonctions;
             i = 1;
         }
     }
 
     /// Reduces the first `op`; false when there is none.
     bool reduceFirst(Text& expression, char16_t op) {
-        const Text spaced{u' ', op, u' '};
         int i = 3;
-        while (mid(expression, i, 3) != spaced)
+        while (!stands(expression, i, Text{u' ', op, u' '}))
             if (++i > length(expression))
                 return false;
         int start = i - 2;
-        while (mid(expression, start) != u" ")
+        while (at(expression, start) != u' ')
             --start;
         int end = i + 4;
-        while (mid(expression, end) != u" ")
+        while (at(expression, end) != u' ')
             if (++end > 32767)
                 throw Fault{};
-        Text operand = mid(expression, start + 1, i - start - 1);
-        if (mid(operand, 1) == u"(")
-            operand.erase(0, 1);
-        const double a = text::leadingNumber(operand);
-        const double b = text::leadingNumber(mid(expression, i + 3, end - i - 3));
+        const int operand = start + (at(expression, start + 1) == u'(' ? 2 : 1);
+        const double a = text::leadingNumber(between(expression, operand, i));
+        const double b = text::leadingNumber(between(expression, i + 3, end));
         const double value = op == u'^'   ? std::pow(a, b)
                              : op == u'/' ? a / b
                              : op == u'*' ? a * b
@@ -175,19 +169,20 @@ struct Machine {
         if (!std::isfinite(a) || !std::isfinite(b) || !std::isfinite(value))
             throw Fault{};
         put(expression, start + 1, end - start - 1, text::trimmedNumberText(value));
-        --operators;
+        --left.nboperateurs;
         return true;
     }
 
     void evaluateOperators(Text& expression) {
         cleanUp(expression);
-        const Text order = u"^/*-+";
-        for (std::size_t op = 0; op < order.size(); ++op) {
+        const TextView order = u"^/*-+";
+        for (std::size_t op = 0; op < order.size();) {
             if (!reduceFirst(expression, order[op]))
-                continue;
-            if (operators < 1)
+                ++op;
+            else if (left.nboperateurs < 1)
                 return;
-            op = static_cast<std::size_t>(-1);
+            else
+                op = 0;
         }
     }
 
@@ -206,54 +201,42 @@ struct Machine {
             cleanUp(inner);
             evaluateOperators(inner);
             text.replace(open, close - open + 1, inner);
-            --parentheses;
+            --left.nbparentheses;
             cleanUp(text);
-        } while (parentheses > 0);
-    }
-
-    ErrorCode check() const {
-        int balance = 0;
-        ErrorCode error = ErrorCode::None;
-        for (int i = 1; i <= length(text); ++i) {
-            const Text c = mid(text, i);
-            balance += c == u"(" ? 1 : c == u")" ? -1 : 0;
-            if ((c == u"*" || c == u"/" || c == u"^") && mid(text, i + 2) == u" ")
-                error = ErrorCode::Operators;
-        }
-        return balance != 0 ? ErrorCode::Parentheses : error;
+        } while (left.nbparentheses > 0);
     }
 
     ErrorCode run() {
         cleanUp(text);
-        if (const ErrorCode error = check(); error != ErrorCode::None)
+        if (const ErrorCode error = verifier(text); error != ErrorCode::None)
             return error;
         count();
         Text remembered;
-        for (int pass = 1;; ++pass) {
+        for (int pass = 1; pass <= 100; ++pass) {
             if (text == remembered)
                 cleanUp(text);
             remembered = text;
-            if (pass > 100)
-                return ErrorCode::Impossible;
-            if (functions > 0) {
+            if (left.nbfonctions > 0) {
                 evaluateFunctions();
                 cleanUp(text);
             }
-            if (parentheses > 0)
+            if (left.nbparentheses > 0)
                 evaluateGroups();
             count();
-            if (functions > 0 || parentheses > 0)
+            if (left.nbfonctions > 0 || left.nbparentheses > 0)
                 continue;
-            if (operators > 0)
+            if (left.nboperateurs > 0)
                 evaluateOperators(text);
             count();
-            if (operators < 1)
-                break;
+            if (left.nboperateurs < 1)
+                return finish();
         }
-        while (!text.empty() && text.front() == u' ')
-            text.erase(0, 1);
-        while (!text.empty() && text.back() == u' ')
-            text.pop_back();
+        return ErrorCode::Impossible;
+    }
+
+    ErrorCode finish() {
+        const std::size_t first = std::min(text.find_first_not_of(u' '), text.size());
+        text = text.substr(first, text.find_last_not_of(u' ') + 1 - first);
         return text.find(u' ') == Text::npos ? ErrorCode::None : ErrorCode::Impossible;
     }
 };

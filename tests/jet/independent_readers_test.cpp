@@ -1,5 +1,6 @@
 #include "jet/cipher.h"
 #include "jet/csv_dump.h"
+#include "jet/editor.h"
 #include "jet/files.h"
 #include "jet/unicode.h"
 #include "jet/value_text.h"
@@ -64,6 +65,23 @@ void expectShown(const NewTable& table, const std::string& output, Shown isShown
     }
 }
 
+/// Memos of every storage, written, then changed in place: each row has those of the next one.
+NewTable changedMemos(const std::filesystem::path& path) {
+    NewTable table = memosOfEveryLength();
+    writeDatabase(path, {table});
+    auto editor = jet::DatabaseEditor::open(path);
+    EXPECT_TRUE(editor);
+    const Rows before = table.rows;
+    for (std::size_t i = 0; i < before.size(); ++i) {
+        const auto& next = before[(i + 1) % before.size()];
+        const std::vector<jet::CellChange> cells{
+            {u"texte", next[1]}, {u"suite", next[2]}, {u"octets", next[3]}};
+        EXPECT_TRUE(editor->change(table.name, i, cells));
+        std::copy(next.begin() + 1, next.end(), table.rows[i].begin() + 1);
+    }
+    return table;
+}
+
 class Mdbtools : public testing::Test {
 protected:
     void SetUp() override {
@@ -107,6 +125,11 @@ TEST_F(Mdbtools, readsMemosOfEveryStorage) {
     expectShown(table, exported("t.mdb", table.name), isShownAs);
 }
 
+TEST_F(Mdbtools, readsChangedMemos) {
+    const NewTable table = changedMemos(scratch_ / "t.mdb");
+    expectShown(table, exported("t.mdb", table.name), isShownAs);
+}
+
 TEST_F(Mdbtools, listsTablesAndColumns) {
     writeDatabase(scratch_ / "t.mdb", {everyType(), memosOfEveryLength()});
     const std::string file = "'" + (scratch_ / "t.mdb").string() + "'";
@@ -135,10 +158,11 @@ TEST_F(Mdbtools, readsMapsByReference) {
     expectShown(memosOfEveryLength(), exported("t.mdb", u"Memos"), isShownAs);
 }
 
-/// No sample has encoded pages, so one is made here; mdbtools says whether it was made right.
+/// No sample has encoded pages, so one is made here; mdbtools says whether it was made right, and
+/// changed right.
 TEST_F(Mdbtools, agreesOnEncodedPages) {
     constexpr std::uint32_t kKey = 0x8F3A5C21;
-    const NewTable table = memosOfEveryLength();
+    NewTable table = memosOfEveryLength();
     writeDatabase(scratch_ / "t.mdb", {table});
     FileBytes bytes = readBytes(scratch_ / "t.mdb");
     for (std::uint32_t i = 1; i < bytes.size() / 4096; ++i)
@@ -148,6 +172,11 @@ TEST_F(Mdbtools, agreesOnEncodedPages) {
     writeBytes(scratch_ / "t.mdb", bytes);
     expectShown(table, exported("t.mdb", table.name), isShownAs);
     EXPECT_EQ(readTable(scratch_ / "t.mdb", table.name), table.rows);
+
+    table.rows[3][1] = table.rows.back()[1];
+    ASSERT_TRUE(jet::DatabaseEditor::open(scratch_ / "t.mdb")
+                    ->changeText(table.name, 3, u"texte", *table.rows[3][1].text()));
+    expectShown(table, exported("t.mdb", table.name), isShownAs);
 }
 
 /// The package mdb-reader of npm, where node and the package are at hand: the package's folder is
@@ -166,12 +195,15 @@ protected:
     }
 
     void expectRead(const NewTable& table) {
-        const ScratchFolder scratch;
-        writeDatabase(scratch / "t.mdb", {table});
+        writeDatabase(scratch_ / "t.mdb", {table});
+        expectShownBy(table);
+    }
+
+    void expectShownBy(const NewTable& table) {
         const std::string script = std::string(JET_TESTS) + "/mdb_reader.mjs";
         const ProgramRun printed =
             run("node '" + script + "' '" + package_.string() + "' '" +
-                (scratch / "t.mdb").string() + "' '" + jet::toUtf8(table.name) + "'");
+                (scratch_ / "t.mdb").string() + "' '" + jet::toUtf8(table.name) + "'");
         EXPECT_EQ(printed.status, 0);
         expectShown(table, printed.output, isShownAs);
     }
@@ -183,6 +215,7 @@ protected:
         return sameCell(cell, value);
     }
 
+    ScratchFolder scratch_;
     std::filesystem::path package_;
 };
 
@@ -192,6 +225,10 @@ TEST_F(MdbReader, readsEveryType) {
 
 TEST_F(MdbReader, readsMemosOfEveryStorage) {
     expectRead(memosOfEveryLength());
+}
+
+TEST_F(MdbReader, readsChangedMemos) {
+    expectShownBy(changedMemos(scratch_ / "t.mdb"));
 }
 
 } // namespace

@@ -46,15 +46,15 @@ TEST_F(SheetTest, showsAnswerControlsOnTopWhereTheyWerePlacedLast) {
     EXPECT_THAT(described(plain).sliced(0, 1),
                 ElementsAre(QStringLiteral("print 0,0 \"a\" Arial 10")));
     // Without pictures, frames of 13 pixels.
-    EXPECT_EQ(described(plain)[1], QStringLiteral("line 15,30 210,30 #8c8472"));
+    EXPECT_EQ(described(plain)[1], QStringLiteral("line 15,30 195,30 #8c8472"));
     EXPECT_THAT(described(sheet(platform::look::fieldPictures())),
                 ElementsAre(QStringLiteral("print 0,0 \"a\" Arial 10"),
                             QStringLiteral("symbol 15,30 195,195 Option1"),
                             QStringLiteral("symbol 15,60 195,195 Option1"),
                             QStringLiteral("print 300,90 \"la loi\" Arial 10"),
                             QStringLiteral("fill 600,900 360,330 #ffffff"),
-                            QStringLiteral("line 600,900 960,900 #8c8472"),
-                            QStringLiteral("line 600,1215 960,1215 #8c8472"),
+                            QStringLiteral("line 600,900 945,900 #8c8472"),
+                            QStringLiteral("line 600,1215 945,1215 #8c8472"),
                             QStringLiteral("line 600,900 600,1215 #8c8472"),
                             QStringLiteral("line 945,900 945,1215 #8c8472")));
     ASSERT_EQ(plain.links.size(), 1u);

@@ -39,6 +39,7 @@ struct FakeNeighbours {
             if (whileResetting)
                 whileResetting();
         }
+        void show() override { log.append(QStringLiteral("show links")); }
         void resetHighlight(int kept) override {
             ++highlightResets;
             lastKept = kept;

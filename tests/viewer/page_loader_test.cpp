@@ -45,6 +45,24 @@ TEST(PageLoader, StartsEachPageFromTheSameState) {
     EXPECT_EQ(drawing.fenetreSource, &bench.window);
 }
 
+TEST(PageLoader, LinksMenusAndHalfACaptionEndWithTheirPage) {
+    test_support::LogicBench bench(
+        {page(1, u"##LIERTa#PAG002\r\n##LIERFzz\r\n##ADMENb#PAG002\r\n##LIER1c\r\n"_qs), page(2)});
+    markup::DrawingState& drawing = bench.window.state;
+    const auto* entries = drawing.links.menusFlottants.slot(0);
+    for (int visit = 0; visit < 3; ++visit) {
+        bench.actions.run(u"PAG001"_qs);
+        EXPECT_TRUE(drawing.links.Labelien.slot(0)->visible);
+        EXPECT_EQ(entries->slot(0)->caption, u"b"_qs);
+        EXPECT_TRUE(entries->slot(1)->caption.isEmpty());
+    }
+    bench.actions.run(u"PAG002"_qs);
+    EXPECT_FALSE(drawing.links.Labelien.slot(0)->visible);
+    EXPECT_TRUE(drawing.links.Imagelien.slot(0)->link.tag.isEmpty());
+    EXPECT_TRUE(entries->slot(0)->caption.isEmpty());
+    EXPECT_TRUE(drawing.lienEnAttente.isEmpty());
+}
+
 TEST(PageLoader, ReadsTheSummaryAsANumber) {
     struct Row {
         FieldValue field;

@@ -2,9 +2,11 @@
 
 #include <cairo-ft.h>
 
+#include <cmath>
 #include <memory>
 
 #include FT_FREETYPE_H
+#include FT_ADVANCES_H
 
 namespace platform {
 
@@ -42,34 +44,59 @@ void release(void* held) {
     delete static_cast<FreeTypeFace*>(held);
 }
 
-CairoFaces::Face open(const FontBook::FaceSource& source) {
-    auto held = std::make_unique<FreeTypeFace>(source.file);
-    const FT_Face face = held->face;
-    if (!face)
-        return {};
-    cairo_font_face_t* opened = cairo_ft_font_face_create_for_ft_face(face, FT_LOAD_NO_HINTING);
-    if (cairo_font_face_set_user_data(opened, &kFaceKey, held.get(), release) !=
-        CAIRO_STATUS_SUCCESS) {
-        cairo_font_face_destroy(opened);
-        return {};
-    }
-    held.release();
-    if (source.bold && !(face->style_flags & FT_STYLE_FLAG_BOLD))
-        cairo_ft_font_face_set_synthesize(opened, CAIRO_FT_SYNTHESIZE_BOLD);
-    // Left to cairo, letters would stand upright in the file.
-    const bool upright = source.italic && !(face->style_flags & FT_STYLE_FLAG_ITALIC);
-    return {opened, upright ? kSlant : 0};
+double shortfallOf(FT_Face face, FT_UInt glyph) {
+    FT_Fixed advance = 0;
+    if (FT_Get_Advance(face, glyph, FT_LOAD_NO_SCALE, &advance) != 0 || face->units_per_EM == 0)
+        return 0;
+    const double thousandths = 1000.0 * static_cast<double>(advance) / face->units_per_EM;
+    return (thousandths - std::floor(thousandths)) / 1000;
 }
 
 } // namespace
 
-CairoFaces::~CairoFaces() {
-    for (const auto& [source, face] : faces_)
-        if (face.face)
-            cairo_font_face_destroy(face.face);
+CairoFace::CairoFace(const FontBook::FaceSource& source) {
+    auto held = std::make_unique<FreeTypeFace>(source.file);
+    const FT_Face face = held->face;
+    if (!face)
+        return;
+    face_ = cairo_ft_font_face_create_for_ft_face(face, FT_LOAD_NO_HINTING);
+    if (cairo_font_face_set_user_data(face_, &kFaceKey, held.get(), release) !=
+        CAIRO_STATUS_SUCCESS) {
+        cairo_font_face_destroy(face_);
+        face_ = nullptr;
+        return;
+    }
+    held.release();
+    if (source.bold && !(face->style_flags & FT_STYLE_FLAG_BOLD))
+        cairo_ft_font_face_set_synthesize(face_, CAIRO_FT_SYNTHESIZE_BOLD);
+    // Left to cairo, letters would stand upright in the file.
+    if (source.italic && !(face->style_flags & FT_STYLE_FLAG_ITALIC))
+        slant_ = kSlant;
+
+    glyphs_.resize(static_cast<std::size_t>(face->num_glyphs));
+    for (std::size_t i = 0; i < glyphs_.size(); ++i)
+        glyphs_[i].shortfall = static_cast<float>(shortfallOf(face, static_cast<FT_UInt>(i)));
+    FT_UInt glyph = 0;
+    for (FT_ULong code = FT_Get_First_Char(face, &glyph); glyph != 0;
+         code = FT_Get_Next_Char(face, code, &glyph))
+        if (glyph < glyphs_.size() && glyphs_[glyph].character == 0)
+            glyphs_[glyph].character = static_cast<char32_t>(code);
 }
 
-const CairoFaces::Face& CairoFaces::face(const Font& font, int stage) {
+CairoFace::~CairoFace() {
+    if (face_)
+        cairo_font_face_destroy(face_);
+}
+
+char32_t CairoFace::character(quint32 glyph) const {
+    return glyph < glyphs_.size() ? glyphs_[glyph].character : 0;
+}
+
+double CairoFace::shortfall(quint32 glyph) const {
+    return glyph < glyphs_.size() ? glyphs_[glyph].shortfall : 0;
+}
+
+const CairoFace& CairoFaces::face(const Font& font, int stage) {
     for (const Asked& asked : asked_)
         if (asked.stage == stage && asked.bold == font.bold && asked.italic == font.italic &&
             asked.face == font.face)
@@ -82,12 +109,12 @@ const CairoFaces::Face& CairoFaces::face(const Font& font, int stage) {
     return *asked_.back().answer;
 }
 
-const CairoFaces::Face& CairoFaces::find(const Font& font, int stage) {
+const CairoFace& CairoFaces::find(const Font& font, int stage) {
     const FontBook::FaceSource& source = FontBook::faceSource(font, stage);
-    const auto [slot, isNew] = faces_.try_emplace(&source);
-    if (isNew)
-        slot->second = open(source);
-    return slot->second;
+    std::unique_ptr<CairoFace>& slot = faces_[&source];
+    if (!slot)
+        slot = std::make_unique<CairoFace>(source);
+    return *slot;
 }
 
 } // namespace platform

@@ -4,40 +4,64 @@
 
 #include <cairo.h>
 
+#include <memory>
 #include <unordered_map>
 #include <vector>
 
 namespace platform {
 
-/// The faces of a font book as cairo draws with them. A bold or slanted cut that the system lacks
-/// is made from the upright one, as on screen.
-class CairoFaces {
+/// A face as cairo draws with it. A bold or slanted cut that the system lacks is made from the
+/// upright one, as on screen.
+class CairoFace {
 public:
-    CairoFaces() = default;
-    CairoFaces(const CairoFaces&) = delete;
-    CairoFaces& operator=(const CairoFaces&) = delete;
-    ~CairoFaces();
+    explicit CairoFace(const FontBook::FaceSource& source);
+    CairoFace(const CairoFace&) = delete;
+    CairoFace& operator=(const CairoFace&) = delete;
+    ~CairoFace();
 
-    struct Face {
-        cairo_font_face_t* face = nullptr; ///< null when there is none
-        double slant = 0;                  ///< how far the letters have to be slanted, to the em
+    /// Null when there is no such face.
+    cairo_font_face_t* face() const { return face_; }
+
+    /// How far the letters have to be slanted, to the em.
+    double slant() const { return slant_; }
+
+    /// The first character that a glyph shows by the face's own table, which is the one that cairo
+    /// writes for it; 0 when there is none.
+    char32_t character(quint32 glyph) const;
+
+    /// By how much a glyph's advance in a file falls short of its own, in em: files have whole
+    /// thousandths.
+    double shortfall(quint32 glyph) const;
+
+private:
+    struct Glyph {
+        char32_t character = 0;
+        float shortfall = 0;
     };
 
+    cairo_font_face_t* face_ = nullptr;
+    double slant_ = 0;
+    std::vector<Glyph> glyphs_;
+};
+
+/// The faces of a font book.
+class CairoFaces {
+public:
     /// The face of a stage. It lives as long as this object.
-    const Face& face(const Font& font, int stage);
+    const CairoFace& face(const Font& font, int stage);
 
 private:
     struct Asked {
         QString face;
         bool bold, italic;
         int stage;
-        const Face* answer;
+        const CairoFace* answer;
     };
 
-    const Face& find(const Font& font, int stage);
+    const CairoFace& find(const Font& font, int stage);
 
     std::vector<Asked> asked_; ///< a course has a dozen; whole texts ask for the same
-    std::unordered_map<const FontBook::FaceSource*, Face> faces_;
+    std::unordered_map<const FontBook::FaceSource*, std::unique_ptr<CairoFace>> faces_;
 };
 
 } // namespace platform

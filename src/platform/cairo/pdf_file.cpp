@@ -102,11 +102,20 @@ public:
 
 private:
     void beginPage(double width, double height) {
-        ++pages_;
-        if (pdf_) {
+        if (++pages_ == 1)
+            beginDocument(width, height);
+        else
             cairo_pdf_surface_set_size(pdf_.get(), width, height);
-            return;
-        }
+        // White paper: fills are multiplied with it, and cairo reckons less where all of the page
+        // is covered from the start. It would wipe what comes before it, tags included.
+        cairo_set_source_rgb(context_.get(), 1, 1, 1);
+        cairo_paint(context_.get());
+        // Links are parts of the document's structure, so it has to have one.
+        if (pages_ == 1)
+            cairo_tag_begin(context_.get(), "Document", nullptr);
+    }
+
+    void beginDocument(double width, double height) {
         pdf_.reset(cairo_pdf_surface_create_for_stream(write, &file_, width, height));
         const auto tell = [this](cairo_pdf_metadata_t what, const QString& text) {
             cairo_pdf_surface_set_metadata(pdf_.get(), what, text.toUtf8().constData());
@@ -116,8 +125,6 @@ private:
         // No date: the same sheets are to give the same file.
         cairo_pdf_surface_set_metadata(pdf_.get(), CAIRO_PDF_METADATA_CREATE_DATE, nullptr);
         context_.reset(cairo_create(pdf_.get()));
-        // Links are parts of the document's structure, so it has to have one.
-        cairo_tag_begin(context_.get(), "Document", nullptr);
     }
 
     /// The page's target, label and line of the outline.

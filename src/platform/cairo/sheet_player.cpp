@@ -15,10 +15,15 @@ namespace platform {
 
 namespace {
 
-/// Words stand this part of the em lower than their line, in turn. The widths in a file are whole
-/// thousandths of the em, and cairo lets their errors add up until the height changes by more than
-/// a thousandth. The change itself, 0.3 twips at 12 points, shows on no device; both are on the
-/// same side, for readers that cut heights to whole pixels.
+/// Farthest that a glyph may stand from its place, in twips. The advances in a file are too short,
+/// so a reader comes out before the next glyph's place; cairo gives it anew only where it is more
+/// than 3 thousandths of the em away from where cairo believes the reader to be, or where the
+/// height changes by more than one.
+constexpr double kMaxDrift = 1;
+
+/// So a text that has drifted goes on at the other of these two heights (parts of the em below the
+/// line). The difference, 0.3 twips at 12 points, shows on no device; both are on the same side,
+/// for readers that cut heights to whole pixels.
 constexpr double kLowered[] = {0.0006, 0.0018};
 
 /// Whether cairo takes a character for one; others would spoil the whole document.
@@ -32,9 +37,12 @@ int append(std::string& text, char32_t c) {
     if (c == 0)
         return 0;
     const char32_t shown = isCharacter(c) ? c : U'\uFFFD';
-    const QByteArray bytes = QString::fromUcs4(&shown, 1).toUtf8();
-    text.append(bytes.constData(), static_cast<std::size_t>(bytes.size()));
-    return static_cast<int>(bytes.size());
+    const int more = shown < 0x80 ? 0 : shown < 0x800 ? 1 : shown < 0x10000 ? 2 : 3;
+    constexpr unsigned kLead[] = {0, 0xC0, 0xE0, 0xF0};
+    text += static_cast<char>(kLead[more] | shown >> 6 * more);
+    for (int i = more - 1; i >= 0; --i)
+        text += static_cast<char>(0x80 | (shown >> 6 * i & 0x3F));
+    return more + 1;
 }
 
 /// Whole pixels of the screen, in twips.
@@ -187,30 +195,45 @@ private:
 
     void showRun(const TextOperation& text, double foot,
                  std::span<const FontBook::PlacedGlyph> run) {
-        const CairoFaces::Face& face = owner_.faces_.face(text.font, run.front().stage);
-        if (!face.face)
+        const CairoFace& face = owner_.faces_.face(text.font, run.front().stage);
+        if (!face.face())
             return;
         const double em = fontPixels(text.font.points) * kTwipsPerPixel;
-        utf8_.clear();
-        glyphs_.clear();
-        clusters_.clear();
-        bool wordBegins = true;
-        for (const FontBook::PlacedGlyph& glyph : run) {
-            if (wordBegins)
-                owner_.word_ = !owner_.word_;
-            const double x = text.x + glyph.offset;
-            if (!reachable(x, foot))
-                break;
-            glyphs_.push_back({glyph.index, x, foot + kLowered[owner_.word_] * em});
-            clusters_.push_back({append(utf8_, glyph.character), 1});
-            wordBegins = glyph.character == U' ';
-        }
-        const cairo_matrix_t size = {em, 0, -face.slant * em, em, 0, 0};
-        cairo_set_font_face(cairo_, face.face);
+        placeRun(text.x, foot, em, face, run);
+        const cairo_matrix_t size = {em, 0, -face.slant() * em, em, 0, 0};
+        cairo_set_font_face(cairo_, face.face());
         cairo_set_font_matrix(cairo_, &size);
+        const int count = static_cast<int>(glyphs_.size());
+        // Where the face itself tells the characters, it costs less not to.
+        if (std::all_of(run.begin(), run.end(), [&](const FontBook::PlacedGlyph& glyph) {
+                return face.character(glyph.index) == glyph.character;
+            })) {
+            cairo_show_glyphs(cairo_, glyphs_.data(), count);
+            return;
+        }
+        utf8_.clear();
+        clusters_.clear();
+        for (const FontBook::PlacedGlyph& glyph : run.first(glyphs_.size()))
+            clusters_.push_back({append(utf8_, glyph.character), 1});
         cairo_show_text_glyphs(cairo_, utf8_.data(), static_cast<int>(utf8_.size()), glyphs_.data(),
-                               static_cast<int>(glyphs_.size()), clusters_.data(),
-                               static_cast<int>(clusters_.size()), cairo_text_cluster_flags_t{});
+                               count, clusters_.data(), count, cairo_text_cluster_flags_t{});
+    }
+
+    void placeRun(double x, double foot, double em, const CairoFace& face,
+                  std::span<const FontBook::PlacedGlyph> run) {
+        glyphs_.clear();
+        double drift = kMaxDrift; // what the run before left is not known
+        for (const FontBook::PlacedGlyph& glyph : run) {
+            if (!reachable(x + glyph.offset, foot))
+                break;
+            if (drift >= kMaxDrift) {
+                owner_.lowered_ = !owner_.lowered_;
+                drift = 0;
+            }
+            glyphs_.push_back(
+                {glyph.index, x + glyph.offset, foot + kLowered[owner_.lowered_] * em});
+            drift += face.shortfall(glyph.index) * em;
+        }
     }
 
     void underline(const TextOperation& text, double foot) {

@@ -25,7 +25,7 @@ private:
     const FontBook& fonts_;
     CairoFaces& faces_;
     CairoPictures& pictures_;
-    bool word_ = false; ///< turns with each word, see kLowered
+    bool lowered_ = false; ///< which of two heights text is at, see kLowered
 };
 
 } // namespace platform

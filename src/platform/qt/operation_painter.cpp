@@ -96,17 +96,11 @@ void OperationPainter::draw(const PictureOperation& picture) {
     const QRect place(
         QPoint(pixel(picture.x), pixel(picture.y)),
         QPoint(farEdge(picture.x + picture.width) - 1, farEdge(picture.y + picture.height) - 1));
-    if (!place.intersects(shown()))
+    if (!painter_.transform().mapRect(place).intersects(painter_.viewport()))
         return;
     const QImage image = picture.picture->image(preparedSize(place.size()));
     painter_.setRenderHint(QPainter::SmoothPixmapTransform, image.size() != place.size());
     painter_.drawImage(place, image);
-}
-
-QRect OperationPainter::shown() const {
-    const QRect device(0, 0, painter_.device()->width(), painter_.device()->height());
-    const QRect whole = painter_.worldTransform().inverted().mapRect(device);
-    return painter_.hasClipping() ? whole & painter_.clipBoundingRect().toAlignedRect() : whole;
 }
 
 double OperationPainter::toDevice(double twips) const {
@@ -149,8 +143,9 @@ void OperationPainter::straightLine(const LineOperation& line, int width) {
     const int y1 = pixel(std::min(line.y1, line.y2));
     const int y2 = pixel(std::max(line.y1, line.y2));
     const bool level = line.y1 == line.y2;
-    painter_.fillRect(x1, y1, level ? std::max(x2 - x1, width) : width,
-                      level ? width : std::max(y2 - y1, width), QColor::fromRgb(line.ink));
+    // Both ends count, so that lines that meet at a corner leave no hole there.
+    painter_.fillRect(x1, y1, level ? x2 - x1 + width : width, level ? width : y2 - y1 + width,
+                      QColor::fromRgb(line.ink));
 }
 
 } // namespace platform

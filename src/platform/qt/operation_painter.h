@@ -44,9 +44,6 @@ private:
     /// The right or lower edge of an area, held where a painter can still reckon with it.
     int farEdge(double twips) const;
 
-    /// What of the surface can show, in device pixels.
-    QRect shown() const;
-
     void drawRun(const FontBook::Run& run, const QRawFont& font, double x, double foot);
     void underline(const TextOperation& text, double x, double foot);
     void straightLine(const LineOperation& line, int width);

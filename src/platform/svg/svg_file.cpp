@@ -141,10 +141,9 @@ public:
         const double across = std::abs(line.x2 - line.x1);
         const double down = std::abs(line.y2 - line.y1);
         if (across == 0 || down == 0) {
-            // It covers the pixels at its positions, as on screen.
-            rectangle(std::min(line.x1, line.x2), std::min(line.y1, line.y2),
-                      down == 0 ? std::max(across, width) : width,
-                      down == 0 ? width : std::max(down, width));
+            // It covers the pixels at both its ends, as on screen.
+            rectangle(std::min(line.x1, line.x2), std::min(line.y1, line.y2), across + width,
+                      down + width);
             return;
         }
         const double centre = kTwipsPerPixel / 2;
@@ -155,6 +154,7 @@ public:
         attribute("y2", pixels(line.y2 + centre));
         attribute("stroke", colour(ink_));
         attribute("stroke-width", pixels(width));
+        attribute("stroke-linecap", "square");
         attribute("style", "shape-rendering:auto");
         out_ += "/>\n";
     }

@@ -1,0 +1,50 @@
+#include "viewer/link_label.h"
+
+#include "platform/link_view.h"
+#include "platform/qt/operation_painter.h"
+
+#include <QMouseEvent>
+
+namespace viewer {
+
+namespace {
+
+// How far letters lean out of the box that measures them, in parts of their square: accents on
+// capitals, the tail of "j", the end of a slanted "f".
+constexpr double kAbove = 1 / 8.0;
+constexpr double kAround = 1 / 12.0;
+constexpr double kBesideSlanted = 1 / 4.0;
+
+} // namespace
+
+LinkLabel::LinkLabel(int index, const platform::FontBook& fonts, QWidget* parent)
+    : LinkWidget(index, fonts, parent) {
+    setObjectName(QStringLiteral("Labelien(%1)").arg(index));
+}
+
+QSizeF LinkLabel::extent(const platform::LinkOperation& link) const {
+    const auto caption = platform::captionExtent(link.caption, link.font, fonts());
+    return {caption.width, caption.height};
+}
+
+QMargins LinkLabel::overhang(const platform::LinkOperation& link) const {
+    const int square = platform::fontPixels(link.font.points);
+    const int above = qCeil(square * kAbove);
+    const int around = qCeil(square * kAround);
+    const int right = link.font.italic ? qCeil(square * kBesideSlanted) : around;
+    return {around, above, right, around};
+}
+
+void LinkLabel::draw(QPainter& painter, double ratio) {
+    platform::OperationPainter operations(painter, fonts(), ratio);
+    for (const platform::TextOperation& line : platform::captionLines(link(), fonts()))
+        if (operations.span(line))
+            operations.draw(line);
+}
+
+void LinkLabel::mouseMoveEvent(QMouseEvent* event) {
+    LinkWidget::mouseMoveEvent(event);
+    event->accept(); // passed on to the page area, it would take the highlight off again
+}
+
+} // namespace viewer

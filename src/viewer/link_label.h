@@ -1,0 +1,23 @@
+#pragma once
+
+#include "viewer/link_widget.h"
+
+namespace viewer {
+
+/// An element of `Labelien`: a caption of one or more lines. It is as wide as its letters, so it
+/// grows while they are bold.
+class LinkLabel : public LinkWidget {
+public:
+    LinkLabel(int index, const platform::FontBook& fonts, QWidget* parent);
+
+    /// Lines of text stand close together.
+    QSize ringReach() const override { return {4, 2}; }
+
+protected:
+    QSizeF extent(const platform::LinkOperation& link) const override;
+    QMargins overhang(const platform::LinkOperation& link) const override;
+    void draw(QPainter& painter, double ratio) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+};
+
+} // namespace viewer

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "platform/qt/font_book.h"
+#include "platform/recording.h"
+
+#include <QAbstractButton>
+#include <QMargins>
+#include <QSizeF>
+
+namespace viewer {
+
+class PictureBox;
+
+/// A member of an array of link controls: it stands on a picture box and paints on it as if the
+/// page had drawn it there. The Tab key reaches it; a click leaves the keyboard where it is. Its
+/// contents rectangle is the link itself, around it is room for letters that lean out.
+class LinkWidget : public QAbstractButton {
+public:
+    LinkWidget(int index, const platform::FontBook& fonts, QWidget* parent);
+
+    int index() const { return index_; }
+    /// What it shows; an empty one while it is free.
+    const platform::LinkOperation& link() const { return link_; }
+
+    /// Shows `link` on `box`. A link of which no part can be seen stays hidden: nobody could click
+    /// it, and the keyboard must not lead to it.
+    void showLink(const platform::LinkOperation& link, PictureBox& box);
+
+    /// Hides the control and empties it.
+    void freeLink();
+
+    /// How far from the link the outer edge of its focus ring is, in pixels.
+    virtual QSize ringReach() const = 0;
+
+protected:
+    /// Width and height of `link`, in twips.
+    virtual QSizeF extent(const platform::LinkOperation& link) const = 0;
+    /// How far the drawing may lean out of it to each side, in pixels.
+    virtual QMargins overhang(const platform::LinkOperation&) const { return {}; }
+    /// Draws link() in device pixels from the corner of the surface; `ratio` of them make a logical
+    /// one.
+    virtual void draw(QPainter& painter, double ratio) = 0;
+
+    const platform::FontBook& fonts() const { return fonts_; }
+
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void arrange();
+
+    const int index_;
+    const platform::FontBook& fonts_;
+    PictureBox* box_ = nullptr;
+    platform::LinkOperation link_;
+};
+
+} // namespace viewer

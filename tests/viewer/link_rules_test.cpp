@@ -1,0 +1,74 @@
+#include "viewer/link_name.h"
+#include "viewer/link_order.h"
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using platform::LinkControl;
+using platform::LinkOperation;
+using platform::SurfaceId;
+
+TEST(LinkName, SaysWhatTheLinkSaysOrLeadsTo) {
+    struct Row {
+        LinkControl control;
+        QString caption, face, tooltip, tag, name;
+    };
+    for (const Row& row : {
+             Row{LinkControl::Labelien,
+                 u"Voir la\r\npage 2"_qs,
+                 u"Arial"_qs,
+                 {},
+                 u"PAG002"_qs,
+                 u"Voir la page 2"_qs},
+             Row{LinkControl::Labelien, u"a\r\nb"_qs, u"symbol"_qs, {}, u"PAG002"_qs, u"α β"_qs},
+             Row{LinkControl::Imagelien, {}, {}, u" Une  aide "_qs, u"PAG002"_qs, u"Une aide"_qs},
+             Row{LinkControl::Imagelien, {}, {}, {}, u"PAG002"_qs, u"Lien vers la page 2"_qs},
+             Row{LinkControl::Imagelien, {}, {}, {}, u"EXO011"_qs, u"Test du chapitre 11"_qs},
+             Row{LinkControl::Imagelien, {}, {}, {}, u"EXE070"_qs, u"Lancer une simulation"_qs},
+             Row{LinkControl::Imagelien, {}, {}, {}, u"FLOTTANT"_qs, u"Menu"_qs},
+             Row{LinkControl::Labelien, u" "_qs, u"Arial"_qs, {}, u"pag002"_qs, u"Lien"_qs},
+         }) {
+        LinkOperation link;
+        link.control = row.control;
+        link.caption = row.caption;
+        link.font.face = row.face;
+        link.tooltip = row.tooltip;
+        link.tag = row.tag;
+        EXPECT_EQ(viewer::linkName(link), row.name);
+    }
+}
+
+TEST(LinkOrder, RunsAlongTheLines) {
+    struct Place {
+        SurfaceId surface;
+        double x, y, height;
+    };
+    // In reading order; an exponent above its line, a tall picture beside three short lines.
+    const Place places[] = {
+        {SurfaceId::Titre, 0, 300, 300},          {SurfaceId::PictureTexte, 0, 0, 240},
+        {SurfaceId::PictureTexte, 900, -60, 150}, {SurfaceId::PictureTexte, 1000, 30, 240},
+        {SurfaceId::PictureTexte, 0, 300, 900},   {SurfaceId::PictureTexte, 1000, 320, 240},
+        {SurfaceId::PictureTexte, 800, 600, 240}, {SurfaceId::PictureTexte, 900, 900, 240},
+        {SurfaceId::PictureIllus, 0, 0, 240},
+    };
+    std::vector<LinkOperation> links;
+    for (const Place& place : places) {
+        LinkOperation link;
+        link.surface = place.surface;
+        link.x = place.x;
+        link.y = place.y;
+        link.height = place.height;
+        link.index = static_cast<int>(links.size());
+        links.push_back(link);
+    }
+    std::vector<const LinkOperation*> shuffled;
+    for (const std::size_t index : {8, 3, 5, 0, 7, 2, 6, 1, 4})
+        shuffled.push_back(&links[index]);
+    std::vector<int> order;
+    for (const LinkOperation* link : viewer::inReadingOrder(shuffled))
+        order.push_back(link->index);
+    EXPECT_THAT(order, testing::ElementsAre(0, 1, 2, 3, 4, 5, 6, 7, 8));
+}
+
+} // namespace

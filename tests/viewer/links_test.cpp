@@ -1,0 +1,306 @@
+#include "viewer/link_case.h"
+#include "viewer/picture_box.h"
+
+#include <QAccessible>
+#include <QMenu>
+#include <QPointer>
+#include <QSignalSpy>
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using test_support::Links;
+using testing::ElementsAre;
+
+TEST_F(Links, StandInTheTextAsIfThePageHadPrintedThem) {
+    struct Row {
+        QString plain, linked;
+    };
+    for (const Row& row : {
+             Row{u"Avant, un mot, après¶\r\n"_qs,
+                 u"Avant, \r\n##LIERTun mot#PAG002\r\n, après¶\r\n"_qs},
+             Row{u"##SI16\r\n##ITA1\r\nÉlif j\r\n¶\r\n"_qs,
+                 u"##SI16\r\n##ITA1\r\n##LIERTÉlif j#PAG002\r\n¶\r\n"_qs},
+             Row{u"un¶\r\ndeux¶\r\n"_qs, u"##LIER1un\r\n##LIERTdeux#PAG002\r\n¶\r\n¶\r\n"_qs},
+             Row{u"##OBJILLUS\r\nun mot¶\r\n"_qs,
+                 u"##OBJILLUS\r\n##LIERTun mot#PAG002\r\n¶\r\n"_qs},
+         }) {
+        for (const char* area : {"PictureTEXTE", "PICTUREILLUS"}) {
+            show(3, row.plain);
+            const QImage plain = picture(area);
+            show(4, row.linked);
+            EXPECT_EQ(picture(area), plain) << area << ": " << qPrintable(row.linked);
+        }
+    }
+}
+
+TEST_F(Links, ScrollWithThePageAndGoWithIt) {
+    show(3, u"##LIERTlien#PAG002\r\n¶\r\n"_qs + u"ligne¶\r\n"_qs.repeated(60));
+    const QPoint before = link("Labelien(0)")->mapTo(&bench.window, QPoint());
+    QTest::keyClick(&bench.window, Qt::Key_PageDown);
+    EXPECT_LT(link("Labelien(0)")->mapTo(&bench.window, QPoint()).y(), before.y() - 300);
+    show(2);
+    EXPECT_FALSE(link("Labelien(0)")->isVisible());
+    EXPECT_EQ(link("Labelien(1)"), nullptr) << "controls are made when they are needed";
+}
+
+TEST_F(Links, PicturesStandAtThePenAndAMissingKeyShowsAFrame) {
+    bench.pictures.symbols[u"aa"_qs] =
+        std::make_shared<test_support::PlainPicture>(QSize(40, 30), Qt::red);
+    show(3, u"##PIY010\r\n##LIERIaaPAG002\r\n##LIERXzzUne <b>aide</b>#PAG002\r\nsuite¶\r\n¶\r\n"_qs);
+    const QImage page = picture("PictureTEXTE");
+    EXPECT_EQ(page.pixelColor(0, 10), QColor(Qt::red));
+    EXPECT_EQ(page.pixelColor(39, 30), QColor(Qt::red));
+    EXPECT_EQ(link("Imagelien(1)")->geometry(), QRect(40, 10, 24, 24));
+    EXPECT_NE(page.pixelColor(40, 20), QColor(Qt::white));
+    EXPECT_NE(page.pixelColor(63, 20), QColor(Qt::white));
+    // The page's signs are no markup.
+    EXPECT_TRUE(link("Imagelien(1)")->toolTip().contains(u"&lt;b&gt;"));
+    EXPECT_EQ(link("Imagelien(0)")->cursor().shape(), Qt::PointingHandCursor);
+}
+
+TEST_F(Links, PageIsAsTallAsItsLastLinkAndAnIllustrationOfLinksIsNotBlank) {
+    const QImage blank = picture("PICTUREILLUS");
+    show(3, u"##PIY500\r\n##LIERTbas#PAG002\r\n##OBJILLUS\r\n##LIERIzzPAG002\r\n"_qs);
+    EXPECT_GT(bench.control<QWidget>("PictureTEXTE")->height(), 510);
+    EXPECT_NE(picture("PICTUREILLUS").pixel(100, 359), blank.pixel(100, 359));
+}
+
+TEST_F(Links, NobodyReachesALinkThatCannotBeSeen) {
+    platform::LinkOperation link;
+    link.caption = link.tag = u"PAG002"_qs;
+    show(3, u"##LIERTvu#PAG002\r\n¶\r\n"_qs);
+    int index = 1;
+    for (const double far : {-1e6, 9000.5, 1e6, 3e38, -3e38})
+        for (const bool across : {true, false}) {
+            link.x = across ? far : 0;
+            link.y = across ? 0 : far;
+            link.index = index++;
+            *bench.drawing.links.Labelien.slot(link.index) = {link, true};
+        }
+    links.show();
+    EXPECT_TRUE(this->link("Labelien(0)")->isVisible());
+    for (int hidden = 1; hidden < index; ++hidden)
+        EXPECT_FALSE(this->link(qPrintable(u"Labelien(%1)"_qs.arg(hidden)))->isVisible()) << hidden;
+}
+
+// Clicks
+
+TEST_F(Links, ClickRunsTheTagUnderAnHourglass) {
+    write(3, u"##LIERTpage#PAG005\r\n##LIERTmodule#EXE070\r\n##LIERTrien#pag005\r\n"_qs);
+    show(3);
+    click("Labelien(1)");
+    EXPECT_THAT(bench.neighbours.log, ElementsAre(u"close video"_qs, u"launch 70"_qs));
+    click("Labelien(2)");
+    EXPECT_EQ(shown(), u"3"_qs);
+
+    Qt::CursorShape during{};
+    write(6, u"##LIERTbon#BDC000\r\n"_qs);
+    show(6);
+    bench.neighbours.orderForm.whileOpen = [&] {
+        during = link("Labelien(0)")->cursor().shape();
+        click("Labelien(0)"); // no second one while the first runs
+    };
+    bench.neighbours.log.clear();
+    click("Labelien(0)");
+    EXPECT_THAT(bench.neighbours.log, ElementsAre(u"order form"_qs));
+    EXPECT_EQ(during, Qt::WaitCursor);
+    EXPECT_EQ(link("Labelien(0)")->cursor().shape(), Qt::PointingHandCursor);
+}
+
+TEST_F(Links, TagAndPointerSurviveAPageTurnDuringTheirOwnClick) {
+    write(3, u"##LIERTvers quatre#PAG004\r\n"_qs);
+    write(4, u"##LIERTvers cinq#PAG005\r\n"_qs);
+    show(3);
+    click("Labelien(0)");
+    EXPECT_EQ(shown(), u"4"_qs);
+    EXPECT_EQ(link("Labelien(0)")->link().tag, u"PAG005"_qs);
+    EXPECT_EQ(link("Labelien(0)")->cursor().shape(), Qt::PointingHandCursor);
+    click("Labelien(0)");
+    EXPECT_EQ(shown(), u"5"_qs);
+    EXPECT_FALSE(link("Labelien(0)")->isVisible());
+}
+
+TEST_F(Links, PageAfterTheTestIsShownOnceWhoeverOpenedIt) {
+    write(3, u"##LIERTtest#EXO002\r\n##LIERIzzEXO002\r\n##LIERFzz\r\n##ADMENtest#EXO002\r\n"_qs);
+    const std::function<void()> callers[] = {
+        [this] { click("Labelien(0)"); },
+        [this] { click("Imagelien(0)"); },
+        [this] {
+            click("Imagelien(1)");
+            QTest::keyClick(bench.control<QMenu>("flottant"), Qt::Key_Return);
+        },
+    };
+    bench.neighbours.exercise.whileOpen = [this] { bench.state.ExerciseReturnPage = 7; };
+    for (const auto& call : callers)
+        for (int time = 0; time < 2; ++time) {
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            show(3);
+            const auto before = bench.history();
+            bench.neighbours.log.clear();
+            call();
+            EXPECT_EQ(bench.neighbours.log.count(u"exercise"_qs), 1);
+            EXPECT_EQ(shown(), u"7"_qs);
+            EXPECT_EQ(bench.history(), before + QList<int>{7});
+        }
+}
+
+// Highlight
+
+void moveOver(QWidget* widget) {
+    QTest::mouseMove(widget, widget->rect().center());
+    QTest::mouseMove(widget, widget->rect().center() + QPoint(1, 0));
+}
+
+bool isHighlighted(const viewer::LinkWidget* link) {
+    return link->link().font.bold && link->link().font.underline;
+}
+
+TEST_F(Links, OnlyTheLinkUnderThePointerIsHighlighted) {
+    show(3, u"##LIERTpremier#PAG002\r\n##LIERTsecond#PAG002\r\n##LIERIzzPAG002\r\n texte"_qs
+            u"¶\r\n"_qs);
+    const auto* first = link("Labelien(0)");
+    const auto* second = link("Labelien(1)");
+    const int width = first->contentsRect().width();
+    moveOver(link("Labelien(0)"));
+    EXPECT_TRUE(isHighlighted(first));
+    EXPECT_GT(first->contentsRect().width(), width) << "bold letters are wider";
+    moveOver(link("Labelien(1)"));
+    EXPECT_FALSE(isHighlighted(first));
+    EXPECT_EQ(first->contentsRect().width(), width);
+    EXPECT_TRUE(isHighlighted(second));
+    for (const char* elsewhere : {"PictureTEXTE", "Imagelien(0)", "Framebase", "titre"}) {
+        moveOver(link("Labelien(1)"));
+        QTest::mouseMove(bench.control<QWidget>(elsewhere), {3, 3});
+        QTest::mouseMove(bench.control<QWidget>(elsewhere), {4, 4});
+        EXPECT_FALSE(isHighlighted(second)) << elsewhere;
+    }
+}
+
+TEST_F(Links, ALinkWrittenInBoldIsPlainOnceThePointerHasPassed) {
+    show(3, u"##BOL1\r\n##LIERTgras#PAG002\r\n##LIERTautre#PAG002\r\n"_qs);
+    EXPECT_TRUE(link("Labelien(0)")->link().font.bold);
+    links.resetHighlight(1);
+    EXPECT_FALSE(link("Labelien(0)")->link().font.bold);
+    EXPECT_TRUE(link("Labelien(1)")->link().font.bold) << "the one kept stays as it is";
+}
+
+TEST_F(Links, AReusedLabelStartsWithoutUnderline) {
+    show(3, u"##LIERTun#PAG002\r\n"_qs);
+    moveOver(link("Labelien(0)"));
+    ASSERT_TRUE(isHighlighted(link("Labelien(0)")));
+    QTest::mouseMove(&bench.window, {5, 5}); // not under the next page's links
+    show(4, u"##PIY200\r\n##UND1\r\n##LIERTdeux#PAG002\r\n"_qs);
+    EXPECT_FALSE(link("Labelien(0)")->link().font.underline);
+    EXPECT_FALSE(link("Labelien(0)")->link().font.bold);
+}
+
+// Floating menus
+
+class FloatingMenus : public Links {
+protected:
+    /// Captions that the menu of a picture shows; it is then closed.
+    QStringList menu(const char* picture) {
+        click(picture);
+        const QPointer<QMenu> flottant = bench.control<QMenu>("flottant");
+        EXPECT_TRUE(flottant && flottant->isVisible());
+        EXPECT_EQ(flottant->actions().size(), 10);
+        QStringList captions;
+        for (const QAction* choixflot : flottant->actions())
+            if (choixflot->isVisible())
+                captions.append(choixflot->text());
+        flottant->close();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_TRUE(flottant.isNull()) << "ends with the popup";
+        return captions;
+    }
+};
+
+TEST_F(FloatingMenus, ShowWhatThePageGaveThem) {
+    write(3, u"##LIERFzz\r\n##ADMENun & deux#PAG004\r\n##LIER1haut\r\n##ADMENbas#PAG005\r\n"_qs
+             u"##ADMENtrois#PAG006\r\n##LIERFzz\r\n"_qs);
+    for (int time = 0; time < 3; ++time) {
+        show(3);
+        EXPECT_THAT(menu("Imagelien(0)"),
+                    ElementsAre(u"un && deux"_qs, u"haut\nbas"_qs, u"trois"_qs));
+        EXPECT_THAT(menu("Imagelien(1)"), ElementsAre());
+    }
+    show(4, u"##LIERFzz\r\n"_qs);
+    EXPECT_THAT(menu("Imagelien(0)"), ElementsAre()) << "entries belong to their page";
+}
+
+TEST_F(FloatingMenus, AboveNumberTwentyIsEmpty) {
+    show(3, u"##LIERIzzPAG002\r\n"_qs.repeated(21) + u"##LIERFzz\r\n##ADMENun#PAG004\r\n"_qs);
+    EXPECT_THAT(menu("Imagelien(21)"), ElementsAre());
+}
+
+TEST_F(FloatingMenus, WorkWithTheKeyboard) {
+    show(3, u"##LIERFzz\r\n##ADMENquatre#PAG004\r\n##ADMENcinq#PAG005\r\n"_qs);
+    link("Imagelien(0)")->setFocus(Qt::TabFocusReason);
+    press(Qt::Key_Space);
+    QMenu* flottant = bench.control<QMenu>("flottant");
+    ASSERT_TRUE(flottant);
+    QTest::keyClick(flottant, Qt::Key_Down);
+    QTest::keyClick(flottant, Qt::Key_Return);
+    EXPECT_EQ(shown(), u"5"_qs);
+    EXPECT_EQ(focused(), u"PictureTEXTE"_qs);
+}
+
+// Keyboard and screen readers
+
+TEST_F(Links, TabLeadsThroughThemInReadingOrder) {
+    // The second is placed first, an exponent stands above its line, the fourth is out of sight.
+    show(3, u"##PIX300\r\n##LIERTdeux#PAG002\r\n##POX000\r\n##LIERTun#PAG002\r\n"_qs
+            u"##PIY030\r\n##LIERTtrois#PAG002\r\n##PIY900\r\n##LIERIzzPAG004\r\n"_qs
+            u"¶\r\n¶\r\n##OBJILLUS\r\n##LIERTmarge#PAG002\r\n"_qs);
+    bench.control<QWidget>("PictureTEXTE")->setFocus(Qt::TabFocusReason);
+    const auto* ring = bench.control<QWidget>("focusRing");
+    for (const char* name : {"Labelien(1)", "Labelien(0)", "Labelien(2)", "Imagelien(0)"}) {
+        press(Qt::Key_Tab);
+        EXPECT_EQ(focused(), QString::fromLatin1(name));
+        const QRect place(link(name)->mapTo(&bench.window, QPoint()), link(name)->size());
+        EXPECT_TRUE(ring->isVisible() && ring->geometry().intersects(place));
+        EXPECT_TRUE(QRect(168, 112, 624, 440).contains(place)) << name << " is scrolled into view";
+    }
+    press(Qt::Key_Return);
+    EXPECT_EQ(shown(), u"4"_qs);
+    EXPECT_EQ(focused(), u"PictureTEXTE"_qs);
+    EXPECT_FALSE(ring->isVisible());
+}
+
+TEST_F(Links, RingOfALinkScrolledAwayIsGone) {
+    show(3, u"##LIERTlien#PAG002\r\n¶\r\n"_qs + u"ligne¶\r\n"_qs.repeated(60));
+    link("Labelien(0)")->setFocus(Qt::TabFocusReason);
+    const auto* ring = bench.control<QWidget>("focusRing");
+    EXPECT_TRUE(ring->isVisible());
+    press(Qt::Key_PageDown); // the link leaves it to the page
+    EXPECT_FALSE(ring->isVisible());
+    press(Qt::Key_Home);
+    EXPECT_TRUE(ring->isVisible());
+}
+
+TEST_F(Links, ScreenReadersFindThemInTheTextAndByName) {
+    show(3, u"La \r\n##FONT01\r\n##LIERTabc#PAG002\r\n##FONT00\r\n est là¶\r\n"_qs
+            u"##LIERXzzUne aide#PAG002\r\n##LIERIzzPAG012\r\n"_qs);
+    const auto reader = [this](const char* name) {
+        return QAccessible::queryAccessibleInterface(bench.control<QWidget>(name));
+    };
+    EXPECT_EQ(reader("PictureTEXTE")->text(QAccessible::Description).trimmed(),
+              u"La αβχ est là"_qs);
+    struct Row {
+        const char* link;
+        QString name;
+    };
+    for (const Row& row : {Row{"Labelien(0)", u"αβχ"_qs}, Row{"Imagelien(0)", u"Une aide"_qs},
+                           Row{"Imagelien(1)", u"Lien vers la page 12"_qs}}) {
+        EXPECT_EQ(reader(row.link)->role(), QAccessible::Link);
+        EXPECT_EQ(reader(row.link)->text(QAccessible::Name), row.name);
+        EXPECT_EQ(reader(row.link)->text(QAccessible::Description), QString());
+        EXPECT_EQ(reader(row.link)->parent(), reader("PictureTEXTE"));
+    }
+    reader("Imagelien(1)")->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(shown(), u"12"_qs);
+}
+
+} // namespace
