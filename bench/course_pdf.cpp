@@ -1,6 +1,6 @@
 // A course of rich pages: its sources to one PDF file, or as HTML for other programs.
-//   course_pdf pages N DIR       writes DIR/cours.pdf from the N page sources
-//   course_pdf html N DIR        writes DIR/cours.html and DIR/photo.jpg
+//   course_pdf html N DIR        writes DIR/cours.html and its picture, DIR/photo.jpg
+//   course_pdf pages N DIR       writes DIR/cours.pdf from N page sources and DIR/photo.jpg
 
 #include "bench_page.h"
 #include "platform/cairo/pdf_file.h"
@@ -36,28 +36,36 @@ QByteArray photograph() {
 
 class Photograph : public platform::Picture {
 public:
+    explicit Photograph(const QString& path) {
+        QFile file(path);
+        if (file.open(QIODevice::ReadOnly))
+            bytes_ = file.readAll();
+    }
+
     QSize size() const override { return {400, 300}; }
     QImage image(QSize pixels) const override { return QImage::fromData(bytes_).scaled(pixels); }
     platform::PictureFormat format() const override { return platform::PictureFormat::Jpeg; }
     const QByteArray& bytes() const override { return bytes_; }
 
 private:
-    QByteArray bytes_ = photograph();
+    QByteArray bytes_;
 };
 
 /// One photograph, by whatever name.
 class Shelf : public markup::PictureShelf {
 public:
+    explicit Shelf(const QString& path) : picture_(std::make_shared<Photograph>(path)) {}
+
     QString locatePicture(const QString& name) override { return name; }
     std::shared_ptr<const platform::Picture> load(const QString&) override { return picture_; }
     std::shared_ptr<const platform::Picture> symbol(const QString&) override { return nullptr; }
 
 private:
-    std::shared_ptr<const platform::Picture> picture_ = std::make_shared<Photograph>();
+    std::shared_ptr<const platform::Picture> picture_;
 };
 
 bool writePdf(int count, const QString& directory) {
-    Shelf shelf;
+    Shelf shelf(directory + QLatin1String("/photo.jpg"));
     bench::Page page(shelf);
     platform::PdfFile pdf(directory + QLatin1String("/cours.pdf"), page.fonts,
                           {QStringLiteral("Cours d’optique"), QStringLiteral("Un professeur"),

@@ -11,7 +11,7 @@ public:
     LinkLabel(int index, const platform::FontBook& fonts, QWidget* parent);
 
     /// Lines of text stand close together.
-    QSize ringReach() const override { return {4, 2}; }
+    QSize ringReach() const override { return {4, 3}; }
 
 protected:
     QSizeF extent(const platform::LinkOperation& link) const override;

@@ -48,7 +48,8 @@ TEST_F(Links, ScrollWithThePageAndGoWithIt) {
 TEST_F(Links, PicturesStandAtThePenAndAMissingKeyShowsAFrame) {
     bench.pictures.symbols[u"aa"_qs] =
         std::make_shared<test_support::PlainPicture>(QSize(40, 30), Qt::red);
-    show(3, u"##PIY010\r\n##LIERIaaPAG002\r\n##LIERXzzUne <b>aide</b>#PAG002\r\nsuite¶\r\n¶\r\n"_qs);
+    show(3,
+         u"##PIY010\r\n##LIERIaaPAG002\r\n##LIERXzzUne <b>aide</b>#PAG002\r\nsuite¶\r\n¶\r\n"_qs);
     const QImage page = picture("PictureTEXTE");
     EXPECT_EQ(page.pixelColor(0, 10), QColor(Qt::red));
     EXPECT_EQ(page.pixelColor(39, 30), QColor(Qt::red));
