@@ -245,12 +245,9 @@ private:
     }
 
     void straightLine(double left, double top, double right, double bottom, double width) {
-        const bool level = top == bottom;
         const double x = snapped(left);
         const double y = snapped(top);
-        const double length = level ? snapped(right) - x : snapped(bottom) - y;
-        const double reach = std::max(length, width);
-        fillArea(snapped(x, y, level ? reach : width, level ? width : reach, area_));
+        fillArea(snapped(x, y, snapped(right) - x + width, snapped(bottom) - y + width, area_));
     }
 
     SheetPlayer& owner_;
