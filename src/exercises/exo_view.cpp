@@ -31,6 +31,20 @@ void tellNewName(QWidget& widget, const QString& name) {
         widget.setAccessibleName(name); // this tells screen readers too
 }
 
+/// Height, in twips, down to the lowest text, line or picture on the surface. A ground is drawn for
+/// what stands on it and does not count.
+double drawnFoot(const platform::Recording& recording, const platform::Surface& surface) {
+    double foot = 0;
+    for (const platform::Operation& operation : recording.operations())
+        if (const auto* text = std::get_if<platform::TextOperation>(&operation))
+            foot = std::max(foot, text->y + surface.metrics().height(text->font));
+        else if (const auto* line = std::get_if<platform::LineOperation>(&operation))
+            foot = std::max({foot, line->y1, line->y2});
+        else if (const auto* picture = std::get_if<platform::PictureOperation>(&operation))
+            foot = std::max(foot, picture->y + picture->height);
+    return foot;
+}
+
 } // namespace
 
 void Exo::setTitle(const QString& title) {
@@ -136,12 +150,10 @@ void Exo::drawQuestion(const QString& source) {
 /// Makes the area as tall as all that stands on it: the renderer only knows where the pen ended.
 void Exo::fitQuestion() {
     platform::Surface& surface = Picture2_->surface();
-    const double ended = surface.heightPx();
-    surface.setHeightPx(0);
-    const double drawn = Picture2_->pageHeightPx();
+    const double drawn = drawnFoot(recording_, surface) / platform::kTwipsPerPixel;
     const int foot = answers_->footPx();
-    surface.setHeightPx(std::max(
-        {kQuestionAreaPx, ended, drawn, foot > 0 ? static_cast<double>(foot + kFootPx) : 0}));
+    surface.setHeightPx(std::max({kQuestionAreaPx, surface.heightPx(), drawn,
+                                  foot > 0 ? static_cast<double>(foot + kFootPx) : 0}));
     frame1_->fitPage();
 }
 
