@@ -1,5 +1,7 @@
 #include "app/cours_command_line.h"
 
+#include "app/render_words.h"
+#include "app/whole_number.h"
 #include "coursetool/build.h"
 #include "coursetool/paths.h"
 #include "coursetool/report.h"
@@ -26,8 +28,12 @@ struct Typed {
     std::string output;
     std::string table;
     std::string page;
+    std::string question;
     std::string source;
+    RenderWords render;
     std::optional<std::string> expression;
+    std::optional<std::string> solution;
+    std::optional<std::string> answer;
     bool radians = false;
     bool scientific = false;
     bool steps = false;
@@ -85,19 +91,44 @@ public:
         positional(dump_, "FICHIER.mdb", typed_.from, "Base de données");
         positional(dump_, "TABLE", typed_.table, "Table ; sans elle, les tables et leurs champs");
 
-        trace_ = add("trace", "Les opérations de dessin d’une page, un objet JSON par ligne");
+        trace_ = add("trace", "Les opérations de dessin, un objet JSON par ligne");
         positional(trace_, "DOSSIER", typed_.from, "Dossier d’installation");
-        trace_->add_option("--page", typed_.page, "Numéro de la page")->type_name("N");
+        pageAndQuestion(trace_, typed_.page, typed_.question);
         trace_
             ->add_option("--source", typed_.source,
                          "Dessine le texte d’une page, ses fins de ligne telles quelles")
             ->type_name("FICHIER");
-        trace_
-            ->add_option("--drive", typed_.drives,
-                         "Donne la lettre de lecteur L à un dossier, plusieurs fois si besoin")
-            ->type_name("L=DOSSIER")
-            ->expected(1)
-            ->take_all();
+        drives(trace_);
+
+        RenderWords& words = typed_.render;
+        render_ = add("render", "Dessine des pages et des questions dans des fichiers");
+        positional(render_, "DOSSIER", words.course, "Dossier d’installation");
+        pageAndQuestion(render_, words.page, words.question);
+        render_->add_flag("--all", words.all, "Toutes les pages, puis toutes les questions");
+        render_
+            ->add_option("--source", words.source,
+                         "Le texte d’une page, ses fins de ligne telles quelles")
+            ->type_name("FICHIER");
+        render_
+            ->add_option("-o,--output", words.output,
+                         "Fichier à écrire ; avec --all un dossier, ou un PDF pour le tout")
+            ->type_name("SORTIE");
+        render_
+            ->add_option("--format", words.format,
+                         "png, pdf ou svg ; d’ordinaire la fin du nom de SORTIE le dit")
+            ->type_name("FORMAT");
+        render_->add_option("--scale", words.scale, "Agrandissement, de 0.1 à 16 (png et svg)")
+            ->type_name("F");
+        drives(render_);
+
+        answer_ = add("answer", "Dit si une réponse tapée est juste");
+        answer_->add_option("SOLUTION", typed_.solution, "Le mot ou les mots attendus")
+            ->type_name("");
+        answer_->add_option("TEXTE", typed_.answer, "Ce que l’élève a tapé")->type_name("");
+        answer_->add_flag("--batch", typed_.batch,
+                          "Une solution, une tabulation et un texte par ligne de l’entrée");
+        answer_->footer("Écrit juste ou faux. Code de sortie : 0 juste, 1 faux, 2 mauvais appel ;\n"
+                        "avec --batch 1 s’il y a une ligne sans tabulation, sinon 0.");
 
         symbols_ = add("symbols", "La liste d’images : clés, images, et d’où elles viennent");
         positional(symbols_, "DOSSIER", typed_.from,
@@ -145,6 +176,21 @@ private:
         command->add_option(name, value, description)->type_name("");
     }
 
+    static void pageAndQuestion(CLI::App* command, std::string& page, std::string& question) {
+        command->add_option("--page", page, "Numéro de la page")->type_name("N");
+        command->add_option("--question", question, "Référence de la question : 307")
+            ->type_name("REF");
+    }
+
+    void drives(CLI::App* command) {
+        command
+            ->add_option("--drive", typed_.drives,
+                         "Donne la lettre de lecteur L à un dossier, plusieurs fois si besoin")
+            ->type_name("L=DOSSIER")
+            ->expected(1)
+            ->take_all();
+    }
+
     void output(CLI::App* command, const char* description) {
         command->add_option("-o,--output", typed_.output, description)->type_name("DOSSIER");
     }
@@ -175,8 +221,12 @@ private:
             return dumpCall();
         if (trace_->parsed())
             return traceCall();
+        if (render_->parsed())
+            return renderCall();
         if (calc_->parsed())
             return calcCall();
+        if (answer_->parsed())
+            return answerCall();
         if (symbols_->parsed())
             return symbolsCall();
         return WrongCall{"il manque une sous-commande"};
@@ -214,23 +264,49 @@ private:
     }
 
     CoursCall traceCall() const {
-        TraceCall call{pathFrom(typed_.from), 0, pathFrom(typed_.source), {}};
-        for (const std::string& drive : typed_.drives)
-            if (!addDrive(drive, call.drives))
-                return WrongCall{inQuotes(drive) + " n’est pas de la forme L=DOSSIER"};
+        TraceCall call{pathFrom(typed_.from),
+                       wholeNumber(typed_.page),
+                       pathFrom(typed_.source),
+                       {},
+                       wholeNumber(typed_.question)};
+        if (const auto wrong = readDrives(call.drives))
+            return *wrong;
         if (!typed_.source.empty()) {
-            if (!typed_.from.empty() || !typed_.page.empty())
-                return WrongCall{"« --source » va sans dossier ni « --page »"};
+            if (!typed_.from.empty() || !typed_.page.empty() || !typed_.question.empty())
+                return WrongCall{"« --source » va sans dossier, « --page » ni « --question »"};
             if (const auto wrong = notAFile(typed_.source, "le texte de la page"))
                 return *wrong;
             return call;
         }
         if (const auto wrong = notADirectory(typed_.from, "le dossier d’installation"))
             return *wrong;
-        const auto [end, error] =
-            std::from_chars(typed_.page.data(), typed_.page.data() + typed_.page.size(), call.page);
-        if (error != std::errc() || *end != '\0')
-            return WrongCall{"il manque « --page N », N un numéro de page"};
+        if (!typed_.page.empty() && !typed_.question.empty())
+            return WrongCall{"« --page » ou « --question », pas les deux"};
+        if (!call.page && !call.question)
+            return WrongCall{"il manque « --page N » ou « --question REF », des nombres"};
+        return call;
+    }
+
+    CoursCall renderCall() const {
+        const bool bare = !typed_.render.source.empty();
+        if (const auto wrong =
+                bare ? notAFile(typed_.render.source, "le texte de la page")
+                     : notADirectory(typed_.render.course, "le dossier d’installation"))
+            return *wrong;
+        auto read = readRenderWords(typed_.render);
+        if (const auto* sentence = std::get_if<std::string>(&read))
+            return WrongCall{*sentence};
+        auto& call = std::get<RenderCall>(read);
+        if (const auto wrong = readDrives(call.drives))
+            return *wrong;
+        const bool intoDirectory = call.all() && call.format != coursetool::RenderFormat::Pdf;
+        std::error_code error;
+        if (!intoDirectory && fs::is_directory(call.output, error))
+            return WrongCall{inQuotes(typed_.render.output) +
+                             " est un dossier : nommer un fichier"};
+        if (intoDirectory && fs::exists(call.output, error) &&
+            !fs::is_directory(call.output, error))
+            return WrongCall{inQuotes(typed_.render.output) + " n’est pas un dossier"};
         return call;
     }
 
@@ -245,6 +321,13 @@ private:
                         typed_.radians ? AngleMode::Radians : AngleMode::Degrees,
                         typed_.scientific ? Format::Scientific : Format::Standard, typed_.batch,
                         typed_.steps};
+    }
+
+    CoursCall answerCall() const {
+        if (typed_.batch ? typed_.solution || typed_.answer : !typed_.solution || !typed_.answer)
+            return WrongCall{"il faut SOLUTION et TEXTE, ou « --batch » seul"};
+        return AnswerCall{typed_.solution.value_or(std::string()),
+                          typed_.answer.value_or(std::string()), typed_.batch};
     }
 
     CoursCall symbolsCall() const {
@@ -263,6 +346,13 @@ private:
             return false;
         drives.insert_or_assign(letter, pathFrom(typed.substr(2)));
         return true;
+    }
+
+    std::optional<WrongCall> readDrives(std::map<char, fs::path>& drives) const {
+        for (const std::string& drive : typed_.drives)
+            if (!addDrive(drive, drives))
+                return WrongCall{inQuotes(drive) + " n’est pas de la forme L=DOSSIER"};
+        return std::nullopt;
     }
 
     static std::optional<WrongCall> notADirectory(const std::string& path, const char* what) {
@@ -289,7 +379,9 @@ private:
     CLI::App* extract_ = nullptr;
     CLI::App* dump_ = nullptr;
     CLI::App* trace_ = nullptr;
+    CLI::App* render_ = nullptr;
     CLI::App* calc_ = nullptr;
+    CLI::App* answer_ = nullptr;
     CLI::App* symbols_ = nullptr;
 };
 

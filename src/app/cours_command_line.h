@@ -3,6 +3,7 @@
 #include "calculator/calc_command.h"
 #include "coursetool/drawing_request.h"
 #include "coursetool/exit_code.h"
+#include "exercises/answer_command.h"
 
 #include <filesystem>
 #include <string>
@@ -25,7 +26,9 @@ struct DumpCall {
     std::string table; ///< empty: the tables and their columns
 };
 using TraceCall = coursetool::TraceRequest;
+using RenderCall = coursetool::RenderRequest;
 using CalcCall = calculator::CalcOptions;
+using AnswerCall = exercises::AnswerOptions;
 struct SymbolsCall {
     std::filesystem::path course; ///< empty: the symbols of the program alone
 };
@@ -39,8 +42,8 @@ struct WrongCall {
     int status = static_cast<int>(coursetool::ExitCode::WrongCall);
 };
 
-using CoursCall = std::variant<BuildCall, ExtractCall, DumpCall, TraceCall, SymbolsCall, CalcCall,
-                               ShowText, WrongCall>;
+using CoursCall = std::variant<BuildCall, ExtractCall, DumpCall, TraceCall, RenderCall, SymbolsCall,
+                               CalcCall, AnswerCall, ShowText, WrongCall>;
 
 /// Reads the command line. Directories and files that must be there are; an output directory of
 /// `extract` is empty or not there yet.

@@ -1,21 +1,50 @@
 #include "coursetool/drawing_request.h"
+#include "coursetool/render.h"
+#include "coursetool/tool_pictures.h"
 #include "coursetool/trace.h"
 #include "platform/qt/font_book.h"
+#include "platform/qt/look/field_pictures.h"
 
 #include <QGuiApplication>
+
+namespace {
+
+/// To be made before the application object.
+struct NoDisplay {
+    NoDisplay() {
+        // What Qt remarks about the system it runs on is no fault of a course.
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+        // Fonts need an application object, but no display.
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+};
+
+/// What drawing needs around it.
+struct Ground {
+    Ground(int& argc, char** argv) : application(argc, argv) {}
+
+    NoDisplay noDisplay;
+    QGuiApplication application;
+    platform::FontBook fonts;
+};
+
+} // namespace
 
 extern "C" Q_DECL_EXPORT void orvalenteTrace(int& argc, char** argv,
                                              const coursetool::TraceRequest& request,
                                              coursetool::OutputBuffer& out,
                                              coursetool::Report& report) {
-    // What Qt remarks about the system it runs on is no fault of a course.
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
-    // Fonts need an application object, but no display.
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication application(argc, argv);
-    const platform::FontBook fonts;
-    if (request.source.empty())
-        coursetool::tracePage(request, fonts, out, report);
-    else
-        coursetool::traceSource(request, fonts, out, report);
+    const Ground ground(argc, argv);
+    coursetool::ToolPictures pictures(request.course, request.drives, report);
+    coursetool::trace(request, ground.fonts, pictures, out, report);
+}
+
+extern "C" Q_DECL_EXPORT void orvalenteRender(int& argc, char** argv,
+                                              const coursetool::RenderRequest& request,
+                                              coursetool::Report& report) {
+    const Ground ground(argc, argv);
+    coursetool::ToolPictures pictures(request.source.empty() ? request.course
+                                                             : request.source.parent_path(),
+                                      request.drives, report);
+    coursetool::render(request, ground.fonts, pictures, platform::look::fieldPictures(), report);
 }

@@ -38,15 +38,13 @@ struct Perform {
         return status(coursetool::dump(call.file, call.table, out, report));
     }
     int operator()(const app::TraceCall& call) {
-        const auto module =
-            platform::loadModuleFunction(ORVALENTE_DRAWING_MODULE, coursetool::kTraceSymbol);
-        if (!module.address) {
-            report.fault({ORVALENTE_DRAWING_MODULE}, "cette partie du programme manque, à "
-                                                     "réinstaller : " +
-                                                         module.reason);
-            return verdict();
-        }
-        reinterpret_cast<coursetool::TraceFunction>(module.address)(argc, argv, call, out, report);
+        if (const auto run = drawing<coursetool::TraceFunction>(coursetool::kTraceSymbol))
+            run(argc, argv, call, out, report);
+        return verdict();
+    }
+    int operator()(const app::RenderCall& call) {
+        if (const auto run = drawing<coursetool::RenderFunction>(coursetool::kRenderSymbol))
+            run(argc, argv, call, report);
         return verdict();
     }
     int operator()(const app::CalcCall& call) {
@@ -62,6 +60,15 @@ struct Perform {
         coursetool::listSymbols(call.course, out, report);
         return verdict();
     }
+    int operator()(const app::AnswerCall& call) {
+        std::ios::sync_with_stdio(false);
+        std::cin.tie(nullptr);
+        const int status = exercises::runAnswer(call, std::cin, std::cout, std::cerr);
+        if (std::cout.flush())
+            return status;
+        report.fault({"sortie standard"}, "tout n’a pas pu être écrit");
+        return verdict();
+    }
     int operator()(const app::ShowText& show) {
         print(stdout, show.text);
         return status(ExitCode::Fine);
@@ -70,6 +77,16 @@ struct Perform {
         print(stderr, "orvalente-cours : " + wrong.sentence +
                           " ; « orvalente-cours --help » montre les sous-commandes.\n");
         return wrong.status;
+    }
+
+    /// A function of the module that draws; a fault, and null, when it is not to be had.
+    template <class Function>
+    Function drawing(const char* symbol) {
+        const auto found = platform::loadModuleFunction(ORVALENTE_DRAWING_MODULE, symbol);
+        if (!found.address)
+            report.fault({ORVALENTE_DRAWING_MODULE},
+                         "cette partie du programme manque, à réinstaller : " + found.reason);
+        return reinterpret_cast<Function>(found.address);
     }
 
     static int status(ExitCode code) { return static_cast<int>(code); }

@@ -1,86 +1,88 @@
 #include "coursetool/trace.h"
 
+#include "coursetool/course_pages.h"
+#include "coursetool/course_questions.h"
 #include "coursetool/offscreen_page.h"
+#include "coursetool/offscreen_question.h"
+#include "coursetool/page_source.h"
 #include "coursetool/paths.h"
-#include "coursetool/source_text.h"
-#include "coursetool/tables.h"
-#include "coursetool/tool_pictures.h"
 #include "coursetool/trace_lines.h"
-#include "jet/unicode.h"
-#include "platform/file_names.h"
-#include "platform/jet_recordset.h"
-#include "viewer/bound_record.h"
-#include "viewer/page_index.h"
-#include "viewer/page_loader.h"
 
 namespace coursetool {
 
 namespace {
 
-void write(OffscreenPage& page, OutputBuffer& out, Report& report) {
-    for (const platform::Operation& operation : page.recording().operations()) {
-        appendTraceLine(operation, out.text());
-        out.lineDone();
-    }
-    appendTraceEnd(page.state(), out.text());
-    if (!out.flush())
-        report.fault({"sortie standard"}, "tout n’a pas pu être écrit");
-}
+class Tracer {
+public:
+    Tracer(const TraceRequest& request, const platform::TextMetrics& metrics,
+           markup::PictureShelf& pictures, OutputBuffer& out, Report& report)
+        : request_(request), metrics_(metrics), pictures_(pictures), out_(out), report_(report) {}
 
-std::unique_ptr<platform::Recordset> openCourse(const std::filesystem::path& course,
-                                                Report& report) {
-    const QString directory = QString::fromStdString(shown(course));
-    const auto file = platform::findWithoutCase(directory, QString::fromLatin1(kCourseFile));
-    if (!file) {
-        report.fault({shown(course)}, "aucun cours ici : Zekx.mdb manque");
-        return nullptr;
+    void tracePage(int number) {
+        auto pages = CoursePages::open(request_.course, report_);
+        if (!pages)
+            return;
+        OffscreenPage page(metrics_, pictures_);
+        const viewer::BoundRecord shown = pages->draw(pages->positionShown(number), page);
+        if (shown.TextID != QString::number(number))
+            report_.warning({coursetool::shown(request_.course)},
+                            "aucune page ne porte le numéro " + std::to_string(number) +
+                                " : voici celle que le programme montre à sa place");
+        write(page.recording(), page.state());
     }
-    auto records = platform::openRecordset(*file, QString::fromLatin1(coursTable().name.data()));
-    if (records)
-        return *std::move(records);
-    report.fault({file->toStdString()}, records.error().sentence);
-    return nullptr;
-}
+
+    void traceQuestion(int reference) {
+        auto questions = CourseQuestions::open(request_.course, report_);
+        if (!questions)
+            return;
+        const auto position = questions->position(reference);
+        if (!position)
+            report_.warning({questions->file()},
+                            "aucune question ne porte la référence " + std::to_string(reference) +
+                                " : voici celle que le programme montre à sa place");
+        OffscreenQuestion question(metrics_, pictures_);
+        questions->draw(position.value_or(questions->count() - 1), question);
+        write(question.recording(), question.state());
+    }
+
+    void traceSource() {
+        const auto source = readPageSource(request_.source, report_);
+        if (!source)
+            return;
+        OffscreenPage page(metrics_, pictures_);
+        page.draw(*source);
+        write(page.recording(), page.state());
+    }
+
+private:
+    void write(const platform::Recording& recording, const markup::DrawingState& state) {
+        for (const platform::Operation& operation : recording.operations()) {
+            appendTraceLine(operation, out_.text());
+            out_.lineDone();
+        }
+        appendTraceEnd(state, out_.text());
+        if (!out_.flush())
+            report_.fault({"sortie standard"}, "tout n’a pas pu être écrit");
+    }
+
+    const TraceRequest& request_;
+    const platform::TextMetrics& metrics_;
+    markup::PictureShelf& pictures_;
+    OutputBuffer& out_;
+    Report& report_;
+};
 
 } // namespace
 
-void tracePage(const TraceRequest& request, const platform::TextMetrics& metrics, OutputBuffer& out,
-               Report& report) {
-    const auto records = openCourse(request.course, report);
-    if (!records)
-        return;
-    shell::SharedState state;
-    viewer::buildPageIndex(*records, state);
-
-    ToolPictures pictures(request.course, request.drives, report);
-    OffscreenPage page(metrics, pictures);
-    viewer::BoundRecord bound;
-    viewer::PageLoader loader(state, bound, page, page, page.renderer(), page);
-    loader.bindTo(*records);
-    if (const auto position = viewer::positionByNumber(state, request.page))
-        loader.moveTo(*position);
-    loader.takeOverOrderIndex();
-    loader.showCurrentRecord();
-
-    const QString wanted = QString::number(request.page);
-    if (bound.TextID != wanted)
-        report.warning({shown(request.course)},
-                       "aucune page ne porte le numéro " + wanted.toStdString() +
-                           " : voici celle que le programme montre à sa place");
-    write(page, out, report);
-}
-
-void traceSource(const TraceRequest& request, const platform::TextMetrics& metrics,
-                 OutputBuffer& out, Report& report) {
-    const auto bytes = readBytes(request.source, report);
-    if (!bytes)
-        return;
-    checkUtf8(*bytes, shown(request.source), report);
-    const std::u16string source = jet::toUtf16(*bytes);
-    ToolPictures pictures({}, request.drives, report);
-    OffscreenPage page(metrics, pictures);
-    page.draw(QString::fromUtf16(source.data(), static_cast<qsizetype>(source.size())));
-    write(page, out, report);
+void trace(const TraceRequest& request, const platform::TextMetrics& metrics,
+           markup::PictureShelf& pictures, OutputBuffer& out, Report& report) {
+    Tracer tracer(request, metrics, pictures, out, report);
+    if (!request.source.empty())
+        tracer.traceSource();
+    else if (request.question)
+        tracer.traceQuestion(*request.question);
+    else
+        tracer.tracePage(request.page.value_or(0));
 }
 
 } // namespace coursetool

@@ -1,22 +1,18 @@
 #pragma once
 
 #include "coursetool/drawing_request.h"
-#include "coursetool/output_buffer.h"
-#include "coursetool/report.h"
+#include "markup/picture_shelf.h"
 #include "platform/text_metrics.h"
 
 namespace coursetool {
 
-// A trace has one JSON object a line: every drawing operation, then the state at the end.
-
-/// Draws the page of the course that a link to its number would show, with all that goes before a
-/// page. A fault when there is no course.
-void tracePage(const TraceRequest& request, const platform::TextMetrics& metrics, OutputBuffer& out,
-               Report& report);
-
-/// Draws the bare page source in a file, its line ends as they stand. Lines that are not UTF-8 are
-/// faults; they are drawn with U+FFFD for each byte that is wrong.
-void traceSource(const TraceRequest& request, const platform::TextMetrics& metrics,
-                 OutputBuffer& out, Report& report);
+/// Writes a trace, one JSON object a line: every drawing operation, then the state at the end.
+///
+/// Of a course, what a link to the page or the test window would show for the number, with all that
+/// goes before it; a fault when there is no course, a warning when the number leads to something
+/// else. Of a bare source, its line ends as they stand; lines that are not UTF-8 are faults, and
+/// are drawn with U+FFFD for each byte that is wrong.
+void trace(const TraceRequest& request, const platform::TextMetrics& metrics,
+           markup::PictureShelf& pictures, OutputBuffer& out, Report& report);
 
 } // namespace coursetool

@@ -15,6 +15,14 @@ struct Directive {
     QStringView keyword;
     Match match;
     void (*run)(Renderer& renderer, QStringView d);
+
+    /// Most directives differ in their first letter already; a page makes this test for every row
+    /// and every line.
+    bool matches(QStringView d) const {
+        if (d.isEmpty() || d.front() != keyword.front())
+            return false;
+        return match == Match::Prefix ? d.startsWith(keyword) : d == keyword;
+    }
 };
 
 /// All directives, in the order in which they are tested. Every one that matches runs: there is no

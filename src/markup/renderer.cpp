@@ -130,12 +130,9 @@ void Renderer::drawLine(QStringView ligne) {
 void Renderer::tradcode(QStringView ligne) {
     directive_ = ligne;
     const QStringView d = ligne.sliced(kDirectiveMark.size());
-    for (const Directive& directive : directiveTable()) {
-        const bool matches = directive.match == Match::Prefix ? d.startsWith(directive.keyword)
-                                                              : d == directive.keyword;
-        if (matches)
+    for (const Directive& directive : directiveTable())
+        if (directive.matches(d))
             directive.run(*this, d);
-    }
 }
 
 void Renderer::printTextLine(const QString& texte, bool finParagraphe) {

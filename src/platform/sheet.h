@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/field_view.h"
 #include "platform/recording.h"
 #include "platform/text_metrics.h"
 
@@ -23,6 +24,7 @@ struct LinkArea {
     double x, y, width, height;
     QString tag;
     QString tooltip;
+    QString caption = {}; ///< what the place says, on one line; empty for pictures
 };
 
 struct Sheet {
@@ -35,8 +37,17 @@ struct Sheet {
     std::vector<LinkArea> links;
 };
 
-/// Fills `operations` and `links` of a sheet: what was wiped is gone, links have become their
-/// captions and pictures, on top of the drawing as their controls are on screen.
-void putOnSheet(const Recording& recording, const TextMetrics& metrics, Sheet& sheet);
+/// Fills `operations` and `links` of a sheet: what was wiped is gone; links have become their
+/// captions and pictures, answer controls what shows them, on top of the drawing as the controls
+/// are on screen.
+void putOnSheet(const Recording& recording, const TextMetrics& metrics, Sheet& sheet,
+                const FieldPictures& fields = {});
+
+/// The surface that an operation of a sheet draws on.
+SurfaceId surfaceOf(const Operation& operation);
+
+/// Foot of the lowest operation on a surface, in twips; 0 when nothing stands there.
+double drawnHeight(const std::vector<Operation>& operations, SurfaceId surface,
+                   const TextMetrics& metrics);
 
 } // namespace platform

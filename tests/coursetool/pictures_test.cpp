@@ -2,6 +2,7 @@
 
 #include "coursetool/build.h"
 #include "coursetool/symbols.h"
+#include "coursetool/tool_pictures.h"
 #include "coursetool/trace.h"
 #include "coursetool/workspace.h"
 #include "support/fixed_metrics.h"
@@ -43,7 +44,9 @@ struct ToolPictures : testing::Test {
 
     std::string trace(const coursetool::TraceRequest& request) {
         const test_support::FixedMetrics metrics;
-        return output([&](auto& out) { coursetool::tracePage(request, metrics, out, report); });
+        coursetool::ToolPictures pictures(request.course, request.drives, report);
+        return output(
+            [&](auto& out) { coursetool::trace(request, metrics, pictures, out, report); });
     }
     std::string symbols(const std::filesystem::path& course) {
         return output([&](auto& out) { coursetool::listSymbols(course, out, report); });

@@ -2,6 +2,7 @@
 #include "coursetool/trace.h"
 #include "coursetool/trace_lines.h"
 #include "coursetool/workspace.h"
+#include "markup/no_pictures.h"
 #include "support/fixed_metrics.h"
 
 #include <gmock/gmock.h>
@@ -18,6 +19,7 @@ using Lines = std::vector<std::string>;
 struct Trace : testing::Test {
     Workspace work;
     test_support::FixedMetrics metrics;
+    markup::NoPictures pictures;
     coursetool::Report report;
 
     /// The lines that `draw` writes.
@@ -37,12 +39,12 @@ struct Trace : testing::Test {
     Lines source(std::string_view text) {
         work.write("page.txt", text);
         return lines([&](auto& out) {
-            coursetool::traceSource({{}, 0, work.path("page.txt"), {}}, metrics, out, report);
+            coursetool::trace({{}, {}, work.path("page.txt"), {}}, metrics, pictures, out, report);
         });
     }
     Lines page(int number) {
         return lines([&](auto& out) {
-            coursetool::tracePage({work.path("out"), number, {}, {}}, metrics, out, report);
+            coursetool::trace({work.path("out"), number, {}, {}}, metrics, pictures, out, report);
         });
     }
     void buildCourse() {

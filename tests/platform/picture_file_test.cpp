@@ -220,6 +220,26 @@ TEST(PictureFile, drawingsThatNeverEndAreRefused) {
     EXPECT_TRUE(pictureFrom(svg(open, "<g id='a'/><use xlink:href='#a'/><use xlink:href='#a'/>")));
 }
 
+TEST(PictureFile, dearDrawingsLoseTheirFinenessNotTheProgram) {
+    // Lines all over the picture: smooth, it would take a minute.
+    QByteArray tangle = "M0 0";
+    std::mt19937 random(4711);
+    for (int line = 0; line < 4000; ++line)
+        tangle += "L" + QByteArray::number(int(random() % 900)) + " " +
+                  QByteArray::number(int(random() % 900));
+    const auto picture =
+        pictureFrom(svg("width='900' height='900'",
+                        "<path fill='#00f' d='M0 0h30v30H0z'/><path stroke='#f00' d='" + tangle +
+                            "'/>" + QByteArray("<path d='M0 0h900v900H0z'/>").repeated(15'000) +
+                            "<path fill='#0f0' d='M0 0h900v900H0z'/>"));
+    const QImage image = picture->image({2700, 2700});
+    EXPECT_EQ(hex(image.pixel(45, 2600)), "ff000000"); // what came last is left out
+    EXPECT_EQ(hex(pictureFrom(svg("width='9' height='9'", "<path d='M0 0L9 9H0z'/>"))
+                      ->image({90, 90})
+                      .pixel(45, 45)),
+              "80000000"); // a small one is smooth
+}
+
 TEST(PictureFile, hugeSizesAreRefusedBeforeAnythingIsHeld) {
     QByteArray bmp = file(halves(4, 4), "bmp");
     bmp.replace(18, 8, QByteArray::fromHex("ffff0000ffff0000"));

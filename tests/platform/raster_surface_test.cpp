@@ -50,7 +50,8 @@ TEST_F(Raster, linesAndFillsCoverWholePixels) {
         raster.play(recording);
         const QImage image = raster.image(40);
         const int r = qRound(ratio);
-        EXPECT_EQ(inked(image, QRect(0, 0, 600 * r, 20 * r)), 10 * r * r);
+        // Both ends count.
+        EXPECT_EQ(inked(image, QRect(0, 0, 600 * r, 20 * r)), 11 * r * r);
         EXPECT_EQ(image.pixel(10 * r, 10 * r), kBlack);
         EXPECT_EQ(inked(image, QRect(0, 20 * r, 600 * r, 20 * r)), 100 * r * r);
         EXPECT_EQ(image.pixel(10 * r - 1, 30 * r - 1), kTint);
@@ -73,7 +74,7 @@ TEST_F(Raster, growsWithoutLosingWhatStands) {
         raster.play(recording);
     }
     const QImage image = raster.image(10000);
-    EXPECT_EQ(inked(image, QRect(0, 0, 600, 10000)), 500);
+    EXPECT_EQ(inked(image, QRect(0, 0, 600, 10000)), 500 * 2);
 }
 
 TEST_F(Raster, whatIsFarOutsideCostsNothing) {

@@ -14,14 +14,11 @@ namespace platform {
 
 namespace {
 
-/// Length of a path's description that takes as long to draw as an element more.
-constexpr qsizetype kPathCharacters = 256;
-
 /// How an SVG's elements hold and use each other.
 class UseGraph {
 public:
     /// Takes an element as it begins; false when there are too many, too deep.
-    bool begin(const QString& id, const QString& uses, qint64 weight) {
+    bool begin(const QString& id, const QString& uses) {
         const int index = static_cast<int>(nodes_.size());
         if (index >= kMaxSvgElements || open_.size() >= kMaxSvgDepth)
             return false;
@@ -29,24 +26,20 @@ public:
             nodes_[open_.back()].children.push_back(index);
         if (!id.isEmpty())
             ids_.insert(id, index);
-        nodes_.push_back({uses, weight, {}, Node::State::Unknown});
+        nodes_.push_back({uses, 1, {}, Node::State::Unknown});
         open_.push_back(static_cast<std::size_t>(index));
         return true;
     }
 
     void end() { open_.pop_back(); }
 
-    /// The weight of the whole, when it is bounded.
-    std::optional<qint64> weight() {
-        if (nodes_.empty() || !add(0, 0))
-            return std::nullopt;
-        return nodes_.front().weight;
-    }
+    /// Whether the whole comes to an end, within the bounds.
+    bool isBounded() { return !nodes_.empty() && add(0, 0); }
 
 private:
     struct Node {
         QString uses;
-        qint64 weight;
+        int drawn; ///< elements that are drawn with it
         std::vector<int> children;
         enum class State { Unknown, BeingAdded, Added } state;
     };
@@ -54,7 +47,7 @@ private:
     /// Chains of elements that use each other, within each other; more would be deep recursion.
     static constexpr int kMaxNesting = 4 * kMaxSvgDepth;
 
-    /// Adds to an element's weight that of all it holds and uses; false beyond the bounds.
+    /// Adds what an element holds and uses to what is drawn with it; false beyond the bounds.
     bool add(int index, int nesting) {
         Node& node = nodes_[static_cast<std::size_t>(index)];
         if (node.state == Node::State::Added)
@@ -75,8 +68,8 @@ private:
     bool addTo(Node& node, int part, int nesting) {
         if (!add(part, nesting + 1))
             return false;
-        node.weight += nodes_[static_cast<std::size_t>(part)].weight;
-        return node.weight <= kMaxSvgWeight;
+        node.drawn += nodes_[static_cast<std::size_t>(part)].drawn;
+        return node.drawn <= kMaxSvgUses;
     }
 
     std::vector<Node> nodes_;
@@ -96,10 +89,8 @@ public:
             take(reader_.readNext());
         if (refused_ || reader_.hasError())
             return std::nullopt;
-        const auto weight = uses_.weight();
-        if (!weight)
+        if (!uses_.isBounded())
             return std::nullopt;
-        guarded_.weight = *weight;
         return guarded_;
     }
 
@@ -134,7 +125,6 @@ private:
         }
         writer_.writeStartElement(name);
         QString uses;
-        qint64 weight = 1;
         for (const QXmlStreamAttribute& attribute : attributes) {
             const QString value = attribute.value().toString();
             if (isReference(attribute)) {
@@ -142,14 +132,12 @@ private:
                     continue;
                 uses = value.trimmed().mid(1);
             }
-            weight += value.size() / kPathCharacters;
             writer_.writeAttribute(attribute.qualifiedName().toString(), value);
         }
         if (isFirst_)
             takeSize(attributes);
         isFirst_ = false;
-        refused_ = !uses_.begin(attributes.value(QLatin1String("id")).toString(), uses, weight) ||
-                   refused_;
+        refused_ = !uses_.begin(attributes.value(QLatin1String("id")).toString(), uses) || refused_;
     }
 
     static bool isReference(const QXmlStreamAttribute& attribute) {

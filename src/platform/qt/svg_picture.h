@@ -14,8 +14,7 @@ public:
     /// Null when it is no SVG that can be drawn.
     static std::shared_ptr<const SvgPicture> read(const QByteArray& bytes);
 
-    SvgPicture(const QByteArray& bytes, std::unique_ptr<QSvgRenderer> renderer, QSize size,
-               qint64 weight);
+    SvgPicture(const QByteArray& bytes, std::unique_ptr<QSvgRenderer> renderer, QSize size);
     ~SvgPicture() override;
 
     QSize size() const override { return size_; }
@@ -24,12 +23,9 @@ public:
     const QByteArray& bytes() const override { return bytes_; }
 
 private:
-    QSize affordable(QSize pixels) const;
-
     QByteArray bytes_;
     std::unique_ptr<QSvgRenderer> renderer_;
     QSize size_;
-    qint64 weight_;
     mutable QImage last_; ///< in the size asked for last; null when that was large
 };
 

@@ -1,0 +1,73 @@
+#include "coursetool/course_pages.h"
+
+#include "platform/twips.h"
+#include "text/rounding.h"
+#include "viewer/page_code.h"
+#include "viewer/page_index.h"
+#include "viewer/page_loader.h"
+#include "viewer/page_sheet.h"
+
+#include <cmath>
+
+namespace coursetool {
+
+std::optional<CoursePages> CoursePages::open(const std::filesystem::path& course, Report& report) {
+    auto records = openRecords(course, kCourseFile, coursTable(), report);
+    if (!records)
+        return std::nullopt;
+    return CoursePages(*std::move(records));
+}
+
+CoursePages::CoursePages(CourseRecords pages) : pages_(std::move(pages)) {
+    viewer::buildPageIndex(*pages_.records, state_);
+    numbers_.resize(static_cast<std::size_t>(pages_.records->recordCount()));
+    pages_.records->forEach({QStringLiteral("Numeropage")},
+                            [&](int position, std::span<const platform::FieldValue> fields) {
+                                if (!std::holds_alternative<std::monostate>(fields[0]))
+                                    numbers_.at(static_cast<std::size_t>(position)) =
+                                        text::toInt32(platform::fieldNumber(fields[0]));
+                            });
+}
+
+QString CoursePages::title() const {
+    pages_.records->setAbsolutePosition(0);
+    return platform::shownText(pages_.records->field(QStringLiteral("titre"))).simplified();
+}
+
+std::optional<int> CoursePages::number(int position) const {
+    return numbers_.at(static_cast<std::size_t>(position));
+}
+
+int CoursePages::positionShown(int number) const {
+    return viewer::positionByNumber(state_, number).value_or(0);
+}
+
+std::optional<int> CoursePages::positionShown(const QString& tag) const {
+    if (viewer::codePrefix(tag) != u"PAG")
+        return std::nullopt;
+    const auto number = text::toInt16(viewer::codeArgument(tag));
+    const auto position = number ? viewer::positionByNumber(state_, *number) : std::nullopt;
+    return position && *position < count() ? position : std::nullopt;
+}
+
+viewer::BoundRecord CoursePages::draw(int position, OffscreenPage& page) {
+    viewer::BoundRecord bound;
+    viewer::PageLoader loader(state_, bound, page, page, page.renderer(), page);
+    loader.bindTo(*pages_.records);
+    loader.moveTo(position);
+    loader.takeOverOrderIndex();
+    loader.showCurrentRecord();
+    return bound;
+}
+
+platform::Sheet CoursePages::sheet(int position, const platform::TextMetrics& metrics,
+                                   markup::PictureShelf& pictures) {
+    OffscreenPage page(metrics, pictures);
+    const viewer::BoundRecord bound = draw(position, page);
+    platform::Sheet sheet = viewer::pageSheet(page.recording(), metrics, page.columnHeight());
+    sheet.title = bound.Textitre.simplified();
+    sheet.number = number(position).value_or(0);
+    return sheet;
+}
+
+} // namespace coursetool

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "coursetool/course_records.h"
+#include "coursetool/offscreen_page.h"
+#include "platform/sheet.h"
+#include "shell/shared_state.h"
+#include "viewer/bound_record.h"
+
+#include <optional>
+#include <vector>
+
+namespace coursetool {
+
+/// The pages of an installed course, in record order, drawn as the shell shows them.
+class CoursePages {
+public:
+    /// A fault, and nothing, when there is no course.
+    static std::optional<CoursePages> open(const std::filesystem::path& course, Report& report);
+
+    int count() const { return static_cast<int>(numbers_.size()); }
+    const std::string& file() const { return pages_.file; }
+
+    /// The course's title: that of its first page.
+    QString title() const;
+
+    /// Fixed number of the page at a position; nothing for a record that has none.
+    std::optional<int> number(int position) const;
+
+    /// Position of the record that a link to this number shows, which need not have it: numbers
+    /// that no page has lead to the first record.
+    int positionShown(int number) const;
+    /// The same for a link's tag; nothing when the tag leads to no page.
+    std::optional<int> positionShown(const QString& tag) const;
+
+    /// Draws the page at a position on a fresh `page`; gives its fields.
+    viewer::BoundRecord draw(int position, OffscreenPage& page);
+
+    /// The sheet of the page at a position. Every page starts anew: what the page before it left
+    /// does not show.
+    platform::Sheet sheet(int position, const platform::TextMetrics& metrics,
+                          markup::PictureShelf& pictures);
+
+private:
+    explicit CoursePages(CourseRecords pages);
+
+    CourseRecords pages_;
+    shell::SharedState state_;
+    std::vector<std::optional<int>> numbers_;
+};
+
+} // namespace coursetool

@@ -1,0 +1,86 @@
+#include "coursetool/course_questions.h"
+
+#include "platform/numbers.h"
+#include "text/rounding.h"
+#include "viewer/page_code.h"
+
+#include <algorithm>
+
+namespace coursetool {
+
+namespace {
+
+constexpr int kQuestionsPerChapter = 100;
+
+} // namespace
+
+std::optional<CourseQuestions> CourseQuestions::open(const std::filesystem::path& course,
+                                                     Report& report) {
+    auto questions = openRecords(course, kExerciseFile, contenuTable(), report);
+    if (!questions)
+        return std::nullopt;
+    // Without the list of tests, questions only go without the name of theirs.
+    const auto tests = openRecords(course, kExerciseFile, descriptionTable(), report);
+    return CourseQuestions(*std::move(questions), tests ? tests->records.get() : nullptr);
+}
+
+CourseQuestions::CourseQuestions(CourseRecords questions, const platform::Recordset* tests)
+    : questions_(std::move(questions)) {
+    using Fields = std::span<const platform::FieldValue>;
+    references_.resize(static_cast<std::size_t>(questions_.records->recordCount()));
+    questions_.records->forEach({QStringLiteral("REFERENCE")}, [&](int position, Fields fields) {
+        if (!std::holds_alternative<std::monostate>(fields[0]))
+            references_.at(static_cast<std::size_t>(position)) =
+                text::toInt32(platform::fieldNumber(fields[0]));
+    });
+    if (tests)
+        tests->forEach({QStringLiteral("Chapitre"), QStringLiteral("Titre")},
+                       [&](int, Fields fields) {
+                           // Of tests of the same chapter the last one counts.
+                           if (const auto chapter = text::toInt16(platform::fieldNumber(fields[0])))
+                               testTitles_[*chapter] = platform::shownText(fields[1]);
+                       });
+}
+
+std::optional<int> CourseQuestions::reference(int position) const {
+    return references_.at(static_cast<std::size_t>(position));
+}
+
+std::optional<int> CourseQuestions::position(int reference) const {
+    const auto found = std::find(references_.begin(), references_.end(), reference);
+    if (found == references_.end())
+        return std::nullopt;
+    return static_cast<int>(found - references_.begin());
+}
+
+void CourseQuestions::draw(int position, OffscreenQuestion& question) {
+    questions_.records->setAbsolutePosition(position);
+    question.draw(platform::shownText(questions_.records->field(QStringLiteral("question"))));
+}
+
+platform::Sheet CourseQuestions::sheet(int position, const platform::TextMetrics& metrics,
+                                       markup::PictureShelf& pictures,
+                                       const platform::FieldPictures& fields) {
+    OffscreenQuestion question(metrics, pictures);
+    draw(position, question);
+    platform::Sheet sheet = question.sheet(fields);
+    sheet.title = title(position);
+    for (platform::LinkArea& link : sheet.links) {
+        // The tag is a bare page number; the main window makes a page code of it.
+        const auto page = text::toInt16(platform::leadingNumber(link.tag));
+        link.tag = page ? viewer::pageCode(*page) : QString();
+    }
+    return sheet;
+}
+
+QString CourseQuestions::title(int position) const {
+    const auto number = reference(position);
+    if (!number)
+        return QStringLiteral("Question");
+    const QString name = QStringLiteral("Question %1").arg(*number % kQuestionsPerChapter);
+    const auto test = testTitles_.find(*number / kQuestionsPerChapter);
+    const QString title = test == testTitles_.end() ? QString() : test->second.simplified();
+    return title.isEmpty() ? name : title + QStringLiteral(" – ") + name;
+}
+
+} // namespace coursetool

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "coursetool/course_records.h"
+#include "coursetool/offscreen_question.h"
+
+#include <map>
+#include <optional>
+#include <vector>
+
+namespace coursetool {
+
+/// The questions of an installed course's tests, in record order, drawn as the test window shows
+/// them before they are answered.
+class CourseQuestions {
+public:
+    /// A fault, and nothing, when the course has no tests.
+    static std::optional<CourseQuestions> open(const std::filesystem::path& course, Report& report);
+
+    int count() const { return static_cast<int>(references_.size()); }
+    const std::string& file() const { return questions_.file; }
+
+    /// Reference of the question at a position: chapter number x 100 + number of the question.
+    /// Nothing for a record that has none.
+    std::optional<int> reference(int position) const;
+
+    /// Position of the first question with this reference, where the test window finds it.
+    std::optional<int> position(int reference) const;
+
+    /// Draws the question at a position on a fresh `question`.
+    void draw(int position, OffscreenQuestion& question);
+
+    /// The sheet of the question at a position; the tags of its links are page codes.
+    platform::Sheet sheet(int position, const platform::TextMetrics& metrics,
+                          markup::PictureShelf& pictures, const platform::FieldPictures& fields);
+
+private:
+    CourseQuestions(CourseRecords questions, const platform::Recordset* tests);
+
+    QString title(int position) const;
+
+    CourseRecords questions_;
+    std::vector<std::optional<int>> references_;
+    std::map<int, QString> testTitles_; ///< by chapter
+};
+
+} // namespace coursetool

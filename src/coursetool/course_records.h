@@ -1,0 +1,28 @@
+#pragma once
+
+#include "coursetool/report.h"
+#include "coursetool/tables.h"
+#include "platform/recordset.h"
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace coursetool {
+
+/// A table of an installed course.
+struct CourseRecords {
+    std::string file; ///< the database, for messages
+    std::unique_ptr<platform::Recordset> records;
+};
+
+/// Opens a table of the database `fileName` in an installation directory, its name taken without
+/// regard to case. A fault, and nothing, when it is not there or cannot be read.
+std::optional<CourseRecords> openRecords(const std::filesystem::path& course, const char* fileName,
+                                         const TableRule& table, Report& report);
+
+/// Whether the installation directory has a database of this name.
+bool hasDatabase(const std::filesystem::path& course, const char* fileName);
+
+} // namespace coursetool

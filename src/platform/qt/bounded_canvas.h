@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QImage>
+#include <QPaintDevice>
+
+#include <memory>
+
+namespace platform {
+
+/// A picture that is drawn on with a QPainter, at a bounded cost. Smooth outlines are dear where
+/// they are long and cross each other: a path of a few kilobytes can take a minute. So a path that
+/// would cost much is drawn without smoothing, which is many times quicker, and when all that
+/// a drawing may cost is spent, the rest of it is left out.
+class BoundedCanvas : public QPaintDevice {
+public:
+    explicit BoundedCanvas(QSize size);
+    ~BoundedCanvas() override;
+
+    /// Format_ARGB32_Premultiplied. To be asked for when no painter is active.
+    const QImage& image() const { return image_; }
+
+    QPaintEngine* paintEngine() const override;
+
+protected:
+    int metric(PaintDeviceMetric metric) const override;
+
+private:
+    class Engine;
+
+    QImage image_;
+    std::unique_ptr<Engine> engine_;
+};
+
+} // namespace platform

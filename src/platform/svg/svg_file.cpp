@@ -1,0 +1,317 @@
+#include "platform/svg/svg_file.h"
+
+#include "platform/multiply_inks.h"
+#include "platform/svg/svg_text.h"
+#include "platform/twips.h"
+
+#include <QBuffer>
+#include <QHash>
+
+#include <algorithm>
+#include <cmath>
+
+namespace platform {
+
+namespace {
+
+using svg::appendEscaped;
+using svg::colour;
+using svg::pixels;
+
+/// Places further out are on no sheet, and their numbers would only be long.
+constexpr double kFarTwips = 1e6 * kTwipsPerPixel;
+
+/// Crisp lines and fills as on screen; text as wide as it was measured, with every blank.
+constexpr char kStyle[] =
+    "<style>text{white-space:pre;font-kerning:none;font-variant-ligatures:none}"
+    "rect,line{shape-rendering:crispEdges}.m{mix-blend-mode:multiply}</style>\n";
+
+template <class... Values>
+bool near(Values... values) {
+    return ((std::abs(values) < kFarTwips) && ...);
+}
+
+double wholePixels(double twips) {
+    return std::round(twips / kTwipsPerPixel) * kTwipsPerPixel;
+}
+
+/// The pictures of a document, each stored once under a name of its own.
+class PictureStore {
+public:
+    /// The name of a picture; empty for one that cannot be stored.
+    QByteArray name(const Picture& picture) {
+        const auto known = names_.constFind(&picture);
+        if (known != names_.constEnd())
+            return *known;
+        const QByteArray name = store(picture);
+        names_.insert(&picture, name);
+        return name;
+    }
+
+    const QByteArray& definitions() const { return definitions_; }
+
+private:
+    QByteArray store(const Picture& picture) {
+        const auto [type, bytes] = file(picture);
+        if (bytes.isEmpty())
+            return {};
+        // The same file may have been read twice.
+        const auto same = byContent_.constFind(bytes);
+        if (same != byContent_.constEnd())
+            return *same;
+        const QByteArray name = "i" + QByteArray::number(byContent_.size() + 1);
+        definitions_ +=
+            "<image id=\"" + name +
+            "\" width=\"1\" height=\"1\" preserveAspectRatio=\"none\" xlink:href=\"data:" + type +
+            ";base64," + bytes.toBase64() + "\"/>\n";
+        byContent_.insert(bytes, name);
+        return name;
+    }
+
+    /// The picture as a file that programs which show SVG can read.
+    static std::pair<QByteArray, QByteArray> file(const Picture& picture) {
+        switch (picture.format()) {
+        case PictureFormat::Gif:
+            return {"image/gif", picture.bytes()};
+        case PictureFormat::Jpeg:
+            return {"image/jpeg", picture.bytes()};
+        case PictureFormat::Png:
+            return {"image/png", picture.bytes()};
+        case PictureFormat::Svg:
+            return {"image/svg+xml", picture.bytes()};
+        case PictureFormat::Bmp:
+            break;
+        }
+        QBuffer png;
+        png.open(QIODevice::WriteOnly);
+        picture.image(picture.size()).save(&png, "PNG");
+        return {"image/png", png.data()};
+    }
+
+    QHash<const Picture*, QByteArray> names_;
+    QHash<QByteArray, QByteArray> byContent_;
+    QByteArray definitions_;
+};
+
+/// Writes the operations of one surface as elements, in pixels of the surface.
+class ElementWriter {
+public:
+    ElementWriter(const TextMetrics& metrics, PictureStore& pictures, QByteArray& out)
+        : metrics_(metrics), pictures_(pictures), out_(out) {}
+
+    /// `ink` is the operation's own where mask fills multiply.
+    void write(const Operation& operation, QRgb ink) {
+        ink_ = ink;
+        std::visit(*this, operation);
+    }
+
+    void operator()(const TextOperation& text) const {
+        const int em = fontPixels(text.font.points);
+        const QString shown = svg::shownText(text.font.face, text.text);
+        if (em == 0 || shown.isEmpty() || !near(text.x, text.y))
+            return;
+        const double foot = text.y + metrics_.ascent(text.font);
+        out_ += "<text";
+        attribute("x", pixels(text.x));
+        attribute("y", pixels(foot));
+        attribute("font-family", svg::families(text.font.face));
+        attribute("font-size", QByteArray::number(em));
+        if (text.font.bold)
+            attribute("font-weight", "bold");
+        if (text.font.italic)
+            attribute("font-style", "italic");
+        fillColour();
+        if (text.width > 0)
+            attribute("textLength", pixels(text.width));
+        // The widths of sign faces are not those of the faces that have their signs.
+        if (shown != text.text)
+            attribute("lengthAdjust", "spacingAndGlyphs");
+        out_ += '>';
+        appendEscaped(shown, out_);
+        out_ += "</text>\n";
+        if (text.font.underline)
+            rectangle(text.x, foot + em * kUnderlineDrop * kTwipsPerPixel, text.width,
+                      std::max(1.0, std::round(em * kUnderlineThickness)) * kTwipsPerPixel);
+    }
+
+    void operator()(const LineOperation& line) const {
+        if (!near(line.x1, line.y1, line.x2, line.y2))
+            return;
+        const double width = std::max(1, line.lineWidth) * kTwipsPerPixel;
+        const double across = std::abs(line.x2 - line.x1);
+        const double down = std::abs(line.y2 - line.y1);
+        if (across == 0 || down == 0) {
+            // It covers the pixels at both its ends, as on screen.
+            rectangle(std::min(line.x1, line.x2), std::min(line.y1, line.y2), across + width,
+                      down + width);
+            return;
+        }
+        const double centre = kTwipsPerPixel / 2;
+        out_ += "<line";
+        attribute("x1", pixels(line.x1 + centre));
+        attribute("y1", pixels(line.y1 + centre));
+        attribute("x2", pixels(line.x2 + centre));
+        attribute("y2", pixels(line.y2 + centre));
+        attribute("stroke", colour(ink_));
+        attribute("stroke-width", pixels(width));
+        attribute("stroke-linecap", "square");
+        attribute("style", "shape-rendering:auto");
+        out_ += "/>\n";
+    }
+
+    void operator()(const FillOperation& fill) const {
+        rectangle(fill.x, fill.y, fill.width, fill.height,
+                  fill.mode == FillMode::Mask ? "m" : nullptr);
+    }
+
+    void operator()(const PictureOperation& picture) const {
+        if (!picture.picture || !near(picture.x, picture.y, picture.width, picture.height))
+            return;
+        const QByteArray name = pictures_.name(*picture.picture);
+        if (name.isEmpty())
+            return;
+        const Place place = onScreen(picture.x, picture.y, picture.width, picture.height);
+        out_ += "<use";
+        attribute("xlink:href", "#" + name);
+        attribute("transform", "translate(" + pixels(place.x) + ' ' + pixels(place.y) + ") scale(" +
+                                   pixels(place.width) + ' ' + pixels(place.height) + ')');
+        out_ += "/>\n";
+    }
+
+    template <class Other>
+    void operator()(const Other&) const {}
+
+    void link(const LinkArea& area, const QString& address) const {
+        if (!near(area.x, area.y, area.width, area.height))
+            return;
+        out_ += "<a xlink:href=\"";
+        appendEscaped(address, out_);
+        const QString& name = area.caption.isEmpty() ? area.tooltip : area.caption;
+        if (!name.isEmpty()) {
+            out_ += "\" aria-label=\"";
+            appendEscaped(name, out_);
+        }
+        out_ += "\">";
+        if (!area.tooltip.isEmpty()) {
+            out_ += "<title>";
+            appendEscaped(area.tooltip, out_);
+            out_ += "</title>";
+        }
+        out_ += "<rect";
+        box(area.x, area.y, area.width, area.height);
+        out_ += " fill=\"none\" pointer-events=\"all\"/></a>\n";
+    }
+
+private:
+    void attribute(const char* name, const QByteArray& value) const {
+        out_.append(' ').append(name).append("=\"").append(value).append('"');
+    }
+
+    void fillColour() const {
+        if ((ink_ & 0xffffff) != 0)
+            attribute("fill", colour(ink_));
+    }
+
+    void box(double x, double y, double width, double height) const {
+        attribute("x", pixels(x));
+        attribute("y", pixels(y));
+        attribute("width", pixels(width));
+        attribute("height", pixels(height));
+    }
+
+    struct Place {
+        double x, y, width, height;
+    };
+
+    /// The whole pixels that an area covers on screen.
+    static Place onScreen(double x, double y, double width, double height) {
+        const double left = wholePixels(x);
+        const double top = wholePixels(y);
+        return {left, top, wholePixels(std::min(x + width, kFarTwips)) - left,
+                wholePixels(std::min(y + height, kFarTwips)) - top};
+    }
+
+    void rectangle(double x, double y, double width, double height,
+                   const char* className = nullptr) const {
+        if (!near(x, y) || !(width > 0) || !(height > 0))
+            return;
+        const Place place = onScreen(x, y, width, height);
+        if (place.width == 0 || place.height == 0)
+            return;
+        out_ += "<rect";
+        box(place.x, place.y, place.width, place.height);
+        fillColour();
+        if (className)
+            attribute("class", className);
+        out_ += "/>\n";
+    }
+
+    const TextMetrics& metrics_;
+    PictureStore& pictures_;
+    QByteArray& out_;
+    QRgb ink_ = 0;
+};
+
+class DocumentWriter {
+public:
+    DocumentWriter(const Sheet& sheet, const TextMetrics& metrics, const LinkAddress& address)
+        : sheet_(sheet), metrics_(metrics), address_(address),
+          inks_(multiplyInks(sheet.operations, metrics)) {}
+
+    QByteArray write(double scale) {
+        for (const PlacedSurface& surface : sheet_.surfaces)
+            writeSurface(surface);
+        QByteArray document = head(scale);
+        document += clips_ + pictures_.definitions() + "</defs>\n";
+        return document + body_ + "</svg>\n";
+    }
+
+private:
+    QByteArray head(double scale) const {
+        const QByteArray width = pixels(sheet_.width);
+        const QByteArray height = pixels(sheet_.height);
+        QByteArray head = "<svg xmlns=\"http://www.w3.org/2000/svg\" "
+                          "xmlns:xlink=\"http://www.w3.org/1999/xlink\" width=\"" +
+                          pixels(sheet_.width * scale) + "\" height=\"" +
+                          pixels(sheet_.height * scale) + "\" viewBox=\"0 0 " + width + ' ' +
+                          height + "\" xml:lang=\"fr\" xml:space=\"preserve\">\n<title>";
+        appendEscaped(sheet_.title, head);
+        return head + "</title>\n" + kStyle + "<rect width=\"" + width + "\" height=\"" + height +
+               "\" fill=\"#ffffff\"/>\n<defs>\n";
+    }
+
+    void writeSurface(const PlacedSurface& surface) {
+        const QByteArray name = "c" + QByteArray::number(++surfaces_);
+        clips_ += "<clipPath id=\"" + name + "\"><rect width=\"" + pixels(surface.width) +
+                  "\" height=\"" + pixels(surface.height) + "\"/></clipPath>\n";
+        body_ += "<g transform=\"translate(" + pixels(surface.x) + ' ' + pixels(surface.y) +
+                 ")\" clip-path=\"url(#" + name + ")\">\n";
+        ElementWriter elements(metrics_, pictures_, body_);
+        for (std::size_t i = 0; i < sheet_.operations.size(); ++i)
+            if (surfaceOf(sheet_.operations[i]) == surface.surface)
+                elements.write(sheet_.operations[i], inks_[i]);
+        for (const LinkArea& area : sheet_.links)
+            if (area.surface == surface.surface)
+                if (const QString to = address_ ? address_(area.tag) : QString(); !to.isEmpty())
+                    elements.link(area, to);
+        body_ += "</g>\n";
+    }
+
+    const Sheet& sheet_;
+    const TextMetrics& metrics_;
+    const LinkAddress& address_;
+    std::vector<QRgb> inks_;
+    PictureStore pictures_;
+    QByteArray clips_;
+    QByteArray body_;
+    int surfaces_ = 0;
+};
+
+} // namespace
+
+QByteArray svgDocument(const Sheet& sheet, const TextMetrics& metrics, const LinkAddress& address,
+                       double scale) {
+    return DocumentWriter(sheet, metrics, address).write(scale);
+}
+
+} // namespace platform
