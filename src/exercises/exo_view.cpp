@@ -147,13 +147,15 @@ void Exo::drawQuestion(const QString& source) {
         focusQuestion();
 }
 
-/// Makes the area as tall as all that stands on it: the renderer only knows where the pen ended.
+/// Makes the area as tall as the view, so that a coloured ground fills it, or as all that stands on
+/// it: the renderer only knows where the pen ended.
 void Exo::fitQuestion() {
     platform::Surface& surface = Picture2_->surface();
     const double drawn = drawnFoot(recording_, surface) / platform::kTwipsPerPixel;
     const int foot = answers_->footPx();
-    surface.setHeightPx(std::max({kQuestionAreaPx, surface.heightPx(), drawn,
-                                  foot > 0 ? static_cast<double>(foot + kFootPx) : 0}));
+    const double view = frame1_->framekx().height();
+    surface.setHeightPx(std::max(
+        {view, surface.heightPx(), drawn, foot > 0 ? static_cast<double>(foot + kFootPx) : 0}));
     frame1_->fitPage();
 }
 
