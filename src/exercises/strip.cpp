@@ -41,11 +41,12 @@ constexpr int kBarX = 8;
 Strip::Strip(const TestState& test, QWidget* parent)
     : QWidget(parent), test_(test), right_(markName(Mark::InSolution)),
       wrong_(markName(Mark::NotInSolution)) {
+    // Before anything that makes Qt ask for it: the answer is kept.
+    StripAccessible::install();
     setObjectName(QStringLiteral("Picture1"));
     setAccessibleName(QStringLiteral("Questions du test"));
     setFont(look::interfaceFont(look::kButtonPx, look::Weight::Bold));
     setFocusPolicy(Qt::TabFocus);
-    StripAccessible::install();
 }
 
 QRect Strip::bandRect(int question) const {

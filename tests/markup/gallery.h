@@ -13,7 +13,8 @@ namespace test_support {
 inline std::map<QString, QString> gallery() {
     std::map<QString, QString> sources;
     const QDir directory(QStringLiteral(GALLERY));
-    for (const QString& name : directory.entryList({QStringLiteral("*.src"), QStringLiteral("*.question")})) {
+    for (const QString& name :
+         directory.entryList({QStringLiteral("*.src"), QStringLiteral("*.question")})) {
         QFile file(directory.filePath(name));
         if (file.open(QFile::ReadOnly))
             sources[name] = QString::fromUtf8(file.readAll());
