@@ -5,11 +5,14 @@
 #include "app/prompted_display_warning.h"
 #include "calculator/machine_opener.h"
 #include "markup/renderer.h"
+#include "platform/qt/escape_watch.h"
 #include "platform/qt/font_book.h"
 #include "platform/qt/look/message_dialog.h"
 #include "platform/qt/mounted_drives.h"
 #include "platform/qt/patient_activator.h"
+#include "platform/qt/print_setup.h"
 #include "platform/qt/qt_beeper.h"
+#include "platform/qt/qt_printer.h"
 #include "platform/qt/qt_processes.h"
 #include "platform/qt/qt_screen.h"
 #include "shell/course_directory.h"
@@ -21,6 +24,7 @@
 #include "viewer/link_controls.h"
 #include "viewer/main_commands.h"
 #include "viewer/multim.h"
+#include "viewer/print_command.h"
 
 #ifdef ORVALENTE_X11
 #include "platform/x11/x11_windows.h"
@@ -89,7 +93,7 @@ struct ShellApplication::Parts {
     Parts(const CommandLine& commandLine, double scale)
         : screen(scale), window(state, fonts, screen),
           launcher(state, prompter, processes, activator, window), modules(launcher), video(window),
-          printing(window), links(window, fonts, drawing.links),
+          links(window, fonts, drawing.links),
           exercise(window, QStringLiteral("Cette édition n’a pas encore les tests.")),
           orderForm(window, QStringLiteral("Cette édition n’a pas encore de bon de commande.")),
           search(window, QStringLiteral("Cette édition n’a pas encore la recherche.")),
@@ -123,7 +127,6 @@ struct ShellApplication::Parts {
     shell::Launcher launcher;
     LaunchedModules modules;
     MissingVideo video;
-    MissingPrinting printing;
     viewer::LinkControls links;
     MissingWindow exercise, orderForm, search, help, installation;
     Calculator calculator;
@@ -136,6 +139,12 @@ struct ShellApplication::Parts {
     viewer::CoursePictures pictures{location, symbols};
     markup::Renderer renderer;
     viewer::PageLoader pages;
+    platform::QtPrinter printer{fonts};
+    platform::QtPrinterSetup printerSetup{printer, prompter};
+    platform::EscapeWatch escape;
+    viewer::PagePrinter pagePrinter{{state, bound, pages, window, drawing, window, window, pictures,
+                                     fonts, printer, [this] { return escape.isAsked(); }}};
+    viewer::PrintCommand printing{printerSetup, pagePrinter};
     viewer::ActionDispatcher actions;
     viewer::Neighbours neighbours;
     viewer::MainCommands commands;
