@@ -30,6 +30,13 @@ constexpr double kLeastFilled = 0.25;
 /// Least height of a sheet, an inch, whatever margins a driver reports.
 constexpr double kLeastHeight = 1440;
 
+/// Part of a line's height that another line may overlap above, and below, without being one with
+/// it: pages set some lines closer than they are high.
+constexpr double kOverlap = 0.2;
+
+/// The same in twips, for huge letters: much less than the least that a sheet holds.
+constexpr double kMaxOverlap = 150;
+
 /// From where to where an operation reaches, and how much it matters that it is not cut.
 struct Extent {
     enum class Kind { Text, Drawing, Ground };
@@ -37,6 +44,13 @@ struct Extent {
     double top, bottom;
     Kind kind;
     bool isBold = false;
+
+    /// Where cuts go through it.
+    double innerTop() const { return top + margin(); }
+    double innerBottom() const { return bottom - margin(); }
+    double margin() const {
+        return kind == Kind::Text ? std::min(kOverlap * (bottom - top), kMaxOverlap) : 0;
+    }
 };
 
 struct ExtentOf {
@@ -81,32 +95,40 @@ platform::Operation moved(platform::Operation operation, double right, double do
     return operation;
 }
 
+/// A footer wider than the paper, in the large letters that a page ended with, becomes smaller.
+Footer fitted(Footer footer, double width, const platform::TextMetrics& metrics) {
+    while (footer.font.points > 1 && metrics.width(footer.font, footer.text) > width)
+        footer.font.points = std::floor(footer.font.points - 1);
+    return footer;
+}
+
 /// Lays out one page of the course.
 class Layout {
 public:
     Layout(const platform::Recording& drawing, const Footer& footer, const platform::Paper& paper,
            const platform::TextMetrics& metrics)
-        : footer_(footer), paper_(paper), metrics_(metrics),
+        : paper_(paper), metrics_(metrics),
           enlargement_(std::max(1.0, kColumn / std::max(1.0, paper.printableWidth))),
           width_(paper.printableWidth * enlargement_),
           height_(std::max(kLeastHeight, paper.printableHeight * enlargement_)),
-          footerHeight_(metrics.height(footer.font)),
+          footer_(fitted(footer, width_, metrics)), footerHeight_(metrics.height(footer_.font)),
           room_(height_ - std::min(2.5 * footerHeight_, kFooterShare * height_)) {
         platform::putOnSheet(drawing, metrics, page_);
         for (const platform::Operation& operation : page_.operations)
             measure(operation);
         std::sort(byTop_.begin(), byTop_.end(),
-                  [](const Extent& a, const Extent& b) { return a.top > b.top; });
+                  [](const Extent& a, const Extent& b) { return a.innerTop() > b.innerTop(); });
     }
 
     std::vector<platform::Sheet> sheets() {
         std::vector<platform::Sheet> sheets;
-        // The first sheet begins where the page does, the others with what comes next.
-        for (double start = 0; sheets.empty() || start < lowest_;) {
+        double from = 0;
+        do {
+            const double start = origin(from);
             const double end = start + room_ >= lowest_ ? kEndless : cut(start);
-            sheets.push_back(sheet(start, end));
-            start = nextTop(end);
-        }
+            sheets.push_back(sheet(from, start, end));
+            from = end;
+        } while (from < kEndless);
         addFooter(sheets.back());
         return sheets;
     }
@@ -124,7 +146,7 @@ private:
         if (!extent)
             return;
         byTop_.push_back(*extent);
-        lowest_ = std::max(lowest_, std::min(extent->bottom, kLowest));
+        lowest_ = std::max(lowest_, std::min(extent->innerBottom(), kLowest));
     }
 
     /// Where the sheet that starts at a place of the page ends.
@@ -154,13 +176,13 @@ private:
     double headingAbove(double end) const {
         double top = end;
         for (const Extent& extent : byTop_) { // from the lowest top up
-            if (extent.top >= end || !isText(extent))
+            if (extent.innerTop() >= end || !isText(extent))
                 continue;
-            if (top < end && extent.bottom <= top)
+            if (top < end && extent.innerBottom() <= top)
                 break;
             if (!extent.isBold)
                 return end;
-            top = extent.top;
+            top = extent.innerTop();
         }
         return top;
     }
@@ -168,21 +190,25 @@ private:
     /// The lowest place, from `end` up, that nothing of the kind reaches across.
     double cutAbove(double end, bool (Layout::*isOfKind)(const Extent&) const) const {
         for (const Extent& extent : byTop_) // from the lowest top up
-            if (extent.top < end && extent.bottom > end && (this->*isOfKind)(extent))
-                end = extent.top;
+            if (extent.innerTop() < end && extent.innerBottom() > end && (this->*isOfKind)(extent))
+                end = extent.innerTop();
         return end;
     }
 
-    /// Where the next sheet starts: at the cut, without the gap that may follow.
-    double nextTop(double cut) const {
-        double next = kEndless;
+    /// The place of the page at the top of the sheet that shows what comes from a cut on: without
+    /// the gap that may follow. The first sheet begins where the page does.
+    double origin(double from) const {
+        if (from <= 0)
+            return 0;
+        double origin = kEndless;
         for (const Extent& extent : byTop_)
-            if (extent.bottom > cut)
-                next = std::min(next, std::max(cut, extent.top));
-        return next;
+            if (extent.innerBottom() > from)
+                origin = std::min(origin, extent.innerTop() < from ? from : extent.top);
+        return origin;
     }
 
-    platform::Sheet sheet(double start, double end) const {
+    /// Shows what lies between two cuts.
+    platform::Sheet sheet(double from, double start, double end) const {
         platform::Sheet sheet;
         sheet.width = paper_.width * enlargement_;
         sheet.height = paper_.height * enlargement_;
@@ -191,10 +217,10 @@ private:
         bool isCutThrough = false;
         for (std::size_t i = 0; i < extents_.size(); ++i) {
             const auto& extent = extents_[i];
-            if (!extent || extent->bottom <= start || extent->top >= end)
+            if (!extent || extent->innerBottom() <= from || extent->innerTop() >= end)
                 continue;
             sheet.operations.push_back(moved(page_.operations[i], (width_ - kColumn) / 2, -start));
-            isCutThrough = isCutThrough || extent->bottom > end;
+            isCutThrough = isCutThrough || extent->innerBottom() > end;
         }
         // What goes on on the next sheet does not run through the foot of this one.
         if (isCutThrough)
@@ -211,12 +237,12 @@ private:
             footer_.text, footer_.font, 0xff000000, width});
     }
 
-    const Footer& footer_;
     const platform::Paper& paper_;
     const platform::TextMetrics& metrics_;
     double enlargement_;
     double width_;  ///< of the printable part, as laid out
     double height_; ///< of the printable part, as laid out
+    Footer footer_;
     double footerHeight_;
     double room_; ///< height above the footer
     platform::Sheet page_{};

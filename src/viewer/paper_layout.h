@@ -21,7 +21,8 @@ struct Footer {
 /// A page longer than a sheet goes on on further ones, at full size: reduced to one sheet, it would
 /// be hard to read. It is cut where neither a line of text nor a picture, a row of a table or a
 /// sign would be; what is taller than a sheet by itself shows in part on each. The footer stands on
-/// the last sheet. Room for it is kept on every sheet.
+/// the last sheet, in smaller letters when it is wider than the paper. Room for it is kept on every
+/// sheet.
 std::vector<platform::Sheet> layOnPaper(const platform::Recording& drawing, const Footer& footer,
                                         const platform::Paper& paper,
                                         const platform::TextMetrics& metrics);
