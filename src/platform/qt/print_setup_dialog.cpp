@@ -132,7 +132,8 @@ QLayout* PrintSetupDialog::fileRow(const QString& file) {
     auto* row = newRow();
     file_->setObjectName(QStringLiteral("file"));
     file_->setText(QDir::toNativeSeparators(file));
-    file_->setFixedSize(kFileWidth, kFieldHeight);
+    file_->setMinimumWidth(kFileWidth);
+    file_->setFixedHeight(kFieldHeight);
     row->addWidget(file_);
     auto* browsing = new look::Button(QStringLiteral("Par&courir…"), {}, this);
     browsing->setFixedSize(kButtonWidth, kFieldHeight);
@@ -159,10 +160,10 @@ QLayout* PrintSetupDialog::marginRow(const QMarginsF& margins) {
     const struct {
         QString caption;
         double millimetres;
-    } edges[] = {{QStringLiteral("&gauche"), margins.left()},
-                 {QStringLiteral("&haut"), margins.top()},
-                 {QStringLiteral("&droite"), margins.right()},
-                 {QStringLiteral("&bas"), margins.bottom()}};
+    } edges[] = {{QStringLiteral("gauche"), margins.left()},
+                 {QStringLiteral("haut"), margins.top()},
+                 {QStringLiteral("droite"), margins.right()},
+                 {QStringLiteral("bas"), margins.bottom()}};
     for (std::size_t i = 0; i < margins_.size(); ++i) {
         auto* label = new QLabel(edges[i].caption, this);
         margins_[i] = new QSpinBox(this);
