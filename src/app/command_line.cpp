@@ -14,6 +14,7 @@ Options :
   --course DOSSIER   ouvre le cours installé dans DOSSIER
   --drive L=DOSSIER  donne la lettre de lecteur L à DOSSIER (plusieurs fois si besoin)
   --scale F          agrandit tout F fois (de 1 à 4), ou « auto » selon l’écran
+  --author           permet de retoucher les questions des tests
   --help             affiche cette aide
   --version          affiche la version
 )";
@@ -91,6 +92,8 @@ CommandLine readCommandLine(const QStringList& arguments) {
             line.message = QString::fromUtf16(kHelp);
         } else if (option == u"--version") {
             line.message = QStringLiteral("Orvalente " ORVALENTE_VERSION "\n");
+        } else if (option == u"--author") {
+            line.author = true;
         } else if (option != u"--course" && option != u"--drive" && option != u"--scale") {
             refuse(line, QStringLiteral("option inconnue « %1 »").arg(option));
         } else if (const auto value = rest.takeValue(); value && !value->isEmpty()) {

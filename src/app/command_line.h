@@ -15,6 +15,7 @@ struct CommandLine {
     std::map<QChar, QString> drives; ///< --drive L=DIR, any number of times
     double scale = 1;                ///< --scale F; without meaning with scaleAuto
     bool scaleAuto = false;          ///< --scale auto
+    bool author = false;             ///< --author: shows what only authors use
 
     /// Something to print instead of starting: the help, the version, or what is wrong.
     std::optional<QString> message;

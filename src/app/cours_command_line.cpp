@@ -32,6 +32,8 @@ struct Typed {
     std::string source;
     RenderWords render;
     std::optional<std::string> expression;
+    std::optional<std::string> solution;
+    std::optional<std::string> answer;
     bool radians = false;
     bool scientific = false;
     bool steps = false;
@@ -104,6 +106,10 @@ public:
         pageAndQuestion(render_, words.page, words.question);
         render_->add_flag("--all", words.all, "Toutes les pages, puis toutes les questions");
         render_
+            ->add_option("--source", words.source,
+                         "Le texte d’une page, ses fins de ligne telles quelles")
+            ->type_name("FICHIER");
+        render_
             ->add_option("-o,--output", words.output,
                          "Fichier à écrire ; avec --all un dossier, ou un PDF pour le tout")
             ->type_name("SORTIE");
@@ -114,6 +120,15 @@ public:
         render_->add_option("--scale", words.scale, "Agrandissement, de 0.1 à 16 (png et svg)")
             ->type_name("F");
         drives(render_);
+
+        answer_ = add("answer", "Dit si une réponse tapée est juste");
+        answer_->add_option("SOLUTION", typed_.solution, "Le mot ou les mots attendus")
+            ->type_name("");
+        answer_->add_option("TEXTE", typed_.answer, "Ce que l’élève a tapé")->type_name("");
+        answer_->add_flag("--batch", typed_.batch,
+                          "Une solution, une tabulation et un texte par ligne de l’entrée");
+        answer_->footer("Écrit juste ou faux. Code de sortie : 0 juste, 1 faux, 2 mauvais appel ;\n"
+                        "avec --batch 1 s’il y a une ligne sans tabulation, sinon 0.");
 
         symbols_ = add("symbols", "La liste d’images : clés, images, et d’où elles viennent");
         positional(symbols_, "DOSSIER", typed_.from,
@@ -210,6 +225,8 @@ private:
             return renderCall();
         if (calc_->parsed())
             return calcCall();
+        if (answer_->parsed())
+            return answerCall();
         if (symbols_->parsed())
             return symbolsCall();
         return WrongCall{"il manque une sous-commande"};
@@ -271,7 +288,10 @@ private:
     }
 
     CoursCall renderCall() const {
-        if (const auto wrong = notADirectory(typed_.render.course, "le dossier d’installation"))
+        const bool bare = !typed_.render.source.empty();
+        if (const auto wrong =
+                bare ? notAFile(typed_.render.source, "le texte de la page")
+                     : notADirectory(typed_.render.course, "le dossier d’installation"))
             return *wrong;
         auto read = readRenderWords(typed_.render);
         if (const auto* sentence = std::get_if<std::string>(&read))
@@ -301,6 +321,13 @@ private:
                         typed_.radians ? AngleMode::Radians : AngleMode::Degrees,
                         typed_.scientific ? Format::Scientific : Format::Standard, typed_.batch,
                         typed_.steps};
+    }
+
+    CoursCall answerCall() const {
+        if (typed_.batch ? typed_.solution || typed_.answer : !typed_.solution || !typed_.answer)
+            return WrongCall{"il faut SOLUTION et TEXTE, ou « --batch » seul"};
+        return AnswerCall{typed_.solution.value_or(std::string()),
+                          typed_.answer.value_or(std::string()), typed_.batch};
     }
 
     CoursCall symbolsCall() const {
@@ -354,6 +381,7 @@ private:
     CLI::App* trace_ = nullptr;
     CLI::App* render_ = nullptr;
     CLI::App* calc_ = nullptr;
+    CLI::App* answer_ = nullptr;
     CLI::App* symbols_ = nullptr;
 };
 

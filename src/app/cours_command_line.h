@@ -3,6 +3,7 @@
 #include "calculator/calc_command.h"
 #include "coursetool/drawing_request.h"
 #include "coursetool/exit_code.h"
+#include "exercises/answer_command.h"
 
 #include <filesystem>
 #include <string>
@@ -27,6 +28,7 @@ struct DumpCall {
 using TraceCall = coursetool::TraceRequest;
 using RenderCall = coursetool::RenderRequest;
 using CalcCall = calculator::CalcOptions;
+using AnswerCall = exercises::AnswerOptions;
 struct SymbolsCall {
     std::filesystem::path course; ///< empty: the symbols of the program alone
 };
@@ -41,7 +43,7 @@ struct WrongCall {
 };
 
 using CoursCall = std::variant<BuildCall, ExtractCall, DumpCall, TraceCall, RenderCall, SymbolsCall,
-                               CalcCall, ShowText, WrongCall>;
+                               CalcCall, AnswerCall, ShowText, WrongCall>;
 
 /// Reads the command line. Directories and files that must be there are; an output directory of
 /// `extract` is empty or not there yet.

@@ -43,6 +43,8 @@ extern "C" Q_DECL_EXPORT void orvalenteRender(int& argc, char** argv,
                                               const coursetool::RenderRequest& request,
                                               coursetool::Report& report) {
     const Ground ground(argc, argv);
-    coursetool::ToolPictures pictures(request.course, request.drives, report);
+    coursetool::ToolPictures pictures(request.source.empty() ? request.course
+                                                             : request.source.parent_path(),
+                                      request.drives, report);
     coursetool::render(request, ground.fonts, pictures, platform::look::fieldPictures(), report);
 }

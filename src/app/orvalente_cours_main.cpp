@@ -60,6 +60,15 @@ struct Perform {
         coursetool::listSymbols(call.course, out, report);
         return verdict();
     }
+    int operator()(const app::AnswerCall& call) {
+        std::ios::sync_with_stdio(false);
+        std::cin.tie(nullptr);
+        const int status = exercises::runAnswer(call, std::cin, std::cout, std::cerr);
+        if (std::cout.flush())
+            return status;
+        report.fault({"sortie standard"}, "tout n’a pas pu être écrit");
+        return verdict();
+    }
     int operator()(const app::ShowText& show) {
         print(stdout, show.text);
         return status(ExitCode::Fine);

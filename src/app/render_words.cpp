@@ -36,8 +36,10 @@ std::optional<RenderFormat> formatOf(const std::filesystem::path& output) {
 
 /// Empty when all is well, here and below.
 std::string readWhat(const RenderWords& words, RenderRequest& request) {
-    if (!words.page.empty() + !words.question.empty() + words.all != 1)
-        return "il faut un de « --page N », « --question REF » et « --all »";
+    if (!words.page.empty() + !words.question.empty() + !words.source.empty() + words.all != 1)
+        return "il faut un de « --page N », « --question REF », « --all » et « --source FICHIER »";
+    if (!words.source.empty() && !words.course.empty())
+        return "« --source » va sans dossier";
     request.page = wholeNumber(words.page);
     request.question = wholeNumber(words.question);
     if (!words.page.empty() && !request.page)
@@ -82,6 +84,7 @@ std::string readScale(const RenderWords& words, RenderRequest& request) {
 std::variant<RenderRequest, std::string> readRenderWords(const RenderWords& words) {
     RenderRequest request;
     request.course = coursetool::pathFrom(words.course);
+    request.source = coursetool::pathFrom(words.source);
     request.output = coursetool::pathFrom(words.output);
     std::string wrong = readWhat(words, request);
     if (wrong.empty() && words.output.empty())

@@ -10,6 +10,7 @@ namespace app {
 /// The values of `render`'s options as they were typed; empty where an option was left out.
 struct RenderWords {
     std::string course;
+    std::string source;
     std::string output;
     std::string page;
     std::string question;

@@ -4,6 +4,7 @@
 #include "app/missing_parts.h"
 #include "app/prompted_display_warning.h"
 #include "calculator/machine_opener.h"
+#include "exercises/exo_opener.h"
 #include "markup/renderer.h"
 #include "platform/qt/escape_watch.h"
 #include "platform/qt/font_book.h"
@@ -68,9 +69,13 @@ private:
 };
 
 /// The calculator; its memory lives as long as the program.
-class Calculator : public viewer::ModalWindow {
+class Calculator : public viewer::ModalWindow, public exercises::CalculatorBeside {
 public:
     void open() override { opener_.open(); }
+    void openAfresh(const std::function<QPoint(QSize)>& placeFor) override {
+        opener_.openAfresh(placeFor);
+    }
+    void raise() override { opener_.raise(); }
 
 private:
     calculator::Memory memory_;
@@ -94,13 +99,14 @@ struct ShellApplication::Parts {
         : screen(scale), window(state, fonts, screen),
           launcher(state, prompter, processes, activator, window), modules(launcher), video(window),
           links(window, fonts, drawing.links),
-          exercise(window, QStringLiteral("Cette édition n’a pas encore les tests.")),
           orderForm(window, QStringLiteral("Cette édition n’a pas encore de bon de commande.")),
           search(window, QStringLiteral("Cette édition n’a pas encore la recherche.")),
           help(window, QStringLiteral("Cette édition n’a pas encore d’aide.")),
           installation(window, QStringLiteral("Cette édition ne s’actualise pas encore.")),
           drives(courseDirectory(commandLine), commandLine.drives),
           symbols(courseDirectory(commandLine)),
+          exercise(window, {state, drawing, pictures, fonts, screen, prompter, calculator,
+                            commandLine.author}),
           renderer(drawing, window, pictures, window.recording()),
           pages(state, bound, window, window, renderer, video),
           actions(state, pages, window, modules, exercise, orderForm),
@@ -128,7 +134,7 @@ struct ShellApplication::Parts {
     LaunchedModules modules;
     MissingVideo video;
     viewer::LinkControls links;
-    MissingWindow exercise, orderForm, search, help, installation;
+    MissingWindow orderForm, search, help, installation;
     Calculator calculator;
     Ending ending;
 
@@ -137,6 +143,7 @@ struct ShellApplication::Parts {
     shell::DataLocation location{state, drives, prompter, beeper};
     viewer::ImageList symbols;
     viewer::CoursePictures pictures{location, symbols};
+    exercises::ExoOpener exercise;
     markup::Renderer renderer;
     viewer::PageLoader pages;
     platform::QtPrinter printer{fonts};

@@ -4,7 +4,9 @@
 
 #include <QPoint>
 #include <QPointer>
+#include <QSize>
 
+#include <functional>
 #include <optional>
 
 namespace calculator {
@@ -20,10 +22,19 @@ public:
     /// without one the window system chooses, and a window already open stays where it is.
     void open(std::optional<QPoint> place = std::nullopt);
 
+    /// Opens it anew, a window already open being closed. `placeFor` gives the place of a window of
+    /// a size.
+    void openAfresh(const std::function<QPoint(QSize)>& placeFor);
+
+    /// Puts a window already open in front of all others; the keyboard stays where it is.
+    void raise();
+
     /// The window, null while there is none.
     Machine* window() const { return window_; }
 
 private:
+    void make();
+
     Memory& memory_;
     QPointer<Machine> window_;
 };

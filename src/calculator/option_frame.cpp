@@ -1,5 +1,6 @@
 #include "calculator/option_frame.h"
 
+#include "platform/qt/look/choice_sign.h"
 #include "platform/qt/look/interface_font.h"
 #include "platform/qt/look/palette.h"
 #include "platform/qt/look/pixels.h"
@@ -21,8 +22,6 @@ constexpr int kOptionHeight = 21;
 
 // Within an option; the rest of its area is there to be hit.
 constexpr double kCircleX = 10.5;
-constexpr double kCircleRadius = 6;
-constexpr double kDotRadius = 3.25;
 constexpr double kTextX = 22;
 constexpr double kMiddle = 0.355; ///< of the letters' size, from their middle to their foot
 
@@ -35,19 +34,8 @@ protected:
 
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
         const double middle = kOptionHeight / 2.0;
-        const QColor blue = QColor::fromRgb(isDown() ? look::kDarkBlue : look::kBlue);
-        painter.setPen(QPen(blue, hasFocus() ? 2 : 1.25));
-        painter.setBrush(QColor::fromRgb(isDown()       ? look::kPressedTint
-                                         : underMouse() ? look::kHoverTint
-                                                        : look::kPaper));
-        painter.drawEllipse(QPointF(kCircleX, middle), kCircleRadius, kCircleRadius);
-        if (isChecked()) {
-            painter.setPen(Qt::NoPen);
-            painter.setBrush(blue);
-            painter.drawEllipse(QPointF(kCircleX, middle), kDotRadius, kDotRadius);
-        }
+        look::paintOptionSign(painter, {kCircleX, middle}, *this);
         painter.setPen(QColor::fromRgb(look::kInk));
         painter.setFont(font());
         painter.drawText(

@@ -11,23 +11,6 @@
 
 namespace coursetool {
 
-namespace {
-
-/// Height of the text column as the window scrolls it, in twips: what the page asked for, otherwise
-/// down to what was drawn.
-double columnHeight(OffscreenPage& page, const platform::TextMetrics& metrics) {
-    const double asked = std::ceil(page.pictureTexte().heightPx()) * platform::kTwipsPerPixel;
-    if (asked > 0)
-        return asked;
-    platform::Sheet drawn{};
-    platform::putOnSheet(page.recording(), metrics, drawn);
-    return std::min(
-        platform::drawnHeight(drawn.operations, platform::SurfaceId::PictureTexte, metrics),
-        platform::kMaxSurfaceHeightPx * platform::kTwipsPerPixel);
-}
-
-} // namespace
-
 std::optional<CoursePages> CoursePages::open(const std::filesystem::path& course, Report& report) {
     auto records = openRecords(course, kCourseFile, coursTable(), report);
     if (!records)
@@ -81,8 +64,7 @@ platform::Sheet CoursePages::sheet(int position, const platform::TextMetrics& me
                                    markup::PictureShelf& pictures) {
     OffscreenPage page(metrics, pictures);
     const viewer::BoundRecord bound = draw(position, page);
-    platform::Sheet sheet =
-        viewer::pageSheet(page.recording(), metrics, columnHeight(page, metrics));
+    platform::Sheet sheet = viewer::pageSheet(page.recording(), metrics, page.columnHeight());
     sheet.title = bound.Textitre.simplified();
     sheet.number = number(position).value_or(0);
     return sheet;

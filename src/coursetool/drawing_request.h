@@ -30,9 +30,10 @@ inline constexpr double kMinScale = 0.1;
 inline constexpr double kMaxScale = 16;
 
 /// What is to be drawn into files: a page or a question of a course, or all of both when neither is
-/// named.
+/// named; or a bare page source when `source` is not empty.
 struct RenderRequest {
     std::filesystem::path course;
+    std::filesystem::path source;
     std::optional<int> page;
     std::optional<int> question;
     std::filesystem::path output; ///< a directory for all pages, unless they go into one PDF
@@ -40,7 +41,7 @@ struct RenderRequest {
     double scale = 1; ///< pixels of the picture to one of the screen
     Drives drives;
 
-    bool all() const { return !page && !question; }
+    bool all() const { return !page && !question && source.empty(); }
 };
 
 // What draws is a module of its own, which brings Qt along; it is loaded when it is needed, so that

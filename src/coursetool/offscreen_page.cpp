@@ -1,10 +1,21 @@
 #include "coursetool/offscreen_page.h"
 
 #include "platform/twips.h"
+#include "viewer/page_sheet.h"
 #include "viewer/page_title.h"
 #include "viewer/surface_widths.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace coursetool {
+
+namespace {
+
+/// Around the column of a bare source.
+constexpr double kBareMarginPx = 8;
+
+} // namespace
 
 using platform::kTwipsPerPixel;
 using platform::SurfaceId;
@@ -23,6 +34,34 @@ OffscreenPage::OffscreenPage(const platform::TextMetrics& metrics, markup::Pictu
 void OffscreenPage::draw(const QString& source) {
     code_.setText(source);
     renderer_.affichepage();
+}
+
+double OffscreenPage::columnHeight() const {
+    const double asked = std::ceil(pictureTexte_.heightPx()) * kTwipsPerPixel;
+    return asked > 0 ? asked : drawnHeight(SurfaceId::PictureTexte);
+}
+
+double OffscreenPage::drawnHeight(SurfaceId surface) const {
+    platform::Sheet drawn{};
+    platform::putOnSheet(recording_, metrics_, drawn);
+    return std::min(platform::drawnHeight(drawn.operations, surface, metrics_),
+                    platform::kMaxSurfaceHeightPx * kTwipsPerPixel);
+}
+
+platform::Sheet OffscreenPage::bareSheet() const {
+    const double height =
+        std::ceil(std::max(columnHeight(), drawnHeight(SurfaceId::PictureTexte)) / kTwipsPerPixel) *
+        kTwipsPerPixel;
+    if (drawnHeight(SurfaceId::Titre) > 0 || drawnHeight(SurfaceId::PictureIllus) > 0)
+        return viewer::pageSheet(recording_, metrics_, height);
+    constexpr double kMargin = kBareMarginPx * kTwipsPerPixel;
+    platform::Sheet sheet{};
+    platform::putOnSheet(recording_, metrics_, sheet);
+    sheet.width = pictureTexte_.scaleWidth() + 2 * kMargin;
+    sheet.height = height + 2 * kMargin;
+    sheet.surfaces = {
+        {SurfaceId::PictureTexte, kMargin, kMargin, pictureTexte_.scaleWidth(), height}};
+    return sheet;
 }
 
 void OffscreenPage::setTitle(const QString& title) {

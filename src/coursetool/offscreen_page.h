@@ -5,6 +5,7 @@
 #include "markup/windows.h"
 #include "platform/recording.h"
 #include "platform/rich_text_holder.h"
+#include "platform/sheet.h"
 #include "platform/surface.h"
 #include "platform/text_metrics.h"
 #include "viewer/neighbours.h"
@@ -27,6 +28,13 @@ public:
 
     /// Draws a bare page source.
     void draw(const QString& source);
+
+    /// Height of the text column as the window scrolls it, in twips: what the page asked for,
+    /// otherwise down to what was drawn.
+    double columnHeight() const;
+    /// The column alone, with a margin and down to what was drawn; the whole page when it drew on
+    /// its title or its illustration.
+    platform::Sheet bareSheet() const;
 
     platform::Surface& pictureTexte() override { return pictureTexte_; }
     platform::Surface& pictureIllus() override { return pictureIllus_; }
@@ -58,6 +66,8 @@ public:
     void press(int) override {}
 
 private:
+    double drawnHeight(platform::SurfaceId surface) const;
+
     const platform::TextMetrics& metrics_;
     platform::Recording recording_;
     platform::Surface pictureTexte_;

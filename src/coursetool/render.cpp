@@ -2,6 +2,9 @@
 
 #include "coursetool/course_pages.h"
 #include "coursetool/course_questions.h"
+#include "coursetool/offscreen_page.h"
+#include "coursetool/offscreen_question.h"
+#include "coursetool/page_source.h"
 #include "coursetool/sheet_files.h"
 
 #include <QHash>
@@ -9,6 +12,8 @@
 namespace coursetool {
 
 namespace {
+
+constexpr char kQuestionEnding[] = ".question";
 
 /// Names for the files of numbered things, each given once.
 class FileNames {
@@ -77,6 +82,20 @@ public:
         files->finish();
     }
 
+    void renderSource() {
+        const auto source = readPageSource(request_.source, report_);
+        if (!source)
+            return;
+        if (request_.source.extension() == kQuestionEnding) {
+            OffscreenQuestion question(fonts_, pictures_);
+            question.draw(*source);
+            return writeOne(question.sheet(fields_));
+        }
+        OffscreenPage page(fonts_, pictures_);
+        page.draw(*source);
+        writeOne(page.bareSheet());
+    }
+
 private:
     /// Refers to both, which outlive the files.
     static SheetSet asOne(const CoursePages& pages, const QStringList& names) {
@@ -123,7 +142,9 @@ private:
 void render(const RenderRequest& request, const platform::FontBook& fonts,
             markup::PictureShelf& pictures, const platform::FieldPictures& fields, Report& report) {
     Renderer renderer(request, fonts, pictures, fields, report);
-    if (request.page)
+    if (!request.source.empty())
+        renderer.renderSource();
+    else if (request.page)
         renderer.renderPage(*request.page);
     else if (request.question)
         renderer.renderQuestion(*request.question);

@@ -16,6 +16,10 @@ namespace coursetool {
 /// number, and "page-sans-numero" without one. Links lead to the file, or the place in the PDF,
 /// that the shell would go to.
 ///
+/// A bare source, whose lines end in CR LF, becomes a picture of its column alone, down to what was
+/// drawn; of the whole page when it drew beside it. A file that ends in ".question" is drawn as a
+/// question. Pictures are those that lie beside the file.
+///
 /// Faults: no course, no page or question of that number, a file that cannot be written.
 void render(const RenderRequest& request, const platform::FontBook& fonts,
             markup::PictureShelf& pictures, const platform::FieldPictures& fields, Report& report);

@@ -4,10 +4,9 @@
 #include "coursetool/course_questions.h"
 #include "coursetool/offscreen_page.h"
 #include "coursetool/offscreen_question.h"
+#include "coursetool/page_source.h"
 #include "coursetool/paths.h"
-#include "coursetool/source_text.h"
 #include "coursetool/trace_lines.h"
-#include "jet/unicode.h"
 
 namespace coursetool {
 
@@ -47,13 +46,11 @@ public:
     }
 
     void traceSource() {
-        const auto bytes = readBytes(request_.source, report_);
-        if (!bytes)
+        const auto source = readPageSource(request_.source, report_);
+        if (!source)
             return;
-        checkUtf8(*bytes, shown(request_.source), report_);
-        const std::u16string source = jet::toUtf16(*bytes);
         OffscreenPage page(metrics_, pictures_);
-        page.draw(QString::fromUtf16(source.data(), static_cast<qsizetype>(source.size())));
+        page.draw(*source);
         write(page.recording(), page.state());
     }
 

@@ -1,7 +1,6 @@
 #include "exercises/exercise_tables.h"
 
 #include "platform/file_names.h"
-#include "platform/jet_recordset.h"
 #include "text/rounding.h"
 
 namespace exercises {
@@ -22,8 +21,8 @@ bool equals(const platform::FieldValue& value, std::int32_t number) {
 }
 
 std::unique_ptr<platform::Recordset> open(const QString& path, const QString& table,
-                                          QStringList& failures) {
-    auto opened = platform::openRecordset(path, table);
+                                          platform::Access access, QStringList& failures) {
+    auto opened = platform::openRecordset(path, table, access);
     if (opened)
         return std::move(*opened);
     failures += QString::fromStdString(opened.error().sentence);
@@ -32,15 +31,15 @@ std::unique_ptr<platform::Recordset> open(const QString& path, const QString& ta
 
 } // namespace
 
-ExerciseTables openExerciseTables(const QString& installDirectory) {
+ExerciseTables openExerciseTables(const QString& installDirectory, platform::Access access) {
     ExerciseTables tables;
     const auto path = platform::findWithoutCase(installDirectory, kExerciseDatabaseName);
     if (!path) {
         tables.failures += kExerciseDatabaseName + QStringLiteral(": not in the course directory");
         return tables;
     }
-    tables.description = open(*path, QStringLiteral("DESCRIPTION"), tables.failures);
-    tables.contenu = open(*path, QStringLiteral("Contenu"), tables.failures);
+    tables.description = open(*path, QStringLiteral("DESCRIPTION"), access, tables.failures);
+    tables.contenu = open(*path, QStringLiteral("Contenu"), access, tables.failures);
     return tables;
 }
 
@@ -92,6 +91,12 @@ std::optional<QString> QuestionRecord::solution() const {
 
 QString QuestionRecord::question() const {
     return platform::shownText(field(QStringLiteral("question")));
+}
+
+std::optional<QString> QuestionRecord::setQuestion(const QString& source) {
+    if (!contenu_)
+        return QStringLiteral("il n’y a pas de base d’exercices");
+    return contenu_->setField(QStringLiteral("question"), source);
 }
 
 QString QuestionRecord::siFaux() const {

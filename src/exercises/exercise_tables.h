@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/jet_recordset.h"
 #include "platform/recordset.h"
 
 #include <QString>
@@ -21,8 +22,10 @@ struct ExerciseTables {
     QStringList failures; ///< what could not be opened, and why; a sentence each, not for pupils
 };
 
-/// Opens both tables of the course in `installDirectory`.
-ExerciseTables openExerciseTables(const QString& installDirectory);
+/// Opens both tables of the course in `installDirectory`. Opened Writable, `contenu` takes the
+/// changes of authors.
+ExerciseTables openExerciseTables(const QString& installDirectory,
+                                  platform::Access access = platform::Access::ReadOnly);
 
 /// What "DESCRIPTION" says of a chapter; absent what it does not say.
 struct TestDescription {
@@ -50,7 +53,11 @@ public:
     int type() const; ///< 1 check boxes, 2 option buttons, 3 typed answer; 0 when there is none
     std::optional<QString> solution() const; ///< absent for NULL
     QString question() const;                ///< page source; empty for NULL
-    QString siFaux() const;                  ///< page source of the comment; empty for NULL
+    /// Gives the field "question" another text in the database. Nothing when that is done;
+    /// otherwise why not, in French and without a final full stop, and the stored record is as it
+    /// was.
+    std::optional<QString> setQuestion(const QString& source);
+    QString siFaux() const; ///< page source of the comment; empty for NULL
 
 private:
     std::optional<platform::FieldValue> field(const QString& name) const;

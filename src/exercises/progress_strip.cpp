@@ -37,6 +37,13 @@ QString bandCaption(int question) {
     return QStringLiteral("Question %1").arg(question);
 }
 
+QString bandName(int question, int state) {
+    const QString verdict = state == 1    ? QStringLiteral("juste")
+                            : state == -1 ? QStringLiteral("fausse")
+                                          : QStringLiteral("sans réponse");
+    return bandCaption(question) + QStringLiteral(", ") + verdict;
+}
+
 std::optional<Band> bandOf(int question, int count, double height) {
     if (count <= 0)
         return std::nullopt;

@@ -29,6 +29,9 @@ BandInks bandInks(int state);
 /// "Question 7".
 QString bandCaption(int question);
 
+/// What a screen reader says of a band: "Question 3, juste".
+QString bandName(int question, int state);
+
 /// Where a band begins and ends; two units are left free up to the next one.
 struct Band {
     int top;

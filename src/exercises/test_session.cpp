@@ -50,8 +50,17 @@ void TestSession::tritexte() {
     view_.setNextVisible(question != count);
     view_.setCaption(QStringLiteral("Question") + spacedNumber(question) + QStringLiteral(" /") +
                      spacedNumber(count) + QStringLiteral(" :"));
-    record_.moveTo(questionReference(shared_.PendingExerciseChapter, question));
+    findRecord();
     majquest();
+}
+
+void TestSession::findRecord() {
+    record_.moveTo(questionReference(shared_.PendingExerciseChapter, test_.CurrentQuestion));
+}
+
+void TestSession::reopen(platform::Recordset* contenu) {
+    record_ = QuestionRecord(contenu);
+    findRecord();
 }
 
 void TestSession::majquest() {

@@ -30,6 +30,11 @@ public:
     /// be opened; they must outlive the session. A chapter without a test leaves title and count as
     /// they were.
     void load(const platform::Recordset* description, platform::Recordset* contenu);
+    /// Goes on over another recordset of "Contenu", opened anew; null for one that could not be
+    /// opened. The test stays where it is.
+    void reopen(platform::Recordset* contenu);
+    /// The record of the question shown.
+    QuestionRecord& record() { return record_; }
     /// The window has come up: shows the current question. Once a showing: drawing it again would
     /// take away what has been ticked or typed.
     void activate();
@@ -64,6 +69,7 @@ public:
     void leaveFor(const QString& tag);
 
 private:
+    void findRecord();
     bool verdict();
     bool choiceVerdict(ChoiceArray array);
     void showRight();

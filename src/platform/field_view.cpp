@@ -10,8 +10,8 @@ namespace platform {
 
 namespace {
 
-/// The box for a typed answer: a little more than a line of text at 16 pixels.
-constexpr double kTextBoxHeight = 22 * kTwipsPerPixel;
+/// The box for a typed answer, as tall as in the test's window.
+constexpr double kTextBoxHeight = 24 * kTwipsPerPixel;
 constexpr QRgb kTextBoxEdge = 0xff8c8472;
 constexpr QRgb kTextBoxGround = 0xffffffff;
 

@@ -236,4 +236,67 @@ TEST_F(LinkedPages, LinksAreFollowedByMouseAndKeyboard) {
     EXPECT_TRUE(eventually(isSecond));
 }
 
+/// A course whose first page leads to a test of two questions, the first with a link to page 2 in
+/// its comment.
+class TestedPages : public EndToEnd {
+protected:
+    QString sources() override {
+        const QString directory = directory_.filePath("sources");
+        QDir().mkpath(directory + "/pages");
+        QDir().mkpath(directory + "/exercises/ohm");
+        const auto write = [&](const QByteArray& name, const QByteArray& text) {
+            test_support::writeFile(directory + u'/' + QString::fromLatin1(name), text);
+        };
+        write("pages/1.page", "+++\nNumeropage = 1\nIndex = 1\n+++\n##SI12\n##PIY020\n"
+                              "##LIERTun mot#EXO003\n##PIY040\n");
+        write("pages/2.page", "+++\nNumeropage = 2\nIndex = 2\n+++\n##TITBARDeux\n##SI12\nDeux¶\n");
+        write("exercises/ohm/chapter.toml", "Chapitre = 3\nTitre = \"Ohm\"\nNbquest = 2\n");
+        for (const QByteArray number : {"301", "302"})
+            write("exercises/ohm/" + number + ".question",
+                  "+++\nREFERENCE = " + number +
+                      "\ntype = 3\nsolution = \"ohm\"\n+++\n##SI12\n##EXOTX\n¶\n"
+                      "+++\n##PIY020\n##EXOLIRevoir#2\n¶\n");
+        return directory;
+    }
+
+    bool testIsActive() const { return activeTitle() == "Exercices"; }
+};
+
+TEST_F(TestedPages, ATestIsLeftForAPageTakenUpAndGivenUp) {
+    start();
+    ASSERT_TRUE(eventually([&] { return place().size() == QSize(800, 600); }));
+    click(190, 150); // the link
+    ASSERT_TRUE(eventually([&] { return testIsActive(); }));
+    EXPECT_TRUE(eventually([&] { return place("Exercices") == place(); }));
+    run("xdotool", {"type", "1.5"});
+
+    // The calculator is usable beside the test, which has kept what was typed.
+    click(688, 100, "Exercices");
+    ASSERT_TRUE(eventually([&] { return activeTitle() == "Calculatrice"; }));
+    run("xdotool", {"type", "2*30"});
+    press("Return");
+    EXPECT_TRUE(eventually([&] {
+        click(25, 34, "Calculatrice", 2);
+        return run(SELECTED_TEXT, {}) == "60";
+    }));
+    click(400, 90, "Exercices");
+    ASSERT_TRUE(eventually([&] { return testIsActive(); }));
+    press("ctrl+a");
+    EXPECT_TRUE(eventually([&] { return run(SELECTED_TEXT, {}) == "1,5"; }));
+
+    press("Return"); // wrong
+    EXPECT_TRUE(eventually([&] {
+        click(230, 195, "Exercices"); // the link of the comment
+        return title().endsWith("Deux");
+    }));
+    EXPECT_TRUE(windows("Exercices").isEmpty());
+    click(80, 504); // btexo
+    ASSERT_TRUE(eventually([&] { return testIsActive(); }));
+    press("Escape");
+    ASSERT_TRUE(eventually([&] { return activeTitle() == "Fermer"; }));
+    press("alt+o");
+    EXPECT_TRUE(eventually([&] { return activeTitle().endsWith("Deux"); }));
+    EXPECT_EQ(shell_.state(), QProcess::Running);
+}
+
 } // namespace

@@ -56,6 +56,12 @@ TEST_F(Program, buildsDumpsTracesAndExtracts) {
     EXPECT_EQ(traced.err, "");
     EXPECT_THAT(traced.out, HasSubstr("\"surface\":\"titre\""));
     EXPECT_THAT(traced.out, HasSubstr("\n{\"op\":\"end\","));
+    const Outcome rendered = run("render out --page 1 -o 1.png --scale 1.5");
+    EXPECT_EQ(rendered.code, 0) << rendered.err;
+    EXPECT_EQ(rendered.out + rendered.err, "");
+    EXPECT_THAT(work.read("1.png"), StartsWith("\x89PNG"));
+    EXPECT_EQ(run("render out --all -o all.PDF").code, 0);
+    EXPECT_THAT(work.read("all.PDF"), StartsWith("%PDF"));
     EXPECT_EQ(run("extract out -o back").code, 0);
     EXPECT_THAT(work.files("back"), testing::ElementsAre("files/a.txt", "pages/1-1.page"));
 }
@@ -71,6 +77,7 @@ TEST_F(Program, endsWithOneForFaultsAndNamesThem) {
     EXPECT_EQ(run("dump bad.mdb").code, 1);
     EXPECT_EQ(run("extract src -o back").code, 1);
     EXPECT_EQ(run("trace src --page 1").code, 1);
+    EXPECT_EQ(run("render src --page 1 -o 1.png").code, 1);
     work.write("latin1.txt", "\xE9\r\n");
     EXPECT_EQ(run("trace --source latin1.txt").code, 1);
 }

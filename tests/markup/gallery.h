@@ -8,14 +8,16 @@
 
 namespace test_support {
 
-/// The short sources that the authors' manual shows, by name, with "\n" line ends.
+/// The short sources that the authors' manual shows, by file name, with "\n" line ends; those of
+/// questions end in ".question".
 inline std::map<QString, QString> gallery() {
     std::map<QString, QString> sources;
     const QDir directory(QStringLiteral(GALLERY));
-    for (const QString& name : directory.entryList({QStringLiteral("*.src")})) {
+    for (const QString& name :
+         directory.entryList({QStringLiteral("*.src"), QStringLiteral("*.question")})) {
         QFile file(directory.filePath(name));
         if (file.open(QFile::ReadOnly))
-            sources[name.chopped(4)] = QString::fromUtf8(file.readAll());
+            sources[name] = QString::fromUtf8(file.readAll());
     }
     return sources;
 }

@@ -15,13 +15,25 @@ bool uses(const QString& source, QStringView keyword) {
     return (u'\n' + source).contains(QStringLiteral("\n##") + keyword.toString());
 }
 
+TEST(Gallery, isInTheManualWithItsPictures) {
+    QFile file(QStringLiteral(GALLERY "/../langage.md"));
+    ASSERT_TRUE(file.open(QFile::ReadOnly));
+    const QString manual = QString::fromUtf8(file.readAll());
+    for (const auto& [name, source] : test_support::gallery()) {
+        EXPECT_TRUE(manual.contains(u"```\n"_qs + source + u"```\n"_qs)) << name.toStdString();
+        const QString picture = u"gallery/"_qs + name.section(u'.', 0, 0) + u".png"_qs;
+        EXPECT_TRUE(manual.contains(picture)) << name.toStdString();
+        EXPECT_TRUE(QFile::exists(QStringLiteral(GALLERY "/../") + picture)) << name.toStdString();
+    }
+}
+
 TEST(Gallery, showsEveryDirectiveAndDrawsWithoutAFault) {
     const auto sources = test_support::gallery();
     ASSERT_GE(sources.size(), 30u);
     for (const auto& [name, source] : sources) {
         PageBench bench;
         bench.pictures.anyName = true;
-        bench.isQuestion = name.startsWith(u"EXO");
+        bench.isQuestion = name.endsWith(u".question");
         const QStringList drawn = bench.draw(source);
         EXPECT_FALSE(drawn.isEmpty()) << name.toStdString();
         EXPECT_TRUE(drawn.filter(QStringLiteral("failed")).isEmpty())

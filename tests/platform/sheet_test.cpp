@@ -52,14 +52,14 @@ TEST_F(SheetTest, showsAnswerControlsOnTopWhereTheyWerePlacedLast) {
                             QStringLiteral("symbol 15,30 195,195 Option1"),
                             QStringLiteral("symbol 15,60 195,195 Option1"),
                             QStringLiteral("print 300,90 \"la loi\" Arial 10"),
-                            QStringLiteral("fill 600,900 360,330 #ffffff"),
+                            QStringLiteral("fill 600,900 360,360 #ffffff"),
                             QStringLiteral("line 600,900 945,900 #8c8472"),
-                            QStringLiteral("line 600,1215 945,1215 #8c8472"),
-                            QStringLiteral("line 600,900 600,1215 #8c8472"),
-                            QStringLiteral("line 945,900 945,1215 #8c8472")));
+                            QStringLiteral("line 600,1245 945,1245 #8c8472"),
+                            QStringLiteral("line 600,900 600,1245 #8c8472"),
+                            QStringLiteral("line 945,900 945,1245 #8c8472")));
     ASSERT_EQ(plain.links.size(), 1u);
     EXPECT_EQ(plain.links[0].tag + plain.links[0].caption, QStringLiteral("12la loi"));
-    EXPECT_EQ(platform::drawnHeight(plain.operations, SurfaceId::PictureTexte, fonts), 1230);
+    EXPECT_EQ(platform::drawnHeight(plain.operations, SurfaceId::PictureTexte, fonts), 1260);
 }
 
 TEST_F(SheetTest, theRasterIsThatOfTheScreenCutAtTheSurfacesEdge) {

@@ -162,9 +162,7 @@ public:
         cairo_translate(cairo_, x, y);
         cairo_scale(cairo_, width / cairo_image_surface_get_width(source),
                     height / cairo_image_surface_get_height(source));
-        // Painted as it stands: with a way to extend it, cairo would store it anew on every page.
-        cairo_set_source_surface(cairo_, source, 0, 0);
-        cairo_paint(cairo_);
+        paint(source);
         cairo_restore(cairo_);
     }
 
@@ -172,6 +170,25 @@ public:
     void operator()(const Other&) {}
 
 private:
+    /// Painted as it stands: with a way to extend it, cairo would store it anew on every page. A
+    /// page must not name a picture twice among its resources, as cairo would have it; a group has
+    /// resources of its own.
+    void paint(cairo_surface_t* source) {
+        const bool again = !owner_.painted_.insert(source).second;
+        if (again) {
+            cairo_rectangle(cairo_, 0, 0, cairo_image_surface_get_width(source),
+                            cairo_image_surface_get_height(source));
+            cairo_clip(cairo_);
+            cairo_push_group(cairo_);
+        }
+        cairo_set_source_surface(cairo_, source, 0, 0);
+        cairo_paint(cairo_);
+        if (again) {
+            cairo_pop_group_to_source(cairo_);
+            cairo_paint(cairo_);
+        }
+    }
+
     /// Farther positions, in twips, would leave the range of cairo's coordinates.
     static bool reachable(double x, double y) {
         constexpr double kFar = 1e6 * kTwipsPerPixel;
@@ -267,6 +284,7 @@ SheetPlayer::SheetPlayer(const FontBook& fonts, CairoFaces& faces, CairoPictures
 void SheetPlayer::play(const Sheet& sheet, cairo_t* cairo) {
     const std::vector<Operation>& operations = sheet.operations;
     const std::vector<QRgb> inks = multiplyInks(operations, fonts_);
+    painted_.clear();
     // As on the window, each surface is a picture of its own.
     for (const PlacedSurface& place : sheet.surfaces) {
         Player player(*this, cairo, place);

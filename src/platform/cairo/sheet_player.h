@@ -7,6 +7,8 @@
 
 #include <cairo.h>
 
+#include <set>
+
 namespace platform {
 
 /// Draws sheets on a cairo device that keeps text and vectors. Mask fills are multiplied in their
@@ -25,7 +27,8 @@ private:
     const FontBook& fonts_;
     CairoFaces& faces_;
     CairoPictures& pictures_;
-    bool lowered_ = false; ///< which of two heights text is at, see kLowered
+    std::set<cairo_surface_t*> painted_; ///< pictures that the page shows already
+    bool lowered_ = false;               ///< which of two heights text is at, see kLowered
 };
 
 } // namespace platform

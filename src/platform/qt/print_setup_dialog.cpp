@@ -3,6 +3,7 @@
 #include "platform/qt/look/button.h"
 #include "platform/qt/look/mnemonics.h"
 #include "platform/qt/look/palette.h"
+#include "platform/qt/look/text_field.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -10,7 +11,6 @@
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QRadioButton>
 #include <QSpinBox>
 #include <QStyleFactory>
@@ -71,7 +71,7 @@ PrintSetupDialog::PrintSetupDialog(const PrintSettings& settings, Prompter& prom
                                    QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                           Qt::WindowCloseButtonHint),
-      prompter_(prompter), rows_(new QGridLayout(this)), file_(new QLineEdit(this)),
+      prompter_(prompter), rows_(new QGridLayout(this)), file_(new look::TextField(this)),
       size_(new QComboBox(this)) {
     setWindowTitle(QStringLiteral("Imprimer"));
     dress();

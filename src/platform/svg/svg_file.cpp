@@ -170,11 +170,11 @@ public:
         const QByteArray name = pictures_.name(*picture.picture);
         if (name.isEmpty())
             return;
+        const Place place = onScreen(picture.x, picture.y, picture.width, picture.height);
         out_ += "<use";
         attribute("xlink:href", "#" + name);
-        attribute("transform", "translate(" + pixels(picture.x) + ' ' + pixels(picture.y) +
-                                   ") scale(" + pixels(picture.width) + ' ' +
-                                   pixels(picture.height) + ')');
+        attribute("transform", "translate(" + pixels(place.x) + ' ' + pixels(place.y) + ") scale(" +
+                                   pixels(place.width) + ' ' + pixels(place.height) + ')');
         out_ += "/>\n";
     }
 
@@ -219,19 +219,27 @@ private:
         attribute("height", pixels(height));
     }
 
-    /// Covers the whole pixels that it covers on screen.
+    struct Place {
+        double x, y, width, height;
+    };
+
+    /// The whole pixels that an area covers on screen.
+    static Place onScreen(double x, double y, double width, double height) {
+        const double left = wholePixels(x);
+        const double top = wholePixels(y);
+        return {left, top, wholePixels(std::min(x + width, kFarTwips)) - left,
+                wholePixels(std::min(y + height, kFarTwips)) - top};
+    }
+
     void rectangle(double x, double y, double width, double height,
                    const char* className = nullptr) const {
         if (!near(x, y) || !(width > 0) || !(height > 0))
             return;
-        const double left = wholePixels(x);
-        const double top = wholePixels(y);
-        const double right = wholePixels(std::min(x + width, kFarTwips));
-        const double foot = wholePixels(std::min(y + height, kFarTwips));
-        if (right == left || foot == top)
+        const Place place = onScreen(x, y, width, height);
+        if (place.width == 0 || place.height == 0)
             return;
         out_ += "<rect";
-        box(left, top, right - left, foot - top);
+        box(place.x, place.y, place.width, place.height);
         fillColour();
         if (className)
             attribute("class", className);

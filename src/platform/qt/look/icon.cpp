@@ -51,11 +51,16 @@ void Icon::paint(QPainter& painter, const QRectF& where, Style style, QRgb groun
     painter.restore();
 }
 
+QString Icon::fileOf(const QString& name) {
+    const QString folder = name.contains(u'/') ? QString() : QStringLiteral("icons/");
+    return QStringLiteral(":/look/") + folder + name + QStringLiteral(".svg");
+}
+
 QSvgRenderer& Icon::renderer(Style style, QRgb ground) const {
     auto& held = renderers_.at(static_cast<std::size_t>(style));
     if (held && (style != Style::Faded || ground == fadedGround_))
         return *held;
-    QFile file(QStringLiteral(":/look/icons/%1.svg").arg(name_));
+    QFile file(fileOf(name_));
     QByteArray drawing = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     if (style == Style::White)
         makeWhite(drawing);

@@ -13,8 +13,9 @@ class QSvgRenderer;
 
 namespace platform::look {
 
-/// A line drawing of the folder icons/, in blue with a pale accent. It is read when it is first
-/// painted and painted as curves, so that it is crisp at every density and at every place.
+/// A line drawing of the folder icons/, in blue with a pale accent, or a coloured one of another
+/// folder, named with it ("faces/4"). It is read when it is first painted and painted as curves, so
+/// that it is crisp at every density and at every place.
 class Icon {
 public:
     /// `name` is that of the file, without its ending. A name without a file paints nothing.
@@ -25,6 +26,9 @@ public:
 
     bool isEmpty() const { return name_.isEmpty(); }
     const QString& name() const { return name_; }
+
+    /// The resource that holds a drawing.
+    static QString fileOf(const QString& name);
 
     enum class Style {
         Coloured,

@@ -1,0 +1,96 @@
+#pragma once
+
+#include "exercises/test_view.h"
+#include "markup/answer_fields.h"
+#include "platform/qt/font_book.h"
+#include "platform/recording.h"
+
+#include <QAbstractButton>
+#include <QObject>
+#include <QRect>
+
+#include <array>
+#include <functional>
+#include <vector>
+
+namespace platform::look {
+class TextField;
+}
+
+namespace viewer {
+class PictureBox;
+}
+
+namespace exercises {
+
+class LinkCaption;
+class LinkIcon;
+class QuestionLink;
+
+/// The answer controls and links of a question, on the question area. A question places them by
+/// filling fields(); place() then shows them there.
+class AnswerPanel : public QObject, public AnswerControls {
+public:
+    /// `Picture2` draws into `recording`; all must outlive the panel's use.
+    AnswerPanel(viewer::PictureBox& Picture2, const platform::FontBook& fonts,
+                platform::Recording& recording);
+
+    markup::AnswerFields& fields() { return fields_; }
+
+    /// Hides all controls and makes them as they were before any question.
+    void reset();
+    /// Shows what the fields say.
+    void place();
+
+    /// Called with the tag of a link that is followed.
+    void onLink(std::function<void(const QString&)> follow) { follow_ = std::move(follow); }
+
+    /// Height down to the lowest control that shows, in pixels of the question area.
+    int footPx() const;
+    /// The controls that the keyboard reaches, line by line.
+    std::vector<QWidget*> inReadingOrder() const;
+    platform::look::TextField& Text1() const { return *Text1_; }
+
+    // AnswerControls
+    bool isVisible(ChoiceArray array, int index) const override;
+    bool isSelected(ChoiceArray array, int index) const override;
+    void setSelected(ChoiceArray array, int index, bool selected) override;
+    void disable(ChoiceArray array, int index) override;
+    void paintMark(ChoiceArray array, int index, Mark mark) override;
+    QString typedText() const override;
+    void setTypedText(const QString& text) override;
+    void disableTypedText() override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    using Buttons = std::array<QAbstractButton*, kChoices>;
+
+    QAbstractButton* control(ChoiceArray array, int index) const;
+    const markup::AnswerFields::Field* field(ChoiceArray array, int index) const;
+    void placeChoices(ChoiceArray array);
+    void placeText();
+    void placeLinks();
+    QAbstractButton* choiceWithWordsAt(QPoint place) const;
+    std::vector<QWidget*> all() const;
+
+    viewer::PictureBox& Picture2_;
+    platform::Recording& recording_;
+    markup::AnswerFields fields_;
+    Buttons Option1_{};
+    Buttons Check1_{};
+    platform::look::TextField* Text1_;
+    LinkCaption* Labelien_;
+    LinkIcon* Image1_;
+    LinkIcon* Icovideo_;
+    std::function<void(const QString&)> follow_;
+
+    struct Words {
+        QRect where;
+        QAbstractButton* choice;
+    };
+    std::vector<Words> words_; ///< a click on the words of a choice counts as one on its sign
+};
+
+} // namespace exercises

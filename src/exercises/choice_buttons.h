@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QCheckBox>
+#include <QRadioButton>
+
+namespace exercises {
+
+// Members of `Option1` and `Check1`. They show their sign only: the words beside it are drawn on
+// the question. The sign is kChoiceSignMargin inside the control on every side.
+
+class OptionButton : public QRadioButton {
+public:
+    explicit OptionButton(QWidget* parent);
+
+protected:
+    bool hitButton(const QPoint& position) const override { return rect().contains(position); }
+    void paintEvent(QPaintEvent* event) override;
+};
+
+class CheckButton : public QCheckBox {
+public:
+    explicit CheckButton(QWidget* parent);
+
+protected:
+    bool hitButton(const QPoint& position) const override { return rect().contains(position); }
+    void paintEvent(QPaintEvent* event) override;
+};
+
+} // namespace exercises

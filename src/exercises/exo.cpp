@@ -1,0 +1,241 @@
+#include "exercises/exo.h"
+
+#include "exercises/answer_panel.h"
+#include "exercises/cjuste.h"
+#include "exercises/placement.h"
+#include "exercises/strip.h"
+#include "exercises/title_band_view.h"
+#include "platform/qt/look/button.h"
+#include "platform/qt/look/interface_font.h"
+#include "platform/qt/look/mnemonics.h"
+#include "platform/qt/look/palette.h"
+#include "platform/qt/look/scroll_bar.h"
+#include "viewer/page_panel.h"
+#include "viewer/picture_box.h"
+#include "viewer/surface_widths.h"
+
+#include <QIcon>
+#include <QLabel>
+#include <QPainter>
+#include <QPlainTextEdit>
+
+#include <cstdio>
+
+namespace exercises {
+
+namespace look = platform::look;
+
+namespace {
+
+using look::Button;
+
+constexpr QSize kSize(800, 600);
+
+constexpr QRect kBand(0, 0, 800, 64);
+constexpr QRect kTito(6, 8, 576, 48);
+constexpr QRect kStrip(8, 72, 152, 520);
+constexpr QRect kTitle(176, 72, 464, 24);
+constexpr QRect kCaption(176, 104, 464, 24);
+constexpr QRect kFrame1(168, 136, 624, 408);
+constexpr int kViewHeight = 392;
+constexpr QRect kSwitch(688, 20, 104, 24);
+
+constexpr int kHeadingPx = 16;
+/// The words on the main action are larger than those on the others.
+constexpr int kValidatePx = look::kLabelPx;
+
+QLabel* addLabel(const char* name, const QRect& place, QRgb ink, QWidget* parent) {
+    auto* label = new QLabel(parent);
+    label->setObjectName(QString::fromLatin1(name));
+    label->setTextFormat(Qt::PlainText);
+    label->setFont(look::interfaceFont(kHeadingPx, look::Weight::Bold));
+    QPalette colours = label->palette();
+    colours.setColor(QPalette::WindowText, QColor::fromRgb(ink));
+    label->setPalette(colours);
+    label->setGeometry(place);
+    return label;
+}
+
+/// A label with a name of its own on a button that paints the words: what is clicked on it reaches
+/// the button.
+void addWords(const char* name, Button& button) {
+    auto* label = new QLabel(&button);
+    label->setObjectName(QString::fromLatin1(name));
+    label->setAccessibleName(button.plainCaption());
+    label->setGeometry(40, 8, button.width() - 48, button.height() - 16);
+}
+
+} // namespace
+
+Exo::Exo(const Parts& parts, QWidget& mainWindow)
+    : QWidget(&mainWindow, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                               Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint),
+      parts_(parts), mainWindow_(mainWindow), page_(parts.page, *this),
+      blinkInterval_(RightAnswerBlink::kIntervalMs) {
+    setObjectName(QStringLiteral("exo"));
+    setWindowTitle(QStringLiteral("Exercices"));
+    setWindowIcon(mainWindow.windowIcon());
+    setWindowModality(Qt::WindowModal);
+    setAttribute(Qt::WA_QuitOnClose, false); // the program goes on in the main window
+    QPalette colours = palette();
+    colours.setColor(QPalette::Window, QColor::fromRgb(look::kIvory));
+    setPalette(colours);
+
+    body_ = new QWidget(this);
+    body_->setGeometry(QRect(QPoint(), kSize));
+    addLabels();
+    addQuestionArea();
+    addButtons();
+    addStrip();
+    renderer_.emplace(parts_.drawing, page_, parts_.pictures, recording_);
+    session_.emplace(parts_.shared, parts_.test, *this, *answers_, parts_.course, parts_.prompter);
+    if (parts_.author)
+        addAuthoringSwitch();
+    connectHandlers();
+    new look::MnemonicDisplay(this);
+    setFocus(); // no control is chosen from the start; the Tab key leads to the first
+}
+
+Exo::~Exo() {
+    // Nobody draws on a window that is gone.
+    if (parts_.drawing.fenetreSource == this)
+        parts_.drawing.fenetreSource = nullptr;
+    if (parts_.drawing.surfaceDessin == &Picture2_->surface())
+        parts_.drawing.surfaceDessin = nullptr;
+}
+
+void Exo::addLabels() {
+    (new TitleBandView(body_))->setGeometry(kTito);
+    Label2_ = addLabel("Label2", kTitle, look::kInk, body_);
+    noa_ = addLabel("noa", kCaption, look::kBlue, body_);
+    noa_->setAlignment(Qt::AlignTop);
+    noa_->setContentsMargins(0, 1, 0, 0); // further from the question than from the title
+}
+
+void Exo::addQuestionArea() {
+    frame1_ = new viewer::PagePanel(body_);
+    frame1_->setObjectName(QStringLiteral("frame1"));
+    frame1_->framekx().setObjectName(QStringLiteral("view"));
+    frame1_->VScroll1().setObjectName(QStringLiteral("questionScroll"));
+    frame1_->VScroll1().setAccessibleName(QStringLiteral("Défilement de la question"));
+    frame1_->setGeometry(kFrame1);
+    frame1_->setPanelHeight(kFrame1.height(), kViewHeight);
+    Picture2_ = new viewer::PictureBox(platform::SurfaceId::Picture2, viewer::kPageWidthPx,
+                                       look::kPaper, parts_.fonts, recording_, frame1_);
+    frame1_->setPage(Picture2_);
+    page_.setArea(Picture2_);
+    answers_ = std::make_unique<AnswerPanel>(*Picture2_, parts_.fonts, recording_);
+}
+
+void Exo::addButtons() {
+    using Kind = Button::Kind;
+    using Place = Button::IconPlace;
+    const auto add = [this](const char* name, const char* caption, const char* toolTip,
+                            const QRect& place, const Button::Look& shape) {
+        auto* button = new Button(QString::fromUtf8(caption), shape, body_);
+        button->setObjectName(QString::fromLatin1(name));
+        button->setToolTip(QString::fromUtf8(toolTip));
+        button->setAccessibleDescription(button->toolTip());
+        button->setGeometry(place);
+        return button;
+    };
+    Command3_ = add("Command3", "Question précédente", "", {168, 552, 160, 40},
+                    {.icon = QStringLiteral("previous-page")});
+    command5_ =
+        add("command5", "Valider la réponse", "", {336, 552, 176, 40},
+            {.kind = Kind::Main, .icon = QStringLiteral("validate"), .weight = look::Weight::Bold});
+    command5_->setFont(look::interfaceFont(kValidatePx, look::Weight::Bold));
+    addWords("Label3", *command5_);
+    command6_ =
+        add("command6", "Score", "", {520, 552, 104, 40}, {.icon = QStringLiteral("score")});
+    addWords("Label5", *command6_);
+    command4_ = add("command4", "Question suivante", "", {632, 552, 160, 40},
+                    {.icon = QStringLiteral("next-page"), .place = Place::Right});
+    Command7_ =
+        add("Command7", "Calculatrice", "Machine à calculer", {656, 72, 64, 56},
+            {.kind = Kind::Toolbar, .icon = QStringLiteral("calculator"), .place = Place::Top});
+    Image2_ = add("Image2", "Fermer", "Fermer le test", {728, 72, 64, 56},
+                  {.kind = Kind::Toolbar, .icon = QStringLiteral("close"), .place = Place::Top});
+}
+
+void Exo::addStrip() {
+    Picture1_ = new Strip(parts_.test, body_);
+    Picture1_->setGeometry(kStrip);
+    // Beside the strip, not in it: at the ends of a long test it reaches over the strip's edge.
+    Image4_ = new Marker(body_);
+    Image4_->hide();
+}
+
+void Exo::addAuthoringSwitch() {
+    Command1_ = new Button(QStringLiteral("Commutateur"), {.icon = {}}, body_);
+    Command1_->setObjectName(QStringLiteral("Command1"));
+    Command1_->setGeometry(kSwitch);
+    source_ = new QPlainTextEdit(body_);
+    source_->setObjectName(QStringLiteral("code"));
+    source_->setAccessibleName(QStringLiteral("Texte de la question"));
+    QFont font(QStringLiteral("Liberation Mono"));
+    font.setPixelSize(look::kLabelPx);
+    source_->setFont(font);
+    source_->setTabChangesFocus(true);
+    source_->setContextMenuPolicy(Qt::NoContextMenu); // Qt's own menu is not in French
+    source_->setGeometry(kFrame1);
+    source_->hide();
+    edit_.emplace(*session_, parts_.prompter);
+}
+
+void Exo::run() {
+    start();
+    loop_.exec();
+    mainWindow_.activateWindow();
+}
+
+/// Once for each window: activated again, as when the calculator closes, it keeps what was answered
+/// so far.
+void Exo::start() {
+    Form_Load();
+    place();
+    session_->activate();
+    show();
+    activateWindow();
+}
+
+void Exo::Form_Load() {
+    tables_ = openExerciseTables(parts_.shared.InstallDir);
+    // The window stays usable; who looks for the reason finds it here.
+    for (const QString& failure : std::as_const(tables_.failures))
+        std::fprintf(stderr, "orvalente : %s\n", qUtf8Printable(failure));
+    session_->load(tables_.description.get(), tables_.contenu.get());
+}
+
+/// Opens the tables again, to be written; read-only ones stay where that cannot be.
+void Exo::makeWritable() {
+    if (writable_)
+        return;
+    ExerciseTables fresh = openExerciseTables(parts_.shared.InstallDir, platform::Access::Writable);
+    if (!fresh.description || !fresh.contenu)
+        return;
+    writable_ = true;
+    session_->reopen(fresh.contenu.get());
+    tables_ = std::move(fresh);
+}
+
+void Exo::place() {
+    if (!liesOverMainWindow(parts_.screen)) {
+        setFixedSize(kSize);
+        return; // the window system finds a place
+    }
+    setFixedSize(mainWindow_.size().expandedTo(kSize));
+    move(mainWindow_.pos());
+}
+
+void Exo::resizeEvent(QResizeEvent*) {
+    // Where the window is larger than its contents they stand in its middle.
+    body_->move((width() - body_->width()) / 2, (height() - body_->height()) / 2);
+}
+
+void Exo::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(kBand.translated(body_->pos()), QColor::fromRgb(look::kBlue));
+}
+
+} // namespace exercises

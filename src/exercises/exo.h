@@ -1,0 +1,181 @@
+#pragma once
+
+#include "exercises/calculator_beside.h"
+#include "exercises/exercise_tables.h"
+#include "exercises/question_edit.h"
+#include "exercises/question_page.h"
+#include "exercises/test_session.h"
+#include "exercises/test_state.h"
+#include "exercises/test_view.h"
+#include "markup/drawing_state.h"
+#include "markup/picture_shelf.h"
+#include "markup/renderer.h"
+#include "markup/windows.h"
+#include "platform/message_box.h"
+#include "platform/qt/font_book.h"
+#include "platform/recording.h"
+#include "platform/rich_text_holder.h"
+#include "platform/screen.h"
+#include "shell/shared_state.h"
+
+#include <QEventLoop>
+#include <QPointer>
+#include <QWidget>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+class QLabel;
+class QPlainTextEdit;
+
+namespace platform::look {
+class Button;
+}
+
+namespace viewer {
+class PagePanel;
+class PictureBox;
+} // namespace viewer
+
+namespace exercises {
+
+class AnswerPanel;
+class Cjuste;
+class Marker;
+class Strip;
+
+/// `exo`: the window of the test, modal to the main window only, so that a calculator stays usable
+/// beside it. It shows what its session tells it to and hands on what its controls are asked for;
+/// the controls have the names of the handlers.
+class Exo : public QWidget, public TestView, public markup::SourceWindow {
+public:
+    /// What the window works with; all of it outlives the window.
+    struct Parts {
+        shell::SharedState& shared;
+        TestState& test;
+        markup::DrawingState& drawing;
+        markup::PageWindow& page; ///< the main window, for what questions draw there
+        markup::PictureShelf& pictures;
+        const platform::FontBook& fonts;
+        const platform::Screen& screen;
+        platform::Prompter& prompter;
+        CourseWindow& course;
+        CalculatorBeside& calculator;
+        bool author = false; ///< shows the authoring switch
+    };
+
+    Exo(const Parts& parts, QWidget& mainWindow);
+    ~Exo() override;
+
+    /// Opens the test of `PendingExerciseChapter` and appears.
+    void start();
+    /// The same; returns once the window is closed.
+    void run();
+
+    /// Milliseconds between two pictures of the popup after a right answer.
+    void setBlinkInterval(int milliseconds) { blinkInterval_ = milliseconds; }
+
+    // TestView
+    void setTitle(const QString& title) override;
+    void setCaption(const QString& caption) override;
+    void setPreviousVisible(bool visible) override;
+    void setNextVisible(bool visible) override;
+    void setValidateVisible(bool visible) override;
+    void setScoreVisible(bool visible) override;
+    void placeMarker(int question, int count) override;
+    void setMarkerVisible(bool visible) override;
+    void setFace(int face) override;
+    void repaintStrip() override;
+    void focusStrip() override;
+    void misanet() override;
+    void drawQuestion(const QString& source) override;
+    void showRightAnswer() override;
+
+    // markup::SourceWindow
+    platform::RichTextHolder& code() override { return code_; }
+    markup::AnswerFields* answerFields() override;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    // Construction.
+    void addLabels();
+    void addQuestionArea();
+    void addButtons();
+    void addStrip();
+    void addAuthoringSwitch();
+    void connectHandlers();
+    void putInTabOrder();
+
+    void Form_Load();
+    void place();
+    void makeWritable();
+
+    void Command3_MouseUp();
+    void command4_MouseUp();
+    void command5_Click();
+    void command6_Click();
+    void Picture1_MouseUp(double y);
+    void Image2_Click();
+    void Command7_Click();
+    void Command1_Click();
+    void Labelien_Click(const QString& tag);
+
+    /// Runs what may lead to another question, unless the author's text cannot be written.
+    void leaveQuestion(const std::function<void()>& go);
+    std::optional<QString> typedSource() const;
+    void showSource();
+
+    void setButtonVisible(platform::look::Button& button, bool visible);
+    bool keepTyped();
+    bool mayClose();
+    void fitQuestion();
+    void focusQuestion();
+    void nameQuestion();
+
+    Parts parts_;
+    QWidget& mainWindow_;
+    platform::Recording recording_;
+    platform::RichTextHolder code_;
+    QuestionPage page_;
+    ExerciseTables tables_;
+    std::unique_ptr<AnswerPanel> answers_;
+    std::optional<markup::Renderer> renderer_;
+    std::optional<TestSession> session_;
+    std::optional<QuestionEdit> edit_;
+    QEventLoop loop_;
+    QPointer<Cjuste> popup_;
+    int blinkInterval_;
+
+    QWidget* body_ = nullptr;
+    QLabel* Label2_ = nullptr;
+    QLabel* noa_ = nullptr;
+    viewer::PagePanel* frame1_ = nullptr;
+    viewer::PictureBox* Picture2_ = nullptr;
+    Strip* Picture1_ = nullptr;
+    Marker* Image4_ = nullptr;
+    platform::look::Button* Command3_ = nullptr;
+    platform::look::Button* command4_ = nullptr;
+    platform::look::Button* command5_ = nullptr;
+    platform::look::Button* command6_ = nullptr;
+    platform::look::Button* Command7_ = nullptr;
+    platform::look::Button* Image2_ = nullptr;
+    platform::look::Button* Command1_ = nullptr; ///< authors only
+    QPlainTextEdit* source_ = nullptr;           ///< `code` as authors see it
+
+    bool markerPlaced_ = false;
+    bool questionHadFocus_ = false;
+    bool asking_ = false;   ///< the question before closing is on the screen
+    bool writable_ = false; ///< the tables are opened for an author
+    bool leaving_ = false;  ///< it may close without a question
+};
+
+} // namespace exercises

@@ -1,0 +1,23 @@
+#include "exercises/exo_opener.h"
+
+#include "viewer/multim.h"
+
+#include <QScopedValueRollback>
+
+namespace exercises {
+
+void ExoOpener::open() {
+    if (isOpen_)
+        return;
+    const QScopedValueRollback<bool> open(isOpen_, true);
+    Exo exo({parts_.shared, test_, parts_.drawing, window_, parts_.pictures, parts_.fonts,
+             parts_.screen, parts_.prompter, *this, parts_.calculator, parts_.author},
+            window_);
+    exo.run();
+}
+
+void ExoOpener::hideReturnToTest() {
+    window_.setReturnToTestVisible(false);
+}
+
+} // namespace exercises

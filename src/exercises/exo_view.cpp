@@ -1,0 +1,208 @@
+// The test's window as its session sees it.
+
+#include "exercises/answer_panel.h"
+#include "exercises/cjuste.h"
+#include "exercises/exo.h"
+#include "exercises/progress_strip.h"
+#include "exercises/strip.h"
+#include "platform/qt/look/button.h"
+#include "platform/qt/look/text_field.h"
+#include "platform/twips.h"
+#include "viewer/page_panel.h"
+#include "viewer/picture_box.h"
+
+#include <QAccessible>
+#include <QLabel>
+#include <QPlainTextEdit>
+
+#include <algorithm>
+
+namespace exercises {
+
+namespace {
+
+constexpr double kQuestionAreaPx = kQuestionAreaTwips / platform::kTwipsPerPixel;
+
+/// Space below a control that is the lowest thing of a question.
+constexpr int kFootPx = 4;
+
+void tellNewName(QWidget& widget, const QString& name) {
+    if (widget.accessibleName() != name)
+        widget.setAccessibleName(name); // this tells screen readers too
+}
+
+/// Height, in twips, down to the lowest text, line or picture on the surface. A ground is drawn for
+/// what stands on it and does not count.
+double drawnFoot(const platform::Recording& recording, const platform::Surface& surface) {
+    double foot = 0;
+    for (const platform::Operation& operation : recording.operations())
+        if (const auto* text = std::get_if<platform::TextOperation>(&operation))
+            foot = std::max(foot, text->y + surface.metrics().height(text->font));
+        else if (const auto* line = std::get_if<platform::LineOperation>(&operation))
+            foot = std::max({foot, line->y1, line->y2});
+        else if (const auto* picture = std::get_if<platform::PictureOperation>(&operation))
+            foot = std::max(foot, picture->y + picture->height);
+    return foot;
+}
+
+} // namespace
+
+void Exo::setTitle(const QString& title) {
+    const QString words = title.simplified();
+    const QString shown =
+        Label2_->fontMetrics().elidedText(words, Qt::ElideRight, Label2_->width());
+    Label2_->setText(shown);
+    Label2_->setToolTip(shown == words ? QString() : words);
+    Label2_->setAccessibleName(words);
+}
+
+void Exo::setCaption(const QString& caption) {
+    noa_->setText(caption);
+}
+
+/// A button that goes leaves the keyboard to the question, not to some other button: the same key
+/// struck again must not press that one.
+void Exo::setButtonVisible(platform::look::Button& button, bool visible) {
+    if (!visible && focusWidget() == &button)
+        Picture2_->setFocus();
+    button.setVisible(visible);
+}
+
+void Exo::setPreviousVisible(bool visible) {
+    setButtonVisible(*Command3_, visible);
+}
+
+void Exo::setNextVisible(bool visible) {
+    setButtonVisible(*command4_, visible);
+}
+
+void Exo::setValidateVisible(bool visible) {
+    setButtonVisible(*command5_, visible);
+}
+
+void Exo::setScoreVisible(bool visible) {
+    setButtonVisible(*command6_, visible);
+}
+
+void Exo::placeMarker(int question, int count) {
+    const auto top = markerTop(question, count, Picture1_->height(), Marker::kSize.height());
+    if (!top)
+        return;
+    const int left = (Picture1_->width() - Marker::kSize.width()) / 2;
+    Image4_->move(Picture1_->pos() + QPoint(left, qRound(*top)));
+    if (!markerPlaced_)
+        Image4_->show();
+    markerPlaced_ = true;
+    Picture1_->refresh();
+}
+
+void Exo::setMarkerVisible(bool visible) {
+    Image4_->setVisible(visible && markerPlaced_);
+}
+
+void Exo::setFace(int face) {
+    Image4_->setFace(face);
+}
+
+void Exo::repaintStrip() {
+    Picture1_->refresh();
+}
+
+void Exo::focusStrip() {
+    Picture1_->setFocus();
+}
+
+void Exo::misanet() {
+    // Hidden or disabled, a control would hand the keyboard to some other one.
+    const QWidget* const focus = focusWidget();
+    questionHadFocus_ =
+        focus && (focus == Picture2_ || Picture2_->isAncestorOf(focus) || focus == command5_);
+    if (questionHadFocus_)
+        setFocus();
+    recording_.clear();
+    Picture2_->empty();
+    Picture2_->surface().setHeightPx(kQuestionAreaPx);
+    answers_->reset();
+}
+
+markup::AnswerFields* Exo::answerFields() {
+    return &answers_->fields();
+}
+
+void Exo::drawQuestion(const QString& source) {
+    markup::DrawingState& drawing = parts_.drawing;
+    drawing.fenetreSource = this;
+    drawing.surfaceDessin = &Picture2_->surface();
+    drawing.enImpression = false;
+    drawing.hauteurPage = 0;
+    code_.setText(source);
+    renderer_->affichepage();
+
+    answers_->place();
+    Picture2_->showDrawing();
+    fitQuestion();
+    putInTabOrder();
+    nameQuestion();
+    if (focusWidget() == this)
+        focusQuestion();
+}
+
+/// Makes the area as tall as the view, so that a coloured ground fills it, or as all that stands on
+/// it: the renderer only knows where the pen ended.
+void Exo::fitQuestion() {
+    platform::Surface& surface = Picture2_->surface();
+    const double drawn = drawnFoot(recording_, surface) / platform::kTwipsPerPixel;
+    const int foot = answers_->footPx();
+    const double view = frame1_->framekx().height();
+    surface.setHeightPx(std::max(
+        {view, surface.heightPx(), drawn, foot > 0 ? static_cast<double>(foot + kFootPx) : 0}));
+    frame1_->fitPage();
+}
+
+void Exo::putInTabOrder() {
+    QWidget* last = Picture2_;
+    const auto append = [&last](QWidget* next) {
+        setTabOrder(last, next);
+        last = next;
+    };
+    for (QWidget* control : answers_->inReadingOrder())
+        append(control);
+    if (source_)
+        append(source_);
+    for (QWidget* control : std::initializer_list<QWidget*>{
+             Command3_, command5_, command6_, command4_, Picture1_, Command7_, Image2_})
+        append(control);
+    if (Command1_)
+        append(Command1_);
+}
+
+/// The answer box has the keyboard at once; otherwise the question, to be read, and the Tab key
+/// leads to its choices.
+void Exo::focusQuestion() {
+    platform::look::TextField& Text1 = answers_->Text1();
+    if (!Text1.isHidden() && !isAnswered(parts_.test, parts_.test.CurrentQuestion))
+        Text1.setFocus();
+    else if (questionHadFocus_)
+        Picture2_->setFocus();
+}
+
+/// What screen readers call the question: its number, and how it was answered.
+void Exo::nameQuestion() {
+    const int question = parts_.test.CurrentQuestion;
+    QString name = noa_->text().chopped(noa_->text().endsWith(u':') ? 1 : 0).trimmed();
+    if (isAnswered(parts_.test, question))
+        name += isAnsweredWrong(parts_.test, question) ? QStringLiteral(", réponse fausse")
+                                                       : QStringLiteral(", réponse juste");
+    tellNewName(*Picture2_, name);
+    tellNewName(*noa_, name);
+}
+
+void Exo::showRightAnswer() {
+    nameQuestion();
+    Cjuste popup(this);
+    popup.setInterval(blinkInterval_);
+    popup_ = &popup;
+    popup.exec();
+}
+
+} // namespace exercises

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "markup/answer_fields.h"
+#include "platform/recording.h"
+
+#include <QString>
+
+namespace exercises {
+
+/// What stands beside a control on its line, up to the next control: the words of a choice, or
+/// what an answer box asks for.
+struct BesideText {
+    QString text;     ///< on one line; empty when nothing stands there
+    double right = 0; ///< where it ends, in twips; the control's own right end when it is empty
+};
+
+/// The text right of a control of `fields`.
+BesideText textRightOf(const platform::FieldOperation& field, const markup::AnswerFields& fields,
+                       const platform::Recording& recording);
+
+/// The text left of a control of `fields`.
+BesideText textLeftOf(const platform::FieldOperation& field, const markup::AnswerFields& fields,
+                      const platform::Recording& recording);
+
+} // namespace exercises

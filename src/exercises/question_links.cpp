@@ -1,0 +1,120 @@
+#include "exercises/question_links.h"
+
+#include "markup/answer_fields.h"
+#include "platform/link_view.h"
+#include "platform/qt/look/palette.h"
+#include "platform/qt/look/pixels.h"
+#include "platform/qt/raster_surface.h"
+#include "platform/surface.h"
+#include "platform/twips.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace exercises {
+
+namespace look = platform::look;
+
+namespace {
+
+constexpr double kRingRadius = 3;
+constexpr int kIconPx =
+    static_cast<int>(markup::AnswerFields::kIconWidth / platform::kTwipsPerPixel);
+
+/// Largest caption, in pixels: what is wider lies outside the question area, and what is taller is
+/// no caption.
+constexpr QSize kLargestCaption(2000, 1000);
+
+int pixels(double twips) {
+    return qRound(std::clamp(twips / platform::kTwipsPerPixel, -platform::kMaxSurfaceHeightPx,
+                             platform::kMaxSurfaceHeightPx));
+}
+
+} // namespace
+
+QPoint placeOf(const platform::FieldOperation& field) {
+    return {pixels(field.x), pixels(field.y)};
+}
+
+QuestionLink::QuestionLink(QWidget* parent) : QAbstractButton(parent) {
+    setAttribute(Qt::WA_Hover);
+    setFocusPolicy(Qt::TabFocus);
+    setCursor(Qt::PointingHandCursor);
+    hide();
+}
+
+void QuestionLink::paintRing(QPainter& painter) const {
+    if (hasFocus())
+        look::drawFrame(painter, rect(), kRingRadius, look::kBlue, Qt::NoBrush, 2);
+}
+
+void QuestionLink::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        QAbstractButton::keyPressEvent(event);
+}
+
+LinkCaption::LinkCaption(const platform::FontBook& fonts, QWidget* parent)
+    : QuestionLink(parent), fonts_(fonts) {}
+
+void LinkCaption::show(const platform::FieldOperation& field) {
+    field_ = field;
+    setTag(field.tag);
+    setAccessibleName(field.caption.simplified());
+    const auto extent = platform::captionExtent(field.caption, field.font, fonts_);
+    const QSize size(pixels(extent.width) + 1, pixels(extent.height) + 1);
+    setGeometry(QRect(placeOf(field), size.boundedTo(kLargestCaption))
+                    .adjusted(-kMargin, -kMargin, kMargin, kMargin));
+    setVisible(true);
+}
+
+/// Draws the letters as the question does, on what the question has drawn there.
+void LinkCaption::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    // Letters may lean out of their line a little, into the margin.
+    const QSize room = size() - QSize(kMargin, kMargin);
+    platform::Recording recording;
+    platform::LinkOperation label;
+    label.surface = field_.surface;
+    label.caption = field_.caption;
+    label.font = field_.font;
+    label.font.underline = underMouse();
+    label.ink = field_.ink;
+    for (auto& line : platform::captionLines(label, fonts_))
+        recording.add(std::move(line));
+    platform::RasterSurface raster(field_.surface, room.width(), fonts_, look::kPaper);
+    raster.setDevicePixelRatio(devicePixelRatioF());
+    raster.play(recording);
+    // Darkening leaves the ground of a coloured row in place.
+    painter.setCompositionMode(QPainter::RasterOp_SourceAndDestination);
+    painter.translate(kMargin, kMargin);
+    painter.drawImage(0, 0, raster.image(room.height()));
+    painter.resetTransform();
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    paintRing(painter);
+}
+
+LinkIcon::LinkIcon(const QString& drawing, QWidget* parent) : QuestionLink(parent), icon_(drawing) {
+    resize(kIconPx + 2 * kMargin, kIconPx + 2 * kMargin);
+}
+
+void LinkIcon::show(const platform::FieldOperation& field) {
+    setTag(field.tag);
+    setToolTip(field.tooltip);
+    move(placeOf(field) - QPoint(kMargin, kMargin));
+    setVisible(true);
+}
+
+void LinkIcon::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    if (underMouse())
+        look::drawFrame(painter, rect().adjusted(1, 1, -1, -1), kRingRadius, look::kHoverTint,
+                        QColor::fromRgb(look::kHoverTint));
+    icon_.paint(painter, QRectF(kMargin, kMargin, kIconPx, kIconPx), look::Icon::Style::Coloured);
+    paintRing(painter);
+}
+
+} // namespace exercises

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "platform/qt/font_book.h"
+#include "platform/qt/look/icon.h"
+#include "platform/recording.h"
+
+#include <QAbstractButton>
+
+namespace exercises {
+
+/// What leads from a question to a course page: shown where the question placed it, followed by a
+/// click, Enter or Space. A click leaves the keyboard where it is.
+class QuestionLink : public QAbstractButton {
+public:
+    explicit QuestionLink(QWidget* parent);
+
+    const QString& tag() const { return tag_; }
+
+protected:
+    /// Room for the line that shows the keyboard, around the link itself, in pixels.
+    static constexpr int kMargin = 4;
+
+    void setTag(const QString& tag) { tag_ = tag; }
+    void paintRing(QPainter& painter) const;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    QString tag_;
+};
+
+/// `Labelien`: a caption in the font and ink of the question.
+class LinkCaption : public QuestionLink {
+public:
+    LinkCaption(const platform::FontBook& fonts, QWidget* parent);
+
+    /// Takes caption, place and target.
+    void show(const platform::FieldOperation& field);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    const platform::FontBook& fonts_;
+    platform::FieldOperation field_;
+};
+
+/// `Image1` and `Icovideo`: a drawing of 24 pixels.
+class LinkIcon : public QuestionLink {
+public:
+    LinkIcon(const QString& drawing, QWidget* parent);
+
+    void show(const platform::FieldOperation& field);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    platform::look::Icon icon_;
+};
+
+/// Where a field stands on the question area, in whole pixels, held where controls can be.
+QPoint placeOf(const platform::FieldOperation& field);
+
+} // namespace exercises

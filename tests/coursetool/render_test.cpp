@@ -1,0 +1,190 @@
+#include "coursetool/build.h"
+#include "coursetool/render.h"
+#include "coursetool/tool_pictures.h"
+#include "coursetool/trace.h"
+#include "coursetool/workspace.h"
+#include "platform/qt/look/field_pictures.h"
+
+#include <QImage>
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using coursetool::RenderFormat;
+using coursetool::RenderRequest;
+using testing::AllOf;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::Not;
+
+struct Render : testing::Test {
+    Workspace work;
+    platform::FontBook fonts;
+    coursetool::Report report;
+
+    Render() {
+        work.write("src/pages/1.page", "+++\nNumeropage = 1\n+++\n");
+        work.write("src/exercises/a/chapter.toml",
+                   "Chapitre = 3\nTitre = \"Optique\"\nNbquest = 1\n");
+        work.write("src/exercises/a/7.question",
+                   "+++\nREFERENCE = 307\ntype = 2\nsolution = \"10000\"\n+++\n"
+                   "##EXOOP\nun¶\n##EXOOP\ndeux¶\n##EXOCK\n¶\n##EXOTX\n¶\n##EXOLIla page#7\n");
+        coursetool::build(work.path("src"), work.path("out"), report);
+        EXPECT_EQ(textOf(report), "");
+        // Numbers that are not there, or twice, are for courses of other makers.
+        writeDatabase(work.path("out/Zekx.mdb"),
+                      {{u"cours",
+                        {{u"Numeropage", jet::ColumnType::Long},
+                         {u"titre", jet::ColumnType::Text, 255},
+                         {u"fpc", jet::ColumnType::Memo}},
+                        {{5, u"Cinq < six",
+                          u"##LIERTvers sept#PAG007\r\n¶\r\n##LIERTnulle part#PAG999\r\n¶\r\n"
+                          u"##LIERTdehors#EXE001\r\n¶\r\n##FONT01\r\nl¶\r\n"},
+                         {7, u"Sept", u"##OBJILLUS\r\nSept¶\r\n"},
+                         {7, u"Sept encore", u"Encore¶\r\n"},
+                         {jet::Value(), u"Sans", u"Sans¶\r\n"}}}});
+    }
+
+    void draw(RenderRequest request) {
+        request.course = work.path("out");
+        coursetool::ToolPictures pictures(request.course, {}, report);
+        coursetool::render(request, fonts, pictures, platform::look::fieldPictures(), report);
+    }
+    void drawAll(RenderFormat format, const std::string& output) {
+        RenderRequest request;
+        request.format = format;
+        request.output = work.path(output);
+        draw(request);
+    }
+    RenderRequest one(std::optional<int> page, std::optional<int> question, RenderFormat format,
+                      const std::string& output) {
+        RenderRequest request;
+        request.page = page;
+        request.question = question;
+        request.format = format;
+        request.output = work.path(output);
+        return request;
+    }
+};
+
+TEST_F(Render, allPagesAndQuestionsGoIntoFilesOfTheirOwn) {
+    drawAll(RenderFormat::Svg, "svg/new");
+    drawAll(RenderFormat::Png, "png");
+    EXPECT_EQ(textOf(report), "");
+    EXPECT_THAT(work.files("svg/new"), ElementsAre("page-005.svg", "page-007-2.svg", "page-007.svg",
+                                                   "page-sans-numero.svg", "question-307.svg"));
+    EXPECT_THAT(work.files("png"), ElementsAre("page-005.png", "page-007-2.png", "page-007.png",
+                                               "page-sans-numero.png", "question-307.png"));
+    // Of pages with the same number a link shows the last, beyond the last none; other codes lead
+    // nowhere.
+    EXPECT_THAT(work.read("svg/new/page-005.svg"),
+                AllOf(HasSubstr("<title>Cinq &lt; six</title>"),
+                      HasSubstr("href=\"page-007-2.svg\" aria-label=\"vers sept\""),
+                      Not(HasSubstr("nulle part\">")), Not(HasSubstr("dehors\">")),
+                      HasSubstr(">λ</text>")));
+    EXPECT_THAT(work.read("svg/new/question-307.svg"),
+                AllOf(HasSubstr("<title>Optique – Question 7</title>"), HasSubstr(">deux</text>"),
+                      HasSubstr("href=\"page-007-2.svg\" aria-label=\"la page\"")));
+}
+
+TEST_F(Render, twoRunsGiveTheSameBytes) {
+    for (const auto& [format, first, second] :
+         {std::tuple(RenderFormat::Svg, "a", "b"), std::tuple(RenderFormat::Png, "c", "d"),
+          std::tuple(RenderFormat::Pdf, "e/x", "f/x")}) {
+        std::filesystem::create_directories(work.path(first).parent_path());
+        std::filesystem::create_directories(work.path(second).parent_path());
+        drawAll(format, first);
+        drawAll(format, second);
+        ASSERT_TRUE(work.has(first));
+        if (format == RenderFormat::Pdf) {
+            EXPECT_EQ(work.read(first), work.read(second));
+            EXPECT_THAT(work.read(first), testing::StartsWith("%PDF"));
+            continue;
+        }
+        ASSERT_EQ(work.files(first), work.files(second));
+        for (const std::string& file : work.files(first))
+            EXPECT_EQ(work.read(std::string(first) + '/' + file),
+                      work.read(std::string(second) + '/' + file))
+                << file;
+    }
+    EXPECT_EQ(textOf(report), "");
+}
+
+TEST_F(Render, aSinglePageOrQuestionIsOneFileOfItsScale) {
+    draw(one(7, {}, RenderFormat::Png, "7.png"));
+    RenderRequest large = one({}, 307, RenderFormat::Png, "307.png");
+    large.scale = 2;
+    draw(large);
+    draw(one(5, {}, RenderFormat::Svg, "5.svg"));
+    draw(one(5, {}, RenderFormat::Pdf, "5.pdf"));
+    EXPECT_EQ(textOf(report), "");
+    EXPECT_EQ(QImage(QString::fromStdString(work.path("7.png").string())).width(), 800);
+    const QImage question(QString::fromStdString(work.path("307.png").string()));
+    EXPECT_EQ(question.width(), 2 * 632);
+    // The first option button, 3 pixels below the pen, has a blue edge around white.
+    const auto at = [&](int x, int y) { return QColor(question.pixel(2 * x, 2 * y)); };
+    EXPECT_EQ(at(16 + 6, 16 + 3 + 6), QColor(Qt::white));
+    EXPECT_LT(at(16 + 6, 16 + 3).red(), 120);
+    EXPECT_GT(at(16 + 6, 16 + 3).blue(), at(16 + 6, 16 + 3).red() + 40);
+    EXPECT_THAT(work.read("5.svg"), Not(HasSubstr("<a ")));
+    EXPECT_THAT(work.read("5.pdf"), testing::StartsWith("%PDF"));
+}
+
+TEST_F(Render, faultsAreNamed) {
+    draw(one(6, {}, RenderFormat::Png, "6.png"));
+    EXPECT_THAT(textOf(report), HasSubstr("Zekx.mdb: aucune page ne porte le numéro 6"));
+    draw(one(100'000'000, {}, RenderFormat::Png, "6.png"));
+    draw(one({}, 308, RenderFormat::Png, "6.png"));
+    EXPECT_THAT(textOf(report), HasSubstr("qekx.mdb: aucune question ne porte la référence 308"));
+    EXPECT_EQ(report.faultCount(), 3u);
+    EXPECT_FALSE(work.has("6.png"));
+
+    report = {};
+    work.write("file", "x");
+    draw(one(5, {}, RenderFormat::Png, "nowhere/5.png"));
+    draw(one(5, {}, RenderFormat::Pdf, "nowhere/5.pdf"));
+    drawAll(RenderFormat::Svg, "file/below");
+    drawAll(RenderFormat::Png, "file");
+    EXPECT_EQ(report.faultCount(), 4u) << textOf(report);
+    EXPECT_THAT(textOf(report), AllOf(HasSubstr("nowhere/5.png: "), HasSubstr("nowhere/5.pdf: "),
+                                      HasSubstr("file/below: "), HasSubstr("file")));
+    EXPECT_EQ(work.read("file"), "x");
+
+    report = {};
+    std::filesystem::remove(work.path("out/qekx.mdb"));
+    drawAll(RenderFormat::Svg, "untested");
+    EXPECT_EQ(textOf(report), "");
+    EXPECT_EQ(work.files("untested").size(), 4u);
+    draw(one({}, 307, RenderFormat::Svg, "q.svg"));
+    EXPECT_THAT(textOf(report), HasSubstr("aucun test ici : qekx.mdb manque"));
+}
+
+TEST_F(Render, aTraceOfAQuestionTellsItsFields) {
+    const auto traced = [&](int reference) {
+        std::FILE* stream = std::tmpfile();
+        coursetool::OutputBuffer out(stream);
+        coursetool::TraceRequest request;
+        request.course = work.path("out");
+        request.question = reference;
+        coursetool::ToolPictures pictures(request.course, {}, report);
+        coursetool::trace(request, fonts, pictures, out, report);
+        std::rewind(stream);
+        std::string text(1 << 16, '\0');
+        text.resize(std::fread(text.data(), 1, text.size(), stream));
+        std::fclose(stream);
+        return text;
+    };
+    const std::string trace = traced(307);
+    EXPECT_EQ(textOf(report), "");
+    EXPECT_THAT(trace, HasSubstr(R"({"op":"field","surface":"Picture2","control":"Option1",)"
+                                 R"("index":0,"x":0,"y":45,"width":270,)"));
+    EXPECT_THAT(trace, HasSubstr(R"("control":"Check1","index":0)"));
+    EXPECT_THAT(trace, HasSubstr(R"("caption":"la page","tag":"7")"));
+    // The test window shows the last question for one that is not there.
+    EXPECT_EQ(traced(999), trace);
+    EXPECT_THAT(textOf(report), HasSubstr("aucune question ne porte la référence 999"));
+    EXPECT_FALSE(report.hasFaults());
+}
+
+} // namespace

@@ -1,0 +1,99 @@
+#include "exercises/exo_case.h"
+
+#include <QClipboard>
+#include <QFile>
+#include <QPlainTextEdit>
+
+namespace exercises::test {
+namespace {
+
+class Authoring : public ExoCase {
+protected:
+    void SetUp() override {
+        write({description(3, u"x", number(2))},
+              {question(301, 1, u"10000", u"Premi\u00E8re\u00A0: oui¶\r\n##EXOCK\r\n", u"Non¶\r\n"),
+               question(302, 1, u"10000", u"Seconde¶\r\n", u"Non¶\r\n")});
+        openWindow(true);
+    }
+
+    QPlainTextEdit& source() { return control<QPlainTextEdit>("code"); }
+    void type(const QString& text) {
+        source().moveCursor(QTextCursor::Start);
+        source().insertPlainText(text);
+    }
+    /// Field "question" of both records, as another reader finds them.
+    QStringList stored() {
+        QStringList all;
+        const ExerciseTables fresh = openExerciseTables(folder.path());
+        fresh.contenu->forEach({QStringLiteral("question")}, [&](int, auto fields) {
+            all.append(platform::shownText(fields[0]));
+        });
+        return all;
+    }
+    /// Another program has the database open.
+    void lock() { QFile(folder.filePath("QEKX.ldb")).open(QIODevice::WriteOnly); }
+    void unlock() { QFile::remove(folder.filePath("QEKX.ldb")); }
+
+    const QStringList untouched_{QStringLiteral("Première\u00A0: oui¶\r\n##EXOCK\r\n"),
+                                 QStringLiteral("Seconde¶\r\n")};
+};
+
+TEST_F(Authoring, TurnedBackTheSwitchStoresAndShowsWhatWasTyped) {
+    click("Command1");
+    ASSERT_TRUE(source().isVisible());
+    type(QStringLiteral("Oh\n"));
+    click("Command1");
+    EXPECT_FALSE(source().isVisible());
+    EXPECT_EQ(stored(), (QStringList{QStringLiteral("Oh\r\n") + untouched_[0], untouched_[1]}));
+    EXPECT_TRUE(area().readableText().contains(u"Oh"));
+}
+
+TEST_F(Authoring, OnlyTheQuestionIsTakenAndOnlyWhatWasTypedIsStored) {
+    click("command5"); // wrong: the comment stands below
+    ASSERT_TRUE(area().readableText().contains(u"Non"));
+    click("Command1");
+    EXPECT_FALSE(source().toPlainText().contains(u"Non"));
+    click("Command1");
+    EXPECT_EQ(stored(), untouched_);
+    click("Command1");
+    type(QStringLiteral("!"));
+    click("command4"); // another question: what was typed is stored, and its own text is shown
+    EXPECT_TRUE(source().isVisible());
+    EXPECT_EQ(source().toPlainText(), u"Seconde¶\n");
+    EXPECT_EQ(stored(), (QStringList{u'!' + untouched_[0], untouched_[1]}));
+}
+
+TEST_F(Authoring, ClosingStoresToo) {
+    click("Command1");
+    type(QStringLiteral("!"));
+    prompter.answers = {platform::Answer::Yes};
+    click("Image2");
+    EXPECT_FALSE(exo->isVisible());
+    EXPECT_EQ(stored()[0], u'!' + untouched_[0]);
+}
+
+TEST_F(Authoring, WhatCannotBeStoredIsToldAndKept) {
+    click("Command1");
+    type(QStringLiteral("!"));
+    lock();
+    for (const char* way : {"Command1", "command4", "command5"}) {
+        click(way);
+        EXPECT_EQ(prompter.messages.back().title, u"Question non enregistrée") << way;
+        EXPECT_TRUE(source().isVisible());
+        EXPECT_TRUE(source().toPlainText().startsWith(u'!'));
+        EXPECT_EQ(state.CurrentQuestion, 1);
+    }
+    EXPECT_EQ(prompter.messages.size(), 3);
+    prompter.answers = {platform::Answer::No};
+    click("Image2");
+    EXPECT_TRUE(exo->isVisible());
+    prompter.answers = {platform::Answer::Yes, platform::Answer::Yes};
+    click("Image2");
+    EXPECT_FALSE(exo->isVisible());
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), u'!' + untouched_[0]);
+    unlock();
+    EXPECT_EQ(stored(), untouched_);
+}
+
+} // namespace
+} // namespace exercises::test

@@ -1,0 +1,337 @@
+#include "exercises/exo_case.h"
+#include "exercises/exo_opener.h"
+#include "platform/qt/look/scroll_bar.h"
+
+#include <QLabel>
+#include <QLineEdit>
+
+namespace exercises::test {
+namespace {
+
+/// Three boxes, the first and last to be ticked; a blank line separates the comment.
+const char16_t kBoxes[] = u"##SI12\r\nCochez.¶\r\n"
+                          u"##PIX048\r\n##EXOCK\r\nle verre¶\r\n##PIY010\r\n"
+                          u"##PIX048\r\n##EXOCK\r\nH\r\n##IND2\r\nO liquide¶\r\n##PIY010\r\n"
+                          u"##PIX048\r\n##EXOCK\r\nl’air¶\r\n";
+const char16_t kOptions[] = u"##SI12\r\n##PIX048\r\n##EXOOP\r\noui¶\r\n##PIY010\r\n"
+                            u"##PIX048\r\n##EXOOP\r\nnon¶\r\n";
+const char16_t kTyped[] = u"##SI12\r\nUnité : \r\n##EXOTX\r\n.¶\r\n";
+const char16_t kComment[] = u"##PIY010\r\nRelisez.¶\r\n##EXOLIRevoir la page#12\r\n¶\r\n";
+
+class Test : public ExoCase {
+protected:
+    void SetUp() override {
+        write({description(3, u"Les milieux", number(4))},
+              {question(301, 1, u"10100", kBoxes, kComment),
+               question(302, 2, u"01000", kOptions, kComment),
+               question(303, 3, u"ohm", kTyped, kComment),
+               question(304, 1, u"00000", kBoxes, kComment)});
+    }
+
+    void openAt(std::int16_t question) {
+        state.CurrentQuestion = question;
+        openWindow();
+    }
+};
+
+TEST_F(Test, ARightAnswerLeadsToTheNextQuestion) {
+    openAt(1);
+    EXPECT_EQ(control<QLabel>("Label2").text(), u"Les milieux");
+    EXPECT_FALSE(control("command6").isVisible());
+    click("Check1_0");
+    // A click on the words of a choice, 60 pixels right of its box, counts as one on the box.
+    QTest::mouseClick(&area(), Qt::LeftButton, {},
+                      control("Check1_2").geometry().center() + QPoint(25, 0));
+    click("command5");
+    EXPECT_EQ(given(1), u"10100");
+    EXPECT_EQ(verdict(1), 1);
+    EXPECT_EQ(control<QLabel>("noa").text(), u"Question 2 / 4 :");
+    EXPECT_TRUE(control("command6").isVisible());
+    EXPECT_FALSE(control("Check1_0").isVisible());
+    EXPECT_TRUE(control("Option1_0").isVisible());
+    EXPECT_TRUE(control<QWidget>("Image4").isVisible());
+}
+
+TEST_F(Test, AWrongAnswerIsCorrected) {
+    openAt(1);
+    click("Check1_1");
+    click("command5");
+    EXPECT_EQ(verdict(1), -1);
+    EXPECT_FALSE(control("command5").isVisible());
+    EXPECT_TRUE(area().readableText().contains(u"Relisez."));
+    const QColor green(0x1c, 0x75, 0x40), red(0xb3, 0x26, 0x1e);
+    const QColor marks[] = {green, red, green};
+    for (int i = 0; i < 3; ++i) {
+        auto& box = control(qPrintable(QStringLiteral("Check1_%1").arg(i)));
+        EXPECT_FALSE(box.isEnabled());
+        EXPECT_EQ(box.isChecked(), i == 1);
+        // The mark begins 36 pixels left of the box and 1 above; the box is 1 inside the control.
+        EXPECT_EQ(colourAt(box.pos() + QPoint(1 - 36 + 2, 1 - 1 + 8)), marks[i]) << i;
+    }
+    EXPECT_EQ(textOf(area(), QAccessible::Name), u"Question 1 / 4, réponse fausse");
+}
+
+TEST_F(Test, ControlsStandWhereTheQuestionPutsThem) {
+    openAt(1);
+    for (const auto& operation : {0, 1, 2}) {
+        auto& box = control(qPrintable(QStringLiteral("Check1_%1").arg(operation)));
+        EXPECT_EQ(box.x(), 48 - 1);
+        EXPECT_EQ(box.size(), QSize(15, 15));
+    }
+    openAt(3);
+    EXPECT_EQ(control<QWidget>("Text1").geometry().top(), 0); // not cut by the view
+    EXPECT_EQ(control<QWidget>("Text1").width(), 200);
+    EXPECT_FALSE(control("Check1_0").isVisible());
+}
+
+TEST_F(Test, EnterValidatesOnce) {
+    openAt(3);
+    ASSERT_EQ(focus(), u"Text1");
+    QTest::keyClicks(exo->focusWidget(), QStringLiteral("1.5 ohms"));
+    EXPECT_EQ(control<QLineEdit>("Text1").text(), u"1,5 ohms");
+    press(Qt::Key_Return, true); // a key still held from before
+    EXPECT_EQ(verdict(3), 0);
+    press(Qt::Key_Return);
+    EXPECT_EQ(verdict(3), 1);
+    EXPECT_EQ(control<QLabel>("noa").text(), u"Question 4 / 4 :");
+    press(Qt::Key_Return, true);
+    EXPECT_EQ(verdict(4), 0);
+
+    control("Command3").click();
+    EXPECT_FALSE(control<QWidget>("Text1").isEnabled());
+    EXPECT_EQ(control<QLineEdit>("Text1").text(), u"1,5 ohms");
+    press(Qt::Key_Return);
+    EXPECT_TRUE(prompter.messages.empty());
+    EXPECT_EQ(given(3), u"1,5 ohms");
+}
+
+TEST_F(Test, TheKeyboardReachesEverything) {
+    openAt(2);
+    QStringList order;
+    for (int stop = 0; stop < 7; ++stop) {
+        QTest::keyClick(&*exo, Qt::Key_Tab);
+        order.append(focus());
+    }
+    EXPECT_EQ(order, (QStringList{"Picture2", "Option1_0", "Command3", "command5", "command4",
+                                  "Picture1", "Command7"}));
+    control<QWidget>("Option1_0").setFocus();
+    press(Qt::Key_Space);
+    press(Qt::Key_Down);
+    EXPECT_TRUE(control("Option1_1").isChecked());
+    EXPECT_FALSE(control("Option1_0").isChecked());
+    press(Qt::Key_Return);
+    EXPECT_EQ(verdict(2), 1);
+    control<QWidget>("Picture1").setFocus();
+    press(Qt::Key_Home);
+    press(Qt::Key_Down);
+    EXPECT_EQ(state.CurrentQuestion, 2);
+    press(Qt::Key_End);
+    EXPECT_EQ(state.CurrentQuestion, 4);
+    EXPECT_EQ(focus(), u"Picture1");
+}
+
+TEST_F(Test, ScreenReadersHearChoicesAndVerdicts) {
+    openAt(1);
+    EXPECT_EQ(control("Check1_0").accessibleName(), u"le verre");
+    EXPECT_EQ(control("Check1_1").accessibleName(), u"H2O liquide");
+    click("Check1_0");
+    click("command5");
+    EXPECT_EQ(textOf(control("Check1_2"), QAccessible::Description), u"à choisir");
+    EXPECT_EQ(control("Labelien").accessibleName(), u"Revoir la page");
+    auto* const strip = QAccessible::queryAccessibleInterface(&control<QWidget>("Picture1"));
+    ASSERT_EQ(strip->childCount(), 4);
+    EXPECT_EQ(strip->child(0)->text(QAccessible::Name), u"Question 1, fausse");
+    EXPECT_EQ(strip->child(3)->text(QAccessible::Name), u"Question 4, sans réponse");
+    EXPECT_TRUE(strip->child(0)->state().selected);
+    click("command4");
+    click("command4");
+    EXPECT_EQ(control<QWidget>("Text1").accessibleName(), u"Unité :");
+}
+
+TEST_F(Test, TheStripChoosesAndShowsTheMarker) {
+    openAt(1);
+    auto& strip = control<QWidget>("Picture1");
+    QTest::mouseClick(&strip, Qt::LeftButton, {}, {20, 3 * strip.height() / 4 + 20});
+    EXPECT_EQ(state.CurrentQuestion, 4);
+    EXPECT_FALSE(control("command4").isVisible());
+    const QRect marker = control<QWidget>("Image4").geometry().translated(-strip.pos());
+    EXPECT_EQ(marker, QRect(40, 437, 72, 36));
+    // Not answered: the middle colour of its band, right of the marker.
+    const QImage picture = strip.grab().toImage();
+    EXPECT_EQ(picture.pixelColor(QPoint(140, 455) * picture.devicePixelRatio()),
+              QColor(255, 175, 100));
+}
+
+TEST_F(Test, ArrowsActWhenLetGoOverThem) {
+    openAt(2);
+    auto& next = control("command4");
+    QTest::mousePress(&next, Qt::LeftButton);
+    EXPECT_EQ(state.CurrentQuestion, 2);
+    QTest::mouseRelease(&next, Qt::LeftButton, {}, {-20, 10});
+    EXPECT_EQ(state.CurrentQuestion, 2);
+    click("command4");
+    EXPECT_EQ(state.CurrentQuestion, 3);
+}
+
+TEST_F(Test, ATallCommentScrollsWithItsControls) {
+    std::u16string comment = u"##SI12\r\n";
+    for (int i = 0; i < 40; ++i)
+        comment += u"Encore une ligne.¶\r\n";
+    comment += u"##EXOLITout en bas#2\r\n"; // without a line end of its own
+    write({description(3, u"Long", number(1))},
+          {question(301, 1, u"10000", kBoxes, comment.c_str())});
+    openAt(1);
+    auto& bar = control<platform::look::ScrollBar>("questionScroll");
+    EXPECT_FALSE(bar.isVisible());
+    click("command5");
+    ASSERT_TRUE(bar.isVisible());
+    EXPECT_FALSE(exo->findChild<QLabel*>("Label5")->isHidden());
+    auto& link = control("Labelien");
+    EXPECT_LE(link.geometry().bottom(), area().height());
+    auto& view = *area().parentWidget();
+    const auto isSeen = [&] {
+        return view.rect().contains(link.geometry().translated(area().pos()).center());
+    };
+    EXPECT_FALSE(isSeen());
+    link.setFocus(Qt::TabFocusReason);
+    EXPECT_TRUE(isSeen());
+    const int box = control("Check1_0").mapTo(&view, QPoint()).y();
+    press(Qt::Key_Home);
+    EXPECT_GT(control("Check1_0").mapTo(&view, QPoint()).y(), box);
+}
+
+TEST_F(Test, ClosingAsksAndEndsTheTest) {
+    openAt(2);
+    prompter.answers = {platform::Answer::No};
+    QTest::keyClick(&*exo, Qt::Key_Escape);
+    EXPECT_TRUE(exo->isVisible());
+    EXPECT_EQ(shared.PendingExerciseChapter, 3);
+    prompter.answers = {platform::Answer::Yes};
+    click("Image2");
+    EXPECT_FALSE(exo->isVisible());
+    EXPECT_EQ(shared.PendingExerciseChapter, 0);
+    EXPECT_EQ(prompter.messages.size(), 2);
+    EXPECT_FALSE(window.returnToTest);
+}
+
+TEST_F(Test, ALinkLeavesTheTestWithItsPage) {
+    openAt(1);
+    click("command5");
+    click("Image1");
+    EXPECT_FALSE(exo->isVisible());
+    EXPECT_EQ(shared.ExerciseReturnPage, 12);
+    EXPECT_EQ(shared.PendingExerciseChapter, 3);
+    EXPECT_TRUE(prompter.messages.empty());
+    openWindow(); // it goes on where it was left
+    EXPECT_EQ(shared.ExerciseReturnPage, 0);
+    EXPECT_FALSE(control("command5").isVisible());
+}
+
+TEST_F(Test, ClosedDuringThePopupItEndsCleanly) {
+    openAt(1);
+    exo->setBlinkInterval(60'000);
+    click("Check1_0");
+    click("Check1_2");
+    prompter.answers = {platform::Answer::Yes};
+    bool popupWasModal = false;
+    QTimer::singleShot(0, &*exo, [&] {
+        popupWasModal = QApplication::activeModalWidget() &&
+                        QApplication::activeModalWidget()->objectName() == u"Cjuste";
+        EXPECT_FALSE(control<QWidget>("Image4").isVisible());
+        exo->close();
+    });
+    click("command5"); // returns only because the popup goes too
+    EXPECT_TRUE(popupWasModal);
+    EXPECT_FALSE(exo->isVisible());
+    EXPECT_EQ(shared.PendingExerciseChapter, 0);
+    EXPECT_EQ(verdict(1), 0);
+}
+
+TEST_F(Test, TheCalculatorOpensBesideIt) {
+    openAt(1);
+    bench.window.move(100, 50);
+    click("Command7");
+    click("Command7");
+    const QPoint place(800 - 302 - 16, bench.window.y() + 120);
+    EXPECT_EQ(calculator.opened, (QList<QPoint>{place, place}));
+}
+
+TEST_F(Test, PupilsSeeNoSwitch) {
+    openAt(1);
+    EXPECT_FALSE(exo->findChild<QWidget*>("Command1"));
+    EXPECT_FALSE(exo->findChild<QWidget*>("code"));
+}
+
+using Opened = Test;
+
+TEST_F(Opened, TheMainWindowWaitsAndOthersDoNot) {
+    ExoOpener opener(bench.window, {shared, bench.drawing, bench.pictures, bench.fonts,
+                                    bench.screen, prompter, calculator});
+    QPushButton beside(QStringLiteral("Calculatrice"));
+    beside.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&beside));
+    bool besideActs = false;
+    QObject::connect(&beside, &QPushButton::clicked, [&] { besideActs = true; });
+    bench.neighbours.exercise.whileOpen = [&] { opener.open(); };
+    prompter.answers = {platform::Answer::Yes};
+    QTimer::singleShot(100, &bench.window, [&] {
+        auto* const test = bench.window.findChild<QWidget*>("exo");
+        ASSERT_TRUE(test);
+        EXPECT_EQ(test->pos(), bench.window.pos());
+        EXPECT_EQ(test->size(), bench.window.size());
+        opener.open(); // it is open
+        QTest::mouseClick(beside.windowHandle(), Qt::LeftButton, {}, {5, 5});
+        QTest::mouseClick(bench.window.windowHandle(), Qt::LeftButton, {}, {312, 32});
+        test->close();
+    });
+    bench.commands.runCode(QStringLiteral("EXO003"));
+    EXPECT_TRUE(besideActs);
+    EXPECT_EQ(bench.neighbours.log, QStringList{"exercise"}); // and no calculator
+    EXPECT_EQ(bench.drawing.fenetreSource, nullptr);
+}
+
+using BadInput = ExoCase;
+
+TEST_F(BadInput, LeavesTheWindowUsable) {
+    std::u16string crowd = u"##SI2048\r\n##EXOTX\r\n##EXOTX\r\n##POY999\r\n";
+    for (int i = 0; i < 9; ++i)
+        crowd += u"##EXOOP\r\n##EXOCK\r\n##PIX-99\r\n";
+    crowd += u"##EXOLI#\r\n##EXOVI#x\r\n##OBJILLUS\r\n##EXOOP\r\n";
+    const struct {
+        jet::Value count, type, solution, source;
+    } rows[] = {
+        {number(0), number(1), jet::Value(u"1"), jet::Value(kBoxes)},
+        {number(-3), number(1), jet::Value(u"abcde"), jet::Value(kBoxes)},
+        {number(150), number(7), jet::Value(u"10000"), jet::Value(kTyped)},
+        {jet::Value(), jet::Value(), jet::Value(), jet::Value()},
+        {number(100), number(2), jet::Value(u"1111111111"), jet::Value(crowd)},
+    };
+    for (const auto& row : rows) {
+        shared.PendingExerciseChapter = 3;
+        state = {};
+        write({{number(3), jet::Value(u"x"), row.count}},
+              {{jet::Value(301), row.type, row.solution, row.source, row.source}});
+        openWindow();
+        EXPECT_TRUE(exo->isVisible());
+        control("command5").click();
+        control("command4").click();
+        QTest::mouseClick(&control<QWidget>("Picture1"), Qt::LeftButton, {}, {5, 519});
+        exo->grab();
+        prompter.answers = {platform::Answer::Yes};
+        control("Image2").click();
+        EXPECT_FALSE(exo->isVisible());
+        prompter.answers.clear();
+    }
+}
+
+TEST_F(BadInput, AMissingDatabaseShowsAnEmptyQuestion) {
+    openWindow();
+    EXPECT_EQ(control<QLabel>("noa").text(), u"Question 1 / 0 :");
+    control("command5").click();
+    prompter.answers = {platform::Answer::Yes};
+    control("Image2").click();
+    EXPECT_FALSE(exo->isVisible());
+}
+
+} // namespace
+} // namespace exercises::test
