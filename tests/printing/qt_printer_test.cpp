@@ -160,7 +160,9 @@ TEST_F(QtPrinter, drawingsStayCurvesAndPhotographsKeepTheirPixels) {
 
 /// What a page shows again on a later sheet.
 TEST_F(QtPrinter, aPictureShowsOnEverySheetOfTheFile) {
-    const auto picture = std::make_shared<test_support::PlainPicture>(QSize(50, 50));
+    const auto picture = platform::SvgPicture::read(
+        "<svg xmlns='http://www.w3.org/2000/svg' width='50' height='50'><rect x='40' y='40' "
+        "width='10' height='10' fill='#f00'/></svg>");
     for (const double y : {0.0, 20000.0}) {
         surface.setPenY(y);
         surface.paint(picture, 3000, 3000, "p", false);
