@@ -33,17 +33,4 @@ private:
     shell::ReportSink& reports_;
 };
 
-class MissingPrinting : public viewer::PagePrinting {
-public:
-    explicit MissingPrinting(shell::ReportSink& reports) : reports_(reports) {}
-
-    void print() override {
-        reports_.report(QStringLiteral("Cette édition n’imprime pas encore."));
-    }
-    void prepare() override {}
-
-private:
-    shell::ReportSink& reports_;
-};
-
 } // namespace app

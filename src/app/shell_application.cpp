@@ -6,11 +6,14 @@
 #include "calculator/machine_opener.h"
 #include "exercises/exo_opener.h"
 #include "markup/renderer.h"
+#include "platform/qt/escape_watch.h"
 #include "platform/qt/font_book.h"
 #include "platform/qt/look/message_dialog.h"
 #include "platform/qt/mounted_drives.h"
 #include "platform/qt/patient_activator.h"
+#include "platform/qt/print_setup.h"
 #include "platform/qt/qt_beeper.h"
+#include "platform/qt/qt_printer.h"
 #include "platform/qt/qt_processes.h"
 #include "platform/qt/qt_screen.h"
 #include "shell/course_directory.h"
@@ -22,6 +25,7 @@
 #include "viewer/link_controls.h"
 #include "viewer/main_commands.h"
 #include "viewer/multim.h"
+#include "viewer/print_command.h"
 
 #ifdef ORVALENTE_X11
 #include "platform/x11/x11_windows.h"
@@ -94,7 +98,7 @@ struct ShellApplication::Parts {
     Parts(const CommandLine& commandLine, double scale)
         : screen(scale), window(state, fonts, screen),
           launcher(state, prompter, processes, activator, window), modules(launcher), video(window),
-          printing(window), links(window, fonts, drawing.links),
+          links(window, fonts, drawing.links),
           orderForm(window, QStringLiteral("Cette édition n’a pas encore de bon de commande.")),
           search(window, QStringLiteral("Cette édition n’a pas encore la recherche.")),
           help(window, QStringLiteral("Cette édition n’a pas encore d’aide.")),
@@ -129,7 +133,6 @@ struct ShellApplication::Parts {
     shell::Launcher launcher;
     LaunchedModules modules;
     MissingVideo video;
-    MissingPrinting printing;
     viewer::LinkControls links;
     MissingWindow orderForm, search, help, installation;
     Calculator calculator;
@@ -143,6 +146,12 @@ struct ShellApplication::Parts {
     exercises::ExoOpener exercise;
     markup::Renderer renderer;
     viewer::PageLoader pages;
+    platform::QtPrinter printer{fonts};
+    platform::QtPrinterSetup printerSetup{printer, prompter};
+    platform::EscapeWatch escape;
+    viewer::PagePrinter pagePrinter{{state, bound, pages, window, drawing, window, window, pictures,
+                                     fonts, printer, [this] { return escape.isAsked(); }}};
+    viewer::PrintCommand printing{printerSetup, pagePrinter};
     viewer::ActionDispatcher actions;
     viewer::Neighbours neighbours;
     viewer::MainCommands commands;

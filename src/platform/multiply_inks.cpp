@@ -66,10 +66,13 @@ QRgb quotient(QRgb ink, QRgb cover) {
                 quotient(qBlue(ink), qBlue(cover)));
 }
 
-} // namespace
+QRgb masked(QRgb ink, QRgb cover) {
+    return (ink & cover) | 0xff000000;
+}
 
-std::vector<QRgb> multiplyInks(const std::vector<Operation>& operations,
-                               const TextMetrics& metrics) {
+/// The inks, each joined by `join` with the AND of the mask fills that cover it.
+std::vector<QRgb> joinedInks(const std::vector<Operation>& operations, const TextMetrics& metrics,
+                             QRgb (*join)(QRgb ink, QRgb cover)) {
     std::vector<QRgb> inks(operations.size(), 0xff000000);
     std::deque<Inked> later;
     for (std::size_t i = operations.size(); i-- > 0;) {
@@ -80,7 +83,7 @@ std::vector<QRgb> multiplyInks(const std::vector<Operation>& operations,
         for (const Inked& fill : later)
             if (covers(fill, *inked))
                 cover &= fill.ink;
-        inks[i] = quotient(inked->ink, cover);
+        inks[i] = join(inked->ink, cover);
         const auto* fill = std::get_if<FillOperation>(&operations[i]);
         if (!fill || fill->mode != FillMode::Mask)
             continue;
@@ -89,6 +92,18 @@ std::vector<QRgb> multiplyInks(const std::vector<Operation>& operations,
             later.pop_back();
     }
     return inks;
+}
+
+} // namespace
+
+std::vector<QRgb> multiplyInks(const std::vector<Operation>& operations,
+                               const TextMetrics& metrics) {
+    return joinedInks(operations, metrics,
+                      [](QRgb ink, QRgb cover) { return quotient(ink, cover); });
+}
+
+std::vector<QRgb> maskedInks(const std::vector<Operation>& operations, const TextMetrics& metrics) {
+    return joinedInks(operations, metrics, masked);
 }
 
 } // namespace platform

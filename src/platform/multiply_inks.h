@@ -18,4 +18,8 @@ namespace platform {
 std::vector<QRgb> multiplyInks(const std::vector<Operation>& operations,
                                const TextMetrics& metrics);
 
+/// Inks for devices that show mask fills before all else, as paper: what lies under mask fills as a
+/// whole gets the AND of their inks and its own. As above for the rest.
+std::vector<QRgb> maskedInks(const std::vector<Operation>& operations, const TextMetrics& metrics);
+
 } // namespace platform

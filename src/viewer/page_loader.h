@@ -22,6 +22,8 @@ public:
     /// Null before bindTo().
     const platform::Recordset* records() const { return records_; }
 
+    /// Position of the current record, from 0; -1 when there is none.
+    int position() const { return records_ ? records_->absolutePosition() : -1; }
     /// Moves to the record at `position`; no change when there is none.
     void moveTo(int position);
     /// Takes over "Index" of the current record as `CurrentOrderIndex`.

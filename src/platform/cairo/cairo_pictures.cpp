@@ -41,8 +41,10 @@ void attach(cairo_surface_t* surface, const char* type, const QByteArray& bytes)
 }
 
 /// Stands for a picture whose pixels nobody asks for: the document has them, or takes the file.
-CairoSurface placeholder() {
-    return CairoSurface(cairo_image_surface_create(CAIRO_FORMAT_RGB24, 1, 1));
+/// Where the document has them, `size` is theirs, since cairo scales by what it has stored.
+CairoSurface placeholder(QSize size = {1, 1}) {
+    return CairoSurface(
+        cairo_image_surface_create(CAIRO_FORMAT_RGB24, size.width(), size.height()));
 }
 
 CairoSurface copyOf(const QImage& image) {
@@ -85,8 +87,9 @@ cairo_surface_t* CairoPictures::surface(const std::shared_ptr<const Picture>& pi
     if (const auto found = page_.find(id); found != page_.end())
         return found->second.get();
 
-    CairoSurface made =
-        photograph || written_.contains(id) ? placeholder() : copyOf(picture->image(pixels));
+    CairoSurface made = photograph              ? placeholder()
+                        : written_.contains(id) ? placeholder(pixels)
+                                                : copyOf(picture->image(pixels));
     if (made) {
         attach(made.get(), CAIRO_MIME_TYPE_UNIQUE_ID, id);
         if (photograph)

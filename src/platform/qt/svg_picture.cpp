@@ -49,6 +49,12 @@ SvgPicture::SvgPicture(const QByteArray& bytes, std::unique_ptr<QSvgRenderer> re
 
 SvgPicture::~SvgPicture() = default;
 
+void SvgPicture::draw(QPainter& painter, const QRectF& place) const {
+    painter.save();
+    renderer_->render(&painter, place);
+    painter.restore();
+}
+
 QImage SvgPicture::image(QSize pixels) const {
     if (!isPictureSize(pixels))
         return {};

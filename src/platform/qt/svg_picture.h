@@ -4,6 +4,8 @@
 
 #include <memory>
 
+class QPainter;
+class QRectF;
 class QSvgRenderer;
 
 namespace platform {
@@ -21,6 +23,9 @@ public:
     QImage image(QSize pixels) const override;
     PictureFormat format() const override { return PictureFormat::Svg; }
     const QByteArray& bytes() const override { return bytes_; }
+
+    /// Draws it as curves, for devices that keep them.
+    void draw(QPainter& painter, const QRectF& place) const;
 
 private:
     QByteArray bytes_;

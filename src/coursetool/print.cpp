@@ -1,0 +1,44 @@
+#include "coursetool/print.h"
+
+#include "coursetool/course_records.h"
+#include "coursetool/offscreen_page.h"
+#include "coursetool/paths.h"
+#include "platform/cairo/pdf_printer.h"
+#include "viewer/bound_record.h"
+#include "viewer/page_index.h"
+#include "viewer/page_loader.h"
+#include "viewer/page_printer.h"
+
+namespace coursetool {
+
+void print(const PrintRequest& request, const platform::FontBook& fonts,
+           markup::PictureShelf& pictures, Report& report) {
+    const auto course = openRecords(request.course, kCourseFile, coursTable(), report);
+    if (!course)
+        return;
+    shell::SharedState state;
+    viewer::buildPageIndex(*course->records, state);
+    OffscreenPage page(fonts, pictures);
+    viewer::BoundRecord bound;
+    viewer::PageLoader loader(state, bound, page, page, page.renderer(), page);
+    loader.bindTo(*course->records);
+    if (const auto position = viewer::positionByNumber(state, request.page))
+        loader.moveTo(*position);
+    if (bound.TextID != QString::number(request.page)) {
+        report.fault({course->file},
+                     "aucune page ne porte le numéro " + std::to_string(request.page));
+        return;
+    }
+    loader.showCurrentRecord();
+
+    platform::PdfPrinter printer(QString::fromStdString(shown(request.output)), fonts);
+    viewer::PagePrinter pages(
+        {state, bound, loader, page, page.state(), page, page, pictures, fonts, printer, {}});
+    if (!pages.imprimepage())
+        report.fault({course->file}, "la page " + std::to_string(request.page) +
+                                         " n’a rien à imprimer : debutimp dépasse finimp");
+    else if (!printer.error().isEmpty())
+        report.fault({shown(request.output)}, printer.error().toStdString());
+}
+
+} // namespace coursetool

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "coursetool/print_request.h"
+#include "markup/picture_shelf.h"
+#include "platform/qt/font_book.h"
+
+namespace coursetool {
+
+/// Prints into a PDF file, on A4 paper, what the print button prints on a page of an installed
+/// course: all pages of its range, each with its footer.
+///
+/// Faults: no course, no page of that number, a range without pages, a file that cannot be written.
+void print(const PrintRequest& request, const platform::FontBook& fonts,
+           markup::PictureShelf& pictures, Report& report);
+
+} // namespace coursetool

@@ -1,0 +1,27 @@
+#include "platform/qt/escape_watch.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+
+namespace platform {
+
+bool EscapeWatch::isAsked() {
+    asked_ = false;
+    qApp->installEventFilter(this);
+    QCoreApplication::processEvents();
+    qApp->removeEventFilter(this);
+    return asked_;
+}
+
+bool EscapeWatch::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress &&
+        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+        asked_ = true;
+        return true;
+    }
+    if (event->type() == QEvent::Close && watched->isWidgetType())
+        asked_ = true;
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace platform

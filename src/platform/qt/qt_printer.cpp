@@ -1,0 +1,102 @@
+#include "platform/qt/qt_printer.h"
+
+#include "platform/qt/paper_painter.h"
+
+#include <QPrinter>
+
+namespace platform {
+
+namespace {
+
+constexpr double kTwipsPerInch = 1440;
+
+/// What every printer can leave free, in millimetres.
+constexpr QMarginsF kMargins{10, 10, 10, 10};
+
+QString refusal(const QPrinter& device) {
+    return device.outputFormat() == QPrinter::PdfFormat
+               ? QStringLiteral("le fichier ne peut pas être créé")
+               : QStringLiteral("l’imprimante a refusé le document");
+}
+
+} // namespace
+
+class QtPrinter::Job {
+public:
+    Job(QPrinter& device, const FontBook& fonts) : device_(device), paper_(painter_, fonts) {}
+
+    bool begin() { return painter_.begin(&device_); }
+
+    bool print(const Sheet& sheet, const Paper& paper) {
+        if (sheets_++ > 0 && !device_.newPage())
+            return false;
+        const double perTwip = device_.resolution() / kTwipsPerInch;
+        const double reduction = sheet.width > 0 ? paper.width / sheet.width : 1;
+        painter_.resetTransform();
+        painter_.scale(perTwip, perTwip);
+        painter_.translate(-paper.left, -paper.top); // the painter's origin is the printable corner
+        painter_.scale(reduction, reduction);
+        paper_.draw(sheet);
+        return device_.printerState() != QPrinter::Error;
+    }
+
+    bool end() { return painter_.end() && device_.printerState() != QPrinter::Error; }
+
+private:
+    QPrinter& device_;
+    QPainter painter_;
+    PaperPainter paper_;
+    int sheets_ = 0;
+};
+
+QtPrinter::QtPrinter(const FontBook& fonts) : fonts_(fonts) {}
+QtPrinter::~QtPrinter() = default;
+
+QPrinter& QtPrinter::device() const {
+    if (!device_) {
+        device_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
+        device_->setCreator(QStringLiteral("Orvalente"));
+        device_->setPageMargins(kMargins, QPageLayout::Millimeter);
+    }
+    return *device_;
+}
+
+Paper QtPrinter::paper() const {
+    const QPageLayout layout = device().pageLayout();
+    // In twips: pixels of 1440 to the inch.
+    const QRect whole = layout.fullRectPixels(qRound(kTwipsPerInch));
+    const QRect printable = layout.paintRectPixels(qRound(kTwipsPerInch));
+    return {double(whole.width()),   double(whole.height()),    double(printable.left()),
+            double(printable.top()), double(printable.width()), double(printable.height())};
+}
+
+bool QtPrinter::begin(const QString& title) {
+    job_.reset();
+    error_.clear();
+    device().setDocName(title);
+    job_ = std::make_unique<Job>(device(), fonts_);
+    if (job_->begin())
+        return true;
+    job_.reset();
+    error_ = refusal(device());
+    return false;
+}
+
+bool QtPrinter::print(const Sheet& sheet) {
+    if (!job_ || !error_.isEmpty())
+        return false;
+    if (!job_->print(sheet, paper()))
+        error_ = QStringLiteral("l’impression a été interrompue");
+    return error_.isEmpty();
+}
+
+bool QtPrinter::end() {
+    if (!job_)
+        return false;
+    if (!job_->end() && error_.isEmpty())
+        error_ = QStringLiteral("l’impression a été interrompue");
+    job_.reset();
+    return error_.isEmpty();
+}
+
+} // namespace platform

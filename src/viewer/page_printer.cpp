@@ -1,0 +1,108 @@
+#include "viewer/page_printer.h"
+
+#include "platform/numbers.h"
+#include "platform/twips.h"
+#include "text/number_text.h"
+#include "text/rounding.h"
+#include "viewer/page_index.h"
+#include "viewer/paper_layout.h"
+#include "viewer/surface_widths.h"
+
+#include <algorithm>
+#include <tuple>
+#include <utility>
+
+namespace viewer {
+
+namespace {
+
+constexpr int kEditionYear = 2026;
+
+QString footerLine() {
+    return QStringLiteral("Orvalente - Physique et chimie, collège et lycée - © KAROPE %1")
+        .arg(kEditionYear);
+}
+
+/// The mention of a page of a run, counted from 1.
+QString pageMention(int count) {
+    return QStringLiteral(" - page") + QString::fromStdU16String(text::numberText(count));
+}
+
+std::int32_t pageNumber(const QString& field) {
+    return text::toInt32(platform::leadingNumber(field)).value_or(0);
+}
+
+} // namespace
+
+PagePrinter::Range PagePrinter::range() const {
+    const std::int64_t first = pageNumber(parts_.bound.debimp);
+    const std::int64_t last = pageNumber(parts_.bound.finimp);
+    return {first, std::min(last, first + kMaxPrintedPages - 1)};
+}
+
+/// Without a record at the position, the one before stays.
+void PagePrinter::makeCurrent(int position) {
+    parts_.pages.moveTo(position);
+    parts_.source.code().setText(parts_.bound.code);
+}
+
+void PagePrinter::makeCurrentByNumber(std::int64_t number) {
+    // Outside the table the record before stays current and is printed again, meant so.
+    const auto position = positionByNumber(parts_.state, static_cast<std::int32_t>(number));
+    makeCurrent(position.value_or(-1));
+}
+
+bool PagePrinter::imprimepage() {
+    const int remembered = parts_.pages.position();
+    const Range pages = range();
+    if (pages.first > pages.last)
+        return false;
+    parts_.printer.begin(QStringLiteral("Orvalente - ") + parts_.bound.Textitre.simplified());
+    int count = 0;
+    bool goesOn = true;
+    for (std::int64_t k = pages.first; k <= pages.last && goesOn; ++k) {
+        ++count;
+        parts_.view.showHourglass();
+        makeCurrentByNumber(k);
+        goesOn =
+            printPage(footerLine() + (pages.first == pages.last ? QString() : pageMention(count)));
+        parts_.view.restorePointer();
+    }
+    parts_.printer.end();
+    makeCurrent(remembered);
+    return true;
+}
+
+bool PagePrinter::printPage(const QString& footer) {
+    platform::Recording drawing;
+    // The footer is in the letters that the page ended with, meant so.
+    const Footer line{footer, drawOnPaper(drawing)};
+    for (platform::Sheet& sheet :
+         layOnPaper(drawing, line, parts_.printer.paper(), parts_.metrics)) {
+        sheet.title = parts_.bound.Textitre;
+        parts_.printer.print(sheet);
+        if (parts_.isStopped && parts_.isStopped())
+            return false;
+    }
+    return true;
+}
+
+platform::Font PagePrinter::drawOnPaper(platform::Recording& drawing) {
+    platform::Surface paper(platform::SurfaceId::Printer, kPageWidthPx * platform::kTwipsPerPixel,
+                            parts_.metrics, drawing);
+    // The renderer of the screen would note in the recording of the page shown what fails here.
+    markup::DrawingState& state = parts_.drawing;
+    markup::Renderer renderer(state, parts_.window, parts_.pictures, drawing);
+    const auto onScreen = std::pair(state.surfaceDessin, state.fenetreSource);
+    state.hauteurPage = 0;
+    state.surfaceDessin = &paper;
+    state.fenetreSource = &parts_.source;
+    state.enImpression = true;
+    renderer.affichepage();
+    state.enImpression = false;
+    // This paper is gone before anything else is drawn.
+    std::tie(state.surfaceDessin, state.fenetreSource) = onScreen;
+    return paper.font();
+}
+
+} // namespace viewer

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "markup/renderer.h"
+#include "platform/printer.h"
+#include "shell/shared_state.h"
+#include "viewer/bound_record.h"
+#include "viewer/page_loader.h"
+#include "viewer/page_view.h"
+
+#include <cstdint>
+#include <functional>
+
+namespace viewer {
+
+/// Most pages of one job: two reams of paper. A range that a course gives wrongly ends there.
+inline constexpr int kMaxPrintedPages = 1000;
+
+/// Prints the pages that belong together with the one shown: each is drawn anew, on paper.
+class PagePrinter {
+public:
+    struct Parts {
+        shell::SharedState& state;
+        BoundRecord& bound;
+        PageLoader& pages;
+        PageView& view;
+        markup::DrawingState& drawing;
+        markup::PageWindow& window;
+        markup::SourceWindow& source;
+        markup::PictureShelf& pictures;
+        const platform::TextMetrics& metrics;
+        platform::Printer& printer;
+        /// Whether no further sheet is wanted; asked after each. May be empty.
+        std::function<bool()> isStopped;
+    };
+    /// All references must outlive the printer.
+    explicit PagePrinter(const Parts& parts) : parts_(parts) {}
+
+    /// Prints the range of the current record as one job, to the end or until it is stopped. What
+    /// fails is passed over: without a printer, nothing happens. Afterwards the record is current
+    /// that was so before, and the page on screen is as it was. False when the range has no pages.
+    bool imprimepage();
+
+private:
+    /// Fixed page numbers; nothing is printed when the first exceeds the last.
+    struct Range {
+        std::int64_t first, last;
+    };
+    Range range() const;
+
+    void makeCurrent(int position);
+    void makeCurrentByNumber(std::int64_t number);
+    /// Draws the current record.
+    platform::Font drawOnPaper(platform::Recording& drawing);
+    /// The sheets of the current record; false when no more are to follow.
+    bool printPage(const QString& footer);
+
+    Parts parts_;
+};
+
+} // namespace viewer

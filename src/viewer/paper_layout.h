@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/printer.h"
+#include "platform/sheet.h"
+#include "platform/text_metrics.h"
+
+#include <vector>
+
+namespace viewer {
+
+/// The line at the foot of a printed page of the course.
+struct Footer {
+    QString text;
+    platform::Font font;
+};
+
+/// The sheets of paper that a page of the course takes. Its column of 600 pixels stands in the
+/// middle of the printable part; on narrower paper the whole sheet is laid out larger, for the
+/// printer to reduce.
+///
+/// A page longer than a sheet goes on on further ones, at full size: reduced to one sheet, it would
+/// be hard to read. It is cut where neither a line of text nor a picture, a row of a table or a
+/// sign would be; what is taller than a sheet by itself shows in part on each. The footer stands on
+/// the last sheet, in smaller letters when it is wider than the paper. Room for it is kept on every
+/// sheet.
+std::vector<platform::Sheet> layOnPaper(const platform::Recording& drawing, const Footer& footer,
+                                        const platform::Paper& paper,
+                                        const platform::TextMetrics& metrics);
+
+} // namespace viewer

@@ -1,0 +1,145 @@
+#include "platform/qt/escape_watch.h"
+#include "platform/qt/look/scroll_bar.h"
+#include "printing/print_case.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QKeyEvent>
+
+namespace {
+
+using PagePrinter = test_support::PrintCase;
+
+TEST_F(PagePrinter, aPageAloneHasItsColumnInTheMiddleAndNoMention) {
+    open({record(2, "2", "2",
+                 QStringLiteral("Gauche¶\r\n##ALDR\r\n##BOL1\r\nDroite¶\r\n##BOL0\r\n"))});
+    const auto pdf = print();
+    EXPECT_EQ(pdf.sheets(), (QList<QStringList>{{"Gauche", "Droite", footer()}}));
+
+    const auto words = pdf.words();
+    ASSERT_GE(words.size(), 3);
+    const platform::Paper paper = printer.paper();
+    const double left = paper.left + (paper.printableWidth - 9000) / 2;
+    EXPECT_NEAR(words[0].left, left, 20);
+    EXPECT_NEAR(words[1].right, left + 9000, 20);
+    // The footer is centred, two lines above the foot of what can be printed.
+    platform::Font font;
+    const double height = bench->fonts.height(font);
+    EXPECT_NEAR(words.last().right + words[2].left, paper.width, 30);
+    EXPECT_NEAR((words[2].top + words[2].bottom) / 2,
+                paper.top + paper.printableHeight - 1.5 * height, 40);
+
+    const QString used = pdf.listed("pdffonts").join(u'\n');
+    for (const char* face : {"LiberationSans ", "LiberationSans-Bold "})
+        EXPECT_TRUE(used.contains(QLatin1String(face))) << qPrintable(used);
+}
+
+TEST_F(PagePrinter, aRangeIsOneJobInTheOrderOfThePageNumbers) {
+    open({record(13, "11", "13"), record(11, "1", "1"), record(12, "0", "0")});
+    EXPECT_EQ(print().sheets(), (QList<QStringList>{{"Voici la page 11", footer(" - page 1")},
+                                                    {"Voici la page 12", footer(" - page 2")},
+                                                    {"Voici la page 13", footer(" - page 3")}}));
+}
+
+TEST_F(PagePrinter, rangesAsTheFieldsHaveThem) {
+    const struct {
+        const char* first;
+        const char* last;
+        QList<int> pages;
+    } rows[] = {
+        {"2", "4", {2, 5, 4}},           // a number without a page has the first record
+        {"4", "6", {4, 4, 4}},           // beyond the table the record before stays
+        {"-2", "0", {5, 5, 5}},          // also on the other side; number 0 has the first record
+        {"", "", {5}},                   // blank fields read as 0
+        {"", "2", {5, 5, 2}},            //
+        {" 2x", "2.4", {2}},             // as numbers are read everywhere
+        {"99999999999", "2", {5, 5, 2}}, // what fits no page number counts as 0
+        {"4", "2", {}},
+        {"4", "", {}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.first + std::string(" to ") + row.last);
+        open({record(5, row.first, row.last), record(2, "", ""), record(4, "", "")});
+        // Number 5 is the highest of the table; it is out of the way.
+        bench->state.PageByNumber->resize(6);
+        QFile::remove(path());
+        if (row.pages.isEmpty()) {
+            test_support::CountingPrinter counting;
+            EXPECT_FALSE(pages(counting).imprimepage());
+            EXPECT_EQ(counting.jobs + counting.sheets, 0);
+            continue;
+        }
+        const auto sheets = print().sheets();
+        ASSERT_EQ(sheets.size(), row.pages.size());
+        for (qsizetype i = 0; i < sheets.size(); ++i)
+            EXPECT_EQ(sheets[i].first(), QStringLiteral("Voici la page %1").arg(row.pages[i]));
+        EXPECT_EQ(bench->bound.TextID, "5");
+    }
+}
+
+TEST_F(PagePrinter, theScreenIsLeftAlone) {
+    const QString tall = QStringLiteral("Une ligne¶\r\n##IMAABSENTE.BMP\r\n").repeated(120);
+    open({record(1, "1", "2", tall),
+          record(2, "", "", "##OBJILLUS\r\nnulle part¶\r\n##OBJPRINCIPAL\r\n##SI24\r\n")});
+    auto* bar = bench->control<platform::look::ScrollBar>("VScroll1");
+    bar->setValue(bar->minimum() / 2);
+    const auto seen = [&] {
+        return std::tuple(bench->window.recording().size(), bar->minimum(), bar->maximum(),
+                          bar->value(), bar->isVisible(), bench->window.grab().toImage(),
+                          bench->window.windowTitle(), bench->window.code().text(),
+                          bench->bound.TextID, bench->state.HistoryPos,
+                          bench->window.cursor().shape(), bench->drawing.surfaceDessin,
+                          bench->drawing.fenetreSource, bench->drawing.enImpression);
+    };
+    const auto before = seen();
+    const auto sheets = print().sheets();
+    EXPECT_TRUE(before == seen());
+    EXPECT_EQ(bench->drawing.hauteurPage, 0);
+    bar->setValue(bar->minimum());
+    EXPECT_EQ(bar->value(), bar->minimum());
+    // The illustration is not printed; the footer has the letters of the page's end.
+    ASSERT_EQ(sheets.size(), 3);
+    EXPECT_EQ(sheets.last(), QStringList{footer(" - page 2")});
+    const auto words = test_support::PrintedPdf(path()).words();
+    EXPECT_GT(words.last().bottom - words.last().top, 240) << "larger than 10 points";
+}
+
+TEST_F(PagePrinter, aJobIsBoundedAndEndsAfterTheSheetInWorkWhenStopped) {
+    open({record(1, "1", "2000000000")});
+    test_support::CountingPrinter counting;
+    pages(counting).imprimepage();
+    EXPECT_EQ(counting.sheets, viewer::kMaxPrintedPages);
+    EXPECT_EQ(counting.ended, 1);
+
+    // The window's own messages, as they come while a sheet is being printed.
+    const std::pair<const char*, std::function<QEvent*()>> rows[] = {
+        {"Escape", [] { return new QKeyEvent(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier); }},
+        {"close", [] { return new QEvent(QEvent::Close); }},
+    };
+    for (const auto& [name, event] : rows) {
+        SCOPED_TRACE(name);
+        test_support::CountingPrinter stopped;
+        QWidget other;
+        stopped.whilePrinting = [&, make = event] {
+            if (stopped.sheets == 3)
+                QCoreApplication::postEvent(&other, make());
+        };
+        platform::EscapeWatch escape;
+        pages(stopped, [&] { return escape.isAsked(); }).imprimepage();
+        EXPECT_EQ(stopped.sheets, 3);
+        EXPECT_EQ(stopped.ended, 1);
+        EXPECT_EQ(bench->bound.TextID, "1");
+    }
+}
+
+TEST_F(PagePrinter, withoutAPrinterNothingHappens) {
+    open({record(1, "1", "2"), record(2, "", "")});
+    printer.device().setOutputFormat(QPrinter::PdfFormat);
+    printer.device().setOutputFileName(directory.filePath("nulle/part.pdf"));
+    EXPECT_TRUE(pages(printer).imprimepage());
+    EXPECT_FALSE(printer.error().isEmpty());
+    EXPECT_EQ(bench->bound.TextID, "1");
+    EXPECT_EQ(print().sheets().size(), 2) << "the next job is not affected";
+}
+
+} // namespace

@@ -1,0 +1,77 @@
+#pragma once
+
+#include "platform/qt/qt_printer.h"
+#include "printing/printed_pdf.h"
+#include "viewer/page_printer.h"
+#include "viewer/window_bench.h"
+
+#include <QPrinter>
+#include <QTemporaryDir>
+
+namespace test_support {
+
+/// A printer that counts; nothing is printed.
+class CountingPrinter : public platform::Printer {
+public:
+    platform::Paper paper() const override { return platform::kPlainPaper; }
+    bool begin(const QString&) override { return ++jobs > 0; }
+    bool print(const platform::Sheet&) override {
+        ++sheets;
+        if (whilePrinting)
+            whilePrinting();
+        return true;
+    }
+    bool end() override { return ++ended > 0; }
+    QString error() const override { return {}; }
+
+    std::function<void()> whilePrinting;
+    int jobs = 0, sheets = 0, ended = 0;
+};
+
+/// Prints from the real main window on a course in memory, into a PDF file.
+class PrintCase : public testing::Test {
+protected:
+    static MemoryRecordset::Record record(int number, const QString& first, const QString& last,
+                                          const QString& source = {}) {
+        const QString text = QStringLiteral("Voici la page %1¶\r\n").arg(number);
+        return page(number, source.isEmpty() ? text : source,
+                    {{QStringLiteral("imprimable"), true},
+                     {QStringLiteral("debutimp"), first},
+                     {QStringLiteral("finimp"), last}});
+    }
+
+    viewer::PagePrinter pages(platform::Printer& device, std::function<bool()> isStopped = {}) {
+        return viewer::PagePrinter({bench->state, bench->bound, bench->pages, bench->window,
+                                    bench->drawing, bench->window, bench->window, bench->pictures,
+                                    bench->fonts, device, std::move(isStopped)});
+    }
+
+    /// Opens the course at its first record.
+    void open(QList<MemoryRecordset::Record> course) {
+        bench = std::make_unique<WindowBench>(std::move(course));
+        bench->start();
+    }
+
+    /// The sheets that the current record gives.
+    PrintedPdf print() {
+        printer.device().setOutputFormat(QPrinter::PdfFormat);
+        printer.device().setOutputFileName(path());
+        EXPECT_TRUE(pages(printer).imprimepage());
+        EXPECT_EQ(printer.error(), QString());
+        return PrintedPdf(path());
+    }
+
+    QString path() const { return directory.filePath(QStringLiteral("pages.pdf")); }
+
+    static QString footer(const QString& mention = {}) {
+        return QStringLiteral("Orvalente - Physique et chimie, collège et lycée - © KAROPE 2026") +
+               mention;
+    }
+
+    QTemporaryDir directory;
+    platform::FontBook fonts;
+    platform::QtPrinter printer{fonts};
+    std::unique_ptr<WindowBench> bench;
+};
+
+} // namespace test_support

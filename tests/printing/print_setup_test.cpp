@@ -1,0 +1,127 @@
+#include "platform/qt/print_setup.h"
+#include "platform/qt/print_setup_dialog.h"
+#include "support/fake_prompter.h"
+#include "support/files.h"
+#include "support/printing.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSpinBox>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+namespace {
+
+using Outcome = platform::PrinterSetup::Outcome;
+using platform::Answer;
+
+class PrintSetup : public testing::Test {
+protected:
+    static QPushButton* button(QWidget& dialog, const QString& caption) {
+        for (auto* candidate : dialog.findChildren<QPushButton*>())
+            if (candidate->text().remove(u'&') == caption)
+                return candidate;
+        ADD_FAILURE() << "no button " << qPrintable(caption);
+        return nullptr;
+    }
+
+    QString path(const QString& name) const { return directory.filePath(name); }
+
+    QTemporaryDir directory;
+    test_support::FakePrompter prompter;
+};
+
+TEST_F(PrintSetup, theControlsGiveTheLayout) {
+    platform::PrintSetupDialog dialog({QPageLayout(QPageSize(QPageSize::A5), QPageLayout::Landscape,
+                                                   {12, 13, 14, 15}, QPageLayout::Millimeter),
+                                       path("a.pdf")},
+                                      prompter, nullptr);
+    const auto shown = dialog.settings();
+    EXPECT_EQ(shown.layout.pageSize().id(), QPageSize::A5);
+    EXPECT_EQ(shown.layout.orientation(), QPageLayout::Landscape);
+    EXPECT_EQ(shown.layout.margins(QPageLayout::Millimeter), QMarginsF(12, 13, 14, 15));
+    EXPECT_EQ(shown.file, path("a.pdf"));
+
+    dialog.show();
+    dialog.findChild<QComboBox*>()->setCurrentText("A3");
+    dialog.findChildren<QRadioButton*>().first()->click();
+    dialog.findChildren<QSpinBox*>().first()->setValue(25);
+    auto* file = dialog.findChild<QLineEdit*>("file");
+    file->setText(path("b"));
+    button(dialog, "OK")->click();
+    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    const auto chosen = dialog.settings();
+    EXPECT_EQ(chosen.layout.pageSize().id(), QPageSize::A3);
+    EXPECT_EQ(chosen.layout.orientation(), QPageLayout::Portrait);
+    EXPECT_EQ(chosen.layout.margins(QPageLayout::Millimeter), QMarginsF(25, 13, 14, 15));
+    EXPECT_EQ(chosen.file, path("b.pdf"));
+}
+
+TEST_F(PrintSetup, onlyAFileThatCanBeWrittenIsConfirmed) {
+    test_support::writeFile(path("la.pdf"), "contenu");
+    const struct {
+        QString file;
+        std::deque<Answer> answers;
+        const char* said; ///< what the message has
+        bool isConfirmed;
+    } rows[] = {
+        {"", {}, "Donnez un nom", false},
+        {directory.path(), {}, "dossier", false},
+        {path("nulle/part.pdf"), {}, "n’existe pas", false},
+        {path("la.pdf"), {Answer::No}, "Le remplacer", false},
+        {path("la.pdf"), {Answer::Yes}, "Le remplacer", true},
+        {path("neuf.pdf"), {}, nullptr, true},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(qPrintable(row.file));
+        prompter.messages.clear();
+        prompter.answers = row.answers;
+        platform::PrintSetupDialog dialog({QPageLayout(), row.file}, prompter, nullptr);
+        dialog.show();
+        dialog.accept();
+        EXPECT_EQ(dialog.result() == QDialog::Accepted, row.isConfirmed);
+        EXPECT_EQ(prompter.messages.size(), row.said ? 1u : 0u);
+        const QString said = prompter.messages.empty() ? QString() : prompter.messages[0].text;
+        EXPECT_TRUE(said.contains(QString::fromUtf8(row.said))) << qPrintable(said);
+    }
+    EXPECT_EQ(test_support::readFile(path("la.pdf")), "contenu") << "only printing replaces it";
+}
+
+TEST_F(PrintSetup, whatWasChosenHoldsForTheRun) {
+    if (!QPrinterInfo::availablePrinterNames().isEmpty())
+        GTEST_SKIP() << "this computer has a printer";
+    platform::FontBook fonts;
+    platform::QtPrinter printer(fonts);
+    platform::QtPrinterSetup setup(printer, prompter);
+    const auto answer = [&](const std::function<void(QWidget&)>& person) {
+        QTimer::singleShot(0, [&person] { person(*QApplication::activeModalWidget()); });
+        return setup.ask();
+    };
+    EXPECT_EQ(answer([](QWidget& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); }),
+              Outcome::Cancelled);
+    EXPECT_EQ(answer([](QWidget& dialog) { dialog.close(); }), Outcome::Cancelled);
+    EXPECT_EQ(answer([&](QWidget& dialog) {
+                  dialog.findChild<QLineEdit*>("file")->setText(path("a.pdf"));
+                  dialog.findChild<QComboBox*>()->setCurrentText("A5");
+                  QTest::keyClick(&dialog, Qt::Key_Return);
+              }),
+              Outcome::Confirmed);
+    EXPECT_EQ(printer.device().outputFileName(), path("a.pdf"));
+    EXPECT_NEAR(printer.paper().width, 148 / 25.4 * 1440, 15);
+    EXPECT_NEAR(printer.paper().left, 10 / 25.4 * 1440, 15);
+    EXPECT_EQ(answer([&](QWidget& dialog) {
+                  EXPECT_EQ(dialog.findChild<QLineEdit*>("file")->text(), path("a.pdf"));
+                  EXPECT_EQ(dialog.findChild<QComboBox*>()->currentText(), "A5");
+                  button(dialog, "Annuler")->click();
+              }),
+              Outcome::Cancelled);
+    EXPECT_EQ(answer([](QWidget&) { QCoreApplication::exit(); }), Outcome::Gone);
+}
+
+} // namespace
