@@ -20,17 +20,4 @@ private:
     QString sentence_;
 };
 
-class MissingVideo : public viewer::VideoDevice {
-public:
-    explicit MissingVideo(shell::ReportSink& reports) : reports_(reports) {}
-
-    void close() override {}
-    void press(int) override {
-        reports_.report(QStringLiteral("Cette édition ne lit pas encore les vidéos."));
-    }
-
-private:
-    shell::ReportSink& reports_;
-};
-
 } // namespace app

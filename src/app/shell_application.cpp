@@ -3,6 +3,7 @@
 #include "app/course_data.h"
 #include "app/missing_parts.h"
 #include "app/prompted_display_warning.h"
+#include "app/video_loader.h"
 #include "calculator/machine_opener.h"
 #include "exercises/exo_opener.h"
 #include "markup/renderer.h"
@@ -25,6 +26,7 @@
 #include "viewer/link_controls.h"
 #include "viewer/main_commands.h"
 #include "viewer/multim.h"
+#include "viewer/page_video.h"
 #include "viewer/print_command.h"
 
 #ifdef ORVALENTE_X11
@@ -97,7 +99,7 @@ public:
 struct ShellApplication::Parts {
     Parts(const CommandLine& commandLine, double scale)
         : screen(scale), window(state, fonts, screen),
-          launcher(state, prompter, processes, activator, window), modules(launcher), video(window),
+          launcher(state, prompter, processes, activator, window), modules(launcher),
           links(window, fonts, drawing.links),
           orderForm(window, QStringLiteral("Cette édition n’a pas encore de bon de commande.")),
           search(window, QStringLiteral("Cette édition n’a pas encore la recherche.")),
@@ -132,7 +134,6 @@ struct ShellApplication::Parts {
     viewer::Multim window;
     shell::Launcher launcher;
     LaunchedModules modules;
-    MissingVideo video;
     viewer::LinkControls links;
     MissingWindow orderForm, search, help, installation;
     Calculator calculator;
@@ -141,6 +142,7 @@ struct ShellApplication::Parts {
     platform::MountedDrives drives;
     platform::QtBeeper beeper;
     shell::DataLocation location{state, drives, prompter, beeper};
+    viewer::PageVideo video{state, drawing, location, window, &loadVideoDevice};
     viewer::ImageList symbols;
     viewer::CoursePictures pictures{location, symbols};
     exercises::ExoOpener exercise;

@@ -30,8 +30,6 @@ constexpr QRect kToolbar(0, 0, 800, 64);
 constexpr QRect kRail(8, 72, 152, 520);
 constexpr QRect kTitle(176, 72, 600, 32);
 constexpr QRect kPanel(168, 112, 624, 440);
-constexpr QRect kVideoClosed(168, 488, 624, 64);
-constexpr QRect kVideoOpen(168, 296, 624, 256);
 constexpr QRect kFramebase(168, 560, 624, 32);
 
 /// How long a window takes at most to get the size it asked for.
@@ -99,21 +97,6 @@ void Multim::addControls() {
     setVideoLayout(VideoLayout::None);
     button("Command2").setLastingMnemonic(u'S');
     setPrintable(false);
-}
-
-void Multim::setVideoLayout(VideoLayout layout) {
-    struct Heights {
-        int panel;
-        int view;
-    };
-    const Heights heights = layout == VideoLayout::None     ? Heights{kPanel.height(), 424}
-                            : layout == VideoLayout::Closed ? Heights{368, 352}
-                                                            : Heights{176, 160};
-    panel_->setPanelHeight(heights.panel, heights.view);
-    const bool open = layout == VideoLayout::Open;
-    videoFrame_->setGeometry(open ? kVideoOpen : kVideoClosed);
-    videoFrame_->setOpen(open);
-    videoFrame_->setVisible(layout != VideoLayout::None);
 }
 
 bool Multim::Form_Load() {

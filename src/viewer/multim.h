@@ -14,6 +14,7 @@
 #include "viewer/neighbours.h"
 #include "viewer/page_loader.h"
 #include "viewer/page_view.h"
+#include "viewer/video_view.h"
 #include "viewer/window_size_rule.h"
 
 #include <QTimer>
@@ -43,6 +44,7 @@ class VideoFrame;
 /// the next point where it can end.
 class Multim : public QWidget,
                public PageView,
+               public VideoView,
                public markup::PageWindow,
                public markup::SourceWindow,
                public shell::StartUpWindow,
@@ -75,7 +77,6 @@ public:
     /// The frame of the video buttons, and where the video's picture goes.
     enum class VideoLayout { None, Closed, Open };
     void setVideoLayout(VideoLayout layout);
-    VideoFrame& videoFrame() { return *videoFrame_; }
 
     PictureBox& pageArea() { return *PictureTEXTE_; }
     /// The control that shows a surface; the page area for surfaces of other windows.
@@ -117,7 +118,14 @@ public:
     void shareLinkCursor() override;
     void setWidth(double twips) override;
     void place(const shell::Placement& placement) override;
-    void pumpPendingMessages() override;
+    void pumpPendingMessages() override; // of VideoView too
+
+    // VideoView
+    void setPictureVisible(bool visible) override;
+    QSize pictureSize() const override;
+    void showPicture(const QImage& picture) override;
+    void setMarkerWidth(double twips) override;
+    void setVideoStatus(const QString& words, bool playing) override;
 
     // shell::ReportSink
     void report(const QString& line) override;
@@ -171,6 +179,9 @@ private:
     void Command8_Click();
     void Command14_Click();
     void Image4_Click(int index);
+    void projo_Click();
+    bool hasVideoMenu() const;
+    void chooseVideo(const QString& caption);
 
     shell::SharedState& state_;
     const platform::FontBook& fonts_;
@@ -185,6 +196,7 @@ private:
     Rail* rail_ = nullptr;
     PagePanel* panel_ = nullptr;
     VideoFrame* videoFrame_ = nullptr;
+    VideoLayout videoLayout_ = VideoLayout::None;
     ChapterBar* Framebase_ = nullptr;
     Cover* cover_ = nullptr;
     PictureBox* PictureTEXTE_ = nullptr;

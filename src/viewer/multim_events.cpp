@@ -59,6 +59,7 @@ void Multim::connectHandlers() {
         connect(&button(row.name), &QPushButton::clicked, this,
                 [this, click = row.click] { (this->*click)(); });
     videoFrame_->onImage4_Click([this](int index) { Image4_Click(index); });
+    videoFrame_->projo().onClick([this] { projo_Click(); });
 }
 
 void Multim::work(const std::function<void()>& task) {
@@ -140,10 +141,6 @@ void Multim::Command8_Click() {
 
 void Multim::Command14_Click() {
     close();
-}
-
-void Multim::Image4_Click(int index) {
-    work([this, index] { parts_->neighbours.video.press(index); });
 }
 
 void Multim::keyPressEvent(QKeyEvent* event) {

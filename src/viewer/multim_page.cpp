@@ -163,10 +163,6 @@ void Multim::reveal(const QRect& part) {
     panel_->reveal(part);
 }
 
-void Multim::showVideoFrame() {
-    setVideoLayout(VideoLayout::Closed);
-}
-
 void Multim::preparePrinter() {
     parts_->neighbours.printing.prepare();
 }

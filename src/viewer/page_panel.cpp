@@ -52,6 +52,12 @@ void PagePanel::setPanelHeight(int height, int viewHeight) {
 void PagePanel::fitPage() {
     const int pageHeight = page_->pageHeightPx();
     page_->resize(kPageWidth, pageHeight);
+    VScroll1_->setValue(0);
+    fitView();
+}
+
+void PagePanel::fitView() {
+    const int pageHeight = page_->pageHeightPx();
     geometry_ = {VScroll1_->height() * kTwips, pageHeight * kTwips};
     const int lowest = geometry_.isNeeded() ? geometry_.maximum() : 0;
     // The value runs from 0 at the page's top down to a negative "maximum", which Qt calls the
@@ -59,7 +65,6 @@ void PagePanel::fitPage() {
     VScroll1_->setRange(lowest, 0);
     VScroll1_->setSingleStep(ScrollGeometry::kSmallChange);
     VScroll1_->setPageStep(geometry_.largeChange());
-    VScroll1_->setValue(0);
     VScroll1_Change();
     VScroll1_->setVisible(geometry_.isNeeded());
 }

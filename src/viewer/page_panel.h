@@ -33,6 +33,8 @@ public:
 
     /// Shows the page from its top and sets the scroll bar up for its height.
     void fitPage();
+    /// The same after the view alone has changed: the page stays where it is as far as it can.
+    void fitView();
 
     /// Moves the page by lines of running text or by screens, down for positive counts.
     void scrollLines(double count);

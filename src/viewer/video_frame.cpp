@@ -4,7 +4,10 @@
 #include "platform/qt/look/interface_font.h"
 #include "platform/qt/look/palette.h"
 #include "platform/qt/look/pixels.h"
+#include "platform/twips.h"
 
+#include <QCursor>
+#include <QKeyEvent>
 #include <QPainter>
 
 #include <array>
@@ -54,11 +57,10 @@ constexpr std::array<Row, 7> kRows = {{
 } // namespace
 
 VideoFrame::VideoFrame(QWidget* parent)
-    : QWidget(parent), projo_(new QWidget(this)), buttons_(new QWidget(this)) {
+    : QWidget(parent), projo_(new VideoPicture(this)), buttons_(new QWidget(this)) {
     setObjectName(QStringLiteral("videoFrame"));
     setAccessibleName(QStringLiteral("Vidéo de la page"));
-    projo_->setObjectName(QStringLiteral("projo"));
-    projo_->setAccessibleName(QStringLiteral("Image de la vidéo"));
+    setFocusPolicy(Qt::TabFocus);
     projo_->setGeometry(kPicture);
     projo_->hide();
     addButtons();
@@ -74,10 +76,8 @@ void VideoFrame::addButtons() {
         button->setToolTip(QString::fromUtf8(row.toolTip));
         button->setAccessibleName(button->toolTip());
         button->setGeometry(QRect(QPoint(x, 0), kButton));
-        connect(button, &QPushButton::clicked, this, [this, index = row.index] {
-            if (pressed_)
-                pressed_(index);
-        });
+        connect(button, &QPushButton::clicked, this, [this, index = row.index] { press(index); });
+        button->installEventFilter(this);
         x += kButton.width();
     }
 }
@@ -89,21 +89,83 @@ void VideoFrame::setOpen(bool open) {
     update();
 }
 
-void VideoFrame::setProgress(double share) {
-    progress_ = qBound(0.0, share, 1.0);
+void VideoFrame::setMarkerWidth(double twips) {
+    markerPx_ = qBound(0.0, twips / platform::kTwipsPerPixel, kMarker.width());
     update();
 }
 
-void VideoFrame::setStatus(const QString& status) {
+void VideoFrame::setStatus(const QString& status, bool playing) {
+    playing_ = playing;
+    if (status == status_)
+        return;
     status_ = status;
     setAccessibleDescription(status);
     update();
 }
 
+QPoint VideoFrame::menuPlace() const {
+    return underMouse() ? QCursor::pos() : projo_->mapToGlobal(QPoint(0, 0));
+}
+
+void VideoFrame::press(int index) {
+    // The buttons leave the keyboard where it is; who clicks one goes on with keys all the same.
+    QWidget* focused = window()->focusWidget();
+    if (focused != this && !isAncestorOf(focused))
+        setFocus(Qt::MouseFocusReason);
+    if (pressed_)
+        pressed_(index);
+}
+
+void VideoFrame::mousePressEvent(QMouseEvent*) {
+    setFocus(Qt::MouseFocusReason);
+}
+
+bool VideoFrame::pressForKey(int key) {
+    switch (key) {
+    case Qt::Key_Left:
+    case Qt::Key_Up:
+        press(4);
+        return true;
+    case Qt::Key_Right:
+    case Qt::Key_Down:
+        press(1);
+        return true;
+    case Qt::Key_Home:
+        press(6);
+        return true;
+    case Qt::Key_End:
+        press(5);
+        return true;
+    default:
+        return false;
+    }
+}
+
+void VideoFrame::keyPressEvent(QKeyEvent* event) {
+    if (event->modifiers() & ~Qt::KeyboardModifiers(Qt::KeypadModifier))
+        QWidget::keyPressEvent(event);
+    else if (event->key() == Qt::Key_Space)
+        press(playing_ ? 2 : 0);
+    else if (!pressForKey(event->key()))
+        QWidget::keyPressEvent(event);
+}
+
+/// On a button, Space presses that one.
+bool VideoFrame::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        if (!(key->modifiers() & ~Qt::KeyboardModifiers(Qt::KeypadModifier)) &&
+            pressForKey(key->key()))
+            return true;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
 void VideoFrame::paintEvent(QPaintEvent*) {
     using namespace platform::look;
     QPainter painter(this);
-    drawFrame(painter, rect(), 0, kRule, QColor::fromRgb(kPaper));
+    drawFrame(painter, rect(), 0, hasFocus() ? kBlue : kRule, QColor::fromRgb(kPaper),
+              hasFocus() ? 2 : 1);
 
     const double left = open_ ? kWordsLeftOpen : kWordsLeftClosed;
     sign_.paint(painter, {left, kSignTop, kSignPx, kSignPx}, Icon::Style::Coloured);
@@ -120,13 +182,17 @@ void VideoFrame::paintEvent(QPaintEvent*) {
         painter.fillRect(QRectF(keys.left() + static_cast<double>(i) * kButton.width(),
                                 keys.top() + 1, crisp(painter), keys.height() - 2),
                          QColor::fromRgb(kRule));
+    paintMarker(painter);
+}
 
+void VideoFrame::paintMarker(QPainter& painter) const {
+    using namespace platform::look;
     QRectF marker(QPointF(kButtonsLeft, height() - kMarkerAbove), kMarker);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor::fromRgb(kVideoTrack));
     painter.drawRoundedRect(marker, 2, 2);
-    marker.setWidth(marker.width() * progress_);
+    marker.setWidth(markerPx_);
     painter.setBrush(QColor::fromRgb(kBlue));
     painter.drawRoundedRect(marker, 2, 2);
 }

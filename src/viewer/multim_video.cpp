@@ -1,0 +1,118 @@
+// The main window as the page's video sees it.
+
+#include "platform/qt/look/interface_font.h"
+#include "platform/qt/look/menu_style.h"
+#include "platform/twips.h"
+#include "viewer/multim.h"
+#include "viewer/page_panel.h"
+#include "viewer/video_frame.h"
+#include "viewer/video_menu.h"
+
+#include <QMenu>
+
+namespace viewer {
+
+namespace {
+
+constexpr QRect kVideoClosed(168, 488, 624, 64);
+constexpr QRect kVideoOpen(168, 296, 624, 256);
+
+struct Heights {
+    int panel;
+    int view;
+};
+
+Heights heightsBeside(Multim::VideoLayout layout) {
+    switch (layout) {
+    case Multim::VideoLayout::None:
+        return {440, 424};
+    case Multim::VideoLayout::Closed:
+        return {368, 352};
+    default:
+        return {176, 160};
+    }
+}
+
+} // namespace
+
+void Multim::setVideoLayout(VideoLayout layout) {
+    videoLayout_ = layout;
+    const Heights heights = heightsBeside(layout);
+    panel_->setPanelHeight(heights.panel, heights.view);
+    const bool open = layout == VideoLayout::Open;
+    videoFrame_->setGeometry(open ? kVideoOpen : kVideoClosed);
+    videoFrame_->setOpen(open);
+    videoFrame_->setVisible(layout != VideoLayout::None);
+}
+
+void Multim::showVideoFrame() {
+    const bool menu = hasVideoMenu();
+    videoFrame_->setMarkerWidth(0);
+    videoFrame_->setStatus({}, false);
+    videoFrame_->projo().showWords(menu ? QStringLiteral("Choisir une vidéo…") : QString());
+    // The menu belongs to the picture, which shows before there is a video.
+    setVideoLayout(menu ? VideoLayout::Open : VideoLayout::Closed);
+}
+
+bool Multim::hasVideoMenu() const {
+    return parts_ && !videoMenuCaptions(parts_->renderer.state().videoPage).isEmpty();
+}
+
+void Multim::setPictureVisible(bool visible) {
+    // Without the frame, on a page without a video, there is nothing to show.
+    const VideoLayout layout = visible ? VideoLayout::Open : VideoLayout::Closed;
+    if (videoLayout_ == VideoLayout::None || videoLayout_ == layout)
+        return;
+    setVideoLayout(layout);
+    panel_->fitView();
+}
+
+QSize Multim::pictureSize() const {
+    return videoFrame_->projo().pictureSize();
+}
+
+void Multim::showPicture(const QImage& picture) {
+    videoFrame_->projo().showPicture(picture);
+}
+
+void Multim::setMarkerWidth(double twips) {
+    videoFrame_->setMarkerWidth(twips);
+}
+
+void Multim::setVideoStatus(const QString& words, bool playing) {
+    videoFrame_->setStatus(words, playing);
+}
+
+void Multim::Image4_Click(int index) {
+    if (hasVideoMenu())
+        projo_Click();
+    else
+        work([this, index] { parts_->neighbours.video.press(index); });
+}
+
+/// Where the picture has a menu, that comes up.
+void Multim::projo_Click() {
+    if (working_ || !hasVideoMenu())
+        return;
+    auto* MVideo = new QMenu(this);
+    MVideo->setObjectName(QStringLiteral("MVideo"));
+    MVideo->setAccessibleName(QStringLiteral("Vidéos"));
+    MVideo->setStyle(new platform::look::MenuStyle(MVideo));
+    MVideo->setFont(platform::look::interfaceFont(platform::look::kLabelPx));
+    for (const QString& caption : videoMenuCaptions(parts_->renderer.state().videoPage))
+        connect(MVideo->addAction(caption), &QAction::triggered, this,
+                [this, caption] { chooseVideo(caption); });
+    connect(MVideo, &QMenu::aboutToHide, MVideo, &QObject::deleteLater);
+    MVideo->popup(videoFrame_->menuPlace());
+    MVideo->setActiveAction(MVideo->actions().constFirst());
+}
+
+void Multim::chooseVideo(const QString& caption) {
+    work([this, caption] {
+        parts_->neighbours.video.close();
+        if (const auto target = videoMenuTarget(caption, parts_->pages.records(), summaryCode_))
+            parts_->commands.runCode(*target);
+    });
+}
+
+} // namespace viewer

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "markup/drawing_state.h"
+#include "platform/video.h"
+#include "shell/data_location.h"
+#include "shell/shared_state.h"
+#include "viewer/neighbours.h"
+#include "viewer/video_view.h"
+
+#include <QString>
+
+#include <functional>
+#include <memory>
+
+namespace viewer {
+
+/// The page's video on the device `MMControl1`, which the first use of a button makes: pages
+/// without a video, and those whose video nobody looks at, do without. Whatever the device cannot
+/// do leaves the display as it was; no message says so.
+class PageVideo : public VideoDevice, private platform::VideoListener {
+public:
+    /// The marker of a video at its end.
+    static constexpr double kMarkerTwips = 3255;
+
+    /// Makes the device; null when there is none. Not asked again before the next opening.
+    using DeviceMaker = std::function<std::unique_ptr<platform::Video>()>;
+
+    /// The page's video is the one that `drawing` names.
+    PageVideo(shell::SharedState& state, const markup::DrawingState& drawing,
+              shell::DataLocation& location, VideoView& view, DeviceMaker makeDevice);
+
+    // VideoDevice
+    void close() override;
+    void press(int index) override;
+
+private:
+    void openVideo();
+    QString locate(const QString& name);
+    bool haveDevice();
+    void send(platform::Video::Command command) { MMControl1_->send(command); }
+    void rewind();
+    void play();
+    void showFrom(int frame);
+    bool atEnd() const;
+
+    // platform::VideoListener
+    void statusUpdated() override;
+    void playEnded() override;
+
+    shell::SharedState& state_;
+    const markup::DrawingState& drawing_;
+    shell::DataLocation& location_;
+    VideoView& view_;
+    DeviceMaker makeDevice_;
+    std::unique_ptr<platform::Video> MMControl1_;
+};
+
+} // namespace viewer

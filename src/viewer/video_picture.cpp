@@ -1,0 +1,59 @@
+#include "viewer/video_picture.h"
+
+#include "platform/qt/look/interface_font.h"
+#include "platform/qt/look/palette.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace viewer {
+
+namespace {
+
+/// Until the first picture is there; dark as its margins.
+constexpr QRgb kGround = 0xff10222f;
+
+} // namespace
+
+VideoPicture::VideoPicture(QWidget* parent) : QWidget(parent) {
+    setObjectName(QStringLiteral("projo"));
+    setAccessibleName(QStringLiteral("Image de la vidéo"));
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+QSize VideoPicture::pictureSize() const {
+    return (QSizeF(size()) * devicePixelRatioF()).toSize();
+}
+
+void VideoPicture::showPicture(const QImage& picture) {
+    picture_ = picture;
+    update();
+}
+
+void VideoPicture::showWords(const QString& words) {
+    picture_ = {};
+    words_ = words;
+    setAccessibleDescription(words);
+    setCursor(words.isEmpty() ? Qt::ArrowCursor : Qt::PointingHandCursor);
+    update();
+}
+
+void VideoPicture::paintEvent(QPaintEvent*) {
+    using namespace platform::look;
+    QPainter painter(this);
+    if (!picture_.isNull()) {
+        painter.drawImage(rect(), picture_);
+        return;
+    }
+    painter.fillRect(rect(), QColor::fromRgb(kGround));
+    painter.setPen(QColor::fromRgb(kPaper));
+    painter.setFont(interfaceFont(kLabelPx, Weight::Bold));
+    painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, words_);
+}
+
+void VideoPicture::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton && clicked_)
+        clicked_();
+}
+
+} // namespace viewer

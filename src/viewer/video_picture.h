@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QImage>
+#include <QWidget>
+
+#include <functional>
+
+namespace viewer {
+
+/// `projo`: the picture of a video, or, where the page lets choose a video, an invitation to.
+class VideoPicture : public QWidget {
+public:
+    explicit VideoPicture(QWidget* parent);
+
+    void onClick(std::function<void()> clicked) { clicked_ = std::move(clicked); }
+
+    /// In the pixels of the screen.
+    QSize pictureSize() const;
+    void showPicture(const QImage& picture);
+    /// Shows these words, and no picture.
+    void showWords(const QString& words);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+
+private:
+    QImage picture_;
+    QString words_;
+    std::function<void()> clicked_;
+};
+
+} // namespace viewer

@@ -1,0 +1,100 @@
+#include "viewer/window_case.h"
+
+#include <QMenu>
+#include <QScrollBar>
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using test_support::page;
+using testing::ElementsAre;
+
+/// The main window on pages with a video, with a choice of videos, and with one of the choice.
+class VideoWindow : public test_support::Window {
+protected:
+    VideoWindow() {
+        bench.cours.records[4] = page(5, u"##VIDEOfilm.avi\r\n"_qs + test_support::lines(30));
+        bench.cours.records[5] = page(6, u"##VIDEOMENU01\r\nTexte¶\r\n"_qs);
+        bench.cours.records[6] = page(7, {}, {{u"titre"_qs, u"Diffusion d'un gaz"_qs}});
+    }
+
+    void show(int number) {
+        Window::show(number);
+        bench.neighbours.log.clear();
+    }
+    QWidget* frame() { return bench.control<QWidget>("videoFrame"); }
+    QMenu* menu() {
+        for (QMenu* each : bench.window.findChildren<QMenu*>(u"MVideo"_qs))
+            if (each->isVisible())
+                return each;
+        return nullptr;
+    }
+};
+
+TEST_F(VideoWindow, KeysWorkOnTheFrameAndItsButtons) {
+    show(5);
+    click("Image4_0"); // leads the keyboard here
+    ASSERT_TRUE(frame()->hasFocus());
+    const int before = scrolled();
+    bench.window.setVideoStatus(u"Lecture en cours"_qs, true);
+    QTest::keyClick(frame(), Qt::Key_Space);
+    bench.window.setVideoStatus(u"En pause"_qs, false);
+    for (const int key : {Qt::Key_Space, Qt::Key_Right, Qt::Key_Left, Qt::Key_Home, Qt::Key_End})
+        QTest::keyClick(frame(), Qt::Key(key));
+    bench.control("Image4_3")->setFocus(Qt::TabFocusReason);
+    for (const int key : {Qt::Key_Down, Qt::Key_Up, Qt::Key_Space})
+        QTest::keyClick(bench.control("Image4_3"), Qt::Key(key));
+    QStringList pressed = bench.neighbours.log.filter(u"video "_qs);
+    EXPECT_EQ(pressed.replaceInStrings(u"video "_qs, QString()).join(u' '),
+              u"0 2 0 1 4 6 5 1 4 3"_qs);
+    EXPECT_EQ(scrolled(), before);
+    QTest::keyClick(frame(), Qt::Key_Left, Qt::AltModifier);
+    EXPECT_EQ(shown(), u"1"_qs);
+}
+
+TEST_F(VideoWindow, PictureComesAndGoesUnderTheSamePage) {
+    show(5);
+    auto* bar = bench.control<QScrollBar>("VScroll1");
+    QTest::qWait(0);
+    press(Qt::Key_PageDown);
+    const int at = scrolled();
+    EXPECT_GT(at, 0);
+    const int range = bar->minimum();
+    bench.window.setPictureVisible(true);
+    EXPECT_TRUE(bench.control<QWidget>("projo")->isVisible());
+    EXPECT_EQ(scrolled(), at);
+    EXPECT_EQ(bar->minimum(), range - (352 - 160) * 15);
+    bench.window.setPictureVisible(false);
+    EXPECT_FALSE(bench.control<QWidget>("projo")->isVisible());
+    EXPECT_EQ(bar->minimum(), range);
+    // Nothing to show on a page without a video.
+    show(3);
+    bench.window.setPictureVisible(true);
+    EXPECT_FALSE(frame()->isVisible());
+}
+
+TEST_F(VideoWindow, MenuOfThePictureLeadsToTheChosenPage) {
+    show(5);
+    click("projo");
+    EXPECT_EQ(menu(), nullptr);
+    show(6);
+    for (const char* control : {"projo", "Image4_0"}) {
+        ASSERT_TRUE(bench.control<QWidget>(control)->isVisible());
+        click(control);
+        ASSERT_TRUE(menu()) << control;
+        EXPECT_EQ(menu()->actions().size(), 2);
+        menu()->close();
+    }
+    QTest::keyClick(frame(), Qt::Key_Space);
+    ASSERT_TRUE(menu());
+    EXPECT_TRUE(bench.neighbours.log.isEmpty());
+    // A page that does not exist: only the picture goes.
+    menu()->actions()[0]->trigger();
+    EXPECT_EQ(shown(), u"6"_qs);
+    EXPECT_THAT(bench.neighbours.log, ElementsAre(u"close video"_qs));
+    menu()->actions()[1]->trigger();
+    EXPECT_EQ(shown(), u"7"_qs);
+}
+
+} // namespace
