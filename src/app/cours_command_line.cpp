@@ -1,5 +1,6 @@
 #include "app/cours_command_line.h"
 
+#include "app/checked_paths.h"
 #include "app/render_words.h"
 #include "app/whole_number.h"
 #include "coursetool/build.h"
@@ -158,6 +159,13 @@ private:
     }
 
     void addCalc() {
+        print_ = add("print", "Imprime dans un PDF ce que le bouton Imprimer donne sur une page");
+        positional(print_, "DOSSIER", typed_.from, "Dossier d’installation");
+        print_->add_option("--page", typed_.page, "Numéro de la page")->type_name("N");
+        print_->add_option("-o,--output", typed_.output, "Fichier PDF à écrire")
+            ->type_name("FICHIER.pdf");
+        drives(print_);
+
         calc_ = add("calc", "Calcule une expression comme la calculatrice du cours");
         calc_->add_option("EXPRESSION", typed_.expression, "En un seul argument, entre guillemets")
             ->type_name("");
@@ -223,6 +231,8 @@ private:
             return traceCall();
         if (render_->parsed())
             return renderCall();
+        if (print_->parsed())
+            return printCall();
         if (calc_->parsed())
             return calcCall();
         if (answer_->parsed())
@@ -269,7 +279,7 @@ private:
                        pathFrom(typed_.source),
                        {},
                        wholeNumber(typed_.question)};
-        if (const auto wrong = readDrives(call.drives))
+        if (const auto wrong = readDrives(typed_.drives, call.drives))
             return *wrong;
         if (!typed_.source.empty()) {
             if (!typed_.from.empty() || !typed_.page.empty() || !typed_.question.empty())
@@ -297,7 +307,7 @@ private:
         if (const auto* sentence = std::get_if<std::string>(&read))
             return WrongCall{*sentence};
         auto& call = std::get<RenderCall>(read);
-        if (const auto wrong = readDrives(call.drives))
+        if (const auto wrong = readDrives(typed_.drives, call.drives))
             return *wrong;
         const bool intoDirectory = call.all() && call.format != coursetool::RenderFormat::Pdf;
         std::error_code error;
@@ -307,6 +317,20 @@ private:
         if (intoDirectory && fs::exists(call.output, error) &&
             !fs::is_directory(call.output, error))
             return WrongCall{inQuotes(typed_.render.output) + " n’est pas un dossier"};
+        return call;
+    }
+
+    CoursCall printCall() const {
+        if (const auto wrong = notADirectory(typed_.from, "le dossier d’installation"))
+            return *wrong;
+        const auto page = wholeNumber(typed_.page);
+        if (!page)
+            return WrongCall{"il manque « --page N », N un numéro de page"};
+        if (typed_.output.empty())
+            return WrongCall{"il manque « -o FICHIER.pdf »"};
+        PrintCall call{pathFrom(typed_.from), *page, pathFrom(typed_.output), {}};
+        if (const auto wrong = readDrives(typed_.drives, call.drives))
+            return *wrong;
         return call;
     }
 
@@ -337,42 +361,6 @@ private:
         return SymbolsCall{pathFrom(typed_.from)};
     }
 
-    /// Reads "L=DIR"; false when it is not of this form.
-    static bool addDrive(const std::string& typed, std::map<char, fs::path>& drives) {
-        if (typed.size() < 3 || typed[1] != '=')
-            return false;
-        const char letter = static_cast<char>(typed[0] & ~('a' - 'A'));
-        if (letter < 'A' || letter > 'Z')
-            return false;
-        drives.insert_or_assign(letter, pathFrom(typed.substr(2)));
-        return true;
-    }
-
-    std::optional<WrongCall> readDrives(std::map<char, fs::path>& drives) const {
-        for (const std::string& drive : typed_.drives)
-            if (!addDrive(drive, drives))
-                return WrongCall{inQuotes(drive) + " n’est pas de la forme L=DOSSIER"};
-        return std::nullopt;
-    }
-
-    static std::optional<WrongCall> notADirectory(const std::string& path, const char* what) {
-        std::error_code error;
-        if (path.empty())
-            return WrongCall{std::string("il manque ") + what};
-        if (!fs::is_directory(pathFrom(path), error))
-            return WrongCall{inQuotes(path) + " n’est pas un dossier"};
-        return std::nullopt;
-    }
-
-    static std::optional<WrongCall> notAFile(const std::string& path, const char* what) {
-        std::error_code error;
-        if (path.empty())
-            return WrongCall{std::string("il manque ") + what};
-        if (!fs::exists(pathFrom(path), error) || fs::is_directory(pathFrom(path), error))
-            return WrongCall{inQuotes(path) + " n’est pas un fichier"};
-        return std::nullopt;
-    }
-
     CLI::App app_;
     Typed typed_;
     CLI::App* build_ = nullptr;
@@ -380,6 +368,7 @@ private:
     CLI::App* dump_ = nullptr;
     CLI::App* trace_ = nullptr;
     CLI::App* render_ = nullptr;
+    CLI::App* print_ = nullptr;
     CLI::App* calc_ = nullptr;
     CLI::App* answer_ = nullptr;
     CLI::App* symbols_ = nullptr;

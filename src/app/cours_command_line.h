@@ -3,6 +3,7 @@
 #include "calculator/calc_command.h"
 #include "coursetool/drawing_request.h"
 #include "coursetool/exit_code.h"
+#include "coursetool/print_request.h"
 #include "exercises/answer_command.h"
 
 #include <filesystem>
@@ -28,6 +29,7 @@ struct DumpCall {
 using TraceCall = coursetool::TraceRequest;
 using RenderCall = coursetool::RenderRequest;
 using CalcCall = calculator::CalcOptions;
+using PrintCall = coursetool::PrintRequest;
 using AnswerCall = exercises::AnswerOptions;
 struct SymbolsCall {
     std::filesystem::path course; ///< empty: the symbols of the program alone
@@ -43,7 +45,7 @@ struct WrongCall {
 };
 
 using CoursCall = std::variant<BuildCall, ExtractCall, DumpCall, TraceCall, RenderCall, SymbolsCall,
-                               CalcCall, AnswerCall, ShowText, WrongCall>;
+                               PrintCall, CalcCall, AnswerCall, ShowText, WrongCall>;
 
 /// Reads the command line. Directories and files that must be there are; an output directory of
 /// `extract` is empty or not there yet.

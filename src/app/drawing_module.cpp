@@ -1,4 +1,5 @@
 #include "coursetool/drawing_request.h"
+#include "coursetool/print.h"
 #include "coursetool/render.h"
 #include "coursetool/tool_pictures.h"
 #include "coursetool/trace.h"
@@ -47,4 +48,12 @@ extern "C" Q_DECL_EXPORT void orvalenteRender(int& argc, char** argv,
                                                              : request.source.parent_path(),
                                       request.drives, report);
     coursetool::render(request, ground.fonts, pictures, platform::look::fieldPictures(), report);
+}
+
+extern "C" Q_DECL_EXPORT void orvalentePrint(int& argc, char** argv,
+                                             const coursetool::PrintRequest& request,
+                                             coursetool::Report& report) {
+    const Ground ground(argc, argv);
+    coursetool::ToolPictures pictures(request.course, request.drives, report);
+    coursetool::print(request, ground.fonts, pictures, report);
 }

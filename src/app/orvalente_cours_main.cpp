@@ -60,6 +60,11 @@ struct Perform {
         coursetool::listSymbols(call.course, out, report);
         return verdict();
     }
+    int operator()(const app::PrintCall& call) {
+        if (const auto print = drawing<coursetool::PrintFunction>(coursetool::kPrintSymbol))
+            print(argc, argv, call, report);
+        return verdict();
+    }
     int operator()(const app::AnswerCall& call) {
         std::ios::sync_with_stdio(false);
         std::cin.tie(nullptr);
