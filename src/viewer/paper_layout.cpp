@@ -27,6 +27,10 @@ constexpr double kFooterShare = 0.25;
 /// A cut leaves no sheet emptier than this part of it; rather, something is cut through.
 constexpr double kLeastFilled = 0.25;
 
+/// How many times too long a page may be to be reduced to one sheet: its letters then keep five
+/// sixths of their size.
+constexpr double kMostReduction = 1.2;
+
 /// Least height of a sheet, an inch, whatever margins a driver reports.
 constexpr double kLeastHeight = 1440;
 
@@ -105,10 +109,11 @@ Footer fitted(Footer footer, double width, const platform::TextMetrics& metrics)
 /// Lays out one page of the course.
 class Layout {
 public:
+    /// Sheets are laid out at least `enlargement` times as large as the paper, 1 or more.
     Layout(const platform::Recording& drawing, const Footer& footer, const platform::Paper& paper,
-           const platform::TextMetrics& metrics)
+           const platform::TextMetrics& metrics, double enlargement = 1)
         : paper_(paper), metrics_(metrics),
-          enlargement_(std::max(1.0, kColumn / std::max(1.0, paper.printableWidth))),
+          enlargement_(std::max(enlargement, kColumn / std::max(1.0, paper.printableWidth))),
           width_(paper.printableWidth * enlargement_),
           height_(std::max(kLeastHeight, paper.printableHeight * enlargement_)),
           footer_(fitted(footer, width_, metrics)), footerHeight_(metrics.height(footer_.font)),
@@ -118,6 +123,12 @@ public:
             measure(operation);
         std::sort(byTop_.begin(), byTop_.end(),
                   [](const Extent& a, const Extent& b) { return a.innerTop() > b.innerTop(); });
+    }
+
+    /// How much larger the sheet has to be laid out for the page to stand on a single one; 1 when
+    /// it does already.
+    double enlargementForOneSheet() const {
+        return room_ >= lowest_ ? 1 : (lowest_ + height_ - room_) / paper_.printableHeight;
     }
 
     std::vector<platform::Sheet> sheets() {
@@ -256,7 +267,11 @@ private:
 std::vector<platform::Sheet> layOnPaper(const platform::Recording& drawing, const Footer& footer,
                                         const platform::Paper& paper,
                                         const platform::TextMetrics& metrics) {
-    return Layout(drawing, footer, paper, metrics).sheets();
+    Layout layout(drawing, footer, paper, metrics);
+    const double wanted = layout.enlargementForOneSheet();
+    if (wanted > 1 && wanted <= kMostReduction)
+        return Layout(drawing, footer, paper, metrics, wanted).sheets();
+    return layout.sheets();
 }
 
 } // namespace viewer

@@ -18,7 +18,8 @@ struct Footer {
 /// middle of the printable part; on narrower paper the whole sheet is laid out larger, for the
 /// printer to reduce.
 ///
-/// A page longer than a sheet goes on on further ones, at full size: reduced to one sheet, it would
+/// A page a little longer than a sheet, by a fifth at most, is reduced to one: its last lines would
+/// stand alone on a second. A longer one goes on on further sheets, at full size: reduced, it would
 /// be hard to read. It is cut where neither a line of text nor a picture, a row of a table or a
 /// sign would be; what is taller than a sheet by itself shows in part on each. The footer stands on
 /// the last sheet, in smaller letters when it is wider than the paper. Room for it is kept on every

@@ -79,30 +79,30 @@ TEST_F(PaperLayout, whereAPageIsCut) {
         {"nothing", [] {}, {{"pied 10100"}}},
         {"what just fits", [&] { line(9800, "a"); }, {{"a 9800", "pied 10100"}}},
         {"at the top of the line that does not fit",
-         [&] { line(9700, "a"), line(9850, "b"); },
-         {{"a 9700"}, {"b 0", "pied 10100"}}},
+         [&] { line(9700, "a"), line(9850, "b"), line(12500, "fin"); },
+         {{"a 9700"}, {"b 0", "fin 2650", "pied 10100"}}},
         {"a picture goes on whole",
-         [&] { line(4000, "a"), picture(5000, 6000); },
-         {{"a 4000"}, {"image 0", "pied 10100"}}},
+         [&] { line(4000, "a"), picture(5000, 6000), line(12500, "fin"); },
+         {{"a 4000"}, {"image 0", "fin 7500", "pied 10100"}}},
         {"one taller than a sheet shows on each, the foot being free",
          [&] { line(0, "a"), picture(1000, 12000); },
          {{"a 0", "image 1000", "blanc 10000"}, {"image -9000", "pied 10100"}}},
         {"rather a picture than a line, when a sheet would be nearly empty",
-         [&] { line(0, "a"), picture(200, 9900), line(9900, "b"); },
-         {{"a 0", "image 200", "blanc 9940"}, {"image -9700", "b 0", "pied 10100"}}},
+         [&] { line(0, "a"), picture(200, 9900), line(9900, "b"), line(12500, "fin"); },
+         {{"a 0", "image 200", "blanc 9940"}, {"image -9700", "b 0", "fin 2600", "pied 10100"}}},
         {"a row of a table goes with its ground",
          [&] {
              surface.fill(0, 9000, 9000, 1200, 0xff00ffff, FillMode::Copy);
              line(9100, "a"), line(9900, "b");
-             line(8000, "c");
+             line(8000, "c"), line(12500, "fin");
          },
-         {{"c 8000"}, {"fond 0", "a 100", "b 900", "pied 10100"}}},
+         {{"c 8000"}, {"fond 0", "a 100", "b 900", "fin 3500", "pied 10100"}}},
         {"a heading goes with what follows",
-         [&] { line(9000, "a"), line(9500, "t", true), line(9900, "b"); },
-         {{"a 9000"}, {"t 0", "b 400", "pied 10100"}}},
+         [&] { line(9000, "a"), line(9500, "t", true), line(9900, "b"), line(12500, "fin"); },
+         {{"a 9000"}, {"t 0", "b 400", "fin 3000", "pied 10100"}}},
         {"bold words in a line are no heading",
-         [&] { line(9500, "a"), line(9500, "t", true), line(9900, "b"); },
-         {{"a 9500", "t 9500"}, {"b 0", "pied 10100"}}},
+         [&] { line(9500, "a"), line(9500, "t", true), line(9900, "b"), line(12500, "fin"); },
+         {{"a 9500", "t 9500"}, {"b 0", "fin 2600", "pied 10100"}}},
         {"huge letters go on, in parts",
          [&] {
              surface.setFontPoints(1000);
@@ -126,6 +126,17 @@ TEST_F(PaperLayout, whereAPageIsCut) {
             found.append(on(sheet));
         EXPECT_EQ(found, row.sheets);
     }
+}
+
+TEST_F(PaperLayout, aPageALittleTooLongIsReducedToOneSheet) {
+    line(0, "a"), line(11900, "b");
+    const auto reduced = sheets();
+    ASSERT_EQ(reduced.size(), 1u);
+    EXPECT_NEAR(reduced[0].width / kPaper.width, 1.196, 0.001);
+    line(12100, "c");
+    const auto whole = sheets();
+    ASSERT_EQ(whole.size(), 2u);
+    EXPECT_EQ(whole[0].width, kPaper.width);
 }
 
 TEST_F(PaperLayout, onNarrowPaperTheSheetIsReducedAsAWhole) {
