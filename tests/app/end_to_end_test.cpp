@@ -1,6 +1,7 @@
 // The real program on the real demonstration course, on a display with a window manager.
 
 #include "app/x11_picture.h"
+#include "platform_mpv/clips.h"
 #include "support/files.h"
 #include "support/x11_session.h"
 
@@ -297,6 +298,84 @@ TEST_F(TestedPages, ATestIsLeftForAPageTakenUpAndGivenUp) {
     press("alt+o");
     EXPECT_TRUE(eventually([&] { return activeTitle().endsWith("Deux"); }));
     EXPECT_EQ(shell_.state(), QProcess::Running);
+}
+
+/// A course of two pages, the first with a video that lies on the disc of drive E; the program runs
+/// in a French locale.
+class VideoPages : public EndToEnd {
+protected:
+    VideoPages() {
+        qputenv("ORVALENTE_NO_SOUND", "1");
+        qputenv("LOCPATH", FRENCH_LOCALES);
+        qputenv("LC_ALL", "fr_FR.UTF-8");
+    }
+    ~VideoPages() override {
+        for (const char* name : {"ORVALENTE_NO_SOUND", "LOCPATH", "LC_ALL"})
+            qunsetenv(name);
+    }
+
+    QString sources() override {
+        const QString directory = directory_.filePath("sources");
+        QDir().mkpath(directory + "/pages");
+        test_support::writeFile(directory + "/pages/1.page",
+                                "+++\nNumeropage = 1\nIndex = 1\nsuite = true\n+++\n"
+                                "##VIDEOfilm.avi\n##TITBARUn\n");
+        test_support::writeFile(directory + "/pages/2.page",
+                                "+++\nNumeropage = 2\nIndex = 2\nprecedent = true\n+++\n"
+                                "##VIDEOfilm.avi\n##TITBARDeux\n");
+        return directory;
+    }
+
+    QString drive() {
+        const QTemporaryDir made;
+        QDir().mkpath(directory_.filePath("e/ZEKXV"));
+        const test_support::Clip clip{"film", "mpeg4", "12.5", 100, 8, "-g 25 -qscale:v 3"};
+        EXPECT_TRUE(QFile::rename(clip.make(made), directory_.filePath("e/ZEKXV/film.avi")));
+        return "E=" + directory_.filePath("e");
+    }
+
+    /// Number of the frame in `projo`.
+    int shown() const {
+        const QRect projo(QPoint(176, 304), QSize(320, 240));
+        return test_support::Clip::numberIn(
+            test_support::pictureOfScreen(session_.display(), projo.translated(place().topLeft())));
+    }
+    bool shows(int frame) const {
+        return eventually([&] { return shown() == frame; });
+    }
+    bool playerIsLoaded() const {
+        return test_support::readFile(QStringLiteral("/proc/%1/maps").arg(shell_.processId()))
+            .contains("libmpv");
+    }
+};
+
+TEST_F(VideoPages, PlaysFromTheDiscAndLeavesWhilePlaying) {
+    start({"--drive", drive()});
+    ASSERT_TRUE(eventually([&] { return place().size() == QSize(800, 600); }));
+    click(716, 576); // suite
+    ASSERT_TRUE(eventually([&] { return title().endsWith("Deux"); }));
+    EXPECT_FALSE(playerIsLoaded());
+    click(769, 512); // to the end
+    EXPECT_TRUE(shows(99));
+    EXPECT_TRUE(playerIsLoaded());
+    press("Left");
+    EXPECT_TRUE(shows(98));
+    press("Home");
+    EXPECT_TRUE(shows(0));
+    press("Right");
+    EXPECT_TRUE(shows(1));
+    press("space");
+    EXPECT_TRUE(eventually([&] { return shown() > 10; }));
+    click(244, 576); // avantcours
+    ASSERT_TRUE(eventually([&] { return title().endsWith("Un"); }));
+    click(645, 512); // plays
+    EXPECT_TRUE(eventually([&] { return shown() > 10; }));
+    press("alt+q");
+    ASSERT_TRUE(eventually([&] { return activeTitle() == "Quitter"; }));
+    press("Return");
+    ASSERT_TRUE(shell_.waitForFinished(30'000));
+    EXPECT_EQ(shell_.exitCode(), 0);
+    EXPECT_EQ(shell_.readAllStandardError(), "");
 }
 
 } // namespace
