@@ -375,7 +375,7 @@ TEST_F(VideoPages, PlaysFromTheDiscAndLeavesWhilePlaying) {
     press("Return");
     ASSERT_TRUE(shell_.waitForFinished(30'000));
     EXPECT_EQ(shell_.exitCode(), 0);
-    EXPECT_EQ(shell_.readAllStandardError(), "");
+    EXPECT_EQ(QString::fromUtf8(shell_.readAllStandardError()), QString());
 }
 
 } // namespace
