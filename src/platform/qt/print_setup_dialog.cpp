@@ -13,7 +13,6 @@
 #include <QLabel>
 #include <QRadioButton>
 #include <QSpinBox>
-#include <QStyleFactory>
 
 namespace platform {
 

@@ -4,12 +4,35 @@
 
 #include <QEvent>
 #include <QKeyEvent>
+#include <QLabel>
+#include <QProxyStyle>
+#include <QRadioButton>
 #include <QWidget>
 
 namespace platform::look {
 
-MnemonicDisplay::MnemonicDisplay(QWidget* window) : QObject(window), window_(window) {
+/// Tells the toolkit's own controls whether to underline.
+class MnemonicDisplay::Style : public QProxyStyle {
+public:
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* result) const override {
+        if (hint == SH_UnderlineShortcut)
+            return shown;
+        return QProxyStyle::styleHint(hint, option, widget, result);
+    }
+
+    bool shown = false;
+};
+
+MnemonicDisplay::MnemonicDisplay(QWidget* window)
+    : QObject(window), window_(window), style_(new Style) {
+    style_->setParent(this);
     window->installEventFilter(this);
+    for (auto* label : window->findChildren<QLabel*>())
+        if (label->buddy())
+            label->setStyle(style_);
+    for (auto* choice : window->findChildren<QRadioButton*>())
+        choice->setStyle(style_);
 }
 
 bool MnemonicDisplay::eventFilter(QObject* watched, QEvent* event) {
@@ -37,6 +60,10 @@ void MnemonicDisplay::show(bool shown) {
     for (auto* button : window_->findChildren<QPushButton*>())
         if (auto* painted = dynamic_cast<Button*>(button))
             painted->setMnemonicShown(shown);
+    style_->shown = shown;
+    for (auto* control : window_->findChildren<QWidget*>())
+        if (control->style() == style_)
+            control->update();
 }
 
 } // namespace platform::look

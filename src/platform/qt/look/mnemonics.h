@@ -4,7 +4,8 @@
 
 namespace platform::look {
 
-/// Underlines the mnemonics of a window's buttons while Alt is down, and only then.
+/// Underlines the mnemonics of a window's buttons and captions while Alt is down, and only then. To
+/// be made once they are there.
 class MnemonicDisplay : public QObject {
 public:
     /// Watches `window` for as long as it lives.
@@ -16,7 +17,10 @@ protected:
 private:
     void show(bool shown);
 
+    class Style;
+
     QWidget* window_;
+    Style* style_; ///< of the controls that do not paint themselves
     bool shown_ = false;
 };
 
