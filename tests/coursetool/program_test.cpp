@@ -62,6 +62,9 @@ TEST_F(Program, buildsDumpsTracesAndExtracts) {
     EXPECT_THAT(work.read("1.png"), StartsWith("\x89PNG"));
     EXPECT_EQ(run("render out --all -o all.PDF").code, 0);
     EXPECT_THAT(work.read("all.PDF"), StartsWith("%PDF"));
+    const Outcome printed = run("print out --page 1 -o sheets.pdf");
+    EXPECT_EQ(printed.code, 0) << printed.err;
+    EXPECT_THAT(work.read("sheets.pdf"), StartsWith("%PDF"));
     EXPECT_EQ(run("extract out -o back").code, 0);
     EXPECT_THAT(work.files("back"), testing::ElementsAre("files/a.txt", "pages/1-1.page"));
 }
@@ -120,6 +123,33 @@ TEST_F(Program, endsWithTwoForWrongCallsAndDoesNothing) {
     EXPECT_FALSE(work.has("out"));
     run("build src -o out");
     EXPECT_EQ(run("dump out/Zekx.mdb autre").code, 2);
+}
+
+TEST_F(Program, drawsBareSourcesOfPagesAndQuestions) {
+    work.write("a.src", "##LIERTa#PAG001\r\nb¶\r\n");
+    work.write("a.question", "##EXOOP\r\nb¶\r\n");
+    for (const char* source : {"a.src", "a.question"}) {
+        const Outcome drawn =
+            run({"render", "--source", source, "-o", QString(source) + QStringLiteral(".svg")});
+        EXPECT_EQ(drawn.code, 0) << drawn.err;
+    }
+    EXPECT_THAT(work.read("a.src.svg"), HasSubstr(">a</text>"));
+    EXPECT_THAT(work.read("a.question.svg"), HasSubstr(">b</text>"));
+    // The choice is there as a drawing, the link has nowhere to lead.
+    EXPECT_THAT(work.read("a.question.svg"), HasSubstr("<image"));
+    EXPECT_THAT(work.read("a.src.svg"), Not(HasSubstr("href")));
+    EXPECT_EQ(run("render --source nowhere -o a.png").code, 2);
+    EXPECT_EQ(run("render src --source a.src -o a.png").code, 2);
+}
+
+TEST_F(Program, judgesAnswers) {
+    EXPECT_EQ(run({"answer", "energie", "L’Énergie"}).out, "juste\n");
+    const Outcome wrong = run("answer masse poids");
+    EXPECT_EQ(wrong.out, "faux\n");
+    EXPECT_EQ(wrong.code, 1);
+    EXPECT_EQ(run("answer masse").code, 2);
+    EXPECT_EQ(run("answer --batch masse").code, 2);
+    EXPECT_EQ(run("print src -o a.pdf").code, 2);
 }
 
 TEST_F(Program, listsSymbolsAndTracesWithDrives) {
