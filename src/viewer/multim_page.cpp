@@ -8,6 +8,7 @@
 #include "viewer/page_title.h"
 #include "viewer/picture_box.h"
 #include "viewer/rail.h"
+#include "viewer/video_frame.h"
 
 #include <QAccessible>
 #include <QWindow>
@@ -17,10 +18,11 @@ namespace viewer {
 /// Whether the page, or a link on it, has the keyboard.
 bool Multim::pageHasFocus() const {
     const QWidget* focused = focusWidget();
-    const auto holds = [focused](const PictureBox* box) {
-        return focused == box || box->isAncestorOf(focused);
+    const auto holds = [focused](const QWidget* area) {
+        return focused == area || area->isAncestorOf(focused);
     };
-    return focused && (holds(PictureTEXTE_) || holds(PICTUREILLUS_) || holds(titre_));
+    return focused && (holds(PictureTEXTE_) || holds(PICTUREILLUS_) || holds(titre_) ||
+                       holds(videoFrame_)); // the video is the page's
 }
 
 void Multim::setPageVisible(bool visible) {

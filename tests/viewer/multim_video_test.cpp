@@ -51,6 +51,8 @@ TEST_F(VideoWindow, KeysWorkOnTheFrameAndItsButtons) {
     EXPECT_EQ(scrolled(), before);
     QTest::keyClick(frame(), Qt::Key_Left, Qt::AltModifier);
     EXPECT_EQ(shown(), u"1"_qs);
+    EXPECT_TRUE(bench.control<QWidget>("PictureTEXTE")->hasFocus())
+        << "the video goes with its page, the keyboard stays with the next one";
 }
 
 TEST_F(VideoWindow, PictureComesAndGoesUnderTheSamePage) {
