@@ -2,7 +2,7 @@
 // most thirteen times the time.
 
 #include "coursetool/offscreen_page.h"
-#include "markup/no_pictures.h"
+#include "no_pictures.h"
 #include "platform/qt/font_book.h"
 #include "rich_page.h"
 
@@ -34,7 +34,7 @@ QString sourceOf(int lines) {
 
 double medianMilliseconds(int lines, const platform::FontBook& fonts) {
     const QString source = sourceOf(lines);
-    markup::NoPictures pictures;
+    NoPictures pictures;
     std::vector<double> times;
     for (int i = 0; i < 9; ++i) {
         coursetool::OffscreenPage page(fonts, pictures);

@@ -2,7 +2,7 @@
 // apart, beside zlib's fastest level on the same rows. png_bench [PAGES]
 
 #include "coursetool/offscreen_page.h"
-#include "markup/no_pictures.h"
+#include "no_pictures.h"
 #include "platform/png/png_file.h"
 #include "platform/qt/sheet_raster.h"
 #include "platform/twips.h"
@@ -52,7 +52,7 @@ std::vector<Bytef> rowsOf(const QImage& image) {
 }
 
 platform::Sheet sheetOf(const QString& source, const platform::FontBook& fonts) {
-    markup::NoPictures pictures;
+    NoPictures pictures;
     coursetool::OffscreenPage page(fonts, pictures);
     page.draw(source);
     return viewer::pageSheet(page.recording(), fonts,

@@ -1,8 +1,8 @@
 // Page source to pixels, beside the bare cost of the same drawing calls and beside QTextDocument.
 
 #include "bench_page.h"
-#include "markup/no_pictures.h"
 #include "markup/renderer.h"
+#include "no_pictures.h"
 #include "platform/qt/font_book.h"
 #include "platform/qt/raster_surface.h"
 #include "rich_page.h"
@@ -19,7 +19,7 @@ constexpr int kWidthPx = 600;
 constexpr int kHeightPx = 400;
 
 void pageSourceToPixels(benchmark::State& loop) {
-    markup::NoPictures pictures;
+    NoPictures pictures;
     bench::Page page(pictures);
     const QString source = bench::richPageSource();
     platform::RasterSurface raster(platform::SurfaceId::PictureTexte, kWidthPx, page.fonts,
@@ -41,7 +41,7 @@ void bareDrawingCalls(benchmark::State& loop) {
         QPointF foot;
         QString text;
     };
-    markup::NoPictures pictures;
+    NoPictures pictures;
     bench::Page page(pictures);
     page.draw(bench::richPageSource());
     std::vector<Call> calls;

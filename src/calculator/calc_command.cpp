@@ -2,6 +2,7 @@
 
 #include "calculator/evaluator.h"
 #include "jet/unicode.h"
+#include "text/line_reader.h"
 
 #include <istream>
 #include <ostream>
@@ -9,10 +10,6 @@
 namespace calculator {
 
 namespace {
-
-/// Longest line, in bytes, that a batch takes up: far beyond what the counters can count, and
-/// little enough to hold in memory whatever the input is.
-constexpr std::size_t kLongestLine = 1 << 20;
 
 struct Answer {
     ErrorCode error;
@@ -33,37 +30,16 @@ Answer answerTo(const std::string& expression, const CalcOptions& options, Hooks
     return {ErrorCode::Impossible, jet::toUtf8(kOverflowMessage)};
 }
 
-enum class Line { None, Whole, TooLong };
-
-/// Reads a line without its end (LF or CR LF); of one that is too long only the start is kept.
-Line readLine(std::streambuf& in, std::string& line) {
-    constexpr int kEnd = std::char_traits<char>::eof();
-    line.clear();
-    int c = in.sbumpc();
-    if (c == kEnd)
-        return Line::None;
-    bool tooLong = false;
-    for (; c != kEnd && c != '\n'; c = in.sbumpc()) {
-        if (line.size() < kLongestLine)
-            line += static_cast<char>(c);
-        else
-            tooLong = true;
-    }
-    if (!line.empty() && line.back() == '\r')
-        line.pop_back();
-    return tooLong ? Line::TooLong : Line::Whole;
-}
-
 void runBatch(const CalcOptions& options, std::streambuf& in, std::ostream& out) {
     std::string line;
     while (out) {
         if (in.in_avail() <= 0)
             out.flush();
-        const Line read = readLine(in, line);
-        if (read == Line::None)
+        const text::Line read = text::readLine(in, line);
+        if (read == text::Line::None)
             return;
         const Answer answer =
-            read == Line::TooLong ? failure(ErrorCode::Impossible) : answerTo(line, options);
+            read == text::Line::TooLong ? failure(ErrorCode::Impossible) : answerTo(line, options);
         out << static_cast<int>(answer.error) << '\t' << answer.line << '\n';
     }
 }

@@ -14,9 +14,9 @@ struct AnswerOptions {
 
 /// Writes "juste" or "faux" to `out` for a typed answer; the exit status is 0 or 1.
 ///
-/// With `batch` each line of `in` gives one line of `out`. A line without a tab or beyond a million
-/// bytes is named on `err` and counts as "faux"; the status is then 1, otherwise 0. The solution
-/// ends at the first tab.
+/// With `batch` each line of `in` gives one line of `out`. A line without a tab or beyond
+/// text::kLongestLine bytes is named on `err` and counts as "faux"; the status is then 1, otherwise
+/// 0. The solution ends at the first tab.
 int runAnswer(const AnswerOptions& options, std::istream& in, std::ostream& out, std::ostream& err);
 
 } // namespace exercises

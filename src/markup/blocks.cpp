@@ -56,14 +56,6 @@ void fonddegrade(Surface& surface, double top, double width, QRgb tint) {
                      platform::FillMode::Mask);
 }
 
-double frameX(const DrawingState& state, double penX, double width) {
-    if (state.alignement == 1)
-        return (state.margeGauche + state.margeDroite - width) / 2;
-    if (state.alignement == 2)
-        return state.margeDroite - width;
-    return state.largeurCadre > 0 ? penX : state.margeGauche;
-}
-
 } // namespace
 
 void backgroundGradient(Renderer& renderer, QStringView d) {
@@ -86,7 +78,8 @@ void drawFrame(Renderer& renderer, QStringView d) {
     const QPointF pen = surface.pen();
     const double width =
         state.largeurCadre > 0 ? state.largeurCadre : state.margeDroite - state.margeGauche;
-    const double left = frameX(state, pen.x(), width);
+    const double left =
+        alignedX(state, width, state.largeurCadre > 0 ? pen.x() : state.margeGauche);
     // The lines lie within the box, so that one as wide as the surface shows its right side.
     const double right = left + std::max(0., width - kTwipsPerPixel);
     const double bottom = pen.y() + std::max(0., height - kTwipsPerPixel);

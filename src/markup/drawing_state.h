@@ -53,4 +53,12 @@ struct DrawingState {
     std::int16_t largeurCadre = 0; ///< width of the next frame; 0: the whole column
 };
 
+/// Where the left edge of something `width` wide stands between the margins: in the middle, at the
+/// right, or, aligned to the left, at `otherwise`.
+inline double alignedX(const DrawingState& state, double width, double otherwise) {
+    if (state.alignement == 1)
+        return (state.margeGauche + state.margeDroite - width) / 2;
+    return state.alignement == 2 ? state.margeDroite - width : otherwise;
+}
+
 } // namespace markup

@@ -14,10 +14,6 @@ using platform::Surface;
 /// Length of "FRAC".
 constexpr qsizetype kKeywordLength = 4;
 
-void movePenYBy(Surface& surface, double twips) {
-    surface.setPenY(surface.penY() + twips);
-}
-
 double wholeWidth(const Surface& surface, QStringView text) {
     return text::roundHalfEven(surface.textWidth(text));
 }
@@ -55,14 +51,14 @@ void printFraction(Renderer& renderer, QStringView d) {
 void beginNumerator(Renderer& renderer, QStringView) {
     Surface& surface = renderer.surface();
     renderer.store(renderer.state().fracDebutX, surface.penX());
-    movePenYBy(surface, -surface.textHeight() / 2);
+    renderer.movePenYBy(-surface.textHeight() / 2);
 }
 
 void beginDenominator(Renderer& renderer, QStringView) {
     Surface& surface = renderer.surface();
     renderer.store(renderer.state().fracFinX, surface.penX());
     surface.setPenX(renderer.state().fracDebutX);
-    movePenYBy(surface, surface.textHeight());
+    renderer.movePenYBy(surface.textHeight());
 }
 
 void endFraction(Renderer& renderer, QStringView) {
@@ -72,7 +68,7 @@ void endFraction(Renderer& renderer, QStringView) {
         renderer.store(state.fracFinX, surface.penX());
     // The line leaves the pen at its right end, which is where the text goes on.
     surface.line(state.fracDebutX, surface.penY(), state.fracFinX, surface.penY());
-    movePenYBy(surface, -surface.textHeight() / 2);
+    renderer.movePenYBy(-surface.textHeight() / 2);
 }
 
 } // namespace markup

@@ -35,14 +35,6 @@ Size ownSize(const platform::Picture* picture) {
     return {pixels.width() * platform::kTwipsPerPixel, pixels.height() * platform::kTwipsPerPixel};
 }
 
-void alignPen(Renderer& renderer, double width) {
-    const DrawingState& state = renderer.state();
-    if (state.alignement == 1)
-        renderer.surface().setPenX((state.margeGauche + state.margeDroite - width) / 2);
-    else if (state.alignement == 2)
-        renderer.surface().setPenX(state.margeDroite - width);
-}
-
 /// `given` is the size that a sized picture is stretched to.
 void chargeimage(Renderer& renderer, const QString& nom, Mode mode, Size given) {
     const QString path = renderer.pictures().locatePicture(nom);
@@ -55,12 +47,11 @@ void chargeimage(Renderer& renderer, const QString& nom, Mode mode, Size given) 
     const Size size = mode == Mode::GivenSize ? given : ownSize(picture.get());
 
     platform::Surface& surface = renderer.surface();
-    alignPen(renderer, size.width);
+    surface.setPenX(alignedX(renderer.state(), size.width, surface.penX()));
     if (picture && size.width > 0 && size.height > 0)
         surface.paint(picture, size.width, size.height, platform::lastComponent(nom), false);
     if (mode != Mode::OverText)
-        renderer.check(surface.setPenY(surface.penY() + size.height),
-                       u"la position sort des limites");
+        renderer.movePenYBy(size.height);
 }
 
 } // namespace

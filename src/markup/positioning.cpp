@@ -16,11 +16,6 @@ std::optional<std::int16_t> pixelsToTwips(double pixels) {
     return whole ? text::toInt16(*whole * platform::kTwipsPerPixel) : std::nullopt;
 }
 
-void movePenYBy(Renderer& renderer, double twips) {
-    platform::Surface& surface = renderer.surface();
-    renderer.check(surface.setPenY(surface.penY() + twips), kPenOutside);
-}
-
 } // namespace
 
 void centrePenFor(Renderer& renderer, QStringView d) {
@@ -53,7 +48,7 @@ void movePenY(Renderer& renderer, QStringView d) {
 void skipLines(Renderer& renderer, QStringView d) {
     static constexpr qsizetype kFirstArgument = 7;
     const double lines = platform::leadingNumber(charactersFrom(d, kFirstArgument));
-    movePenYBy(renderer, lines * renderer.surface().textHeight());
+    renderer.movePenYBy(lines * renderer.surface().textHeight());
 }
 
 // The shifts of a single line are kept in whole twips; those of the pen are exact.
@@ -75,19 +70,19 @@ void shiftNextUpQuarter(Renderer& renderer, QStringView) {
 }
 
 void movePenDownHalf(Renderer& renderer, QStringView) {
-    movePenYBy(renderer, renderer.surface().textHeight() / 2);
+    renderer.movePenYBy(renderer.surface().textHeight() / 2);
 }
 
 void movePenDownQuarter(Renderer& renderer, QStringView) {
-    movePenYBy(renderer, renderer.surface().textHeight() / 4);
+    renderer.movePenYBy(renderer.surface().textHeight() / 4);
 }
 
 void movePenUpHalf(Renderer& renderer, QStringView) {
-    movePenYBy(renderer, -renderer.surface().textHeight() / 2);
+    renderer.movePenYBy(-renderer.surface().textHeight() / 2);
 }
 
 void movePenUpQuarter(Renderer& renderer, QStringView) {
-    movePenYBy(renderer, -renderer.surface().textHeight() / 4);
+    renderer.movePenYBy(-renderer.surface().textHeight() / 4);
 }
 
 } // namespace markup

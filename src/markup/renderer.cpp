@@ -54,6 +54,10 @@ bool Renderer::store(std::int16_t& target, double value) {
     return rounded.has_value();
 }
 
+void Renderer::movePenYBy(double twips) {
+    check(surface().setPenY(surface().penY() + twips), u"la position sort des limites");
+}
+
 void Renderer::initecran() {
     state_.lienEnAttente.clear();
 
@@ -150,21 +154,14 @@ void Renderer::printTextLine(const QString& texte, bool finParagraphe) {
         state_.decalageUnique = 0;
     }
     if (finParagraphe) {
-        check(target.setPenY(target.penY() +
-                             static_cast<double>(state_.interligne) * target.textHeight()),
-              u"la position sort des limites");
+        movePenYBy(static_cast<double>(state_.interligne) * target.textHeight());
         target.setPenX(state_.margeGauche);
     }
 }
 
 void Renderer::align(const QString& texte) {
-    if (state_.alignement == 0)
-        return;
-    const double width = surface().textWidth(texte);
-    if (state_.alignement == 1)
-        surface().setPenX((state_.margeGauche + state_.margeDroite - width) / 2);
-    else
-        surface().setPenX(state_.margeDroite - width);
+    if (state_.alignement != 0)
+        surface().setPenX(alignedX(state_, surface().textWidth(texte), surface().penX()));
 }
 
 void Renderer::printShadow(const QString& texte) {

@@ -60,6 +60,9 @@ public:
     /// Stores a value rounded to 16 bits, or abandons the statement when it does not fit.
     bool store(std::int16_t& target, double value);
 
+    /// Moves the pen down by `twips`, or abandons the statement when it would leave all bounds.
+    void movePenYBy(double twips);
+
 private:
     void drawLine(QStringView ligne);
     void printTextLine(const QString& texte, bool finParagraphe);

@@ -2,7 +2,7 @@
 #include "coursetool/trace.h"
 #include "coursetool/trace_lines.h"
 #include "coursetool/workspace.h"
-#include "markup/no_pictures.h"
+#include "support/fake_pictures.h"
 #include "support/fixed_metrics.h"
 
 #include <gmock/gmock.h>
@@ -19,7 +19,7 @@ using Lines = std::vector<std::string>;
 struct Trace : testing::Test {
     Workspace work;
     test_support::FixedMetrics metrics;
-    markup::NoPictures pictures;
+    test_support::FakePictures pictures;
     coursetool::Report report;
 
     /// The lines that `draw` writes.
