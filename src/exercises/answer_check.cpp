@@ -1,6 +1,6 @@
 #include "exercises/answer_check.h"
 
-#include "exercises/letters.h"
+#include "text/letters.h"
 
 #include <algorithm>
 #include <optional>
@@ -31,7 +31,7 @@ std::optional<char16_t> replacement(char16_t c) {
 }
 
 bool isWordAt(std::u16string_view text, std::size_t position) {
-    return position < text.size() && isWordCharacter(text[position]);
+    return position < text.size() && text::isWordCharacter(text[position]);
 }
 
 /// Reads a text character by character and knows after each whether it has just read `word`. Each
@@ -77,7 +77,7 @@ bool endsAWord(std::u16string_view text, std::size_t position) {
 
 std::u16string smallLetters(std::u16string_view text) {
     std::u16string out(text);
-    std::transform(out.begin(), out.end(), out.begin(), lowerCase);
+    std::transform(out.begin(), out.end(), out.begin(), text::lowerCase);
     return out;
 }
 
@@ -87,10 +87,10 @@ std::u16string foldedAnswer(std::u16string_view typed) {
     std::u16string out;
     out.reserve(typed.size());
     for (std::size_t i = 0; i < typed.size(); ++i) {
-        if (const auto kept = replacement(lowerCase(typed[i])))
+        if (const auto kept = replacement(text::lowerCase(typed[i])))
             out += *kept;
         else if (++i < typed.size())
-            out += lowerCase(typed[i]); // it slid under a position already passed
+            out += text::lowerCase(typed[i]); // it slid under a position already passed
     }
     return out;
 }

@@ -1,6 +1,6 @@
 #include "exercises/answer_check.h"
-#include "exercises/letters.h"
 #include "jet/unicode.h"
+#include "text/letters.h"
 
 #include <QChar>
 
@@ -79,20 +79,20 @@ TEST(Castexte, anEmptySolutionIsAWordOfNoLetters) {
 
 TEST(Letters, agreeWithUnicode) {
     for (char16_t c = 0; c < 0x0180; ++c)
-        EXPECT_EQ(lowerCase(c), QChar(c).toLower().unicode()) << int(c);
+        EXPECT_EQ(text::lowerCase(c), QChar(c).toLower().unicode()) << int(c);
     for (char16_t c = 0x0386; c < 0x03CF; ++c)
-        EXPECT_EQ(lowerCase(c), QChar(c).toLower().unicode()) << int(c);
+        EXPECT_EQ(text::lowerCase(c), QChar(c).toLower().unicode()) << int(c);
     for (const char16_t c : u"\u2126\u212A\u212B\uFFFF")
-        EXPECT_EQ(lowerCase(c), QChar(c).toLower().unicode()) << int(c);
+        EXPECT_EQ(text::lowerCase(c), QChar(c).toLower().unicode()) << int(c);
     for (int c = 0; c <= 0xFFFF; ++c) {
         const QChar character(c);
         const bool counts = character.isLetterOrNumber();
         if (counts || c < 0x0250) {
-            EXPECT_EQ(isWordCharacter(character.unicode()), counts) << c;
+            EXPECT_EQ(text::isWordCharacter(character.unicode()), counts) << c;
         }
     }
     for (const char16_t c : u"\u2014\u2026\u20AC\u2192\u221E\u3001\xD83D\xDE00\xFFFD")
-        EXPECT_FALSE(isWordCharacter(c)) << int(c);
+        EXPECT_FALSE(text::isWordCharacter(c)) << int(c);
 }
 
 // The check once more, in the plainest way: each character selected in a buffer and replaced there,
@@ -100,7 +100,7 @@ TEST(Letters, agreeWithUnicode) {
 
 std::u16string smallLetters(std::u16string text) {
     for (char16_t& c : text)
-        c = lowerCase(c);
+        c = text::lowerCase(c);
     return text;
 }
 
@@ -121,8 +121,8 @@ std::u16string foldLiterally(const std::u16string& typed) {
 bool findLiterally(const std::u16string& text, const std::u16string& word) {
     for (std::size_t at = text.find(word); at != text.npos; at = text.find(word, at + 1)) {
         const std::size_t end = at + word.size();
-        if ((at == 0 || !isWordCharacter(text[at - 1])) &&
-            (end == text.size() || !isWordCharacter(text[end])))
+        if ((at == 0 || !text::isWordCharacter(text[at - 1])) &&
+            (end == text.size() || !text::isWordCharacter(text[end])))
             return true;
     }
     return false;

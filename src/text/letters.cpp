@@ -1,9 +1,11 @@
-#include "exercises/letters.h"
+#include "text/letters.h"
 
 #include <algorithm>
+#include <iterator>
 #include <span>
+#include <string_view>
 
-namespace exercises {
+namespace text {
 
 namespace {
 
@@ -37,6 +39,22 @@ constexpr Capitals kCapitals[] = {
     {0x212A, 0x212A, 1, -0x20BF}, // kelvin: k
     {0x212B, 0x212B, 1, -0x2046}, // ångström: å
 };
+
+/// U+00C0 to U+017F without accents.
+constexpr char16_t kPlainLatin[] = u"AAAAAAÆCEEEEIIIIÐNOOOOO×ØUUUUYÞß"
+                                   u"aaaaaaæceeeeiiiiðnooooo÷øuuuuyþy"
+                                   u"AaAaAaCcCcCcCcDdĐđEeEeEeEeEeGgGg"
+                                   u"GgGgHhĦħIiIiIiIiIıĲĳJjKkĸLlLlLlĿ"
+                                   u"ŀŁłNnNnNnŉŊŋOoOoOoŒœRrRrRrSsSsSs"
+                                   u"SsTtTtŦŧUuUuUuUuUuUuWwYyYZzZzZzſ";
+constexpr char16_t kFirstLatin = 0x00C0;
+constexpr char16_t kLastLatin = 0x017F;
+static_assert(std::size(kPlainLatin) == kLastLatin - kFirstLatin + 2, "a letter for each");
+
+/// The accented letters of Greek, and each without its accent.
+constexpr std::u16string_view kAccentedGreek = u"ΆΈΉΊΌΎΏΐΪΫάέήίΰϊϋόύώ";
+constexpr std::u16string_view kPlainGreek = u"ΑΕΗΙΟΥΩιΙΥαεηιυιυουω";
+static_assert(kAccentedGreek.size() == kPlainGreek.size(), "a letter for each");
 
 struct Block {
     char16_t first;
@@ -84,9 +102,18 @@ char16_t lowerCase(char16_t c) {
     return static_cast<char16_t>(c + range->toSmall);
 }
 
+char16_t withoutAccent(char16_t c) {
+    if (c < kFirstLatin)
+        return c;
+    if (c <= kLastLatin)
+        return kPlainLatin[c - kFirstLatin];
+    const std::size_t greek = kAccentedGreek.find(c);
+    return greek == std::u16string_view::npos ? c : kPlainGreek[greek];
+}
+
 bool isWordCharacter(char16_t c) {
     return c < kBeyondTheTable ? rangeOf<Block>(c, kLetters) != nullptr
                                : !rangeOf<Block>(c, kSeparators);
 }
 
-} // namespace exercises
+} // namespace text

@@ -1,0 +1,30 @@
+#include "text/letters.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <string_view>
+
+namespace text {
+namespace {
+
+std::u16string mapped(std::u16string_view from, char16_t (*letter)(char16_t)) {
+    std::u16string to(from);
+    for (char16_t& c : to)
+        c = letter(c);
+    return to;
+}
+
+TEST(Letters, LosesItsAccentAndNothingElse) {
+    EXPECT_EQ(mapped(u"Élève à Noël, ça où", withoutAccent), u"Eleve a Noel, ca ou");
+    EXPECT_EQ(mapped(u"œuvre Ægir Øst łódź ×÷", withoutAccent), u"œuvre Ægir Øst łodz ×÷");
+    EXPECT_EQ(mapped(u"ÀÿĀŽžſ", withoutAccent), u"AyAZzſ");
+    EXPECT_EQ(mapped(u"Άώ λ Ω €∆", withoutAccent), u"Αω λ Ω €∆");
+}
+
+TEST(Letters, BecomesSmallOneForOne) {
+    EXPECT_EQ(mapped(u"ÀÉŒŸ ΆΣΩ×", lowerCase), u"àéœÿ άσω×");
+}
+
+} // namespace
+} // namespace text
