@@ -66,6 +66,11 @@ void Button::setCaption(const QString& caption) {
     setAccessibleName(plainCaption());
 }
 
+void Button::setKind(Kind kind) {
+    kind_ = kind;
+    update();
+}
+
 void Button::setMnemonicShown(bool shown) {
     if (shown == mnemonicShown_)
         return;

@@ -36,6 +36,9 @@ public:
     void setLastingMnemonic(QChar key);
     void setCaption(const QString& caption);
 
+    /// For a window whose one main action changes with what it shows.
+    void setKind(Kind kind);
+
     void setMnemonicShown(bool shown);
 
     /// Caption without the sign before the mnemonic.

@@ -2,6 +2,7 @@
 
 #include "platform/qt/look/button.h"
 
+#include <QCheckBox>
 #include <QEvent>
 #include <QKeyEvent>
 #include <QLabel>
@@ -32,6 +33,8 @@ MnemonicDisplay::MnemonicDisplay(QWidget* window)
         if (label->buddy())
             label->setStyle(style_);
     for (auto* choice : window->findChildren<QRadioButton*>())
+        choice->setStyle(style_);
+    for (auto* choice : window->findChildren<QCheckBox*>())
         choice->setStyle(style_);
 }
 

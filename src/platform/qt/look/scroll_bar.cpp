@@ -22,12 +22,16 @@ constexpr int kNextRepeatMs = 50;
 
 } // namespace
 
-ScrollBar::ScrollBar(QWidget* parent) : QScrollBar(Qt::Vertical, parent) {
+ScrollBar::ScrollBar(QWidget* parent, Top top) : QScrollBar(Qt::Vertical, parent), top_(top) {
     setFocusPolicy(Qt::NoFocus);
 }
 
 QRectF ScrollBar::track() const {
     return {(width() - kThumbWidth) / 2, kArrowHeight, kThumbWidth, height() - 2 * kArrowHeight};
+}
+
+int ScrollBar::distanceFromTop() const {
+    return top_ == Top::Maximum ? maximum() - value() : value() - minimum();
 }
 
 QRectF ScrollBar::thumb() const {
@@ -37,7 +41,7 @@ QRectF ScrollBar::thumb() const {
         return all;
     const double length =
         qBound(kShortestThumb, all.height() * pageStep() / (range + pageStep()), all.height());
-    const double top = all.top() + (all.height() - length) * (maximum() - value()) / range;
+    const double top = all.top() + (all.height() - length) * distanceFromTop() / range;
     return {all.left(), top, all.width(), length};
 }
 
@@ -46,7 +50,8 @@ int ScrollBar::valueOfThumbAt(double top) const {
     if (room <= 0)
         return maximum();
     const double share = qBound(0.0, (top - track().top()) / room, 1.0);
-    return qRound(maximum() - share * (maximum() - minimum()));
+    const double distance = share * (maximum() - minimum());
+    return qRound(top_ == Top::Maximum ? maximum() - distance : minimum() + distance);
 }
 
 void ScrollBar::paintEvent(QPaintEvent*) {
@@ -64,14 +69,12 @@ void ScrollBar::paintEvent(QPaintEvent*) {
 }
 
 QAbstractSlider::SliderAction ScrollBar::actionAt(double y) const {
-    // Down on the page is towards the minimum.
-    if (y < kArrowHeight)
-        return SliderSingleStepAdd;
-    if (y >= height() - kArrowHeight)
-        return SliderSingleStepSub;
-    if (y < thumb().top())
-        return SliderPageStepAdd;
-    return y >= thumb().bottom() ? SliderPageStepSub : SliderNoAction;
+    const bool toMaximum = (y < thumb().top()) == (top_ == Top::Maximum);
+    if (y < kArrowHeight || y >= height() - kArrowHeight)
+        return toMaximum ? SliderSingleStepAdd : SliderSingleStepSub;
+    if (y >= thumb().top() && y < thumb().bottom())
+        return SliderNoAction;
+    return toMaximum ? SliderPageStepAdd : SliderPageStepSub;
 }
 
 void ScrollBar::mousePressEvent(QMouseEvent* event) {
@@ -116,7 +119,10 @@ void ScrollBar::timerEvent(QTimerEvent* event) {
 }
 
 void ScrollBar::wheelEvent(QWheelEvent* event) {
-    event->ignore(); // the window scrolls, wherever the pointer is
+    if (top_ == Top::Minimum)
+        QScrollBar::wheelEvent(event); // the list or text hands it on
+    else
+        event->ignore(); // the window scrolls, wherever the pointer is
 }
 
 void ScrollBar::contextMenuEvent(QContextMenuEvent* event) {

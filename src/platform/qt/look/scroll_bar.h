@@ -7,11 +7,15 @@
 
 namespace platform::look {
 
-/// An upright scroll bar: arrows at its ends, a track between them, a round thumb. Its *maximum* is
-/// at the top: a page whose top edge stands at the value scrolls down as the value falls.
+/// An upright scroll bar: arrows at its ends, a track between them, a round thumb.
 class ScrollBar : public QScrollBar {
 public:
-    explicit ScrollBar(QWidget* parent);
+    enum class Top {
+        Maximum, ///< a page whose top edge stands at the value scrolls down as the value falls
+        Minimum, ///< as the toolkit's own lists and texts count
+    };
+
+    explicit ScrollBar(QWidget* parent, Top top = Top::Maximum);
 
     /// Rectangle of the thumb, in logical pixels of the control.
     QRectF thumb() const;
@@ -27,9 +31,11 @@ protected:
 
 private:
     QRectF track() const;
+    int distanceFromTop() const;
     SliderAction actionAt(double y) const;
     int valueOfThumbAt(double top) const;
 
+    Top top_;
     Icon up_{QStringLiteral("up")};
     Icon down_{QStringLiteral("down")};
     QBasicTimer repeat_;
