@@ -1,0 +1,45 @@
+#pragma once
+
+#include "jet/result.h"
+
+#include <cstddef>
+#include <filesystem>
+#include <memory>
+
+namespace search {
+
+/// Most memory, in bytes, that the folded copy of the pages may take: more than 100,000 pages of
+/// 1.6 KB, and little beside what an ordinary machine has. A course of today takes 1 or 2 MB.
+inline constexpr std::size_t kFoldedCopyBytes = 256 * 1024 * 1024;
+
+/// The pages of a course, opened for searching: the table "cours" and a copy of the page sources,
+/// ready for comparing, that grows during the first search. Later searches read the file only for
+/// pages that the copy has no room for. One window keeps one such object for as long as it lives;
+/// the copy goes with it. Not to be used from two threads at once.
+class CoursePages {
+public:
+    /// Opens a course database; nothing but the table's definition is read. The failure, a French
+    /// sentence, says that there is no such file, table or column ("fpc", "moteur"), or what of it
+    /// is damaged. With `copyBytes` 0 no copy is kept, which is for a single search.
+    static jet::Result<CoursePages> open(const std::filesystem::path& database,
+                                         std::size_t copyBytes = kFoldedCopyBytes);
+
+    CoursePages(CoursePages&&) noexcept;
+    CoursePages& operator=(CoursePages&&) noexcept;
+    ~CoursePages();
+
+    /// Position of the last record, counted from 0; -1 when there are none. The first call takes a
+    /// look at every page of the table, some milliseconds for 100,000 records.
+    int lastPosition();
+
+    /// Bytes that the copy takes now.
+    std::size_t copyBytes() const;
+
+private:
+    friend class PageSearch;
+    struct State;
+    explicit CoursePages(std::unique_ptr<State> state);
+    std::unique_ptr<State> state_;
+};
+
+} // namespace search

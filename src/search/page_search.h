@@ -1,0 +1,57 @@
+#pragma once
+
+#include "search/query.h"
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace search {
+
+class CoursePages;
+
+/// A page that holds what was looked for.
+struct FoundPage {
+    int position = 0;        ///< of its record, from 0
+    std::int32_t number = 0; ///< fixed page number ("Numeropage"); 0 when the record has none
+    std::u16string title;    ///< "titre"; empty for NULL
+
+    bool operator==(const FoundPage&) const = default;
+};
+
+/// One search through the pages of a course, in slices, so that a window can live between them:
+///
+///     PageSearch search(pages, {queryWords(typed), allWords, ignoreAccents});
+///     while (search.advance())
+///         progressBar.setValue(search.position());
+///
+/// Words are found anywhere in the raw page source, inside directives and inside other words too;
+/// letter case never counts, accents do unless they are to be ignored. The record at position 0 is
+/// never examined, and pages without their "moteur" flag are passed over, as is a record whose
+/// source cannot be read. Dropping the search at any point is fine.
+class PageSearch {
+public:
+    /// `pages` must outlive the search. Searches may follow each other or go on side by side.
+    PageSearch(CoursePages& pages, Query query);
+
+    /// Examines the next slice, about 256 KB of page source or 1,024 records: well below a
+    /// millisecond when the copy has it, about one when it comes from the file (one long page can
+    /// take more). False when that was the last one, or none was left.
+    bool advance();
+
+    /// Position of the last record examined so far; 0 before the first slice, and
+    /// CoursePages::lastPosition() (or 0, when that is -1) at the end.
+    int position() const { return position_; }
+
+    /// The pages found so far, in the order of their records, each once.
+    const std::vector<FoundPage>& found() const { return found_; }
+
+private:
+    CoursePages& pages_;
+    Query query_;
+    int position_ = 0;
+    std::vector<FoundPage> found_;
+};
+
+} // namespace search
