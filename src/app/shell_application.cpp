@@ -102,9 +102,9 @@ struct ShellApplication::Parts {
           launcher(state, prompter, processes, activator, window), modules(launcher),
           links(window, fonts, drawing.links),
           orderForm(window, QStringLiteral("Cette édition n’a pas encore de bon de commande.")),
-          search(window, QStringLiteral("Cette édition n’a pas encore la recherche.")),
           help(window, QStringLiteral("Cette édition n’a pas encore d’aide.")),
           installation(window, QStringLiteral("Cette édition ne s’actualise pas encore.")),
+          search(window, QStringLiteral("Cette édition n’a pas encore la recherche.")),
           drives(courseDirectory(commandLine), commandLine.drives),
           symbols(courseDirectory(commandLine)),
           exercise(window, {state, drawing, pictures, fonts, screen, prompter, calculator,
@@ -135,7 +135,8 @@ struct ShellApplication::Parts {
     shell::Launcher launcher;
     LaunchedModules modules;
     viewer::LinkControls links;
-    MissingWindow orderForm, search, help, installation;
+    MissingWindow orderForm, help, installation;
+    MissingSearch search;
     Calculator calculator;
     Ending ending;
 

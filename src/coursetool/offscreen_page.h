@@ -60,6 +60,7 @@ public:
     void setPrintable(bool) override {}
     void setSummary(const QString&, const QString&) override {}
     void setReturnToTestVisible(bool) override {}
+    void markWords(const viewer::FoundWords&) override {}
     void showHourglass() override {}
     void restorePointer() override {}
     void close() override {}

@@ -58,8 +58,10 @@ void MainCommands::showNeighbour(int distance) {
 
 void MainCommands::search() {
     neighbours_.search.open();
-    if (state_.SearchChosenPage != 0)
-        runCode(pageCode(state_.SearchChosenPage));
+    if (state_.SearchChosenPage == 0)
+        return;
+    runCode(pageCode(state_.SearchChosenPage));
+    view_.markWords(neighbours_.search.foundWords());
 }
 
 void MainCommands::returnToTest() {

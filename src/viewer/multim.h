@@ -101,6 +101,7 @@ public:
     void setPrintable(bool printable) override;
     void setSummary(const QString& code, const QString& caption) override;
     void setReturnToTestVisible(bool visible) override;
+    void markWords(const FoundWords&) override {}
     void showHourglass() override;
     void restorePointer() override;
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "viewer/found_words.h"
+
 namespace viewer {
 
 // What stands beside the main window, each as narrow as its callers need it.
@@ -20,6 +22,13 @@ class ModalWindow {
 public:
     virtual ~ModalWindow() = default;
     virtual void open() = 0;
+};
+
+/// The search window. It starts afresh each time it opens, with no page chosen yet.
+class SearchWindow : public ModalWindow {
+public:
+    /// The words that led to the page that was chosen last.
+    virtual FoundWords foundWords() const = 0;
 };
 
 /// Prints pages.
@@ -58,9 +67,9 @@ public:
 };
 
 /// The windows and devices that the main window's buttons and page codes lead to. The exercise
-/// window leaves `ExerciseReturnPage` in the shared state, the search window, which starts afresh
-/// each time, `SearchChosenPage`. The exit screen does not return to the program: when it closes,
-/// all ends.
+/// window leaves `ExerciseReturnPage` in the shared state, the search window `SearchChosenPage`, 0
+/// from its opening on until a page is chosen. The exit screen does not return to the program: when
+/// it closes, all ends.
 struct Neighbours {
     VideoDevice& video;
     PageLinks& links;
@@ -68,7 +77,7 @@ struct Neighbours {
     UpdateCheck& updateCheck;
     ModalWindow& exercise;
     ModalWindow& orderForm;
-    ModalWindow& search;
+    SearchWindow& search;
     ModalWindow& calculator; ///< not modal: open() returns at once
     ModalWindow& help;       ///< not modal: open() returns at once
     ModalWindow& installation;

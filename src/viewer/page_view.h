@@ -1,5 +1,7 @@
 #pragma once
 
+#include "viewer/found_words.h"
+
 #include <QString>
 
 namespace viewer {
@@ -42,6 +44,9 @@ public:
 
     /// Shows or hides the button that leads back to the test.
     virtual void setReturnToTestVisible(bool visible) = 0;
+
+    /// Marks these words on the page that is shown, until another comes, and scrolls to the first.
+    virtual void markWords(const FoundWords& words) = 0;
 
     /// Gives the window the pointer of a program at work, or its normal one.
     virtual void showHourglass() = 0;

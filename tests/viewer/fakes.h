@@ -24,6 +24,14 @@ struct FakeNeighbours {
         std::function<void()> whileOpen;
     };
 
+    struct Search : viewer::SearchWindow {
+        explicit Search(QStringList& calls) : window(calls, QStringLiteral("search")) {}
+        void open() override { window.open(); }
+        viewer::FoundWords foundWords() const override { return words; }
+        Window window;
+        viewer::FoundWords words;
+    };
+
     struct Video : viewer::VideoDevice {
         explicit Video(QStringList& calls) : log(calls) {}
         void close() override { log.append(QStringLiteral("close video")); }
@@ -83,7 +91,7 @@ struct FakeNeighbours {
     Modules modules{log};
     Window exercise{log, QStringLiteral("exercise")};
     Window orderForm{log, QStringLiteral("order form")};
-    Window search{log, QStringLiteral("search")};
+    Search search{log};
     Window calculator{log, QStringLiteral("calculator")};
     Window help{log, QStringLiteral("help")};
     Window installation{log, QStringLiteral("installation")};

@@ -40,6 +40,10 @@ public:
         note(u"summary "_qs + summary);
     }
     void setReturnToTestVisible(bool on) override { returnToTest = on; }
+    void markWords(const viewer::FoundWords& found) override {
+        for (const QString& word : found.words)
+            note(u"mark "_qs + word);
+    }
     void showHourglass() override { note(u"hourglass"_qs); }
     void restorePointer() override { note(u"normal pointer"_qs); }
 

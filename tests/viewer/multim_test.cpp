@@ -136,7 +136,7 @@ TEST_F(Window, SummaryButtonFollowsThePage) {
 }
 
 TEST_F(Window, SearchShowsThePageChosen) {
-    bench.neighbours.search.whileOpen = [this] { bench.state.SearchChosenPage = 30; };
+    bench.neighbours.search.window.whileOpen = [this] { bench.state.SearchChosenPage = 30; };
     click("command4");
     EXPECT_EQ(shown(), QStringLiteral("30"));
 }
@@ -268,7 +268,7 @@ TEST_F(Window, LeavingAsksFirst) {
 
 TEST_F(Window, WorkDoesNotStartAnewAndClosingWaitsForItsEnd) {
     bench.prompter.answers = {Answer::Ok};
-    bench.neighbours.search.whileOpen = [this] {
+    bench.neighbours.search.window.whileOpen = [this] {
         bench.neighbours.log.clear();
         click("Command3");
         press(Qt::Key_H, Qt::AltModifier);
