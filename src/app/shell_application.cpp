@@ -17,6 +17,7 @@
 #include "platform/qt/qt_printer.h"
 #include "platform/qt/qt_processes.h"
 #include "platform/qt/qt_screen.h"
+#include "search/coordon_opener.h"
 #include "shell/course_directory.h"
 #include "shell/data_location.h"
 #include "shell/launcher.h"
@@ -104,8 +105,7 @@ struct ShellApplication::Parts {
           orderForm(window, QStringLiteral("Cette édition n’a pas encore de bon de commande.")),
           help(window, QStringLiteral("Cette édition n’a pas encore d’aide.")),
           installation(window, QStringLiteral("Cette édition ne s’actualise pas encore.")),
-          search(window, QStringLiteral("Cette édition n’a pas encore la recherche.")),
-          drives(courseDirectory(commandLine), commandLine.drives),
+          search(state, window), drives(courseDirectory(commandLine), commandLine.drives),
           symbols(courseDirectory(commandLine)),
           exercise(window, {state, drawing, pictures, fonts, screen, prompter, calculator,
                             commandLine.author}),
@@ -136,7 +136,7 @@ struct ShellApplication::Parts {
     LaunchedModules modules;
     viewer::LinkControls links;
     MissingWindow orderForm, help, installation;
-    MissingSearch search;
+    search::CoordonOpener search;
     Calculator calculator;
     Ending ending;
 
