@@ -86,14 +86,13 @@ void Coordon::addControls() {
     Text1_->setAccessibleName(prompt);
     Text1_->setGeometry(kWords);
 
-    const auto addBox = [this](const QString& caption, QChar key, QPoint place) {
+    const auto addBox = [this](const QString& caption, QPoint place) {
         auto* box = new look::CheckBox(caption, this);
-        box->setShortcut(QKeySequence(QStringLiteral("Alt+") + key));
         box->setGeometry(QRect(place, box->sizeHint()));
         return box;
     };
-    Checkmots_ = addBox(QStringLiteral("Tous les mots"), u'T', kAllWords);
-    accents_ = addBox(QStringLiteral("Ignorer les accents"), u'I', kAccents);
+    Checkmots_ = addBox(QStringLiteral("&Tous les mots"), kAllWords);
+    accents_ = addBox(QStringLiteral("&Ignorer les accents"), kAccents);
 
     Label2_ = newLabel(QStringLiteral("Aucune page trouvée."), kNotice, look::Weight::Bold, this);
     Pbar1_ = new look::ProgressBar(this);
