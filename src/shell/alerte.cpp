@@ -123,12 +123,12 @@ void Alerte::arrange() {
     // A text lower than the sign stands on its middle.
     const int textTop = qMax(kText.y(), qRound(kPicture.center().y()) - textHeight / 2);
     Label1_->setGeometry(kText.x(), textTop, kTextWidth, textHeight);
-    int bottom = qMax(kLeastTextBottom, textTop + textHeight);
+    int textBottom = textTop + textHeight;
     if (notice_->isVisibleTo(this)) {
-        notice_->setGeometry(kText.x(), bottom, kTextWidth, kLineHeight);
-        bottom += kLineHeight;
+        notice_->setGeometry(kText.x(), textBottom, kTextWidth, kLineHeight);
+        textBottom += kLineHeight;
     }
-    const int buttonTop = bottom + kAboveRule + kAboveButtons;
+    const int buttonTop = qMax(kLeastTextBottom, textBottom) + kAboveRule + kAboveButtons;
     for (look::Button* button : {Command1_, Command2_})
         button->setGeometry(QRect(QPoint(kMargin, buttonTop), kButton));
     Command3_->setGeometry(QRect(QPoint(kWidth - kMargin - kButton.width(), buttonTop), kButton));

@@ -3,6 +3,7 @@
 #include "app/x11_picture.h"
 #include "platform_mpv/clips.h"
 #include "support/files.h"
+#include "support/module_window.h"
 #include "support/x11_session.h"
 
 #include <QDir>
@@ -11,7 +12,10 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
+#include <memory>
+
 using test_support::eventually;
+using test_support::ModuleWindow;
 using test_support::X11Session;
 
 namespace {
@@ -376,6 +380,61 @@ TEST_F(VideoPages, PlaysFromTheDiscAndLeavesWhilePlaying) {
     ASSERT_TRUE(shell_.waitForFinished(30'000));
     EXPECT_EQ(shell_.exitCode(), 0);
     EXPECT_EQ(QString::fromUtf8(shell_.readAllStandardError()), QString());
+}
+
+/// Leaves through the question.
+class Leaving : public LinkedPages {
+protected:
+    void leave() {
+        press("alt+q");
+        ASSERT_TRUE(eventually([&] { return activeTitle() == "Quitter"; }));
+        press("Return");
+        ASSERT_TRUE(shell_.waitForFinished(30'000));
+        EXPECT_EQ(shell_.exitStatus(), QProcess::NormalExit);
+        EXPECT_EQ(shell_.exitCode(), 0);
+    }
+
+    /// A program with a window of that title; returns once the window is there.
+    std::unique_ptr<ModuleWindow> open(const QString& title, const QStringList& more = {}) {
+        auto program = std::make_unique<ModuleWindow>(
+            session_.display(), QStringList{"title=" + title} + more, course());
+        EXPECT_TRUE(eventually([&] { return activeTitle() == title; }));
+        return program;
+    }
+
+    void activateShell() {
+        run("xdotool", {"windowactivate", window()});
+        ASSERT_TRUE(eventually([&] { return activeTitle().startsWith("Orvalente - "); }));
+    }
+};
+
+TEST_F(Leaving, EndsTheModulesAndStartsTheCompanion) {
+    test_support::writeProgram(course() + "/terminus.exe", "#!/bin/sh\npwd > trace\n");
+    start();
+    const auto projectile = open("Mouvement d’un projectile - Orvalente, module 23", {"record=23"});
+    const auto links = open("Liens utiles - orvalente, module 07", {"pid=none"});
+    const auto other = open("Orvalente et ses modules - Notes");
+    const auto deaf = open("Optique - Orvalente, module 09", {"stays=1"});
+    activateShell();
+    leave();
+    EXPECT_TRUE(projectile->waitForFinished());
+    EXPECT_EQ(projectile->exitStatus(), QProcess::CrashExit);
+    EXPECT_TRUE(eventually([&] {
+        return test_support::readFile(course() + "/trace").trimmed() ==
+               QFileInfo(course()).canonicalFilePath().toUtf8();
+    }));
+    EXPECT_TRUE(links->waitForFinished());
+    EXPECT_EQ(links->exitCode(), 3); // closed
+    EXPECT_EQ(other->state(), QProcess::Running);
+    EXPECT_EQ(deaf->state(), QProcess::Running);
+}
+
+TEST_F(Leaving, LeavesWindowsAloneWhenNoModuleSaysThatItRuns) {
+    start();
+    const auto projectile = open("Mouvement d’un projectile - Orvalente, module 23");
+    activateShell();
+    leave();
+    EXPECT_EQ(projectile->state(), QProcess::Running);
 }
 
 } // namespace
