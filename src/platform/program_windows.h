@@ -10,7 +10,7 @@ namespace platform {
 struct ProgramWindow {
     quint64 id = 0; ///< the window system's own number
     QString title;  ///< empty for a window without one
-    /// Whether it belongs to another window, as dialogs do.
+    /// Whether it belongs to another window of the list, as dialogs do.
     bool hasParent = false;
 };
 

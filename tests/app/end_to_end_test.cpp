@@ -3,7 +3,6 @@
 #include "app/x11_picture.h"
 #include "platform_mpv/clips.h"
 #include "support/files.h"
-#include "support/module_window.h"
 #include "support/x11_session.h"
 
 #include <QDir>
@@ -15,7 +14,6 @@
 #include <memory>
 
 using test_support::eventually;
-using test_support::ModuleWindow;
 using test_support::X11Session;
 
 namespace {
@@ -382,10 +380,28 @@ TEST_F(VideoPages, PlaysFromTheDiscAndLeavesWhilePlaying) {
     EXPECT_EQ(QString::fromUtf8(shell_.readAllStandardError()), QString());
 }
 
-/// Leaves through the question.
+/// Modules beside the shell when it is left.
 class Leaving : public LinkedPages {
 protected:
+    ~Leaving() override {
+        for (const auto& module : modules_) {
+            module->kill();
+            module->waitForFinished();
+        }
+    }
+
+    /// A program of another maker with a window of that title.
+    QProcess& open(const QStringList& arguments) {
+        modules_.push_back(std::make_unique<QProcess>());
+        modules_.back()->setProcessEnvironment(environment());
+        modules_.back()->start(PLAIN_WINDOW, arguments);
+        EXPECT_TRUE(eventually([&] { return activeTitle() == arguments[0]; }));
+        return *modules_.back();
+    }
+
     void leave() {
+        run("xdotool", {"windowactivate", window()});
+        ASSERT_TRUE(eventually([&] { return activeTitle().startsWith("Orvalente - "); }));
         press("alt+q");
         ASSERT_TRUE(eventually([&] { return activeTitle() == "Quitter"; }));
         press("Return");
@@ -394,47 +410,28 @@ protected:
         EXPECT_EQ(shell_.exitCode(), 0);
     }
 
-    /// A program with a window of that title; returns once the window is there.
-    std::unique_ptr<ModuleWindow> open(const QString& title, const QStringList& more = {}) {
-        auto program = std::make_unique<ModuleWindow>(
-            session_.display(), QStringList{"title=" + title} + more, course());
-        EXPECT_TRUE(eventually([&] { return activeTitle() == title; }));
-        return program;
-    }
-
-    void activateShell() {
-        run("xdotool", {"windowactivate", window()});
-        ASSERT_TRUE(eventually([&] { return activeTitle().startsWith("Orvalente - "); }));
-    }
+private:
+    std::vector<std::unique_ptr<QProcess>> modules_;
 };
 
-TEST_F(Leaving, EndsTheModulesAndStartsTheCompanion) {
-    test_support::writeProgram(course() + "/terminus.exe", "#!/bin/sh\npwd > trace\n");
-    start();
-    const auto projectile = open("Mouvement d’un projectile - Orvalente, module 23", {"record=23"});
-    const auto links = open("Liens utiles - orvalente, module 07", {"pid=none"});
-    const auto other = open("Orvalente et ses modules - Notes");
-    const auto deaf = open("Optique - Orvalente, module 09", {"stays=1"});
-    activateShell();
-    leave();
-    EXPECT_TRUE(projectile->waitForFinished());
-    EXPECT_EQ(projectile->exitStatus(), QProcess::CrashExit);
-    EXPECT_TRUE(eventually([&] {
-        return test_support::readFile(course() + "/trace").trimmed() ==
-               QFileInfo(course()).canonicalFilePath().toUtf8();
-    }));
-    EXPECT_TRUE(links->waitForFinished());
-    EXPECT_EQ(links->exitCode(), 3); // closed
-    EXPECT_EQ(other->state(), QProcess::Running);
-    EXPECT_EQ(deaf->state(), QProcess::Running);
-}
-
-TEST_F(Leaving, LeavesWindowsAloneWhenNoModuleSaysThatItRuns) {
-    start();
-    const auto projectile = open("Mouvement d’un projectile - Orvalente, module 23");
-    activateShell();
-    leave();
-    EXPECT_EQ(projectile->state(), QProcess::Running);
+TEST_F(Leaving, EndsTheModulesAndStartsTheCompanionOnceAModuleSaysThatItRuns) {
+    test_support::writeProgram(course() + "/terminus.exe", "#!/bin/sh\necho there > trace\n");
+    QProcess& projectile = open({"Mouvement d’un projectile - Orvalente, module 23"});
+    QProcess& deaf = open({"Optique - Orvalente, module 09", "deaf"});
+    QProcess& other = open({"Orvalente et ses modules - Notes"});
+    for (const bool moduleSays : {false, true}) {
+        start();
+        QByteArray status = test_support::readFile(course() + "/TEMPKX.TMP");
+        if (moduleSays)
+            test_support::writeFile(course() + "/TEMPKX.TMP",
+                                    status.replace(22 * 128 + 2, 3, "OUI"));
+        leave();
+        EXPECT_EQ(projectile.waitForFinished(moduleSays ? 30'000 : 0), moduleSays);
+        EXPECT_TRUE(eventually([&] { return QFile::remove(course() + "/trace"); }));
+    }
+    EXPECT_EQ(projectile.exitStatus(), QProcess::CrashExit); // by the signal
+    EXPECT_EQ(deaf.state(), QProcess::Running);
+    EXPECT_EQ(other.state(), QProcess::Running);
 }
 
 } // namespace

@@ -1,7 +1,6 @@
 #include "platform/posix/process_family.h"
 #include "platform/x11/x11_program_windows.h"
 #include "support/files.h"
-#include "support/module_window.h"
 #include "support/x11_session.h"
 
 #include <unistd.h>
@@ -10,7 +9,6 @@
 
 using platform::X11ProgramWindows;
 using test_support::eventually;
-using test_support::ModuleWindow;
 using test_support::X11Session;
 
 namespace {
@@ -23,45 +21,77 @@ End endOf(const QProcess& process) {
     return process.exitStatus() == QProcess::CrashExit ? End::Signal : End::Close;
 }
 
+/// A property that a window is made to have: its name, format and value. Without the last two it
+/// is made not to have it.
+using Property = QStringList;
+
+void change(const X11Session& session, quint64 window, const Property& property) {
+    const QStringList id = {"-id", QString::number(window)};
+    session.xprop(property.size() == 1 ? id + QStringList{"-remove", property[0]}
+                                       : id + QStringList{"-f", property[0], property[1], "-set",
+                                                          property[0], property[2]});
+}
+
+Property pid(qint64 number) {
+    return {"_NET_WM_PID", "32c", QString::number(number)};
+}
+
 } // namespace
 
 TEST(X11ProgramWindows, EndOwnersOnThisMachineAndCloseWindowsWithoutOne) {
+    const Property noPid{"_NET_WM_PID"}, elsewhere{"WM_CLIENT_MACHINE", "8s", "elsewhere"};
     const struct {
-        const char* title;
-        QStringList says;
+        QString title;
+        QList<Property> properties;
         End end;
-    } rows[] = {
-        {"Mouvement d’un projectile", {}, End::Signal},
-        {"of this process", {"pid=" + QString::number(getpid())}, End::None},
-        {"of another machine", {"host=elsewhere"}, End::None},
-        {"of another machine, without an owner", {"host=elsewhere", "pid=none"}, End::None},
-        {"without an owner", {"pid=none"}, End::Close},
-        {"without a machine", {"host=none"}, End::Close},
-        {"with the number of no process", {"pid=2147483647"}, End::Close},
-        {"with a number that would be negative", {"pid=2147483649"}, End::Close},
-        {"without an owner, and cannot be closed", {"pid=none", "stays=1"}, End::None},
-        {"pays no heed", {"stays=1"}, End::None},
-        {"the last", {"parent=1"}, End::Signal},
-    };
+    } rows[] = {{"Mouvement d’un projectile", {}, End::Signal},
+                {"of this process", {pid(getpid())}, End::None},
+                {"of another machine", {elsewhere}, End::None},
+                {"of another machine, without an owner", {elsewhere, noPid}, End::None},
+                {"without an owner", {noPid}, End::Close},
+                {"without a machine", {{"WM_CLIENT_MACHINE"}}, End::Close},
+                {"with the number of no process", {pid(2147483647)}, End::Close},
+                {"with a number that would be negative", {pid(2147483649)}, End::Close},
+                {"cannot be closed", {noPid, {"WM_PROTOCOLS"}}, End::None},
+                {"deaf", {}, End::None}};
     const X11Session session(X11Session::Manager::Openbox);
     X11ProgramWindows windows(session.display());
-    std::vector<std::unique_ptr<ModuleWindow>> programs;
+    qputenv("DISPLAY", session.display());
+    std::vector<std::unique_ptr<QProcess>> programs;
     for (const auto& row : rows) {
-        programs.push_back(std::make_unique<ModuleWindow>(
-            session.display(), QStringList{"title=" + QString(row.title)} + row.says));
+        programs.push_back(std::make_unique<QProcess>());
+        programs.back()->start(PLAIN_WINDOW, {"-platform", "xcb", row.title, row.title});
         ASSERT_TRUE(eventually([&] { return windows.list().size() == programs.size(); }));
+        for (const Property& property : row.properties)
+            change(session, windows.list().back().id, property);
         EXPECT_EQ(windows.list().back().title, row.title);
-        EXPECT_EQ(windows.list().back().hasParent, row.says.contains("parent=1"));
     }
     for (const platform::ProgramWindow& window : windows.list())
         windows.postQuit(window.id);
     for (std::size_t i = 0; i < programs.size(); ++i) {
         if (rows[i].end != End::None)
             programs[i]->waitForFinished();
+        EXPECT_EQ(endOf(*programs[i]), rows[i].end) << qPrintable(rows[i].title);
     }
-    for (std::size_t i = 0; i < programs.size(); ++i)
-        EXPECT_EQ(endOf(*programs[i]), rows[i].end) << rows[i].title;
-    windows.postQuit(windows.list().front().id + 4711); // no window at all
+    for (const auto& program : programs) {
+        program->kill();
+        program->waitForFinished();
+    }
+    windows.postQuit(4711); // no window at all
+}
+
+TEST(X11ProgramWindows, TellDialogsOfAnotherWindow) {
+    const X11Session session(X11Session::Manager::Openbox);
+    const X11ProgramWindows windows(session.display());
+    qputenv("DISPLAY", session.display());
+    QProcess program;
+    program.start(PLAIN_WINDOW, {"-platform", "xcb", "Optique", "dialogs"});
+    ASSERT_TRUE(eventually([&] { return windows.list().size() == 2; }));
+    // Without a window before which it could stand, a dialog is its program's main window.
+    for (const platform::ProgramWindow& window : windows.list())
+        EXPECT_EQ(window.hasParent, window.title != "Optique");
+    program.kill();
+    program.waitForFinished();
 }
 
 TEST(X11ProgramWindows, AreNoneWithoutADisplay) {
@@ -74,9 +104,8 @@ TEST(ProcessFamily, GoesUpAndNotDown) {
     QProcess child;
     child.start("sleep", {"60"});
     ASSERT_TRUE(child.waitForStarted());
-    EXPECT_TRUE(platform::isOwnProcessOrAncestor(getpid()));
-    EXPECT_TRUE(platform::isOwnProcessOrAncestor(getppid()));
-    EXPECT_TRUE(platform::isOwnProcessOrAncestor(1));
+    for (const qint64 member : {getpid(), getppid(), 1})
+        EXPECT_TRUE(platform::isOwnProcessOrAncestor(member)) << member;
     EXPECT_FALSE(platform::isOwnProcessOrAncestor(child.processId()));
     EXPECT_FALSE(platform::isOwnProcessOrAncestor(0));
     child.kill();

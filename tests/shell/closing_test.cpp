@@ -3,7 +3,6 @@
 #include "shell/closing.h"
 #include "shell/title_fragments.h"
 #include "support/fake_processes.h"
-#include "support/fake_program_windows.h"
 #include "support/fake_prompter.h"
 
 #include <QTemporaryDir>
@@ -14,6 +13,25 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 namespace {
+
+/// Windows of no program: keeps what was asked of them.
+class FakeWindows : public platform::ProgramWindows {
+public:
+    std::vector<platform::ProgramWindow> list() const override {
+        ++reads;
+        return windows;
+    }
+    void postQuit(quint64 id) override {
+        quits.push_back(id);
+        if (vanish)
+            windows.clear();
+    }
+
+    std::vector<platform::ProgramWindow> windows;
+    std::vector<quint64> quits;
+    bool vanish = false; ///< whether a window goes when its program is asked to quit
+    mutable int reads = 0;
+};
 
 class ClosingTest : public testing::Test {
 protected:
@@ -39,7 +57,7 @@ protected:
     test_support::FakeActivator activator_;
     FakeReports reports_;
     shell::Launcher launcher_{state_, prompter_, starter_, activator_, reports_};
-    test_support::FakeProgramWindows windows_;
+    FakeWindows windows_;
 };
 
 } // namespace

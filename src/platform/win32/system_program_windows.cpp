@@ -39,9 +39,11 @@ public:
 
 private:
     static BOOL CALLBACK append(HWND window, LPARAM windows) {
+        // Old toolkits give a main window a hidden owner, which makes no dialog of it.
+        const HWND owner = GetWindow(window, GW_OWNER);
         reinterpret_cast<std::vector<ProgramWindow>*>(windows)->push_back(
             {static_cast<quint64>(reinterpret_cast<quintptr>(window)), titleOf(window),
-             GetWindow(window, GW_OWNER) != nullptr});
+             owner != nullptr && IsWindowVisible(owner)});
         return TRUE;
     }
 };

@@ -81,9 +81,9 @@ QString X11Display::title(xcb_window_t window) const {
                : QString::fromUtf8(title);
 }
 
-bool X11Display::isTransient(xcb_window_t window) const {
+xcb_window_t X11Display::transientFor(xcb_window_t window) const {
     const auto before = cardinals(window, "WM_TRANSIENT_FOR", XCB_ATOM_WINDOW);
-    return !before.empty() && before.front() != XCB_WINDOW_NONE;
+    return before.empty() ? static_cast<xcb_window_t>(XCB_WINDOW_NONE) : before.front();
 }
 
 void X11Display::askToClose(xcb_window_t window) const {

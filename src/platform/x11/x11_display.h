@@ -37,8 +37,9 @@ public:
     /// Title of the window; empty when it has none.
     QString title(xcb_window_t window) const;
 
-    /// Whether the window stands before another one of its program, as dialogs do.
-    bool isTransient(xcb_window_t window) const;
+    /// The window that this one stands before, as dialogs do; none when it does not say. A dialog
+    /// without such a window may name the root or a hidden window of its toolkit.
+    xcb_window_t transientFor(xcb_window_t window) const;
 
     /// Asks the window's program to close it, as the button of its title bar does, and waits until
     /// the display has taken the request. Has no effect on a window that does not know of this.

@@ -5,6 +5,8 @@
 
 #include <QSysInfo>
 
+#include <algorithm>
+
 namespace platform {
 
 namespace {
@@ -20,9 +22,13 @@ std::vector<ProgramWindow> X11ProgramWindows::list() const {
     const X11Display display(display_);
     if (!display.isOpen())
         return {};
+    const std::vector<xcb_window_t> all = display.programWindows();
     std::vector<ProgramWindow> windows;
-    for (const xcb_window_t window : display.programWindows())
-        windows.push_back({window, display.title(window), display.isTransient(window)});
+    for (const xcb_window_t window : all) {
+        const bool hasParent =
+            std::find(all.begin(), all.end(), display.transientFor(window)) != all.end();
+        windows.push_back({window, display.title(window), hasParent});
+    }
     return windows;
 }
 
