@@ -2,7 +2,6 @@
 
 #include "app/course_data.h"
 #include "app/missing_parts.h"
-#include "app/prompted_display_warning.h"
 #include "app/video_loader.h"
 #include "calculator/machine_opener.h"
 #include "exercises/exo_opener.h"
@@ -17,9 +16,14 @@
 #include "platform/qt/qt_printer.h"
 #include "platform/qt/qt_processes.h"
 #include "platform/qt/qt_screen.h"
+#include "platform/qt/system_display_settings.h"
+#include "platform/system_program_windows.h"
 #include "search/coordon_opener.h"
+#include "shell/alerte.h"
+#include "shell/closing.h"
 #include "shell/course_directory.h"
 #include "shell/data_location.h"
+#include "shell/fermeur.h"
 #include "shell/launcher.h"
 #include "shell/start_up.h"
 #include "viewer/action_dispatcher.h"
@@ -85,13 +89,22 @@ private:
     calculator::MachineOpener opener_{memory_};
 };
 
-/// Ends the program.
-class Ending : public viewer::ModalWindow {
+/// The exit screen, and the end of the program.
+class ExitScreen : public viewer::ModalWindow {
 public:
+    ExitScreen(QWidget& window, shell::Closing& closing) : window_(window), closing_(closing) {}
+
     void open() override {
+        fermeur_ = std::make_unique<shell::Fermeur>(&window_, [this] { closing_.run(); });
+        fermeur_->run();
         QMetaObject::invokeMethod(
             qApp, [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
     }
+
+private:
+    QWidget& window_;
+    shell::Closing& closing_;
+    std::unique_ptr<shell::Fermeur> fermeur_; ///< stays until the end
 };
 
 } // namespace
@@ -112,9 +125,9 @@ struct ShellApplication::Parts {
           renderer(drawing, window, pictures, window.recording()),
           pages(state, bound, window, window, renderer, video),
           actions(state, pages, window, modules, exercise, orderForm),
-          neighbours{video,  links,      printing, modules,      exercise, orderForm,
-                     search, calculator, help,     installation, ending},
-          commands(state, actions, window, neighbours, prompter), course(pages), warning(prompter),
+          neighbours{video,  links,      printing, modules,      exercise,  orderForm,
+                     search, calculator, help,     installation, exitScreen},
+          commands(state, actions, window, neighbours, prompter), course(pages),
           startUp(state, courseDirectory(commandLine),
                   {screen, prompter, window, course, warning}) {
         window.attach({commands, actions, pages, renderer, neighbours,
@@ -138,7 +151,9 @@ struct ShellApplication::Parts {
     MissingWindow orderForm, help, installation;
     search::CoordonOpener search;
     Calculator calculator;
-    Ending ending;
+    std::unique_ptr<platform::ProgramWindows> programs = platform::systemProgramWindows();
+    shell::Closing closing{state, launcher, *programs, processes};
+    ExitScreen exitScreen{window, closing};
 
     platform::MountedDrives drives;
     platform::QtBeeper beeper;
@@ -159,7 +174,8 @@ struct ShellApplication::Parts {
     viewer::Neighbours neighbours;
     viewer::MainCommands commands;
     CourseData course;
-    PromptedDisplayWarning warning;
+    platform::SystemDisplaySettings displaySettings;
+    shell::AlerteOpener warning{state, displaySettings};
     shell::StartUp startUp;
 };
 

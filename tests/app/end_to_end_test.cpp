@@ -11,6 +11,8 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
+#include <memory>
+
 using test_support::eventually;
 using test_support::X11Session;
 
@@ -376,6 +378,60 @@ TEST_F(VideoPages, PlaysFromTheDiscAndLeavesWhilePlaying) {
     ASSERT_TRUE(shell_.waitForFinished(30'000));
     EXPECT_EQ(shell_.exitCode(), 0);
     EXPECT_EQ(QString::fromUtf8(shell_.readAllStandardError()), QString());
+}
+
+/// Modules beside the shell when it is left.
+class Leaving : public LinkedPages {
+protected:
+    ~Leaving() override {
+        for (const auto& module : modules_) {
+            module->kill();
+            module->waitForFinished();
+        }
+    }
+
+    /// A program of another maker with a window of that title.
+    QProcess& open(const QStringList& arguments) {
+        modules_.push_back(std::make_unique<QProcess>());
+        modules_.back()->setProcessEnvironment(environment());
+        modules_.back()->start(PLAIN_WINDOW, arguments);
+        EXPECT_TRUE(eventually([&] { return activeTitle() == arguments[0]; }));
+        return *modules_.back();
+    }
+
+    void leave() {
+        run("xdotool", {"windowactivate", window()});
+        ASSERT_TRUE(eventually([&] { return activeTitle().startsWith("Orvalente - "); }));
+        press("alt+q");
+        ASSERT_TRUE(eventually([&] { return activeTitle() == "Quitter"; }));
+        press("Return");
+        ASSERT_TRUE(shell_.waitForFinished(30'000));
+        EXPECT_EQ(shell_.exitStatus(), QProcess::NormalExit);
+        EXPECT_EQ(shell_.exitCode(), 0);
+    }
+
+private:
+    std::vector<std::unique_ptr<QProcess>> modules_;
+};
+
+TEST_F(Leaving, EndsTheModulesAndStartsTheCompanionOnceAModuleSaysThatItRuns) {
+    test_support::writeProgram(course() + "/terminus.exe", "#!/bin/sh\necho there > trace\n");
+    QProcess& projectile = open({"Mouvement d’un projectile - Orvalente, module 23"});
+    QProcess& deaf = open({"Optique - Orvalente, module 09", "deaf"});
+    QProcess& other = open({"Orvalente et ses modules - Notes"});
+    for (const bool moduleSays : {false, true}) {
+        start();
+        QByteArray status = test_support::readFile(course() + "/TEMPKX.TMP");
+        if (moduleSays)
+            test_support::writeFile(course() + "/TEMPKX.TMP",
+                                    status.replace(22 * 128 + 2, 3, "OUI"));
+        leave();
+        EXPECT_EQ(projectile.waitForFinished(moduleSays ? 30'000 : 0), moduleSays);
+        EXPECT_TRUE(eventually([&] { return QFile::remove(course() + "/trace"); }));
+    }
+    EXPECT_EQ(projectile.exitStatus(), QProcess::CrashExit); // by the signal
+    EXPECT_EQ(deaf.state(), QProcess::Running);
+    EXPECT_EQ(other.state(), QProcess::Running);
 }
 
 } // namespace
