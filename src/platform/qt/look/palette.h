@@ -22,6 +22,7 @@ inline constexpr QRgb kHoverTint = 0xffe6eff9;   ///< a button under the pointer
 inline constexpr QRgb kPressedTint = 0xffd3e3f6; ///< a pressed button; accent of the icons
 inline constexpr QRgb kGreen = 0xff1c7540;       ///< right, with the check mark or a word (5.7)
 inline constexpr QRgb kGreenTint = 0xffe4f3e8;   ///< the ground around it
+inline constexpr QRgb kRed = 0xffb3261e;         ///< wrong, with the square cross or a word (6.5)
 
 /// `top` at `share` (0 to 1) over `below`.
 constexpr QRgb blend(QRgb top, QRgb below, double share) {
