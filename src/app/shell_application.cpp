@@ -1,7 +1,9 @@
 #include "app/shell_application.h"
 
 #include "app/course_data.h"
+#include "app/installation_window.h"
 #include "app/missing_parts.h"
+#include "app/order_window.h"
 #include "app/prompted_display_warning.h"
 #include "app/video_loader.h"
 #include "calculator/machine_opener.h"
@@ -101,10 +103,10 @@ struct ShellApplication::Parts {
         : screen(scale), window(state, fonts, screen),
           launcher(state, prompter, processes, activator, window), modules(launcher),
           links(window, fonts, drawing.links),
-          orderForm(window, QStringLiteral("Cette édition n’a pas encore de bon de commande.")),
+          orderForm({printerSetup, printer, fonts}, prompter, window),
           search(window, QStringLiteral("Cette édition n’a pas encore la recherche.")),
           help(window, QStringLiteral("Cette édition n’a pas encore d’aide.")),
-          installation(window, QStringLiteral("Cette édition ne s’actualise pas encore.")),
+          installation(state, processes, prompter, window),
           drives(courseDirectory(commandLine), commandLine.drives),
           symbols(courseDirectory(commandLine)),
           exercise(window, {state, drawing, pictures, fonts, screen, prompter, calculator,
@@ -135,7 +137,9 @@ struct ShellApplication::Parts {
     shell::Launcher launcher;
     LaunchedModules modules;
     viewer::LinkControls links;
-    MissingWindow orderForm, search, help, installation;
+    OrderWindow orderForm;
+    MissingWindow search, help;
+    InstallationWindow installation;
     Calculator calculator;
     Ending ending;
 
