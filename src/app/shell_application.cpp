@@ -1,7 +1,9 @@
 #include "app/shell_application.h"
 
 #include "app/course_data.h"
+#include "app/installation_window.h"
 #include "app/missing_parts.h"
+#include "app/order_window.h"
 #include "app/video_loader.h"
 #include "calculator/machine_opener.h"
 #include "exercises/exo_opener.h"
@@ -115,10 +117,10 @@ struct ShellApplication::Parts {
         : screen(scale), window(state, fonts, screen),
           launcher(state, prompter, processes, activator, window), modules(launcher),
           links(window, fonts, drawing.links),
-          orderForm(window, QStringLiteral("Cette édition n’a pas encore de bon de commande.")),
+          orderForm({printerSetup, printer, fonts}, prompter, window),
           help(window, QStringLiteral("Cette édition n’a pas encore d’aide.")),
-          installation(window, QStringLiteral("Cette édition ne s’actualise pas encore.")),
-          search(state, window), drives(courseDirectory(commandLine), commandLine.drives),
+          installation(state, processes, prompter, window), search(state, window),
+          drives(courseDirectory(commandLine), commandLine.drives),
           symbols(courseDirectory(commandLine)),
           exercise(window, {state, drawing, pictures, fonts, screen, prompter, calculator,
                             commandLine.author}),
@@ -148,7 +150,9 @@ struct ShellApplication::Parts {
     shell::Launcher launcher;
     LaunchedModules modules;
     viewer::LinkControls links;
-    MissingWindow orderForm, help, installation;
+    OrderWindow orderForm;
+    MissingWindow help;
+    InstallationWindow installation;
     search::CoordonOpener search;
     Calculator calculator;
     std::unique_ptr<platform::ProgramWindows> programs = platform::systemProgramWindows();

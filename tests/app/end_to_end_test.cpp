@@ -193,7 +193,8 @@ protected:
         test_support::writeFile(directory + "/pages/1.page",
                                 "+++\nNumeropage = 1\nIndex = 1\n+++\n##SI12\n##PIY020\n"
                                 "Avant, un mot, après\n##POX000\n##PIY040\n"
-                                "Avant, \n##LIERTun mot#PAG002\n, après\n##PIY040\n");
+                                "Avant, \n##LIERTun mot#PAG002\n, après\n##PIY040\n"
+                                "##POX000\n##PIY040\n##LIERTun bon#BDC000\n##PIY040\n");
         test_support::writeFile(directory + "/pages/2.page",
                                 "+++\nNumeropage = 2\nIndex = 2\n+++\n##TITBARDeux\n");
         return directory;
@@ -237,6 +238,26 @@ TEST_F(LinkedPages, LinksAreFollowedByMouseAndKeyboard) {
         press("Tab");
     press("Return");
     EXPECT_TRUE(eventually(isSecond));
+}
+
+TEST_F(LinkedPages, TheOrderFormAndTheDialogAboutTheInstallation) {
+    start();
+    ASSERT_TRUE(eventually([&] { return place().size() == QSize(800, 600); }));
+    const QString shell = title();
+    EXPECT_TRUE(eventually([&] {
+        click(196, 268); // the link
+        return activeTitle() == "Bon de commande";
+    }));
+    press("Escape");
+    ASSERT_TRUE(eventually([&] { return activeTitle() == shell; }));
+    click(648, 32); // Command8
+    ASSERT_TRUE(eventually([&] { return activeTitle() == "Mise à jour"; }));
+    press("alt+m"); // there is no updater
+    ASSERT_TRUE(eventually([&] { return activeTitle() == "MAJKX.EXE"; }));
+    press("Return");
+    ASSERT_TRUE(eventually([&] { return activeTitle() == "Mise à jour"; }));
+    press("Escape");
+    EXPECT_TRUE(eventually([&] { return activeTitle() == shell; }));
 }
 
 /// A course whose first page leads to a test of two questions, the first with a link to page 2 in

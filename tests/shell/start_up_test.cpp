@@ -87,7 +87,7 @@ TEST_F(StartUpTest, resetsTheStatusFileOfAnEarlierSession) {
     run();
     for (int number = 1; number <= 31; ++number)
         EXPECT_EQ(record(number), "NON") << number;
-    EXPECT_EQ(record(32), "Orvalente 1.0");
+    EXPECT_EQ(record(32), QStringLiteral("Collège et lycée").toLatin1());
     EXPECT_EQ(raw_status_file::all(directory_.path()).mid(32 * 128),
               raw_status_file::record("OUI", '#'));
 }

@@ -22,6 +22,7 @@ inline constexpr QRgb kHoverTint = 0xffe6eff9;       ///< a button under the poi
 inline constexpr QRgb kPressedTint = 0xffd3e3f6;     ///< a pressed button; accent of the icons
 inline constexpr QRgb kGreen = 0xff1c7540;           ///< right, with the check mark or a word (5.7)
 inline constexpr QRgb kGreenTint = 0xffe4f3e8;       ///< the ground around it
+inline constexpr QRgb kRed = 0xffb3261e;             ///< wrong, with the square cross or a word (6.5)
 inline constexpr QRgb kMarkTint = 0xffffee99;        ///< words found on a page (ink of links: 9.7)
 inline constexpr QRgb kCurrentMarkTint = 0xffffc74d; ///< the one in turn, in a frame (7.4)
 
