@@ -49,6 +49,7 @@ QComboBox::down-arrow { image: url(:/house/down.svg); width: 10px; height: 10px;
 QComboBox QAbstractItemView { background: PAPER; border: 1px solid EDGE;
     selection-background-color: BLUE; selection-color: PAPER; }
 
+QSlider { min-height: 20px; }
 QSlider::groove:horizontal { height: 4px; background: RULE; border-radius: 2px; }
 QSlider::sub-page:horizontal { background: BLUE; border-radius: 2px; }
 QSlider::handle:horizontal { width: 14px; height: 14px; margin: -6px 0; border-radius: 8px;

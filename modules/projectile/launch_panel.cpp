@@ -17,7 +17,8 @@ namespace {
 
 QLabel* heading(const QString& text) {
     auto* label = new QLabel(text);
-    label->setFont(common::houseFont(common::kTextPx, true));
+    label->setIndent(0);
+    label->setMargin(0);
     label->setStyleSheet(QStringLiteral("color: %1; font-weight: bold; padding-top: 6px;")
                              .arg(QColor::fromRgb(common::kBlue).name()));
     return label;

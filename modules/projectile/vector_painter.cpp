@@ -36,7 +36,8 @@ void paintVector(QPainter& painter, QPointF from, QPointF to, QRgb ink, const QS
     painter.drawPolygon(QPolygonF({to, neck + across * kHeadHalf, neck - across * kHeadHalf}));
     painter.setPen(colour);
     const common::Formula label(name, kNamePx);
-    const QPointF middle = to + along * (8 + label.width() / 2);
+    // Beyond the head and to its left, off the path that the vector touches.
+    const QPointF middle = to + along * 10 - across * (4 + label.width() / 2);
     label.paint(painter, middle + QPointF(-label.width() / 2, label.ascent() / 2));
     painter.restore();
 }
