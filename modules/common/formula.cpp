@@ -20,7 +20,8 @@ using Row = Formula::Row;
 constexpr double kScriptSize = 0.72;
 constexpr double kIndexDrop = 0.22;
 constexpr double kExponentRise = 0.38;
-constexpr double kAxis = 0.32; ///< height of fraction bars above the baseline
+constexpr double kRiseAboveIndex = 0.48; ///< of an exponent that stands above an index
+constexpr double kAxis = 0.32;           ///< height of fraction bars above the baseline
 constexpr double kBarGap = 0.16;
 constexpr double kBarMargin = 0.12;
 constexpr double kBarThickness = 0.065;
@@ -126,6 +127,10 @@ private:
     qsizetype at_ = 0;
 };
 
+double riseOf(const Node& node) {
+    return node.first.empty() ? kExponentRise : kRiseAboveIndex;
+}
+
 struct Extent {
     double width = 0;
     double ascent = 0;
@@ -149,7 +154,7 @@ Extent extentOf(const Node& node, double pixels) {
     switch (node.kind) {
     case Node::Kind::Scripts:
         return {std::max(first.width, second.width) + pixels * 0.06,
-                node.second.empty() ? 0 : second.ascent + pixels * kExponentRise,
+                node.second.empty() ? 0 : second.ascent + pixels * riseOf(node),
                 node.first.empty() ? 0 : first.descent + pixels * kIndexDrop};
     case Node::Kind::Fraction:
         return {std::max(first.width, second.width) + 2 * pixels * kBarMargin,
@@ -200,7 +205,7 @@ private:
             return;
         case Node::Kind::Scripts:
             set(node.first, at + QPointF(0, pixels * kIndexDrop), pixels * kScriptSize);
-            set(node.second, at + QPointF(pixels * 0.04, -pixels * kExponentRise),
+            set(node.second, at + QPointF(pixels * 0.04, -pixels * riseOf(node)),
                 pixels * kScriptSize);
             return;
         case Node::Kind::Fraction:
@@ -243,7 +248,7 @@ private:
     void setVector(const Node& node, QPointF at, double pixels) {
         const Extent inside = extentOf(node.first, pixels);
         const bool isLow = isLowerCase(node.first);
-        const double y = at.y() - (isLow ? pixels * 0.68 : inside.ascent + pixels * 0.08);
+        const double y = at.y() - (isLow ? pixels * 0.74 : inside.ascent + pixels * 0.08);
         const double left = at.x() + pixels * 0.02;
         const double right = at.x() + std::max(inside.width, pixels * 0.55);
         const double head = pixels * kArrowHead;

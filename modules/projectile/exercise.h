@@ -29,7 +29,7 @@ struct Exercise {
     Launch launch;
     std::set<Parameter> locked;
     bool dragLocked = false;
-    bool hidesResults = false; ///< until an answer was given
+    bool hidesResults = false; ///< until a right answer was given
     std::vector<Landmark> landmarks;
 
     double answer = 0;

@@ -111,8 +111,8 @@ void ExercisePanel::check() {
     verdict_->setAccessibleName(verdict_->text());
     field_->setFocus();
     field_->selectAll();
-    if (answer != Answer::NoNumber)
-        Q_EMIT answered();
+    if (right)
+        Q_EMIT solved();
 }
 
 void ExercisePanel::paintEvent(QPaintEvent*) {

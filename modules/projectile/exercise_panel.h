@@ -17,7 +17,7 @@ public:
     explicit ExercisePanel(const Exercise& exercise, QWidget* parent = nullptr);
 
 Q_SIGNALS:
-    void answered(); ///< with a number, right or wrong
+    void solved(); ///< a right answer was given
 
 protected:
     void paintEvent(QPaintEvent*) override;

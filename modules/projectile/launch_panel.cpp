@@ -28,7 +28,7 @@ QPushButton* segment(const QString& caption, const QString& tooltip) {
     auto* button = new QPushButton(caption);
     button->setProperty("segment", true);
     button->setCheckable(true);
-    button->setAutoExclusive(false);
+    button->setFocusPolicy(Qt::TabFocus); // a click leaves the space bar to the simulation
     button->setToolTip(tooltip);
     return button;
 }
@@ -128,6 +128,8 @@ QWidget* LaunchPanel::keepButtons() {
     forget_->setToolTip(QStringLiteral("efface les trajectoires gardées"));
     connect(keep_, &QPushButton::clicked, &experiment_, &Experiment::keep);
     connect(forget_, &QPushButton::clicked, &experiment_, &Experiment::forgetKept);
+    keep_->setFocusPolicy(Qt::TabFocus);
+    forget_->setFocusPolicy(Qt::TabFocus);
     auto* widget = new QWidget;
     auto* layout = new QHBoxLayout(widget);
     layout->setContentsMargins(0, 0, 0, 0);

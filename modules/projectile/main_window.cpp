@@ -92,7 +92,7 @@ QWidget* MainWindow::right(const Opening& opening) {
     if (opening.exercise) {
         auto* panel = new ExercisePanel(*opening.exercise);
         readings_->setFlightHidden(opening.exercise->hidesResults);
-        connect(panel, &ExercisePanel::answered, readings_,
+        connect(panel, &ExercisePanel::solved, readings_,
                 [this] { readings_->setFlightHidden(false); });
         layout->addWidget(panel);
     }
@@ -134,6 +134,7 @@ QWidget* MainWindow::trajectoryTab() {
           Choice{u"accélération", &Shown::acceleration}, Choice{u"points", &Shown::points}}) {
         auto* box = new QCheckBox(QString::fromUtf16(choice.caption));
         box->setChecked((*shown).*choice.shown);
+        box->setFocusPolicy(Qt::TabFocus); // a click leaves the space bar to the simulation
         connect(box, &QCheckBox::toggled, plot_, [this, shown, choice](bool checked) {
             (*shown).*choice.shown = checked;
             plot_->setShown(*shown);

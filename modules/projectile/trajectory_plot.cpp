@@ -215,7 +215,7 @@ void TrajectoryPlot::paintVectors(QPainter& painter) const {
     const QPointF from = projectilePixel();
     const QPointF head = speedHead();
     painter.save();
-    painter.setClipRect(axes_.area().adjusted(0, -kTop, kRight, 0));
+    painter.setClipRect(axes_.area().adjusted(-Axes::kLeft, -kTop, kRight, Axes::kBelow));
     if (shown_.components) {
         paintVector(painter, from, {head.x(), from.y()}, kSpeedInk, QStringLiteral("\\vec{v}_x"),
                     Qt::DashLine);

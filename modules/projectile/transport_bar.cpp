@@ -58,6 +58,7 @@ void TransportBar::addButtons() {
     const auto add = [this](const char* picture, const QString& name, auto action) {
         auto* button = new QPushButton(icon(picture), {});
         button->setFixedWidth(40);
+        button->setFocusPolicy(Qt::TabFocus); // a click leaves the space bar to the simulation
         button->setIconSize({18, 18});
         button->setStyleSheet(QStringLiteral("padding: 0;"));
         button->setToolTip(name);
@@ -74,6 +75,7 @@ void TransportBar::addButtons() {
     start_->setProperty("main", true);
     start_->setIconSize({18, 18});
     start_->setFixedWidth(112);
+    start_->setFocusPolicy(Qt::TabFocus);
     connect(start_, &QPushButton::clicked, this, [this] { toggle(); });
     layout()->addWidget(start_);
     add("step", QStringLiteral("Un pas en avant"), [this] { step(1); })->setAutoRepeat(true);

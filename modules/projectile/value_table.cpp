@@ -25,6 +25,7 @@ struct Head {
 constexpr Head kHeads[] = {{"t", "s"},   {"x", "m"},   {"y", "m"},   {"v_x", "m/s"}, {"v_y", "m/s"},
                            {"v", "m/s"}, {"E_c", "J"}, {"E_p", "J"}, {"E_m", "J"}};
 constexpr int kColumns = static_cast<int>(std::size(kHeads));
+constexpr int kFirstEnergy = 6; ///< the columns from here on
 constexpr int kRowHeight = 24;
 constexpr int kHeadHeight = 28;
 
@@ -34,6 +35,12 @@ double valueOf(const Flight& flight, const Moment& moment, int column) {
                                      moment.vx,        moment.vy,          moment.speed(),
                                      energies.kinetic, energies.potential, energies.mechanical()};
     return values[column];
+}
+
+/// Energies of a ping-pong ball are small, those of a shot large: about four digits.
+int energyDecimals(const Flight& flight) {
+    const double most = flight.energies(flight.start()).mechanical();
+    return most > 0 ? std::clamp(3 - static_cast<int>(std::floor(std::log10(most))), 0, 4) : 0;
 }
 
 /// "v_x (m/s)", plain.
@@ -104,9 +111,9 @@ QVariant ValueModel::data(const QModelIndex& index, int role) const {
     if (role != Qt::DisplayRole || !index.isValid())
         return {};
     const Moment& moment = moments_.at(static_cast<std::size_t>(index.row()));
-    // Energies of a ping-pong ball are small, those of a shot large.
     const double value = valueOf(experiment_.flight(), moment, index.column());
-    return index.column() < 6 ? common::frenchNumber(value, 2) : common::frenchDigits(value, 4);
+    return common::frenchNumber(
+        value, index.column() < kFirstEnergy ? 2 : energyDecimals(experiment_.flight()));
 }
 
 QVariant ValueModel::headerData(int section, Qt::Orientation orientation, int role) const {
