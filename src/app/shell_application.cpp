@@ -6,6 +6,7 @@
 #include "app/video_loader.h"
 #include "calculator/machine_opener.h"
 #include "exercises/exo_opener.h"
+#include "help/help_opener.h"
 #include "markup/renderer.h"
 #include "platform/qt/escape_watch.h"
 #include "platform/qt/font_book.h"
@@ -17,6 +18,7 @@
 #include "platform/qt/qt_printer.h"
 #include "platform/qt/qt_processes.h"
 #include "platform/qt/qt_screen.h"
+#include "platform/qt/system_help_viewer.h"
 #include "shell/course_directory.h"
 #include "shell/data_location.h"
 #include "shell/launcher.h"
@@ -84,6 +86,19 @@ private:
     calculator::MachineOpener opener_{memory_};
 };
 
+/// The help, beside all other windows.
+class Help : public viewer::ModalWindow {
+public:
+    Help(const shell::SharedState& state, platform::HelpViewer& viewer,
+         const help::HelpPrinting& printing)
+        : opener_(state.InstallDir, viewer, printing) {}
+
+    void open() override { opener_.open(); }
+
+private:
+    help::HelpOpener opener_;
+};
+
 /// Ends the program.
 class Ending : public viewer::ModalWindow {
 public:
@@ -102,7 +117,6 @@ struct ShellApplication::Parts {
           launcher(state, prompter, processes, activator, window), modules(launcher),
           links(window, fonts, drawing.links),
           orderForm(window, QStringLiteral("Cette édition n’a pas encore de bon de commande.")),
-          help(window, QStringLiteral("Cette édition n’a pas encore d’aide.")),
           installation(window, QStringLiteral("Cette édition ne s’actualise pas encore.")),
           search(window, QStringLiteral("Cette édition n’a pas encore la recherche.")),
           drives(courseDirectory(commandLine), commandLine.drives),
@@ -135,7 +149,7 @@ struct ShellApplication::Parts {
     shell::Launcher launcher;
     LaunchedModules modules;
     viewer::LinkControls links;
-    MissingWindow orderForm, help, installation;
+    MissingWindow orderForm, installation;
     MissingSearch search;
     Calculator calculator;
     Ending ending;
@@ -151,6 +165,8 @@ struct ShellApplication::Parts {
     viewer::PageLoader pages;
     platform::QtPrinter printer{fonts};
     platform::QtPrinterSetup printerSetup{printer, prompter};
+    platform::SystemHelpViewer helpViewer{otherWindows};
+    Help help{state, helpViewer, {printerSetup, printer, prompter}};
     platform::EscapeWatch escape;
     viewer::PagePrinter pagePrinter{{state, bound, pages, window, drawing, window, window, pictures,
                                      fonts, printer, [this] { return escape.isAsked(); }}};
