@@ -20,16 +20,4 @@ private:
     QString sentence_;
 };
 
-class MissingSearch : public viewer::SearchWindow {
-public:
-    MissingSearch(shell::ReportSink& reports, QString sentence)
-        : missing_(reports, std::move(sentence)) {}
-
-    void open() override { missing_.open(); }
-    viewer::FoundWords foundWords() const override { return {}; }
-
-private:
-    MissingWindow missing_;
-};
-
 } // namespace app

@@ -19,6 +19,7 @@
 #include "platform/qt/qt_processes.h"
 #include "platform/qt/qt_screen.h"
 #include "platform/qt/system_help_viewer.h"
+#include "search/coordon_opener.h"
 #include "shell/course_directory.h"
 #include "shell/data_location.h"
 #include "shell/launcher.h"
@@ -118,8 +119,7 @@ struct ShellApplication::Parts {
           links(window, fonts, drawing.links),
           orderForm(window, QStringLiteral("Cette édition n’a pas encore de bon de commande.")),
           installation(window, QStringLiteral("Cette édition ne s’actualise pas encore.")),
-          search(window, QStringLiteral("Cette édition n’a pas encore la recherche.")),
-          drives(courseDirectory(commandLine), commandLine.drives),
+          search(state, window), drives(courseDirectory(commandLine), commandLine.drives),
           symbols(courseDirectory(commandLine)),
           exercise(window, {state, drawing, pictures, fonts, screen, prompter, calculator,
                             commandLine.author}),
@@ -150,7 +150,7 @@ struct ShellApplication::Parts {
     LaunchedModules modules;
     viewer::LinkControls links;
     MissingWindow orderForm, installation;
-    MissingSearch search;
+    search::CoordonOpener search;
     Calculator calculator;
     Ending ending;
 

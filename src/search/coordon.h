@@ -1,0 +1,81 @@
+#pragma once
+
+#include "search/course_pages.h"
+#include "search/found_list.h"
+#include "search/page_search.h"
+#include "shell/shared_state.h"
+
+#include <QBasicTimer>
+#include <QDialog>
+
+#include <optional>
+
+class QLabel;
+
+namespace platform::look {
+class Button;
+class CheckBox;
+class ListBox;
+class ProgressBar;
+class TextField;
+} // namespace platform::look
+
+namespace search {
+
+/// `coordon`: the search window, modal to the main window. It asks for words, lists the titles of
+/// the pages that have them, and leaves the page chosen in SearchChosenPage. Each window is new and
+/// so is what it knows of the course.
+///
+/// A search runs in turns between the window's messages: the bar moves and the window can be
+/// closed, which ends it. It cannot start again meanwhile.
+class Coordon : public QDialog {
+public:
+    Coordon(shell::SharedState& state, QWidget* mainWindow);
+    ~Coordon() override;
+
+    /// Longest time without a look at the window's messages, in milliseconds.
+    void setTurn(int milliseconds) { turnMs_ = milliseconds; }
+
+    /// What was searched last; nothing before the first search.
+    const std::optional<Query>& query() const { return query_; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
+
+private:
+    void addControls();
+    void orderFocus();
+    void connectHandlers();
+
+    void Form_Load();
+    void Command2_Click();
+    void Command3_Click();
+    void List2_DblClick(const QModelIndex& line);
+
+    void searchOn();
+    void showFound(std::vector<FoundPage> pages);
+    void showList(bool shown);
+    void choose(const QModelIndex& line);
+
+    shell::SharedState& state_;
+    std::optional<CoursePages> pages_;
+    std::optional<Query> query_;
+    std::optional<PageSearch> search_;
+    QBasicTimer turns_;
+    int turnMs_;
+    FoundList found_;
+
+    platform::look::TextField* Text1_ = nullptr;
+    platform::look::CheckBox* Checkmots_ = nullptr;
+    platform::look::CheckBox* accents_ = nullptr; ///< "Ignorer les accents"
+    platform::look::Button* Command1_ = nullptr;
+    platform::look::Button* Command2_ = nullptr;
+    platform::look::Button* Command3_ = nullptr;
+    platform::look::ListBox* List2_ = nullptr;
+    platform::look::ProgressBar* Pbar1_ = nullptr;
+    QLabel* Label2_ = nullptr; ///< the notice that no page was found
+};
+
+} // namespace search

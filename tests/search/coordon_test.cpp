@@ -1,0 +1,204 @@
+#include "coursetool/tables.h"
+#include "jet/unicode.h"
+#include "jet/writer.h"
+#include "search/coordon.h"
+#include "support/files.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace search {
+namespace {
+
+struct Page {
+    const char16_t* title;
+    const char16_t* source;
+    bool inSearch = true;
+};
+
+constexpr int kFirstNumber = 101;
+
+/// The window over a real course, whose pages have the numbers 101, 102 and so on.
+class CoordonWindow : public testing::Test {
+protected:
+    void write(const std::vector<Page>& pages) {
+        auto file = jet::DatabaseWriter::create(folder_.filePath("ZEKX.MDB").toStdString());
+        ASSERT_TRUE(file);
+        const auto& rule = coursetool::coursTable();
+        const auto columns = coursetool::columnsOf(rule);
+        auto table = file->addTable(jet::toUtf16(rule.name), columns);
+        ASSERT_TRUE(table);
+        for (std::size_t i = 0; i < pages.size(); ++i) {
+            std::vector<jet::Value> row(columns.size());
+            const auto set = [&](std::u16string_view name, jet::Value value) {
+                for (std::size_t c = 0; c < columns.size(); ++c)
+                    if (columns[c].name == name)
+                        row[c] = std::move(value);
+            };
+            set(u"Numeropage", jet::Value(static_cast<std::int32_t>(kFirstNumber + i)));
+            set(u"titre", jet::Value(pages[i].title));
+            set(u"moteur", jet::Value(pages[i].inSearch));
+            set(u"fpc", jet::Value(pages[i].source));
+            ASSERT_TRUE(table->append(row));
+        }
+        ASSERT_TRUE(file->finish());
+    }
+
+    void open() {
+        window.reset();
+        shared.InstallDir = folder_.path() + u'/';
+        window = std::make_unique<Coordon>(shared, nullptr);
+        window->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    }
+
+    template <class Control>
+    Control& control(const char* name) {
+        return *window->findChild<Control*>(QString::fromLatin1(name));
+    }
+    QListView& list() { return control<QListView>("List2"); }
+
+    void press(const char* button) {
+        QTest::mouseClick(&control<QPushButton>(button), Qt::LeftButton);
+    }
+
+    void search(const QString& words) {
+        auto& field = control<QLineEdit>("Text1");
+        field.setFocus();
+        field.setText(words);
+        QTest::keyClick(&field, Qt::Key_Return);
+    }
+
+    /// Titles and numbers in the list; "-" when it is hidden.
+    std::string lines() {
+        if (list().isHidden())
+            return "-";
+        QStringList all;
+        for (int i = 0; i < list().model()->rowCount(); ++i) {
+            const QModelIndex line = list().model()->index(i, 0);
+            all << QStringLiteral("%1 %2").arg(line.data().toString(),
+                                               line.data(Qt::UserRole).toString());
+        }
+        return all.join(u'|').toStdString();
+    }
+
+    bool closed() const { return !window->isVisible(); }
+
+    shell::SharedState shared;
+    std::unique_ptr<Coordon> window;
+
+private:
+    QTemporaryDir folder_;
+};
+
+const std::vector<Page> kCourse = {{u"Première", u"lumière"},
+                                   {u"La lumière", u"##SI14\r\nLa LUMIÈRE et l’indice\r\n"},
+                                   {u"Cachée", u"lumière", false},
+                                   {u"L’indice", u"Un indice sans lumiere\r\n"}};
+
+TEST_F(CoordonWindow, ListsWhatItsBoxesAskFor) {
+    write(kCourse);
+    open();
+    EXPECT_EQ(window->height(), 132);
+    EXPECT_EQ(lines(), "-");
+    search(QStringLiteral("l"));
+    EXPECT_EQ(lines(), "-");
+    EXPECT_TRUE(control<QLabel>("Label2").isHidden());
+
+    // Capital letters aside; neither the first page nor one out of the search is ever found.
+    search(QStringLiteral(" Lumière ; INDICE"));
+    EXPECT_EQ(lines(), "La lumière 102|L’indice 104");
+    EXPECT_EQ(window->height(), 280);
+    control<QCheckBox>("Checkmots").click();
+    search(QStringLiteral("lumière indice"));
+    EXPECT_EQ(lines(), "La lumière 102");
+    EXPECT_FALSE(control<QCheckBox>("accents").isChecked());
+    control<QCheckBox>("accents").click();
+    search(QStringLiteral("lumiere indicé"));
+    EXPECT_EQ(lines(), "La lumière 102|L’indice 104");
+
+    search(QStringLiteral("thermodynamique"));
+    EXPECT_EQ(lines(), "-");
+    EXPECT_TRUE(control<QLabel>("Label2").isVisible());
+    EXPECT_EQ(window->height(), 132);
+    search(QStringLiteral("indice"));
+    EXPECT_TRUE(control<QLabel>("Label2").isHidden());
+    EXPECT_TRUE(control<QProgressBar>("Pbar1").isHidden());
+}
+
+TEST_F(CoordonWindow, LeavesThePageThatWasChosen) {
+    write(kCourse);
+    const std::vector<std::function<void()>> waysOfChoosing = {
+        [this] { press("Command3"); }, [this] { QTest::keyClick(&list(), Qt::Key_Return); },
+        [this] {
+            const QPoint line = list().visualRect(list().currentIndex()).center();
+            QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, line);
+            QTest::mouseDClick(list().viewport(), Qt::LeftButton, {}, line);
+        }};
+    for (const auto& choose : waysOfChoosing) {
+        open();
+        EXPECT_EQ(shared.SearchChosenPage, 0); // what an earlier search chose is forgotten
+        search(QStringLiteral("indice"));
+        EXPECT_TRUE(list().hasFocus());
+        QTest::keyClick(&list(), Qt::Key_Down);
+        choose();
+        EXPECT_TRUE(closed());
+        EXPECT_EQ(shared.SearchChosenPage, 104);
+    }
+    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Space}) {
+        open();
+        search(QStringLiteral("indice"));
+        control<QPushButton>("Command1").setFocus();
+        QTest::keyClick(&control<QPushButton>("Command1"), key);
+        EXPECT_TRUE(closed());
+        EXPECT_EQ(shared.SearchChosenPage, 0);
+    }
+}
+
+TEST_F(CoordonWindow, SearchesShortTablesAndCoursesThatAreNotThere) {
+    open();
+    search(QStringLiteral("lumière"));
+    EXPECT_TRUE(control<QLabel>("Label2").isVisible());
+    for (std::size_t records = 0; records <= 2; ++records) {
+        write({kCourse.begin(), kCourse.begin() + static_cast<std::ptrdiff_t>(records)});
+        open();
+        search(QStringLiteral("lumière"));
+        EXPECT_EQ(lines(), records == 2 ? "La lumière 102" : "-") << records;
+    }
+}
+
+TEST_F(CoordonWindow, StaysAliveDuringALongSearch) {
+    write(std::vector<Page>(5'000, kCourse[1]));
+    open();
+    window->setTurn(0);
+    search(QStringLiteral("indice"));
+    auto& bar = control<QProgressBar>("Pbar1");
+    EXPECT_TRUE(bar.isVisible());
+    EXPECT_GT(bar.value(), 1);
+    EXPECT_EQ(bar.maximum(), 4'999);
+    // Neither Enter nor the button starts it anew meanwhile.
+    control<QCheckBox>("Checkmots").click();
+    search(QStringLiteral("nowhere"));
+    press("Command2");
+    ASSERT_TRUE(test_support::eventually([&] { return list().isVisible(); }));
+    EXPECT_EQ(list().model()->rowCount(), 4'999);
+    EXPECT_EQ(window->query()->words, queryWords(u"indice"));
+
+    search(QStringLiteral("nowhere"));
+    EXPECT_TRUE(bar.isVisible());
+    QTest::keyClick(window.get(), Qt::Key_Escape);
+    EXPECT_TRUE(closed());
+    QTest::qWait(50);
+    EXPECT_EQ(shared.SearchChosenPage, 0);
+}
+
+} // namespace
+} // namespace search
