@@ -13,7 +13,7 @@ struct Row {
     KeyCommand command;
 };
 
-constexpr std::array<Row, 9> kRows = {{
+constexpr std::array<Row, 15> kRows = {{
     {Qt::Key_Up, Qt::NoModifier, KeyCommand::LineUp},
     {Qt::Key_Down, Qt::NoModifier, KeyCommand::LineDown},
     {Qt::Key_PageUp, Qt::NoModifier, KeyCommand::ScreenUp},
@@ -23,6 +23,12 @@ constexpr std::array<Row, 9> kRows = {{
     {Qt::Key_Left, Qt::AltModifier, KeyCommand::HistoryBack},
     {Qt::Key_Right, Qt::AltModifier, KeyCommand::HistoryForward},
     {Qt::Key_Backspace, Qt::NoModifier, KeyCommand::HistoryBack},
+    {Qt::Key_F, Qt::ControlModifier, KeyCommand::Find},
+    {Qt::Key_F3, Qt::NoModifier, KeyCommand::FindNext},
+    {Qt::Key_F3, Qt::ShiftModifier, KeyCommand::FindPrevious},
+    {Qt::Key_G, Qt::ControlModifier, KeyCommand::FindNext},
+    {Qt::Key_G, Qt::ControlModifier | Qt::ShiftModifier, KeyCommand::FindPrevious},
+    {Qt::Key_Escape, Qt::NoModifier, KeyCommand::LeaveFind},
 }};
 
 } // namespace

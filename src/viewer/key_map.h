@@ -16,6 +16,10 @@ enum class KeyCommand {
     Bottom,
     HistoryBack,
     HistoryForward,
+    Find,
+    FindNext,
+    FindPrevious,
+    LeaveFind,
 };
 
 /// The command of a key press; nothing for a key without one.

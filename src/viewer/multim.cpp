@@ -7,6 +7,8 @@
 #include "platform/twips.h"
 #include "viewer/chapter_bar.h"
 #include "viewer/cover.h"
+#include "viewer/find_bar.h"
+#include "viewer/page_finder.h"
 #include "viewer/page_index.h"
 #include "viewer/page_panel.h"
 #include "viewer/picture_box.h"
@@ -79,6 +81,7 @@ void Multim::addControls() {
     PictureTEXTE_ = new PictureBox(SurfaceId::PictureTexte, kPageWidthPx, platform::look::kPaper,
                                    fonts_, recording_, panel_);
     panel_->setPage(PictureTEXTE_);
+    auto* findBar = new FindBar(panel_);
     videoFrame_ = new VideoFrame(body_);
 
     rail_ = new Rail(body_);
@@ -94,6 +97,8 @@ void Multim::addControls() {
     cover_->setGeometry(kPanel);
     cover_->hide();
 
+    finder_ = std::make_unique<PageFinder>(PageFinder::Stage{
+        *findBar, *panel_, {PictureTEXTE_, PICTUREILLUS_, titre_}, recording_, fonts_});
     setVideoLayout(VideoLayout::None);
     button("Command2").setLastingMnemonic(u'S');
     setPrintable(false);

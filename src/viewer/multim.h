@@ -21,6 +21,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 namespace platform::look {
@@ -31,6 +32,7 @@ namespace viewer {
 
 class ChapterBar;
 class Cover;
+class PageFinder;
 class PagePanel;
 class PictureBox;
 class Rail;
@@ -101,7 +103,7 @@ public:
     void setPrintable(bool printable) override;
     void setSummary(const QString& code, const QString& caption) override;
     void setReturnToTestVisible(bool visible) override;
-    void markWords(const FoundWords&) override {}
+    void markWords(const FoundWords& words) override;
     void showHourglass() override;
     void restorePointer() override;
 
@@ -203,6 +205,7 @@ private:
     PictureBox* PictureTEXTE_ = nullptr;
     PictureBox* PICTUREILLUS_ = nullptr;
     PictureBox* titre_ = nullptr;
+    std::unique_ptr<PageFinder> finder_;
     QString summaryCode_; ///< the tag of Command2
 
     bool startUpDone_ = false;

@@ -7,6 +7,7 @@
 #include "shell/display_check.h"
 #include "viewer/chapter_bar.h"
 #include "viewer/multim.h"
+#include "viewer/page_finder.h"
 #include "viewer/page_panel.h"
 #include "viewer/picture_box.h"
 #include "viewer/rail.h"
@@ -170,6 +171,14 @@ void Multim::perform(KeyCommand command) {
         return button("avant").click();
     case KeyCommand::HistoryForward:
         return button("apres").click();
+    case KeyCommand::Find:
+        return work([this] { finder_->open(); });
+    case KeyCommand::FindNext:
+        return work([this] { finder_->next(); });
+    case KeyCommand::FindPrevious:
+        return work([this] { finder_->previous(); });
+    case KeyCommand::LeaveFind:
+        return work([this] { finder_->close(); });
     }
 }
 

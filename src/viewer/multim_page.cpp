@@ -4,6 +4,7 @@
 #include "platform/qt/look/scroll_bar.h"
 #include "viewer/chapter_bar.h"
 #include "viewer/multim.h"
+#include "viewer/page_finder.h"
 #include "viewer/page_panel.h"
 #include "viewer/page_title.h"
 #include "viewer/picture_box.h"
@@ -45,6 +46,7 @@ void Multim::hideScrollBarAndVideoFrame() {
 }
 
 void Multim::clearPictures() {
+    finder_->pageGoes();
     recording_.clear();
     for (PictureBox* box : {PictureTEXTE_, PICTUREILLUS_, titre_})
         box->empty();
@@ -79,6 +81,7 @@ void Multim::fitPage() {
         box->showDrawing();
     parts_->neighbours.links.show();
     panel_->fitPage();
+    finder_->pageStands();
     QAccessibleEvent changed(PictureTEXTE_, QAccessible::NameChanged);
     QAccessible::updateAccessibility(&changed);
 }
@@ -101,6 +104,10 @@ void Multim::setSummary(const QString& code, const QString& caption) {
 
 void Multim::setReturnToTestVisible(bool visible) {
     rail_->setReturnToTestVisible(visible);
+}
+
+void Multim::markWords(const FoundWords& words) {
+    finder_->mark(words);
 }
 
 void Multim::showHourglass() {

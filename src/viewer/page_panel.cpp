@@ -14,6 +14,8 @@ namespace viewer {
 namespace {
 
 constexpr int kInset = 8;
+/// Frame around the foot, as thick as it is while the page has the keyboard.
+constexpr int kFootInset = 2;
 constexpr int kScrollBarWidth = 16;
 /// Room above or below what is revealed.
 constexpr int kRevealMargin = 8;
@@ -45,8 +47,28 @@ void PagePanel::setPage(PictureBox* page) {
 
 void PagePanel::setPanelHeight(int height, int viewHeight) {
     resize(width(), height);
+    viewHeight_ = viewHeight;
+    layOut();
+}
+
+void PagePanel::layOut() {
+    const bool hasFoot = foot_ && !foot_->isHidden();
+    const int viewHeight = viewHeight_ - (hasFoot ? foot_->height() : 0);
     framekx_->setGeometry(kInset, kInset, kPageWidth + kScrollBarWidth, viewHeight);
     VScroll1_->setGeometry(kPageWidth, 0, kScrollBarWidth, viewHeight);
+    if (hasFoot)
+        foot_->move(kFootInset, height() - kFootInset - foot_->height());
+}
+
+void PagePanel::setFoot(QWidget* foot) {
+    foot_ = foot;
+    foot_->hide();
+}
+
+void PagePanel::showFoot(bool shown) {
+    foot_->setVisible(shown);
+    layOut();
+    fitView();
 }
 
 void PagePanel::fitPage() {
@@ -97,11 +119,19 @@ void PagePanel::scrollToBottom() {
     VScroll1_->setValue(VScroll1_->minimum());
 }
 
+int PagePanel::viewTopPx() const {
+    return -page_->y();
+}
+
+int PagePanel::viewHeightPx() const {
+    return VScroll1_->height();
+}
+
 void PagePanel::reveal(const QRect& part) {
     const int above = part.top() - kRevealMargin;
     const int below = part.bottom() + 1 + kRevealMargin;
-    const int viewTop = -page_->y();
-    const int viewHeight = VScroll1_->height();
+    const int viewTop = viewTopPx();
+    const int viewHeight = viewHeightPx();
     if (above < viewTop)
         VScroll1_->setValue(geometry_.held(-above * kTwips));
     else if (below > viewTop + viewHeight)

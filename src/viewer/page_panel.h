@@ -28,7 +28,12 @@ public:
     /// Takes the page area into the view.
     void setPage(PictureBox* page);
 
-    /// Makes the panel `height` pixels tall and the view as tall as fits.
+    /// A strip that can stand at the foot of the panel; it is hidden at first. The view ends above
+    /// it, and the page stays where it is as far as it can.
+    void setFoot(QWidget* foot);
+    void showFoot(bool shown);
+
+    /// Makes the panel `height` pixels tall and the view `viewHeight`, less what the foot takes.
     void setPanelHeight(int height, int viewHeight);
 
     /// Shows the page from its top and sets the scroll bar up for its height.
@@ -42,6 +47,10 @@ public:
     void scrollToTop();
     void scrollToBottom();
 
+    /// What shows of the page, in its pixels.
+    int viewTopPx() const;
+    int viewHeightPx() const;
+
     /// Scrolls as little as it takes to show this part of the page, in pixels, and a little around
     /// it.
     void reveal(const QRect& part);
@@ -51,6 +60,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void layOut();
     void VScroll1_Change();
     void VScroll1_Scroll();
     void scrollBy(double twips);
@@ -58,6 +68,8 @@ private:
     QWidget* framekx_;
     platform::look::ScrollBar* VScroll1_;
     PictureBox* page_ = nullptr;
+    QWidget* foot_ = nullptr;
+    int viewHeight_ = 0; ///< without the foot
     ScrollGeometry geometry_{};
 };
 

@@ -29,6 +29,7 @@ void PictureBox::empty() {
     surface_.clear();
     surface_.setHeightPx(0);
     controlsFoot_ = 0;
+    marks_ = {};
     update();
 }
 
@@ -62,6 +63,41 @@ QString PictureBox::readableText() const {
     return platform::readableText(recording_, surface_.id());
 }
 
+void PictureBox::setMarks(Marks marks) {
+    marks_ = std::move(marks);
+    update();
+}
+
+/// The tints are multiplied with what is drawn: letters stay as dark as they are. A frame tells the
+/// current mark from the others for who does not see the tints apart.
+void PictureBox::paintMarks(QPainter& painter, const QRect& exposed) const {
+    using namespace platform::look;
+    const double ratio = painter.device()->devicePixelRatioF();
+    const auto devicePixels = [ratio](const QRectF& mark) {
+        return QRectF(mark.topLeft() * ratio, mark.size() * ratio).toAlignedRect();
+    };
+    // As a region, marks on lines that stand close are one tint where they overlap.
+    QRegion others;
+    for (const QRectF& mark : marks_.others)
+        if (mark.intersects(exposed))
+            others += devicePixels(mark);
+    const QRect current = marks_.current.isNull() ? QRect() : devicePixels(marks_.current);
+    const int edge = qRound(crisp(painter) * ratio);
+    const QRegion frame = QRegion(current.adjusted(-edge, -edge, edge, edge)) - current;
+
+    painter.save();
+    painter.scale(1 / ratio, 1 / ratio);
+    painter.setCompositionMode(QPainter::CompositionMode_Multiply);
+    for (const QRect& part : others - current)
+        painter.fillRect(part, QColor::fromRgb(kMarkTint));
+    if (!current.isNull()) {
+        painter.fillRect(current, QColor::fromRgb(kCurrentMarkTint));
+        for (const QRect& part : frame)
+            painter.fillRect(part, QColor::fromRgb(kInk));
+    }
+    painter.restore();
+}
+
 void PictureBox::paintEvent(QPaintEvent* event) {
     // The window may have come to a screen of another density.
     if (devicePixelRatioF() != raster_.devicePixelRatio())
@@ -75,7 +111,9 @@ void PictureBox::paintEvent(QPaintEvent* event) {
         painter.setClipRect(rect().adjusted(inset_, inset_, -inset_, -inset_));
     }
     moveToSurface(painter);
-    raster_.paint(painter, event->rect().translated(-inset_, -inset_));
+    const QRect exposed = event->rect().translated(-inset_, -inset_);
+    raster_.paint(painter, exposed);
+    paintMarks(painter, exposed.adjusted(-1, -1, 1, 1));
 }
 
 } // namespace viewer

@@ -5,7 +5,10 @@
 #include "platform/recording.h"
 #include "platform/surface.h"
 
+#include <QRectF>
 #include <QWidget>
+
+#include <vector>
 
 namespace viewer {
 
@@ -19,6 +22,7 @@ public:
                platform::Recording& recording, QWidget* parent);
 
     platform::Surface& surface() { return surface_; }
+    platform::SurfaceId surfaceId() const { return surface_.id(); }
 
     /// Leaves a border of `pixels` around the drawing, for a fine rule. While nothing is drawn the
     /// control shows neither, but the window below.
@@ -49,6 +53,15 @@ public:
     /// Shows what was drawn up to now; it appears at the next repaint.
     void showDrawing();
 
+    /// Words that were found, in logical pixels of the surface.
+    struct Marks {
+        std::vector<QRectF> others;
+        QRectF current; ///< null for none
+    };
+    /// Shows marks over the drawing, below the links, until empty() or the next call. They belong
+    /// to the window alone: no recording and no paper has them.
+    void setMarks(Marks marks);
+
     /// Whether nothing was drawn, as far as it was shown, and no controls stand there.
     bool isBlank() const { return raster_.isBlank() && controlsFoot_ == 0; }
 
@@ -63,12 +76,15 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void paintMarks(QPainter& painter, const QRect& exposed) const;
+
     platform::Recording& recording_;
     platform::Surface surface_;
     platform::RasterSurface raster_;
     int inset_ = 0;
     int controlsFoot_ = 0;
     bool followsPage_ = false;
+    Marks marks_;
 };
 
 } // namespace viewer

@@ -1,0 +1,123 @@
+#include "viewer/find_bar.h"
+
+#include "platform/qt/look/button.h"
+#include "platform/qt/look/interface_font.h"
+#include "platform/qt/look/palette.h"
+#include "platform/qt/look/pixels.h"
+#include "platform/qt/look/text_field.h"
+
+#include <QAccessible>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPainter>
+
+namespace viewer {
+
+namespace {
+
+using platform::look::Button;
+
+// Field and status end where the page's text column and its scroll bar do.
+constexpr int kTop = 6;
+constexpr int kTall = 28;
+constexpr QRect kField(6, kTop, 248, kTall);
+constexpr int kPreviousX = 262;
+constexpr int kNextX = 298;
+constexpr QRect kStatus(338, kTop, 236, kTall);
+constexpr int kCloseX = 582;
+
+/// Longer than any word or formula; it bounds the work for each key typed.
+constexpr int kMaxTyped = 100;
+
+} // namespace
+
+FindBar::FindBar(QWidget* parent)
+    : QWidget(parent), field_(new platform::look::TextField(this)),
+      previous_(addButton("findPrevious", "up", QStringLiteral("Occurrence précédente (Maj+F3)"),
+                          kPreviousX, &Actions::previous)),
+      next_(addButton("findNext", "down", QStringLiteral("Occurrence suivante (F3)"), kNextX,
+                      &Actions::next)),
+      status_(new QLabel(this)) {
+    using namespace platform::look;
+    setObjectName(QStringLiteral("findBar"));
+    setAccessibleName(QStringLiteral("Recherche dans la page"));
+    setFixedSize(kWidth, kHeight);
+
+    field_->setObjectName(QStringLiteral("findField"));
+    field_->setFont(interfaceFont(kLabelPx));
+    field_->setPlaceholderText(QStringLiteral("Rechercher dans la page"));
+    field_->setAccessibleName(field_->placeholderText());
+    field_->setMaxLength(kMaxTyped);
+    field_->setGeometry(kField);
+    field_->installEventFilter(this);
+    connect(field_, &QLineEdit::textEdited, this, [this] { actions_.typed(); });
+
+    status_->setObjectName(QStringLiteral("findStatus"));
+    status_->setTextFormat(Qt::PlainText);
+    status_->setFont(interfaceFont(kLabelPx));
+    QPalette colours = status_->palette();
+    colours.setColor(QPalette::WindowText, QColor::fromRgb(kInk));
+    status_->setPalette(colours);
+    status_->setGeometry(kStatus);
+
+    addButton("findClose", "close", QStringLiteral("Fermer la recherche (Échap)"), kCloseX,
+              &Actions::close);
+    setStatus({}, false);
+}
+
+Button* FindBar::addButton(const char* name, const char* icon, const QString& toolTip, int x,
+                           std::function<void()> Actions::*action) {
+    auto* button =
+        new Button({}, {.kind = Button::Kind::Toolbar, .icon = QString::fromLatin1(icon)}, this);
+    button->setObjectName(QString::fromLatin1(name));
+    button->setToolTip(toolTip);
+    button->setAccessibleName(toolTip.section(QStringLiteral(" ("), 0, 0));
+    button->setGeometry(x, kTop, kTall, kTall);
+    connect(button, &QPushButton::clicked, this, [this, action] { (actions_.*action)(); });
+    return button;
+}
+
+QString FindBar::text() const {
+    return field_->text();
+}
+
+void FindBar::setText(const QString& text) {
+    field_->setText(text);
+}
+
+void FindBar::takeKeyboard() {
+    field_->setFocus(Qt::ShortcutFocusReason);
+    field_->selectAll();
+}
+
+void FindBar::setStatus(const QString& words, bool found) {
+    for (Button* button : {previous_, next_}) {
+        if (button->hasFocus() && !found)
+            field_->setFocus();
+        button->setEnabled(found);
+    }
+    if (words == status_->text())
+        return;
+    status_->setText(words);
+    QAccessibleEvent alert(status_, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
+bool FindBar::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::KeyPress)
+        return QWidget::eventFilter(watched, event);
+    const auto* key = static_cast<QKeyEvent*>(event);
+    if (key->key() != Qt::Key_Return && key->key() != Qt::Key_Enter)
+        return QWidget::eventFilter(watched, event);
+    key->modifiers() & Qt::ShiftModifier ? actions_.previous() : actions_.next();
+    return true;
+}
+
+void FindBar::paintEvent(QPaintEvent*) {
+    using namespace platform::look;
+    QPainter painter(this);
+    painter.fillRect(rect(), QColor::fromRgb(kIvory));
+    painter.fillRect(QRectF(0, 0, width(), crisp(painter)), QColor::fromRgb(kRule));
+}
+
+} // namespace viewer

@@ -1,0 +1,150 @@
+#include "viewer/page_finder.h"
+
+#include "platform/twips.h"
+#include "viewer/find_bar.h"
+#include "viewer/page_panel.h"
+#include "viewer/picture_box.h"
+
+#include <limits>
+
+namespace viewer {
+
+namespace {
+
+using platform::kTwipsPerPixel;
+
+/// Page around the current occurrence that comes into view with it: a line of running text.
+constexpr int kAroundPx = 22;
+
+QRectF scaled(const QRectF& rect, double factor) {
+    return {rect.topLeft() * factor, rect.size() * factor};
+}
+
+/// What of a surface can be seen, in twips on it.
+QRectF seen(const PictureBox& box) {
+    const QRect area = box.shownArea();
+    return scaled(area.translated(-box.inset(), -box.inset()), kTwipsPerPixel);
+}
+
+/// Before all that is on the page from a height on.
+PageFind::Place startOfLine(double twips) {
+    return {0, twips, std::numeric_limits<double>::lowest()};
+}
+
+const PageFind::Place kStart = startOfLine(std::numeric_limits<double>::lowest());
+
+} // namespace
+
+PageFinder::PageFinder(const Stage& stage) : stage_(stage) {
+    stage_.bar.setActions(
+        {[this] { typed(); }, [this] { next(); }, [this] { previous(); }, [this] { close(); }});
+    stage_.panel.setFoot(&stage_.bar);
+}
+
+bool PageFinder::isOpen() const {
+    return !stage_.bar.isHidden();
+}
+
+void PageFinder::open() {
+    if (isOpen()) {
+        stage_.bar.takeKeyboard();
+        return;
+    }
+    stage_.panel.showFoot(true);
+    stage_.bar.takeKeyboard();
+    if (find_.sought().words.empty())
+        typed();
+}
+
+void PageFinder::close() {
+    const bool hasKeyboard = stage_.bar.isAncestorOf(stage_.bar.window()->focusWidget());
+    if (isOpen())
+        stage_.panel.showFoot(false);
+    if (hasKeyboard)
+        stage_.boxes.front()->setFocus();
+    search({}, kStart);
+}
+
+void PageFinder::typed() {
+    search(typedWords(stage_.bar.text()), placeInView());
+}
+
+void PageFinder::next() {
+    step(&PageFind::next);
+}
+
+void PageFinder::previous() {
+    step(&PageFind::previous);
+}
+
+void PageFinder::step(void (PageFind::*walk)()) {
+    if (find_.sought().words.empty())
+        return open();
+    (find_.*walk)();
+    showMarks();
+    showCurrent();
+}
+
+void PageFinder::mark(const FoundWords& words) {
+    // Several words are no text that could have been typed.
+    stage_.bar.setText(words.words.size() == 1 ? words.words.front() : QString());
+    search(words, kStart);
+}
+
+void PageFinder::pageGoes() {
+    isOpen() ? find_.forgetPage() : find_.clear();
+}
+
+void PageFinder::pageStands() {
+    if (isOpen())
+        search(find_.sought(), kStart);
+}
+
+void PageFinder::search(const FoundWords& words, const PageFind::Place& from) {
+    std::vector<PageFind::Part> parts;
+    for (const PictureBox* box : stage_.boxes)
+        parts.push_back({box->surfaceId(), seen(*box)});
+    find_.search(words, stage_.recording, stage_.metrics, parts, from);
+    showMarks();
+    showCurrent();
+}
+
+/// Where a search for other words starts: at the occurrence that a person is looking at, so that it
+/// stays while its word is being typed, or at the top of what shows of the page.
+PageFind::Place PageFinder::placeInView() const {
+    const double top = stage_.panel.viewTopPx() * kTwipsPerPixel;
+    const double height = stage_.panel.viewHeightPx() * kTwipsPerPixel;
+    if (const auto current = find_.current()) {
+        const PageFind::Found& one = find_.found()[*current];
+        const bool inView = one.area.top() < top + height && one.area.bottom() > top;
+        if (one.place.part > 0 || inView)
+            return one.place;
+    }
+    return startOfLine(top);
+}
+
+void PageFinder::showMarks() {
+    for (std::size_t part = 0; part < stage_.boxes.size(); ++part) {
+        PictureBox::Marks marks;
+        for (std::size_t index = 0; index < find_.found().size(); ++index)
+            if (const PageFind::Found& one = find_.found()[index]; one.place.part == part) {
+                const QRectF area = scaled(one.area, 1 / kTwipsPerPixel);
+                if (index == find_.current())
+                    marks.current = area;
+                else
+                    marks.others.push_back(area);
+            }
+        stage_.boxes[part]->setMarks(std::move(marks));
+    }
+    stage_.bar.setStatus(findStatus(find_), find_.current().has_value());
+}
+
+void PageFinder::showCurrent() {
+    const auto current = find_.current();
+    if (!current || find_.found()[*current].place.part > 0)
+        return;
+    const QRect area = scaled(find_.found()[*current].area, 1 / kTwipsPerPixel).toAlignedRect();
+    stage_.panel.reveal(area.adjusted(0, -kAroundPx, 0, kAroundPx));
+}
+
+} // namespace viewer

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "platform/recording.h"
+#include "platform/text_metrics.h"
+#include "viewer/page_find.h"
+
+#include <array>
+
+namespace viewer {
+
+class FindBar;
+class PagePanel;
+class PictureBox;
+
+/// The search in the page shown, with its marks on the areas of the window and its bar at the foot
+/// of the page. What is searched is what the page wrote: its text, then its illustration, then the
+/// title above, which both show whatever the page is scrolled to.
+class PageFinder {
+public:
+    struct Stage {
+        FindBar& bar;
+        PagePanel& panel;
+        std::array<PictureBox*, 3> boxes; ///< in the order they are searched; the page first
+        const platform::Recording& recording;
+        const platform::TextMetrics& metrics;
+    };
+    /// All must outlive it.
+    explicit PageFinder(const Stage& stage);
+
+    /// Opens the bar, on what is marked or what was typed last, and gives it the keyboard.
+    void open();
+    /// Closes the bar, which gives the keyboard back to the page, and takes the marks away.
+    void close();
+
+    /// Lead to another occurrence; they open the bar when nothing is sought.
+    void next();
+    void previous();
+
+    /// Marks words, and shows the first from the top of the page.
+    void mark(const FoundWords& words);
+
+    /// The page goes, and the marks with it.
+    void pageGoes();
+    /// Another page stands: while the bar is open, it is searched anew.
+    void pageStands();
+
+private:
+    bool isOpen() const;
+    void typed();
+    void search(const FoundWords& words, const PageFind::Place& from);
+    PageFind::Place placeInView() const;
+    void step(void (PageFind::*walk)());
+    void showMarks();
+    void showCurrent();
+
+    Stage stage_;
+    PageFind find_;
+};
+
+} // namespace viewer
