@@ -1,6 +1,7 @@
 #include "help/help_book.h"
 
 #include <QFile>
+#include <QTextBlock>
 #include <QTextDocument>
 
 #include <algorithm>
@@ -19,8 +20,7 @@ HelpPage readPage(const QString& file, const QString& html) {
     QTextDocument document;
     document.setUndoRedoEnabled(false);
     document.setHtml(html);
-    const QString text = document.toRawText();
-    return {file, text.left(text.indexOf(QChar::ParagraphSeparator)), html, text};
+    return {file, document.firstBlock().text(), html, document.toRawText()};
 }
 
 } // namespace

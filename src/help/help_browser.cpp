@@ -50,6 +50,8 @@ HelpBrowser::HelpBrowser(const HelpBook& book, QWidget* parent)
     document()->setDocumentMargin(kMargin);
     document()->setDefaultStyleSheet(pageStyle());
     connect(this, &QTextBrowser::anchorClicked, this, [this](const QUrl& url) { setSource(url); });
+    // Going back and forward does not pass through setSource(); source() is right only by now.
+    connect(this, &QTextBrowser::historyChanged, this, [this] { findHits(); });
 }
 
 void HelpBrowser::showPage(const QString& file) {
@@ -83,6 +85,8 @@ void HelpBrowser::findHits() {
     currentHit_ = -1;
     hits_ = query_.hits(document()->toRawText());
     paintHits();
+    if (shown_)
+        shown_();
 }
 
 void HelpBrowser::stepHit(int by) {
@@ -106,8 +110,7 @@ void HelpBrowser::paintHits() {
         mark.cursor = QTextCursor(document());
         mark.cursor.setPosition(static_cast<int>(hit.start));
         mark.cursor.setPosition(static_cast<int>(hit.start + hit.length), QTextCursor::KeepAnchor);
-        mark.format.setBackground(QColor::fromRgb(isCurrent ? kBlue : kPressedTint));
-        mark.format.setForeground(QColor::fromRgb(isCurrent ? kPaper : kInk));
+        mark.format.setBackground(QColor::fromRgb(isCurrent ? kCurrentMarkTint : kMarkTint));
         marks.append(mark);
     }
     setExtraSelections(marks);
@@ -116,7 +119,7 @@ void HelpBrowser::paintHits() {
 void HelpBrowser::setZoomStep(int step) {
     zoomStep_ = qBound(kSmallest, step, kLargest);
     // The line at the top stays there.
-    const int top = cursorForPosition({0, 0}).position();
+    const int top = cursorForPosition({qRound(2 * kMargin), 0}).position();
     document()->setDefaultStyleSheet(pageStyle(1 + kZoomStep * zoomStep_));
     const int current = currentHit_;
     reload();

@@ -19,6 +19,9 @@ public:
     /// Position of the page shown.
     int page() const;
 
+    /// Calls `shown` whenever another page is shown, or other words are marked.
+    void onShown(std::function<void()> shown) { shown_ = std::move(shown); }
+
     /// Marks the words on the page shown and on those that follow.
     void setQuery(const HelpQuery& query);
 
@@ -47,6 +50,7 @@ private:
     void paintHits();
 
     const HelpBook& book_;
+    std::function<void()> shown_;
     HelpQuery query_;
     QList<Span> hits_; ///< characters of the document
     int currentHit_ = -1;

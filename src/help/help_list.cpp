@@ -18,8 +18,8 @@ using namespace platform::look;
 constexpr int kPageRole = Qt::UserRole;     ///< position in the book; none for a heading
 constexpr int kLineRole = Qt::UserRole + 1; ///< HTML of the line of context
 
-constexpr int kHeading = 32; ///< heights of a heading and of a page
-constexpr int kPage = 26;
+constexpr int kHeading = 28; ///< heights of a heading and of a page
+constexpr int kPage = 24;
 constexpr int kIndent = 16;
 constexpr int kMargin = 8;
 
@@ -67,8 +67,8 @@ public:
         const QRgb ink = chosen ? kPaper : isPage ? kInk : kMuted;
         if (!index.data(kLineRole).toString().isEmpty())
             return paintFound(*painter, option.rect, index, ink);
-        painter->setFont(interfaceFont(isPage ? kLabelPx : kButtonPx,
-                                       isPage ? Weight::Regular : Weight::Bold));
+        painter->setFont(
+            interfaceFont(isPage ? kLabelPx : kButtonPx, isPage ? Weight::Regular : Weight::Bold));
         painter->setPen(QColor::fromRgb(ink));
         const QRect place =
             option.rect.adjusted(isPage ? kIndent : kMargin, 0, -kMargin, isPage ? 0 : -4);
@@ -83,12 +83,12 @@ private:
         text.setDefaultFont(interfaceFont(kButtonPx));
         text.setDocumentMargin(0);
         text.setTextWidth(width - 2 * kMargin);
-        text.setHtml(QStringLiteral("<div style='color:%1'><span style='font-size:%2px'><b>%3</b>"
-                                    "</span><br>%4</div>")
-                         .arg(QColor::fromRgb(ink).name())
-                         .arg(kLabelPx)
-                         .arg(index.data().toString().toHtmlEscaped(),
-                              index.data(kLineRole).toString()));
+        text.setHtml(
+            QStringLiteral("<div style='color:%1'><span style='font-size:%2px'><b>%3</b>"
+                           "</span><br>%4</div>")
+                .arg(QColor::fromRgb(ink).name())
+                .arg(kLabelPx)
+                .arg(index.data().toString().toHtmlEscaped(), index.data(kLineRole).toString()));
     }
 
     static void paintFound(QPainter& painter, const QRect& place, const QModelIndex& index,
@@ -144,9 +144,9 @@ void HelpList::showContents() {
 void HelpList::showFound(const QList<Found>& found) {
     clear();
     setAccessibleName(QStringLiteral("Pages trouvées"));
-    addHeading(found.isEmpty()       ? QStringLiteral("Aucune page trouvée")
+    addHeading(found.isEmpty()     ? QStringLiteral("Aucune page trouvée")
                : found.size() == 1 ? QStringLiteral("Une page trouvée")
-                                     : QStringLiteral("%1 pages trouvées").arg(found.size()));
+                                   : QStringLiteral("%1 pages trouvées").arg(found.size()));
     for (const Found& page : found)
         addPage(page.page, &page);
 }

@@ -8,14 +8,17 @@ namespace help {
 
 namespace {
 
-constexpr qsizetype kShortWord = 2;  ///< "de", "le": in every page
+constexpr qsizetype kShortWord = 2;     ///< "de", "le": in every page
 constexpr qsizetype kLeastSingular = 3; ///< letters that a plural leaves
 
 // Characters of a line of context before and behind the word.
 constexpr qsizetype kBefore = 24;
 constexpr qsizetype kBehind = 56;
 
+/// Pictures and the edges of tables are no letters, nor parts of a word.
 char16_t folded(QChar c) {
+    if (c == QChar::ObjectReplacementCharacter || c.isNonCharacter())
+        return u' ';
     return text::lowerCase(text::withoutAccent(c.unicode()));
 }
 
@@ -26,7 +29,11 @@ QString foldedText(QStringView text) {
 }
 
 bool isWordAt(QStringView text, qsizetype at) {
-    return at >= 0 && at < text.size() && text::isWordCharacter(text[at].unicode());
+    return at >= 0 && at < text.size() && text::isWordCharacter(folded(text[at]));
+}
+
+bool hasWord(QStringView text) {
+    return std::ranges::any_of(text, [](QChar c) { return text::isWordCharacter(folded(c)); });
 }
 
 QString singular(QString word) {
@@ -54,7 +61,7 @@ QString asLine(QStringView stretch) {
         line += isBreak ? QStringLiteral(" \u00B7 ") : QString(c);
     }
     line = line.simplified();
-    while (line.contains(QLatin1String("\u00B7 \u00B7")))
+    while (line.contains(QStringLiteral("\u00B7 \u00B7")))
         line.replace(QStringLiteral("\u00B7 \u00B7"), QStringLiteral("\u00B7"));
     if (line.startsWith(u'\u00B7'))
         line.remove(0, 2);
@@ -66,12 +73,14 @@ QString lineAround(QStringView body, const Span& hit) {
     qsizetype start = std::max<qsizetype>(0, hit.start - kBefore);
     while (isWordAt(body, start - 1) && isWordAt(body, start))
         --start;
+    while (!isWordAt(body, start) && start < hit.start)
+        ++start;
     qsizetype end = std::min(body.size(), hit.start + kBehind);
     while (isWordAt(body, end - 1) && isWordAt(body, end))
         ++end;
     const QString line = asLine(body.sliced(start, end - start));
-    return (start > 0 ? QStringLiteral("… ") : QString()) + line +
-           (end < body.size() ? QStringLiteral(" …") : QString());
+    return (hasWord(body.first(start)) ? QStringLiteral("… ") : QString()) + line +
+           (hasWord(body.sliced(end)) ? QStringLiteral(" …") : QString());
 }
 
 struct Ranked {

@@ -15,7 +15,8 @@ struct Span {
 };
 
 /// What is looked for: words, without regard to letter case and accents. A word finds those that
-/// begin with it, and a plural its singular, so that "imprim" finds "imprimante" and "pages" "page".
+/// begin with it, and a plural its singular, so that "imprim" finds "imprimante" and "pages"
+/// "page".
 class HelpQuery {
 public:
     /// Words beyond the 16th are passed over: nobody asks so much.
@@ -43,8 +44,8 @@ private:
 
 /// A page that was found.
 struct Found {
-    int page = 0;   ///< position in the book
-    QString line;   ///< a line of the page around the first word found; it may end in "…"
+    int page = 0;     ///< position in the book
+    QString line;     ///< a line of the page around the first word found; it may end in "…"
     QList<Span> hits; ///< in `line`
 };
 

@@ -16,6 +16,7 @@
 #include <QIcon>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -26,7 +27,7 @@ namespace {
 namespace look = platform::look;
 using look::Button;
 
-constexpr QSize kSize(880, 600);
+constexpr QSize kSize(880, 648); ///< all of the contents at once
 constexpr QSize kSmallest(560, 400);
 constexpr int kGrid = 8;
 constexpr int kToolbar = 64;
@@ -62,7 +63,7 @@ HelpWindow::HelpWindow(const HelpBook& book, const HelpPrinting& printing)
     setWindowTitle(kTitle);
     setWindowIcon(QIcon(QStringLiteral(":/look/icons/orvalente.svg")));
     setMinimumSize(kSmallest);
-    resize(kSize);
+    resize(kSize.boundedTo(screen()->availableSize()));
     QPalette colours = palette();
     colours.setColor(QPalette::Window, QColor::fromRgb(look::kIvory));
     colours.setColor(QPalette::Base, QColor::fromRgb(look::kIvory));
@@ -170,8 +171,7 @@ void HelpWindow::connectHandlers() {
         back_->setEnabled(browser_->isBackwardAvailable());
         forward_->setEnabled(browser_->isForwardAvailable());
     });
-    connect(browser_, &QTextBrowser::sourceChanged, this,
-            [this] { QMetaObject::invokeMethod(this, [this] { pageShown(); }); });
+    browser_->onShown([this] { pageShown(); });
     back_->setEnabled(false);
     forward_->setEnabled(false);
 }
@@ -183,12 +183,11 @@ void HelpWindow::home() {
 
 void HelpWindow::search(const QString& typed) {
     const HelpQuery query(typed);
-    browser_->setQuery(query);
     if (typed.trimmed().isEmpty())
         list_->showContents();
     else
         list_->showFound(help::search(book_, query));
-    pageShown();
+    browser_->setQuery(query);
 }
 
 void HelpWindow::openFound(int page) {

@@ -64,10 +64,16 @@ QString pageStyle(double zoom) {
                "b.bouton { color: %5; }"
                "code { font-family: 'Liberation Sans'; background-color: %8; }"
                "p.conseil { background-color: %7; margin-top: 10px; margin-bottom: 12px; }"
+               "p.image { line-height: 100%; margin-top: 4px; margin-bottom: 14px; }"
+               "img { vertical-align: middle; }"
+               "table { border-collapse: collapse; border-style: solid; border-color: %10;"
+               " margin-bottom: 10px; }"
+               "td { vertical-align: middle; }"
                "p.legende { color: %6; font-size: %9px; }"
                "a { color: %5; }")
         .arg(px(kTextPx), px(kTitlePx + 3), px(kTextPx + 2), colour(kInk), colour(kBlue),
-             colour(kMuted), colour(kHoverTint), colour(kScrollTrack), px(kButtonPx));
+             colour(kMuted), colour(kHoverTint), colour(kScrollTrack), px(kButtonPx),
+             colour(kRule));
 }
 
 QPixmap pagePicture(const QString& folder, const QString& name, double ratio) {

@@ -5,7 +5,8 @@
 
 namespace platform {
 
-/// On Windows the viewer that help files belong to, elsewhere that of Wine, where Wine is installed.
+/// On Windows the viewer that help files belong to, elsewhere that of Wine, where Wine is
+/// installed.
 class SystemHelpViewer : public HelpViewer {
 public:
     /// `activator` finds the window of a viewer started earlier.
