@@ -200,6 +200,7 @@ void HelpWindow::openFound(int page) {
 void HelpWindow::pageShown() {
     list_->choosePage(browser_->page());
     hitBar_->showHits(browser_->currentHit(), browser_->hitCount());
+    update(); // the bar moves the edge of the page, which the window draws
 }
 
 void HelpWindow::stepHit(int by) {

@@ -67,7 +67,7 @@ QString pageStyle(double zoom) {
                "p.image { line-height: 100%; margin-top: 4px; margin-bottom: 14px; }"
                "img { vertical-align: middle; }"
                "table { border-collapse: collapse; border-style: solid; border-color: %10;"
-               " margin-bottom: 10px; }"
+               " margin-top: 8px; margin-bottom: 10px; }"
                "td { vertical-align: middle; }"
                "p.legende { color: %6; font-size: %9px; }"
                "a { color: %5; }")
