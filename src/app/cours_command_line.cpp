@@ -40,6 +40,9 @@ struct Typed {
     bool steps = false;
     bool batch = false;
     std::vector<std::string> drives;
+    std::vector<std::string> words;
+    bool allWords = false;
+    bool ignoreAccents = false;
 };
 
 /// Whether an argument of `calc` is an option and not an expression with a sign in front, "-3" or
@@ -135,6 +138,7 @@ public:
         positional(symbols_, "DOSSIER", typed_.from,
                    "Dossier d’installation, dont les symboles comptent aussi");
 
+        addSearch();
         addCalc();
     }
 
@@ -156,6 +160,18 @@ private:
         CLI::App* command = app_.add_subcommand(name, description);
         command->group("Sous-commandes");
         return command;
+    }
+
+    void addSearch() {
+        search_ = add("search", "Cherche des mots dans les pages, comme la fenêtre Rechercher");
+        positional(search_, "DOSSIER", typed_.from, "Dossier d’installation");
+        search_->add_option("MOT", typed_.words, "Les mots, dont une page contient l’un au moins")
+            ->type_name("")
+            ->expected(0, -1);
+        search_->add_flag("--all-words", typed_.allWords, "La page contient tous les mots");
+        search_->add_flag("--ignore-accents", typed_.ignoreAccents,
+                          "« e » trouve « é », et l’inverse");
+        search_->footer("Écrit, par page trouvée, son numéro, une tabulation, son titre.");
     }
 
     void addCalc() {
@@ -233,6 +249,8 @@ private:
             return renderCall();
         if (print_->parsed())
             return printCall();
+        if (search_->parsed())
+            return searchCall();
         if (calc_->parsed())
             return calcCall();
         if (answer_->parsed())
@@ -334,6 +352,17 @@ private:
         return call;
     }
 
+    CoursCall searchCall() const {
+        if (const auto wrong = notADirectory(typed_.from, "le dossier d’installation"))
+            return *wrong;
+        if (typed_.words.empty())
+            return WrongCall{"il manque le mot à chercher"};
+        SearchCall call{pathFrom(typed_.from), {}, typed_.allWords, typed_.ignoreAccents};
+        for (const std::string& word : typed_.words)
+            call.words += word + ' ';
+        return call;
+    }
+
     CoursCall calcCall() const {
         if (typed_.batch && (typed_.expression || typed_.steps))
             return WrongCall{"« --batch » va sans expression ni « --trace »", wrongCallStatus()};
@@ -369,6 +398,7 @@ private:
     CLI::App* trace_ = nullptr;
     CLI::App* render_ = nullptr;
     CLI::App* print_ = nullptr;
+    CLI::App* search_ = nullptr;
     CLI::App* calc_ = nullptr;
     CLI::App* answer_ = nullptr;
     CLI::App* symbols_ = nullptr;

@@ -4,6 +4,7 @@
 #include "coursetool/drawing_request.h"
 #include "coursetool/exit_code.h"
 #include "coursetool/print_request.h"
+#include "coursetool/search.h"
 #include "exercises/answer_command.h"
 
 #include <filesystem>
@@ -30,6 +31,7 @@ using TraceCall = coursetool::TraceRequest;
 using RenderCall = coursetool::RenderRequest;
 using CalcCall = calculator::CalcOptions;
 using PrintCall = coursetool::PrintRequest;
+using SearchCall = coursetool::SearchRequest;
 using AnswerCall = exercises::AnswerOptions;
 struct SymbolsCall {
     std::filesystem::path course; ///< empty: the symbols of the program alone
@@ -45,7 +47,7 @@ struct WrongCall {
 };
 
 using CoursCall = std::variant<BuildCall, ExtractCall, DumpCall, TraceCall, RenderCall, SymbolsCall,
-                               PrintCall, CalcCall, AnswerCall, ShowText, WrongCall>;
+                               PrintCall, SearchCall, CalcCall, AnswerCall, ShowText, WrongCall>;
 
 /// Reads the command line. Directories and files that must be there are; an output directory of
 /// `extract` is empty or not there yet.

@@ -3,6 +3,7 @@
 #include "coursetool/dump.h"
 #include "coursetool/exit_code.h"
 #include "coursetool/extract.h"
+#include "coursetool/search.h"
 #include "coursetool/symbols.h"
 #include "platform/module.h"
 
@@ -63,6 +64,10 @@ struct Perform {
     int operator()(const app::PrintCall& call) {
         if (const auto print = drawing<coursetool::PrintFunction>(coursetool::kPrintSymbol))
             print(argc, argv, call, report);
+        return verdict();
+    }
+    int operator()(const app::SearchCall& call) {
+        coursetool::searchPages(call, out, report);
         return verdict();
     }
     int operator()(const app::AnswerCall& call) {

@@ -1,8 +1,8 @@
 #include "app/shell_application.h"
 
 #include "app/course_data.h"
-#include "app/missing_parts.h"
-#include "app/prompted_display_warning.h"
+#include "app/installation_window.h"
+#include "app/order_window.h"
 #include "app/video_loader.h"
 #include "calculator/machine_opener.h"
 #include "exercises/exo_opener.h"
@@ -18,10 +18,15 @@
 #include "platform/qt/qt_printer.h"
 #include "platform/qt/qt_processes.h"
 #include "platform/qt/qt_screen.h"
+#include "platform/qt/system_display_settings.h"
 #include "platform/qt/system_help_viewer.h"
+#include "platform/system_program_windows.h"
 #include "search/coordon_opener.h"
+#include "shell/alerte.h"
+#include "shell/closing.h"
 #include "shell/course_directory.h"
 #include "shell/data_location.h"
+#include "shell/fermeur.h"
 #include "shell/launcher.h"
 #include "shell/start_up.h"
 #include "viewer/action_dispatcher.h"
@@ -100,13 +105,22 @@ private:
     help::HelpOpener opener_;
 };
 
-/// Ends the program.
-class Ending : public viewer::ModalWindow {
+/// The exit screen, and the end of the program.
+class ExitScreen : public viewer::ModalWindow {
 public:
+    ExitScreen(QWidget& window, shell::Closing& closing) : window_(window), closing_(closing) {}
+
     void open() override {
+        fermeur_ = std::make_unique<shell::Fermeur>(&window_, [this] { closing_.run(); });
+        fermeur_->run();
         QMetaObject::invokeMethod(
             qApp, [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
     }
+
+private:
+    QWidget& window_;
+    shell::Closing& closing_;
+    std::unique_ptr<shell::Fermeur> fermeur_; ///< stays until the end
 };
 
 } // namespace
@@ -117,18 +131,18 @@ struct ShellApplication::Parts {
         : screen(scale), window(state, fonts, screen),
           launcher(state, prompter, processes, activator, window), modules(launcher),
           links(window, fonts, drawing.links),
-          orderForm(window, QStringLiteral("Cette édition n’a pas encore de bon de commande.")),
-          installation(window, QStringLiteral("Cette édition ne s’actualise pas encore.")),
-          search(state, window), drives(courseDirectory(commandLine), commandLine.drives),
+          orderForm({printerSetup, printer, fonts}, prompter, window),
+          installation(state, processes, prompter, window), search(state, window),
+          drives(courseDirectory(commandLine), commandLine.drives),
           symbols(courseDirectory(commandLine)),
           exercise(window, {state, drawing, pictures, fonts, screen, prompter, calculator,
                             commandLine.author}),
           renderer(drawing, window, pictures, window.recording()),
           pages(state, bound, window, window, renderer, video),
           actions(state, pages, window, modules, exercise, orderForm),
-          neighbours{video,  links,      printing, modules,      exercise, orderForm,
-                     search, calculator, help,     installation, ending},
-          commands(state, actions, window, neighbours, prompter), course(pages), warning(prompter),
+          neighbours{video,  links,      printing, modules,      exercise,  orderForm,
+                     search, calculator, help,     installation, exitScreen},
+          commands(state, actions, window, neighbours, prompter), course(pages),
           startUp(state, courseDirectory(commandLine),
                   {screen, prompter, window, course, warning}) {
         window.attach({commands, actions, pages, renderer, neighbours,
@@ -149,10 +163,13 @@ struct ShellApplication::Parts {
     shell::Launcher launcher;
     LaunchedModules modules;
     viewer::LinkControls links;
-    MissingWindow orderForm, installation;
+    OrderWindow orderForm;
+    InstallationWindow installation;
     search::CoordonOpener search;
     Calculator calculator;
-    Ending ending;
+    std::unique_ptr<platform::ProgramWindows> programs = platform::systemProgramWindows();
+    shell::Closing closing{state, launcher, *programs, processes};
+    ExitScreen exitScreen{window, closing};
 
     platform::MountedDrives drives;
     platform::QtBeeper beeper;
@@ -175,7 +192,8 @@ struct ShellApplication::Parts {
     viewer::Neighbours neighbours;
     viewer::MainCommands commands;
     CourseData course;
-    PromptedDisplayWarning warning;
+    platform::SystemDisplaySettings displaySettings;
+    shell::AlerteOpener warning{state, displaySettings};
     shell::StartUp startUp;
 };
 

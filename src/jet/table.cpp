@@ -39,8 +39,8 @@ Problems Table::scan(std::span<const std::size_t> columns, const ScanCallback& c
     return reader_->scan(columns, callback);
 }
 
-Problems Table::visit(const VisitCallback& callback) {
-    return reader_->visit(callback);
+Problems Table::visit(const VisitCallback& callback, std::size_t first) {
+    return reader_->visit(callback, first);
 }
 
 const Problems& Table::problems() const {

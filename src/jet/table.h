@@ -3,6 +3,7 @@
 #include "jet/column.h"
 #include "jet/problems.h"
 #include "jet/result.h"
+#include "jet/text_sink.h"
 #include "jet/value.h"
 
 #include <cstddef>
@@ -29,6 +30,8 @@ public:
     /// Appends a Text or Memo cell to `out` as UTF-8, without going through a Value; unpaired
     /// surrogates become U+FFFD. False, and nothing appended, for NULL and for other types.
     virtual Result<bool> appendUtf8(std::size_t column, std::string& out) = 0;
+    /// The same for those who have a use for the text as it is stored, and want no copy of it.
+    virtual Result<bool> readText(std::size_t column, TextSink& out) = 0;
 };
 
 /// The records of one table, in the order of its pages. A record is read when it is asked for;
@@ -65,8 +68,9 @@ public:
 
     /// Called with each record in turn; false ends the visit.
     using VisitCallback = std::function<bool(RecordView&)>;
-    /// The fastest way through whole records. The result tells of the rows passed over.
-    Problems visit(const VisitCallback& callback);
+    /// The fastest way through whole records, from position `first` on. The result tells of the
+    /// rows passed over. A visit can be taken up again where the latest one ended.
+    Problems visit(const VisitCallback& callback, std::size_t first = 0);
 
     /// Rows and pages passed over so far.
     const Problems& problems() const;

@@ -17,6 +17,14 @@ bool isLong(ColumnType type) {
     return type == ColumnType::Memo || type == ColumnType::Ole;
 }
 
+void decode(Bytes bytes, TextForm form, std::string& out) {
+    decodeTextUtf8(bytes, form, out);
+}
+
+void decode(Bytes bytes, TextForm form, TextSink& out) {
+    decodeText(bytes, form, out);
+}
+
 } // namespace
 
 /// The record a visit has come to.
@@ -37,7 +45,11 @@ public:
     }
 
     Result<bool> appendUtf8(std::size_t column, std::string& out) override {
-        return reader_.appendCellUtf8(*live_, column, out);
+        return reader_.decodeCellText(*live_, column, out);
+    }
+
+    Result<bool> readText(std::size_t column, TextSink& out) override {
+        return reader_.decodeCellText(*live_, column, out);
     }
 
 private:
@@ -126,14 +138,20 @@ Problems TableReader::scan(std::span<const std::size_t> columns,
     return all;
 }
 
-Problems TableReader::visit(const Table::VisitCallback& callback) {
-    longValues_.startPass();
+Problems TableReader::visit(const Table::VisitCallback& callback, std::size_t first) {
+    // Taken up again, a visit goes on with what it may still read: a damaged file gives no more
+    // for being visited in pieces.
+    if (first == 0 || first != visitEnd_)
+        longValues_.startPass();
     View view(*this);
-    rows_.forEach([&](const LiveRow& live) {
-        longValues_.startRecord();
-        view.moveTo(live);
-        return callback(view);
-    });
+    rows_.forEach(
+        [&](const LiveRow& live) {
+            longValues_.startRecord();
+            view.moveTo(live);
+            visitEnd_ = live.position + 1;
+            return callback(view);
+        },
+        first);
     return problems();
 }
 
@@ -202,14 +220,14 @@ Result<void> TableReader::readCell(const LiveRow& live, std::size_t column, Valu
     return {};
 }
 
-Result<bool> TableReader::appendCellUtf8(const LiveRow& live, std::size_t column,
-                                         std::string& out) {
+template <class Out>
+Result<bool> TableReader::decodeCellText(const LiveRow& live, std::size_t column, Out& out) {
     if (isNull(live.row, column) || !isText(columns()[column].type))
         return false;
     const auto stored = cellBytes(live.row, column);
     if (!stored)
         return cellFailure(live, column, stored.error());
-    decodeTextUtf8(stored->bytes, textForm(column), out);
+    decode(stored->bytes, textForm(column), out);
     return true;
 }
 

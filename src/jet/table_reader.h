@@ -28,7 +28,7 @@ public:
     Result<Value> value(std::size_t position, std::size_t column);
     Result<std::vector<Value>> record(std::size_t position);
     Problems scan(std::span<const std::size_t> columns, const Table::ScanCallback& callback);
-    Problems visit(const Table::VisitCallback& callback);
+    Problems visit(const Table::VisitCallback& callback, std::size_t first);
 
 private:
     class View;
@@ -39,7 +39,8 @@ private:
     TextForm textForm(std::size_t column) const;
     bool isNull(const Row& row, std::size_t column) const;
     Result<void> readCell(const LiveRow& live, std::size_t column, Value& into);
-    Result<bool> appendCellUtf8(const LiveRow& live, std::size_t column, std::string& out);
+    template <class Out>
+    Result<bool> decodeCellText(const LiveRow& live, std::size_t column, Out& out);
     std::optional<Bytes> plainBytes(const Row& row, std::size_t column) const;
     Result<LongValues::Value> cellBytes(const Row& row, std::size_t column);
     Failure cellFailure(const LiveRow& live, std::size_t column, const Failure& failure) const;
@@ -50,6 +51,7 @@ private:
     std::u16string name_;
     TableRows rows_;
     LongValues longValues_;
+    std::size_t visitEnd_ = 0; ///< where the latest visit ended
 };
 
 } // namespace jet

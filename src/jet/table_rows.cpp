@@ -18,26 +18,40 @@ std::size_t TableRows::count() {
     return firstPositions_.back();
 }
 
-void TableRows::forEach(const Callback& callback) {
-    listPages();
+void TableRows::forEach(const Callback& callback, std::size_t first) {
+    const auto start = pageOf(first);
+    if (!start)
+        return;
+    const Callback fromFirst = [&](const LiveRow& live) {
+        return live.position < first || callback(live);
+    };
     bool goOn = true;
-    for (std::size_t i = 0; i < pages_.size() && goOn; ++i)
+    visitPage(*start, fromFirst, goOn);
+    for (std::size_t i = *start + 1; i < pages_.size() && goOn; ++i)
         visitPage(i, callback, goOn);
 }
 
 bool TableRows::at(std::size_t position, const Callback& callback) {
+    const auto page = pageOf(position);
+    if (!page)
+        return false;
+    bool goOn = true;
+    visitPage(
+        *page,
+        [&](const LiveRow& live) { return live.position != position || (callback(live), false); },
+        goOn);
+    return !goOn;
+}
+
+/// Index of the page that has the row of that position; nothing past the last one.
+std::optional<std::size_t> TableRows::pageOf(std::size_t position) {
     listPages();
     while (position >= firstPositions_.back() && firstPositions_.size() <= pages_.size())
         countPage(firstPositions_.size() - 1);
     if (position >= firstPositions_.back())
-        return false;
+        return std::nullopt;
     const auto after = std::upper_bound(firstPositions_.begin(), firstPositions_.end(), position);
-    bool goOn = true;
-    visitPage(
-        static_cast<std::size_t>(after - firstPositions_.begin()) - 1,
-        [&](const LiveRow& live) { return live.position != position || (callback(live), false); },
-        goOn);
-    return !goOn;
+    return static_cast<std::size_t>(after - firstPositions_.begin()) - 1;
 }
 
 void TableRows::listPages() {

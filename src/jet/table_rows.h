@@ -32,8 +32,8 @@ public:
     using Callback = std::function<bool(const LiveRow&)>;
 
     std::size_t count();
-    /// All rows in order, until the callback says false.
-    void forEach(const Callback& callback);
+    /// All rows in order from a position on, until the callback says false.
+    void forEach(const Callback& callback, std::size_t first = 0);
     /// The row at a position; false when there is none.
     bool at(std::size_t position, const Callback& callback);
 
@@ -45,6 +45,7 @@ private:
     void listPagesByOwner();
     void visitPage(std::size_t index, const Callback& callback, bool& goOn);
     void countPage(std::size_t index);
+    std::optional<std::size_t> pageOf(std::size_t position);
     bool visitSlot(const DataPage& page, std::size_t slot, std::size_t position,
                    const Callback& callback, bool& goOn);
     std::optional<DataPage> dataPage(std::uint32_t number);

@@ -58,7 +58,6 @@ public:
         for (std::size_t i = 0; i < count; ++i)
             out_[before + i] = static_cast<char16_t>(from[2 * i] | from[2 * i + 1] << 8);
     }
-    void finish() {}
 
 private:
     std::u16string& out_;
@@ -113,14 +112,13 @@ void decodeCompressed(Bytes bytes, Sink& sink) {
 }
 
 template <class Sink>
-void decode(Bytes bytes, TextForm form, Sink sink) {
+void decode(Bytes bytes, TextForm form, Sink& sink) {
     if (form == TextForm::Windows1252)
         decodeNarrow(bytes, sink, false, fromWindows1252);
     else if (form == TextForm::Compressible && isCompressed(bytes))
         decodeCompressed(bytes.from(2), sink);
     else
         sink.wide(bytes);
-    sink.finish();
 }
 
 std::vector<std::uint8_t> plainUnits(std::u16string_view text) {
@@ -163,11 +161,18 @@ std::vector<std::uint8_t> compress(std::u16string_view text) {
 } // namespace
 
 void decodeText(Bytes bytes, TextForm form, std::u16string& out) {
-    decode(bytes, form, Utf16Sink(out));
+    Utf16Sink sink(out);
+    decode(bytes, form, sink);
 }
 
 void decodeTextUtf8(Bytes bytes, TextForm form, std::string& out) {
-    decode(bytes, form, Utf8Writer(out));
+    Utf8Writer writer(out);
+    decode(bytes, form, writer);
+    writer.finish();
+}
+
+void decodeText(Bytes bytes, TextForm form, TextSink& out) {
+    decode(bytes, form, out);
 }
 
 std::optional<std::vector<std::uint8_t>> encodeText(std::u16string_view text, bool compressible) {

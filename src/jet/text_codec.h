@@ -1,6 +1,7 @@
 #pragma once
 
 #include "jet/bytes.h"
+#include "jet/text_sink.h"
 
 #include <cstdint>
 #include <optional>
@@ -21,6 +22,8 @@ enum class TextForm {
 void decodeText(Bytes bytes, TextForm form, std::u16string& out);
 /// Appends the text to `out` as UTF-8; unpaired surrogates become U+FFFD.
 void decodeTextUtf8(Bytes bytes, TextForm form, std::string& out);
+/// Gives the text to `out` as it is stored.
+void decodeText(Bytes bytes, TextForm form, TextSink& out);
 
 /// The stored form of a text: compressed when that is allowed, shorter and safe with every reader.
 /// Nothing for a text that cannot be told from a compressed one: U+FEFF first, and not compressed.

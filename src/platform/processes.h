@@ -34,6 +34,10 @@ public:
     /// one. The file name is found without regard to letter case. Returns as soon as the process
     /// exists; what it does afterwards, its windows included, is not waited for.
     virtual StartResult start(const QString& program, const QStringList& arguments = {}) = 0;
+
+    /// The same, in a maximised window with the focus where the system lets the one who starts a
+    /// program choose that; elsewhere the program and the window manager do.
+    virtual StartResult startMaximized(const QString& program) { return start(program); }
 };
 
 /// Brings windows of other programs to the front.

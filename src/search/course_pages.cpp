@@ -1,51 +1,34 @@
 #include "search/course_pages.h"
 
-#include "jet/database.h"
-#include "search/course_pages_state.h"
+#include "search/folded_copy.h"
 
-#include <string>
 #include <utility>
 
 namespace search {
 
-namespace {
-
-jet::Failure noColumn(const char* name) {
-    return {jet::Failure::Kind::NotFound,
-            std::string("la table « cours » n’a pas de colonne « ") + name + " »"};
-}
-
-} // namespace
-
 jet::Result<CoursePages> CoursePages::open(const std::filesystem::path& database,
-                                           std::size_t /*copyBytes*/) {
-    auto opened = jet::Database::open(database);
-    if (!opened)
-        return opened.error();
-    auto table = opened->table(u"cours");
-    if (!table)
-        return table.error();
-    const auto fpc = table->columnIndex(u"fpc");
-    const auto moteur = table->columnIndex(u"moteur");
-    if (!fpc || !moteur)
-        return noColumn(fpc ? "moteur" : "fpc");
-    const auto titre = table->columnIndex(u"titre");
-    const auto numeropage = table->columnIndex(u"Numeropage");
-    return CoursePages(
-        std::make_unique<State>(State{*std::move(table), *fpc, *moteur, titre, numeropage}));
+                                           std::size_t mostBytes) {
+    auto reader = SliceReader::open(database);
+    if (!reader)
+        return reader.error();
+    return CoursePages(std::make_unique<Copy>(*std::move(reader), mostBytes));
 }
 
-CoursePages::CoursePages(std::unique_ptr<State> state) : state_(std::move(state)) {}
+CoursePages::CoursePages(std::unique_ptr<Copy> copy) : copy_(std::move(copy)) {}
 CoursePages::CoursePages(CoursePages&&) noexcept = default;
 CoursePages& CoursePages::operator=(CoursePages&&) noexcept = default;
 CoursePages::~CoursePages() = default;
 
 int CoursePages::lastPosition() {
-    return static_cast<int>(state_->table.recordCount()) - 1;
+    return static_cast<int>(copy_->reader().recordCount()) - 1;
+}
+
+jet::Problems CoursePages::problems() const {
+    return copy_->reader().problems();
 }
 
 std::size_t CoursePages::copyBytes() const {
-    return 0;
+    return copy_->bytes();
 }
 
 } // namespace search

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "jet/problems.h"
 #include "jet/result.h"
 
 #include <cstddef>
@@ -9,7 +10,7 @@
 namespace search {
 
 /// Most memory, in bytes, that the folded copy of the pages may take: more than 100,000 pages of
-/// 1.6 KB, and little beside what an ordinary machine has. A course of today takes 1 or 2 MB.
+/// 1.6 KB, and little beside what an ordinary machine has. A course of 600 pages takes 1 MB.
 inline constexpr std::size_t kFoldedCopyBytes = 256 * 1024 * 1024;
 
 /// The pages of a course, opened for searching: the table "cours" and a copy of the page sources,
@@ -20,9 +21,9 @@ class CoursePages {
 public:
     /// Opens a course database; nothing but the table's definition is read. The failure, a French
     /// sentence, says that there is no such file, table or column ("fpc", "moteur"), or what of it
-    /// is damaged. With `copyBytes` 0 no copy is kept, which is for a single search.
+    /// is damaged. With `mostBytes` 0 no copy is kept, which is for a single search.
     static jet::Result<CoursePages> open(const std::filesystem::path& database,
-                                         std::size_t copyBytes = kFoldedCopyBytes);
+                                         std::size_t mostBytes = kFoldedCopyBytes);
 
     CoursePages(CoursePages&&) noexcept;
     CoursePages& operator=(CoursePages&&) noexcept;
@@ -32,14 +33,18 @@ public:
     /// look at every page of the table, some milliseconds for 100,000 records.
     int lastPosition();
 
-    /// Bytes that the copy takes now.
+    /// What was damaged in the records read so far, and is passed over by every search.
+    jet::Problems problems() const;
+
+    /// Bytes that the copy takes now, `mostBytes` at most.
     std::size_t copyBytes() const;
 
 private:
     friend class PageSearch;
-    struct State;
-    explicit CoursePages(std::unique_ptr<State> state);
-    std::unique_ptr<State> state_;
+    class Copy;
+    explicit CoursePages(std::unique_ptr<Copy> copy);
+
+    std::unique_ptr<Copy> copy_;
 };
 
 } // namespace search

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "search/query.h"
+#include "search/text_matcher.h"
 
+#include <cstddef>
 #include <cstdint>
-#include <span>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -33,11 +35,11 @@ struct FoundPage {
 class PageSearch {
 public:
     /// `pages` must outlive the search. Searches may follow each other or go on side by side.
-    PageSearch(CoursePages& pages, Query query);
+    PageSearch(CoursePages& pages, const Query& query);
 
     /// Examines the next slice, about 256 KB of page source or 1,024 records: well below a
     /// millisecond when the copy has it, about one when it comes from the file (one long page can
-    /// take more). False when that was the last one, or none was left.
+    /// take more). False when there was none left.
     bool advance();
 
     /// Position of the last record examined so far; 0 before the first slice, and
@@ -49,7 +51,12 @@ public:
 
 private:
     CoursePages& pages_;
-    Query query_;
+    std::vector<std::string> words_; ///< folded
+    bool allWords_;
+    bool ignoreAccents_;
+    std::optional<TextMatcher> matcher_; ///< from the first slice on
+    std::size_t slice_ = 0;              ///< the next one
+    int next_ = 0;                       ///< position of its first record
     int position_ = 0;
     std::vector<FoundPage> found_;
 };

@@ -1,5 +1,6 @@
 #include "shell/launcher.h"
 
+#include "platform/start_failure.h"
 #include "shell/status_file.h"
 
 #include <algorithm>
@@ -12,7 +13,6 @@ namespace {
 
 using platform::Answer;
 using platform::Message;
-using platform::StartFailure;
 
 struct ModuleProgram {
     int module;
@@ -81,24 +81,6 @@ QString trimmedOfSpaces(const QString& text) {
     return text.mid(first, end - first);
 }
 
-QString whyNotStarted(StartFailure failure) {
-    switch (failure) {
-    case StartFailure::Missing:
-        return QStringLiteral("est introuvable dans le dossier du cours.");
-    case StartFailure::NeedsWine:
-        return QStringLiteral("est un programme Windows\u00A0: il faut installer Wine pour le "
-                              "lancer.");
-    case StartFailure::SixteenBit:
-        return QStringLiteral("est un ancien programme 16\u00A0bits, que ce système ne sait pas "
-                              "lancer.");
-    case StartFailure::NotAProgram:
-        return QStringLiteral("n’est pas un programme que ce système sait lancer.");
-    case StartFailure::Refused:
-        break;
-    }
-    return QStringLiteral("n’a pas pu être lancé\u00A0: le système l’a refusé.");
-}
-
 const Message kOtherModuleRuns = {QStringLiteral("Orvalente"),
                                   QStringLiteral("Il y a déjà un module en cours d'exécution.\r\n"
                                                  "Confirmez-vous cette commande ?"),
@@ -164,7 +146,7 @@ void Launcher::start(std::int16_t module, const QString& program) {
     const platform::StartResult started = starter_.start(state_.InstallDir + program);
     if (!started.pid) {
         reportFailure(reports_, QStringLiteral("Le module «\u00A0%1\u00A0» %2")
-                                    .arg(program, whyNotStarted(started.failure)));
+                                    .arg(program, platform::whyNotStarted(started.failure)));
         return;
     }
     // Systems count processes with at most 32 bits.

@@ -11,8 +11,9 @@ namespace {
 
 using platform::Message;
 
-/// What sibling programs find in the status file about the edition they run beside.
-const QString kEditionLabel = QStringLiteral("Orvalente 1.0");
+/// What sibling programs find in the status file about the edition they run beside. It says for
+/// whom the edition is; the version stands behind it wherever both are shown.
+const QString kEditionLabel = QStringLiteral("Collège et lycée");
 
 constexpr int kSiblingPrograms = 19;
 

@@ -81,20 +81,25 @@ void PictureBox::paintMarks(QPainter& painter, const QRect& exposed) const {
     for (const QRectF& mark : marks_.others)
         if (mark.intersects(exposed))
             others += devicePixels(mark);
-    const QRect current = marks_.current.isNull() ? QRect() : devicePixels(marks_.current);
+    // The frame is around the mark; at the edge of the surface it is on it.
     const int edge = qRound(crisp(painter) * ratio);
-    const QRegion frame = QRegion(current.adjusted(-edge, -edge, edge, edge)) - current;
+    const QRect frame =
+        marks_.current.isNull()
+            ? QRect()
+            : devicePixels(marks_.current).adjusted(-edge, -edge, edge, edge) &
+                  devicePixels(QRectF(QPointF(), size() - 2 * QSize(inset_, inset_)));
+    const QRect current = frame.adjusted(edge, edge, -edge, -edge);
 
     painter.save();
     painter.scale(1 / ratio, 1 / ratio);
     painter.setCompositionMode(QPainter::CompositionMode_Multiply);
-    for (const QRect& part : others - current)
-        painter.fillRect(part, QColor::fromRgb(kMarkTint));
-    if (!current.isNull()) {
-        painter.fillRect(current, QColor::fromRgb(kCurrentMarkTint));
-        for (const QRect& part : frame)
-            painter.fillRect(part, QColor::fromRgb(kInk));
-    }
+    const auto tint = [&painter](const QRegion& area, QRgb colour) {
+        for (const QRect& part : area)
+            painter.fillRect(part, QColor::fromRgb(colour));
+    };
+    tint(others - frame, kMarkTint);
+    tint(current, kCurrentMarkTint);
+    tint(QRegion(frame) - current, kInk);
     painter.restore();
 }
 

@@ -11,6 +11,8 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
+#include <memory>
+
 using test_support::eventually;
 using test_support::X11Session;
 
@@ -191,7 +193,8 @@ protected:
         test_support::writeFile(directory + "/pages/1.page",
                                 "+++\nNumeropage = 1\nIndex = 1\n+++\n##SI12\n##PIY020\n"
                                 "Avant, un mot, après\n##POX000\n##PIY040\n"
-                                "Avant, \n##LIERTun mot#PAG002\n, après\n##PIY040\n");
+                                "Avant, \n##LIERTun mot#PAG002\n, après\n##PIY040\n"
+                                "##POX000\n##PIY040\n##LIERTun bon#BDC000\n##PIY040\n");
         test_support::writeFile(directory + "/pages/2.page",
                                 "+++\nNumeropage = 2\nIndex = 2\n+++\n##TITBARDeux\n");
         return directory;
@@ -235,6 +238,26 @@ TEST_F(LinkedPages, LinksAreFollowedByMouseAndKeyboard) {
         press("Tab");
     press("Return");
     EXPECT_TRUE(eventually(isSecond));
+}
+
+TEST_F(LinkedPages, TheOrderFormAndTheDialogAboutTheInstallation) {
+    start();
+    ASSERT_TRUE(eventually([&] { return place().size() == QSize(800, 600); }));
+    const QString shell = title();
+    EXPECT_TRUE(eventually([&] {
+        click(196, 268); // the link
+        return activeTitle() == "Bon de commande";
+    }));
+    press("Escape");
+    ASSERT_TRUE(eventually([&] { return activeTitle() == shell; }));
+    click(648, 32); // Command8
+    ASSERT_TRUE(eventually([&] { return activeTitle() == "Mise à jour"; }));
+    press("alt+m"); // there is no updater
+    ASSERT_TRUE(eventually([&] { return activeTitle() == "MAJKX.EXE"; }));
+    press("Return");
+    ASSERT_TRUE(eventually([&] { return activeTitle() == "Mise à jour"; }));
+    press("Escape");
+    EXPECT_TRUE(eventually([&] { return activeTitle() == shell; }));
 }
 
 /// A course whose first page leads to a test of two questions, the first with a link to page 2 in
@@ -376,6 +399,60 @@ TEST_F(VideoPages, PlaysFromTheDiscAndLeavesWhilePlaying) {
     ASSERT_TRUE(shell_.waitForFinished(30'000));
     EXPECT_EQ(shell_.exitCode(), 0);
     EXPECT_EQ(QString::fromUtf8(shell_.readAllStandardError()), QString());
+}
+
+/// Modules beside the shell when it is left.
+class Leaving : public LinkedPages {
+protected:
+    ~Leaving() override {
+        for (const auto& module : modules_) {
+            module->kill();
+            module->waitForFinished();
+        }
+    }
+
+    /// A program of another maker with a window of that title.
+    QProcess& open(const QStringList& arguments) {
+        modules_.push_back(std::make_unique<QProcess>());
+        modules_.back()->setProcessEnvironment(environment());
+        modules_.back()->start(PLAIN_WINDOW, arguments);
+        EXPECT_TRUE(eventually([&] { return activeTitle() == arguments[0]; }));
+        return *modules_.back();
+    }
+
+    void leave() {
+        run("xdotool", {"windowactivate", window()});
+        ASSERT_TRUE(eventually([&] { return activeTitle().startsWith("Orvalente - "); }));
+        press("alt+q");
+        ASSERT_TRUE(eventually([&] { return activeTitle() == "Quitter"; }));
+        press("Return");
+        ASSERT_TRUE(shell_.waitForFinished(30'000));
+        EXPECT_EQ(shell_.exitStatus(), QProcess::NormalExit);
+        EXPECT_EQ(shell_.exitCode(), 0);
+    }
+
+private:
+    std::vector<std::unique_ptr<QProcess>> modules_;
+};
+
+TEST_F(Leaving, EndsTheModulesAndStartsTheCompanionOnceAModuleSaysThatItRuns) {
+    test_support::writeProgram(course() + "/terminus.exe", "#!/bin/sh\necho there > trace\n");
+    QProcess& projectile = open({"Mouvement d’un projectile - Orvalente, module 23"});
+    QProcess& deaf = open({"Optique - Orvalente, module 09", "deaf"});
+    QProcess& other = open({"Orvalente et ses modules - Notes"});
+    for (const bool moduleSays : {false, true}) {
+        start();
+        QByteArray status = test_support::readFile(course() + "/TEMPKX.TMP");
+        if (moduleSays)
+            test_support::writeFile(course() + "/TEMPKX.TMP",
+                                    status.replace(22 * 128 + 2, 3, "OUI"));
+        leave();
+        EXPECT_EQ(projectile.waitForFinished(moduleSays ? 30'000 : 0), moduleSays);
+        EXPECT_TRUE(eventually([&] { return QFile::remove(course() + "/trace"); }));
+    }
+    EXPECT_EQ(projectile.exitStatus(), QProcess::CrashExit); // by the signal
+    EXPECT_EQ(deaf.state(), QProcess::Running);
+    EXPECT_EQ(other.state(), QProcess::Running);
 }
 
 } // namespace

@@ -34,10 +34,13 @@ X11Session::~X11Session() {
 void X11Session::startManager() {
     manager_.setProcessEnvironment(environment());
     manager_.setStandardErrorFile(QProcess::nullDevice());
-    manager_.start(QStringLiteral("openbox"), {QStringLiteral("--sm-disable")});
+    // It names itself on the root window before it is able to see every new window; what it runs
+    // once it has started comes later.
+    manager_.start(QStringLiteral("openbox"),
+                   {QStringLiteral("--sm-disable"), QStringLiteral("--startup"),
+                    QStringLiteral("xprop -root -f MANAGED 8s -set MANAGED yes")});
     EXPECT_TRUE(eventually([this] {
-        return xprop({QStringLiteral("-root"), QStringLiteral("_NET_SUPPORTING_WM_CHECK")})
-            .contains("0x");
+        return xprop({QStringLiteral("-root"), QStringLiteral("MANAGED")}).contains("yes");
     })) << "openbox does not start: "
         << qPrintable(manager_.errorString());
 }

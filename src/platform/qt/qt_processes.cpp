@@ -7,6 +7,10 @@
 #include <QProcess>
 #include <QStandardPaths>
 
+#ifdef Q_OS_WIN
+#include <windows.h>
+#endif
+
 namespace platform {
 
 namespace {
@@ -49,6 +53,25 @@ StartResult runFile(const QString& path, const QStringList& arguments, const QSt
 }
 
 } // namespace
+
+#ifdef Q_OS_WIN
+StartResult QtProcesses::startMaximized(const QString& program) {
+    const QFileInfo file(program);
+    if (!file.isFile())
+        return {std::nullopt, StartFailure::Missing};
+    QProcess process;
+    process.setProgram(file.absoluteFilePath());
+    process.setWorkingDirectory(file.absolutePath());
+    process.setCreateProcessArgumentsModifier([](QProcess::CreateProcessArguments* arguments) {
+        arguments->startupInfo->dwFlags |= STARTF_USESHOWWINDOW;
+        arguments->startupInfo->wShowWindow = SW_SHOWMAXIMIZED;
+    });
+    qint64 pid = 0;
+    if (!process.startDetached(&pid))
+        return {std::nullopt, StartFailure::Refused};
+    return {pid};
+}
+#endif
 
 StartResult QtProcesses::start(const QString& program, const QStringList& arguments) {
     const QFileInfo asked(program);

@@ -9,6 +9,9 @@ namespace platform {
 class QtProcesses : public ProcessStarter {
 public:
     StartResult start(const QString& program, const QStringList& arguments = {}) override;
+#ifdef Q_OS_WIN
+    StartResult startMaximized(const QString& program) override;
+#endif
 };
 
 } // namespace platform

@@ -1,5 +1,6 @@
 #include "platform/x11/x11_display.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 
@@ -34,6 +35,15 @@ xcb_window_t rootOf(xcb_connection_t* connection, int screenNumber) {
     return XCB_WINDOW_NONE;
 }
 
+xcb_client_message_event_t messageTo(xcb_window_t window, xcb_atom_t type) {
+    xcb_client_message_event_t event{};
+    event.response_type = XCB_CLIENT_MESSAGE;
+    event.format = 32;
+    event.window = window;
+    event.type = type;
+    return event;
+}
+
 } // namespace
 
 X11Display::X11Display(const QByteArray& name) {
@@ -59,27 +69,62 @@ QByteArrayList X11Display::classNames(xcb_window_t window) const {
     return names;
 }
 
+QByteArray X11Display::clientMachine(xcb_window_t window) const {
+    return property(window, XCB_ATOM_WM_CLIENT_MACHINE, XCB_ATOM_STRING);
+}
+
+QString X11Display::title(xcb_window_t window) const {
+    const QByteArray title = property(window, atom("_NET_WM_NAME"), atom("UTF8_STRING"));
+    // Programs of old have one in Latin-1 only.
+    return title.isEmpty()
+               ? QString::fromLatin1(property(window, XCB_ATOM_WM_NAME, XCB_ATOM_STRING))
+               : QString::fromUtf8(title);
+}
+
+xcb_window_t X11Display::transientFor(xcb_window_t window) const {
+    const auto before = cardinals(window, "WM_TRANSIENT_FOR", XCB_ATOM_WINDOW);
+    return before.empty() ? static_cast<xcb_window_t>(XCB_WINDOW_NONE) : before.front();
+}
+
+void X11Display::askToClose(xcb_window_t window) const {
+    const xcb_atom_t closing = atom("WM_DELETE_WINDOW");
+    const auto known = cardinals(window, "WM_PROTOCOLS", XCB_ATOM_ATOM);
+    // Not through the manager: it may tear down a window that does not know the request.
+    if (std::find(known.begin(), known.end(), closing) == known.end())
+        return;
+    xcb_client_message_event_t event = messageTo(window, atom("WM_PROTOCOLS"));
+    event.data.data32[0] = closing;
+    event.data.data32[1] = XCB_CURRENT_TIME;
+    send(event, window, XCB_EVENT_MASK_NO_EVENT);
+}
+
 void X11Display::bringToFront(xcb_window_t window) const {
     xcb_connection_t* const display = connection_.get();
     if (hasManager()) {
-        xcb_client_message_event_t event{};
-        event.response_type = XCB_CLIENT_MESSAGE;
-        event.format = 32;
-        event.window = window;
-        event.type = atom("_NET_ACTIVE_WINDOW");
+        xcb_client_message_event_t event = messageTo(window, atom("_NET_ACTIVE_WINDOW"));
         // Source 2, "a pager": the person asked for it, so rules against stealing the focus do not
         // apply.
         event.data.data32[0] = 2;
         event.data.data32[1] = XCB_CURRENT_TIME;
-        xcb_send_event(display, 0, root_,
-                       XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
-                       reinterpret_cast<const char*>(&event));
+        send(event, root_,
+             XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT);
     } else {
         const std::uint32_t above = XCB_STACK_MODE_ABOVE;
         xcb_configure_window(display, window, XCB_CONFIG_WINDOW_STACK_MODE, &above);
         xcb_set_input_focus(display, XCB_INPUT_FOCUS_PARENT, window, XCB_CURRENT_TIME);
+        waitForDisplay();
     }
+}
+
+void X11Display::send(const xcb_client_message_event_t& event, xcb_window_t target,
+                      std::uint32_t mask) const {
+    xcb_send_event(connection_.get(), 0, target, mask, reinterpret_cast<const char*>(&event));
+    waitForDisplay();
+}
+
+void X11Display::waitForDisplay() const {
     // Any request with an answer: the display has then seen everything before it.
+    xcb_connection_t* const display = connection_.get();
     owned(xcb_get_input_focus_reply(display, xcb_get_input_focus(display), nullptr));
 }
 

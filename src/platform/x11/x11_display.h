@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QByteArrayList>
+#include <QString>
 
 #include <xcb/xcb.h>
 
@@ -30,6 +31,20 @@ public:
     /// Instance and class name of the window's program; empty when it does not say.
     QByteArrayList classNames(xcb_window_t window) const;
 
+    /// Name of the machine that the window's program runs on; empty when it does not say.
+    QByteArray clientMachine(xcb_window_t window) const;
+
+    /// Title of the window; empty when it has none.
+    QString title(xcb_window_t window) const;
+
+    /// The window that this one stands before, as dialogs do; none when it does not say. A dialog
+    /// without such a window may name the root or a hidden window of its toolkit.
+    xcb_window_t transientFor(xcb_window_t window) const;
+
+    /// Asks the window's program to close it, as the button of its title bar does, and waits until
+    /// the display has taken the request. Has no effect on a window that does not know of this.
+    void askToClose(xcb_window_t window) const;
+
     /// Asks for the window to come to the front with the keyboard's focus, and waits until the
     /// display has taken the request.
     void bringToFront(xcb_window_t window) const;
@@ -40,6 +55,11 @@ private:
     };
 
     xcb_atom_t atom(const char* name) const;
+    /// Sends `event` to those who selected `mask` on `target`, with 0 to its program, and waits
+    /// until the display has taken it.
+    void send(const xcb_client_message_event_t& event, xcb_window_t target,
+              std::uint32_t mask) const;
+    void waitForDisplay() const;
     QByteArray property(xcb_window_t window, xcb_atom_t name, xcb_atom_t type) const;
     std::vector<std::uint32_t> cardinals(xcb_window_t window, const char* name,
                                          xcb_atom_t type) const;

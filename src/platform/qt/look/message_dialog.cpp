@@ -3,11 +3,10 @@
 #include "platform/qt/look/button.h"
 #include "platform/qt/look/mnemonics.h"
 #include "platform/qt/look/palette.h"
+#include "platform/qt/look/spaced_label.h"
 
 #include <QApplication>
-#include <QLabel>
 #include <QPainter>
-#include <QTextLayout>
 
 namespace platform::look {
 
@@ -25,50 +24,6 @@ constexpr int kGap = 8;
 constexpr int kButtonHeight = 32;
 constexpr int kButtonWidth = 96; ///< at least
 constexpr int kAboveButtons = 28;
-
-/// A label whose lines stand further apart than the font asks for.
-class MessageText : public QLabel {
-public:
-    MessageText(const QString& text, QWidget* parent) : QLabel(parent) {
-        setTextFormat(Qt::PlainText);
-        setText(text);
-        setFont(interfaceFont(kLabelPx));
-    }
-
-    int wrappedHeight() const {
-        int lines = 0;
-        forEachLine([&lines](const QTextLine&, const QTextLayout&) { ++lines; });
-        return lines * kLineHeight;
-    }
-
-protected:
-    void paintEvent(QPaintEvent*) override {
-        QPainter painter(this);
-        painter.setFont(font());
-        painter.setPen(QColor::fromRgb(kInk));
-        int baseline = kBaseline;
-        forEachLine([&](const QTextLine& line, const QTextLayout& layout) {
-            painter.drawText(QPointF(0, baseline),
-                             layout.text().mid(line.textStart(), line.textLength()));
-            baseline += kLineHeight;
-        });
-    }
-
-private:
-    template <class Visit>
-    void forEachLine(Visit visit) const {
-        const QStringList paragraphs = text().split(u'\n');
-        for (const QString& paragraph : paragraphs) {
-            QTextLayout layout(paragraph, font());
-            layout.beginLayout();
-            for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-                line.setLineWidth(kTextWidth);
-                visit(line, layout);
-            }
-            layout.endLayout();
-        }
-    }
-};
 
 QString signName(Message::Icon icon) {
     switch (icon) {
@@ -111,10 +66,9 @@ QList<Choice> choices(Message::Buttons buttons) {
 MessageDialog::MessageDialog(const Message& message, QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                           Qt::WindowCloseButtonHint),
-      sign_(signName(message.icon)),
-      text_(new MessageText(
-          QString(message.text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")), this)),
+      sign_(signName(message.icon)), text_(new SpacedLabel(kLineHeight, kBaseline, this)),
       answer_(choices(message.buttons).last().answer) {
+    text_->setText(QString(message.text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
     setWindowTitle(message.title);
     setAccessibleName(message.title);
     setAccessibleDescription(text_->text());
@@ -139,7 +93,7 @@ void MessageDialog::addButtons(Message::Buttons buttons) {
 }
 
 void MessageDialog::arrange() {
-    const int textHeight = static_cast<MessageText*>(text_)->wrappedHeight();
+    const int textHeight = text_->heightForWidth(kTextWidth);
     // Beside the sign, on its middle; a text taller than the sign starts at its top.
     const int textTop = qMax(kSign.top(), kSign.center().y() + 1 - textHeight / 2);
     text_->setGeometry(kTextLeft, textTop, kTextWidth, textHeight);

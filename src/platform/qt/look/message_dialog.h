@@ -7,11 +7,10 @@
 
 #include <optional>
 
-class QLabel;
-
 namespace platform::look {
 
 class Button;
+class SpacedLabel;
 
 /// A message box: sign, text, and the buttons at the lower right. The first button is the main
 /// action and answers to Enter; Escape and the window's close button change nothing.
@@ -30,7 +29,7 @@ private:
     void arrange();
 
     Icon sign_;
-    QLabel* text_;
+    SpacedLabel* text_;
     QList<Button*> buttons_;
     Answer answer_;
 };

@@ -1,0 +1,11 @@
+#include "app/order_window.h"
+
+#include "orderform/bondec.h"
+
+namespace app {
+
+void OrderWindow::open() {
+    orderform::Bondec(printing_, prompter_, &window_).exec();
+}
+
+} // namespace app

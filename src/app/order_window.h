@@ -1,0 +1,27 @@
+#pragma once
+
+#include "orderform/order_printing.h"
+#include "platform/message_box.h"
+#include "viewer/neighbours.h"
+
+class QWidget;
+
+namespace app {
+
+/// Opens `bondec` over the main window, each time afresh: it keeps nothing.
+class OrderWindow : public viewer::ModalWindow {
+public:
+    /// All must outlive this one.
+    OrderWindow(const orderform::PrintingParts& printing, platform::Prompter& prompter,
+                QWidget& window)
+        : printing_(printing), prompter_(prompter), window_(window) {}
+
+    void open() override;
+
+private:
+    orderform::PrintingParts printing_;
+    platform::Prompter& prompter_;
+    QWidget& window_;
+};
+
+} // namespace app

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "orderform/order.h"
+#include "platform/printer.h"
+#include "platform/sheet.h"
+#include "platform/text_metrics.h"
+
+namespace orderform {
+
+/// What the product is called on the form and on paper.
+inline const QString kArticle =
+    QStringLiteral("Orvalente, physique et chimie, collège et lycée (cédérom)");
+
+/// The mail-order form of a tidied order without faults: where it goes to, who orders, the articles
+/// and the total, how to pay, room for date and signature. It stands on one sheet, in smaller
+/// letters where the paper has less room than A4 upright.
+platform::Sheet orderSheet(const Order& order, const platform::Paper& paper,
+                           const platform::TextMetrics& metrics);
+
+} // namespace orderform

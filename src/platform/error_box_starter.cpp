@@ -1,0 +1,27 @@
+#include "platform/error_box_starter.h"
+
+#include "platform/file_names.h"
+#include "platform/start_failure.h"
+
+namespace platform {
+
+StartResult ErrorBoxStarter::start(const QString& program, const QStringList& arguments) {
+    return told(program, starter_.start(program, arguments));
+}
+
+StartResult ErrorBoxStarter::startMaximized(const QString& program) {
+    return told(program, starter_.startMaximized(program));
+}
+
+StartResult ErrorBoxStarter::told(const QString& program, const StartResult& result) {
+    if (!result.pid) {
+        const QString name = lastComponent(program);
+        prompter_.ask({name,
+                       QStringLiteral("Le programme «\u00A0%1\u00A0» %2")
+                           .arg(name, whyNotStarted(result.failure)),
+                       Message::Icon::Critical, Message::Buttons::Ok});
+    }
+    return result;
+}
+
+} // namespace platform

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/message_box.h"
+#include "platform/processes.h"
+
+namespace platform {
+
+/// Starts programs, and shows a box of the platform's own when that fails. Windows that say nothing
+/// about a failure start programs through it, so that nobody waits for what will not come.
+class ErrorBoxStarter : public ProcessStarter {
+public:
+    /// `starter` does the work; both must outlive this one.
+    ErrorBoxStarter(ProcessStarter& starter, Prompter& prompter)
+        : starter_(starter), prompter_(prompter) {}
+
+    StartResult start(const QString& program, const QStringList& arguments = {}) override;
+    StartResult startMaximized(const QString& program) override;
+
+private:
+    StartResult told(const QString& program, const StartResult& result);
+
+    ProcessStarter& starter_;
+    Prompter& prompter_;
+};
+
+} // namespace platform

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QString>
+
+#include <vector>
+
+namespace platform {
+
+/// A top-level window of some program, as it was when the list was read.
+struct ProgramWindow {
+    quint64 id = 0; ///< the window system's own number
+    QString title;  ///< empty for a window without one
+    /// Whether it belongs to another window of the list, as dialogs do.
+    bool hasParent = false;
+};
+
+/// Looks at the windows of all programs, ours among them, and asks programs to end. A window may
+/// vanish at any time; what is then asked of it has no effect.
+class ProgramWindows {
+public:
+    virtual ~ProgramWindows() = default;
+
+    /// The windows from the first to the last in the system's own order, read anew at every call.
+    /// Empty where there is no window system to ask.
+    virtual std::vector<ProgramWindow> list() const = 0;
+
+    /// Asks the program that owns the window `id` of the list to leave its message loop, without
+    /// the questions that closing a window may bring, and does not wait for it. The program can
+    /// still put its things in order, or pay no heed. Has no effect on our own process.
+    virtual void postQuit(quint64 id) = 0;
+};
+
+} // namespace platform

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "platform/processes.h"
+#include "platform/program_windows.h"
+#include "shell/launcher.h"
+#include "shell/shared_state.h"
+
+namespace shell {
+
+/// What happens behind the exit screen: the sibling programs that run are asked to quit, and the
+/// companion program of the installation is started. Nothing here waits, and no failure is told.
+class Closing {
+public:
+    Closing(SharedState& state, const Launcher& launcher, platform::ProgramWindows& windows,
+            platform::ProcessStarter& starter)
+        : state_(state), launcher_(launcher), windows_(windows), starter_(starter) {}
+
+    /// The program is to end afterwards. SharedState::ModuleNumber then holds what the status file
+    /// said.
+    void run();
+
+private:
+    void closeSiblingPrograms();
+    void quitWindowsWith(QStringView fragment);
+
+    SharedState& state_;
+    const Launcher& launcher_;
+    platform::ProgramWindows& windows_;
+    platform::ProcessStarter& starter_;
+};
+
+} // namespace shell

@@ -1,0 +1,108 @@
+#include "fake_reports.h"
+#include "raw_status_file.h"
+#include "shell/closing.h"
+#include "shell/title_fragments.h"
+#include "support/fake_processes.h"
+#include "support/fake_prompter.h"
+
+#include <QTemporaryDir>
+
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+/// Windows of no program: keeps what was asked of them.
+class FakeWindows : public platform::ProgramWindows {
+public:
+    std::vector<platform::ProgramWindow> list() const override {
+        ++reads;
+        return windows;
+    }
+    void postQuit(quint64 id) override {
+        quits.push_back(id);
+        if (vanish)
+            windows.clear();
+    }
+
+    std::vector<platform::ProgramWindow> windows;
+    std::vector<quint64> quits;
+    bool vanish = false; ///< whether a window goes when its program is asked to quit
+    mutable int reads = 0;
+};
+
+class ClosingTest : public testing::Test {
+protected:
+    ClosingTest() {
+        state_.InstallDir = directory_.path() + '/';
+        raw_status_file::writeAllNon(directory_.path());
+    }
+
+    void say(int record, const QByteArray& text) {
+        raw_status_file::put(directory_.path(), record, text);
+    }
+
+    void show(const QString& title, bool hasParent = false) {
+        windows_.windows.push_back({windows_.windows.size() + 1, title, hasParent});
+    }
+
+    void close() { shell::Closing(state_, launcher_, windows_, starter_).run(); }
+
+    QTemporaryDir directory_;
+    shell::SharedState state_;
+    test_support::FakePrompter prompter_;
+    test_support::FakeStarter starter_;
+    test_support::FakeActivator activator_;
+    FakeReports reports_;
+    shell::Launcher launcher_{state_, prompter_, starter_, activator_, reports_};
+    FakeWindows windows_;
+};
+
+} // namespace
+
+TEST_F(ClosingTest, quitsTheWindowsOfSiblingProgramsByTheirTitles) {
+    say(2, "OUI");
+    show("Mouvement d’un projectile - Orvalente, module 23");
+    show("Liens utiles - ORVALENTE, module 07");
+    show("Liens utiles - orvalente, module 07");
+    show("Aide d’Orvalente");
+    show("");
+    show("Orvalente - Le module 23 et les autres");
+    show("Optique - Orvalente, module 19");
+    show("Enregistrer « Orvalente, module 23.odt » ?", true);
+    show("Orvalente, module 01 et Orvalente, module 02");
+    close();
+    // In the order of the fragments; the last window has two of them.
+    EXPECT_THAT(windows_.quits, ElementsAre(4, 9, 9, 3, 1));
+    EXPECT_EQ(windows_.reads, 20);
+    EXPECT_EQ(starter_.programs, QStringList{state_.InstallDir + "TERMINUS.EXE"});
+}
+
+TEST_F(ClosingTest, readsTheWindowsAnewForEveryTitle) {
+    say(2, "OUI");
+    windows_.vanish = true;
+    show("Orvalente, module 01 et Orvalente, module 02");
+    close();
+    EXPECT_THAT(windows_.quits, ElementsAre(1));
+}
+
+TEST_F(ClosingTest, touchesNothingWithoutAPositiveCount) {
+    show("Liens utiles - Orvalente, module 07");
+    const struct {
+        const char* record7;
+        const char* record20;
+    } rows[] = {{"NON", "NON"}, {"OUI", "OUI"}, {"OUI", "non"}};
+    starter_.result = {std::nullopt, platform::StartFailure::Missing};
+    for (const auto& row : rows) {
+        say(7, row.record7);
+        say(20, row.record20);
+        close();
+    }
+    EXPECT_THAT(windows_.quits, IsEmpty());
+    EXPECT_EQ(windows_.reads, 0);
+    EXPECT_EQ(starter_.programs.size(), 3);
+    EXPECT_TRUE(reports_.lines.isEmpty());
+    EXPECT_TRUE(prompter_.messages.empty());
+}
