@@ -53,7 +53,7 @@ QString pageStyle(double zoom) {
     const auto colour = [](QRgb rgb) { return QColor::fromRgb(rgb).name(); };
     using namespace platform::look;
     return QStringLiteral(
-               "body, p, li, td, th { font-family: 'Liberation Sans'; font-size: %1px;"
+               "body, p, li, td, th, h1, h2 { font-family: 'Liberation Sans'; font-size: %1px;"
                " color: %4; }"
                "p, ul, ol { margin-top: 0px; margin-bottom: 9px; }"
                "p, li { line-height: 130%; }"

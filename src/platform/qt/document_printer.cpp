@@ -13,7 +13,7 @@ namespace platform {
 namespace {
 
 /// Text for the screen is large on paper.
-constexpr double kReduction = .8;
+constexpr double kReduction = .95;
 constexpr double kScreenDpi = 96;
 
 constexpr double kFootHeight = 32; ///< with the space above it
