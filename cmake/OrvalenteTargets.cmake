@@ -1,25 +1,29 @@
 # Every library, program and test is declared through these functions, so that language level,
-# warnings and sanitizers are the same everywhere.
+# warnings and sanitizers are the same everywhere: orvalente_flags has them, orvalente_options also
+# finds the headers of src/.
 
-add_library(orvalente_options INTERFACE)
-target_compile_features(orvalente_options INTERFACE cxx_std_20)
-target_include_directories(orvalente_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
-target_compile_definitions(orvalente_options INTERFACE QT_NO_KEYWORDS QT_NO_FOREACH
+add_library(orvalente_flags INTERFACE)
+target_compile_features(orvalente_flags INTERFACE cxx_std_20)
+target_compile_definitions(orvalente_flags INTERFACE QT_NO_KEYWORDS QT_NO_FOREACH
                            QT_NO_CAST_FROM_BYTEARRAY QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
-    target_compile_options(orvalente_options INTERFACE
+    target_compile_options(orvalente_flags INTERFACE
         -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
 endif()
 if(ORVALENTE_SANITIZE)
-    target_compile_options(orvalente_options INTERFACE
+    target_compile_options(orvalente_flags INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
-    target_link_options(orvalente_options INTERFACE -fsanitize=address,undefined)
+    target_link_options(orvalente_flags INTERFACE -fsanitize=address,undefined)
     # GCC warns of values that the instrumented code only seems to leave unset; the other presets
     # keep this warning.
     if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-        target_compile_options(orvalente_options INTERFACE -Wno-maybe-uninitialized)
+        target_compile_options(orvalente_flags INTERFACE -Wno-maybe-uninitialized)
     endif()
 endif()
+
+add_library(orvalente_options INTERFACE)
+target_link_libraries(orvalente_options INTERFACE orvalente_flags)
+target_include_directories(orvalente_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
 
 # A folder of src/ as a static library. It links only what it names: a stray use of a higher layer
 # fails to link.

@@ -2,6 +2,7 @@
 
 #include "jet/bytes.h"
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 
@@ -12,7 +13,7 @@
 
 namespace search {
 
-// The two loops that take the time of a search, in the vector instructions that every 64-bit PC
+// The loops that take the time of a search, in the vector instructions that every 64-bit PC
 // has; on other machines as plain loops.
 
 /// Lower case in Latin-1: A to Z, and À to Þ but the multiplication sign.
@@ -47,9 +48,9 @@ inline __m128i foldedLatin(__m128i bytes) {
 
 #endif
 
-/// Folds UTF-16LE units up to U+00FF, one byte each, and stops before a group of eight with a unit
-/// beyond or when fewer than eight are left. `to` has room for a byte a unit. Gives the number of
-/// units taken.
+/// Folds UTF-16LE units up to U+00FF, one byte each, and stops at a group of sixteen with a unit
+/// beyond (or at that unit) and when fewer than sixteen are left (or none). `to` has room for a
+/// byte a unit. Gives the number of units taken.
 inline std::size_t foldLatin(jet::Bytes units, char* to) {
     std::size_t done = 0;
 #ifdef ORVALENTE_SSE2
@@ -69,6 +70,30 @@ inline std::size_t foldLatin(jet::Bytes units, char* to) {
     for (; units.has(2 * done, 2) && units.u16(2 * done) <= 0xFF; ++done)
         to[done] = static_cast<char>(foldedLatin(units.u8(2 * done)));
 #endif
+    return done;
+}
+
+/// Copies folded bytes up to the first that is no ASCII or begins the four bytes of a unit, "A" to
+/// "P", or to the end. May write past them, but no further than `count`. Gives how many there are.
+inline std::size_t copyUnaccented(const char* from, std::size_t count, char* to) {
+    std::size_t done = 0;
+#ifdef ORVALENTE_SSE2
+    constexpr std::size_t kLane = sizeof(__m128i);
+    for (; count - done >= kLane; done += kLane) {
+        const __m128i bytes = vectorAt(from, done);
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(to + done), bytes);
+        // A mask of the highest bits: those of bytes beyond ASCII and those of the comparison.
+        const auto stops = static_cast<unsigned>(
+            _mm_movemask_epi8(_mm_or_si128(bytes, isBetween(bytes, 'A', 'P'))));
+        if (stops != 0)
+            return done + static_cast<std::size_t>(std::countr_zero(stops));
+    }
+#endif
+    const auto stops = [](char c) {
+        return static_cast<std::uint8_t>(c) >= 0x80 || (c >= 'A' && c <= 'P');
+    };
+    for (; done < count && !stops(from[done]); ++done)
+        to[done] = from[done];
     return done;
 }
 

@@ -13,7 +13,8 @@ namespace {
 
 constexpr char16_t kLastSingle = 0xFF;
 constexpr std::size_t kMostPerUnit = 4;
-constexpr unsigned kDigits = 16;
+/// Units beyond ASCII that take one byte; in ASCII nothing has an accent.
+constexpr std::uint8_t kOneByteAccents = 0x80;
 constexpr unsigned kFirstDigit = 'A';
 constexpr unsigned kOtherDigits = 0xC0;
 /// Units taken one by one before trying many together again.
@@ -120,14 +121,20 @@ void FoldedText::assignWithoutAccents(const FoldedText& other) {
     char* to = room(other.size_); // no unit takes more bytes without its accent
     const char* from = other.bytes_.get();
     for (const std::size_t end : other.ends_) {
-        while (from < other.bytes_.get() + end) {
-            const auto byte = static_cast<std::uint8_t>(*from);
-            if (byte - kFirstDigit < kDigits) {
-                to = put(plain(unitOf(from)), to);
-                from += kMostPerUnit;
-            } else {
+        const char* const textEnd = other.bytes_.get() + end;
+        while (from < textEnd) {
+            const std::size_t copied =
+                copyUnaccented(from, static_cast<std::size_t>(textEnd - from), to);
+            from += copied;
+            to += copied;
+            if (from == textEnd)
+                break;
+            if (const auto byte = static_cast<std::uint8_t>(*from); byte >= kOneByteAccents) {
                 *to++ = kPlain[byte];
                 ++from;
+            } else {
+                to = put(plain(unitOf(from)), to);
+                from += kMostPerUnit;
             }
         }
         ends_.push_back(static_cast<std::size_t>(to - bytes_.get()));

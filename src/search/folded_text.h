@@ -31,6 +31,8 @@ public:
     /// Drops the pieces behind the last text that was ended.
     void dropPieces() { size_ = ends_.empty() ? 0 : ends_.back(); }
     void clear();
+    /// Room for so many bytes at once, for those who know that they will come.
+    void reserve(std::size_t bytes) { room(bytes); }
 
     /// All texts that were ended.
     std::string_view bytes() const { return {bytes_.get(), size_}; }

@@ -76,6 +76,7 @@ bool SliceReader::read(int first, PageSlice& slice) {
     slice.next = first;
     slice.pages.clear();
     slice.sources.clear();
+    slice.sources.reserve(kSliceBytes + kSliceBytes / 8); // the last page goes beyond the end
     slice.titles.clear();
     table_.visit(
         [&](jet::RecordView& record) {

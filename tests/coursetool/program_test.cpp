@@ -114,6 +114,8 @@ TEST_F(Program, endsWithTwoForWrongCallsAndDoesNothing) {
                              "trace --source page.txt --drive",
                              "trace --source page.txt --drive disc",
                              "trace --source page.txt --drive 1=src",
+                             "search src",
+                             "search nowhere mot",
                              "symbols nowhere"}) {
         const Outcome outcome = run(call);
         EXPECT_EQ(outcome.code, 2) << call;
@@ -150,6 +152,42 @@ TEST_F(Program, judgesAnswers) {
     EXPECT_EQ(run("answer masse").code, 2);
     EXPECT_EQ(run("answer --batch masse").code, 2);
     EXPECT_EQ(run("print src -o a.pdf").code, 2);
+}
+
+TEST_F(Program, searchesThePagesAsTheWindowDoes) {
+    const auto page = [&](const char* file, const std::string& front, const char* source) {
+        work.write(std::string("cours/pages/") + file,
+                   "+++\nNumeropage = " + front + "\n+++\n" + source + "\n");
+    };
+    page("1.page", "1\ntitre = \"Un\"\nmoteur = true", "Énergie, chaleur¶");
+    page("2.page", "20\ntitre = \"L’énergie\\tet\"\nmoteur = true", "Énergie, masse¶");
+    page("3.page", "3\ntitre = \"Éteint\"\nmoteur = false", "Énergie¶");
+    page("4.page", "4\nmoteur = true", "Une MASSE au repos, sans energie¶");
+    ASSERT_EQ(run("build cours -o out").code, 0);
+    const struct {
+        QStringList arguments;
+        const char* found;
+    } rows[] = {
+        {{"énergie"}, "20\tL’énergie et\n"},
+        {{"energie"}, "4\t\n"},
+        {{"--ignore-accents", "Energie"}, "20\tL’énergie et\n4\t\n"},
+        {{"masse", "énergie"}, "20\tL’énergie et\n4\t\n"},
+        {{"masse;énergie", "--all-words"}, "20\tL’énergie et\n"},
+        {{"absent"}, ""},
+    };
+    for (const auto& [arguments, found] : rows) {
+        const Outcome outcome = run(QStringList{"search", "out"} + arguments);
+        EXPECT_EQ(outcome.out, found) << arguments.join(u' ').toStdString();
+        EXPECT_EQ(outcome.err, "");
+        EXPECT_EQ(outcome.code, 0);
+    }
+    const Outcome tooShort = run("search out ?x");
+    EXPECT_EQ(tooShort.out, "");
+    EXPECT_THAT(tooShort.err, HasSubstr("avertissement : rien à chercher"));
+    EXPECT_EQ(tooShort.code, 0);
+    const Outcome none = run("search src énergie");
+    EXPECT_EQ(none.code, 1);
+    EXPECT_THAT(none.err, HasSubstr("aucun cours ici : Zekx.mdb manque"));
 }
 
 TEST_F(Program, listsSymbolsAndTracesWithDrives) {

@@ -88,6 +88,19 @@ TEST_P(SampleFile, holdsTheExpectedRows) {
     }
 }
 
+/// Takes a text as it is stored.
+struct Utf16Text : jet::TextSink {
+    void unit(char16_t unit) override { text += unit; }
+    void ascii(const std::uint8_t* bytes, std::size_t count) override {
+        text.append(bytes, bytes + count);
+    }
+    void wide(jet::Bytes units) override {
+        for (std::size_t at = 0; units.has(at, 2); at += 2)
+            text += static_cast<char16_t>(units.u16(at));
+    }
+    std::u16string text;
+};
+
 /// The three ways through a table give the same values.
 TEST_P(SampleFile, scansAndVisitsAsItReads) {
     for (const jet::TableInfo& info : database_->tables()) {
@@ -113,12 +126,25 @@ TEST_P(SampleFile, scansAndVisitsAsItReads) {
                                 std::string text;
                                 EXPECT_EQ(*record.appendUtf8(i, text), cells[i].text() != nullptr);
                                 EXPECT_EQ(text, cells[i].text() ? *dumpCell(cells[i]) : "");
+                                Utf16Text stored;
+                                EXPECT_EQ(*record.readText(i, stored), cells[i].text() != nullptr);
+                                EXPECT_EQ(stored.text, cells[i].text() ? *cells[i].text() : u"");
                             }
                             return true;
                         })
                         .empty());
-        for (std::size_t i = 0; i < scanned.size(); ++i)
+        for (std::size_t i = 0; i < scanned.size(); ++i) {
             EXPECT_EQ(*table->record(i), scanned[i]);
+            // A visit of two records from here on.
+            std::vector<std::size_t> visited;
+            table->visit(
+                [&](jet::RecordView& record) {
+                    visited.push_back(record.position());
+                    return visited.size() < 2;
+                },
+                i);
+            EXPECT_EQ(visited, i + 1 < scanned.size() ? (std::vector{i, i + 1}) : std::vector{i});
+        }
     }
 }
 

@@ -1,0 +1,41 @@
+#include "common/formula_label.h"
+
+#include "common/house.h"
+
+#include <QPainter>
+
+namespace common {
+
+FormulaLabel::FormulaLabel(const QString& formula, const QString& spoken, int pixels,
+                           QWidget* parent)
+    : QWidget(parent), source_(formula), pixels_(pixels), formula_(formula, pixels), ink_(kInk) {
+    setAccessibleName(spoken);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+void FormulaLabel::setFormula(const QString& formula) {
+    if (formula == source_)
+        return;
+    source_ = formula;
+    formula_ = Formula(formula, pixels_);
+    updateGeometry();
+    update();
+}
+
+void FormulaLabel::setInk(QRgb ink) {
+    ink_ = ink;
+    update();
+}
+
+QSize FormulaLabel::sizeHint() const {
+    return {qCeil(formula_.width()) + 1, qCeil(formula_.ascent() + formula_.descent()) + 2};
+}
+
+void FormulaLabel::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setPen(QColor::fromRgb(ink_));
+    const double height = formula_.ascent() + formula_.descent();
+    formula_.paint(painter, {0, (this->height() - height) / 2 + formula_.ascent()});
+}
+
+} // namespace common

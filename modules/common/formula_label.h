@@ -1,0 +1,32 @@
+#pragma once
+
+#include "common/formula.h"
+
+#include <QWidget>
+
+namespace common {
+
+/// A label that shows one formula on one line, at the left.
+class FormulaLabel : public QWidget {
+public:
+    /// `spoken` is what a screen reader says.
+    FormulaLabel(const QString& formula, const QString& spoken, int pixels,
+                 QWidget* parent = nullptr);
+
+    void setFormula(const QString& formula);
+    void setInk(QRgb ink);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+
+private:
+    QString source_;
+    int pixels_;
+    Formula formula_;
+    QRgb ink_;
+};
+
+} // namespace common

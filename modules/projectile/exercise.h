@@ -1,0 +1,54 @@
+#pragma once
+
+#include "projectile/launch.h"
+
+#include <QPointF>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+#include <set>
+#include <vector>
+
+namespace projectile {
+
+/// A mark in the drawing: a ring, a wall, a line on the ground.
+struct Landmark {
+    QPointF place; ///< m
+    QString name;
+};
+
+enum class Answer { NoNumber, Wrong, Right };
+
+/// A task for the pupil: a situation, of which some numbers may be changed and others not, and a
+/// question that a number answers.
+struct Exercise {
+    QString title;
+    QStringList statement; ///< paragraphs
+    QString question;
+    Launch launch;
+    std::set<Parameter> locked;
+    bool dragLocked = false;
+    bool hidesResults = false; ///< until a right answer was given
+    std::vector<Landmark> landmarks;
+
+    double answer = 0;
+    double tolerance = 0; ///< in the same unit; both ends still right
+    QString unit;
+    QString whenRight; ///< explanations
+    QString whenWrong;
+
+    bool isLocked(Parameter parameter) const { return locked.count(parameter) > 0; }
+
+    /// What the pupil typed, with or without the unit behind it.
+    Answer judge(const QString& typed) const;
+};
+
+/// Reads a file of modules/README.md's format. Absent, with one French sentence in `why`, when it
+/// is not there, or anything in it is missing, unknown or out of range.
+std::optional<Exercise> readExercise(const QString& path, QString& why);
+
+/// The same of a file's text.
+std::optional<Exercise> parseExercise(const QString& text, QString& why);
+
+} // namespace projectile

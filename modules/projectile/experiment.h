@@ -1,0 +1,77 @@
+#pragma once
+
+#include "projectile/exercise.h"
+#include "projectile/flight.h"
+#include "projectile/playback.h"
+
+#include <QObject>
+#include <QString>
+
+#include <vector>
+
+namespace projectile {
+
+/// What the windows show: the flight that the controls describe, those kept for comparison, and the
+/// moment at which one looks.
+class Experiment : public QObject {
+    Q_OBJECT
+
+public:
+    /// More would be a tangle, and there are no more inks.
+    static constexpr int kMostKept = 5;
+
+    Experiment();
+
+    const Flight& flight() const { return flight_; }
+    const Launch& launch() const { return flight_.launch(); }
+    const Playback& playback() const { return playback_; }
+    Moment now() const { return flight_.at(playback_.time()); }
+
+    /// The given numbers of an exercise, which nothing below changes any more.
+    void setExercise(const Exercise& exercise);
+    bool isLocked(Parameter parameter) const { return exercise_ && exercise_->isLocked(parameter); }
+    bool isDragLocked() const { return exercise_ && exercise_->dragLocked; }
+    const std::optional<Exercise>& exercise() const { return exercise_; }
+
+    /// These hold the numbers within the sliders' limits, and leave locked ones alone.
+    void set(Parameter parameter, double value);
+    void aim(double speed, double angle);
+    void setWorld(const World& world);
+    void setDrag(Drag drag);
+
+    /// Playback, with word to those who look.
+    template <class Change>
+    void play(Change change) {
+        change(playback_);
+        Q_EMIT moved();
+    }
+
+    /// In the order in which they were kept; a flight's place is also its ink.
+    const std::vector<Flight>& kept() const { return kept_; }
+    /// False when as many as can be are kept, or this very flight is.
+    bool canKeep() const;
+    void keep();
+    void forgetKept();
+
+Q_SIGNALS:
+    void changed(); ///< the launch, and with it everything
+    void moved();   ///< the moment, or whether it runs
+    void keptChanged();
+
+private:
+    void setLaunch(const Launch& launch);
+
+    std::optional<Exercise> exercise_;
+    Flight flight_;
+    Playback playback_;
+    std::vector<Flight> kept_;
+};
+
+/// What tells a launch from others: "v₀ = 20 m/s, α = 45°, h = 2 m, Lune, sans air". What it shares
+/// with most (no height, on the Earth, no drag) is left out.
+QString describe(const Launch& launch);
+
+/// The time between two points of a stroboscope, s: easy to count with, ten to twenty a flight.
+double strobeInterval(double duration);
+
+} // namespace projectile

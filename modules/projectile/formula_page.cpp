@@ -1,0 +1,141 @@
+#include "projectile/formula_page.h"
+
+#include "common/formula.h"
+#include "common/french_number.h"
+#include "common/house.h"
+
+#include <QPainter>
+
+#include <cmath>
+
+namespace projectile {
+
+namespace {
+
+constexpr double kMargin = 16;
+constexpr double kFormulaLeft = 190;
+constexpr double kFormulaPx = 16;
+constexpr double kGapBelow = 11;
+constexpr double kHeadingHeight = 30;
+
+QString number(double value) {
+    return common::frenchDigits(value, 3);
+}
+
+void addParabola(std::vector<Law>& laws, const Flight& flight) {
+    const Moment start = flight.start();
+    laws.push_back({QStringLiteral("Mouvement"), {}});
+    laws.push_back({QStringLiteral("Accélération"), QStringLiteral("a_x = 0      a_y = −g")});
+    laws.push_back({QStringLiteral("Vitesse"),
+                    QStringLiteral("v_x = v_0 \\cos α      v_y = v_0 \\sin α − g t")});
+    laws.push_back({QStringLiteral("Position"),
+                    QStringLiteral("x = v_0 \\cos α · t      y = h + v_0 \\sin α · t − "
+                                   "\\frac{1}{2} g t^2")});
+    laws.push_back({QStringLiteral("Trajectoire"),
+                    QStringLiteral("y = h + x \\tan α − \\frac{g x^2}{2 v_0^2 \\cos^2 α}")});
+    laws.push_back({QStringLiteral("Avec vos valeurs"), {}});
+    laws.push_back({QStringLiteral("Vitesse initiale"),
+                    QStringLiteral("v_{0x} = %1\\text{ m/s}      v_{0y} = %2\\text{ m/s}")
+                        .arg(number(start.vx), number(start.vy))});
+    laws.push_back({QStringLiteral("Durée du vol"),
+                    QStringLiteral("T = \\frac{v_{0y} + \\sqrt{v_{0y}^2 + 2 g h}}{g}")});
+    laws.push_back({QStringLiteral("Portée"), QStringLiteral("D = v_{0x} T")});
+    laws.push_back({QStringLiteral("Point le plus haut"),
+                    QStringLiteral("y_S = h + \\frac{v_{0y}^2}{2 g}\\text{ (si }v_{0y} > 0)")});
+}
+
+void addDrag(std::vector<Law>& laws, const Flight& flight) {
+    const Launch& launch = flight.launch();
+    const bool linear = launch.drag == Drag::Linear;
+    laws.push_back({QStringLiteral("Frottement"),
+                    linear ? QStringLiteral("\\vec{f} = −k \\vec{v}")
+                           : QStringLiteral("\\vec{f} = −\\frac{1}{2} ρ C_x S v \\vec{v}      S = "
+                                            "\\frac{π d^2}{4}")});
+    if (!linear)
+        laws.push_back({QStringLiteral("Air et forme"),
+                        QStringLiteral("ρ = %1\\text{ kg/m}^3      C_x = %2\\text{ (sphère)}")
+                            .arg(common::frenchDigits(launch.airDensity, 4), number(kSphereDrag))});
+    laws.push_back({QStringLiteral("Vitesse limite"),
+                    (linear ? QStringLiteral("v_l = \\frac{m g}{k}")
+                            : QStringLiteral("v_l = \\sqrt{\\frac{2 m g}{ρ C_x S}}")) +
+                        QStringLiteral(" = %1\\text{ m/s}").arg(number(terminalSpeed(launch)))});
+    laws.push_back({QStringLiteral("Calcul"), {}});
+    laws.push_back(
+        {QStringLiteral("Pas à pas"), QStringLiteral("\\vec{a} = \\vec{g} + \\frac{\\vec{f}}{m}")});
+    laws.push_back({QStringLiteral("Méthode"),
+                    QStringLiteral("\\text{Runge-Kutta d’ordre 4, à pas variable}")});
+}
+
+} // namespace
+
+std::vector<Law> lawsOf(const Flight& flight) {
+    const Launch& launch = flight.launch();
+    const bool slowed = std::isfinite(terminalSpeed(launch));
+    std::vector<Law> laws = {
+        {QStringLiteral("Forces"), {}},
+        {QStringLiteral("Deuxième loi de Newton"),
+         slowed ? QStringLiteral("m \\vec{a} = m \\vec{g} + \\vec{f}")
+                : QStringLiteral("m \\vec{a} = m \\vec{g}\\text{   donc   }\\vec{a} = \\vec{g}")},
+    };
+    if (!slowed && launch.drag != Drag::None)
+        laws.push_back(
+            {QStringLiteral("Frottement"),
+             launch.airDensity > 0
+                 ? QStringLiteral("\\vec{f} = \\vec{0}\\text{   (coefficient nul)}")
+                 : QStringLiteral("\\vec{f} = \\vec{0}\\text{   (il n’y a pas d’air)}")});
+    if (slowed)
+        addDrag(laws, flight);
+    else
+        addParabola(laws, flight);
+    laws.push_back({QStringLiteral("Énergies"), {}});
+    laws.push_back({QStringLiteral("Cinétique, potentielle"),
+                    QStringLiteral("E_c = \\frac{1}{2} m v^2      E_p = m g y")});
+    laws.push_back({QStringLiteral("Mécanique"),
+                    slowed ? QStringLiteral("E_m = E_c + E_p\\text{   diminue}")
+                           : QStringLiteral("E_m = E_c + E_p = %1\\text{ J}\\text{   se conserve}")
+                                 .arg(number(flight.energies(flight.start()).mechanical()))});
+    return laws;
+}
+
+FormulaPage::FormulaPage(Experiment& experiment, QWidget* parent)
+    : QWidget(parent), experiment_(experiment) {
+    setAccessibleName(QStringLiteral("Formules"));
+    connect(&experiment_, &Experiment::changed, this, &FormulaPage::fit);
+    fit();
+}
+
+void FormulaPage::fit() {
+    double height = kMargin;
+    for (const Law& law : lawsOf(experiment_.flight())) {
+        const common::Formula formula(law.formula, kFormulaPx);
+        height += law.formula.isEmpty() ? kHeadingHeight
+                                        : formula.ascent() + formula.descent() + kGapBelow;
+    }
+    setFixedHeight(qCeil(height + kMargin));
+    update();
+}
+
+void FormulaPage::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), QColor::fromRgb(common::kPaper));
+    double y = kMargin;
+    for (const Law& law : lawsOf(experiment_.flight())) {
+        if (law.formula.isEmpty()) {
+            painter.setPen(QColor::fromRgb(common::kBlue));
+            painter.setFont(common::houseFont(common::kTextPx, true));
+            painter.drawText(QPointF(kMargin, y + 15), law.words);
+            y += kHeadingHeight;
+            continue;
+        }
+        const common::Formula formula(law.formula, kFormulaPx);
+        const double baseline = y + formula.ascent();
+        painter.setPen(QColor::fromRgb(common::kMuted));
+        painter.setFont(common::houseFont());
+        painter.drawText(QPointF(kMargin, baseline), law.words);
+        painter.setPen(QColor::fromRgb(common::kInk));
+        formula.paint(painter, {kFormulaLeft, baseline});
+        y = baseline + formula.descent() + kGapBelow;
+    }
+}
+
+} // namespace projectile

@@ -1,0 +1,155 @@
+#include "projectile/launch_panel.h"
+
+#include "common/house.h"
+#include "projectile/quantity_row.h"
+
+#include <QButtonGroup>
+#include <QLabel>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+#include <cmath>
+
+namespace projectile {
+
+namespace {
+
+QLabel* heading(const QString& text) {
+    auto* label = new QLabel(text);
+    label->setIndent(0);
+    label->setMargin(0);
+    label->setStyleSheet(QStringLiteral("color: %1; font-weight: bold; padding-top: 6px;")
+                             .arg(QColor::fromRgb(common::kBlue).name()));
+    return label;
+}
+
+QPushButton* segment(const QString& caption, const QString& tooltip) {
+    auto* button = new QPushButton(caption);
+    button->setProperty("segment", true);
+    button->setCheckable(true);
+    button->setFocusPolicy(Qt::TabFocus); // a click leaves the space bar to the simulation
+    button->setToolTip(tooltip);
+    return button;
+}
+
+/// Buttons of which one is pressed, in a row.
+QWidget* row(QButtonGroup* group) {
+    auto* widget = new QWidget;
+    auto* layout = new QHBoxLayout(widget);
+    layout->setContentsMargins(0, 2, 0, 2);
+    layout->setSpacing(4);
+    for (QAbstractButton* button : group->buttons())
+        layout->addWidget(button, 1);
+    return widget;
+}
+
+} // namespace
+
+LaunchPanel::LaunchPanel(Experiment& experiment, QWidget* parent)
+    : QWidget(parent), experiment_(experiment), worlds_(new QButtonGroup(this)),
+      drags_(new QButtonGroup(this)) {
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(5);
+    const auto add = [&](Parameter parameter) {
+        auto* added = new QuantityRow(experiment_, parameter);
+        layout->addWidget(added);
+        return added;
+    };
+    layout->addWidget(heading(QStringLiteral("Lancement")));
+    for (const Parameter parameter : {Parameter::Speed, Parameter::Angle, Parameter::Height})
+        add(parameter);
+    layout->addWidget(heading(QStringLiteral("Astre")));
+    layout->addWidget(worlds());
+    add(Parameter::Gravity);
+    layout->addWidget(heading(QStringLiteral("Projectile")));
+    add(Parameter::Mass);
+    layout->addWidget(heading(QStringLiteral("Frottements de l’air")));
+    layout->addWidget(drags());
+    auto* factor = new QStackedWidget;
+    noDrag_ = new QLabel(QStringLiteral("Seul le poids agit\u00A0: chute libre."));
+    noDrag_->setStyleSheet(
+        QStringLiteral("color: %1;").arg(QColor::fromRgb(common::kMuted).name()));
+    coefficient_ = new QuantityRow(experiment_, Parameter::LinearCoefficient);
+    diameter_ = new QuantityRow(experiment_, Parameter::Diameter);
+    for (QWidget* widget : {noDrag_, coefficient_, diameter_})
+        factor->addWidget(widget);
+    layout->addWidget(factor);
+    connect(&experiment_, &Experiment::changed, factor, [this, factor] {
+        factor->setCurrentIndex(static_cast<int>(experiment_.launch().drag));
+    });
+    factor->setCurrentIndex(static_cast<int>(experiment_.launch().drag));
+    layout->addStretch(1);
+    layout->addWidget(keepButtons());
+    connect(&experiment_, &Experiment::changed, this, &LaunchPanel::show);
+    connect(&experiment_, &Experiment::keptChanged, this, &LaunchPanel::show);
+    show();
+}
+
+QWidget* LaunchPanel::worlds() {
+    for (std::size_t i = 0; i < kWorlds.size(); ++i) {
+        const QString name = QString::fromUtf16(kWorlds.at(i).name);
+        worlds_->addButton(segment(name, {}), static_cast<int>(i));
+    }
+    connect(worlds_, &QButtonGroup::idClicked, this, [this](int which) {
+        experiment_.setWorld(kWorlds.at(static_cast<std::size_t>(which)));
+        show();
+    });
+    QWidget* buttons = row(worlds_);
+    buttons->setEnabled(!experiment_.isLocked(Parameter::Gravity));
+    return buttons;
+}
+
+QWidget* LaunchPanel::drags() {
+    drags_->addButton(segment(QStringLiteral("aucun"), QStringLiteral("pas de frottement")),
+                      static_cast<int>(Drag::None));
+    drags_->addButton(segment(QStringLiteral("f = k v"),
+                              QStringLiteral("proportionnels à la vitesse\u00A0: corps très petits "
+                                             "ou très lents")),
+                      static_cast<int>(Drag::Linear));
+    drags_->addButton(segment(QStringLiteral("f ∝ v²"),
+                              QStringLiteral("proportionnels au carré de la vitesse\u00A0: balles, "
+                                             "ballons, pierres")),
+                      static_cast<int>(Drag::Quadratic));
+    connect(drags_, &QButtonGroup::idClicked, this, [this](int which) {
+        experiment_.setDrag(static_cast<Drag>(which));
+        show();
+    });
+    QWidget* buttons = row(drags_);
+    buttons->setEnabled(!experiment_.isDragLocked());
+    return buttons;
+}
+
+QWidget* LaunchPanel::keepButtons() {
+    keep_ = new QPushButton(QStringLiteral("Garder la trajectoire"));
+    keep_->setToolTip(QStringLiteral("la laisse dessinée, pour la comparer aux suivantes"));
+    forget_ = new QPushButton(QStringLiteral("Effacer"));
+    forget_->setToolTip(QStringLiteral("efface les trajectoires gardées"));
+    connect(keep_, &QPushButton::clicked, &experiment_, &Experiment::keep);
+    connect(forget_, &QPushButton::clicked, &experiment_, &Experiment::forgetKept);
+    keep_->setFocusPolicy(Qt::TabFocus);
+    forget_->setFocusPolicy(Qt::TabFocus);
+    auto* widget = new QWidget;
+    auto* layout = new QHBoxLayout(widget);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(common::kGap);
+    layout->addWidget(keep_, 1);
+    layout->addWidget(forget_);
+    return widget;
+}
+
+void LaunchPanel::show() {
+    const Launch& launch = experiment_.launch();
+    const std::optional<World> world = worldOf(launch);
+    // A group that allows none has no way to say so but for the moment in which it is told.
+    worlds_->setExclusive(false);
+    for (QAbstractButton* button : worlds_->buttons())
+        button->setChecked(world && button->text() == QStringView(world->name));
+    worlds_->setExclusive(true);
+    drags_->button(static_cast<int>(launch.drag))->setChecked(true);
+    keep_->setEnabled(experiment_.canKeep());
+    forget_->setEnabled(!experiment_.kept().empty());
+}
+
+} // namespace projectile

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "projectile/experiment.h"
+
+#include <QDoubleSpinBox>
+#include <QSlider>
+#include <QWidget>
+
+namespace projectile {
+
+/// A field for a number with its unit. Takes the decimal point for the comma, and leaves the space
+/// bar to the window.
+class NumberField : public QDoubleSpinBox {
+    Q_OBJECT
+
+public:
+    using QDoubleSpinBox::QDoubleSpinBox;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+};
+
+/// One number of the launch: its name and symbol, a field, a slider under both. A number that the
+/// exercise gives cannot be changed.
+class QuantityRow : public QWidget {
+    Q_OBJECT
+
+public:
+    QuantityRow(Experiment& experiment, Parameter parameter, QWidget* parent = nullptr);
+
+private:
+    void show(double value);
+    int positionOf(double value) const;
+    double valueAt(int position) const;
+
+    Experiment& experiment_;
+    const Quantity& quantity_;
+    NumberField* field_;
+    QSlider* slider_;
+};
+
+} // namespace projectile

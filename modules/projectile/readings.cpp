@@ -1,0 +1,83 @@
+#include "projectile/readings.h"
+
+#include "common/formula.h"
+#include "common/french_number.h"
+#include "common/house.h"
+
+#include <QPainter>
+
+#include <vector>
+
+namespace projectile {
+
+namespace {
+
+constexpr int kLineHeight = 26;
+constexpr double kNameWidth = 78;
+constexpr double kBaseline = 18;
+
+struct Reading {
+    const char16_t* name; ///< a formula
+    double value;
+    const char16_t* unit;
+};
+
+void paintLine(QPainter& painter, double top, double width, const QString& name,
+               const std::vector<Reading>& readings, bool hidden) {
+    painter.setFont(common::houseFont(12));
+    painter.setPen(QColor::fromRgb(common::kMuted));
+    painter.drawText(QPointF(10, top + kBaseline), name);
+    const double cell = (width - kNameWidth - 8) / static_cast<double>(readings.size());
+    double x = kNameWidth;
+    for (const Reading& reading : readings) {
+        painter.setPen(QColor::fromRgb(common::kMuted));
+        const common::Formula symbol(
+            QString::fromUtf16(reading.name) + QStringLiteral("\u00A0=\u00A0"), common::kTextPx);
+        symbol.paint(painter, {x, top + kBaseline});
+        painter.setPen(QColor::fromRgb(common::kInk));
+        painter.setFont(common::houseFont(common::kTextPx, true));
+        const QString value = hidden ? QStringLiteral("?") : common::frenchNumber(reading.value, 2);
+        painter.drawText(QPointF(x + symbol.width(), top + kBaseline),
+                         value + u'\u00A0' + QString::fromUtf16(reading.unit));
+        x += cell;
+    }
+}
+
+} // namespace
+
+Readings::Readings(Experiment& experiment, QWidget* parent)
+    : QWidget(parent), experiment_(experiment) {
+    setFixedHeight(2 * kLineHeight + 6);
+    setAccessibleName(QStringLiteral("Valeurs à l’instant affiché et pour le vol entier"));
+    connect(&experiment_, &Experiment::changed, this, qOverload<>(&QWidget::update));
+    connect(&experiment_, &Experiment::moved, this, qOverload<>(&QWidget::update));
+}
+
+void Readings::setFlightHidden(bool hidden) {
+    flightHidden_ = hidden;
+    update();
+}
+
+void Readings::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), QColor::fromRgb(common::kPaper));
+    painter.setPen(QColor::fromRgb(common::kRule));
+    painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+    const Moment now = experiment_.now();
+    const Flight& flight = experiment_.flight();
+    paintLine(painter, 3, width(), QStringLiteral("À l’instant"),
+              {{u"x", now.x, u"m"},
+               {u"y", now.y, u"m"},
+               {u"v_x", now.vx, u"m/s"},
+               {u"v_y", now.vy, u"m/s"},
+               {u"v", now.speed(), u"m/s"}},
+              false);
+    paintLine(painter, 3 + kLineHeight, width(), QStringLiteral("Vol entier"),
+              {{u"\\text{portée}", flight.range(), u"m"},
+               {u"\\text{sommet}", flight.apex().y, u"m"},
+               {u"\\text{durée}", flight.duration(), u"s"},
+               {u"\\text{arrivée}", flight.landing().speed(), u"m/s"}},
+              flightHidden_);
+}
+
+} // namespace projectile

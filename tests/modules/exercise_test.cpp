@@ -1,0 +1,101 @@
+#include "projectile/exercise.h"
+#include "projectile/flight.h"
+#include "support/files.h"
+
+#include <QTemporaryDir>
+
+#include <cmath>
+
+using namespace projectile;
+
+namespace {
+
+Exercise shipped(const QString& number) {
+    QString why;
+    const auto read =
+        readExercise(QStringLiteral(PROJECTILE_EXERCISES "/Exercice %1.E21").arg(number), why);
+    EXPECT_TRUE(read) << qPrintable(why);
+    return read.value_or(Exercise());
+}
+
+/// What the simulation itself answers to the question of an exercise.
+double simulated(const QString& number) {
+    Launch launch = shipped(number).launch;
+    if (number == "03")
+        return Flight(launch).duration();
+    if (number == "06") {
+        const double earth = Flight(launch).range();
+        launch.gravity = kWorlds[1].gravity;
+        return Flight(launch).range() / earth;
+    }
+    double best = 0;
+    double found = 0;
+    const bool angle = number == "04";
+    for (double tried = 1; tried <= 80; tried += 0.01) {
+        (angle ? launch.angle : launch.speed) = tried;
+        const Flight flight(launch);
+        // The longest throw, or the one that comes down nearest to the ring.
+        const QPointF ring = angle ? QPointF() : shipped(number).landmarks.front().place;
+        const double score =
+            angle ? flight.range()
+                  : 1 / std::fabs(flight.at(ring.x() / flight.start().vx).y - ring.y());
+        if (score > best) {
+            best = score;
+            found = tried;
+        }
+    }
+    return found;
+}
+
+constexpr const char* kLeast = "titre=T\nenonce=E\nquestion=Q\nreponse=2,5\ntolerance=0,1\n";
+
+} // namespace
+
+TEST(Exercises, theShippedOnesAreAnsweredByTheSimulation) {
+    for (const QString number : {"03", "04", "05", "06"}) {
+        const Exercise exercise = shipped(number);
+        const QString answer = QString::number(simulated(number), 'f', 3).replace('.', ',');
+        EXPECT_EQ(exercise.judge(answer), Answer::Right) << qPrintable(number + ' ' + answer);
+        EXPECT_EQ(exercise.judge("1"), Answer::Wrong);
+        EXPECT_FALSE(exercise.whenRight.isEmpty() || exercise.whenWrong.isEmpty());
+        EXPECT_FALSE(exercise.locked.empty());
+    }
+    EXPECT_TRUE(shipped("03").hidesResults);
+    EXPECT_FALSE(shipped("03").isLocked(Parameter::Speed));
+}
+
+TEST(Exercises, readNumbersAsTheyAreTyped) {
+    QString why;
+    const Exercise exercise =
+        parseExercise(QString::fromUtf8(kLeast) + "unite=m/s", why).value_or(Exercise());
+    for (const char* right : {"2,5", "2.5", " 2,40 ", "2,6", "2,5 m/s", "2,5m/s", "25e-1"})
+        EXPECT_EQ(exercise.judge(QString::fromUtf8(right)), Answer::Right) << right;
+    for (const char* wrong : {"2,39", "-2,5", "\u22122,5", "2,5e300"})
+        EXPECT_EQ(exercise.judge(QString::fromUtf8(wrong)), Answer::Wrong) << wrong;
+    for (const char* none : {"", "deux", "2,5 kg", "2,5,1", "nan", "inf", "m/s"})
+        EXPECT_EQ(exercise.judge(QString::fromUtf8(none)), Answer::NoNumber) << none;
+}
+
+TEST(Exercises, damagedFilesAreRefusedWithAReason) {
+    const QTemporaryDir directory;
+    const QString path = directory.filePath("Exercice 03.E21");
+    QString why;
+    EXPECT_FALSE(readExercise(path, why));
+    EXPECT_TRUE(why.contains("dossier")) << qPrintable(why);
+    const QByteArray least = kLeast;
+    test_support::writeFile(path, "\xEF\xBB\xBF" + QByteArray(least).replace("\n", "\r\n"));
+    EXPECT_TRUE(readExercise(path, why)) << qPrintable(why);
+    for (const QByteArray& bad :
+         {QByteArray(), QByteArray("\0\xFF\x1B", 3), QByteArray("titre=T\n"),
+          least + "sans signe\n", least + "=x\n", least + "vitesse=61\n", least + "vitesse=vite\n",
+          least + "astre=Pluton\n", least + "verrou=tout\n", least + "repere=1\n",
+          least + "repere=1 1e9 loin\n", least + "frottements=un peu\n", least + "inconnu=1\n",
+          least + "tolerance=-1\n", least + QByteArray("repere=1 1 x\n").repeated(9),
+          least + QByteArray("# long\n").repeated(20'000)}) {
+        test_support::writeFile(path, bad);
+        why.clear();
+        EXPECT_FALSE(readExercise(path, why)) << bad.right(40).constData();
+        EXPECT_FALSE(why.isEmpty());
+    }
+    EXPECT_FALSE(readExercise(directory.path(), why));
+}

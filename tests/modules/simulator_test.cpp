@@ -1,0 +1,117 @@
+#include "projectile/main_window.h"
+#include "projectile/quantity_row.h"
+#include "support/files.h"
+
+#include <QCheckBox>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableView>
+#include <QTest>
+
+using namespace projectile;
+using test_support::eventually;
+
+namespace {
+
+class SimulatorTest : public testing::Test {
+protected:
+    void open(const Opening& opening) {
+        QLocale::setDefault(QLocale(QLocale::French, QLocale::France));
+        window_ = std::make_unique<MainWindow>(opening);
+        window_->show();
+        window_->activateWindow();
+    }
+    template <class Widget>
+    Widget* named(const QString& name) {
+        for (auto* widget : window_->findChildren<Widget*>()) {
+            if (widget->accessibleName() == name)
+                return widget;
+        }
+        ADD_FAILURE() << qPrintable(name);
+        return nullptr;
+    }
+    QPushButton* button(const QString& caption) {
+        for (auto* found : window_->findChildren<QPushButton*>()) {
+            if (found->text() == caption)
+                return found;
+        }
+        return nullptr;
+    }
+    bool says(const QString& text) {
+        for (const QLabel* label : window_->findChildren<QLabel*>()) {
+            if (label->isVisibleTo(window_.get()) && label->text().contains(text))
+                return true;
+        }
+        return false;
+    }
+
+    std::unique_ptr<MainWindow> window_;
+};
+
+} // namespace
+
+TEST_F(SimulatorTest, theSpaceBarRunsAndStopsAndArrowsMoveSliders) {
+    open({});
+    auto* angle = named<QSlider>("Angle de lancement");
+    const int before = angle->value();
+    QTest::keyClick(angle, Qt::Key_Right);
+    EXPECT_EQ(angle->value(), before + 1);
+    EXPECT_EQ(named<NumberField>("Angle de lancement")->value(), 46);
+    QTest::keyClick(angle, Qt::Key_Space);
+    EXPECT_TRUE(button("Pause"));
+    auto* time = named<QSlider>("Temps");
+    EXPECT_TRUE(eventually([&] { return time->value() > 20; }));
+    QTest::keyClick(angle, Qt::Key_Space);
+    EXPECT_TRUE(button("Départ"));
+    QTest::keyClick(window_.get(), Qt::Key_Home);
+    EXPECT_EQ(time->value(), 0);
+}
+
+TEST_F(SimulatorTest, theDecimalPointOfTheKeyboardIsAComma) {
+    open({});
+    auto* speed = named<NumberField>("Vitesse initiale");
+    speed->setFocus();
+    speed->selectAll();
+    QTest::keyClicks(speed, "12.5");
+    QTest::keyClick(speed, Qt::Key_Return);
+    EXPECT_EQ(speed->value(), 12.5);
+    EXPECT_EQ(named<QSlider>("Vitesse initiale")->value(), 25);
+}
+
+TEST_F(SimulatorTest, theTableIsCopiedForASpreadsheet) {
+    open({});
+    auto* table = window_->findChild<QTableView*>();
+    QTest::keyClick(table, Qt::Key_C, Qt::ControlModifier);
+    const QStringList lines = QGuiApplication::clipboard()->text().split('\n');
+    EXPECT_EQ(lines.size(), table->model()->rowCount() + 1);
+    EXPECT_EQ(lines.last().section('\t', 0, 4), "2,88\t40,77\t0,00\t14,14\t-14,14");
+}
+
+TEST_F(SimulatorTest, anExerciseIsAnsweredAndExplained) {
+    Opening opening;
+    QString why;
+    opening.exercise = readExercise(PROJECTILE_EXERCISES "/Exercice 03.E21", why);
+    ASSERT_TRUE(opening.exercise) << qPrintable(why);
+    open(opening);
+    EXPECT_FALSE(named<QSlider>("Angle de lancement")->isEnabled());
+    EXPECT_TRUE(named<QSlider>("Vitesse initiale")->isEnabled());
+    auto* field = named<QLineEdit>(opening.exercise->question);
+    for (const auto& [typed, said] :
+         {std::pair("abc", "Tapez un nombre"), std::pair("3", "Ce n’est pas cela"),
+          std::pair("2.02", "Juste")}) {
+        field->setText(typed);
+        QTest::keyClick(field, Qt::Key_Return);
+        EXPECT_TRUE(says(QString::fromUtf8(said))) << typed;
+    }
+}
+
+TEST_F(SimulatorTest, saysWhyAnExerciseIsNotOpened) {
+    Opening opening;
+    opening.notice = "illisible";
+    open(opening);
+    EXPECT_TRUE(says("illisible"));
+    EXPECT_TRUE(named<QSlider>("Angle de lancement")->isEnabled());
+}
