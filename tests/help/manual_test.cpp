@@ -29,11 +29,13 @@ QStringList captured(const QString& text, const char* pattern) {
 /// The texts in quotes of all sources, mnemonics left out.
 QSet<QString> textsOfTheProgram() {
     QSet<QString> all;
-    QDirIterator files(SOURCE_DIR, {"*.cpp", "*.h"}, QDir::Files, QDirIterator::Subdirectories);
-    while (files.hasNext()) {
-        const QString source = QString::fromUtf8(test_support::readFile(files.next()));
-        for (QString text : captured(source, R"re("((?:[^"\\\n]|\\.)*)")re"))
-            all.insert(text.replace("\\u2212", QString(QChar(0x2212))).remove(u'&'));
+    for (const char* folder : {SOURCES "/src", SOURCES "/modules"}) {
+        QDirIterator files(folder, {"*.cpp", "*.h"}, QDir::Files, QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            const QString source = QString::fromUtf8(test_support::readFile(files.next()));
+            for (QString text : captured(source, R"re("((?:[^"\\\n]|\\.)*)")re"))
+                all.insert(text.replace("\\u2212", QString(QChar(0x2212))).remove(u'&'));
+        }
     }
     return all;
 }
