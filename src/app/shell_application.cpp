@@ -2,11 +2,11 @@
 
 #include "app/course_data.h"
 #include "app/installation_window.h"
-#include "app/missing_parts.h"
 #include "app/order_window.h"
 #include "app/video_loader.h"
 #include "calculator/machine_opener.h"
 #include "exercises/exo_opener.h"
+#include "help/help_opener.h"
 #include "markup/renderer.h"
 #include "platform/qt/escape_watch.h"
 #include "platform/qt/font_book.h"
@@ -19,6 +19,7 @@
 #include "platform/qt/qt_processes.h"
 #include "platform/qt/qt_screen.h"
 #include "platform/qt/system_display_settings.h"
+#include "platform/qt/system_help_viewer.h"
 #include "platform/system_program_windows.h"
 #include "search/coordon_opener.h"
 #include "shell/alerte.h"
@@ -91,6 +92,19 @@ private:
     calculator::MachineOpener opener_{memory_};
 };
 
+/// The help, beside all other windows.
+class Help : public viewer::ModalWindow {
+public:
+    Help(const shell::SharedState& state, platform::HelpViewer& viewer,
+         const help::HelpPrinting& printing)
+        : opener_(state.InstallDir, viewer, printing) {}
+
+    void open() override { opener_.open(); }
+
+private:
+    help::HelpOpener opener_;
+};
+
 /// The exit screen, and the end of the program.
 class ExitScreen : public viewer::ModalWindow {
 public:
@@ -118,7 +132,6 @@ struct ShellApplication::Parts {
           launcher(state, prompter, processes, activator, window), modules(launcher),
           links(window, fonts, drawing.links),
           orderForm({printerSetup, printer, fonts}, prompter, window),
-          help(window, QStringLiteral("Cette édition n’a pas encore d’aide.")),
           installation(state, processes, prompter, window), search(state, window),
           drives(courseDirectory(commandLine), commandLine.drives),
           symbols(courseDirectory(commandLine)),
@@ -151,7 +164,6 @@ struct ShellApplication::Parts {
     LaunchedModules modules;
     viewer::LinkControls links;
     OrderWindow orderForm;
-    MissingWindow help;
     InstallationWindow installation;
     search::CoordonOpener search;
     Calculator calculator;
@@ -170,6 +182,8 @@ struct ShellApplication::Parts {
     viewer::PageLoader pages;
     platform::QtPrinter printer{fonts};
     platform::QtPrinterSetup printerSetup{printer, prompter};
+    platform::SystemHelpViewer helpViewer{otherWindows};
+    Help help{state, helpViewer, {printerSetup, printer, prompter}};
     platform::EscapeWatch escape;
     viewer::PagePrinter pagePrinter{{state, bound, pages, window, drawing, window, window, pictures,
                                      fonts, printer, [this] { return escape.isAsked(); }}};

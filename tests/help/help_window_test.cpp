@@ -1,0 +1,152 @@
+#include "help/help_browser.h"
+#include "help/help_list.h"
+#include "help/help_window.h"
+#include "printing/printed_pdf.h"
+#include "support/fake_prompter.h"
+#include "support/printing.h"
+
+#include <QLineEdit>
+#include <QPrinter>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTextBlock>
+
+namespace help {
+namespace {
+
+class IntoFile : public platform::PrinterSetup {
+public:
+    IntoFile(platform::QtPrinter& printer, QString file)
+        : printer_(printer), file_(std::move(file)) {}
+    Outcome ask() override {
+        printer_.device().setOutputFormat(QPrinter::PdfFormat);
+        printer_.device().setOutputFileName(file_);
+        return answer;
+    }
+    Outcome answer = Outcome::Confirmed;
+
+private:
+    platform::QtPrinter& printer_;
+    QString file_;
+};
+
+class Window : public testing::Test {
+protected:
+    Window() {
+        window.show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    }
+    QString shown() const { return book.pages()[browser->page()].file; }
+    void hit(int key, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), modifiers);
+        QCoreApplication::processEvents();
+    }
+    void type(const char* words) {
+        hit(Qt::Key_F, Qt::ControlModifier);
+        field->clear();
+        QTest::keyClicks(QApplication::focusWidget(), QString::fromUtf8(words));
+    }
+
+    HelpBook book;
+    QTemporaryDir directory;
+    platform::FontBook fonts;
+    platform::QtPrinter printer{fonts};
+    IntoFile setup{printer, directory.filePath("page.pdf")};
+    test_support::FakePrompter prompter;
+    HelpWindow window{book, {setup, printer, prompter}};
+    HelpBrowser* browser = static_cast<HelpBrowser*>(window.findChild<QTextBrowser*>());
+    HelpList* list = static_cast<HelpList*>(window.findChild<QListWidget*>());
+    QLineEdit* field = window.findChild<QLineEdit*>();
+};
+
+TEST_F(Window, searchesAndMarksByKeyboard) {
+    type("GLOSSAIRExyz");
+    EXPECT_EQ(list->item(0)->text(), "Aucune page trouvée");
+    hit(Qt::Key_Return);
+    EXPECT_EQ(shown(), "bienvenue.html");
+    type("video");
+    hit(Qt::Key_Return);
+    EXPECT_EQ(shown(), "videos.html");
+    const int count = browser->hitCount();
+    ASSERT_GT(count, 2);
+    EXPECT_EQ(browser->currentHit(), 0);
+    hit(Qt::Key_F3, Qt::ShiftModifier);
+    EXPECT_EQ(browser->currentHit(), count - 1);
+    EXPECT_TRUE(browser->viewport()->rect().intersects(browser->cursorRect()));
+    EXPECT_TRUE(browser->textCursor().block().text().contains("vidéo", Qt::CaseInsensitive));
+
+    hit(Qt::Key_F, Qt::ControlModifier);
+    hit(Qt::Key_Down);
+    ASSERT_TRUE(list->hasFocus());
+    hit(Qt::Key_Down);
+    hit(Qt::Key_Return);
+    EXPECT_NE(shown(), "videos.html");
+    EXPECT_GT(browser->hitCount(), 0);
+    hit(Qt::Key_F, Qt::ControlModifier);
+    hit(Qt::Key_Escape);
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_EQ(browser->hitCount(), 0);
+    hit(Qt::Key_Escape);
+    EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(Window, linksLeadWithinTheManualOnly) {
+    Q_EMIT browser->anchorClicked(QUrl("aide:/imprimer.html"));
+    EXPECT_EQ(shown(), "imprimer.html");
+    for (const char* elsewhere : {"https://example.org/", "file:///etc/passwd", "aide:/../a.html"})
+        Q_EMIT browser->anchorClicked(QUrl(elsewhere));
+    EXPECT_EQ(shown(), "imprimer.html");
+    EXPECT_TRUE(browser->loadResource(QTextDocument::ImageResource, QUrl("/etc/x.png"))
+                    .value<QPixmap>()
+                    .isNull());
+    hit(Qt::Key_Left, Qt::AltModifier);
+    EXPECT_EQ(shown(), "bienvenue.html");
+    hit(Qt::Key_Right, Qt::AltModifier);
+    EXPECT_EQ(shown(), "imprimer.html");
+    hit(Qt::Key_Home, Qt::AltModifier);
+    EXPECT_EQ(shown(), "bienvenue.html");
+}
+
+TEST_F(Window, enlargesTheTextAroundTheLineAtTheTop) {
+    browser->showPage("clavier.html");
+    browser->verticalScrollBar()->setValue(600);
+    const int top = browser->cursorForPosition({40, 0}).position();
+    const double height = browser->document()->size().height();
+    hit(Qt::Key_Plus, Qt::ControlModifier);
+    hit(Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_GT(browser->document()->size().height(), height);
+    QTextCursor there(browser->document());
+    there.setPosition(top);
+    EXPECT_LT(std::abs(browser->cursorRect(there).top()), 2);
+    hit(Qt::Key_0, Qt::ControlModifier);
+    EXPECT_EQ(browser->document()->size().height(), height);
+}
+
+TEST_F(Window, printsThePageShown) {
+    browser->showPage("clavier.html");
+    setup.answer = platform::PrinterSetup::Outcome::Cancelled;
+    hit(Qt::Key_P, Qt::ControlModifier);
+    EXPECT_FALSE(QFile::exists(directory.filePath("page.pdf")));
+    setup.answer = platform::PrinterSetup::Outcome::Confirmed;
+    hit(Qt::Key_P, Qt::ControlModifier);
+    const auto sheets = test_support::PrintedPdf(directory.filePath("page.pdf")).sheets();
+    ASSERT_GT(sheets.size(), 1);
+    EXPECT_EQ(sheets[0].first(), "Toutes les touches");
+    EXPECT_EQ(QString(sheets[0].last()).remove(u' '),
+              QString("Aided’Orvalente–Touteslestouches1/%1").arg(sheets.size()));
+    EXPECT_TRUE(sheets.last().join(u' ').contains("sinon ferme l’aide"));
+
+    printer.device().setOutputFileName(directory.path());
+    IntoFile nowhere(printer, directory.filePath("nulle/part.pdf"));
+    HelpWindow other(book, {nowhere, printer, prompter});
+    other.show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&other));
+    hit(Qt::Key_P, Qt::ControlModifier);
+    ASSERT_EQ(prompter.messages.size(), 1U);
+    EXPECT_TRUE(prompter.messages[0].text.contains("n’a pas pu être imprimée"));
+}
+
+} // namespace
+} // namespace help
