@@ -45,9 +45,12 @@ char16_t unitOf(const char* from) {
                                  digit(2, kOtherDigits) << 4 | digit(3, kOtherDigits));
 }
 
-/// A small letter without its accent. İ turns out a capital by that.
+/// A small letter without its accent, and a sign as the keyboard has it: who leaves accents aside
+/// does so with typographic apostrophes. Spaces stay what they are, since one ends each text. İ
+/// turns out a capital without its point.
 char16_t plain(char16_t folded) {
-    return text::lowerCase(text::withoutAccent(folded));
+    const char16_t typed = text::keyboardForm(folded);
+    return typed == u' ' ? folded : text::lowerCase(text::withoutAccent(typed));
 }
 
 std::array<char, 256> plainSingles() {

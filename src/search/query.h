@@ -10,7 +10,9 @@ namespace search {
 struct Query {
     std::vector<std::u16string> words; ///< as queryWords gives them; none finds nothing
     bool allWords = false;             ///< a page must hold every word, and not one at least
-    bool ignoreAccents = false;        ///< "é" and "e" are the same, in the words and in the pages
+    /// "é" and "e" are the same, in the words and in the pages, and so are the apostrophes of
+    /// keyboards and of print.
+    bool ignoreAccents = false;
 };
 
 /// The words that somebody typed, in lower case, in their order, doubled ones included. Empty when

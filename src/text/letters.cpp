@@ -111,6 +111,23 @@ char16_t withoutAccent(char16_t c) {
     return greek == std::u16string_view::npos ? c : kPlainGreek[greek];
 }
 
+char16_t keyboardForm(char16_t c) {
+    switch (c) {
+    case u'\u2019': // typographic apostrophe
+        return u'\'';
+    case u'\u00A0': // no-break spaces
+    case u'\u202F':
+        return u' ';
+    case u'\u2011': // no-break hyphen
+    case u'\u2212': // minus
+        return u'-';
+    case u'\u03BC': // mu, the prefix micro
+        return u'\u00B5';
+    default:
+        return c;
+    }
+}
+
 bool isWordCharacter(char16_t c) {
     return c < kBeyondTheTable ? rangeOf<Block>(c, kLetters) != nullptr
                                : !rangeOf<Block>(c, kSeparators);

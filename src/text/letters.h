@@ -12,6 +12,10 @@ char16_t lowerCase(char16_t c);
 /// other characters as they stand. The decompositions of Unicode.
 char16_t withoutAccent(char16_t c);
 
+/// The character that a keyboard has for one that pages are typeset with: typographic apostrophes,
+/// no-break spaces and hyphens, minus signs and the micro sign; every other character as it stands.
+char16_t keyboardForm(char16_t c);
+
 /// Whether a character belongs to a word: letters, digits (raised and lowered ones too) and the
 /// accents that stand beside their letter. Exact below U+0250; beyond, all but the blocks of
 /// punctuation, signs, symbols and surrogates count as letters.

@@ -15,27 +15,9 @@ using platform::TextLine;
 using platform::TextMetrics;
 using platform::TextOperation;
 
-/// The character that a keyboard has for one that pages are written with.
-char16_t typed(char16_t character) {
-    switch (character) {
-    case u'\u2019': // typographic apostrophe
-        return u'\'';
-    case u'\u00A0': // no-break spaces
-    case u'\u202F':
-        return u' ';
-    case u'\u2011': // no-break hyphen
-    case u'\u2212': // minus
-        return u'-';
-    case u'\u03BC': // mu, the prefix micro
-        return u'\u00B5';
-    default:
-        return character;
-    }
-}
-
 /// What all ways to write a character have in common.
 QChar folded(QChar character, bool ignoreAccents) {
-    const char16_t small = text::lowerCase(typed(character.unicode()));
+    const char16_t small = text::lowerCase(text::keyboardForm(character.unicode()));
     return ignoreAccents ? text::withoutAccent(small) : small;
 }
 

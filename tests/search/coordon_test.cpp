@@ -122,7 +122,10 @@ TEST_F(CoordonWindow, ListsWhatItsBoxesAskFor) {
     EXPECT_EQ(lines(), "La lumière 102");
     EXPECT_FALSE(control<QCheckBox>("accents").isChecked());
     control<QCheckBox>("accents").click();
-    search(QStringLiteral("lumiere indicé"));
+    search(QStringLiteral("lumiere l'indicé")); // with the apostrophe of the keyboard
+    EXPECT_EQ(lines(), "La lumière 102");
+    control<QCheckBox>("Checkmots").click();
+    search(QStringLiteral("lumiere l'indicé"));
     EXPECT_EQ(lines(), "La lumière 102|L’indice 104");
 
     search(QStringLiteral("thermodynamique"));

@@ -16,8 +16,8 @@ std::u16string literallyFolded(std::u16string_view from, bool ignoreAccents) {
     std::u16string to(from);
     for (char16_t& c : to) {
         c = text::lowerCase(c);
-        if (ignoreAccents)
-            c = text::lowerCase(text::withoutAccent(c));
+        if (const char16_t typed = text::keyboardForm(c); ignoreAccents && typed != u' ')
+            c = text::lowerCase(text::withoutAccent(typed));
     }
     return to;
 }

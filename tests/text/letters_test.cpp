@@ -26,5 +26,10 @@ TEST(Letters, BecomesSmallOneForOne) {
     EXPECT_EQ(mapped(u"ÀÉŒŸ ΆΣΩ×", lowerCase), u"àéœÿ άσω×");
 }
 
+TEST(Letters, StandsForWhatPagesAreTypesetWith) {
+    EXPECT_EQ(mapped(u"l\u2019axe\u00A0: \u22123\u202F\u03BCm\u2011«", keyboardForm),
+              u"l'axe : -3 \u00B5m-«");
+}
+
 } // namespace
 } // namespace text
