@@ -22,10 +22,18 @@ bool isForFrance(const Order& order) {
     return order[Field::Country].compare(u"France", Qt::CaseInsensitive) == 0;
 }
 
+/// What pasted text may carry unseen. A mark of direction would print a name backwards, and a name
+/// of such characters alone would print as nothing.
+bool isInvisible(QChar c) {
+    return c.category() == QChar::Other_Format ||
+           (c.category() == QChar::Other_Control && !c.isSpace());
+}
+
 QString tidiedText(const QString& typed) {
-    QString text = typed.simplified();
-    text.removeIf([](QChar c) { return c.category() == QChar::Other_Control; });
-    return text;
+    QString text = typed;
+    text.removeIf(isInvisible);
+    // Letter and accent in one: apart they count twice, and the paper shows them side by side.
+    return text.simplified().normalized(QString::NormalizationForm_C);
 }
 
 /// What an empty field is asked for; empty for those that may stay so.

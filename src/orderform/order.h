@@ -33,7 +33,8 @@ struct Order {
 /// How the form opens: one copy, to France.
 Order newOrder();
 
-/// The texts without blanks around them, with single ones inside; a French postcode has none.
+/// The texts without blanks around them, with single ones inside, without characters that cannot be
+/// seen and with accented letters in one piece; a French postcode has no blanks.
 Order tidied(const Order& order);
 
 /// What is wrong with a field of a tidied order, in French and short, without full stop. Empty when

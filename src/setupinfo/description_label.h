@@ -2,9 +2,6 @@
 
 #include <QLabel>
 
-class QTextLayout;
-class QTextLine;
-
 namespace setupinfo {
 
 /// Lines of text 22 pixels apart. One that is too long goes on below, as far to the right as it

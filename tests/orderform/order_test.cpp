@@ -74,9 +74,16 @@ TEST(Order, postcodesAreFreeOutsideFrance) {
 }
 
 TEST(Order, textsAreTidied) {
-    Order order = goodOrder();
-    order[Field::Surname] = QStringLiteral("  Le\t \u0007Gall\n");
-    EXPECT_EQ(tidied(order)[Field::Surname], QStringLiteral("Le Gall"));
+    for (const auto& [typed, expected] : {
+             std::pair(u"  Le\t \u0007 Gall\n\u0007", u"Le Gall"),
+             std::pair(u"\u202EDu\u00ADpont\u200B", u"Dupont"),
+             std::pair(u"\uFEFF \u200B", u""),
+             std::pair(u"Zoe\u0301", u"Zo\u00E9"),
+         }) {
+        Order order = goodOrder();
+        order[Field::Surname] = QString::fromUtf16(typed);
+        EXPECT_EQ(tidied(order)[Field::Surname], QString::fromUtf16(expected));
+    }
 }
 
 TEST(Price, countsInCentsAndWritesInFrench) {
