@@ -97,7 +97,10 @@ void Alerte::Command1_Click() {
 
 void Alerte::Command2_Click() {
     // The way on opens whether or not there are settings: nobody is to be stuck here.
-    notice_->setVisible(!settings_.open());
+    const bool opened = settings_.open();
+    notice_->setVisible(!opened);
+    // Who cannot see the notice hears it with the button that now takes the focus.
+    Command1_->setAccessibleDescription(opened ? QString() : notice_->text());
     Command1_->show();
     Command1_->setDefault(Command2_->isDefault());
     Command1_->setFocus();

@@ -74,7 +74,10 @@ TEST(Alerte, LetsOneGoOnOnceTheSettingsWereAskedFor) {
         EXPECT_EQ(settings.opened, 1);
         EXPECT_TRUE(button(alerte, "Command2").isHidden());
         EXPECT_FALSE(button(alerte, "Command1").isHidden());
-        EXPECT_EQ(alerte.findChild<QLabel*>("notice")->isHidden(), thereAreSome);
+        const auto* notice = alerte.findChild<QLabel*>("notice");
+        EXPECT_EQ(notice->isHidden(), thereAreSome);
+        EXPECT_EQ(button(alerte, "Command1").accessibleDescription(),
+                  thereAreSome ? QString() : notice->text());
         EXPECT_EQ(alerte.height() > height, !thereAreSome);
     }
 }
