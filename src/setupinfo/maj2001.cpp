@@ -4,7 +4,7 @@
 #include "platform/qt/look/mnemonics.h"
 #include "platform/qt/look/palette.h"
 #include "platform/qt/look/pixels.h"
-#include "setupinfo/description_label.h"
+#include "platform/qt/look/spaced_label.h"
 
 #include <QPainter>
 
@@ -21,6 +21,8 @@ constexpr int kPanelTop = 64;
 constexpr int kPanelRadius = 4;
 constexpr int kMargin = 24;
 constexpr int kTextTop = 82;
+constexpr int kLineHeight = 22;
+constexpr int kBaseline = 16; ///< in a line
 constexpr int kAboveRule = 31;
 constexpr int kRuleToButtons = 21;
 constexpr int kButtonHeight = 32;
@@ -71,9 +73,11 @@ Maj2001::Maj2001(const Installation& installation, const QString& installDir,
 
 void Maj2001::Form_Load(const Installation& installation) {
     const QString text = installationText(installation);
-    Label1_ = new DescriptionLabel(text, kWidth - 2 * kMargin, this);
+    constexpr int kTextWidth = kWidth - 2 * kMargin;
+    Label1_ = new look::SpacedLabel(kLineHeight, kBaseline, this);
     Label1_->setObjectName(QStringLiteral("Label1"));
-    Label1_->move(kMargin, kTextTop);
+    Label1_->setText(text);
+    Label1_->setGeometry(kMargin, kTextTop, kTextWidth, Label1_->heightForWidth(kTextWidth));
     setAccessibleDescription(text);
 }
 

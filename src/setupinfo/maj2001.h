@@ -7,11 +7,10 @@
 
 namespace platform::look {
 class Button;
-}
+class SpacedLabel;
+} // namespace platform::look
 
 namespace setupinfo {
-
-class DescriptionLabel;
 
 /// `maj2001`: describes the installation and starts the separate programs that install or update
 /// it. It stays open beside them, and says nothing when one does not start: that is for `starter`.
@@ -36,7 +35,7 @@ private:
 
     QString installDir_;
     platform::ProcessStarter& starter_;
-    DescriptionLabel* Label1_ = nullptr;
+    platform::look::SpacedLabel* Label1_ = nullptr;
 };
 
 } // namespace setupinfo

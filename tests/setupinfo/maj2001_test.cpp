@@ -1,6 +1,6 @@
 #include "platform/error_box_starter.h"
+#include "platform/qt/look/spaced_label.h"
 #include "platform/qt/qt_processes.h"
-#include "setupinfo/description_label.h"
 #include "setupinfo/maj2001.h"
 #include "support/fake_prompter.h"
 #include "support/files.h"
@@ -90,7 +90,9 @@ TEST_F(Maj2001, longRecordsGoOnBelow) {
         return sum;
     };
     const auto inkOf = [&ink](const QString& text, int width) {
-        setupinfo::DescriptionLabel lines(text, width, nullptr);
+        platform::look::SpacedLabel lines(22, 16, nullptr);
+        lines.setText(text);
+        lines.resize(width, lines.heightForWidth(width));
         lines.setStyleSheet(QStringLiteral("background: white"));
         return ink(lines.grab().toImage());
     };

@@ -3,10 +3,22 @@
 #include "platform/qt/look/interface_font.h"
 #include "platform/qt/look/palette.h"
 
+#include <QFontMetricsF>
 #include <QPainter>
 #include <QTextLayout>
 
 namespace platform::look {
+
+namespace {
+
+QString leadingSpaces(const QString& paragraph) {
+    qsizetype count = 0;
+    while (count < paragraph.size() && paragraph[count] == u' ')
+        ++count;
+    return paragraph.first(count);
+}
+
+} // namespace
 
 SpacedLabel::SpacedLabel(int lineHeight, int baseline, QWidget* parent)
     : QLabel(parent), lineHeight_(lineHeight), baseline_(baseline) {
@@ -19,7 +31,7 @@ SpacedLabel::SpacedLabel(int lineHeight, int baseline, QWidget* parent)
 
 int SpacedLabel::heightForWidth(int width) const {
     int lines = 0;
-    forEachLine(width, [&lines](const QTextLine&, const QTextLayout&) { ++lines; });
+    forEachLine(width, [&lines](const QString&, double) { ++lines; });
     return lines * lineHeight_;
 }
 
@@ -28,9 +40,8 @@ void SpacedLabel::paintEvent(QPaintEvent*) {
     painter.setFont(font());
     painter.setPen(palette().color(QPalette::WindowText));
     int baseline = baseline_;
-    forEachLine(width(), [&](const QTextLine& line, const QTextLayout& layout) {
-        painter.drawText(QPointF(0, baseline),
-                         layout.text().mid(line.textStart(), line.textLength()));
+    forEachLine(width(), [&](const QString& line, double left) {
+        painter.drawText(QPointF(left, baseline), line);
         baseline += lineHeight_;
     });
 }
@@ -38,12 +49,17 @@ void SpacedLabel::paintEvent(QPaintEvent*) {
 template <class Visit>
 void SpacedLabel::forEachLine(int width, Visit visit) const {
     const QString plain = text().replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    QTextOption wrapping;
+    wrapping.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     for (const QString& paragraph : plain.split(u'\n')) {
-        QTextLayout layout(paragraph, font());
+        const QString spaces = leadingSpaces(paragraph);
+        const double left = QFontMetricsF(font()).horizontalAdvance(spaces);
+        QTextLayout layout(paragraph.mid(spaces.size()), font());
+        layout.setTextOption(wrapping);
         layout.beginLayout();
         for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-            line.setLineWidth(width);
-            visit(line, layout);
+            line.setLineWidth(width - left);
+            visit(layout.text().mid(line.textStart(), line.textLength()), left);
         }
         layout.endLayout();
     }
