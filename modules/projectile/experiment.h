@@ -67,7 +67,7 @@ private:
     std::vector<Flight> kept_;
 };
 
-/// What tells a launch from others: "v₀ = 20 m/s, α = 45°, h = 2 m, Lune, k = 0,1 kg/s". What it
+/// What tells a launch from others: "v₀ = 20 m/s, α = 45°, h = 2 m, g = 5 m/s², sans air". What it
 /// shares with most (no height, on the Earth, no drag) is left out.
 QString describe(const Launch& launch);
 
