@@ -8,7 +8,9 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace links {
@@ -18,6 +20,7 @@ namespace {
 constexpr int kModule = 7;
 constexpr QSize kSize(620, 640);
 constexpr int kMargin = 24;
+constexpr int kLeastHeight = 200; ///< of the page: some links at once
 
 QLabel* label(const QString& text, int pixels, bool bold, QRgb ink) {
     auto* made = new QLabel(text);
@@ -43,10 +46,13 @@ LinksWindow::LinksWindow(const std::vector<LinkGroup>& groups, const QString& ed
     scroll_->setWidgetResizable(true);
     scroll_->setFocusPolicy(Qt::NoFocus);
     scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll_->setMinimumSize(scroll_->widget()->minimumSizeHint().width() +
+                                scroll_->verticalScrollBar()->sizeHint().width(),
+                            kLeastHeight);
     layout->addWidget(scroll_, 1);
     layout->addWidget(foot);
     setCentralWidget(centre);
-    resize(kSize);
+    resize(kSize.boundedTo(screen()->availableSize()));
 }
 
 QWidget* LinksWindow::page(const std::vector<LinkGroup>& groups) {

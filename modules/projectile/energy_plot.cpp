@@ -8,6 +8,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <iterator>
 
 namespace projectile {
 
@@ -47,20 +48,26 @@ void paintCurve(QPainter& painter, const Axes& axes, const Flight& flight, const
     painter.drawPolyline(line);
 }
 
-/// "E_c cinétique : 12,3 J", with a piece of its curve before it. Returns where the next one
-/// starts.
-double paintLegend(QPainter& painter, double x, const Curve& curve, double energy) {
+/// "E_c cinétique : 12,3 J", with a piece of its curve before it; without its words where it would
+/// not have `room`. Returns where the next one starts.
+double paintLegend(QPainter& painter, double x, double room, const Curve& curve, double energy) {
     constexpr double kBaseline = 22;
+    constexpr double kSample = 26;
+    constexpr double kGaps = 24; ///< behind the piece of curve and behind the legend
+    const auto legendWith = [&](const QString& words) {
+        return common::Formula(
+            QStringLiteral("%1\\text{%2\u00A0: %3\u00A0J}")
+                .arg(QString::fromUtf8(curve.name), words, common::frenchDigits(energy, 4)),
+            common::kTextPx);
+    };
+    common::Formula legend = legendWith(u' ' + QString::fromUtf8(curve.words));
+    if (kSample + legend.width() + kGaps > room)
+        legend = legendWith({});
     painter.setPen(QPen(QColor::fromRgb(curve.ink), 2, curve.style));
-    painter.drawLine(QPointF(x, kBaseline - 4), QPointF(x + 26, kBaseline - 4));
+    painter.drawLine(QPointF(x, kBaseline - 4), QPointF(x + kSample, kBaseline - 4));
     painter.setPen(QColor::fromRgb(common::kInk));
-    const common::Formula legend(QStringLiteral("%1\\text{ %2\u00A0: %3\u00A0J}")
-                                     .arg(QString::fromUtf8(curve.name),
-                                          QString::fromUtf8(curve.words),
-                                          common::frenchDigits(energy, 4)),
-                                 common::kTextPx);
-    legend.paint(painter, {x + 32, kBaseline});
-    return x + 32 + legend.width() + 18;
+    legend.paint(painter, {x + kSample + 6, kBaseline});
+    return x + kSample + legend.width() + kGaps;
 }
 
 } // namespace
@@ -87,13 +94,14 @@ void EnergyPlot::paintEvent(QPaintEvent*) {
     const double cursor = sharp(painter, axes.pixel(now.t, 0).x());
     painter.drawLine(QPointF(cursor, axes.area().top()), QPointF(cursor, axes.area().bottom()));
     double x = Axes::kLeft;
+    const double room = (width() - x) / static_cast<double>(std::size(kCurves));
     for (const Curve& curve : kCurves) {
         const double energy = curve.value(flight.energies(now));
         paintCurve(painter, axes, flight, curve);
         painter.setPen(QPen(QColor::fromRgb(common::kPaper), 1.5));
         painter.setBrush(QColor::fromRgb(curve.ink));
         painter.drawEllipse(axes.pixel(now.t, energy), 5, 5);
-        x = paintLegend(painter, x, curve, energy);
+        x = paintLegend(painter, x, room, curve, energy);
     }
 }
 

@@ -9,6 +9,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace projectile {
 
 namespace {
@@ -16,6 +18,9 @@ namespace {
 constexpr int kFieldWidth = 96;
 constexpr int kSign = 18;
 constexpr int kLongestAnswer = 32; ///< characters
+
+/// A small window leaves the texts this much; longer ones are cut rather than push the drawing out.
+constexpr int kMostHeld = 280;
 
 /// The sign of the verdict, blank until there is one.
 class Sign : public QWidget {
@@ -109,10 +114,20 @@ void ExercisePanel::check() {
                                          .name()));
     verdict_->show();
     verdict_->setAccessibleName(verdict_->text());
+    holdHeight();
     field_->setFocus();
     field_->selectAll();
     if (right)
         Q_EMIT solved();
+}
+
+void ExercisePanel::resizeEvent(QResizeEvent*) {
+    holdHeight();
+}
+
+/// A window knows no height that follows from a width: it would cut the texts when it is small.
+void ExercisePanel::holdHeight() {
+    setMinimumHeight(std::min(kMostHeld, layout()->heightForWidth(width())));
 }
 
 void ExercisePanel::paintEvent(QPaintEvent*) {

@@ -21,9 +21,11 @@ Q_SIGNALS:
 
 protected:
     void paintEvent(QPaintEvent*) override;
+    void resizeEvent(QResizeEvent*) override;
 
 private:
     void check();
+    void holdHeight();
 
     Exercise exercise_;
     QLineEdit* field_;

@@ -104,7 +104,10 @@ QString describe(const Launch& launch) {
         parts += value(u"g", launch.gravity, u"m/s²");
     else if (world->gravity != kWorlds.front().gravity)
         parts += QString::fromUtf16(world->name);
-    if (launch.drag == Drag::Linear)
+    // Somebody's own gravity keeps the air of the world before: drag may have nothing to act with.
+    if (launch.drag != Drag::None && launch.airDensity == 0)
+        parts += QStringLiteral("sans air");
+    else if (launch.drag == Drag::Linear)
         parts += value(u"k", launch.linearCoefficient, u"kg/s");
     else if (launch.drag == Drag::Quadratic)
         parts += value(u"m", launch.mass, u"kg") + QStringLiteral(", ") +

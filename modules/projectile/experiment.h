@@ -67,8 +67,8 @@ private:
     std::vector<Flight> kept_;
 };
 
-/// What tells a launch from others: "v₀ = 20 m/s, α = 45°, h = 2 m, Lune, sans air". What it shares
-/// with most (no height, on the Earth, no drag) is left out.
+/// What tells a launch from others: "v₀ = 20 m/s, α = 45°, h = 2 m, g = 5 m/s², sans air". What it
+/// shares with most (no height, on the Earth, no drag) is left out.
 QString describe(const Launch& launch);
 
 /// The time between two points of a stroboscope, s: easy to count with, ten to twenty a flight.

@@ -6,6 +6,7 @@
 
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
 
 namespace projectile {
@@ -106,12 +107,15 @@ FormulaPage::FormulaPage(Experiment& experiment, QWidget* parent)
 
 void FormulaPage::fit() {
     double height = kMargin;
+    double widest = 0;
     for (const Law& law : lawsOf(experiment_.flight())) {
         const common::Formula formula(law.formula, kFormulaPx);
+        widest = std::max(widest, formula.width());
         height += law.formula.isEmpty() ? kHeadingHeight
                                         : formula.ascent() + formula.descent() + kGapBelow;
     }
     setFixedHeight(qCeil(height + kMargin));
+    setMinimumWidth(qCeil(kFormulaLeft + widest + kMargin)); // narrower, one scrolls
     update();
 }
 

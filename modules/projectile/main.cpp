@@ -9,6 +9,10 @@ namespace {
 
 constexpr int kModule = 23;
 
+/// Characters of a file's name in a message; a damaged record can hold 126 without a blank, which
+/// would make the window as wide.
+constexpr qsizetype kMostOfName = 40;
+
 projectile::Opening openingOf(const common::StatusRecord& record) {
     projectile::Opening opening;
     opening.edition = record.edition();
@@ -19,9 +23,12 @@ projectile::Opening openingOf(const common::StatusRecord& record) {
     opening.exercise =
         projectile::readExercise(QDir(common::ModuleRun::directory()).filePath(name), why);
     if (!opening.exercise)
-        opening.notice = QStringLiteral("L’exercice «\u00A0%1\u00A0» n’a pas pu être ouvert\u00A0: "
-                                        "%2 La simulation est à vous.")
-                             .arg(name, why);
+        opening.notice =
+            QStringLiteral("L’exercice «\u00A0%1\u00A0» n’a pas pu être ouvert\u00A0: "
+                           "%2 La simulation est à vous.")
+                .arg(name.size() > kMostOfName ? name.left(kMostOfName) + QStringLiteral("…")
+                                               : name,
+                     why);
     return opening;
 }
 

@@ -15,6 +15,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QScreen>
 #include <QScrollArea>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -71,7 +72,7 @@ MainWindow::MainWindow(const Opening& opening) {
     layout->addWidget(left(opening.edition));
     layout->addWidget(right(opening), 1);
     setCentralWidget(centre);
-    resize(opening.exercise ? kExerciseSize : kSize);
+    resize((opening.exercise ? kExerciseSize : kSize).boundedTo(screen()->availableSize()));
     setFocus(); // the space bar is for the simulation, until somebody goes elsewhere
 }
 

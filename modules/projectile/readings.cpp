@@ -15,6 +15,10 @@ namespace {
 constexpr int kLineHeight = 26;
 constexpr double kNameWidth = 78;
 constexpr double kBaseline = 18;
+constexpr int kEdges = 6; ///< above the first line and below the last
+
+/// Narrower, the longest numbers would touch: "v_y = −98,00 m/s".
+constexpr int kLeastForTwoLines = 600;
 
 struct Reading {
     const char16_t* name; ///< a formula
@@ -22,14 +26,20 @@ struct Reading {
     const char16_t* unit;
 };
 
-void paintLine(QPainter& painter, double top, double width, const QString& name,
-               const std::vector<Reading>& readings, bool hidden) {
+/// Readings of which no line has more than `perLine`. Returns the top of the next line.
+double paintGroup(QPainter& painter, double top, double width, const QString& name,
+                  const std::vector<Reading>& readings, std::size_t perLine, bool hidden) {
     painter.setFont(common::houseFont(12));
     painter.setPen(QColor::fromRgb(common::kMuted));
     painter.drawText(QPointF(10, top + kBaseline), name);
-    const double cell = (width - kNameWidth - 8) / static_cast<double>(readings.size());
+    const double cell = (width - kNameWidth - 8) / static_cast<double>(perLine);
     double x = kNameWidth;
-    for (const Reading& reading : readings) {
+    for (std::size_t i = 0; i < readings.size(); ++i) {
+        const Reading& reading = readings[i];
+        if (i == perLine) {
+            x = kNameWidth;
+            top += kLineHeight;
+        }
         painter.setPen(QColor::fromRgb(common::kMuted));
         const common::Formula symbol(
             QString::fromUtf16(reading.name) + QStringLiteral("\u00A0=\u00A0"), common::kTextPx);
@@ -41,13 +51,14 @@ void paintLine(QPainter& painter, double top, double width, const QString& name,
                          value + u'\u00A0' + QString::fromUtf16(reading.unit));
         x += cell;
     }
+    return top + kLineHeight;
 }
 
 } // namespace
 
 Readings::Readings(Experiment& experiment, QWidget* parent)
     : QWidget(parent), experiment_(experiment) {
-    setFixedHeight(2 * kLineHeight + 6);
+    setFixedHeight(2 * kLineHeight + kEdges);
     setAccessibleName(QStringLiteral("Valeurs à l’instant affiché et pour le vol entier"));
     connect(&experiment_, &Experiment::changed, this, qOverload<>(&QWidget::update));
     connect(&experiment_, &Experiment::moved, this, qOverload<>(&QWidget::update));
@@ -58,6 +69,10 @@ void Readings::setFlightHidden(bool hidden) {
     update();
 }
 
+void Readings::resizeEvent(QResizeEvent*) {
+    setFixedHeight((width() < kLeastForTwoLines ? 4 : 2) * kLineHeight + kEdges);
+}
+
 void Readings::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), QColor::fromRgb(common::kPaper));
@@ -65,19 +80,20 @@ void Readings::paintEvent(QPaintEvent*) {
     painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
     const Moment now = experiment_.now();
     const Flight& flight = experiment_.flight();
-    paintLine(painter, 3, width(), QStringLiteral("À l’instant"),
-              {{u"x", now.x, u"m"},
-               {u"y", now.y, u"m"},
-               {u"v_x", now.vx, u"m/s"},
-               {u"v_y", now.vy, u"m/s"},
-               {u"v", now.speed(), u"m/s"}},
-              false);
-    paintLine(painter, 3 + kLineHeight, width(), QStringLiteral("Vol entier"),
-              {{u"\\text{portée}", flight.range(), u"m"},
-               {u"\\text{sommet}", flight.apex().y, u"m"},
-               {u"\\text{durée}", flight.duration(), u"s"},
-               {u"\\text{arrivée}", flight.landing().speed(), u"m/s"}},
-              flightHidden_);
+    const bool wide = width() >= kLeastForTwoLines;
+    const double next = paintGroup(painter, kEdges / 2, width(), QStringLiteral("À l’instant"),
+                                   {{u"x", now.x, u"m"},
+                                    {u"y", now.y, u"m"},
+                                    {u"v_x", now.vx, u"m/s"},
+                                    {u"v_y", now.vy, u"m/s"},
+                                    {u"v", now.speed(), u"m/s"}},
+                                   wide ? 5 : 3, false);
+    paintGroup(painter, next, width(), QStringLiteral("Vol entier"),
+               {{u"\\text{portée}", flight.range(), u"m"},
+                {u"\\text{sommet}", flight.apex().y, u"m"},
+                {u"\\text{durée}", flight.duration(), u"s"},
+                {u"\\text{arrivée}", flight.landing().speed(), u"m/s"}},
+               wide ? 4 : 2, flightHidden_);
 }
 
 } // namespace projectile

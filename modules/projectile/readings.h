@@ -6,8 +6,8 @@
 
 namespace projectile {
 
-/// Two lines of numbers: the moment shown, and the flight as a whole. The second can be withheld,
-/// for an exercise that asks for them.
+/// Two lines of numbers: the moment shown, and the flight as a whole; four in a narrow window.
+/// Those of the flight can be withheld, for an exercise that asks for them.
 class Readings : public QWidget {
     Q_OBJECT
 
@@ -18,6 +18,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent*) override;
+    void resizeEvent(QResizeEvent*) override;
 
 private:
     Experiment& experiment_;

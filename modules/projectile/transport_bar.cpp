@@ -74,7 +74,7 @@ void TransportBar::addButtons() {
     start_ = new QPushButton;
     start_->setProperty("main", true);
     start_->setIconSize({18, 18});
-    start_->setFixedWidth(112);
+    start_->setFixedWidth(104);
     start_->setFocusPolicy(Qt::TabFocus);
     connect(start_, &QPushButton::clicked, this, [this] { toggle(); });
     layout()->addWidget(start_);
@@ -84,6 +84,7 @@ void TransportBar::addButtons() {
 void TransportBar::addTime() {
     time_ = new QSlider(Qt::Horizontal);
     time_->setRange(0, kPositions);
+    time_->setMinimumWidth(64); // it would be the first to give way
     time_->setAccessibleName(QStringLiteral("Temps"));
     time_->setPageStep(kPositions / 20);
     connect(time_, &QSlider::valueChanged, this, [this](int position) {
@@ -91,7 +92,7 @@ void TransportBar::addTime() {
         experiment_.play([t](Playback& playback) { playback.seek(t); });
     });
     reading_ = new QLabel;
-    reading_->setFixedWidth(104);
+    reading_->setFixedWidth(88);
     reading_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     static_cast<QHBoxLayout*>(layout())->addWidget(time_, 1);
     layout()->addWidget(reading_);

@@ -202,6 +202,15 @@ TEST(Experiment, holdsNumbersWithinLimitsAndLeavesLockedOnesAlone) {
     EXPECT_EQ(experiment.launch(), expected);
 }
 
+TEST(Experiment, saysWhereThereIsNoAirToActWith) {
+    Launch launch;
+    launch.gravity = 5;
+    launch.drag = Drag::Quadratic;
+    EXPECT_TRUE(describe(launch).endsWith("d\u00A0=\u00A00,24\u00A0m"));
+    launch.airDensity = 0;
+    EXPECT_TRUE(describe(launch).endsWith("g\u00A0=\u00A05\u00A0m/s², sans air"));
+}
+
 TEST(Experiment, keepsEachPathOnce) {
     Experiment experiment;
     experiment.keep();

@@ -11,6 +11,8 @@
 #include <QTableView>
 #include <QTest>
 
+#include <algorithm>
+
 using namespace projectile;
 using test_support::eventually;
 
@@ -106,6 +108,15 @@ TEST_F(SimulatorTest, anExerciseIsAnsweredAndExplained) {
         QTest::keyClick(field, Qt::Key_Return);
         EXPECT_TRUE(says(QString::fromUtf8(said))) << typed;
     }
+    // The smallest window cuts none of its texts.
+    window_->resize(1, 1);
+    EXPECT_TRUE(eventually([&] {
+        const auto labels = window_->findChildren<QLabel*>();
+        return std::ranges::all_of(labels, [](const QLabel* label) {
+            return !label->isVisible() || !label->wordWrap() ||
+                   label->height() >= label->heightForWidth(label->width());
+        });
+    }));
 }
 
 TEST_F(SimulatorTest, saysWhyAnExerciseIsNotOpened) {
@@ -114,4 +125,10 @@ TEST_F(SimulatorTest, saysWhyAnExerciseIsNotOpened) {
     open(opening);
     EXPECT_TRUE(says("illisible"));
     EXPECT_TRUE(named<QSlider>("Angle de lancement")->isEnabled());
+    window_->resize(1, 1); // each number keeps its place, the formulas scroll
+    EXPECT_TRUE(eventually([&] {
+        return named<QWidget>("Valeurs à l’instant affiché et pour le vol entier")->height() > 100;
+    }));
+    EXPECT_GE(named<QSlider>("Temps")->width(), 60);
+    EXPECT_GT(named<QWidget>("Formules")->minimumWidth(), 300);
 }
