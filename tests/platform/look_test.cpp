@@ -147,6 +147,8 @@ TEST_F(Buttons, SharedMnemonicGivesTheFocusInTurnAndEnterOrSpaceActs) {
 
     QTest::keyClick(&search, Qt::Key_Return);
     QTest::keyClick(&credits, Qt::Key_Space);
+    QKeyEvent heldDown(QEvent::KeyPress, Qt::Key_Return, {}, {}, true);
+    QCoreApplication::sendEvent(&search, &heldDown);
     EXPECT_EQ(pressed, (QStringList{QStringLiteral("Rechercher"), QStringLiteral("Crédits")}));
 }
 
