@@ -11,6 +11,7 @@
 #include "platform/qt/look/text_field.h"
 #include "platform/twips.h"
 
+#include <QAccessible>
 #include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QLabel>
@@ -106,7 +107,6 @@ void Coordon::addControls() {
     const auto addButton = [this](const QString& caption, QChar key, const QRect& place) {
         auto* button = new Button(caption, {}, this);
         button->setLastingMnemonic(key);
-        button->setAutoDefault(false); // Enter belongs to the field and to the list
         button->setGeometry(place);
         return button;
     };
@@ -167,6 +167,7 @@ void Coordon::Command2_Click() {
     }
     search_.emplace(*pages_, std::move(query));
     found_.setPages({});
+    Command3_->setEnabled(false); // the list does not tell that its line has gone
     // The bar goes from the second record to the last, the only one of a short table included.
     Pbar1_->setRange(1, std::max(1, pages_->lastPosition()));
     Pbar1_->setValue(1);
@@ -205,8 +206,11 @@ void Coordon::showFound(std::vector<FoundPage> pages) {
     Pbar1_->hide();
     Label2_->setVisible(!some);
     showList(some);
-    if (!some)
+    if (!some) {
+        QAccessibleEvent alert(Label2_, QAccessible::Alert); // a screen reader says it
+        QAccessible::updateAccessibility(&alert);
         return;
+    }
     List2_->setCurrentIndex(found_.index(0));
     List2_->setFocus();
 }
@@ -240,6 +244,9 @@ void Coordon::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
+        // A button takes the key itself. Held down after a search it opens no page.
+        if (event->isAutoRepeat())
+            return;
         if (Text1_->hasFocus())
             Command2_Click();
         else if (List2_->hasFocus())

@@ -50,10 +50,13 @@ void PageFinder::open() {
         stage_.bar.takeKeyboard();
         return;
     }
+    const bool wasInView = isCurrentInView();
     stage_.panel.showFoot(true);
     stage_.bar.takeKeyboard();
     if (find_.sought().words.empty())
         typed();
+    else if (wasInView)
+        showCurrent(); // not below the bar
 }
 
 void PageFinder::close() {
@@ -109,18 +112,22 @@ void PageFinder::search(const FoundWords& words, const PageFind::Place& from) {
     showCurrent();
 }
 
+bool PageFinder::isCurrentInView() const {
+    const auto current = find_.current();
+    if (!current)
+        return false;
+    const PageFind::Found& one = find_.found()[*current];
+    const double top = stage_.panel.viewTopPx() * kTwipsPerPixel;
+    const double height = stage_.panel.viewHeightPx() * kTwipsPerPixel;
+    return one.place.part > 0 || (one.area.top() < top + height && one.area.bottom() > top);
+}
+
 /// Where a search for other words starts: at the occurrence that a person is looking at, so that it
 /// stays while its word is being typed, or at the top of what shows of the page.
 PageFind::Place PageFinder::placeInView() const {
-    const double top = stage_.panel.viewTopPx() * kTwipsPerPixel;
-    const double height = stage_.panel.viewHeightPx() * kTwipsPerPixel;
-    if (const auto current = find_.current()) {
-        const PageFind::Found& one = find_.found()[*current];
-        const bool inView = one.area.top() < top + height && one.area.bottom() > top;
-        if (one.place.part > 0 || inView)
-            return one.place;
-    }
-    return startOfLine(top);
+    if (isCurrentInView())
+        return find_.found()[*find_.current()].place;
+    return startOfLine(stage_.panel.viewTopPx() * kTwipsPerPixel);
 }
 
 void PageFinder::showMarks() {

@@ -48,6 +48,7 @@ private:
     bool isOpen() const;
     void typed();
     void search(const FoundWords& words, const PageFind::Place& from);
+    bool isCurrentInView() const;
     PageFind::Place placeInView() const;
     void step(void (PageFind::*walk)());
     void showMarks();

@@ -3,6 +3,7 @@
 #include "platform/qt/look/mnemonics.h"
 #include "platform/qt/look/palette.h"
 #include "platform/qt/look/scroll_bar.h"
+#include "platform/qt/look/text_field.h"
 
 #include <QApplication>
 #include <QDir>
@@ -147,6 +148,8 @@ TEST_F(Buttons, SharedMnemonicGivesTheFocusInTurnAndEnterOrSpaceActs) {
 
     QTest::keyClick(&search, Qt::Key_Return);
     QTest::keyClick(&credits, Qt::Key_Space);
+    QKeyEvent heldDown(QEvent::KeyPress, Qt::Key_Return, {}, {}, true);
+    QCoreApplication::sendEvent(&search, &heldDown);
     EXPECT_EQ(pressed, (QStringList{QStringLiteral("Rechercher"), QStringLiteral("Crédits")}));
 }
 
@@ -170,11 +173,13 @@ TEST_F(Buttons, LastingMnemonicOutlivesTheCaption) {
 
 TEST_F(Buttons, UnderlinesMnemonicsOnlyWhileAltIsDown) {
     const QImage plain = painted(search);
-    QTest::keyPress(&window, Qt::Key_Alt, Qt::AltModifier);
-    const QImage underlined = painted(search);
-    EXPECT_NE(underlined, plain);
-    QTest::keyRelease(&window, Qt::Key_Alt);
-    EXPECT_EQ(painted(search), plain);
+    TextField field(&window);
+    for (QWidget* focused : {&window, static_cast<QWidget*>(&field)}) {
+        QTest::keyPress(focused, Qt::Key_Alt, Qt::AltModifier);
+        EXPECT_NE(painted(search), plain);
+        QTest::keyRelease(focused, Qt::Key_Alt);
+        EXPECT_EQ(painted(search), plain);
+    }
 
     QTest::keyPress(&window, Qt::Key_Alt, Qt::AltModifier);
     QEvent left(QEvent::WindowDeactivate); // Alt is let go over another window

@@ -128,7 +128,8 @@ TEST_F(CoordonWindow, ListsWhatItsBoxesAskFor) {
     search(QStringLiteral("lumiere l'indicé"));
     EXPECT_EQ(lines(), "La lumière 102|L’indice 104");
 
-    search(QStringLiteral("thermodynamique"));
+    control<QLineEdit>("Text1").setText(QStringLiteral("thermodynamique"));
+    QTest::keyClick(&control<QPushButton>("Command2"), Qt::Key_Return);
     EXPECT_EQ(lines(), "-");
     EXPECT_TRUE(control<QLabel>("Label2").isVisible());
     EXPECT_EQ(window->height(), 132);
@@ -140,7 +141,9 @@ TEST_F(CoordonWindow, ListsWhatItsBoxesAskFor) {
 TEST_F(CoordonWindow, LeavesThePageThatWasChosen) {
     write(kCourse);
     const std::vector<std::function<void()>> waysOfChoosing = {
-        [this] { press("Command3"); }, [this] { QTest::keyClick(&list(), Qt::Key_Return); },
+        [this] { press("Command3"); },
+        [this] { QTest::keyClick(&control<QPushButton>("Command3"), Qt::Key_Return); },
+        [this] { QTest::keyClick(&list(), Qt::Key_Return); },
         [this] {
             const QPoint line = list().visualRect(list().currentIndex()).center();
             QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, line);
@@ -151,12 +154,14 @@ TEST_F(CoordonWindow, LeavesThePageThatWasChosen) {
         EXPECT_EQ(shared.SearchChosenPage, 0); // what an earlier search chose is forgotten
         search(QStringLiteral("indice"));
         EXPECT_TRUE(list().hasFocus());
+        QKeyEvent heldDown(QEvent::KeyPress, Qt::Key_Return, {}, {}, true); // since the search
+        QCoreApplication::sendEvent(&list(), &heldDown);
         QTest::keyClick(&list(), Qt::Key_Down);
         choose();
         EXPECT_TRUE(closed());
         EXPECT_EQ(shared.SearchChosenPage, 104);
     }
-    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Space}) {
+    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Space, Qt::Key_Return}) {
         open();
         search(QStringLiteral("indice"));
         control<QPushButton>("Command1").setFocus();
@@ -187,6 +192,7 @@ TEST_F(CoordonWindow, StaysAliveDuringALongSearch) {
     EXPECT_TRUE(bar.isVisible());
     EXPECT_GT(bar.value(), 1);
     EXPECT_EQ(bar.maximum(), 4'999);
+    EXPECT_FALSE(control<QPushButton>("Command3").isEnabled());
     // Neither Enter nor the button starts it anew meanwhile.
     control<QCheckBox>("Checkmots").click();
     search(QStringLiteral("nowhere"));

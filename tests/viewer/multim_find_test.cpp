@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QLineEdit>
+#include <QScrollBar>
 
 namespace {
 
@@ -129,8 +130,16 @@ TEST_F(Find, WordsOfTheSearchWindowAreMarkedUntilAnotherPageComes) {
     EXPECT_GT(pixels(kCurrentMarkTint), 0);
     EXPECT_EQ(pixels(kMarkTint), 0);
     const std::size_t drawn = bench.window.recording().size();
-    press(Qt::Key_F, Qt::ControlModifier); // the bar opens on what is marked
+    // The bar opens on what is marked, and does not cover it.
+    const int reached = scrolled();
+    press(Qt::Key_F, Qt::ControlModifier);
     EXPECT_EQ(status(), u"1 sur 1"_qs);
+    EXPECT_EQ(scrolled(), reached + 40);
+    pressThere(Qt::Key_Escape);
+    click("command4");
+    bench.control<QScrollBar>("VScroll1")->setValue(0);
+    press(Qt::Key_F, Qt::ControlModifier); // who looks elsewhere stays there
+    EXPECT_EQ(scrolled(), 0);
     pressThere(Qt::Key_Escape);
     EXPECT_FALSE(isMarked());
     EXPECT_EQ(bench.window.recording().size(), drawn);

@@ -108,6 +108,13 @@ void Button::keyPressEvent(QKeyEvent* event) {
         // They belong to what the window scrolls; the Tab key leads from button to button.
         event->ignore();
         return;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        // Held down it acts once, like Space. The button may have the keyboard again only because
+        // the same key has just closed the window that it opens.
+        if (event->isAutoRepeat())
+            return;
+        [[fallthrough]];
     default:
         QPushButton::keyPressEvent(event);
     }

@@ -4,6 +4,7 @@
 #include "platform/qt/look/pixels.h"
 
 #include <QContextMenuEvent>
+#include <QKeyEvent>
 #include <QPainter>
 
 namespace platform::look {
@@ -39,6 +40,11 @@ void TextField::paintEvent(QPaintEvent* event) {
                   QColor::fromRgb(isEnabled() ? kPaper : kIvory), focused ? 2 : 1);
     }
     QLineEdit::paintEvent(event);
+}
+
+void TextField::keyReleaseEvent(QKeyEvent* event) {
+    QLineEdit::keyReleaseEvent(event);
+    event->ignore(); // the base class keeps it; the window wants to know when Alt is let go
 }
 
 void TextField::contextMenuEvent(QContextMenuEvent* event) {
