@@ -1,6 +1,7 @@
 #include "common/house.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QLocale>
 #include <QPainter>
 #include <QPalette>
@@ -139,6 +140,7 @@ void applyHouse(QApplication& application) {
     QApplication::setPalette(palette());
     QApplication::setFont(houseFont());
     application.setStyleSheet(styleSheet());
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/house/orvalente.svg")));
 }
 
 void paintVerdict(QPainter& painter, double x, double y, Verdict verdict) {

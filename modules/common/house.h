@@ -36,7 +36,7 @@ inline constexpr int kGap = 8;
 /// The face of all text, `pixels` high.
 QFont houseFont(int pixels = kTextPx, bool bold = false);
 
-/// French numbers, the house's font and its style sheet, for the whole application.
+/// French numbers, the house's font, its style sheet and its icon, for the whole application.
 void applyHouse(QApplication& application);
 
 enum class Verdict { Right, Wrong };
