@@ -1,5 +1,6 @@
 #include "exercises/cjuste.h"
 
+#include "platform/qt/look/ink.h"
 #include "platform/qt/look/interface_font.h"
 #include "platform/qt/look/palette.h"
 #include "platform/qt/look/pixels.h"
@@ -40,9 +41,7 @@ Cjuste::Cjuste(QWidget* window)
     auto* Label3 = new QLabel(words, this);
     Label3->setObjectName(QStringLiteral("Label3"));
     Label3->setFont(look::interfaceFont(kWordsPx, look::Weight::Bold));
-    QPalette colours = Label3->palette();
-    colours.setColor(QPalette::WindowText, QColor::fromRgb(look::kGreen));
-    Label3->setPalette(colours);
+    look::setInk(*Label3, look::kGreen);
     Label3->setAlignment(Qt::AlignCenter);
     Label3->setGeometry(kWords);
 

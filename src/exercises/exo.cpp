@@ -6,6 +6,7 @@
 #include "exercises/strip.h"
 #include "exercises/title_band_view.h"
 #include "platform/qt/look/button.h"
+#include "platform/qt/look/ink.h"
 #include "platform/qt/look/interface_font.h"
 #include "platform/qt/look/mnemonics.h"
 #include "platform/qt/look/palette.h"
@@ -49,9 +50,7 @@ QLabel* addLabel(const char* name, const QRect& place, QRgb ink, QWidget* parent
     label->setObjectName(QString::fromLatin1(name));
     label->setTextFormat(Qt::PlainText);
     label->setFont(look::interfaceFont(kHeadingPx, look::Weight::Bold));
-    QPalette colours = label->palette();
-    colours.setColor(QPalette::WindowText, QColor::fromRgb(ink));
-    label->setPalette(colours);
+    look::setInk(*label, ink);
     label->setGeometry(place);
     return label;
 }

@@ -19,7 +19,7 @@ constexpr qsizetype kBehind = 56;
 char16_t folded(QChar c) {
     if (c == QChar::ObjectReplacementCharacter || c.isNonCharacter())
         return u' ';
-    return text::lowerCase(text::withoutAccent(text::keyboardForm(c.unicode())));
+    return text::plainLetter(c.unicode());
 }
 
 QString foldedText(QStringView text) {

@@ -4,6 +4,7 @@
 #include "orderform/order_field.h"
 #include "orderform/price.h"
 #include "platform/qt/look/button.h"
+#include "platform/qt/look/ink.h"
 #include "platform/qt/look/mnemonics.h"
 #include "platform/qt/look/palette.h"
 #include "platform/qt/look/pixels.h"
@@ -69,12 +70,6 @@ constexpr std::array<Row, kFieldCount> kRows{{
     {Field::Quantity, "&Quantité", before(kQuantityTop), narrow(kQuantityTop)},
 }};
 
-void setInk(QWidget& label, QRgb colour) {
-    QPalette colours = label.palette();
-    colours.setColor(QPalette::WindowText, QColor::fromRgb(colour));
-    label.setPalette(colours);
-}
-
 } // namespace
 
 Bondec::Bondec(const PrintingParts& printing, platform::Prompter& prompter, QWidget* parent)
@@ -84,7 +79,7 @@ Bondec::Bondec(const PrintingParts& printing, platform::Prompter& prompter, QWid
     setObjectName(QStringLiteral("bondec"));
     setWindowTitle(QStringLiteral("Bon de commande"));
     setFixedSize(kSize);
-    setInk(*this, look::kInk);
+    look::setInk(*this, look::kInk);
     addHeading();
     addFields();
     addNotes();
@@ -110,7 +105,7 @@ void Bondec::addHeading() {
     QLabel* advice = addLabel(
         QStringLiteral("Remplissez ce bon, imprimez-le et envoyez-le par courrier à KAROPE."),
         {kMargin, 52, kRight - kMargin, 20});
-    setInk(*advice, look::kMuted);
+    look::setInk(*advice, look::kMuted);
 }
 
 void Bondec::addFields() {

@@ -3,6 +3,7 @@
 #include "platform/file_names.h"
 #include "platform/qt/look/button.h"
 #include "platform/qt/look/check_box.h"
+#include "platform/qt/look/ink.h"
 #include "platform/qt/look/interface_font.h"
 #include "platform/qt/look/list_box.h"
 #include "platform/qt/look/mnemonics.h"
@@ -48,9 +49,7 @@ constexpr int kTurnMs = 20;
 QLabel* newLabel(const QString& caption, const QRect& place, look::Weight weight, QWidget* window) {
     auto* label = new QLabel(caption, window);
     label->setFont(look::interfaceFont(look::kLabelPx, weight));
-    QPalette colours = label->palette();
-    colours.setColor(QPalette::WindowText, QColor::fromRgb(look::kInk));
-    label->setPalette(colours);
+    look::setInk(*label, look::kInk);
     label->setGeometry(place);
     return label;
 }

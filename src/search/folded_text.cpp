@@ -46,11 +46,10 @@ char16_t unitOf(const char* from) {
 }
 
 /// A small letter without its accent, and a sign as the keyboard has it: who leaves accents aside
-/// does so with typographic apostrophes. Spaces stay what they are, since one ends each text. İ
-/// turns out a capital without its point.
+/// does so with typographic apostrophes. Spaces stay what they are, since one ends each text.
 char16_t plain(char16_t folded) {
-    const char16_t typed = text::keyboardForm(folded);
-    return typed == u' ' ? folded : text::lowerCase(text::withoutAccent(typed));
+    const char16_t letter = text::plainLetter(folded);
+    return letter == u' ' ? folded : letter;
 }
 
 std::array<char, 256> plainSingles() {

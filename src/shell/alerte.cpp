@@ -1,6 +1,7 @@
 #include "shell/alerte.h"
 
 #include "platform/qt/look/button.h"
+#include "platform/qt/look/ink.h"
 #include "platform/qt/look/palette.h"
 #include "platform/qt/look/pixels.h"
 #include "platform/qt/look/spaced_label.h"
@@ -33,9 +34,7 @@ constexpr int kQuits = QDialog::Accepted + 1;
 
 look::SpacedLabel* newText(QRgb colour, QWidget* parent) {
     auto* text = new look::SpacedLabel(kLineHeight, kBaseline, parent);
-    QPalette colours = text->palette();
-    colours.setColor(QPalette::WindowText, QColor::fromRgb(colour));
-    text->setPalette(colours);
+    look::setInk(*text, colour);
     return text;
 }
 

@@ -1,5 +1,6 @@
 #include "shell/fermeur.h"
 
+#include "platform/qt/look/ink.h"
 #include "platform/qt/look/interface_font.h"
 #include "platform/qt/look/palette.h"
 #include "platform/qt/look/pixels.h"
@@ -54,9 +55,7 @@ Fermeur::Fermeur(QWidget* window, std::function<void()> closing)
     auto* Label1 = new QLabel(words, this);
     Label1->setObjectName(QStringLiteral("Label1"));
     Label1->setFont(look::interfaceFont(look::kLabelPx));
-    QPalette colours = Label1->palette();
-    colours.setColor(QPalette::WindowText, QColor::fromRgb(look::kInk));
-    Label1->setPalette(colours);
+    look::setInk(*Label1, look::kInk);
     Label1->setGeometry(kLabel);
 
     painted_.setSingleShot(true);

@@ -128,6 +128,11 @@ char16_t keyboardForm(char16_t c) {
     }
 }
 
+char16_t plainLetter(char16_t c) {
+    // İ turns out a capital without its point.
+    return lowerCase(withoutAccent(lowerCase(keyboardForm(c))));
+}
+
 bool isWordCharacter(char16_t c) {
     return c < kBeyondTheTable ? rangeOf<Block>(c, kLetters) != nullptr
                                : !rangeOf<Block>(c, kSeparators);

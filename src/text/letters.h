@@ -16,6 +16,9 @@ char16_t withoutAccent(char16_t c);
 /// no-break spaces and hyphens, minus signs and the micro sign; every other character as it stands.
 char16_t keyboardForm(char16_t c);
 
+/// The small letter, or sign of the keyboard, that somebody would type without thinking of accents.
+char16_t plainLetter(char16_t c);
+
 /// Whether a character belongs to a word: letters, digits (raised and lowered ones too) and the
 /// accents that stand beside their letter. Exact below U+0250; beyond, all but the blocks of
 /// punctuation, signs, symbols and surrogates count as letters.

@@ -1,6 +1,7 @@
 #include "viewer/chapter_bar.h"
 
 #include "platform/qt/look/button.h"
+#include "platform/qt/look/ink.h"
 #include "platform/qt/look/interface_font.h"
 #include "platform/qt/look/palette.h"
 
@@ -92,9 +93,7 @@ void ChapterBar::showWords() {
     words_->setGeometry(hasStatus ? kStatus : kWords);
     words_->setAlignment(hasStatus ? Qt::AlignVCenter | Qt::AlignLeft : Qt::AlignCenter);
     words_->setFont(interfaceFont(kSmallPx));
-    QPalette colours = words_->palette();
-    colours.setColor(QPalette::WindowText, QColor::fromRgb(hasStatus ? kInk : kMuted));
-    words_->setPalette(colours);
+    setInk(*words_, hasStatus ? kInk : kMuted);
     words_->setText(hasStatus    ? status_
                     : hasButtons ? QStringLiteral("Dans ce chapitre")
                                  : QString());

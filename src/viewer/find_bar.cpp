@@ -1,6 +1,7 @@
 #include "viewer/find_bar.h"
 
 #include "platform/qt/look/button.h"
+#include "platform/qt/look/ink.h"
 #include "platform/qt/look/interface_font.h"
 #include "platform/qt/look/palette.h"
 #include "platform/qt/look/pixels.h"
@@ -55,9 +56,7 @@ FindBar::FindBar(QWidget* parent)
     status_->setObjectName(QStringLiteral("findStatus"));
     status_->setTextFormat(Qt::PlainText);
     status_->setFont(interfaceFont(kLabelPx));
-    QPalette colours = status_->palette();
-    colours.setColor(QPalette::WindowText, QColor::fromRgb(kInk));
-    status_->setPalette(colours);
+    setInk(*status_, kInk);
     status_->setGeometry(kStatus);
 
     addButton("findClose", "close", QStringLiteral("Fermer la recherche (Échap)"), kCloseX,

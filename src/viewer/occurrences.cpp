@@ -17,8 +17,8 @@ using platform::TextOperation;
 
 /// What all ways to write a character have in common.
 QChar folded(QChar character, bool ignoreAccents) {
-    const char16_t small = text::lowerCase(text::keyboardForm(character.unicode()));
-    return ignoreAccents ? text::withoutAccent(small) : small;
+    const char16_t c = character.unicode();
+    return ignoreAccents ? text::plainLetter(c) : text::lowerCase(text::keyboardForm(c));
 }
 
 std::vector<QString> foldedWords(const FoundWords& sought) {

@@ -1,5 +1,6 @@
 #include "platform/qt/look/spaced_label.h"
 
+#include "platform/qt/look/ink.h"
 #include "platform/qt/look/interface_font.h"
 #include "platform/qt/look/palette.h"
 
@@ -24,9 +25,7 @@ SpacedLabel::SpacedLabel(int lineHeight, int baseline, QWidget* parent)
     : QLabel(parent), lineHeight_(lineHeight), baseline_(baseline) {
     setTextFormat(Qt::PlainText);
     setFont(interfaceFont(kLabelPx));
-    QPalette colours = palette();
-    colours.setColor(QPalette::WindowText, QColor::fromRgb(kInk));
-    setPalette(colours);
+    setInk(*this, kInk);
 }
 
 int SpacedLabel::heightForWidth(int width) const {
