@@ -1,11 +1,6 @@
-#include "fake_reports.h"
-#include "raw_status_file.h"
+#include "launcher_case.h"
 #include "shell/closing.h"
 #include "shell/title_fragments.h"
-#include "support/fake_processes.h"
-#include "support/fake_prompter.h"
-
-#include <QTemporaryDir>
 
 #include <gmock/gmock.h>
 
@@ -33,37 +28,21 @@ public:
     mutable int reads = 0;
 };
 
-class ClosingTest : public testing::Test {
+class ClosingTest : public LauncherCase {
 protected:
-    ClosingTest() {
-        state_.InstallDir = directory_.path() + '/';
-        raw_status_file::writeAllNon(directory_.path());
-    }
-
-    void say(int record, const QByteArray& text) {
-        raw_status_file::put(directory_.path(), record, text);
-    }
-
     void show(const QString& title, bool hasParent = false) {
         windows_.windows.push_back({windows_.windows.size() + 1, title, hasParent});
     }
 
     void close() { shell::Closing(state_, launcher_, windows_, starter_).run(); }
 
-    QTemporaryDir directory_;
-    shell::SharedState state_;
-    test_support::FakePrompter prompter_;
-    test_support::FakeStarter starter_;
-    test_support::FakeActivator activator_;
-    FakeReports reports_;
-    shell::Launcher launcher_{state_, prompter_, starter_, activator_, reports_};
     FakeWindows windows_;
 };
 
 } // namespace
 
 TEST_F(ClosingTest, quitsTheWindowsOfSiblingProgramsByTheirTitles) {
-    say(2, "OUI");
+    put(2, "OUI");
     show("Mouvement d’un projectile - Orvalente, module 23");
     show("Liens utiles - ORVALENTE, module 07");
     show("Liens utiles - orvalente, module 07");
@@ -81,7 +60,7 @@ TEST_F(ClosingTest, quitsTheWindowsOfSiblingProgramsByTheirTitles) {
 }
 
 TEST_F(ClosingTest, readsTheWindowsAnewForEveryTitle) {
-    say(2, "OUI");
+    put(2, "OUI");
     windows_.vanish = true;
     show("Orvalente, module 01 et Orvalente, module 02");
     close();
@@ -96,8 +75,8 @@ TEST_F(ClosingTest, touchesNothingWithoutAPositiveCount) {
     } rows[] = {{"NON", "NON"}, {"OUI", "OUI"}, {"OUI", "non"}};
     starter_.result = {std::nullopt, platform::StartFailure::Missing};
     for (const auto& row : rows) {
-        say(7, row.record7);
-        say(20, row.record20);
+        put(7, row.record7);
+        put(20, row.record20);
         close();
     }
     EXPECT_THAT(windows_.quits, IsEmpty());

@@ -1,27 +1,11 @@
-#include "fake_reports.h"
-#include "raw_status_file.h"
-#include "shell/launcher.h"
-#include "support/fake_processes.h"
-#include "support/fake_prompter.h"
-
-#include <QTemporaryDir>
+#include "launcher_case.h"
 
 using platform::Answer;
 using platform::Message;
 using platform::StartFailure;
 
-/// A launcher in a directory whose status file says that no module runs.
-class LauncherTest : public testing::Test {
+class LauncherTest : public LauncherCase {
 protected:
-    LauncherTest() {
-        state_.InstallDir = directory_.path() + '/';
-        raw_status_file::writeAllNon(directory_.path());
-    }
-
-    void put(int record, const QByteArray& text) {
-        raw_status_file::put(directory_.path(), record, text);
-    }
-
     QByteArray argument() const { return raw_status_file::characters(directory_.path(), 31); }
 
     int statusOf(std::int16_t module) const {
@@ -30,14 +14,6 @@ protected:
     }
 
     std::int32_t pidOf(int module) const { return *state_.SiblingProcessIds.slot(module); }
-
-    QTemporaryDir directory_;
-    shell::SharedState state_;
-    test_support::FakePrompter prompter_;
-    test_support::FakeStarter starter_;
-    test_support::FakeActivator activator_;
-    FakeReports reports_;
-    shell::Launcher launcher_{state_, prompter_, starter_, activator_, reports_};
 };
 
 TEST_F(LauncherTest, statusIsMinusOneForTheModuleItselfOrElseTheNumberRunning) {

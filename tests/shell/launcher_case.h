@@ -1,0 +1,32 @@
+#pragma once
+
+#include "fake_reports.h"
+#include "raw_status_file.h"
+#include "shell/launcher.h"
+#include "support/fake_processes.h"
+#include "support/fake_prompter.h"
+
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+/// A launcher in a directory whose status file says that no module runs.
+class LauncherCase : public testing::Test {
+protected:
+    LauncherCase() {
+        state_.InstallDir = directory_.path() + '/';
+        raw_status_file::writeAllNon(directory_.path());
+    }
+
+    void put(int record, const QByteArray& text) {
+        raw_status_file::put(directory_.path(), record, text);
+    }
+
+    QTemporaryDir directory_;
+    shell::SharedState state_;
+    test_support::FakePrompter prompter_;
+    test_support::FakeStarter starter_;
+    test_support::FakeActivator activator_;
+    FakeReports reports_;
+    shell::Launcher launcher_{state_, prompter_, starter_, activator_, reports_};
+};
