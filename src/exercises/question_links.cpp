@@ -75,24 +75,22 @@ void LinkCaption::show(const platform::FieldOperation& field) {
 void LinkCaption::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     // Letters may lean out of their line a little, into the margin.
-    const QSize room = size() - QSize(kMargin, kMargin);
     platform::Recording recording;
     platform::LinkOperation label;
     label.surface = field_.surface;
+    label.x = label.y = kMargin * platform::kTwipsPerPixel;
     label.caption = field_.caption;
     label.font = field_.font;
     label.font.underline = underMouse();
     label.ink = field_.ink;
     for (auto& line : platform::captionLines(label, fonts_))
         recording.add(std::move(line));
-    platform::RasterSurface raster(field_.surface, room.width(), fonts_, look::kPaper);
+    platform::RasterSurface raster(field_.surface, width(), fonts_, look::kPaper);
     raster.setDevicePixelRatio(devicePixelRatioF());
     raster.play(recording);
     // Darkening leaves the ground of a coloured row in place.
     painter.setCompositionMode(QPainter::RasterOp_SourceAndDestination);
-    painter.translate(kMargin, kMargin);
-    painter.drawImage(0, 0, raster.image(room.height()));
-    painter.resetTransform();
+    painter.drawImage(0, 0, raster.image(height()));
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     paintRing(painter);
 }

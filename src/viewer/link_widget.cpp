@@ -43,6 +43,7 @@ void LinkWidget::showLink(const platform::LinkOperation& link, PictureBox& box) 
     setToolTip(plainToolTip(link.tooltip));
     arrange();
     update();
+    box.updateMargin();
 }
 
 void LinkWidget::freeLink() {

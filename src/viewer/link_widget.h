@@ -29,6 +29,10 @@ public:
     /// Hides the control and empties it.
     void freeLink();
 
+    /// Draws the link in device pixels from the corner of the surface; `ratio` of them make a
+    /// logical one.
+    void drawOn(QPainter& painter, double ratio) { draw(painter, ratio); }
+
     /// How far from the link the outer edge of its focus ring is, in pixels.
     virtual QSize ringReach() const = 0;
 

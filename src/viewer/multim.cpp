@@ -8,6 +8,7 @@
 #include "viewer/chapter_bar.h"
 #include "viewer/cover.h"
 #include "viewer/find_bar.h"
+#include "viewer/ink_rim.h"
 #include "viewer/page_finder.h"
 #include "viewer/page_index.h"
 #include "viewer/page_panel.h"
@@ -75,6 +76,7 @@ void Multim::addControls() {
     titre_ = new PictureBox(SurfaceId::Titre, kTitleWidthPx, platform::look::kIvory, fonts_,
                             recording_, body_);
     titre_->setGeometry(kTitle);
+    new InkRim(*titre_, body_);
 
     panel_ = new PagePanel(body_);
     panel_->setGeometry(kPanel);

@@ -4,6 +4,7 @@
 #include "platform/qt/look/pixels.h"
 #include "platform/qt/look/scroll_bar.h"
 #include "platform/twips.h"
+#include "viewer/ink_rim.h"
 #include "viewer/picture_box.h"
 
 #include <QEvent>
@@ -43,6 +44,7 @@ void PagePanel::setPage(PictureBox* page) {
     page_->setFocusPolicy(Qt::TabFocus);
     page_->installEventFilter(this);
     VScroll1_->raise();
+    new InkRim(*page_, this);
 }
 
 void PagePanel::setPanelHeight(int height, int viewHeight) {

@@ -31,6 +31,7 @@ void PictureBox::empty() {
     controlsFoot_ = 0;
     marks_ = {};
     update();
+    updateMargin();
 }
 
 void PictureBox::showDrawing() {
@@ -39,6 +40,17 @@ void PictureBox::showDrawing() {
         raster_.setDevicePixelRatio(ratio);
     raster_.play(recording_);
     update();
+    updateMargin();
+}
+
+void PictureBox::updateMargin() {
+    if (rim_)
+        rim_->update();
+}
+
+void PictureBox::paintMargin(QPainter& painter, const QRect& exposed) const {
+    raster_.paintMargin(painter, recording_, height() - 2 * inset_,
+                        exposed.translated(-inset_, -inset_));
 }
 
 int PictureBox::pageHeightPx() const {

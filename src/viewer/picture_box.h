@@ -5,6 +5,7 @@
 #include "platform/recording.h"
 #include "platform/surface.h"
 
+#include <QPointer>
 #include <QRectF>
 #include <QWidget>
 
@@ -62,6 +63,14 @@ public:
     /// to the window alone: no recording and no paper has them.
     void setMarks(Marks marks);
 
+    /// The control that shows paintMargin() around this one.
+    void setRim(QWidget* rim) { rim_ = rim; }
+    /// Has it painted anew.
+    void updateMargin();
+    /// Draws what leans out of the surface, as tall as the control is. `painter` is as for
+    /// RasterSurface::paintMargin(); `exposed` is what shows, in pixels of the control.
+    void paintMargin(QPainter& painter, const QRect& exposed) const;
+
     /// Whether nothing was drawn, as far as it was shown, and no controls stand there.
     bool isBlank() const { return raster_.isBlank() && controlsFoot_ == 0; }
 
@@ -85,6 +94,7 @@ private:
     int controlsFoot_ = 0;
     bool followsPage_ = false;
     Marks marks_;
+    QPointer<QWidget> rim_;
 };
 
 } // namespace viewer

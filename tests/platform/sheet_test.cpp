@@ -77,7 +77,9 @@ TEST_F(SheetTest, theRasterIsThatOfTheScreenCutAtTheSurfacesEdge) {
         QPainter painter(&whole);
         QImage column = screen.image(200);
         column.setDevicePixelRatio(1);
-        painter.drawImage(qRound(10 * scale), qRound(10 * scale), column);
+        painter.translate(qRound(10 * scale), qRound(10 * scale));
+        painter.drawImage(0, 0, column);
+        screen.paintMargin(painter, recording, 200, whole.rect());
         painter.end();
         // Slanted lines are cut in another way: a shade here and there.
         EXPECT_LE(difference(raster(sheet(), scale), whole), 8) << scale;

@@ -88,13 +88,16 @@ protected:
         return said.split(u'\n', Qt::SkipEmptyParts).mid(2);
     }
 
-    /// The column of the first page as poppler shows it at 96 pixels to the inch.
-    QImage shown() const {
+    /// The first page as poppler shows it at 96 pixels to the inch.
+    QImage page() const {
         run(QStringLiteral("pdftoppm"),
             {QStringLiteral("-r"), QStringLiteral("96"), QStringLiteral("-singlefile"),
              QStringLiteral("-png"), path(), path(QStringLiteral("shown"))});
-        return QImage(path(QStringLiteral("shown.png"))).copy(100, 60, 600, 400);
+        return QImage(path(QStringLiteral("shown.png")));
     }
+
+    /// The column alone.
+    QImage shown() const { return page().copy(100, 60, 600, 400); }
 
     QImage onScreen() const {
         platform::RasterSurface raster(platform::SurfaceId::PictureTexte, 600, fonts, 0xffffffff);

@@ -90,6 +90,39 @@ TEST_F(PdfLook, textUnderAMaskFillStaysInItsInk) {
     EXPECT_GT(exact, 200);
 }
 
+TEST_F(PdfLook, inkLeansOutOfASurfaceAndNothingElseDoes) {
+    surface.setFace(QStringLiteral("Times new roman"));
+    surface.setFontPoints(20);
+    print(0, 0, QStringLiteral("ÎÂgjypI"));
+    const double line = surface.textHeight();
+    surface.line(0, line, 9000, line);
+    const std::size_t standing = recording.size();
+    print(0, line, QStringLiteral("Ébène")); // its line was never ended
+    surface.fill(0, line, 3000, 300, 0xff804020, platform::FillMode::Copy);
+    platform::Sheet exact = sheet();
+    exact.surfaces[0].height = line;
+    // The same in the middle of a large surface.
+    platform::Sheet free = exact;
+    free.operations.resize(standing);
+    free.surfaces[0] = {platform::SurfaceId::PictureTexte, 0, 0, 12000, 6000};
+    for (platform::Operation& operation : free.operations)
+        std::visit(
+            [](auto& drawn) {
+                if constexpr (requires { drawn.x1; }) {
+                    drawn.x1 += kLeft, drawn.x2 += kLeft, drawn.y1 += kTop, drawn.y2 += kTop;
+                } else if constexpr (requires { drawn.x; }) {
+                    drawn.x += kLeft, drawn.y += kTop;
+                }
+            },
+            operation);
+    write({free});
+    const QImage all = page();
+    write({exact});
+    EXPECT_GT(inked(all, all.rect()), 600);
+    EXPECT_EQ(different(page(), all, all.rect(), 2), 0);
+    EXPECT_FALSE(text().contains(u"Ébène"));
+}
+
 TEST_F(PdfLook, textHasTheWeightAndSlantOfTheScreen) {
     surface.setFontPoints(14);
     const char* const faces[] = {"Arial", "Times new roman", "Symbol", "Wingdings",

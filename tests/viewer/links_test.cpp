@@ -35,6 +35,37 @@ TEST_F(Links, StandInTheTextAsIfThePageHadPrintedThem) {
     }
 }
 
+/// A page looks the same further down and with room below it: its edges cut nothing, neither
+/// accents nor feet, nor a border.
+TEST_F(Links, EdgesOfThePageCutNoInk) {
+    QWidget* const panel = bench.control<QWidget>("framekx")->parentWidget();
+    const auto grab = [&](int below, int height) {
+        return panel->grab(QRect(2, 2 + below, 612, height)).toImage();
+    };
+    const QString types[] = {u"##SI12\r\n"_qs, u"##SI12\r\n##FONT02\r\n"_qs,
+                             u"##SI28\r\n##ITA1\r\n"_qs};
+    for (const QString& type : types)
+        for (const QString& line :
+             {u"Îlej gypaètej¶\r\n"_qs, u"##LIERTÎlej gypaètej#PAG002\r\n¶\r\n"_qs,
+              u"##SI12\r\n##FRAC1#2\r\n¶\r\n"_qs, u"##VE1AB\r\n¶\r\n"_qs,
+              u"##TAB000600 1\r\nj¶\r\n##FINTAB\r\n"_qs}) {
+            const QString page = type + line;
+            show(3, page);
+            const QImage atTheEdges = grab(0, 100);
+            show(4, u"##PIY020\r\n"_qs + page + u"##PIY020\r\n"_qs);
+            EXPECT_EQ(grab(20, 100), atTheEdges) << qPrintable(page);
+
+            const QString lines = u"ligne¶\r\n"_qs.repeated(60);
+            show(3, lines + page);
+            QTest::keyClick(&bench.window, Qt::Key_End);
+            const QImage atTheFoot = grab(100, 336);
+            show(4, lines + page + u"##PIY020\r\n"_qs);
+            QTest::keyClick(&bench.window, Qt::Key_End);
+            EXPECT_EQ(grab(80, 336).copy(0, 0, 590, 336), atTheFoot.copy(0, 0, 590, 336))
+                << qPrintable(page);
+        }
+}
+
 TEST_F(Links, ScrollWithThePageAndGoWithIt) {
     show(3, u"##LIERTlien#PAG002\r\n¶\r\n"_qs + u"ligne¶\r\n"_qs.repeated(60));
     const QPoint before = link("Labelien(0)")->mapTo(&bench.window, QPoint());

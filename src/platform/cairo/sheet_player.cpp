@@ -1,5 +1,6 @@
 #include "platform/cairo/sheet_player.h"
 
+#include "platform/ink_area.h"
 #include "platform/multiply_inks.h"
 #include "platform/twips.h"
 
@@ -84,16 +85,14 @@ public:
 
     /// `next` may be null.
     void play(const Operation& operation, QRgb ink, const Operation* next) {
+        if (surfaceOf(operation) != surface_)
+            return;
         ink_ = ink;
         next_ = next;
-        std::visit(*this, operation);
+        std::visit([this](const auto& drawn) { playWhereItMayInk(drawn); }, operation);
     }
 
     void operator()(const TextOperation& text) {
-        const double height = owner_.fonts_.height(text.font);
-        if (text.surface != surface_ ||
-            !shows(text.x, text.y, text.x + text.width, text.y + height))
-            return;
         setInk();
         const double foot = text.y + owner_.fonts_.ascent(text.font);
         const auto glyphs = owner_.fonts_.glyphs(text.font, text.text);
@@ -112,9 +111,6 @@ public:
         const double right = std::max(line.x1, line.x2);
         const double top = std::min(line.y1, line.y2);
         const double bottom = std::max(line.y1, line.y2);
-        if (line.surface != surface_ ||
-            !shows(left - width, top - width, right + width, bottom + width))
-            return;
         setInk();
         if (top == bottom || left == right) {
             straightLine(left, top, right, bottom, width);
@@ -132,8 +128,6 @@ public:
     }
 
     void operator()(const FillOperation& fill) {
-        if (fill.surface != surface_)
-            return;
         setInk();
         if (fill.mode == FillMode::Mask)
             cairo_set_operator(cairo_, CAIRO_OPERATOR_MULTIPLY);
@@ -142,10 +136,8 @@ public:
     }
 
     void operator()(const PictureOperation& picture) {
-        if (picture.surface != surface_ || !picture.picture || !(picture.width > 0) ||
-            !(picture.height > 0) || !reachable(picture.x, picture.y) ||
-            !reachable(picture.width, picture.height) ||
-            !shows(picture.x, picture.y, picture.x + picture.width, picture.y + picture.height))
+        if (!picture.picture || !(picture.width > 0) || !(picture.height > 0) ||
+            !reachable(picture.x, picture.y) || !reachable(picture.width, picture.height))
             return;
         const double x = snapped(picture.x);
         const double y = snapped(picture.y);
@@ -170,6 +162,36 @@ public:
     void operator()(const Other&) {}
 
 private:
+    /// Most operations may ink all of the surface with its margin, which is clipped to already.
+    template <class Drawing>
+    void playWhereItMayInk(const Drawing& drawing) {
+        if constexpr (requires { inkArea(drawing, QSizeF(), owner_.fonts_); }) {
+            inkArea_ = inkArea(drawing, area_.size(), owner_.fonts_);
+            if (inkArea_.isEmpty())
+                return;
+            const bool isCut = reachesOut(drawing);
+            if (isCut) {
+                cairo_save(cairo_);
+                cairo_rectangle(cairo_, inkArea_.x(), inkArea_.y(), inkArea_.width(),
+                                inkArea_.height());
+                cairo_clip(cairo_);
+            }
+            (*this)(drawing);
+            if (isCut)
+                cairo_restore(cairo_);
+        }
+    }
+
+    /// Whether something would show where it may not.
+    bool reachesOut(const TextOperation&) const { return isNarrowed(); }
+    bool reachesOut(const LineOperation&) const { return isNarrowed(); }
+    bool reachesOut(const FillOperation&) const { return false; } // cut as numbers
+    bool reachesOut(const PictureOperation& picture) const {
+        return !area_.contains(
+            {snapped(picture.x), snapped(picture.y), picture.width, picture.height});
+    }
+    bool isNarrowed() const { return inkArea_ != withInkMargin(area_.size()); }
+
     /// Painted as it stands: with a way to extend it, cairo would store it anew on every page. A
     /// page must not name a picture twice among its resources, as cairo would have it; a group has
     /// resources of its own.
@@ -193,10 +215,6 @@ private:
     static bool reachable(double x, double y) {
         constexpr double kFar = 1e6 * kTwipsPerPixel;
         return std::abs(x) < kFar && std::abs(y) < kFar;
-    }
-
-    bool shows(double left, double top, double right, double bottom) const {
-        return left < area_.right() && top < area_.bottom() && right > 0 && bottom > 0;
     }
 
     void setInk() {
@@ -258,19 +276,20 @@ private:
         const int em = fontPixels(text.font.points);
         const double top = snapped(foot + em / 10.0 * kTwipsPerPixel);
         const double thickness = std::max(1, qRound(em / 14.0)) * kTwipsPerPixel;
-        fillArea(snapped(text.x, top, text.width, thickness, area_));
+        fillArea(snapped(text.x, top, text.width, thickness, inkArea_));
     }
 
     void straightLine(double left, double top, double right, double bottom, double width) {
         const double x = snapped(left);
         const double y = snapped(top);
-        fillArea(snapped(x, y, snapped(right) - x + width, snapped(bottom) - y + width, area_));
+        fillArea(snapped(x, y, snapped(right) - x + width, snapped(bottom) - y + width, inkArea_));
     }
 
     SheetPlayer& owner_;
     cairo_t* cairo_;
     SurfaceId surface_;
     QRectF area_;
+    QRectF inkArea_; ///< of the operation at hand
     QRgb ink_ = 0xff000000;
     const Operation* next_ = nullptr;
     std::string utf8_;
@@ -289,9 +308,10 @@ void SheetPlayer::play(const Sheet& sheet, cairo_t* cairo) {
     for (const PlacedSurface& place : sheet.surfaces) {
         Player player(*this, cairo, place);
         cairo_save(cairo);
-        cairo_rectangle(cairo, place.x, place.y, place.width, place.height);
-        cairo_clip(cairo);
         cairo_translate(cairo, place.x, place.y);
+        const QRectF shown = withInkMargin({place.width, place.height});
+        cairo_rectangle(cairo, shown.x(), shown.y(), shown.width(), shown.height());
+        cairo_clip(cairo);
         for (std::size_t i = 0; i < operations.size(); ++i)
             player.play(operations[i], inks[i],
                         i + 1 < operations.size() ? &operations[i + 1] : nullptr);

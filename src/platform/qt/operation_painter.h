@@ -2,6 +2,7 @@
 
 #include "platform/qt/font_book.h"
 #include "platform/recording.h"
+#include "platform/twips.h"
 
 #include <QPainter>
 
@@ -32,6 +33,17 @@ public:
     std::optional<Span> span(const FillOperation& fill) const;
     std::optional<Span> span(const PictureOperation& picture) const;
 
+    /// The rows that an operation may ink, no fewer than it does: letters lean out of their box
+    /// above and below. Nothing where span() has nothing.
+    template <class Operation>
+    std::optional<Span> inkSpan(const Operation& operation) const {
+        std::optional<Span> ink = span(operation);
+        if (!ink)
+            return ink;
+        const double grace = overhang(operation);
+        return Span{ink->top - grace, ink->bottom + grace};
+    }
+
     /// Draws what has a span.
     void draw(const TextOperation& text);
     void draw(const LineOperation& line);
@@ -39,6 +51,14 @@ public:
     void draw(const PictureOperation& picture);
 
 private:
+    // In twips. Smooth edges shade a pixel more.
+    double overhang(const TextOperation& text) const {
+        return fonts_.height(text.font) + 2 * kTwipsPerPixel;
+    }
+    static double overhang(const LineOperation&) { return 2 * kTwipsPerPixel; }
+    static double overhang(const FillOperation&) { return 0; }
+    static double overhang(const PictureOperation&) { return 0; }
+
     double toDevice(double twips) const;
     int pixel(double twips) const;
     /// The right or lower edge of an area, held where a painter can still reckon with it.

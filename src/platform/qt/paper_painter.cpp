@@ -1,5 +1,6 @@
 #include "platform/qt/paper_painter.h"
 
+#include "platform/ink_area.h"
 #include "platform/qt/svg_picture.h"
 #include "platform/sign_faces.h"
 #include "platform/twips.h"
@@ -28,14 +29,22 @@ void PaperPainter::draw(const Sheet& sheet) {
     const std::vector<Operation> operations = withoutMasks(sheet.operations, fonts_);
     for (const PlacedSurface& place : sheet.surfaces) {
         painter_.save();
-        painter_.setClipRect(QRectF(place.x, place.y, place.width, place.height));
         painter_.translate(place.x, place.y);
+        const QSizeF size(place.width, place.height);
+        QRectF clip;
         for (const Operation& operation : operations)
             std::visit(
                 [&]<class Drawing>(const Drawing& drawing) {
-                    if constexpr (Drawn<Drawing>)
-                        if (drawing.surface == place.surface && shapes_.span(drawing))
-                            draw(drawing);
+                    if constexpr (Drawn<Drawing>) {
+                        if (drawing.surface != place.surface || !shapes_.span(drawing))
+                            return;
+                        const QRectF area = inkArea(drawing, size, fonts_);
+                        if (area.isEmpty())
+                            return;
+                        if (area != clip)
+                            painter_.setClipRect(clip = area);
+                        draw(drawing);
+                    }
                 },
                 operation);
         painter_.restore();

@@ -1,6 +1,8 @@
 #include "platform/qt/raster_surface.h"
 
+#include "platform/ink_area.h"
 #include "platform/qt/operation_painter.h"
+#include "platform/sheet.h"
 #include "platform/surface.h"
 #include "platform/twips.h"
 
@@ -56,33 +58,82 @@ private:
         if (operation.surface != target_.id_)
             return;
         const auto span = operations_.span(operation);
-        if (!span || !room(span->top, span->bottom))
+        const auto ink = operations_.inkSpan(operation);
+        if (!span || !room(*span, ink->bottom))
             return;
         if (!painter_.isActive())
             painter_.begin(&target_.image_);
         operations_.draw(operation);
     }
 
-    /// Makes the picture tall enough for something between two heights; false when nothing of it
-    /// can show.
-    bool room(double top, double bottom) {
-        if (bottom <= 0)
+    /// Makes the picture tall enough for something, whose ink reaches down to `inkBottom`; false
+    /// when nothing of it can show.
+    bool room(const OperationPainter::Span& box, double inkBottom) {
+        if (box.bottom <= 0 || box.top / kTwipsPerPixel >= kMaxSurfaceHeightPx)
             return false;
-        const double wanted = std::ceil(bottom / kTwipsPerPixel);
-        const int held = static_cast<int>(std::min(wanted, kMaxSurfaceHeightPx));
-        if (top / kTwipsPerPixel >= kMaxSurfaceHeightPx)
-            return false;
-        if (held * target_.ratio_ > target_.image_.height()) {
+        const int inked = heldPx(inkBottom);
+        if (inked * target_.ratio_ > target_.image_.height()) {
             end();
-            target_.growTo(held);
+            target_.growTo(inked);
         }
-        target_.lowestPx_ = std::max(target_.lowestPx_, held);
+        target_.lowestPx_ = std::max(target_.lowestPx_, heldPx(box.bottom));
+        target_.inkedRows_ = std::max(target_.inkedRows_, qCeil(inked * target_.ratio_));
         return true;
+    }
+
+    static int heldPx(double twips) {
+        return static_cast<int>(std::min(std::ceil(twips / kTwipsPerPixel), kMaxSurfaceHeightPx));
     }
 
     RasterSurface& target_;
     QPainter painter_;
     OperationPainter operations_;
+};
+
+/// Draws what leans out of a surface.
+class RasterSurface::MarginPlayer {
+public:
+    MarginPlayer(QPainter& painter, const FontBook& fonts, double ratio, const QSizeF& size,
+                 const QRect& exposed)
+        : painter_(painter), fonts_(fonts), operations_(painter, fonts, ratio), ratio_(ratio),
+          size_(size), exposed_(exposed) {
+        // The surface itself covers the pixels that it shares with its margin.
+        const QRect inner(0, 0, qFloor(size.width() / kTwipsPerPixel * ratio),
+                          qFloor(size.height() / kTwipsPerPixel * ratio));
+        ring_ = QRegion(pixels(withInkMargin(size))) - inner;
+    }
+
+    template <class Operation>
+    void operator()(const Operation& operation) {
+        if constexpr (Drawn<Operation>) {
+            const std::optional<OperationPainter::Span> ink = operations_.inkSpan(operation);
+            if (!ink || ink->bottom < exposed_.top() * kTwipsPerPixel ||
+                ink->top > (exposed_.bottom() + 1) * kTwipsPerPixel)
+                return;
+            const QRectF area = inkArea(operation, size_, fonts_);
+            if (area.isEmpty() || area == QRectF({}, size_))
+                return;
+            painter_.save();
+            painter_.setClipRegion(ring_ & pixels(area), Qt::IntersectClip);
+            operations_.draw(operation);
+            painter_.restore();
+        }
+    }
+
+private:
+    QRect pixels(const QRectF& twips) const {
+        return QRectF(twips.topLeft() / kTwipsPerPixel * ratio_,
+                      twips.size() / kTwipsPerPixel * ratio_)
+            .toAlignedRect();
+    }
+
+    QPainter& painter_;
+    const FontBook& fonts_;
+    OperationPainter operations_;
+    double ratio_;
+    QSizeF size_;
+    QRect exposed_;
+    QRegion ring_;
 };
 
 RasterSurface::RasterSurface(SurfaceId id, int widthPx, const FontBook& fonts, QRgb background)
@@ -100,6 +151,7 @@ void RasterSurface::setDevicePixelRatio(double ratio) {
     ratio_ = ratio;
     image_ = QImage();
     lowestPx_ = 0;
+    inkedRows_ = 0;
     played_ = 0;
 }
 
@@ -112,12 +164,13 @@ void RasterSurface::wipe() {
     // The next page finds the picture of this one in place; that of a very tall page goes.
     if (image_.height() > kKeptRowsPx * ratio_)
         image_ = QImage();
-    const int rows = std::min(image_.height(), qCeil(lowestPx_ * ratio_));
+    const int rows = std::min(image_.height(), inkedRows_);
     if (rows > 0)
         std::fill_n(reinterpret_cast<QRgb*>(image_.bits()),
                     static_cast<std::size_t>(rows) * static_cast<std::size_t>(image_.width()),
                     background_);
     lowestPx_ = 0;
+    inkedRows_ = 0;
 }
 
 void RasterSurface::growTo(int heightPx) {
@@ -153,6 +206,20 @@ void RasterSurface::paint(QPainter& painter, const QRect& exposed) const {
     painter.drawImage(
         QRectF(held.x() / ratio_, held.y() / ratio_, held.width() / ratio_, held.height() / ratio_),
         image_, held);
+}
+
+void RasterSurface::paintMargin(QPainter& painter, const Recording& recording, int heightPx,
+                                const QRect& exposed) const {
+    const QSizeF size(widthPx_ * kTwipsPerPixel, heightPx * kTwipsPerPixel);
+    MarginPlayer player(painter, fonts_, ratio_, size, exposed);
+    const auto& operations = recording.operations();
+    std::size_t first = 0;
+    for (std::size_t i = 0; i < operations.size(); ++i)
+        if (const auto* clear = std::get_if<ClearOperation>(&operations[i]))
+            first = clear->surface == id_ ? i + 1 : first;
+    for (std::size_t i = first; i < operations.size(); ++i)
+        if (surfaceOf(operations[i]) == id_)
+            std::visit(player, operations[i]);
 }
 
 QImage RasterSurface::image(int heightPx) const {

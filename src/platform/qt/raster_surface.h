@@ -36,11 +36,19 @@ public:
     /// same place of `painter`; what lies below the drawing shows the background.
     void paint(QPainter& painter, const QRect& exposed) const;
 
+    /// Draws what of the recording leans out of the surface into its margin (see ink_area.h), when
+    /// the surface is `heightPx` logical pixels tall: letters, and the borders of tables. The
+    /// painter stands at the corner of the surface, a device pixel to its unit; `exposed` is what
+    /// shows, in logical pixels of the surface.
+    void paintMargin(QPainter& painter, const Recording& recording, int heightPx,
+                     const QRect& exposed) const;
+
     /// The picture, `heightPx` logical pixels tall.
     QImage image(int heightPx) const;
 
 private:
     class Player;
+    class MarginPlayer;
 
     void wipe();
     void growTo(int heightPx);
@@ -52,6 +60,7 @@ private:
     double ratio_ = 1;
     QImage image_;
     int lowestPx_ = 0;
+    int inkedRows_ = 0; ///< device rows from the top that may not be blank
     std::size_t played_ = 0;
 };
 

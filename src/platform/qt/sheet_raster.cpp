@@ -1,5 +1,6 @@
 #include "platform/qt/sheet_raster.h"
 
+#include "platform/ink_area.h"
 #include "platform/qt/operation_painter.h"
 #include "platform/twips.h"
 
@@ -17,45 +18,65 @@ constexpr int kBytesPerPixel = 4;
 
 constexpr QRgb kPaper = 0xffffffff;
 
-/// Draws operations of any surface of a sheet, each clipped to its surface.
+/// Draws operations of any surface of a sheet, each where it may ink.
 class BandPlayer {
 public:
     BandPlayer(QPainter& painter, const FontBook& fonts, double scale, int top, int bottom)
-        : painter_(painter), operations_(painter, fonts, scale), scale_(scale), top_(top),
-          bottom_(bottom) {}
+        : painter_(painter), fonts_(fonts), operations_(painter, fonts, scale), scale_(scale),
+          top_(top), bottom_(bottom) {}
 
-    /// The surface that is drawn on from now, and its place on the sheet in device pixels.
-    void enter(const QRect& place) {
-        origin_ = place.topLeft();
+    /// The surface that is drawn on from now.
+    void enter(const PlacedSurface& surface) {
+        corner_ = {surface.x, surface.y};
+        size_ = {surface.width, surface.height};
+        origin_ = {pixel(surface.x), pixel(surface.y)};
         painter_.resetTransform();
         painter_.translate(origin_.x(), origin_.y() - top_);
-        painter_.setClipRect(QRect(QPoint(0, 0), place.size()));
+        clip_ = {};
     }
 
     template <class Operation>
     void operator()(const Operation& operation) {
         if constexpr (Drawn<Operation>) {
-            const auto span = operations_.span(operation);
-            if (span && reaches(*span))
-                operations_.draw(operation);
+            const auto ink = operations_.inkSpan(operation);
+            if (!ink || !reaches(*ink))
+                return;
+            const QRectF area = inkArea(operation, size_, fonts_);
+            if (area.isEmpty())
+                return;
+            clipTo(area);
+            operations_.draw(operation);
         }
     }
 
 private:
-    /// Whether something shows in the band, with a line's height of grace for what stands out
-    /// above and below: accents, thick lines.
-    bool reaches(const OperationPainter::Span& span) const {
-        const double grace = (span.bottom - span.top) / kTwipsPerPixel * scale_ + 2;
-        return origin_.y() + span.top / kTwipsPerPixel * scale_ - grace < bottom_ &&
-               origin_.y() + span.bottom / kTwipsPerPixel * scale_ + grace > top_;
+    int pixel(double twips) const { return qRound(twips / kTwipsPerPixel * scale_); }
+
+    bool reaches(const OperationPainter::Span& ink) const {
+        return origin_.y() + ink.top / kTwipsPerPixel * scale_ < bottom_ &&
+               origin_.y() + ink.bottom / kTwipsPerPixel * scale_ > top_;
+    }
+
+    void clipTo(const QRectF& area) {
+        if (area == clip_)
+            return;
+        clip_ = area;
+        const QRectF onSheet = area.translated(corner_);
+        const QPoint corner(pixel(onSheet.left()), pixel(onSheet.top()));
+        const QPoint beyond(pixel(onSheet.right()), pixel(onSheet.bottom()));
+        painter_.setClipRect(QRect(corner - origin_, beyond - origin_ - QPoint(1, 1)));
     }
 
     QPainter& painter_;
+    const FontBook& fonts_;
     OperationPainter operations_;
     double scale_;
     int top_;
     int bottom_;
-    QPoint origin_;
+    QPointF corner_; ///< of the surface, in twips of the sheet
+    QSizeF size_;
+    QPoint origin_; ///< the same corner in device pixels
+    QRectF clip_;
 };
 
 } // namespace
@@ -83,19 +104,12 @@ const QImage& SheetRaster::band(const Sheet& sheet, int top) {
     BandPlayer player(painter, fonts_, scale_, top, top + wanted.height());
     // Surfaces stand beside each other: the order of operations counts within each.
     for (const PlacedSurface& surface : sheet.surfaces) {
-        player.enter(place(surface));
+        player.enter(surface);
         for (const Operation& operation : sheet.operations)
             if (surfaceOf(operation) == surface.surface)
                 std::visit(player, operation);
     }
     return band_;
-}
-
-QRect SheetRaster::place(const PlacedSurface& surface) const {
-    const auto pixel = [&](double twips) { return qRound(twips / kTwipsPerPixel * scale_); };
-    const QPoint corner(pixel(surface.x), pixel(surface.y));
-    return {corner,
-            QPoint(pixel(surface.x + surface.width) - 1, pixel(surface.y + surface.height) - 1)};
 }
 
 } // namespace platform

@@ -25,8 +25,6 @@ public:
     const QImage& band(const Sheet& sheet, int top);
 
 private:
-    QRect place(const PlacedSurface& surface) const;
-
     const FontBook& fonts_;
     double scale_;
     QImage band_;

@@ -1,5 +1,6 @@
 #include "platform/svg/svg_file.h"
 
+#include "platform/ink_area.h"
 #include "platform/multiply_inks.h"
 #include "platform/svg/svg_text.h"
 #include "platform/twips.h"
@@ -93,16 +94,51 @@ private:
     QByteArray definitions_;
 };
 
+/// The areas that elements are cut at, each defined once.
+class ClipStore {
+public:
+    /// The value of a "clip-path".
+    QByteArray reference(const QRectF& area) {
+        auto place = std::find(areas_.begin(), areas_.end(), area);
+        if (place == areas_.end())
+            place = areas_.insert(areas_.end(), area);
+        return "url(#c" + QByteArray::number(place - areas_.begin() + 1) + ')';
+    }
+
+    QByteArray definitions() const {
+        QByteArray all;
+        for (std::size_t i = 0; i < areas_.size(); ++i)
+            all += "<clipPath id=\"c" + QByteArray::number(i + 1) + "\"><rect x=\"" +
+                   pixels(areas_[i].x()) + "\" y=\"" + pixels(areas_[i].y()) + "\" width=\"" +
+                   pixels(areas_[i].width()) + "\" height=\"" + pixels(areas_[i].height()) +
+                   "\"/></clipPath>\n";
+        return all;
+    }
+
+private:
+    std::vector<QRectF> areas_;
+};
+
 /// Writes the operations of one surface as elements, in pixels of the surface.
 class ElementWriter {
 public:
-    ElementWriter(const TextMetrics& metrics, PictureStore& pictures, QByteArray& out)
-        : metrics_(metrics), pictures_(pictures), out_(out) {}
+    ElementWriter(const QSizeF& surface, const TextMetrics& metrics, PictureStore& pictures,
+                  ClipStore& clips, QByteArray& out)
+        : surface_(surface), metrics_(metrics), pictures_(pictures), clips_(clips), out_(out) {}
 
-    /// `ink` is the operation's own where mask fills multiply.
+    /// `ink` is the operation's own where mask fills multiply. What stands on no part of the
+    /// surface is left out.
     void write(const Operation& operation, QRgb ink) {
         ink_ = ink;
-        std::visit(*this, operation);
+        std::visit(
+            [this](const auto& drawn) {
+                if constexpr (requires { inkArea(drawn, surface_, metrics_); }) {
+                    area_ = inkArea(drawn, surface_, metrics_);
+                    if (!area_.isEmpty())
+                        (*this)(drawn);
+                }
+            },
+            operation);
     }
 
     void operator()(const TextOperation& text) const {
@@ -121,6 +157,7 @@ public:
         if (text.font.italic)
             attribute("font-style", "italic");
         fillColour();
+        clip();
         if (text.width > 0)
             attribute("textLength", pixels(text.width));
         // The widths of sign faces are not those of the faces that have their signs.
@@ -155,6 +192,7 @@ public:
         attribute("stroke", colour(ink_));
         attribute("stroke-width", pixels(width));
         attribute("stroke-linecap", "square");
+        clip();
         attribute("style", "shape-rendering:auto");
         out_ += "/>\n";
     }
@@ -171,15 +209,19 @@ public:
         if (name.isEmpty())
             return;
         const Place place = onScreen(picture.x, picture.y, picture.width, picture.height);
+        const bool isCut =
+            !QRectF({}, surface_).contains({place.x, place.y, place.width, place.height});
+        if (isCut) {
+            out_ += "<g";
+            attribute("clip-path", clips_.reference(area_));
+            out_ += '>';
+        }
         out_ += "<use";
         attribute("xlink:href", "#" + name);
         attribute("transform", "translate(" + pixels(place.x) + ' ' + pixels(place.y) + ") scale(" +
                                    pixels(place.width) + ' ' + pixels(place.height) + ')');
-        out_ += "/>\n";
+        out_ += isCut ? "/></g>\n" : "/>\n";
     }
-
-    template <class Other>
-    void operator()(const Other&) const {}
 
     void link(const LinkArea& area, const QString& address) const {
         if (!near(area.x, area.y, area.width, area.height))
@@ -205,6 +247,12 @@ public:
 private:
     void attribute(const char* name, const QByteArray& value) const {
         out_.append(' ').append(name).append("=\"").append(value).append('"');
+    }
+
+    /// The whole surface with its margin is what the group is cut at.
+    void clip() const {
+        if (area_ != withInkMargin(surface_))
+            attribute("clip-path", clips_.reference(area_));
     }
 
     void fillColour() const {
@@ -235,21 +283,25 @@ private:
                    const char* className = nullptr) const {
         if (!near(x, y) || !(width > 0) || !(height > 0))
             return;
-        const Place place = onScreen(x, y, width, height);
-        if (place.width == 0 || place.height == 0)
+        const Place covered = onScreen(x, y, width, height);
+        const QRectF place = QRectF(covered.x, covered.y, covered.width, covered.height) & area_;
+        if (place.isEmpty())
             return;
         out_ += "<rect";
-        box(place.x, place.y, place.width, place.height);
+        box(place.x(), place.y(), place.width(), place.height());
         fillColour();
         if (className)
             attribute("class", className);
         out_ += "/>\n";
     }
 
+    QSizeF surface_;
     const TextMetrics& metrics_;
     PictureStore& pictures_;
+    ClipStore& clips_;
     QByteArray& out_;
     QRgb ink_ = 0;
+    QRectF area_; ///< of the operation at hand
 };
 
 class DocumentWriter {
@@ -262,7 +314,7 @@ public:
         for (const PlacedSurface& surface : sheet_.surfaces)
             writeSurface(surface);
         QByteArray document = head(scale);
-        document += clips_ + pictures_.definitions() + "</defs>\n";
+        document += clips_.definitions() + pictures_.definitions() + "</defs>\n";
         return document + body_ + "</svg>\n";
     }
 
@@ -281,12 +333,10 @@ private:
     }
 
     void writeSurface(const PlacedSurface& surface) {
-        const QByteArray name = "c" + QByteArray::number(++surfaces_);
-        clips_ += "<clipPath id=\"" + name + "\"><rect width=\"" + pixels(surface.width) +
-                  "\" height=\"" + pixels(surface.height) + "\"/></clipPath>\n";
+        const QSizeF size(surface.width, surface.height);
         body_ += "<g transform=\"translate(" + pixels(surface.x) + ' ' + pixels(surface.y) +
-                 ")\" clip-path=\"url(#" + name + ")\">\n";
-        ElementWriter elements(metrics_, pictures_, body_);
+                 ")\" clip-path=\"" + clips_.reference(withInkMargin(size)) + "\">\n";
+        ElementWriter elements(size, metrics_, pictures_, clips_, body_);
         for (std::size_t i = 0; i < sheet_.operations.size(); ++i)
             if (surfaceOf(sheet_.operations[i]) == surface.surface)
                 elements.write(sheet_.operations[i], inks_[i]);
@@ -302,9 +352,8 @@ private:
     const LinkAddress& address_;
     std::vector<QRgb> inks_;
     PictureStore pictures_;
-    QByteArray clips_;
+    ClipStore clips_;
     QByteArray body_;
-    int surfaces_ = 0;
 };
 
 } // namespace
