@@ -1,6 +1,7 @@
 #include "markup/renderer.h"
 
 #include "markup/directive_table.h"
+#include "platform/printable_text.h"
 #include "text/rounding.h"
 
 namespace markup {
@@ -128,15 +129,19 @@ void Renderer::drawLine(QStringView ligne) {
     }
     const bool finParagraphe = ligne.endsWith(kParagraphEnd);
     directive_ = {};
-    printTextLine((finParagraphe ? ligne.chopped(1) : ligne).toString(), finParagraphe);
+    QString buffer;
+    const QStringView texte = finParagraphe ? ligne.chopped(1) : ligne;
+    printTextLine(platform::composedText(texte, buffer).toString(), finParagraphe);
 }
 
 void Renderer::tradcode(QStringView ligne) {
     directive_ = ligne;
     const QStringView d = ligne.sliced(kDirectiveMark.size());
+    QString buffer;
+    const QStringView composed = platform::composedText(d, buffer);
     for (const Directive& directive : directiveTable())
         if (directive.matches(d))
-            directive.run(*this, d);
+            directive.run(*this, directive.argument == Argument::File ? d : composed);
 }
 
 void Renderer::printTextLine(const QString& texte, bool finParagraphe) {

@@ -55,6 +55,23 @@ TEST(FontBook, widthsAddUp) {
     EXPECT_EQ(fonts.height(font(u"Arial", 0)), 0);
 }
 
+TEST(FontBook, drawsNoBoxesForWhatOnlyProgramsRead) {
+    const platform::FontBook fonts;
+    const auto sans = font(u"Arial", 12);
+    for (const char16_t hidden : u"\u0001\u001F\u007F\u0085\u200E\uFEFF") {
+        const QString text = QString(u'a') + QChar(hidden) + u'b';
+        EXPECT_EQ(fonts.glyphs(sans, text).size(), 2u) << int(hidden);
+        EXPECT_EQ(fonts.width(sans, text), fonts.width(sans, u"ab")) << int(hidden);
+    }
+    for (const QChar blank : QStringLiteral("\t\n\r\f")) {
+        const auto glyphs = fonts.glyphs(sans, QString(u'a') + blank + u'b');
+        ASSERT_EQ(glyphs.size(), 3u);
+        EXPECT_EQ(glyphs[1].character, U' ');
+        EXPECT_EQ(glyphs[2].offset, fonts.width(sans, u"a "));
+    }
+    EXPECT_EQ(fonts.width(sans, u"\u00AD"), fonts.width(sans, u"-")) << "a soft hyphen";
+}
+
 TEST(FontBook, symbolCodesShowGreek) {
     const platform::FontBook fonts;
     const auto symbol = font(u"SYMBOL", 12);

@@ -1,5 +1,6 @@
 #include "platform/qt/font_book.h"
 
+#include "platform/printable_text.h"
 #include "platform/qt/face_file.h"
 #include "platform/sign_faces.h"
 #include "platform/twips.h"
@@ -191,6 +192,10 @@ private:
     }
 
     Glyph findUnicode(char32_t character, int firstStage) const {
+        if (showsNothing(character))
+            return {};
+        if (showsABlank(character))
+            return findUnicode(U' ', firstStage);
         for (int stage = firstStage; stage < static_cast<int>(stages_.size()); ++stage)
             if (const quint32 index = glyphIndex(reference(stage), character))
                 return measured(stage, index, character);

@@ -1,5 +1,6 @@
 #include "platform/svg/svg_text.h"
 
+#include "platform/printable_text.h"
 #include "platform/sign_faces.h"
 #include "platform/twips.h"
 
@@ -30,12 +31,13 @@ void appendUnit(QChar unit, QByteArray& out) {
     case '"':
         out += "&quot;";
         return;
-    case '\t':
-    case '\n':
-    case '\r':
-        out += ' ';
-        return;
     default:
+        if (showsNothing(unit.unicode()))
+            return;
+        if (showsABlank(unit.unicode())) {
+            out += ' ';
+            return;
+        }
         out += QString(isAllowed(unit) ? unit : QChar(QChar::ReplacementCharacter)).toUtf8();
     }
 }
