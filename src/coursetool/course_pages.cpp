@@ -60,10 +60,16 @@ viewer::BoundRecord CoursePages::draw(int position, OffscreenPage& page) {
     return bound;
 }
 
+SourcePlace CoursePages::place(int position) const {
+    const auto known = number(position);
+    return {file(), known ? "page " + std::to_string(*known) : "page sans numéro"};
+}
+
 platform::Sheet CoursePages::sheet(int position, const platform::TextMetrics& metrics,
-                                   markup::PictureShelf& pictures) {
+                                   markup::PictureShelf& pictures, Report& report) {
     OffscreenPage page(metrics, pictures);
     const viewer::BoundRecord bound = draw(position, page);
+    reportLost(page, place(position), report);
     platform::Sheet sheet = viewer::pageSheet(page.recording(), metrics, page.columnHeight());
     sheet.title = bound.Textitre.simplified();
     sheet.number = number(position).value_or(0);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "coursetool/course_records.h"
+#include "coursetool/lost_text.h"
 #include "coursetool/offscreen_page.h"
 #include "platform/sheet.h"
 #include "shell/shared_state.h"
@@ -36,9 +37,12 @@ public:
     viewer::BoundRecord draw(int position, OffscreenPage& page);
 
     /// The sheet of the page at a position. Every page starts anew: what the page before it left
-    /// does not show.
+    /// does not show. Warns of what of its source nobody sees.
     platform::Sheet sheet(int position, const platform::TextMetrics& metrics,
-                          markup::PictureShelf& pictures);
+                          markup::PictureShelf& pictures, Report& report);
+
+    /// Where the source of the page at a position is.
+    SourcePlace place(int position) const;
 
 private:
     explicit CoursePages(CourseRecords pages);

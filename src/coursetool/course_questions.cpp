@@ -58,11 +58,17 @@ void CourseQuestions::draw(int position, OffscreenQuestion& question) {
     question.draw(platform::shownText(questions_.records->field(QStringLiteral("question"))));
 }
 
+SourcePlace CourseQuestions::place(int position) const {
+    const auto known = reference(position);
+    return {file(), known ? "question " + std::to_string(*known) : "question sans référence"};
+}
+
 platform::Sheet CourseQuestions::sheet(int position, const platform::TextMetrics& metrics,
                                        markup::PictureShelf& pictures,
-                                       const platform::FieldPictures& fields) {
+                                       const platform::FieldPictures& fields, Report& report) {
     OffscreenQuestion question(metrics, pictures);
     draw(position, question);
+    reportUnended(question.code().text(), place(position), report);
     platform::Sheet sheet = question.sheet(fields);
     sheet.title = title(position);
     for (platform::LinkArea& link : sheet.links) {

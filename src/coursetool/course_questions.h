@@ -1,6 +1,7 @@
 #pragma once
 
 #include "coursetool/course_records.h"
+#include "coursetool/lost_text.h"
 #include "coursetool/offscreen_question.h"
 
 #include <map>
@@ -29,9 +30,14 @@ public:
     /// Draws the question at a position on a fresh `question`.
     void draw(int position, OffscreenQuestion& question);
 
-    /// The sheet of the question at a position; the tags of its links are page codes.
+    /// The sheet of the question at a position; the tags of its links are page codes. Warns of
+    /// what of its source nobody sees.
     platform::Sheet sheet(int position, const platform::TextMetrics& metrics,
-                          markup::PictureShelf& pictures, const platform::FieldPictures& fields);
+                          markup::PictureShelf& pictures, const platform::FieldPictures& fields,
+                          Report& report);
+
+    /// Where the source of the question at a position is.
+    SourcePlace place(int position) const;
 
 private:
     CourseQuestions(CourseRecords questions, const platform::Recordset* tests);

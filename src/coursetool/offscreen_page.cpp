@@ -49,9 +49,7 @@ double OffscreenPage::drawnHeight(SurfaceId surface) const {
 }
 
 platform::Sheet OffscreenPage::bareSheet() const {
-    const double height =
-        std::ceil(std::max(columnHeight(), drawnHeight(SurfaceId::PictureTexte)) / kTwipsPerPixel) *
-        kTwipsPerPixel;
+    const double height = std::ceil(columnHeight() / kTwipsPerPixel) * kTwipsPerPixel;
     if (drawnHeight(SurfaceId::Titre) > 0 || drawnHeight(SurfaceId::PictureIllus) > 0)
         return viewer::pageSheet(recording_, metrics_, height);
     constexpr double kMargin = kBareMarginPx * kTwipsPerPixel;

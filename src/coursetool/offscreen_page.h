@@ -25,6 +25,7 @@ public:
     markup::DrawingState& state() { return state_; }
     markup::Renderer& renderer() { return renderer_; }
     const platform::Recording& recording() const { return recording_; }
+    const platform::TextMetrics& metrics() const { return metrics_; }
 
     /// Draws a bare page source.
     void draw(const QString& source);
@@ -32,8 +33,8 @@ public:
     /// Height of the text column as the window scrolls it, in twips: what the page asked for,
     /// otherwise down to what was drawn.
     double columnHeight() const;
-    /// The column alone, with a margin and down to what was drawn; the whole page when it drew on
-    /// its title or its illustration.
+    /// The column alone, with a margin and as tall as the window has it; the whole page when it
+    /// drew on its title or its illustration.
     platform::Sheet bareSheet() const;
 
     platform::Surface& pictureTexte() override { return pictureTexte_; }

@@ -5,6 +5,7 @@
 #include "coursetool/offscreen_page.h"
 #include "coursetool/offscreen_question.h"
 #include "coursetool/page_source.h"
+#include "coursetool/paths.h"
 #include "coursetool/sheet_files.h"
 
 #include <QHash>
@@ -47,7 +48,7 @@ public:
                           "aucune page ne porte le numéro " + std::to_string(number));
             return;
         }
-        writeOne(pages->sheet(position, fonts_, pictures_));
+        writeOne(pages->sheet(position, fonts_, pictures_, report_));
     }
 
     void renderQuestion(int reference) {
@@ -60,7 +61,7 @@ public:
                           "aucune question ne porte la référence " + std::to_string(reference));
             return;
         }
-        writeOne(questions->sheet(*position, fonts_, pictures_, fields_));
+        writeOne(questions->sheet(*position, fonts_, pictures_, fields_, report_));
     }
 
     void renderAll() {
@@ -75,7 +76,8 @@ public:
         if (!files)
             return;
         for (int position = 0; position < pages->count(); ++position)
-            if (!files->add(pages->sheet(position, fonts_, pictures_), pageNames[position]))
+            if (!files->add(pages->sheet(position, fonts_, pictures_, report_),
+                            pageNames[position]))
                 return;
         if (!addQuestions(names, *files))
             return;
@@ -89,10 +91,12 @@ public:
         if (request_.source.extension() == kQuestionEnding) {
             OffscreenQuestion question(fonts_, pictures_);
             question.draw(*source);
+            reportUnended(*source, {shown(request_.source)}, report_);
             return writeOne(question.sheet(fields_));
         }
         OffscreenPage page(fonts_, pictures_);
         page.draw(*source);
+        reportLost(page, {shown(request_.source)}, report_);
         writeOne(page.bareSheet());
     }
 
@@ -115,7 +119,7 @@ private:
             return true; // a course need not have tests
         auto questions = CourseQuestions::open(request_.course, report_);
         for (int position = 0; questions && position < questions->count(); ++position)
-            if (!files.add(questions->sheet(position, fonts_, pictures_, fields_),
+            if (!files.add(questions->sheet(position, fonts_, pictures_, fields_, report_),
                            names.next("question", questions->reference(position))))
                 return false;
         return true;

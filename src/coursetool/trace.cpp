@@ -28,6 +28,7 @@ public:
             report_.warning({coursetool::shown(request_.course)},
                             "aucune page ne porte le numéro " + std::to_string(number) +
                                 " : voici celle que le programme montre à sa place");
+        reportLost(page, pages->place(pages->positionShown(number)), report_);
         write(page.recording(), page.state());
     }
 
@@ -41,7 +42,9 @@ public:
                             "aucune question ne porte la référence " + std::to_string(reference) +
                                 " : voici celle que le programme montre à sa place");
         OffscreenQuestion question(metrics_, pictures_);
-        questions->draw(position.value_or(questions->count() - 1), question);
+        const int drawn = position.value_or(questions->count() - 1);
+        questions->draw(drawn, question);
+        reportUnended(question.code().text(), questions->place(drawn), report_);
         write(question.recording(), question.state());
     }
 
@@ -51,6 +54,7 @@ public:
             return;
         OffscreenPage page(metrics_, pictures_);
         page.draw(*source);
+        reportLost(page, {coursetool::shown(request_.source)}, report_);
         write(page.recording(), page.state());
     }
 

@@ -160,6 +160,57 @@ TEST_F(Render, faultsAreNamed) {
     EXPECT_THAT(textOf(report), HasSubstr("aucun test ici : qekx.mdb manque"));
 }
 
+// The window ends where the pen does, and what has no line end is never drawn.
+TEST_F(Render, aSourceIsAsTallAsInTheWindowAndWhatIsLostIsTold) {
+    const struct {
+        const char* file;
+        const char* source;
+        int height; ///< of the picture
+        const char* told;
+    } rows[] = {
+        {"a.page", "un¶\r\ndeux¶\r\n", 16 + 30, ""},
+        {"a.page", "un¶\r\ndeux\r\n \r\n", 16 + 15,
+         "a.page:2: avertissement : « deux » ne se voit pas : la page s’arrête au-dessus ; finir "
+         "la ligne par « ¶ »\n"},
+        {"a.page", "un¶\r\n\r\ndeux¶", 16 + 15,
+         "a.page:3: avertissement : « deux¶ » ne compte pas : il manque une fin de ligne (CR LF) "
+         "après\n"},
+        {"a.page", "un\r\n", 16 + 15, ""}, // nothing ended: as tall as what stands there
+        {"a.page", "un¶\n##BOL1\n", 16, "a.page:1: avertissement : « un¶ ##BOL1 » ne compte pas"},
+        {"a.question", "un¶\r\ndeux\r\n", 32 + 30, ""}, // the test window shows all of it
+        {"a.question", "un¶\r\n##EXOOP", 32 + 15,
+         "a.question:2: avertissement : « ##EXOOP » ne compte pas"},
+    };
+    for (const auto& row : rows) {
+        report = {};
+        work.write(row.file, row.source);
+        RenderRequest request = one({}, {}, RenderFormat::Png, "a.png");
+        request.source = work.path(row.file);
+        draw(request);
+        EXPECT_EQ(QImage(QString::fromStdString(work.path("a.png").string())).height(), row.height)
+            << row.source;
+        if (*row.told)
+            EXPECT_THAT(textOf(report), HasSubstr(row.told));
+        else
+            EXPECT_EQ(textOf(report), "") << row.source;
+        EXPECT_FALSE(report.hasFaults());
+    }
+}
+
+TEST_F(Render, whatIsLostOfACourseIsToldByPage) {
+    writeDatabase(work.path("out/Zekx.mdb"),
+                  {{u"cours",
+                    {{u"Numeropage", jet::ColumnType::Long},
+                     {u"titre", jet::ColumnType::Text, 255},
+                     {u"fpc", jet::ColumnType::Memo}},
+                    {{5, u"Cinq", u"a¶\r\nb¶\r\nperdu\r\n"}, {7, u"Sept", u"a¶\r\nfin"}}}});
+    drawAll(RenderFormat::Svg, "all");
+    EXPECT_THAT(textOf(report),
+                AllOf(HasSubstr("Zekx.mdb: avertissement : page 5, ligne 3 : « perdu » ne se voit"),
+                      HasSubstr("Zekx.mdb: avertissement : page 7, ligne 2 : « fin » ne compte")));
+    EXPECT_THAT(work.read("all/page-005.svg"), Not(HasSubstr("perdu")));
+}
+
 TEST_F(Render, aTraceOfAQuestionTellsItsFields) {
     const auto traced = [&](int reference) {
         std::FILE* stream = std::tmpfile();
