@@ -1,6 +1,7 @@
 #include "markup/arguments.h"
 #include "markup/directives.h"
 #include "markup/renderer.h"
+#include "platform/twips.h"
 #include "text/rounding.h"
 
 #include <QList>
@@ -123,7 +124,9 @@ constexpr double kApart = 0.1;
 void drawReactionArrow(Renderer& renderer, const Strokes& strokes) {
     Surface& surface = renderer.surface();
     drawStrokes(surface, strokes);
-    surface.setPenX(surface.penX() + (kArrowEnd + kArrowRoom) * surface.textHeight());
+    // The point of the arrow covers the pixel at its end; the room begins after it.
+    surface.setPenX(surface.penX() + (kArrowEnd + kArrowRoom) * surface.textHeight() +
+                    surface.lineWidth() * platform::kTwipsPerPixel);
 }
 
 enum class Mark { Bar, Vector };

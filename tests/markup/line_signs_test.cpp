@@ -59,11 +59,12 @@ INSTANTIATE_TEST_SUITE_P(
                     Row{"equilibrium",
                         u"##K004\nx\n",
                         {"line 40,80 360,80", "line 360,80 310,50", "line 360,120 40,120",
-                         "line 40,120 90,150", "print 400,0 \"x\" Arial 10"}},
+                         "line 40,120 90,150", "print 415,0 \"x\" Arial 10"}},
+                    // 40 twips free on either side of the arrow, whose last pixel counts.
                     Row{"reaction",
                         u"##K104\nx\n",
                         {"line 40,100 360,100", "line 310,70 360,100", "line 360,100 310,130",
-                         "print 400,0 \"x\" Arial 10"}}));
+                         "print 415,0 \"x\" Arial 10"}}));
 
 /// Points that the lines of a source touch, sorted.
 std::vector<std::pair<double, double>> points(const char* source) {
