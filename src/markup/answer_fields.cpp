@@ -5,6 +5,8 @@
 #include "markup/renderer.h"
 #include "platform/link_view.h"
 
+#include <algorithm>
+
 namespace markup {
 
 namespace {
@@ -77,7 +79,10 @@ void questionLink(Renderer& renderer, QStringView d) {
     if (!fields || !argument)
         return;
     const platform::Surface& surface = renderer.surface();
-    auto icon = fieldAtPen(renderer, platform::FieldControl::Image1, 0,
+    // Level with the middle of the caption, as far as there is room above a first line.
+    const double level = (surface.textHeight() - AnswerFields::kIconWidth) / 2;
+    auto icon = fieldAtPen(renderer, platform::FieldControl::Image1,
+                           std::max(level, -std::max(0., surface.penY())),
                            AnswerFields::kIconWidth + AnswerFields::kIconGap);
     icon.tag = argument->after.toString();
     show(renderer, fields->Image1, icon);

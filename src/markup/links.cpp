@@ -14,6 +14,9 @@ constexpr qsizetype kKeyLength = 2;
 /// Tag of a picture that opens a floating menu.
 constexpr char16_t kFloating[] = u"FLOTTANT";
 
+/// Key of the sign of a link in the image list.
+constexpr char16_t kLinkSign[] = u"LK";
+
 /// Side of what stands for a picture that the image list does not have, in twips.
 constexpr double kPlaceholderSide = 24 * platform::kTwipsPerPixel;
 
@@ -91,6 +94,13 @@ platform::LinkOperation linkAtPen(Renderer& renderer, platform::LinkControl cont
     return link;
 }
 
+/// The symbol with this key; the sign of a link for a key that the image list does not have, so
+/// that there is something to click, the same wherever the page is shown.
+std::shared_ptr<const platform::Picture> symbolOrSign(PictureShelf& pictures, const QString& key) {
+    auto symbol = pictures.symbol(key);
+    return symbol ? symbol : pictures.symbol(QString::fromUtf16(kLinkSign));
+}
+
 /// Places a picture link; gives its index, nothing where links are only printed.
 std::optional<int> placePicture(Renderer& renderer, QStringView key, const QString& target,
                                 const QString& tooltip) {
@@ -98,7 +108,7 @@ std::optional<int> placePicture(Renderer& renderer, QStringView key, const QStri
     link.tag = target;
     link.tooltip = tooltip;
     link.key = key.toString();
-    link.picture = renderer.pictures().symbol(link.key);
+    link.picture = symbolOrSign(renderer.pictures(), link.key);
     const QSize pixels = link.picture ? link.picture->size() : QSize();
     link.width = link.picture ? pixels.width() * platform::kTwipsPerPixel : kPlaceholderSide;
     link.height = link.picture ? pixels.height() * platform::kTwipsPerPixel : kPlaceholderSide;
