@@ -36,7 +36,14 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"linksLeadToPages",
             u"##EXOLIle cours#12\n##EXOVIle film#13\nx\n##EXOLIa#\n",
             {"field Image1(0) 0,0 480 12", "field Labelien(0) 480,0 800 \"le cours\" 12",
-             "field Icovideo(0) 1280,0 360 tip \"le film\" 13", "print 1640,0 \"x\" Arial 10"}}));
+             "field Icovideo(0) 1280,0 360 tip \"le film\" 13", "print 1640,0 \"x\" Arial 10"}},
+        Row{"theSignOfALinkIsLevelWithItsCaption",
+            u"¶\n##EXOLIa#1\n",
+            {"field Image1(0) 0,120 480 1", "field Labelien(0) 480,200 100 \"a\" 1"}},
+        Row{"linksTakeTheTypeAndInkOfTheMoment",
+            u"##BOL1\n##UND1\n##SI20\n##C005\n##EXOLIa#1\n",
+            {"field Image1(0) 0,20 480 1",
+             "field Labelien(0) 480,0 200 \"a\" 1 Arial 20 bold #800000"}}));
 
 TEST(AnswerFieldsState, ofTwoTypedAnswersTheLastPlaceCounts) {
     PageBench bench;

@@ -51,6 +51,15 @@ TEST(Gradients, fadeToWhiteFromWhereTheDrawingStarts) {
     EXPECT_EQ(drawn[53], "print 0,450 \"x\" Arial 10");
 }
 
+TEST(Gradients, areAsWideAsTheColumnOfPaper) {
+    test_support::PageBench bench;
+    bench.state.enImpression = true;
+    bench.state.surfaceDessin = &bench.printer;
+    const QStringList drawn = bench.draw("¶\n##DGFOND4\n");
+    ASSERT_EQ(drawn.size(), 53);
+    EXPECT_EQ(drawn.first(), "fill 0,0 9000,120 mask #dce6ff");
+}
+
 TEST(Gradients, unknownStylesDrawNothing) {
     test_support::PageBench bench;
     EXPECT_EQ(bench.draw("##DGFOND9\n##DGFOND\n"), QStringList());

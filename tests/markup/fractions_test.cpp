@@ -37,6 +37,11 @@ INSTANTIATE_TEST_SUITE_P(
                     Row{"aNumeratorMayBeEmpty",
                         u"##FRAC#x\n",
                         {"print 0,100 \"x\" Arial 10", "line 0,100 100,100"}},
+                    Row{"itStartsAtAWholeTwip",
+                        u"##ALCE\n##SI.5\na\n##ALGA\n##SI10\n##FRAC1#2\nx\n",
+                        {"print 4497.5,0 \"a\" Arial 0.5", "print 4502,-100 \"1\" Arial 10",
+                         "print 4502,100 \"2\" Arial 10", "line 4502,100 4602,100",
+                         "print 4602,0 \"x\" Arial 10"}},
                     Row{"widthsAreWholeTwips",
                         u"##SI.5\n##FRACabc#d\nx\n",
                         {"print 0,-5 \"abc\" Arial 0.5", "print 5,5 \"d\" Arial 0.5",
@@ -64,6 +69,18 @@ INSTANTIATE_TEST_SUITE_P(
             u"x\n##FINFRAC\n¶\n",
             {"failed 5 ##NUMERATEUR", "failed 6 ##DENOMINATEUR", "print 150,0 \"x\" Arial 10",
              "line 150,0 250,0"}}));
+
+// The end of the fraction before counts while it is the further one: nothing checks the order.
+TEST(FractionEnd, isThatOfTheLastDenominator) {
+    test_support::PageBench bench;
+    EXPECT_EQ(bench.draw("##NUMERATEUR\nab\n##FINFRAC\n¶\n"),
+              QStringList({"print 0,-100 \"ab\" Arial 10", "line 0,-100 200,-100"}));
+    bench.draw("##POX100\n##NUMERATEUR\n##DENOMINATEUR\n##FINFRAC\n");
+    bench.state.hauteurPage = 0;
+    EXPECT_EQ(bench.draw("##NUMERATEUR\nab\n##FINFRAC\nx¶\n"),
+              QStringList({"print 0,-100 \"ab\" Arial 10", "line 0,-100 1500,-100",
+                           "print 1500,-200 \"x\" Arial 10"}));
+}
 
 // Nothing resets the start, meant so.
 TEST(FractionStart, survivesAPage) {

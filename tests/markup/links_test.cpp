@@ -43,9 +43,12 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"needATarget",
             u"##LIERTa#\n##LIERTa\n##LIERXLKa\n##ADMENa\nb\n",
             {"print 0,0 \"b\" Arial 10"}},
-        Row{"takeTheInkOfTheMoment",
-            u"##C005\n##UND1\n##LIERTa#X\n",
-            {"link Labelien(0) 0,0 100,200 \"a\" X #800000"}},
+        // But for the line under it, which marks the link under the pointer.
+        Row{"takeTheTypeAndInkOfTheMoment",
+            u"##C005\n##UND1\n##BOL1\n##LIERTa#X\n##BOL0\n##ITA1\n##SI20\n##FONT02\n##C000\n"
+            u"##LIERTb#X\n",
+            {"link Labelien(0) 0,0 100,200 \"a\" X Arial 10 bold #800000",
+             "link Labelien(1) 100,0 200,400 \"b\" X Times new roman 20 italic"}},
         // Without a target the kept line waits for the next link.
         Row{"haveAFirstLine",
             u"##LIER1un\n##LIERTdeux\n##LIERTtrois#X\n##LIERTquatre#Y\n",
@@ -107,6 +110,16 @@ TEST(LinkTable, menusBeyondTheTableStoreNothing) {
     EXPECT_EQ(bench.state.menuCourant, 21);
     EXPECT_EQ(test_support::describe(bench.recording).last(), "failed 23 ##ADMENperdu#PAG002");
     EXPECT_EQ(bench.entry(20, 0).caption, "");
+}
+
+TEST(LinkTable, aKeyWithoutASymbolShowsTheSignOfALink) {
+    LinkBench bench;
+    bench.draw("##LIERI??PAG012\n##LIERILKPAG012\n");
+    const auto picture = [&](int index) {
+        return bench.state.links.Imagelien.slot(index)->link.picture;
+    };
+    EXPECT_NE(picture(0), nullptr);
+    EXPECT_EQ(picture(0), picture(1));
 }
 
 TEST(PlainLinks, onPaperAreTextAndLeaveTheControlsAlone) {

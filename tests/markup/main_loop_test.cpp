@@ -35,17 +35,26 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"unknownDirectivesAreIgnored",
             u"##\n##ZZZ\n##bol1\n#\nun\n",
             {"print 0,0 \"#\" Arial 10", "print 100,0 \"un\" Arial 10"}},
-        Row{"aLoneLineFeedEndsNoLine", u"", {}}));
+        Row{"accentsJoinTheirLetter",
+            u"e\u0301te\u0301¶\n##INDe\u0302\n##LIERTa\u0300#X\n",
+            {"print 0,0 \"été\" Arial 10", "print 0,260 \"ê\" Arial 8",
+             "link Labelien(0) 80,200 100,200 \"à\" X"}},
+        Row{"fewAccentsHaveNoLetterOfTheirOwn",
+            u"x\u0304 n\u0303¶\n",
+            {"print 0,0 \"x\u0304 ñ\" Arial 10"}}));
 
 INSTANTIATE_TEST_SUITE_P(
     Alignment, MainLoop,
-    testing::Values(Row{"centreAndRightPlaceEachRun",
-                        u"##ALCE\nabcd\n##ALDR\nab\n##ALGA\nc\n",
-                        {"print 4300,0 \"abcd\" Arial 10", "print 8800,0 \"ab\" Arial 10",
-                         "print 9000,0 \"c\" Arial 10"}},
-                    Row{"paragraphsStartAtTheLeftMargin",
-                        u"##ALDR\nab¶\n##ALGA\nc\n",
-                        {"print 8800,0 \"ab\" Arial 10", "print 0,200 \"c\" Arial 10"}}));
+    testing::Values(
+        Row{"centreAndRightPlaceEachRun",
+            u"##ALCE\nabcd\n##ALDR\nab\n##ALGA\nc\n",
+            {"print 4300,0 \"abcd\" Arial 10", "print 8800,0 \"ab\" Arial 10",
+             "print 9000,0 \"c\" Arial 10"}},
+        // An empty line prints nothing, but is aligned as any other.
+        Row{"anEmptyLineIsAlignedToo", u"##ALCE\n\n##ALGA\nc\n", {"print 4500,0 \"c\" Arial 10"}},
+        Row{"paragraphsStartAtTheLeftMargin",
+            u"##ALDR\nab¶\n##ALGA\nc\n",
+            {"print 8800,0 \"ab\" Arial 10", "print 0,200 \"c\" Arial 10"}}));
 
 INSTANTIATE_TEST_SUITE_P(
     Shadow, MainLoop,
@@ -61,12 +70,22 @@ INSTANTIATE_TEST_SUITE_P(
                         {"failed 3 ", "print 15,15 \"un\" Arial 10 #800000",
                          "print 0,0 \"un\" Arial 10 #800000"}}));
 
-TEST(MainLoopState, aLoneLineFeedIsText) {
+TEST(MainLoopState, aLoneLineFeedOrReturnEndsNoLine) {
     test_support::PageBench bench;
-    bench.holder.setText(QStringLiteral("a\nb\r\nc\r"));
+    bench.holder.setText(QStringLiteral("a\nb\rc¶\n\r\nd\r\ne\r"));
     bench.renderer.affichepage();
     EXPECT_EQ(test_support::describe(bench.recording),
-              QStringList({"print 0,0 \"a\nb\" Arial 10"}));
+              QStringList({"print 0,0 \"a\nb\rc¶\n\" Arial 10", "print 700,0 \"d\" Arial 10"}));
+}
+
+// Names of files have to be those of the disc; composing an endless line takes no endless time.
+TEST(MainLoopState, fileNamesAndHugeLinesAreLeftWhole) {
+    test_support::PageBench bench;
+    bench.draw(QStringLiteral("##IXAe\u0301.bmp\n##VIDEOe\u0301.avi\n"));
+    EXPECT_EQ(bench.pictures.asked, QStringList(QStringLiteral("e\u0301.bmp")));
+    EXPECT_EQ(bench.state.videoPage, QStringLiteral("e\u0301.avi"));
+    const QStringList drawn = bench.draw(QStringLiteral("e\u0301").repeated(500'000) + "¶\n");
+    EXPECT_EQ(drawn.value(0).count(u'é'), 500'000);
 }
 
 TEST(MainLoopState, leavesTheHeightDrawn) {
@@ -75,6 +94,14 @@ TEST(MainLoopState, leavesTheHeightDrawn) {
     EXPECT_EQ(bench.state.hauteurPage, 215);
     EXPECT_DOUBLE_EQ(bench.texte.heightPx(), 215 / 15.);
     EXPECT_EQ(bench.busy, QList<bool>({true, false}));
+}
+
+TEST(MainLoopState, aHeightThatIsNoneIsRefused) {
+    test_support::PageBench bench;
+    bench.draw("un¶\n");
+    EXPECT_EQ(bench.draw("##DECLIG-5\n").last(), "failed 1 ");
+    EXPECT_EQ(bench.state.hauteurPage, 200 - 1000);
+    EXPECT_DOUBLE_EQ(bench.texte.heightPx(), 200 / 15.) << "the surface keeps the one it had";
 }
 
 TEST(MainLoopState, goesOnBelowWhatStandsWhenTheHeightIsKept) {
@@ -92,6 +119,17 @@ TEST(MainLoopState, stylesDoNotReachTheNextPage) {
     bench.state.hauteurPage = 0;
     EXPECT_EQ(bench.draw("un¶\ndeux¶\n"),
               QStringList({"print 0,0 \"un\" Arial 10", "print 0,200 \"deux\" Arial 10"}));
+}
+
+TEST(MainLoopState, neitherAnOpenRowNorHalfALinkReachesTheNextPage) {
+    test_support::PageBench bench;
+    bench.draw("##TCH04\n##PIY020\n##TAB010200 1\n¶\n¶\n##LIER1perdu\n");
+    bench.state.hauteurPage = 0;
+    bench.state.links = {};
+    EXPECT_EQ(bench.draw("##LIERTseul#X\n¶\n##TAB010020 1\n¶\n##FINTAB\n"),
+              QStringList({"link Labelien(0) 0,0 400,200 \"seul\" X",
+                           "line 150,200 300,200 #0000ff", "line 150,400 300,400 #0000ff",
+                           "line 150,200 150,400 #0000ff", "line 300,200 300,400 #0000ff"}));
 }
 
 TEST(MainLoopState, paperHasAColumnOfItsOwnAndKeepsThePointer) {

@@ -28,7 +28,10 @@ INSTANTIATE_TEST_SUITE_P(
             u"##DECLIG1E300\nx\n",
             {"failed 1 ##DECLIG1E300", "print 0,0 \"x\" Arial 10"}},
         // The text measured includes the "C" of "FEINC", meant so: three characters, not two.
-        Row{"centringCountsTheLetterC", u"##FEINCab\nab\n", {"print 4350,0 \"ab\" Arial 10"}}));
+        Row{"centringCountsTheLetterC", u"##FEINCab\nab\n", {"print 4350,0 \"ab\" Arial 10"}},
+        Row{"inACellItIsTheCells",
+            u"##TAB010200 1\n##FEINCab\nab\n",
+            {"print 1425,0 \"ab\" Arial 10"}}));
 
 INSTANTIATE_TEST_SUITE_P(
     Shifts, Positioning,
@@ -85,9 +88,11 @@ TEST(Surfaces, sizeFollowsThePen) {
 
 TEST(Surfaces, refreshShowsWhatWasDrawnSoFarAndGrows) {
     test_support::PageBench bench;
-    bench.draw("a¶\n##PLOUF\nb¶\n##PLOUFX\n");
-    EXPECT_EQ(bench.refreshedAt, QList<int>({1}));
+    // The surface that a page ends on is cut to what was drawn, the others keep their height.
+    bench.draw("a¶\n##PLOUF\nb¶\n##PLOUFX\n##PLOUF\n##OBJILLUS\n");
+    EXPECT_EQ(bench.refreshedAt, QList<int>({1, 2}));
     EXPECT_EQ(bench.refreshed, &bench.texte);
+    EXPECT_EQ(bench.texte.heightPx(), 2000);
 }
 
 TEST(Surfaces, captionKeepsItsEighteenBlanks) {

@@ -12,6 +12,15 @@ TEST_P(Styling, draws) {
     draws();
 }
 
+/// A point in each of these inks, side by side; "" is black.
+QStringList inks(const QStringList& colours) {
+    QStringList points;
+    for (const QString& colour : colours)
+        points += QStringLiteral("print %1,0 \".\" Arial 10").arg(100 * points.size()) +
+                  (colour.isEmpty() ? colour : " #" + colour);
+    return points;
+}
+
 INSTANTIATE_TEST_SUITE_P(
     Fonts, Styling,
     testing::Values(
@@ -38,10 +47,12 @@ INSTANTIATE_TEST_SUITE_P(
 INSTANTIATE_TEST_SUITE_P(
     Inks, Styling,
     testing::Values(Row{"ofTheTable",
-                        u"##C002\na\n##C008\nb\n##C014\nc\n##C007\nd\n",
-                        {"print 0,0 \"a\" Arial 10 #0000c8", "print 100,0 \"b\" Arial 10 #b46400",
-                         "print 200,0 \"c\" Arial 10 #00c0c0",
-                         "print 300,0 \"d\" Arial 10 #00ff00"}},
+                        u"##C001\n.\n##C002\n.\n##C003\n.\n##C004\n.\n##C005\n.\n"
+                        u"##C006\n.\n##C007\n.\n##C008\n.\n##C009\n.\n##C010\n.\n"
+                        u"##C011\n.\n##C012\n.\n##C013\n.\n##C014\n.\n##C000\n.\n",
+                        inks({"000080", "0000c8", "0000ff", "008000", "800000", "5a5ad2", "00ff00",
+                              "b46400", "1eb450", "808080", "ff0000", "00c000", "8080ff", "00c0c0",
+                              ""})},
                     Row{"numbersOutsideKeepTheInk",
                         u"##C005\n##C015\n##C-01\nx\n",
                         {"print 0,0 \"x\" Arial 10 #800000"}},

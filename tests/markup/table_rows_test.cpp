@@ -56,14 +56,27 @@ INSTANTIATE_TEST_SUITE_P(
             QStringList("print 270,150 \"a\" Arial 10") +
                 borders({"line 150,150 300,150", "line 150,150 300,150", "line 150,150 150,150",
                          "line 300,150 300,150"})},
+        Row{"aSecondRowStartsUnderTheFirst",
+            u"##TAB010020 1\n¶\n¶\n##FINTAB\n##TAB010020 1\n¶\n##FINTAB\n##ALDR\nx¶\n##ALGA\n"
+            u"y\n",
+            borders({"line 150,0 300,0", "line 150,400 300,400", "line 150,0 150,400",
+                     "line 300,0 300,400", "line 150,400 300,400", "line 150,600 300,600",
+                     "line 150,400 150,600", "line 300,400 300,600"}) +
+                QStringList({"print 8900,600 \"x\" Arial 10", "print 0,800 \"y\" Arial 10"})},
+        Row{"aPenThatRisesMakesTheRowNoLower",
+            u"##PIY010\n##TAB010020 1\n¶\n¶\n##TAB020030 2\n¶\n##DECLIG-2\n##FINTAB\nx\n",
+            borders({"line 150,150 450,150", "line 150,550 450,550", "line 150,150 150,550",
+                     "line 300,150 300,550", "line 450,150 450,550"}) +
+                QStringList("print 0,550 \"x\" Arial 10")},
         // The text goes on in the frame, with the last cell's right margin, meant so.
         Row{"returningKeepsTheRightMargin", u"##TAB010020 1\n¶\n##FTABRET\n##ALDR\nx¶\n##ALGA\ny\n",
             borders({"line 150,0 300,0", "line 150,200 300,200", "line 150,0 150,200",
                      "line 300,0 300,200"}) +
                 QStringList({"print 80,0 \"x\" Arial 10", "print 0,200 \"y\" Arial 10"})},
         Row{"thereMayBeNone",
-            u"##TAB010020 1\n¶\n##FINITAB\nx\n",
-            {"print 0,200 \"x\" Arial 10"}}));
+            u"##TAB010020 1\n¶\n##FINITAB\nx¶\ny¶\n##ALDR\nz\n",
+            {"print 0,200 \"x\" Arial 10", "print 0,400 \"y\" Arial 10",
+             "print 8900,600 \"z\" Arial 10"}}));
 
 TEST(RowBorders, cell31HasNone) {
     test_support::PageBench bench;
@@ -84,9 +97,16 @@ TEST(Rows, giveTheColumnOfPaperBack) {
 INSTANTIATE_TEST_SUITE_P(
     Fills, TableRows,
     testing::Values(Row{"leaveTheTextVisible",
-                        u"##TAB010020 1\na¶\n##FINTAC01\nx\n",
+                        u"##TAB010020 1\na¶\n##FINTAC01\nx¶\ny¶\n##ALDR\nz\n",
                         {"print 270,0 \"a\" Arial 10", "fill 150,0 150,200 mask #dcffe6",
-                         "print 0,200 \"x\" Arial 10"}},
+                         "print 0,200 \"x\" Arial 10", "print 0,400 \"y\" Arial 10",
+                         "print 8900,600 \"z\" Arial 10"}},
+                    Row{"ofTheTable",
+                        u"##TAB000010 1\n##FINTAC01\n##TAB000010 1\n##FINTAC02\n##TAB000010 1\n"
+                        u"##FINTAC04\n##TAB000010 1\n##FINTAC05\n##TAB000010 1\n##FINTAC06\n",
+                        {"fill 0,0 150,0 mask #dcffe6", "fill 0,0 150,0 mask #ffffdc",
+                         "fill 0,0 150,0 mask #dce6ff", "fill 0,0 150,0 mask #fff0dc",
+                         "fill 0,0 150,0 mask #ff9696"}},
                     Row{"otherStylesAreYellow",
                         u"##TAB010020 1\n##FINTAC07\n##FINTAC\n",
                         {"fill 150,0 150,0 mask #ffff00", "fill 150,0 8970,0 mask #ffff00"}},

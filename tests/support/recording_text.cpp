@@ -13,18 +13,26 @@ QString colour(QRgb ink) {
                              : QStringLiteral(" #%1").arg(ink & 0xffffff, 6, 16, QLatin1Char('0'));
 }
 
+QString type(const platform::Font& font) {
+    QString words = QStringLiteral(" %1 %2").arg(font.face).arg(font.points);
+    if (font.bold)
+        words += QStringLiteral(" bold");
+    if (font.italic)
+        words += QStringLiteral(" italic");
+    if (font.underline)
+        words += QStringLiteral(" underline");
+    return words;
+}
+
+/// Captions are nearly always in the type that a page starts with.
+QString captionType(const platform::Font& font) {
+    return font == platform::Font() ? QString() : type(font);
+}
+
 struct Describe {
     QString operator()(const platform::TextOperation& text) const {
-        QString line = QStringLiteral("print %1 \"%2\" %3 %4")
-                           .arg(point(text.x, text.y), text.text, text.font.face)
-                           .arg(text.font.points);
-        if (text.font.bold)
-            line += QStringLiteral(" bold");
-        if (text.font.italic)
-            line += QStringLiteral(" italic");
-        if (text.font.underline)
-            line += QStringLiteral(" underline");
-        return line + colour(text.ink);
+        return QStringLiteral("print %1 \"%2\"").arg(point(text.x, text.y), text.text) +
+               type(text.font) + colour(text.ink);
     }
     QString operator()(const platform::LineOperation& line) const {
         return QStringLiteral("line %1 %2").arg(point(line.x1, line.y1), point(line.x2, line.y2)) +
@@ -50,7 +58,7 @@ struct Describe {
                                 link.caption + link.key, link.tag);
         if (!link.tooltip.isEmpty())
             line += QStringLiteral(" tip \"%1\"").arg(link.tooltip);
-        return line + colour(link.ink);
+        return line + captionType(link.font) + colour(link.ink);
     }
     QString operator()(const platform::MenuOperation& menu) const {
         return QStringLiteral("menu %1 %2 \"%3\" %4")
@@ -68,7 +76,9 @@ struct Describe {
             line += QStringLiteral(" \"%1\"").arg(field.caption);
         if (!field.tooltip.isEmpty())
             line += QStringLiteral(" tip \"%1\"").arg(field.tooltip);
-        return field.tag.isEmpty() ? line : line + u' ' + field.tag;
+        if (!field.tag.isEmpty())
+            line += u' ' + field.tag;
+        return line + captionType(field.font) + colour(field.ink);
     }
     QString operator()(const platform::VideoOperation& video) const {
         return QStringLiteral("video ") + video.name;
