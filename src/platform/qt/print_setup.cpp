@@ -9,6 +9,8 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QProcess>
+#include <QSettings>
 #include <QStandardPaths>
 #include <QTranslator>
 
@@ -17,6 +19,12 @@ namespace platform {
 namespace {
 
 constexpr char16_t kFileName[] = u"Orvalente.pdf";
+
+/// The dialogs that come with the toolkit keep the folders that were visited in a file of settings,
+/// to find them there again. Nothing of this program stays behind: their settings lead nowhere.
+void forgetSettings() {
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QProcess::nullDevice());
+}
 
 /// The dialogs that come with the toolkit speak English by themselves.
 void loadFrenchTexts() {
@@ -51,9 +59,11 @@ void nameFile(QPrinter& device) {
 } // namespace
 
 PrinterSetup::Outcome QtPrinterSetup::ask() {
-    if (!speaksFrench_)
+    if (!dialogsPrepared_) {
+        forgetSettings();
         loadFrenchTexts();
-    speaksFrench_ = true;
+    }
+    dialogsPrepared_ = true;
     return QPrinterInfo::availablePrinterNames().isEmpty() ? askForFile() : askForPrinter();
 }
 

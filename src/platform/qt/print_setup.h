@@ -24,7 +24,7 @@ private:
 
     QtPrinter& printer_;
     Prompter& prompter_;
-    bool speaksFrench_ = false;
+    bool dialogsPrepared_ = false;
 };
 
 } // namespace platform

@@ -80,6 +80,7 @@ PrintSetupDialog::PrintSetupDialog(const PrintSettings& settings, Prompter& prom
     auto* notice = new QLabel(QStringLiteral("Aucune imprimante n’est installée\u00A0: les pages "
                                              "iront dans un fichier PDF."),
                               this);
+    notice->setTextFormat(Qt::PlainText);
     rows_->addWidget(notice, 0, 0, 1, 2);
     rows_->setRowMinimumHeight(0, 3 * kGrid);
     addRow(QStringLiteral("&Fichier"), file_, fileRow(settings.file));
@@ -120,6 +121,7 @@ void PrintSetupDialog::dress() {
 /// `field` is what the caption's mnemonic leads to; null for rows of several.
 void PrintSetupDialog::addRow(const QString& caption, QWidget* field, QLayout* row) {
     auto* label = new QLabel(caption, this);
+    label->setTextFormat(Qt::PlainText);
     label->setBuddy(field);
     const int at = rows_->rowCount();
     rows_->addWidget(label, at, 0);
@@ -165,6 +167,7 @@ QLayout* PrintSetupDialog::marginRow(const QMarginsF& margins) {
                  {QStringLiteral("bas"), margins.bottom()}};
     for (std::size_t i = 0; i < margins_.size(); ++i) {
         auto* label = new QLabel(edges[i].caption, this);
+        label->setTextFormat(Qt::PlainText);
         margins_[i] = new QSpinBox(this);
         margins_[i]->setRange(kLeastMargin, kWidestMargin);
         margins_[i]->setSuffix(QStringLiteral(" mm"));
@@ -212,10 +215,12 @@ PrintSettings PrintSetupDialog::settings() const {
 }
 
 void PrintSetupDialog::browse() {
-    // Whether a file is to be replaced is asked when all is confirmed.
+    // Whether a file is to be replaced is asked when all is confirmed. A desktop's own dialog would
+    // keep the folders that were visited.
     const QString chosen = QFileDialog::getSaveFileName(
         this, QStringLiteral("Fichier PDF"), fileNamed(file_->text()),
-        QStringLiteral("Fichiers PDF (*.pdf)"), nullptr, QFileDialog::DontConfirmOverwrite);
+        QStringLiteral("Fichiers PDF (*.pdf)"), nullptr,
+        QFileDialog::DontConfirmOverwrite | QFileDialog::DontUseNativeDialog);
     if (!chosen.isEmpty())
         file_->setText(QDir::toNativeSeparators(chosen));
 }
