@@ -3,6 +3,7 @@
 #include "platform/qt/look/interface_font.h"
 #include "platform/qt/look/palette.h"
 
+#include <QColor>
 #include <QHelpEvent>
 #include <QPalette>
 #include <QToolTip>
@@ -22,15 +23,16 @@ QString asMarkup(const QString& words) {
     const bool wraps = words.size() > kLine;
     const QString shown = words.size() > kMost ? words.first(kMost) + u'…' : words;
     const QString signs = shown.toHtmlEscaped().replace(u'\n', QStringLiteral("<br>"));
-    return QStringLiteral("<div style='white-space:%1'>%2</div>")
-        .arg(wraps ? QStringLiteral("normal") : QStringLiteral("pre"), signs);
+    return QStringLiteral("<div style='color:%1;margin:2px 4px;white-space:%2'>%3</div>")
+        .arg(QColor::fromRgb(kInk).name(), wraps ? QStringLiteral("normal") : QStringLiteral("pre"),
+             signs);
 }
 
 bool dressTips() {
     QToolTip::setFont(interfaceFont(kButtonPx));
     QPalette colours = QToolTip::palette();
     colours.setColor(QPalette::ToolTipBase, QColor::fromRgb(kPaper));
-    colours.setColor(QPalette::ToolTipText, QColor::fromRgb(kInk));
+    colours.setColor(QPalette::ToolTipText, QColor::fromRgb(kEdge)); // of the border
     QToolTip::setPalette(colours);
     return true;
 }
