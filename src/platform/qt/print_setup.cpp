@@ -1,5 +1,6 @@
 #include "platform/qt/print_setup.h"
 
+#include "platform/qt/look/dress.h"
 #include "platform/qt/print_setup_dialog.h"
 
 #include <QApplication>
@@ -75,6 +76,7 @@ PrinterSetup::Outcome QtPrinterSetup::askForPrinter() {
     // The course says which pages belong together.
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize |
                       QAbstractPrintDialog::PrintCollateCopies);
+    look::dress(dialog);
     const Outcome outcome = answerOf(dialog);
     nameFile(device);
     return outcome;
