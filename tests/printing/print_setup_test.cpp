@@ -7,6 +7,8 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDir>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QPrinter>
 #include <QPrinterInfo>
@@ -89,6 +91,29 @@ TEST_F(PrintSetup, theToolkitsControlsLookLikeOurOwn) {
         EXPECT_NE(underlined.copy(choice->geometry()), plain.copy(choice->geometry()));
     QTest::keyClick(size, Qt::Key_Y, Qt::AltModifier);
     EXPECT_EQ(dialog.settings().layout.orientation(), QPageLayout::Landscape);
+}
+
+TEST_F(PrintSetup, theFileIsLookedForWhereItStands) {
+    ASSERT_TRUE(QDir(directory.path()).mkdir("cours"));
+    const struct {
+        QString file, directory, name;
+    } rows[] = {{path("cours/a.pdf"), path("cours"), "a.pdf"},
+                {path("nulle/part.pdf"), QDir::homePath(), "part.pdf"}};
+    for (const auto& row : rows) {
+        platform::PrintSetupDialog dialog({QPageLayout(), row.file}, prompter, nullptr);
+        dialog.show();
+        QTimer::singleShot(0, [&row] {
+            auto* files = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(files);
+            EXPECT_EQ(files->directory().path(), row.directory);
+            EXPECT_EQ(files->findChild<QLineEdit*>("fileNameEdit")->text(), row.name);
+            files->setDirectory(row.directory);
+            files->findChild<QLineEdit*>("fileNameEdit")->setText("b.pdf");
+            QTest::keyClick(files, Qt::Key_Return);
+        });
+        button(dialog, "Parcourir…")->click();
+        EXPECT_EQ(dialog.settings().file, row.directory + "/b.pdf");
+    }
 }
 
 TEST_F(PrintSetup, onlyAFileThatCanBeWrittenIsConfirmed) {

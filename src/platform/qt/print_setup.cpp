@@ -1,6 +1,7 @@
 #include "platform/qt/print_setup.h"
 
 #include "platform/qt/look/dress.h"
+#include "platform/qt/no_settings.h"
 #include "platform/qt/print_setup_dialog.h"
 
 #include <QApplication>
@@ -10,8 +11,6 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
-#include <QProcess>
-#include <QSettings>
 #include <QStandardPaths>
 #include <QTranslator>
 
@@ -20,12 +19,6 @@ namespace platform {
 namespace {
 
 constexpr char16_t kFileName[] = u"Orvalente.pdf";
-
-/// The dialogs that come with the toolkit keep the folders that were visited in a file of settings,
-/// to find them there again. Nothing of this program stays behind: their settings lead nowhere.
-void forgetSettings() {
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QProcess::nullDevice());
-}
 
 /// The dialogs that come with the toolkit speak English by themselves.
 void loadFrenchTexts() {
@@ -60,17 +53,16 @@ void nameFile(QPrinter& device) {
 } // namespace
 
 PrinterSetup::Outcome QtPrinterSetup::ask() {
-    if (!dialogsPrepared_) {
-        forgetSettings();
+    if (!speaksFrench_)
         loadFrenchTexts();
-    }
-    dialogsPrepared_ = true;
+    speaksFrench_ = true;
     return QPrinterInfo::availablePrinterNames().isEmpty() ? askForFile() : askForPrinter();
 }
 
 PrinterSetup::Outcome QtPrinterSetup::askForPrinter() {
     QPrinter& device = printer_.device();
     device.setDocName(QStringLiteral("Orvalente"));
+    keepNoSettings();
     QPrintDialog dialog(&device, QApplication::activeWindow());
     dialog.setWindowTitle(QStringLiteral("Imprimer"));
     // The course says which pages belong together.

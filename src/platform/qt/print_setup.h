@@ -24,7 +24,7 @@ private:
 
     QtPrinter& printer_;
     Prompter& prompter_;
-    bool dialogsPrepared_ = false;
+    bool speaksFrench_ = false;
 };
 
 } // namespace platform

@@ -5,6 +5,7 @@
 #include "platform/qt/look/mnemonics.h"
 #include "platform/qt/look/option_button.h"
 #include "platform/qt/look/text_field.h"
+#include "platform/qt/no_settings.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -197,6 +198,7 @@ PrintSettings PrintSetupDialog::settings() const {
 }
 
 void PrintSetupDialog::browse() {
+    keepNoSettings();
     QFileDialog dialog(this, QStringLiteral("Fichier PDF"), {},
                        QStringLiteral("Fichiers PDF (*.pdf)"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
@@ -204,7 +206,9 @@ void PrintSetupDialog::browse() {
     // Whether a file is to be replaced is asked when all is confirmed. A desktop's own dialog would
     // keep the folders that were visited.
     dialog.setOptions(QFileDialog::DontConfirmOverwrite | QFileDialog::DontUseNativeDialog);
-    dialog.selectFile(fileNamed(file_->text()));
+    const QFileInfo file(fileNamed(file_->text()));
+    dialog.setDirectory(file.dir().exists() ? file.absolutePath() : QDir::homePath());
+    dialog.selectFile(file.fileName());
     look::dress(dialog);
     const QString chosen =
         dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
