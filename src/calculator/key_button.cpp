@@ -2,6 +2,7 @@
 
 #include "platform/qt/look/palette.h"
 #include "platform/qt/look/pixels.h"
+#include "platform/qt/look/tool_tip.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -41,7 +42,7 @@ KeyButton::KeyButton(const Key& key, const KeyPlace& place, QWidget* parent)
     setObjectName(key.name.toString());
     setFont(look::interfaceFont(place.captionPx, weightOf(place)));
     setGeometry(place.x, place.y, place.width, place.height);
-    setToolTip(key.tooltip.toString());
+    look::setToolTip(*this, key.tooltip.toString());
     if (!key.tooltip.isEmpty())
         setAccessibleName(key.tooltip.toString());
 }

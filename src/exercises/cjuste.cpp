@@ -39,6 +39,7 @@ Cjuste::Cjuste(QWidget* window)
     behind_ = window->grab(place);
 
     auto* Label3 = new QLabel(words, this);
+    Label3->setTextFormat(Qt::PlainText);
     Label3->setObjectName(QStringLiteral("Label3"));
     Label3->setFont(look::interfaceFont(kWordsPx, look::Weight::Bold));
     look::setInk(*Label3, look::kGreen);

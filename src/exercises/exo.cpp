@@ -11,6 +11,7 @@
 #include "platform/qt/look/mnemonics.h"
 #include "platform/qt/look/palette.h"
 #include "platform/qt/look/scroll_bar.h"
+#include "platform/qt/look/tool_tip.h"
 #include "viewer/page_panel.h"
 #include "viewer/picture_box.h"
 #include "viewer/surface_widths.h"
@@ -59,6 +60,7 @@ QLabel* addLabel(const char* name, const QRect& place, QRgb ink, QWidget* parent
 /// the button.
 void addWords(const char* name, Button& button) {
     auto* label = new QLabel(&button);
+    label->setTextFormat(Qt::PlainText);
     label->setObjectName(QString::fromLatin1(name));
     label->setAccessibleName(button.plainCaption());
     label->setGeometry(40, 8, button.width() - 48, button.height() - 16);
@@ -133,7 +135,7 @@ void Exo::addButtons() {
                             const QRect& place, const Button::Look& shape) {
         auto* button = new Button(QString::fromUtf8(caption), shape, body_);
         button->setObjectName(QString::fromLatin1(name));
-        button->setToolTip(QString::fromUtf8(toolTip));
+        look::setToolTip(*button, QString::fromUtf8(toolTip));
         button->setAccessibleDescription(button->toolTip());
         button->setGeometry(place);
         return button;

@@ -7,6 +7,7 @@
 #include "exercises/strip.h"
 #include "platform/qt/look/button.h"
 #include "platform/qt/look/text_field.h"
+#include "platform/qt/look/tool_tip.h"
 #include "platform/twips.h"
 #include "viewer/page_panel.h"
 #include "viewer/picture_box.h"
@@ -52,7 +53,7 @@ void Exo::setTitle(const QString& title) {
     const QString shown =
         Label2_->fontMetrics().elidedText(words, Qt::ElideRight, Label2_->width());
     Label2_->setText(shown);
-    Label2_->setToolTip(shown == words ? QString() : words);
+    platform::look::setToolTip(*Label2_, shown == words ? QString() : words);
     Label2_->setAccessibleName(words);
 }
 

@@ -4,6 +4,7 @@
 #include "platform/link_view.h"
 #include "platform/qt/look/palette.h"
 #include "platform/qt/look/pixels.h"
+#include "platform/qt/look/tool_tip.h"
 #include "platform/qt/raster_surface.h"
 #include "platform/surface.h"
 #include "platform/twips.h"
@@ -101,7 +102,7 @@ LinkIcon::LinkIcon(const QString& drawing, QWidget* parent) : QuestionLink(paren
 
 void LinkIcon::show(const platform::FieldOperation& field) {
     setTag(field.tag);
-    setToolTip(field.tooltip);
+    look::setToolTip(*this, field.tooltip);
     move(placeOf(field) - QPoint(kMargin, kMargin));
     setVisible(true);
 }

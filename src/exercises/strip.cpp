@@ -6,12 +6,12 @@
 #include "platform/qt/look/interface_font.h"
 #include "platform/qt/look/palette.h"
 #include "platform/qt/look/pixels.h"
+#include "platform/qt/look/tool_tip.h"
 
 #include <QFontMetricsF>
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QToolTip>
 
 #include <algorithm>
 
@@ -155,8 +155,8 @@ bool Strip::event(QEvent* event) {
         return QWidget::event(event);
     const auto* help = static_cast<QHelpEvent*>(event);
     if (const auto question = questionAt(help->pos().y(), test_.QuestionCount, height()))
-        QToolTip::showText(help->globalPos(),
-                           bandName(*question, test_.QuestionState.valueOr(*question, 0)), this);
+        look::showToolTip(help->globalPos(),
+                          bandName(*question, test_.QuestionState.valueOr(*question, 0)), *this);
     return true;
 }
 

@@ -11,6 +11,7 @@
 #include "platform/qt/look/palette.h"
 #include "platform/qt/look/pixels.h"
 #include "platform/qt/look/text_field.h"
+#include "platform/qt/look/tool_tip.h"
 
 #include <QHBoxLayout>
 #include <QIcon>
@@ -45,7 +46,7 @@ Button* addButton(QBoxLayout& row, const QString& caption, const QString& toolTi
     auto* button = new Button(
         caption, {.kind = Button::Kind::Toolbar, .icon = icon, .place = Button::IconPlace::Top},
         parent);
-    button->setToolTip(toolTip);
+    look::setToolTip(*button, toolTip);
     button->setAccessibleDescription(toolTip);
     button->setFixedSize(kButton);
     QObject::connect(button, &QPushButton::clicked, parent, act);
@@ -111,7 +112,7 @@ QBoxLayout* HelpWindow::newToolbar() {
     row->addStretch();
     const auto addZoom = [this, row](const QString& caption, const QString& words, int by) {
         auto* button = new Button(caption, {.icon = {}}, this);
-        button->setToolTip(words);
+        look::setToolTip(*button, words);
         button->setAccessibleName(words);
         button->setFixedSize(kFieldHeight, kFieldHeight);
         connect(button, &QPushButton::clicked, this,

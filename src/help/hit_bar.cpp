@@ -2,6 +2,7 @@
 
 #include "platform/qt/look/button.h"
 #include "platform/qt/look/palette.h"
+#include "platform/qt/look/tool_tip.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -20,6 +21,7 @@ HitBar::HitBar(QWidget* parent) : QWidget(parent), words_(new QLabel(this)) {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(8);
+    words_->setTextFormat(Qt::PlainText);
     words_->setFont(platform::look::interfaceFont(platform::look::kLabelPx));
     row->addWidget(words_, 1);
     addButton(QStringLiteral("up"), QStringLiteral("Mot marqué précédent (Maj + F3)"), -1);
@@ -30,7 +32,7 @@ HitBar::HitBar(QWidget* parent) : QWidget(parent), words_(new QLabel(this)) {
 
 void HitBar::addButton(const QString& icon, const QString& words, int by) {
     auto* button = new Button({}, {.icon = icon}, this);
-    button->setToolTip(words);
+    platform::look::setToolTip(*button, words);
     button->setAccessibleName(words);
     button->setFixedSize(kHeight, kHeight);
     connect(button, &QPushButton::clicked, this, [this, by] {

@@ -48,6 +48,7 @@ constexpr int kTurnMs = 20;
 
 QLabel* newLabel(const QString& caption, const QRect& place, look::Weight weight, QWidget* window) {
     auto* label = new QLabel(caption, window);
+    label->setTextFormat(Qt::PlainText);
     label->setFont(look::interfaceFont(look::kLabelPx, weight));
     look::setInk(*label, look::kInk);
     label->setGeometry(place);

@@ -53,6 +53,7 @@ Fermeur::Fermeur(QWidget* window, std::function<void()> closing)
     place(parentWidget());
 
     auto* Label1 = new QLabel(words, this);
+    Label1->setTextFormat(Qt::PlainText);
     Label1->setObjectName(QStringLiteral("Label1"));
     Label1->setFont(look::interfaceFont(look::kLabelPx));
     look::setInk(*Label1, look::kInk);

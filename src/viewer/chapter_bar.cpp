@@ -4,6 +4,7 @@
 #include "platform/qt/look/ink.h"
 #include "platform/qt/look/interface_font.h"
 #include "platform/qt/look/palette.h"
+#include "platform/qt/look/tool_tip.h"
 
 #include <QAccessible>
 #include <QLabel>
@@ -28,7 +29,7 @@ Button* addButton(const QString& name, const QString& caption, const QString& to
                   const Button::Look& look, const QRect& place, QWidget* parent) {
     auto* button = new Button(caption, look, parent);
     button->setObjectName(name);
-    button->setToolTip(toolTip);
+    platform::look::setToolTip(*button, toolTip);
     button->setAccessibleName(toolTip); // says more than the caption
     button->setGeometry(place);
     button->hide();
@@ -97,7 +98,7 @@ void ChapterBar::showWords() {
     words_->setText(hasStatus    ? status_
                     : hasButtons ? QStringLiteral("Dans ce chapitre")
                                  : QString());
-    words_->setToolTip(status_);
+    platform::look::setToolTip(*words_, status_);
     if (hasStatus)
         shortenToFit(*words_);
     update();

@@ -6,6 +6,7 @@
 #include "platform/qt/look/palette.h"
 #include "platform/qt/look/pixels.h"
 #include "platform/qt/look/text_field.h"
+#include "platform/qt/look/tool_tip.h"
 
 #include <QAccessible>
 #include <QKeyEvent>
@@ -69,7 +70,7 @@ Button* FindBar::addButton(const char* name, const char* icon, const QString& to
     auto* button =
         new Button({}, {.kind = Button::Kind::Toolbar, .icon = QString::fromLatin1(icon)}, this);
     button->setObjectName(QString::fromLatin1(name));
-    button->setToolTip(toolTip);
+    platform::look::setToolTip(*button, toolTip);
     button->setAccessibleName(toolTip.section(QStringLiteral(" ("), 0, 0));
     button->setGeometry(x, kTop, kTall, kTall);
     connect(button, &QPushButton::clicked, this, [this, action] { (actions_.*action)(); });

@@ -199,6 +199,10 @@ bool LinkControls::eventFilter(QObject* watched, QEvent* event) {
         if (auto* label = dynamic_cast<LinkLabel*>(&link))
             Labelien_MouseMove(label->index());
         break;
+    case QEvent::Leave: // for whatever is beside it: a button, the scroll bar, another window
+        if (link.link().font.underline)
+            resetHighlight(kNone);
+        break;
     case QEvent::FocusIn:
         focusCame(link, static_cast<QFocusEvent*>(event)->reason());
         break;

@@ -2,8 +2,12 @@
 
 #include "platform/link_view.h"
 #include "platform/qt/operation_painter.h"
+#include "platform/twips.h"
 
 #include <QMouseEvent>
+#include <QPainter>
+
+#include <algorithm>
 
 namespace viewer {
 
@@ -24,7 +28,7 @@ LinkLabel::LinkLabel(int index, const platform::FontBook& fonts, QWidget* parent
 
 QSizeF LinkLabel::extent(const platform::LinkOperation& link) const {
     const auto caption = platform::captionExtent(link.caption, link.font, fonts());
-    return {caption.width, caption.height};
+    return {std::min(caption.width, link.width), caption.height};
 }
 
 QMargins LinkLabel::overhang(const platform::LinkOperation& link) const {
@@ -36,6 +40,15 @@ QMargins LinkLabel::overhang(const platform::LinkOperation& link) const {
 }
 
 void LinkLabel::draw(QPainter& painter, double ratio) {
+    // Bold letters that are wider than the place on the page stand closer and narrower there:
+    // nothing that follows is covered.
+    const double letters = platform::captionExtent(link().caption, link().font, fonts()).width;
+    if (letters > link().width) {
+        const double left = link().x / platform::kTwipsPerPixel * ratio;
+        painter.translate(left, 0);
+        painter.scale(link().width / letters, 1);
+        painter.translate(-left, 0);
+    }
     platform::OperationPainter operations(painter, fonts(), ratio);
     for (const platform::TextOperation& line : platform::captionLines(link(), fonts()))
         if (operations.span(line))

@@ -4,8 +4,8 @@
 
 namespace viewer {
 
-/// An element of `Labelien`: a caption of one or more lines. It is as wide as its letters, so it
-/// grows while they are bold.
+/// An element of `Labelien`: a caption of one or more lines. It keeps to the width that the page
+/// gave it, also while it is bold under the pointer.
 class LinkLabel : public LinkWidget {
 public:
     LinkLabel(int index, const platform::FontBook& fonts, QWidget* parent);

@@ -1,5 +1,6 @@
 #include "viewer/link_widget.h"
 
+#include "platform/qt/look/tool_tip.h"
 #include "platform/twips.h"
 #include "viewer/link_accessible.h"
 #include "viewer/link_name.h"
@@ -7,20 +8,8 @@
 
 #include <QKeyEvent>
 #include <QPainter>
-#include <QTextDocument>
 
 namespace viewer {
-
-namespace {
-
-/// A tooltip that shows the page's words as they are: Qt would take signs like "<b>" for markup,
-/// which could also name files.
-QString plainToolTip(const QString& words) {
-    return Qt::mightBeRichText(words) ? QStringLiteral("<span>%1</span>").arg(words.toHtmlEscaped())
-                                      : words;
-}
-
-} // namespace
 
 LinkWidget::LinkWidget(int index, const platform::FontBook& fonts, QWidget* parent)
     : QAbstractButton(parent), index_(index), fonts_(fonts) {
@@ -40,7 +29,7 @@ void LinkWidget::showLink(const platform::LinkOperation& link, PictureBox& box) 
     box_ = &box;
     link_ = link;
     setAccessibleName(linkName(link));
-    setToolTip(plainToolTip(link.tooltip));
+    platform::look::setToolTip(*this, link.tooltip);
     arrange();
     update();
     box.updateMargin();
@@ -49,7 +38,7 @@ void LinkWidget::showLink(const platform::LinkOperation& link, PictureBox& box) 
 void LinkWidget::freeLink() {
     hide();
     link_ = {};
-    setToolTip({});
+    platform::look::setToolTip(*this, {});
     setAccessibleName({});
 }
 

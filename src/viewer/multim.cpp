@@ -70,8 +70,8 @@ void Multim::attach(const Parts& parts) {
 void Multim::addControls() {
     body_ = new QWidget(this);
     body_->setGeometry(QRect(QPoint(), kSize));
-    auto* toolbar = new Toolbar(body_);
-    toolbar->setGeometry(kToolbar);
+    toolbar_ = new Toolbar(body_);
+    toolbar_->setGeometry(kToolbar);
 
     titre_ = new PictureBox(SurfaceId::Titre, kTitleWidthPx, platform::look::kIvory, fonts_,
                             recording_, body_);
@@ -83,6 +83,10 @@ void Multim::addControls() {
     PictureTEXTE_ = new PictureBox(SurfaceId::PictureTexte, kPageWidthPx, platform::look::kPaper,
                                    fonts_, recording_, panel_);
     panel_->setPage(PictureTEXTE_);
+    // A click in the page gives it the keyboard, also below a page that is shorter than the view.
+    PictureTEXTE_->setFocusPolicy(Qt::StrongFocus);
+    panel_->framekx().setFocusPolicy(Qt::ClickFocus);
+    panel_->framekx().setFocusProxy(PictureTEXTE_);
     auto* findBar = new FindBar(panel_);
     videoFrame_ = new VideoFrame(body_);
 

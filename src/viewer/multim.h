@@ -36,6 +36,7 @@ class PageFinder;
 class PagePanel;
 class PictureBox;
 class Rail;
+class Toolbar;
 class VideoFrame;
 
 /// The main window. It shows what the page loader tells it to and hands what its controls are asked
@@ -196,6 +197,7 @@ private:
     QTimer sizeSettled_;
 
     QWidget* body_ = nullptr;
+    Toolbar* toolbar_ = nullptr;
     Rail* rail_ = nullptr;
     PagePanel* panel_ = nullptr;
     VideoFrame* videoFrame_ = nullptr;

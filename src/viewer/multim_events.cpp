@@ -11,12 +11,15 @@
 #include "viewer/page_panel.h"
 #include "viewer/picture_box.h"
 #include "viewer/rail.h"
+#include "viewer/toolbar.h"
 #include "viewer/video_frame.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
 #include <QWheelEvent>
+
+#include <initializer_list>
 
 namespace viewer {
 
@@ -190,9 +193,8 @@ void Multim::wheelEvent(QWheelEvent* event) {
 
 void Multim::watchPointer() {
     for (QWidget* over :
-         {static_cast<QWidget*>(this), body_, &panel_->framekx(), static_cast<QWidget*>(Framebase_),
-          static_cast<QWidget*>(titre_), static_cast<QWidget*>(PictureTEXTE_),
-          static_cast<QWidget*>(PICTUREILLUS_)}) {
+         std::initializer_list<QWidget*>{this, body_, toolbar_, rail_, &panel_->framekx(),
+                                         Framebase_, titre_, PictureTEXTE_, PICTUREILLUS_}) {
         over->setMouseTracking(true);
         over->installEventFilter(this);
     }

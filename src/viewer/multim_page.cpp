@@ -2,6 +2,7 @@
 
 #include "platform/qt/look/button.h"
 #include "platform/qt/look/scroll_bar.h"
+#include "platform/qt/look/tool_tip.h"
 #include "viewer/chapter_bar.h"
 #include "viewer/multim.h"
 #include "viewer/page_finder.h"
@@ -54,18 +55,17 @@ void Multim::clearPictures() {
 }
 
 void Multim::setCaption(const QString& caption) {
-    setWindowTitle(caption);
+    // The toolkit takes these signs for the place of a mark, and shows them only when doubled.
+    const QString place = QStringLiteral("[*]");
+    setWindowTitle(QString(caption).replace(place, place + place));
 }
 
 void Multim::setTitle(const QString& title) {
     const QString words = title.simplified();
     PictureTEXTE_->setAccessibleName(words.isEmpty() ? QStringLiteral("Page du cours") : words);
     titre_->setAccessibleName(words);
-    titre_->setToolTip({});
-
     const QString shown = drawPageTitle(titre_->surface(), fonts_, words);
-    if (shown != words)
-        titre_->setToolTip(words);
+    platform::look::setToolTip(*titre_, shown == words ? QString() : words);
 }
 
 void Multim::setBackEnabled(bool enabled) {

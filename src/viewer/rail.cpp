@@ -3,6 +3,7 @@
 #include "platform/qt/look/button.h"
 #include "platform/qt/look/interface_font.h"
 #include "platform/qt/look/palette.h"
+#include "platform/qt/look/tool_tip.h"
 #include "viewer/picture_box.h"
 
 #include <QLabel>
@@ -29,7 +30,7 @@ Button* addHistoryButton(const QString& name, const QString& caption, const QStr
         caption, {.kind = Button::Kind::Ordinary, .icon = icon, .place = Button::IconPlace::Top},
         parent);
     button->setObjectName(name);
-    button->setToolTip(toolTip);
+    platform::look::setToolTip(*button, toolTip);
     button->setAccessibleDescription(toolTip);
     button->setGeometry(place);
     button->setEnabled(false);
@@ -50,7 +51,9 @@ Rail::Rail(QWidget* parent) : QWidget(parent) {
     btexo_ = btexo;
     // The button paints the words, so that they follow its states; the label lies over them, and
     // what is clicked on it reaches the button.
-    Label16_ = new QLabel(btexo);
+    auto* Label16 = new QLabel(btexo);
+    Label16->setTextFormat(Qt::PlainText);
+    Label16_ = Label16;
     Label16_->setObjectName(QStringLiteral("Label16"));
     Label16_->setAccessibleName(words);
     Label16_->setGeometry(kReturnWords);

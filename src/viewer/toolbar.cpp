@@ -3,6 +3,7 @@
 #include "platform/qt/look/button.h"
 #include "platform/qt/look/palette.h"
 #include "platform/qt/look/pixels.h"
+#include "platform/qt/look/tool_tip.h"
 
 #include <QPainter>
 
@@ -55,7 +56,7 @@ Toolbar::Toolbar(QWidget* parent) : QWidget(parent) {
                                    .place = Button::IconPlace::Top},
                                   this);
         button->setObjectName(QString::fromLatin1(row.name));
-        button->setToolTip(QString::fromUtf8(row.toolTip));
+        platform::look::setToolTip(*button, QString::fromUtf8(row.toolTip));
         button->setAccessibleDescription(button->toolTip());
         button->setGeometry(QRect(QPoint(row.x, kTop), kButton));
     }

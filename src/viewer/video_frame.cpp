@@ -4,6 +4,7 @@
 #include "platform/qt/look/interface_font.h"
 #include "platform/qt/look/palette.h"
 #include "platform/qt/look/pixels.h"
+#include "platform/qt/look/tool_tip.h"
 #include "platform/twips.h"
 
 #include <QCursor>
@@ -73,7 +74,7 @@ void VideoFrame::addButtons() {
         auto* button = new Button(
             {}, {.kind = Button::Kind::Toolbar, .icon = QString::fromLatin1(row.icon)}, buttons_);
         button->setObjectName(QStringLiteral("Image4_%1").arg(row.index));
-        button->setToolTip(QString::fromUtf8(row.toolTip));
+        platform::look::setToolTip(*button, QString::fromUtf8(row.toolTip));
         button->setAccessibleName(button->toolTip());
         button->setGeometry(QRect(QPoint(x, 0), kButton));
         connect(button, &QPushButton::clicked, this, [this, index = row.index] { press(index); });

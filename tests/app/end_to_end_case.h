@@ -21,6 +21,7 @@ class EndToEnd : public testing::Test {
 protected:
     void SetUp() override {
         ASSERT_FALSE(session_.display().isEmpty()) << "Xvfb is missing";
+        ASSERT_TRUE(QDir().mkpath(home()));
         ASSERT_EQ(QProcess::execute(ORVALENTE_COURS, {"build", sources(), "-o", course()}), 0);
     }
 
@@ -32,6 +33,8 @@ protected:
         shell_.waitForFinished();
     }
 
+    /// The home of who sits before the program.
+    QString home() const { return directory_.filePath("home"); }
     QString course() const { return directory_.filePath("cours"); }
 
     QProcessEnvironment environment() const {
@@ -39,6 +42,10 @@ protected:
         environment.insert("DISPLAY", QString::fromLatin1(session_.display()));
         environment.insert("QT_QPA_PLATFORM", "xcb");
         environment.insert("XDG_RUNTIME_DIR", directory_.path());
+        environment.insert("HOME", home());
+        environment.insert("CUPS_SERVER", home()); // no printers: the program's own dialog opens
+        for (const char* kept : {"CONFIG", "DATA", "STATE"}) // below the home then
+            environment.remove(QStringLiteral("XDG_%1_HOME").arg(QLatin1String(kept)));
         return environment;
     }
 

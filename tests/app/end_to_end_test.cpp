@@ -2,6 +2,7 @@
 #include "app/x11_picture.h"
 #include "platform/qt/look/palette.h"
 
+#include <QDirIterator>
 #include <QImage>
 
 namespace app::test {
@@ -41,6 +42,33 @@ TEST_F(EndToEnd, asksBeforeLeaving) {
     ASSERT_TRUE(shell_.waitForFinished(30'000));
     EXPECT_EQ(shell_.exitStatus(), QProcess::NormalExit);
     EXPECT_EQ(shell_.exitCode(), 0);
+}
+
+TEST_F(EndToEnd, keepsNothingOfTheFoldersVisited) {
+    start();
+    ASSERT_TRUE(eventually([&] { return place().size() == QSize(800, 600); }));
+    press("alt+a");
+    ASSERT_TRUE(eventually([&] { return activeTitle() == "Aide d’Orvalente"; }));
+    press("ctrl+p");
+    ASSERT_TRUE(eventually([&] { return activeTitle() == "Imprimer"; }));
+    press("alt+c");
+    ASSERT_TRUE(eventually([&] { return activeTitle() == "Fichier PDF"; }));
+    press("Return");
+    ASSERT_TRUE(eventually([&] { return activeTitle() == "Imprimer"; }));
+    press("Escape");
+    ASSERT_TRUE(eventually([&] { return activeTitle() == "Aide d’Orvalente"; }));
+    press("Escape");
+    ASSERT_TRUE(eventually([&] { return activeTitle().startsWith("Orvalente - "); }));
+    press("alt+q");
+    ASSERT_TRUE(eventually([&] { return activeTitle() == "Quitter"; }));
+    press("Return");
+    ASSERT_TRUE(shell_.waitForFinished(30'000));
+    QStringList written;
+    for (QDirIterator files(home(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+         files.hasNext();)
+        if (const QString file = files.next(); !file.contains(u"/.cache/")) // of the fonts
+            written.append(file);
+    EXPECT_EQ(written.join(u' ').toStdString(), "");
 }
 
 TEST_F(EndToEnd, calculatesBesideTheCourse) {
@@ -154,13 +182,18 @@ TEST_F(LinkedPages, LinksAreFollowedByMouseAndKeyboard) {
     start();
     const auto isSecond = [&] { return title().endsWith("Deux"); };
     ASSERT_TRUE(eventually([&] { return place().size() == QSize(800, 600); }));
+    // Over the ten buttons of the toolbar and the page to its link.
+    for (int stop = 0; stop < 12; ++stop)
+        press("Tab");
+    press("Return");
+    EXPECT_TRUE(eventually(isSecond));
+    press("alt+Left");
+    ASSERT_TRUE(eventually([&] { return !isSecond(); }));
     click(240, 190);
     EXPECT_TRUE(eventually(isSecond));
     press("alt+Left");
     ASSERT_TRUE(eventually([&] { return !isSecond(); }));
-    // Over the ten buttons of the toolbar and the page to its link.
-    for (int stop = 0; stop < 12; ++stop)
-        press("Tab");
+    press("Tab"); // the click gave the keyboard to the page
     press("Return");
     EXPECT_TRUE(eventually(isSecond));
 }

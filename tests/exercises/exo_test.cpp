@@ -1,6 +1,7 @@
 #include "exercises/exo_case.h"
 #include "exercises/exo_opener.h"
 #include "platform/qt/look/scroll_bar.h"
+#include "support/plain_words.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -69,6 +70,21 @@ TEST_F(Test, AWrongAnswerIsCorrected) {
         EXPECT_EQ(colourAt(box.pos() + QPoint(1 - 36 + 2, 1 - 1 + 8)), marks[i]) << i;
     }
     EXPECT_EQ(textOf(area(), QAccessible::Name), u"Question 1 / 4, réponse fausse");
+}
+
+TEST_F(Test, WordsOfACourseAreNeitherMarkupNorMnemonics) {
+    const QString words = test_support::kHostileWords;
+    const std::u16string title = (words + u' ').repeated(4).toStdU16String();
+    const std::u16string source = QStringLiteral("##EXOVI%1#oui.avi\r\n##EXOLI%1#12\r\n"
+                                                 "##EXOTX\r\n¶\r\n")
+                                      .arg(words)
+                                      .toStdU16String();
+    write({description(3, title.c_str(), number(1))},
+          {question(301, 3, u"ohm", source.c_str(), kComment)});
+    openAt(1);
+    // The title, shortened, with its tooltip; the video.
+    EXPECT_EQ(test_support::expectPlainWords(*exo), 3);
+    EXPECT_EQ(control<QWidget>("Icovideo").accessibleName(), words);
 }
 
 TEST_F(Test, ControlsStandWhereTheQuestionPutsThem) {

@@ -77,6 +77,10 @@ TEST(HelpQuery, marksWholeWords) {
     EXPECT_EQ(HelpQuery("impr de").hits(u"Imprimante de l’IMPRESSION, réimpression"),
               (QList<Span>{{0, 10}, {16, 10}}));
     EXPECT_EQ(HelpQuery("f3").hits(u"F3, F").size(), 1);
+    // A plural leaves three letters at least.
+    EXPECT_EQ(HelpQuery("os").hits(u"Os, on, o").size(), 1);
+    EXPECT_EQ(HelpQuery("gas").hits(u"gas, gaz").size(), 1);
+    EXPECT_EQ(HelpQuery("becs").hits(u"bec, bec Bunsen, bécarre, be").size(), 3);
     QString many;
     for (int i = 100; i < 200; ++i)
         many += QString::number(i) + ' ';

@@ -4,9 +4,11 @@
 #include "platform/qt/look/palette.h"
 #include "platform/qt/look/scroll_bar.h"
 #include "platform/qt/look/text_field.h"
+#include "platform/qt/look/tool_tip.h"
+#include "support/plain_words.h"
 
 #include <QApplication>
-#include <QDir>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QTest>
@@ -22,38 +24,6 @@ using platform::Message;
 
 QImage painted(QWidget& widget) {
     return widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
-}
-
-// Icons
-
-QImage drawn(const QString& name, Icon::Style style) {
-    QImage image(48, 48, QImage::Format_RGB32);
-    image.fill(QColor::fromRgb(kIvory));
-    QPainter painter(&image);
-    Icon(name).paint(painter, image.rect(), style, kIvory);
-    return image;
-}
-
-TEST(Icon, EveryDrawingPaintsInEveryStyle) {
-    QImage empty(48, 48, QImage::Format_RGB32);
-    empty.fill(QColor::fromRgb(kIvory));
-    const QStringList files = QDir(QStringLiteral(":/look/icons")).entryList();
-    EXPECT_GT(files.size(), 30);
-    for (const QString& file : files) {
-        const QString name = file.chopped(4);
-        const QImage coloured = drawn(name, Icon::Style::Coloured);
-        EXPECT_NE(coloured, empty) << qPrintable(name);
-        EXPECT_NE(drawn(name, Icon::Style::Faded), empty) << qPrintable(name);
-        EXPECT_NE(drawn(name, Icon::Style::Faded), coloured) << qPrintable(name);
-        EXPECT_NE(drawn(name, Icon::Style::White), coloured) << qPrintable(name);
-    }
-    EXPECT_EQ(drawn(QStringLiteral("no such drawing"), Icon::Style::Coloured), empty);
-}
-
-TEST(Icon, FadesToFortyPerCentOfEachColour) {
-    // The middle of the printer's tray has the accent, its frame the blue.
-    const QImage faded = drawn(QStringLiteral("print"), Icon::Style::Faded);
-    EXPECT_EQ(faded.pixel(24, 34), blend(kPressedTint, kIvory, 0.4));
 }
 
 // Buttons
@@ -246,6 +216,37 @@ TEST(MessageDialog, TellsScreenReadersTitleAndText) {
     EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Mise à jour"));
     EXPECT_EQ(dialog.accessibleName(), QStringLiteral("Mise à jour"));
     EXPECT_EQ(dialog.findChild<QLabel*>()->text(), QStringLiteral("un\ndeux"));
+}
+
+TEST(MessageDialog, TakesNoWordsForMarkup) {
+    MessageDialog dialog({QStringLiteral("Titre"), test_support::kHostileWords,
+                          Message::Icon::Information, Message::Buttons::Ok},
+                         nullptr);
+    dialog.show();
+    EXPECT_EQ(test_support::expectPlainWords(dialog), 1);
+}
+
+// Tooltips
+
+TEST(ToolTip, ShowsLongWordsInLinesAndVeryLongOnesInPart) {
+    QLabel control;
+    control.setTextFormat(Qt::PlainText);
+    control.show();
+    const auto tipSize = [&control](const QString& words) {
+        setToolTip(control, words);
+        QHelpEvent event(QEvent::ToolTip, {1, 1}, control.mapToGlobal(QPoint(1, 1)));
+        QApplication::sendEvent(&control, &event);
+        for (const QWidget* tip : QApplication::topLevelWidgets())
+            if (tip->inherits("QTipLabel") && tip->isVisible())
+                return tip->size();
+        return QSize();
+    };
+    const QSize line = tipSize(QStringLiteral("Imprimer ou configurer l'imprimante"));
+    EXPECT_GT(line.width(), 6 * line.height());
+    const QSize lines = tipSize(QStringLiteral("réfraction ").repeated(30));
+    EXPECT_GT(lines.height(), 2 * line.height());
+    EXPECT_LT(lines.width(), 700);
+    EXPECT_EQ(tipSize(QStringLiteral("réfraction ").repeated(30'000)).width(), lines.width());
 }
 
 TEST(MessageDialog, GrowsSoThatTheWholeTextShows) {

@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QKeyEvent>
+#include <QTest>
 
 namespace {
 
@@ -106,10 +107,16 @@ TEST_F(PagePrinter, theScreenIsLeftAlone) {
 
 TEST_F(PagePrinter, aJobIsBoundedAndEndsAfterTheSheetInWorkWhenStopped) {
     open({record(1, "1", "2000000000")});
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&bench->window));
     test_support::CountingPrinter counting;
+    const auto pointer = [this] { return bench->window.cursor().shape(); };
+    int underHourglass = 0;
+    counting.whilePrinting = [&] { underHourglass += pointer() == Qt::WaitCursor; };
     pages(counting).imprimepage();
     EXPECT_EQ(counting.sheets, viewer::kMaxPrintedPages);
     EXPECT_EQ(counting.ended, 1);
+    EXPECT_EQ(underHourglass, counting.sheets);
+    EXPECT_EQ(pointer(), Qt::ArrowCursor);
 
     // The window's own messages, as they come while a sheet is being printed.
     const std::pair<const char*, std::function<QEvent*()>> rows[] = {

@@ -1,3 +1,4 @@
+#include "platform/qt/look/palette.h"
 #include "platform/qt/print_setup.h"
 #include "platform/qt/print_setup_dialog.h"
 #include "support/fake_prompter.h"
@@ -6,6 +7,8 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDir>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QPrinter>
 #include <QPrinterInfo>
@@ -61,6 +64,56 @@ TEST_F(PrintSetup, theControlsGiveTheLayout) {
     EXPECT_EQ(chosen.layout.orientation(), QPageLayout::Portrait);
     EXPECT_EQ(chosen.layout.margins(QPageLayout::Millimeter), QMarginsF(25, 13, 14, 15));
     EXPECT_EQ(chosen.file, path("b.pdf"));
+}
+
+TEST_F(PrintSetup, theToolkitsControlsLookLikeOurOwn) {
+    using namespace platform::look;
+    platform::PrintSetupDialog dialog({QPageLayout(), path("a.pdf")}, prompter, nullptr);
+    dialog.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    const auto edgeOf = [&](const QWidget* control) {
+        return dialog.grab().toImage().pixel(control->mapTo(&dialog, QPoint(0, 16)));
+    };
+    EXPECT_EQ(dialog.grab().toImage().pixel(2, 2), kIvory);
+    QWidget* size = dialog.findChild<QComboBox*>();
+    EXPECT_EQ(edgeOf(size), kEdge);
+    EXPECT_EQ(edgeOf(dialog.findChildren<QSpinBox*>().last()), kEdge);
+    EXPECT_EQ(edgeOf(dialog.findChild<QLineEdit*>("file")), kBlue) << "has the keyboard";
+    size->setFocus();
+    EXPECT_EQ(edgeOf(size), kBlue);
+    for (const auto* field : dialog.findChildren<QSpinBox*>())
+        EXPECT_EQ(field->height(), size->height());
+    // Mnemonics are shown by the captions of fields and choices too.
+    const QImage plain = dialog.grab().toImage();
+    QTest::keyPress(size, Qt::Key_Alt, Qt::AltModifier);
+    const QImage underlined = dialog.grab().toImage();
+    for (const auto* choice : dialog.findChildren<QRadioButton*>())
+        EXPECT_NE(underlined.copy(choice->geometry()), plain.copy(choice->geometry()));
+    QTest::keyClick(size, Qt::Key_Y, Qt::AltModifier);
+    EXPECT_EQ(dialog.settings().layout.orientation(), QPageLayout::Landscape);
+}
+
+TEST_F(PrintSetup, theFileIsLookedForWhereItStands) {
+    ASSERT_TRUE(QDir(directory.path()).mkdir("cours"));
+    const struct {
+        QString file, directory, name;
+    } rows[] = {{path("cours/a.pdf"), path("cours"), "a.pdf"},
+                {path("nulle/part.pdf"), QDir::homePath(), "part.pdf"}};
+    for (const auto& row : rows) {
+        platform::PrintSetupDialog dialog({QPageLayout(), row.file}, prompter, nullptr);
+        dialog.show();
+        QTimer::singleShot(0, [&row] {
+            auto* files = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(files);
+            EXPECT_EQ(files->directory().path(), row.directory);
+            EXPECT_EQ(files->findChild<QLineEdit*>("fileNameEdit")->text(), row.name);
+            files->setDirectory(row.directory);
+            files->findChild<QLineEdit*>("fileNameEdit")->setText("b.pdf");
+            QTest::keyClick(files, Qt::Key_Return);
+        });
+        button(dialog, "Parcourir…")->click();
+        EXPECT_EQ(dialog.settings().file, row.directory + "/b.pdf");
+    }
 }
 
 TEST_F(PrintSetup, onlyAFileThatCanBeWrittenIsConfirmed) {

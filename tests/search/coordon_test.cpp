@@ -3,6 +3,7 @@
 #include "jet/writer.h"
 #include "search/coordon.h"
 #include "support/files.h"
+#include "support/plain_words.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -136,6 +137,30 @@ TEST_F(CoordonWindow, ListsWhatItsBoxesAskFor) {
     search(QStringLiteral("indice"));
     EXPECT_TRUE(control<QLabel>("Label2").isHidden());
     EXPECT_TRUE(control<QProgressBar>("Pbar1").isHidden());
+}
+
+TEST_F(CoordonWindow, TitlesStandInTheListToTheLetter) {
+    const std::u16string hostile = test_support::kHostileWords.toStdU16String();
+    write({kCourse[0], {u"&x", u"indice"}, {u"x", u"indice"}, {hostile.c_str(), u"indice"}});
+    open();
+    search(QStringLiteral("indice"));
+    EXPECT_EQ(lines(), "&x 102|x 103|" + test_support::kHostileWords.toStdString() + " 104");
+    EXPECT_EQ(test_support::expectPlainWords(*window), 0); // the list paints its lines itself
+    const auto inkedColumns = [this](int line) {
+        const QImage shown =
+            list().viewport()->grab(list().visualRect(list().model()->index(line, 0))).toImage();
+        const QRgb ground = shown.pixel(shown.width() - 1, shown.height() / 2);
+        int columns = 0;
+        for (int x = 0; x < shown.width(); ++x)
+            for (int y = 0; y < shown.height(); ++y)
+                if (shown.pixel(x, y) != ground) {
+                    ++columns;
+                    break;
+                }
+        return columns;
+    };
+    EXPECT_GT(inkedColumns(0), inkedColumns(1) + 5) << "the sign before the letter";
+    EXPECT_GT(inkedColumns(2), 150) << "the signs of a markup";
 }
 
 TEST_F(CoordonWindow, LeavesThePageThatWasChosen) {

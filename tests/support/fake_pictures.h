@@ -4,6 +4,7 @@
 
 #include <QStringList>
 
+#include <functional>
 #include <map>
 
 namespace test_support {
@@ -34,6 +35,8 @@ class FakePictures : public markup::PictureShelf {
 public:
     QString locatePicture(const QString& name) override {
         asked.append(name);
+        if (whileLooking)
+            whileLooking();
         return anyName || files.contains(name) ? name : QString();
     }
     std::shared_ptr<const platform::Picture> load(const QString& path) override {
@@ -46,6 +49,7 @@ public:
     std::map<QString, std::shared_ptr<const platform::Picture>> files;
     std::map<QString, std::shared_ptr<const platform::Picture>> symbols;
     QStringList asked;
+    std::function<void()> whileLooking;
     bool anyName = false; ///< whether every name and key has a picture
 
 private:

@@ -66,9 +66,10 @@ TEST_F(Actions, ReadingOrderHasItsOwnTable) {
     EXPECT_EQ(bench.shown(), QStringLiteral("3"));
     bench.commands.nextInChapter();
     EXPECT_EQ(bench.shown(), QStringLiteral("1"));
-    for (const int index : {9, -1, std::numeric_limits<int>::min()}) {
+    // Outside the table the page stays.
+    for (const int index : {10, -1, std::numeric_limits<int>::min()}) {
         bench.actions.showPageByOrder(index);
-        EXPECT_EQ(bench.shown(), index == 9 ? QStringLiteral("3") : bench.shown()) << index;
+        EXPECT_EQ(bench.shown(), QStringLiteral("1")) << index;
     }
 }
 

@@ -1,7 +1,9 @@
+#include "support/plain_words.h"
 #include "viewer/link_case.h"
 #include "viewer/picture_box.h"
 
 #include <QAccessible>
+#include <QCursor>
 #include <QMenu>
 #include <QPointer>
 #include <QSignalSpy>
@@ -11,6 +13,7 @@
 namespace {
 
 using test_support::Links;
+using test_support::page;
 using testing::ElementsAre;
 
 TEST_F(Links, StandInTheTextAsIfThePageHadPrintedThem) {
@@ -88,7 +91,7 @@ TEST_F(Links, PicturesStandAtThePenAndAMissingKeyShowsAFrame) {
     EXPECT_NE(page.pixelColor(40, 20), QColor(Qt::white));
     EXPECT_NE(page.pixelColor(63, 20), QColor(Qt::white));
     // The page's signs are no markup.
-    EXPECT_TRUE(link("Imagelien(1)")->toolTip().contains(u"&lt;b&gt;"));
+    EXPECT_EQ(link("Imagelien(1)")->toolTip(), u"Une <b>aide</b>"_qs);
     EXPECT_EQ(link("Imagelien(0)")->cursor().shape(), Qt::PointingHandCursor);
 }
 
@@ -197,16 +200,34 @@ TEST_F(Links, OnlyTheLinkUnderThePointerIsHighlighted) {
     const int width = first->contentsRect().width();
     moveOver(link("Labelien(0)"));
     EXPECT_TRUE(isHighlighted(first));
-    EXPECT_GT(first->contentsRect().width(), width) << "bold letters are wider";
+    EXPECT_EQ(first->contentsRect().width(), width);
     moveOver(link("Labelien(1)"));
     EXPECT_FALSE(isHighlighted(first));
-    EXPECT_EQ(first->contentsRect().width(), width);
     EXPECT_TRUE(isHighlighted(second));
-    for (const char* elsewhere : {"PictureTEXTE", "Imagelien(0)", "Framebase", "titre"}) {
+    // Straight there, as a quick hand moves.
+    for (const char* elsewhere : {"PictureTEXTE", "Imagelien(0)", "Framebase", "titre", "toolbar",
+                                  "Command2", "avant", "PICTUREILLUS"}) {
         moveOver(link("Labelien(1)"));
         QTest::mouseMove(bench.control<QWidget>(elsewhere), {3, 3});
         QTest::mouseMove(bench.control<QWidget>(elsewhere), {4, 4});
         EXPECT_FALSE(isHighlighted(second)) << elsewhere;
+    }
+}
+
+TEST_F(Links, AHoveredLinkCoversNothingThatFollowsIt) {
+    for (const QString& before : {u""_qs, u"##ITA1\r\n"_qs, u"##BOL1\r\n"_qs}) {
+        show(3, before + u"##LIERTminimum imaginaire#PAG002\r\nlimite¶\r\n"_qs);
+        const QRect place = link("Labelien(0)")
+                                ->contentsRect()
+                                .translated(link("Labelien(0)")->geometry().topLeft());
+        const QRect after(place.right() + 2, 0, 200, place.bottom());
+        const QImage plain = picture("PictureTEXTE");
+        moveOver(link("Labelien(0)"));
+        const QImage hovered = picture("PictureTEXTE");
+        EXPECT_NE(hovered.copy(place), plain.copy(place)) << qPrintable(before);
+        EXPECT_EQ(hovered.copy(after), plain.copy(after)) << qPrintable(before);
+        EXPECT_EQ(link("Labelien(0)")->contentsRect().size(), place.size());
+        QTest::mouseMove(&bench.window, {5, 5});
     }
 }
 
@@ -260,6 +281,21 @@ TEST_F(FloatingMenus, ShowWhatThePageGaveThem) {
     }
     show(4, u"##LIERFzz\r\n"_qs);
     EXPECT_THAT(menu("Imagelien(0)"), ElementsAre()) << "entries belong to their page";
+}
+
+TEST_F(FloatingMenus, ComeUpAtThePointerOrBelowThePictureForAKey) {
+    show(3, u"##PIX100\r\n##LIERFzz\r\n##ADMENquatre#PAG004\r\n"_qs);
+    viewer::LinkWidget* picture = link("Imagelien(0)");
+    const auto corner = [this] { return bench.control<QMenu>("flottant")->pos(); };
+    picture->setFocus(Qt::TabFocusReason);
+    press(Qt::Key_Space);
+    EXPECT_EQ(corner(), picture->mapToGlobal(QPoint(0, picture->height())));
+    delete bench.control<QMenu>("flottant");
+
+    QTest::mouseMove(picture, {7, 9});
+    QTest::mouseClick(picture, Qt::LeftButton, {}, {7, 9});
+    EXPECT_EQ(corner(), QCursor::pos());
+    EXPECT_EQ(corner(), picture->mapToGlobal(QPoint(7, 9)));
 }
 
 TEST_F(FloatingMenus, AboveNumberTwentyIsEmpty) {
@@ -333,6 +369,25 @@ TEST_F(Links, ScreenReadersFindThemInTheTextAndByName) {
     }
     reader("Imagelien(1)")->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     EXPECT_EQ(shown(), u"12"_qs);
+}
+
+// Words
+
+TEST_F(Links, WordsOfACourseAreNeitherMarkupNorMnemonics) {
+    const QString words = test_support::kHostileWords;
+    bench.cours.records[2] = page(3,
+                                  QStringLiteral("##LIERX") + "zz" + words + "#PAG002\r\n##LIERT" +
+                                      words + "#PAG002\r\n¶\r\n##LIERFzz\r\n##ADMEN" + words +
+                                      "#PAG004\r\n##TITBAR" + words + "\r\n",
+                                  {{QStringLiteral("titre"), (words + u' ').repeated(20)}});
+    show(3);
+    bench.window.report((words + u' ').repeated(20));
+    click("Imagelien(1)");
+    // Title, status line (words and tooltip), picture, entry of the menu, caption of the window.
+    EXPECT_EQ(test_support::expectPlainWords(bench.window), 6);
+    for (const char* name : {"titre", "Labelien(0)", "Imagelien(0)"})
+        EXPECT_TRUE(bench.control<QWidget>(name)->accessibleName().contains(words.simplified()))
+            << name;
 }
 
 } // namespace

@@ -89,11 +89,38 @@ TEST_F(Window, KeysWheelAndBarScrollATallPage) {
     bar->setValue(-1500);
     EXPECT_EQ(scrolled(), 100);
 
-    show(2); // fits the view, and starts from its top
+    // From the top of the next page, however far this one was scrolled.
+    EXPECT_EQ(bar->singleStep(), 22 * 15);
+    EXPECT_EQ(bar->pageStep(), 424 * 15 - 15);
+    EXPECT_EQ(bar->minimum(), (424 - height) * 15);
+    bench.cours.records[2] = page(3, lines(60));
+    show(3);
+    EXPECT_TRUE(bar->isVisible());
+    EXPECT_EQ(bar->value(), 0);
+    EXPECT_EQ(bar->maximum(), 0);
+    EXPECT_EQ(scrolled(), 0);
+
+    bar->setValue(-1500);
+    show(2); // fits the view
     EXPECT_EQ(scrolled(), 0);
     EXPECT_FALSE(bar->isVisible());
     press(Qt::Key_End);
     EXPECT_EQ(scrolled(), 0);
+}
+
+TEST_F(Window, AClickInThePageGivesItTheKeyboard) {
+    show(2); // ends above the foot of the view
+    const auto* page = bench.control<QWidget>("PictureTEXTE");
+    auto* view = bench.control<QWidget>("framekx");
+    ASSERT_LT(page->height(), view->height() - 50);
+    for (const QPoint place : {QPoint(20, 10), QPoint(20, view->height() - 10)}) {
+        bench.control("Command3")->setFocus();
+        QTest::mouseClick(view->childAt(place) ? view->childAt(place) : view, Qt::LeftButton, {},
+                          place);
+        EXPECT_TRUE(page->hasFocus()) << place.y();
+    }
+    click("command6"); // a button leaves it where it is
+    EXPECT_TRUE(page->hasFocus());
 }
 
 } // namespace

@@ -62,6 +62,46 @@ TEST_F(Window, OpensOnTheFirstPageWithEverythingInPlace) {
     EXPECT_EQ(bench.window.windowTitle(), QStringLiteral("Orvalente - KAROPE"));
 }
 
+TEST_F(Window, ButtonsAreCalledWhatTheyDo) {
+    struct Row {
+        const char* name;
+        QString caption, toolTip;
+    };
+    for (const Row& row : {
+             Row{"apres", u"S&uivant"_qs, u"Page suivante"_qs},
+             Row{"avant", u"&Précédent"_qs, u"Page précédente"_qs},
+             Row{"suite", u"Page suivante"_qs, u"Page suivante dans ce chapitre"_qs},
+             Row{"avantcours", u"Page précédente"_qs, u"Page précédente dans ce chapitre"_qs},
+             Row{"Command2", u"Accueil"_qs, u"Afficher le sommaire général"_qs},
+             Row{"command6", u"Ph&ysique"_qs, u"Sommaire physique"_qs},
+             Row{"command5", u"C&himie"_qs, u"Sommaire chimie"_qs},
+             Row{"Command13", u"C&rédits"_qs, {}},
+             Row{"Command12", u"Int&ernet"_qs, {}},
+             Row{"command4", u"&Rechercher"_qs, u"Moteur de recherche"_qs},
+             Row{"btexo", u"Retrouver le test"_qs, {}},
+             Row{"Command3", u"&Calculatrice"_qs, u"Machine à calculer"_qs},
+             Row{"CommandIMPRIME", u"&Imprimer"_qs, u"Imprimer ou configurer l'imprimante"_qs},
+             Row{"Command10", u"&Aide"_qs, u"Aide pour utiliser le logiciel"_qs},
+             Row{"Command8", u"Actualiser"_qs, u"Actualiser le logiciel"_qs},
+             Row{"Command14", u"&Quitter"_qs, u"Quitter l'application"_qs},
+             Row{"Image4_6", {}, u"Retour au début"_qs},
+             Row{"Image4_4", {}, u"Image précédente"_qs},
+             Row{"Image4_0", {}, u"Lecture"_qs},
+             Row{"Image4_2", {}, u"Pause"_qs},
+             Row{"Image4_3", {}, u"Stop"_qs},
+             Row{"Image4_1", {}, u"Image suivante"_qs},
+             Row{"Image4_5", {}, u"Aller à la fin"_qs},
+             Row{"findPrevious", {}, u"Occurrence précédente (Maj+F3)"_qs},
+             Row{"findNext", {}, u"Occurrence suivante (F3)"_qs},
+             Row{"findClose", {}, u"Fermer la recherche (Échap)"_qs},
+         }) {
+        const auto* button = bench.control(row.name);
+        ASSERT_NE(button, nullptr) << row.name;
+        EXPECT_EQ(button->text(), row.caption) << row.name;
+        EXPECT_EQ(button->toolTip(), row.toolTip) << row.name;
+    }
+}
+
 TEST_F(Window, EachButtonDoesWhatItSays) {
     struct Row {
         const char* button;
@@ -314,8 +354,18 @@ TEST_F(Window, ThePageKeepsTheKeyboardOverAPageChange) {
 
 TEST_F(Window, ShowsTheHourglassWhileItWorks) {
     QList<Qt::CursorShape> shapes;
-    bench.neighbours.links.whileResetting = [&] { shapes.append(bench.window.cursor().shape()); };
+    const auto note = [&] { shapes.append(bench.window.cursor().shape()); };
+    bench.neighbours.links.whileResetting = note;
     click("suite");
+    EXPECT_THAT(shapes, ElementsAre(Qt::WaitCursor));
+    EXPECT_EQ(bench.window.cursor().shape(), Qt::ArrowCursor);
+
+    // While a page is drawn, whoever asked for it.
+    shapes.clear();
+    bench.neighbours.links.whileResetting = {};
+    bench.pictures.whileLooking = note;
+    bench.cours.records[4] = page(5, QStringLiteral("##IMAvoilier.bmp\r\n¶\r\n"));
+    show(5);
     EXPECT_THAT(shapes, ElementsAre(Qt::WaitCursor));
     EXPECT_EQ(bench.window.cursor().shape(), Qt::ArrowCursor);
 }

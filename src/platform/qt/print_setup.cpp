@@ -1,5 +1,7 @@
 #include "platform/qt/print_setup.h"
 
+#include "platform/qt/look/dress.h"
+#include "platform/qt/no_settings.h"
 #include "platform/qt/print_setup_dialog.h"
 
 #include <QApplication>
@@ -60,11 +62,13 @@ PrinterSetup::Outcome QtPrinterSetup::ask() {
 PrinterSetup::Outcome QtPrinterSetup::askForPrinter() {
     QPrinter& device = printer_.device();
     device.setDocName(QStringLiteral("Orvalente"));
+    keepNoSettings();
     QPrintDialog dialog(&device, QApplication::activeWindow());
     dialog.setWindowTitle(QStringLiteral("Imprimer"));
     // The course says which pages belong together.
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize |
                       QAbstractPrintDialog::PrintCollateCopies);
+    look::dress(dialog);
     const Outcome outcome = answerOf(dialog);
     nameFile(device);
     return outcome;

@@ -1,9 +1,11 @@
 #include "platform/qt/print_setup_dialog.h"
 
 #include "platform/qt/look/button.h"
+#include "platform/qt/look/dress.h"
 #include "platform/qt/look/mnemonics.h"
-#include "platform/qt/look/palette.h"
+#include "platform/qt/look/option_button.h"
 #include "platform/qt/look/text_field.h"
+#include "platform/qt/no_settings.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -11,7 +13,6 @@
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QLabel>
-#include <QRadioButton>
 #include <QSpinBox>
 
 namespace platform {
@@ -73,13 +74,13 @@ PrintSetupDialog::PrintSetupDialog(const PrintSettings& settings, Prompter& prom
       prompter_(prompter), rows_(new QGridLayout(this)), file_(new look::TextField(this)),
       size_(new QComboBox(this)) {
     setWindowTitle(QStringLiteral("Imprimer"));
-    dress();
     rows_->setContentsMargins(2 * kGrid, 2 * kGrid, 2 * kGrid, 2 * kGrid);
     rows_->setHorizontalSpacing(2 * kGrid);
     rows_->setVerticalSpacing(kGrid);
     auto* notice = new QLabel(QStringLiteral("Aucune imprimante n’est installée\u00A0: les pages "
                                              "iront dans un fichier PDF."),
                               this);
+    notice->setTextFormat(Qt::PlainText);
     rows_->addWidget(notice, 0, 0, 1, 2);
     rows_->setRowMinimumHeight(0, 3 * kGrid);
     addRow(QStringLiteral("&Fichier"), file_, fileRow(settings.file));
@@ -95,31 +96,15 @@ PrintSetupDialog::PrintSetupDialog(const PrintSettings& settings, Prompter& prom
     rows_->setRowMinimumHeight(rows_->rowCount(), kGrid);
     rows_->addLayout(buttonRow(), rows_->rowCount(), 0, 1, 2);
     rows_->setSizeConstraint(QLayout::SetFixedSize);
+    look::dress(*this);
     new look::MnemonicDisplay(this);
     file_->setFocus();
-}
-
-/// The plain controls in the colours of all windows.
-void PrintSetupDialog::dress() {
-    QPalette colours = palette();
-    const auto set = [&colours](QPalette::ColorRole role, QRgb colour) {
-        colours.setColor(role, QColor::fromRgb(colour));
-    };
-    set(QPalette::Window, look::kIvory);
-    set(QPalette::Base, look::kPaper);
-    set(QPalette::Button, look::kPaper);
-    set(QPalette::WindowText, look::kInk);
-    set(QPalette::Text, look::kInk);
-    set(QPalette::ButtonText, look::kInk);
-    set(QPalette::Highlight, look::kBlue);
-    set(QPalette::HighlightedText, look::kPaper);
-    setPalette(colours);
-    setFont(look::interfaceFont(look::kLabelPx));
 }
 
 /// `field` is what the caption's mnemonic leads to; null for rows of several.
 void PrintSetupDialog::addRow(const QString& caption, QWidget* field, QLayout* row) {
     auto* label = new QLabel(caption, this);
+    label->setTextFormat(Qt::PlainText);
     label->setBuddy(field);
     const int at = rows_->rowCount();
     rows_->addWidget(label, at, 0);
@@ -145,8 +130,8 @@ QLayout* PrintSetupDialog::fileRow(const QString& file) {
 QLayout* PrintSetupDialog::orientationRow(QPageLayout::Orientation orientation) {
     auto* row = newRow();
     row->setSpacing(3 * kGrid);
-    portrait_ = new QRadioButton(QStringLiteral("Po&rtrait"), this);
-    landscape_ = new QRadioButton(QStringLiteral("Pa&ysage"), this);
+    portrait_ = new look::OptionButton(QStringLiteral("Po&rtrait"), this);
+    landscape_ = new look::OptionButton(QStringLiteral("Pa&ysage"), this);
     (orientation == QPageLayout::Portrait ? portrait_ : landscape_)->setChecked(true);
     row->addWidget(portrait_);
     row->addWidget(landscape_);
@@ -165,11 +150,12 @@ QLayout* PrintSetupDialog::marginRow(const QMarginsF& margins) {
                  {QStringLiteral("bas"), margins.bottom()}};
     for (std::size_t i = 0; i < margins_.size(); ++i) {
         auto* label = new QLabel(edges[i].caption, this);
+        label->setTextFormat(Qt::PlainText);
         margins_[i] = new QSpinBox(this);
         margins_[i]->setRange(kLeastMargin, kWidestMargin);
         margins_[i]->setSuffix(QStringLiteral(" mm"));
         margins_[i]->setValue(qRound(edges[i].millimetres));
-        margins_[i]->setFixedHeight(kFieldHeight - kGrid);
+        margins_[i]->setFixedHeight(kFieldHeight);
         label->setBuddy(margins_[i]);
         row->addWidget(label);
         row->addWidget(margins_[i]);
@@ -198,7 +184,7 @@ void PrintSetupDialog::chooseSize(const QPageSize& size) {
     for (const QPageSize::PageSizeId id : kSizes)
         size_->addItem(sizeName(id), id);
     size_->setCurrentIndex(qMax(0, size_->findData(size.id())));
-    size_->setFixedHeight(kFieldHeight - kGrid);
+    size_->setFixedHeight(kFieldHeight);
 }
 
 PrintSettings PrintSetupDialog::settings() const {
@@ -212,10 +198,20 @@ PrintSettings PrintSetupDialog::settings() const {
 }
 
 void PrintSetupDialog::browse() {
-    // Whether a file is to be replaced is asked when all is confirmed.
-    const QString chosen = QFileDialog::getSaveFileName(
-        this, QStringLiteral("Fichier PDF"), fileNamed(file_->text()),
-        QStringLiteral("Fichiers PDF (*.pdf)"), nullptr, QFileDialog::DontConfirmOverwrite);
+    keepNoSettings();
+    QFileDialog dialog(this, QStringLiteral("Fichier PDF"), {},
+                       QStringLiteral("Fichiers PDF (*.pdf)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setViewMode(QFileDialog::List);
+    // Whether a file is to be replaced is asked when all is confirmed. A desktop's own dialog would
+    // keep the folders that were visited.
+    dialog.setOptions(QFileDialog::DontConfirmOverwrite | QFileDialog::DontUseNativeDialog);
+    const QFileInfo file(fileNamed(file_->text()));
+    dialog.setDirectory(file.dir().exists() ? file.absolutePath() : QDir::homePath());
+    dialog.selectFile(file.fileName());
+    look::dress(dialog);
+    const QString chosen =
+        dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
     if (!chosen.isEmpty())
         file_->setText(QDir::toNativeSeparators(chosen));
 }

@@ -11,10 +11,13 @@ class QComboBox;
 class QGridLayout;
 class QLabel;
 class QLineEdit;
-class QRadioButton;
 class QSpinBox;
 
 namespace platform {
+
+namespace look {
+class OptionButton;
+}
 
 /// What can be set up where pages are printed into a PDF file.
 struct PrintSettings {
@@ -35,7 +38,6 @@ public:
     void accept() override;
 
 private:
-    void dress();
     void addRow(const QString& caption, QWidget* field, QLayout* row);
     QLayout* fileRow(const QString& file);
     QLayout* orientationRow(QPageLayout::Orientation orientation);
@@ -49,8 +51,8 @@ private:
     QGridLayout* rows_;
     QLineEdit* file_;
     QComboBox* size_;
-    QRadioButton* portrait_ = nullptr;
-    QRadioButton* landscape_ = nullptr;
+    look::OptionButton* portrait_ = nullptr;
+    look::OptionButton* landscape_ = nullptr;
     std::array<QSpinBox*, 4> margins_{}; ///< left, top, right, bottom; millimetres
 };
 

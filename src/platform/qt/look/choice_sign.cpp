@@ -1,9 +1,11 @@
 #include "platform/qt/look/choice_sign.h"
 
+#include "platform/qt/look/interface_font.h"
 #include "platform/qt/look/palette.h"
 
 #include <QAbstractButton>
 #include <QPainter>
+#include <QStyle>
 
 namespace platform::look {
 
@@ -15,6 +17,9 @@ constexpr double kBoxCorner = 2;
 constexpr double kLine = 1.25;
 constexpr double kFocusLine = 2;
 constexpr double kTickLine = 2;
+
+constexpr int kCaptionLeft = 20;
+constexpr int kCaptionHeight = 20;
 
 QColor ink(const QAbstractButton& button) {
     return QColor::fromRgb(!button.isEnabled() ? kEdge : button.isDown() ? kDarkBlue : kBlue);
@@ -59,6 +64,27 @@ void paintCheckSign(QPainter& painter, QPointF centre, const QAbstractButton& bu
                                        centre + QPointF(3.25, -2.75)});
     }
     painter.restore();
+}
+
+void prepareChoice(QAbstractButton& button) {
+    button.setFont(interfaceFont(kLabelPx));
+    button.setAttribute(Qt::WA_Hover);
+    button.setAccessibleName(button.text().remove(u'&'));
+}
+
+QSize choiceSize(const QAbstractButton& button) {
+    const int words = button.fontMetrics().size(Qt::TextShowMnemonic, button.text()).width();
+    return {kCaptionLeft + words + kChoiceSignMargin, kCaptionHeight};
+}
+
+void paintChoiceCaption(QPainter& painter, const QAbstractButton& button) {
+    painter.setFont(button.font());
+    painter.setPen(QColor::fromRgb(button.isEnabled() ? kInk : kEdge));
+    const int mnemonic = button.style()->styleHint(QStyle::SH_UnderlineShortcut, nullptr, &button)
+                             ? Qt::TextShowMnemonic
+                             : Qt::TextHideMnemonic;
+    painter.drawText(button.rect().adjusted(kCaptionLeft, 0, 0, 0),
+                     Qt::AlignLeft | Qt::AlignVCenter | mnemonic, button.text());
 }
 
 } // namespace platform::look

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPointF>
+#include <QSize>
 
 class QPainter;
 class QAbstractButton;
@@ -16,5 +17,10 @@ inline constexpr int kChoiceSignMargin = 1;
 /// as the state of the button asks for.
 void paintOptionSign(QPainter& painter, QPointF centre, const QAbstractButton& button);
 void paintCheckSign(QPainter& painter, QPointF centre, const QAbstractButton& button);
+
+/// A choice whose caption stands right of its sign, at the left edge: face and name, size, caption.
+void prepareChoice(QAbstractButton& button);
+QSize choiceSize(const QAbstractButton& button);
+void paintChoiceCaption(QPainter& painter, const QAbstractButton& button);
 
 } // namespace platform::look

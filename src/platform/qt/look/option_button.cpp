@@ -1,0 +1,24 @@
+#include "platform/qt/look/option_button.h"
+
+#include "platform/qt/look/choice_sign.h"
+
+#include <QPainter>
+
+namespace platform::look {
+
+OptionButton::OptionButton(const QString& caption, QWidget* parent)
+    : QRadioButton(caption, parent) {
+    prepareChoice(*this);
+}
+
+QSize OptionButton::sizeHint() const {
+    return choiceSize(*this);
+}
+
+void OptionButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    paintOptionSign(painter, {kChoiceSignPx / 2.0, height() / 2.0}, *this);
+    paintChoiceCaption(painter, *this);
+}
+
+} // namespace platform::look
