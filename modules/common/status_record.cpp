@@ -1,5 +1,7 @@
 #include "common/status_record.h"
 
+#include "common/plain_file.h"
+
 #include <QDir>
 #include <QFile>
 #include <QtEndian>
@@ -38,9 +40,9 @@ qint64 positionOf(int record) {
 bool StatusRecord::setRunning(bool running) const {
     const QByteArray bytes(running ? "\x03\0OUI" : "\x03\0NON", kLengthField + 3);
     QFile file(path());
-    if (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
+    if (!openPlain(file, QIODevice::ReadWrite))
         return false;
-    if (!file.seek(positionOf(module_)) || file.write(bytes) != bytes.size() || !file.flush())
+    if (!file.seek(positionOf(module_)) || file.write(bytes) != bytes.size())
         return false;
     // Programs that read whole records find one.
     const qint64 end = positionOf(module_ + 1);
@@ -64,7 +66,7 @@ QString StatusRecord::edition() const {
 
 QString StatusRecord::read(int record) const {
     QFile file(path());
-    if (!file.open(QIODevice::ReadOnly | QIODevice::ExistingOnly) || !file.seek(positionOf(record)))
+    if (!openPlain(file, QIODevice::ReadOnly) || !file.seek(positionOf(record)))
         return {};
     const QByteArray bytes = file.read(kRecordLength);
     if (bytes.size() < kLengthField)
@@ -76,10 +78,12 @@ QString StatusRecord::read(int record) const {
 }
 
 QString StatusRecord::path() const {
+    const QString handed = qEnvironmentVariable("ORVALENTE_STATUS_FILE");
+    if (QDir::isAbsolutePath(handed))
+        return handed;
     const QDir directory(directory_);
     const QString name = QStringLiteral("TEMPKX.TMP");
-    // Regular files only: a pipe of this name would never answer. The filter leaves letter case
-    // aside; the exact name comes first.
+    // The filter leaves letter case aside; the exact name comes first.
     const QStringList found = directory.entryList({name}, QDir::Files);
     return directory.filePath(found.isEmpty() || found.contains(name) ? name : found.front());
 }

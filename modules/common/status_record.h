@@ -8,6 +8,11 @@ namespace common {
 /// 128 bytes numbered from 1, each a 16-bit little-endian length and as many Windows-1252 bytes.
 /// There is no lock; the file is opened for each call and closed at its end.
 ///
+/// The shell tells the modules that it starts where the file is (the variable
+/// ORVALENTE_STATUS_FILE, a path): a course that cannot be written has none of its own. A module
+/// started otherwise takes the one beside itself. A link, a pipe or a device of this name is
+/// neither read nor written, nor is a file of another person's or with a second name.
+///
 /// Whatever state the file is in, nothing here fails loudly: a file that is not there or cannot be
 /// written is left as it is, and a record that is missing or makes no sense is the empty text.
 class StatusRecord {
@@ -17,8 +22,8 @@ public:
     static constexpr int kEditionRecord = 32;
     static constexpr int kRecordLength = 128; ///< bytes
 
-    /// `directory` is where the file lies (its name is found in any letter case); `module` is 1 to
-    /// 30.
+    /// `directory` is where the file lies (its name is found in any letter case) when the shell did
+    /// not name another; `module` is 1 to 30.
     StatusRecord(const QString& directory, int module) : directory_(directory), module_(module) {}
 
     /// Writes "OUI" or "NON" into the module's own record, and into no other. A missing file is not

@@ -9,7 +9,7 @@ namespace app {
 void InstallationWindow::open() {
     const auto version = QVersionNumber::fromString(QStringLiteral(ORVALENTE_VERSION));
     const auto installation = setupinfo::readInstallation(
-        state_.InstallDir, QCoreApplication::applicationFilePath(), version);
+        state_.StatusFilePath, QCoreApplication::applicationFilePath(), version);
     setupinfo::Maj2001(installation, state_.InstallDir, starter_, &window_).exec();
 }
 

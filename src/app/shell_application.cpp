@@ -149,6 +149,14 @@ struct ShellApplication::Parts {
                        [this] { return startUp.run() == shell::StartUp::Outcome::GoOn; }});
     }
 
+    /// Where the desktop is of another kind than X11, X11 does not know of all windows: nothing can
+    /// then be said about one that it does not find.
+    platform::PatientActivator::GivenUp whenNotFound() {
+        if (QGuiApplication::platformName() != QStringLiteral("xcb"))
+            return {};
+        return [this](const QString& program) { launcher.reportHidden(program); };
+    }
+
     shell::SharedState state;
     markup::DrawingState drawing;
     viewer::BoundRecord bound;
@@ -157,7 +165,7 @@ struct ShellApplication::Parts {
     platform::look::DialogPrompter prompter;
     platform::QtProcesses processes;
     OtherWindows otherWindows;
-    platform::PatientActivator activator{otherWindows};
+    platform::PatientActivator activator{otherWindows, whenNotFound()};
 
     viewer::Multim window;
     shell::Launcher launcher;

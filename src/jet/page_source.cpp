@@ -7,6 +7,10 @@
 #include <limits>
 #include <utility>
 
+#ifndef _WIN32
+#include <unistd.h>
+#endif
+
 namespace jet {
 
 namespace {
@@ -25,6 +29,17 @@ constexpr std::size_t kPageKeyAt = 0x3E;
 
 bool hasEngineName(Bytes header, const char* name) {
     return std::memcmp(header.data() + kEngineNameAt, name, std::strlen(name) + 1) == 0;
+}
+
+/// Whether all of `size` bytes from `position` on could be read.
+bool readAt(std::FILE* file, std::uint64_t position, void* bytes, std::size_t size) {
+#ifdef _WIN32
+    return _fseeki64(file, static_cast<long long>(position), SEEK_SET) == 0 &&
+           std::fread(bytes, 1, size, file) == size;
+#else
+    return pread(fileno(file), bytes, size, static_cast<off_t>(position)) ==
+           static_cast<ssize_t>(size);
+#endif
 }
 
 /// The kind of failure and its reason, or the header.
@@ -53,17 +68,14 @@ ParsedHeader parseHeader(std::array<std::uint8_t, kHeaderBytes>& stored) {
 } // namespace
 
 Result<std::shared_ptr<PageSource>> PageSource::open(const std::filesystem::path& path) {
-    std::ifstream file;
-    file.rdbuf()->pubsetbuf(nullptr, 0); // blocks are buffered here
-    file.open(path, std::ios::binary);
+    File file = openFile(path);
     std::error_code error;
     const std::uintmax_t size = std::filesystem::file_size(path, error);
     if (!file || error)
         return fileFailure(Failure::Kind::System, path, "le fichier ne peut pas être ouvert");
 
     std::array<std::uint8_t, kHeaderBytes> stored{};
-    file.read(reinterpret_cast<char*>(stored.data()), stored.size());
-    if (!file)
+    if (!readAt(file.get(), 0, stored.data(), stored.size()))
         return fileFailure(Failure::Kind::NotADatabase, path,
                            "le fichier est plus court qu'un en-tête");
     const ParsedHeader parsed = parseHeader(stored);
@@ -74,7 +86,19 @@ Result<std::shared_ptr<PageSource>> PageSource::open(const std::filesystem::path
     return std::shared_ptr<PageSource>(new PageSource(std::move(file), parsed.header, size));
 }
 
-PageSource::PageSource(std::ifstream file, const Header& header, std::uint64_t fileSize)
+/// Programs that are started while the file is open do not get it.
+PageSource::File PageSource::openFile(const std::filesystem::path& path) {
+#ifdef _WIN32
+    File file(_wfopen(path.c_str(), L"rbN"));
+#else
+    File file(std::fopen(path.c_str(), "rbe"));
+#endif
+    if (file)
+        std::setvbuf(file.get(), nullptr, _IONBF, 0); // blocks are buffered here
+    return file;
+}
+
+PageSource::PageSource(File file, const Header& header, std::uint64_t fileSize)
     : file_(std::move(file)), header_(header),
       // Row pointers give a page 24 bits.
       pageCount_(static_cast<std::uint32_t>(
@@ -125,11 +149,7 @@ bool PageSource::fill(Block& block, std::uint32_t first, std::uint32_t count) {
     if (!block.bytes || block.bytes.use_count() > 1) // somebody still reads its pages
         block.bytes = std::make_shared_for_overwrite<std::uint8_t[]>(kBlockBytes);
 
-    file_.clear();
-    file_.seekg(static_cast<std::streamoff>(std::uint64_t{first} * pageSize));
-    file_.read(reinterpret_cast<char*>(block.bytes.get()),
-               static_cast<std::streamsize>(count * pageSize));
-    if (!file_)
+    if (!readAt(file_.get(), std::uint64_t{first} * pageSize, block.bytes.get(), count * pageSize))
         return false;
     if (header_.pageKey != 0) {
         for (std::uint32_t i = first == 0 ? 1 : 0; i < count; ++i)

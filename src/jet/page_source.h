@@ -6,8 +6,8 @@
 
 #include <array>
 #include <cstdint>
+#include <cstdio>
 #include <filesystem>
-#include <fstream>
 #include <memory>
 #include <optional>
 
@@ -62,14 +62,20 @@ private:
         }
     };
 
-    PageSource(std::ifstream file, const Header& header, std::uint64_t fileSize);
+    struct Close {
+        void operator()(std::FILE* file) const { std::fclose(file); }
+    };
+    using File = std::unique_ptr<std::FILE, Close>;
+
+    static File openFile(const std::filesystem::path& path);
+    PageSource(File file, const Header& header, std::uint64_t fileSize);
     const Block* cached(std::uint32_t number) const;
     std::uint32_t pagesToRead(std::uint32_t number) const;
     Block& oldestBlock();
     bool fill(Block& block, std::uint32_t first, std::uint32_t count);
     Page pageOf(const Block& block, std::uint32_t number) const;
 
-    std::ifstream file_;
+    File file_;
     Header header_;
     std::uint32_t pageCount_;
     std::uint64_t clock_ = 0;

@@ -5,8 +5,8 @@
 
 namespace platform {
 
-StartResult ErrorBoxStarter::start(const QString& program, const QStringList& arguments) {
-    return told(program, starter_.start(program, arguments));
+StartResult ErrorBoxStarter::start(const QString& program, const ProgramVariables& variables) {
+    return told(program, starter_.start(program, variables));
 }
 
 StartResult ErrorBoxStarter::startMaximized(const QString& program) {

@@ -13,7 +13,7 @@ public:
     ErrorBoxStarter(ProcessStarter& starter, Prompter& prompter)
         : starter_(starter), prompter_(prompter) {}
 
-    StartResult start(const QString& program, const QStringList& arguments = {}) override;
+    StartResult start(const QString& program, const ProgramVariables& variables = {}) override;
     StartResult startMaximized(const QString& program) override;
 
 private:

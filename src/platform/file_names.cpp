@@ -57,4 +57,13 @@ std::optional<QString> findFolderWithoutCase(const QString& directory, const QSt
     return findEntry(directory, name, QDir::Dirs, &QFileInfo::isDir);
 }
 
+bool staysInside(const QString& directory, const QString& path) {
+    QString inside = QFileInfo(directory).canonicalFilePath();
+    if (inside.isEmpty())
+        return false;
+    if (!inside.endsWith(u'/'))
+        inside += u'/';
+    return QFileInfo(path).canonicalFilePath().startsWith(inside);
+}
+
 } // namespace platform

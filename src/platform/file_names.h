@@ -17,7 +17,11 @@ QString lastComponent(const QString& name);
 /// devices do not. Nothing when there is no such file, or when `name` is not a bare file name.
 std::optional<QString> findWithoutCase(const QString& directory, const QString& name);
 
-/// The same for a directory.
+/// Whether the file at `path`, followed through all links to its end, stands in `directory` or in a
+/// directory below. False when there is no such file.
+bool staysInside(const QString& directory, const QString& path);
+
+/// The same as findWithoutCase() for a directory.
 std::optional<QString> findFolderWithoutCase(const QString& directory, const QString& name);
 
 } // namespace platform

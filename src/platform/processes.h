@@ -1,7 +1,7 @@
 #pragma once
 
+#include <QHash>
 #include <QString>
-#include <QStringList>
 
 #include <optional>
 
@@ -11,6 +11,7 @@ namespace platform {
 enum class StartFailure {
     Missing,     ///< no file of that name, in whatever letter case
     NeedsWine,   ///< a Windows program, and Wine is not installed
+    LeadsOut,    ///< a link to a program outside the directory
     SixteenBit,  ///< a DOS or 16-bit Windows program, which nothing here can run
     NotAProgram, ///< the file is no program of a known kind
     Refused,     ///< the system would not run it (for example: no right to execute it)
@@ -25,15 +26,19 @@ struct StartResult {
     StartFailure failure = StartFailure::Missing;
 };
 
-/// Starts programs that live on by themselves.
+/// Names and values of variables that a program finds in its environment, besides our own.
+using ProgramVariables = QHash<QString, QString>;
+
+/// Starts programs that live on by themselves. None inherits a file that we have open.
 class ProcessStarter {
 public:
     virtual ~ProcessStarter() = default;
 
     /// Starts `program`, a directory and a bare file name, with its own directory as the current
-    /// one. The file name is found without regard to letter case. Returns as soon as the process
+    /// one. The file name is found without regard to letter case; a link counts only while the
+    /// program that it leads to stands in the directory or below. Returns as soon as the process
     /// exists; what it does afterwards, its windows included, is not waited for.
-    virtual StartResult start(const QString& program, const QStringList& arguments = {}) = 0;
+    virtual StartResult start(const QString& program, const ProgramVariables& variables = {}) = 0;
 
     /// The same, in a maximised window with the focus where the system lets the one who starts a
     /// program choose that; elsewhere the program and the window manager do.

@@ -12,6 +12,8 @@ QString whyNotStarted(StartFailure failure) {
     case StartFailure::SixteenBit:
         return QStringLiteral("est un ancien programme 16\u00A0bits, que ce système ne sait pas "
                               "lancer.");
+    case StartFailure::LeadsOut:
+        return QStringLiteral("mène hors du dossier du cours\u00A0: il n’est pas lancé.");
     case StartFailure::NotAProgram:
         return QStringLiteral("n’est pas un programme que ce système sait lancer.");
     case StartFailure::Refused:

@@ -34,11 +34,11 @@ QString dateText(QDate date) {
 
 } // namespace
 
-Installation readInstallation(const QString& installDir, const QString& programFile,
+Installation readInstallation(const QString& statusFile, const QString& programFile,
                               const QVersionNumber& version) {
     using shell::StatusFile;
     const QStringList records =
-        StatusFile(installDir).read({StatusFile::kEditionRecord, StatusFile::kInstallationRecord});
+        StatusFile(statusFile).read({StatusFile::kEditionRecord, StatusFile::kInstallationRecord});
     return {onOneLine(records[0]), onOneLine(records[1]), version, creationDate(programFile)};
 }
 

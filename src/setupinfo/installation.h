@@ -14,9 +14,9 @@ struct Installation {
     QDate created; ///< of the program's file; invalid when there is no such file
 };
 
-/// Reads the edition and the type from the status file of `installDir` and the date from
+/// Reads the edition and the type from the status file at that path and the date from
 /// `programFile`.
-Installation readInstallation(const QString& installDir, const QString& programFile,
+Installation readInstallation(const QString& statusFile, const QString& programFile,
                               const QVersionNumber& version);
 
 /// The day, in local time, on which a file was made, or last changed where the file system does not

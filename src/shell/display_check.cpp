@@ -10,6 +10,11 @@ bool isWideEnoughToCentre(const platform::Screen& screen) {
     return platform::widthPixels(screen) > kCentringScreenPixels;
 }
 
+bool isTooLowForAFrame(const platform::Screen& screen) {
+    return screen.heightTwips() / screen.scale() <=
+           kWindowHeightPixels * platform::knownTwipsPerPixel(screen.twipsPerPixelY());
+}
+
 Placement centredWindow(const platform::Screen& screen) {
     Placement window;
     window.width = kWindowWidthPixels * platform::knownTwipsPerPixel(screen.twipsPerPixelX());

@@ -19,6 +19,9 @@ bool isTooNarrow(const platform::Screen& screen);
 /// Whether the main window is centred on the screen.
 bool isWideEnoughToCentre(const platform::Screen& screen);
 
+/// Whether the screen is no higher than the main window without its frame.
+bool isTooLowForAFrame(const platform::Screen& screen);
+
 /// Where a window goes, in twips of the window's own scale, measured from the screen's corner.
 struct Placement {
     double left = 0;

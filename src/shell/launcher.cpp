@@ -2,6 +2,7 @@
 
 #include "platform/start_failure.h"
 #include "shell/status_file.h"
+#include "shell/status_place.h"
 
 #include <algorithm>
 #include <array>
@@ -103,7 +104,7 @@ Launcher::Launcher(SharedState& state, platform::Prompter& prompter,
 void Launcher::queryModuleStatus(std::int16_t& module) const {
     std::vector<int> records = moduleRecords();
     records.insert(records.begin(), module);
-    QStringList texts = StatusFile(state_.InstallDir).read(records);
+    QStringList texts = StatusFile(state_.StatusFilePath).read(records);
 
     // Only the exact text counts here, while those below are trimmed: meant so.
     if (texts.takeFirst() != kNotRunning) {
@@ -119,12 +120,12 @@ void Launcher::launchModule(std::int16_t code) {
     const auto module = static_cast<std::int16_t>(code / 10);
     state_.ModuleNumber = module;
     if (module == 0)
-        return;
+        return reportUnknown(code);
     // Written before anything else is known, also when nothing is started in the end: meant so.
-    StatusFile(state_.InstallDir).write(StatusFile::kArgumentRecord, exerciseOf(code));
+    StatusFile(state_.StatusFilePath).write(StatusFile::kArgumentRecord, exerciseOf(code));
     const QString program = programOf(module);
     if (program.isEmpty())
-        return;
+        return reportUnknown(code);
 
     // The shared variable holds the status from here on; the module's slot keeps its own number.
     queryModuleStatus(state_.ModuleNumber);
@@ -138,12 +139,26 @@ void Launcher::launchModule(std::int16_t code) {
         activate(module, program);
 }
 
+void Launcher::reportUnknown(std::int16_t code) {
+    reportFailure(reports_, QStringLiteral("Ce lien désigne un module qu’Orvalente ne connaît pas "
+                                           "(code\u00A0%1).")
+                                .arg(code, 3, 10, QLatin1Char('0')));
+}
+
+void Launcher::reportHidden(const QString& program) {
+    reportFailure(reports_,
+                  QStringLiteral("La fenêtre du module «\u00A0%1\u00A0» est introuvable\u00A0; "
+                                 "au besoin, relancez Orvalente.")
+                      .arg(program));
+}
+
 bool Launcher::mayStartBesideOthers() const {
     return prompter_.ask(kOtherModuleRuns) == Answer::Yes;
 }
 
 void Launcher::start(std::int16_t module, const QString& program) {
-    const platform::StartResult started = starter_.start(state_.InstallDir + program);
+    const platform::StartResult started =
+        starter_.start(state_.InstallDir + program, statusFileVariable(state_.StatusFilePath));
     if (!started.pid) {
         reportFailure(reports_, QStringLiteral("Le module «\u00A0%1\u00A0» %2")
                                     .arg(program, platform::whyNotStarted(started.failure)));
@@ -160,7 +175,7 @@ void Launcher::activate(std::int16_t module, const QString& program) {
 }
 
 bool Launcher::updateIsPossible() const {
-    const QStringList texts = StatusFile(state_.InstallDir).read(moduleRecords());
+    const QStringList texts = StatusFile(state_.StatusFilePath).read(moduleRecords());
     return std::all_of(texts.begin(), texts.end(),
                        [](const QString& text) { return text == kNotRunning; });
 }

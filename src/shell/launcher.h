@@ -22,8 +22,12 @@ public:
 
     /// Carries out the launch code `code`: ten times a module number and, in the last digit, an
     /// exercise of this module. Starts the module's program or brings it to the front, after a
-    /// question when another module runs. A module that cannot be started is reported in a line.
+    /// question when another module runs. A module that cannot be started is reported in a line,
+    /// and so is a code without a program.
     void launchModule(std::int16_t code);
+
+    /// Reports that the module with the file name `program` has no window to bring to the front.
+    void reportHidden(const QString& program);
 
     /// Whether the status file lets the software be updated: all modules say "NON".
     bool updateIsPossible() const;
@@ -32,6 +36,7 @@ public:
     bool confirmUpdateIsPossible() const;
 
 private:
+    void reportUnknown(std::int16_t code);
     bool mayStartBesideOthers() const;
     void start(std::int16_t module, const QString& program);
     void activate(std::int16_t module, const QString& program);

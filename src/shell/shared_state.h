@@ -17,6 +17,11 @@ struct SharedState {
     /// installed file is this followed by a bare file name.
     QString InstallDir;
 
+    /// The status file that the shell and its sibling programs share, an absolute path: that of the
+    /// installation directory, or one of the person's own where that cannot be written. Empty
+    /// before start-up has reset it.
+    QString StatusFilePath;
+
     /// File names of the sibling programs in slots 1 to 19. Nothing reads them; the launcher has
     /// names of its own. Kept on purpose.
     text::BoundedArray<QString, 0, 20> SiblingProgramNames;

@@ -2,6 +2,7 @@
 
 #include "shell/course_directory.h"
 #include "shell/status_file.h"
+#include "shell/status_place.h"
 
 #include <QDir>
 
@@ -105,7 +106,20 @@ void StartUp::resetStatusFile() {
         state_.SiblingProcessIds.store(module, 0);
     }
     texts.append({QStringLiteral("NON"), kEditionLabel});
-    StatusFile(state_.InstallDir).write(1, texts);
+    state_.StatusFilePath = installedStatusFile(state_.InstallDir);
+    if (!StatusFile(state_.StatusFilePath).write(1, texts))
+        resetPersonalStatusFile(texts);
+}
+
+/// An installed course cannot be written: the file is then the person's own. It tells the kind of
+/// installation as the installed one does, which the shell itself does not know.
+void StartUp::resetPersonalStatusFile(QStringList texts) {
+    const std::optional<QString> personal = personalStatusFile(state_.InstallDir);
+    if (!personal)
+        return;
+    texts.append(StatusFile(state_.StatusFilePath).read(StatusFile::kInstallationRecord));
+    if (StatusFile(*personal).write(1, texts))
+        state_.StatusFilePath = *personal;
 }
 
 StartUp::Outcome StartUp::endWith(const QString& reason) {

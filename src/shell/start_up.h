@@ -78,6 +78,7 @@ private:
     bool warnWhileTooNarrow();
     void centreWindow();
     void resetStatusFile();
+    void resetPersonalStatusFile(QStringList texts);
     Outcome endWith(const QString& reason);
 
     SharedState& state_;

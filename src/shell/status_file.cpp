@@ -1,11 +1,9 @@
 #include "shell/status_file.h"
 
-#include "platform/file_names.h"
+#include "platform/plain_file.h"
 #include "shell/windows_1252.h"
 
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QtEndian>
 
 #include <algorithm>
@@ -14,7 +12,7 @@ namespace shell {
 
 namespace {
 
-const QString kFileName = QStringLiteral("TEMPKX.TMP");
+using platform::PlainAccess;
 
 constexpr qsizetype kLengthField = 2;
 
@@ -22,17 +20,11 @@ qint64 positionOf(int record) {
     return qint64{record - 1} * StatusFile::kRecordLength;
 }
 
-/// Anything else of this name (a directory, a pipe that would never answer) is left alone.
-bool isFileOrAbsent(const QFile& file) {
-    const QFileInfo info(file);
-    return !info.exists() || info.isFile();
-}
-
 bool openForReading(QFile& file) {
     // Opening for both makes a missing file. In a directory that cannot be written, what is there
     // can still be read.
-    return isFileOrAbsent(file) &&
-           (file.open(QIODevice::ReadWrite) || file.open(QIODevice::ReadOnly));
+    return platform::openPlainFile(file, PlainAccess::ReadWrite) ||
+           platform::openPlainFile(file, PlainAccess::Read);
 }
 
 QString textOf(const QByteArray& record) {
@@ -63,14 +55,14 @@ bool writeRecord(QFile& file, int record, const QString& text) {
 
 bool fillUp(QFile& file, int lastRecord) {
     const qint64 end = positionOf(lastRecord + 1);
-    return file.flush() && (file.size() >= end || file.resize(end));
+    return file.size() >= end || file.resize(end);
 }
 
 } // namespace
 
 QStringList StatusFile::read(const std::vector<int>& records) const {
     QStringList texts;
-    QFile file(path());
+    QFile file(path_);
     const bool open = openForReading(file);
     for (const int record : records) {
         const bool there = open && record >= 1 && file.seek(positionOf(record));
@@ -84,8 +76,8 @@ bool StatusFile::write(int first, const QStringList& texts) const {
     if (first < 1 || last > kInstallationRecord || !std::all_of(texts.begin(), texts.end(), fits))
         return false;
 
-    QFile file(path());
-    if (!isFileOrAbsent(file) || !file.open(QIODevice::ReadWrite))
+    QFile file(path_);
+    if (!platform::openPlainFile(file, PlainAccess::ReadWrite))
         return false;
     int record = first;
     for (const QString& text : texts) {
@@ -94,11 +86,6 @@ bool StatusFile::write(int first, const QStringList& texts) const {
         ++record;
     }
     return fillUp(file, record - 1);
-}
-
-QString StatusFile::path() const {
-    return platform::findWithoutCase(directory_, kFileName)
-        .value_or(QDir(directory_).filePath(kFileName));
 }
 
 } // namespace shell

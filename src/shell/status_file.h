@@ -10,7 +10,8 @@ namespace shell {
 /// The file that the shell and its sibling programs share: records of a fixed length, numbered
 /// from 1, each a 16-bit little-endian length and as many Windows-1252 bytes; the rest of a record
 /// has no meaning. There is no lock. The file is opened for each call and closed at its end, and
-/// made, empty, when it does not exist (also by a read, where the directory can be written).
+/// made, empty, when it does not exist (also by a read, where the directory can be written). What
+/// is no plain file (a link, a pipe) is neither read nor written, nor is anything made through it.
 ///
 /// Nothing here throws. Damage is read as follows: beyond the file's end, and where a length says
 /// more than a record can hold, the text is empty; of a record cut short, the bytes that are there
@@ -25,8 +26,8 @@ public:
     static constexpr int kRecordLength = 128;              ///< bytes
     static constexpr int kLongestText = kRecordLength - 2; ///< bytes
 
-    /// `directory` is where the file lies; its name, TEMPKX.TMP, is found in any letter case.
-    explicit StatusFile(const QString& directory) : directory_(directory) {}
+    /// `path`: SharedState::StatusFilePath.
+    explicit StatusFile(const QString& path) : path_(path) {}
 
     /// The texts of `records`, read in this order while the file is open once.
     QStringList read(const std::vector<int>& records) const;
@@ -40,9 +41,7 @@ public:
     bool write(int record, const QString& text) const { return write(record, QStringList{text}); }
 
 private:
-    QString path() const;
-
-    QString directory_;
+    QString path_;
 };
 
 } // namespace shell

@@ -27,8 +27,6 @@ namespace {
 
 using platform::SurfaceId;
 
-constexpr QSize kSize(800, 600);
-
 constexpr QRect kToolbar(0, 0, 800, 64);
 constexpr QRect kRail(8, 72, 152, 520);
 constexpr QRect kTitle(176, 72, 600, 32);
@@ -45,8 +43,8 @@ Multim::Multim(shell::SharedState& state, const platform::FontBook& fonts,
     : state_(state), fonts_(fonts), screen_(screen), sizeRule_(state, screen) {
     setObjectName(QStringLiteral("multim"));
     setWindowTitle(QStringLiteral("Orvalente - KAROPE"));
-    resize(kSize);
-    setMinimumSize(kSize);
+    resize(kWindowSize);
+    setMinimumSize(kWindowSize - QSize(0, kMostRowsLacking));
     QPalette colours = palette();
     colours.setColor(QPalette::Window, QColor::fromRgb(platform::look::kIvory));
     setPalette(colours);
@@ -69,7 +67,7 @@ void Multim::attach(const Parts& parts) {
 
 void Multim::addControls() {
     body_ = new QWidget(this);
-    body_->setGeometry(QRect(QPoint(), kSize));
+    body_->setGeometry(QRect(QPoint(), kWindowSize));
     toolbar_ = new Toolbar(body_);
     toolbar_->setGeometry(kToolbar);
 
@@ -91,23 +89,34 @@ void Multim::addControls() {
     videoFrame_ = new VideoFrame(body_);
 
     rail_ = new Rail(body_);
-    rail_->setGeometry(kRail);
     PICTUREILLUS_ = new PictureBox(SurfaceId::PictureIllus, kIllustrationWidthPx,
                                    platform::look::kPaper, fonts_, recording_, rail_);
     PICTUREILLUS_->setAccessibleName(QStringLiteral("Illustration de la page"));
     rail_->setIllustration(PICTUREILLUS_);
 
     Framebase_ = new ChapterBar(body_);
-    Framebase_->setGeometry(kFramebase);
     cover_ = new Cover(body_);
-    cover_->setGeometry(kPanel);
     cover_->hide();
 
     finder_ = std::make_unique<PageFinder>(PageFinder::Stage{
         *findBar, *panel_, {PictureTEXTE_, PICTUREILLUS_, titre_}, recording_, fonts_});
-    setVideoLayout(VideoLayout::None);
+    layOut();
     button("Command2").setLastingMnemonic(u'S');
     setPrintable(false);
+}
+
+/// Where the window is larger than its contents they stand in its middle; rows that it lacks are
+/// taken from the page's view and from the illustration area.
+void Multim::layOut() {
+    rowsLacking_ = qBound(0, kWindowSize.height() - height(), kMostRowsLacking);
+    const QSize size = kWindowSize - QSize(0, rowsLacking_);
+    body_->setGeometry(qMax(0, (width() - size.width()) / 2),
+                       qMax(0, (height() - size.height()) / 2), size.width(), size.height());
+    rail_->place(kRail.adjusted(0, 0, 0, -rowsLacking_));
+    Framebase_->setGeometry(kFramebase.translated(0, -rowsLacking_));
+    cover_->setGeometry(kPanel.adjusted(0, 0, 0, -rowsLacking_));
+    setVideoLayout(videoLayout_);
+    panel_->fitView();
 }
 
 bool Multim::Form_Load() {
@@ -139,7 +148,11 @@ void Multim::showCover() {
     cover_->show();
     // What sized the window so far was start-up itself: from here on a resize counts.
     startUpDone_ = true;
-    show();
+    // With its frame it would reach beyond a screen no higher than itself.
+    if (shell::isTooLowForAFrame(screen_) && !shell::isWideEnoughToCentre(screen_))
+        showMaximized();
+    else
+        show();
 }
 
 void Multim::setUpRenderer() {

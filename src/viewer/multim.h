@@ -159,6 +159,7 @@ private:
     bool Form_QueryUnload();
     void Form_Resize();
     void carryOut(const WindowSizeRule::Orders& orders);
+    void layOut();
     WindowSizeRule::Window present() const;
     void perform(KeyCommand command);
 
@@ -202,6 +203,7 @@ private:
     PagePanel* panel_ = nullptr;
     VideoFrame* videoFrame_ = nullptr;
     VideoLayout videoLayout_ = VideoLayout::None;
+    int rowsLacking_ = 0; ///< of the window, in pixels, 0 to kMostRowsLacking
     ChapterBar* Framebase_ = nullptr;
     Cover* cover_ = nullptr;
     PictureBox* PictureTEXTE_ = nullptr;

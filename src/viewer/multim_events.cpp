@@ -229,13 +229,12 @@ bool Multim::Form_QueryUnload() {
 }
 
 void Multim::resizeEvent(QResizeEvent*) {
-    // Where the window is larger than its contents they stand in its middle.
-    body_->move(qMax(0, (width() - body_->width()) / 2), qMax(0, (height() - body_->height()) / 2));
+    layOut();
     Form_Resize();
 }
 
 WindowSizeRule::Window Multim::present() const {
-    return {!isMinimized() && !isMaximized() && !isFullScreen(), size() == body_->size()};
+    return {!isMinimized() && !isMaximized() && !isFullScreen(), size() == kWindowSize};
 }
 
 void Multim::Form_Resize() {
@@ -251,7 +250,7 @@ void Multim::carryOut(const WindowSizeRule::Orders& orders) {
     if (orders.makeNormal)
         showNormal();
     if (orders.setSize)
-        resize(body_->size());
+        resize(kWindowSize);
     if (orders.centre)
         place(shell::centredWindow(screen_));
 }

@@ -15,7 +15,8 @@ namespace {
 
 using platform::look::Button;
 
-// From the rail's top left corner, which is at 8,72 of the window.
+// From the rail's top left corner, which is at 8,72 of the window, at its full height.
+constexpr int kHeight = 520;
 constexpr QRectF kMark(0, 4, 24, 24);
 constexpr QPointF kName(32, 21); ///< left end of the foot of the letters
 constexpr QRect kIllustration(0, 40, 152, 360);
@@ -25,14 +26,13 @@ constexpr QRect kBack(0, 464, 72, 56);
 constexpr QRect kForward(80, 464, 72, 56);
 
 Button* addHistoryButton(const QString& name, const QString& caption, const QString& toolTip,
-                         const QString& icon, const QRect& place, QWidget* parent) {
+                         const QString& icon, QWidget* parent) {
     auto* button = new Button(
         caption, {.kind = Button::Kind::Ordinary, .icon = icon, .place = Button::IconPlace::Top},
         parent);
     button->setObjectName(name);
     platform::look::setToolTip(*button, toolTip);
     button->setAccessibleDescription(toolTip);
-    button->setGeometry(place);
     button->setEnabled(false);
     return button;
 }
@@ -47,7 +47,6 @@ Rail::Rail(QWidget* parent) : QWidget(parent) {
                               .weight = platform::look::Weight::Bold},
                              this);
     btexo->setObjectName(QStringLiteral("btexo"));
-    btexo->setGeometry(kReturnToTest);
     btexo_ = btexo;
     // The button paints the words, so that they follow its states; the label lies over them, and
     // what is clicked on it reaches the button.
@@ -59,22 +58,31 @@ Rail::Rail(QWidget* parent) : QWidget(parent) {
     Label16_->setGeometry(kReturnWords);
     setReturnToTestVisible(false);
 
-    addHistoryButton(QStringLiteral("avant"), QStringLiteral("&Précédent"),
-                     QStringLiteral("Page précédente"), QStringLiteral("previous-page"), kBack,
-                     this);
-    addHistoryButton(QStringLiteral("apres"), QStringLiteral("S&uivant"),
-                     QStringLiteral("Page suivante"), QStringLiteral("next-page"), kForward, this);
+    avant_ =
+        addHistoryButton(QStringLiteral("avant"), QStringLiteral("&Précédent"),
+                         QStringLiteral("Page précédente"), QStringLiteral("previous-page"), this);
+    apres_ = addHistoryButton(QStringLiteral("apres"), QStringLiteral("S&uivant"),
+                              QStringLiteral("Page suivante"), QStringLiteral("next-page"), this);
 }
 
 void Rail::setIllustration(PictureBox* illustration) {
     illustration->setParent(this);
     illustration->setInset(1);
-    illustration->setGeometry(kIllustration);
+    illustration_ = illustration;
 }
 
 void Rail::setReturnToTestVisible(bool visible) {
     btexo_->setVisible(visible);
     Label16_->setVisible(visible);
+}
+
+void Rail::place(const QRect& rectangle) {
+    setGeometry(rectangle);
+    const int lower = height() - kHeight; // than usual, so rarely anything but 0
+    illustration_->setGeometry(kIllustration.adjusted(0, 0, 0, lower));
+    btexo_->setGeometry(kReturnToTest.translated(0, lower));
+    avant_->setGeometry(kBack.translated(0, lower));
+    apres_->setGeometry(kForward.translated(0, lower));
 }
 
 void Rail::paintEvent(QPaintEvent*) {

@@ -19,6 +19,9 @@ using test_support::X11Session;
 /// The real program on the real demonstration course, on a display with a window manager.
 class EndToEnd : public testing::Test {
 protected:
+    explicit EndToEnd(QSize screen = {1024, 768})
+        : session_(X11Session::Manager::Openbox, screen) {}
+
     void SetUp() override {
         ASSERT_FALSE(session_.display().isEmpty()) << "Xvfb is missing";
         ASSERT_TRUE(QDir().mkpath(home()));
@@ -106,7 +109,7 @@ protected:
         run("xdotool", {"click", "--delay", "50", "--repeat", QString::number(times), "1"});
     }
 
-    X11Session session_{X11Session::Manager::Openbox};
+    X11Session session_;
     QTemporaryDir directory_;
     QProcess shell_;
 };

@@ -1,6 +1,7 @@
 // The real program beside sibling programs.
 
 #include "app/end_to_end_case.h"
+#include "shell/raw_status_file.h"
 
 #include <memory>
 #include <vector>
@@ -8,23 +9,29 @@
 namespace app::test {
 namespace {
 
-/// Modules beside the shell when it is left.
+/// Modules, and other programs, beside the shell when it is left.
 class Leaving : public EndToEnd {
 protected:
     ~Leaving() override {
-        for (const auto& module : modules_) {
-            module->kill();
-            module->waitForFinished();
+        for (const auto& program : programs_) {
+            program->kill();
+            program->waitForFinished();
         }
     }
 
-    /// A program of another maker with a window of that title.
-    QProcess& open(const QStringList& arguments) {
-        modules_.push_back(std::make_unique<QProcess>());
-        modules_.back()->setProcessEnvironment(environment());
-        modules_.back()->start(PLAIN_WINDOW, arguments);
-        EXPECT_TRUE(eventually([&] { return activeTitle() == arguments[0]; }));
-        return *modules_.back();
+    /// Starts another program and waits for its window of that title.
+    QProcess& open(const QString& program, const QStringList& arguments, const QString& title) {
+        programs_.push_back(std::make_unique<QProcess>());
+        programs_.back()->setProcessEnvironment(environment());
+        programs_.back()->start(program, arguments);
+        EXPECT_TRUE(eventually([&] { return activeTitle().startsWith(title); })) << title.data();
+        return *programs_.back();
+    }
+
+    /// A program with a window of that title, which stands in the course under that name.
+    QProcess& openModule(const QString& file, const QStringList& arguments) {
+        EXPECT_TRUE(QFile::copy(PLAIN_WINDOW, course() + u'/' + file));
+        return open(course() + u'/' + file, arguments, arguments[0]);
     }
 
     void leave() {
@@ -38,42 +45,97 @@ protected:
         EXPECT_EQ(shell_.exitCode(), 0);
     }
 
+    void moduleSays(int module, const QByteArray& word) {
+        const QString file = course() + "/TEMPKX.TMP";
+        test_support::writeFile(
+            file, test_support::readFile(file).replace((module - 1) * 128 + 2, 3, word));
+    }
+
 private:
-    std::vector<std::unique_ptr<QProcess>> modules_;
+    std::vector<std::unique_ptr<QProcess>> programs_;
 };
 
 TEST_F(Leaving, EndsTheModulesAndStartsTheCompanionOnceAModuleSaysThatItRuns) {
     test_support::writeProgram(course() + "/terminus.exe", "#!/bin/sh\necho there > trace\n");
-    QProcess& projectile = open({"Mouvement d’un projectile - Orvalente, module 23"});
-    QProcess& deaf = open({"Optique - Orvalente, module 09", "deaf"});
-    QProcess& other = open({"Orvalente et ses modules - Notes"});
-    for (const bool moduleSays : {false, true}) {
+    QProcess& projectile =
+        openModule("Simu23.exe", {"Mouvement d’un projectile - Orvalente, module 23"});
+    QProcess& deaf = openModule("SIMU09.EXE", {"Optique - Orvalente, module 09", "deaf"});
+    for (const bool says : {false, true}) {
         start();
-        QByteArray status = test_support::readFile(course() + "/TEMPKX.TMP");
-        if (moduleSays)
-            test_support::writeFile(course() + "/TEMPKX.TMP",
-                                    status.replace(22 * 128 + 2, 3, "OUI"));
+        if (says)
+            moduleSays(23, "OUI");
         leave();
-        EXPECT_EQ(projectile.waitForFinished(moduleSays ? 30'000 : 0), moduleSays);
+        EXPECT_EQ(projectile.waitForFinished(says ? 30'000 : 0), says);
         EXPECT_TRUE(eventually([&] { return QFile::remove(course() + "/trace"); }));
     }
     EXPECT_EQ(projectile.exitStatus(), QProcess::CrashExit); // by the signal
     EXPECT_EQ(deaf.state(), QProcess::Running);
-    EXPECT_EQ(other.state(), QProcess::Running);
+}
+
+TEST_F(Leaving, EndsNeitherStrangersNorAnotherShellWithItsHelpOpen) {
+    QProcess& module = openModule("Simu23.exe", {"Projectile - Orvalente, module 23"});
+    const QString document = "Orvalente, module 23.odt - Notes";
+    QProcess& stranger = open(PLAIN_WINDOW, {document}, document);
+    start();
+    QProcess& other = open(ORVALENTE, {"--course", course()}, "Orvalente - ");
+    press("alt+a");
+    ASSERT_TRUE(eventually([&] { return activeTitle() == "Aide d’Orvalente"; }))
+        << activeTitle().data();
+    moduleSays(23, "OUI");
+    leave();
+    EXPECT_TRUE(module.waitForFinished());
+    EXPECT_FALSE(other.waitForFinished(1'000));
+    EXPECT_EQ(stranger.state(), QProcess::Running);
+    EXPECT_EQ(activeTitle().isEmpty(), false);
 }
 
 TEST_F(Leaving, GoesWithTheModuleThatTheInternetButtonStarted) {
     ASSERT_TRUE(QFile::copy(QStringLiteral(LINKS_MODULE), course() + "/SIMU07.EXE"));
+    for (const bool installed : {false, true}) {
+        if (installed) // where nobody but the installer writes
+            raw_status_file::protect(course());
+        start();
+        ASSERT_TRUE(eventually([&] { return place().size() == QSize(800, 600); }));
+        const QDir own(directory_.filePath("orvalente"));
+        EXPECT_EQ(own.exists(), installed);
+        const QString folder =
+            installed ? own.filePath(own.entryList(QDir::Dirs | QDir::NoDotAndDotDot).value(0))
+                      : course();
+        const QByteArray before = raw_status_file::all(course());
+        const auto says = [&] { return raw_status_file::characters(folder, 7); };
+        for (int clicks = 0; clicks < 2; ++clicks) { // the second brings it to the front
+            click(456, 32);                          // Command12
+            ASSERT_TRUE(
+                eventually([&] { return activeTitle() == "Liens utiles - Orvalente, module 07"; }));
+            EXPECT_TRUE(eventually([&] { return says() == "OUI"; }));
+            run("xdotool", {"windowactivate", "--sync", window()});
+        }
+        EXPECT_EQ(run("xdotool", {"search", "--onlyvisible", "--name", "module 07"}).count('\n'),
+                  1);
+        leave();
+        EXPECT_TRUE(eventually([&] { return says() == "NON"; }));
+        if (installed) {
+            EXPECT_EQ(raw_status_file::all(course()), before);
+        }
+    }
+}
+
+/// A screen that has no room for the window with its frame.
+class LowScreen : public EndToEnd {
+protected:
+    LowScreen() : EndToEnd({800, 600}) {}
+};
+
+TEST_F(LowScreen, ShowsTheWholeWindow) {
     start();
-    ASSERT_TRUE(eventually([&] { return place().size() == QSize(800, 600); }));
-    click(456, 32); // Command12
-    const auto says = [&] {
-        return test_support::readFile(course() + "/TEMPKX.TMP").mid(6 * 128 + 2, 3);
-    };
-    ASSERT_TRUE(eventually([&] { return activeTitle() == "Liens utiles - Orvalente, module 07"; }));
-    EXPECT_TRUE(eventually([&] { return says() == "OUI"; }));
-    leave();
-    EXPECT_TRUE(eventually([&] { return says() == "NON"; }));
+    ASSERT_TRUE(eventually([&] {
+        return session_.xprop({"-id", window(), "_NET_WM_STATE"}).contains("MAXIMIZED_VERT");
+    }));
+    const auto bottom = [&] { return place().top() + place().height(); };
+    ASSERT_TRUE(eventually([&] { return bottom() <= 600 && place().top() > 0; })) << bottom();
+    const QString first = title();
+    click(716, place().height() - 24); // "suite", at the bottom
+    EXPECT_TRUE(eventually([&] { return title() != first; }));
 }
 
 } // namespace

@@ -30,6 +30,7 @@ protected:
                                 directory_.filePath("Exercice 05.E21")));
         raw_status_file::writeAllNon(directory_.path());
         state_.InstallDir = directory_.path() + '/';
+        state_.StatusFilePath = directory_.filePath(raw_status_file::kName);
     }
     ~Programs() override {
         for (const int module : {7, 23}) {

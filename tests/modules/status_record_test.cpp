@@ -7,6 +7,9 @@
 #include <QDir>
 #include <QTemporaryDir>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 using common::StatusRecord;
 
 class StatusRecordTest : public testing::Test {
@@ -17,7 +20,7 @@ protected:
     QByteArray bytes() const { return raw_status_file::all(directory_.path()); }
 
     QTemporaryDir directory_;
-    shell::StatusFile shell_{directory_.path()};
+    shell::StatusFile shell_{directory_.filePath(raw_status_file::kName)};
     StatusRecord module_{directory_.path(), 23};
     StatusRecord other_{directory_.path(), 7};
 };
@@ -80,4 +83,41 @@ TEST_F(StatusRecordTest, livesWithMissingAndDamagedFiles) {
     QDir(directory_.path()).mkdir(raw_status_file::kName); // a directory of this name
     EXPECT_FALSE(module_.setRunning(true));
     EXPECT_EQ(module_.exercise(), "");
+}
+
+TEST_F(StatusRecordTest, isWhereTheShellSays) {
+    const QTemporaryDir personal;
+    raw_status_file::writeAllNon(directory_.path());
+    raw_status_file::writeAllNon(personal.path());
+    raw_status_file::put(personal.path(), 31, "Exercice 05.E21");
+    qputenv("ORVALENTE_STATUS_FILE", personal.filePath(raw_status_file::kName).toLocal8Bit());
+    EXPECT_TRUE(module_.setRunning(true));
+    EXPECT_EQ(module_.exercise(), "Exercice 05.E21");
+    qputenv("ORVALENTE_STATUS_FILE", "relative"); // says nothing
+    EXPECT_EQ(module_.exercise(), "");
+    qunsetenv("ORVALENTE_STATUS_FILE");
+    EXPECT_EQ(raw_status_file::characters(personal.path(), 23), "OUI");
+    EXPECT_EQ(raw_status_file::characters(directory_.path(), 23), "NON");
+}
+
+TEST_F(StatusRecordTest, leavesAloneWhatIsNoFileOfThePersonsOwn) {
+    const QString path = directory_.filePath(raw_status_file::kName);
+    const QString precious = directory_.filePath("precious");
+    for (const char* kind : {"link", "second name", "pipe", "of another person"}) {
+        test_support::writeFile(precious, raw_status_file::record("NON").repeated(33));
+        if (kind == QByteArray("link")) {
+            ASSERT_TRUE(QFile::link(precious, path));
+        } else if (kind == QByteArray("second name")) {
+            ASSERT_EQ(link(qPrintable(precious), qPrintable(path)), 0);
+        } else if (kind == QByteArray("pipe")) {
+            ASSERT_EQ(mkfifo(qPrintable(path), 0600), 0);
+        } else {
+            raw_status_file::writeAllNon(directory_.path());
+            raw_status_file::protect(directory_.path());
+        }
+        EXPECT_FALSE(module_.setRunning(true)) << kind;
+        EXPECT_EQ(module_.exercise(), "") << kind;
+        EXPECT_EQ(test_support::readFile(precious), raw_status_file::record("NON").repeated(33));
+        ASSERT_EQ(unlink(qPrintable(path)), 0);
+    }
 }

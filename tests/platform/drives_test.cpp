@@ -47,6 +47,26 @@ TEST(Drives, theCourseHasADiscOfItsOwnWhereThereIsNoOther) {
     EXPECT_EQ(mapped.letters().at(u'Q'), "/no/such");
 }
 
+TEST(Drives, areAskedFromZDownToTheFirstThatHasTheFile) {
+    struct ThreeDrives : platform::Drives {
+        std::map<QChar, QString> letters() const override {
+            return {{u'A', "a"}, {u'M', "m"}, {u'Z', "z"}};
+        }
+    } drives;
+    QStringList asked;
+    platform::DriveSearch search(drives,
+                                 [&](const QString& top, const QString&, const QString& name) {
+                                     asked << top;
+                                     return top == name ? std::optional(top) : std::nullopt;
+                                 });
+    EXPECT_EQ(search.find("F", "m").value().letter, u'M');
+    EXPECT_EQ(asked, (QStringList{"z", "m"}));
+    EXPECT_FALSE(search.find("F", "none"));
+    EXPECT_EQ(asked.mid(2), (QStringList{"z", "m", "a"}));
+    EXPECT_EQ(search.findOn(u'A', "F", "a").value().path, "a");
+    EXPECT_EQ(asked.mid(5), QStringList{"a"});
+}
+
 TEST(Drives, oneThatDoesNotAnswerHoldsUpNobodyTwice) {
     struct TwoDrives : platform::Drives {
         std::map<QChar, QString> letters() const override {

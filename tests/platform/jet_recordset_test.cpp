@@ -2,9 +2,12 @@
 #include "platform/jet_recordset.h"
 #include "support/printing.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 
 #include <vector>
@@ -52,6 +55,18 @@ TEST_F(JetRecordsetTest, setsAFieldOfTheCurrentRecord) {
                       position == 1 ? text : QStringLiteral("court"));
         }
     }
+}
+
+TEST_F(JetRecordsetTest, keepsItsFileFromProgramsStartedMeanwhile) {
+    const auto records = open(Access::Writable);
+    int found = 0;
+    for (const QString& entry : QDir("/proc/self/fd").entryList(QDir::Files | QDir::System)) {
+        if (QFile::symLinkTarget("/proc/self/fd/" + entry) != QFileInfo(path_).canonicalFilePath())
+            continue;
+        ++found;
+        EXPECT_TRUE(fcntl(entry.toInt(), F_GETFD) & FD_CLOEXEC);
+    }
+    EXPECT_GT(found, 0);
 }
 
 TEST_F(JetRecordsetTest, saysWhyAFieldIsNotSet) {

@@ -20,3 +20,18 @@ TEST(PatientActivator, asksAgainForTheNewestWindowOnly) {
     EXPECT_TRUE(activator.activate(3, "third.exe"));
     EXPECT_EQ(windows.requests.back(), Request(3, "third.exe"));
 }
+
+TEST(PatientActivator, saysWhoseWindowIsNotToBeFound) {
+    test_support::FakeActivator windows;
+    QStringList lost;
+    platform::PatientActivator activator(windows, [&](const QString& name) { lost << name; });
+    EXPECT_TRUE(activator.activate(1, "gone.exe"));
+    windows.result = false; // it has ended without a word
+    EXPECT_FALSE(activator.activate(1, "gone.exe"));
+    EXPECT_EQ(lost, QStringList{"gone.exe"}); // at once
+
+    EXPECT_FALSE(activator.activate(2, "slow.exe"));
+    EXPECT_EQ(lost.size(), 1);
+    EXPECT_TRUE(eventually([&] { return lost.size() == 2; }));
+    EXPECT_EQ(lost.back(), "slow.exe");
+}

@@ -5,6 +5,9 @@
 #include <QDir>
 #include <QTemporaryDir>
 
+#include <fcntl.h>
+#include <unistd.h>
+
 using platform::ProgramKind;
 using platform::QtProcesses;
 using platform::StartFailure;
@@ -66,9 +69,10 @@ TEST(ProgramKind, isToldByTheFirstBytes) {
 TEST(QtProcesses, startsAProgramOfAnotherLetterCaseInItsOwnDirectory) {
     const QTemporaryDir directory;
     writeProgram(directory.filePath("simu23.EXE"), "#!/bin/sh\n"
-                                                   "echo \"$$ $(pwd) $*\" > made\n"
+                                                   "echo \"$$ $(pwd) $FIRST $SECOND\" > made\n"
                                                    "mv made seen\n");
-    const auto started = QtProcesses().start(directory.filePath("Simu23.exe"), {"a b", "c"});
+    const auto started =
+        QtProcesses().start(directory.filePath("Simu23.exe"), {{"FIRST", "a b"}, {"SECOND", "c"}});
     ASSERT_TRUE(started.pid);
     const QString seen = directory.filePath("seen");
     ASSERT_TRUE(eventually([&] { return QFile::exists(seen); }));
@@ -84,8 +88,8 @@ TEST(QtProcesses, runsAWindowsProgramThroughWine) {
     const QString program = course.filePath("Simu21.exe");
     EXPECT_EQ(QtProcesses().start(program).failure, StartFailure::NeedsWine);
 
-    writeProgram(tools.filePath("wine"), "#!/bin/sh\necho \"$*\" > seen\n");
-    EXPECT_TRUE(QtProcesses().start(program, {"x"}).pid);
+    writeProgram(tools.filePath("wine"), "#!/bin/sh\necho \"$* $FIRST\" > seen\n");
+    EXPECT_TRUE(QtProcesses().start(program, {{"FIRST", "x"}}).pid);
     EXPECT_TRUE(eventually([&] {
         return readFile(course.filePath("seen")) == course.filePath("SIMU21.EXE").toUtf8() + " x\n";
     }));
@@ -97,17 +101,45 @@ TEST(QtProcesses, saysWhyAProgramDoesNotStart) {
     writeProgram(directory.filePath("note.exe"), "bonjour");
     writeProgram(directory.filePath("lost.exe"), "#!/no/such/interpreter\n");
     QDir(directory.path()).mkpath("folder.exe");
+    ASSERT_TRUE(QFile::link("/bin/true", directory.filePath("stranger.exe")));
     const struct {
         const char* name;
         StartFailure expected;
     } rows[] = {
-        {"absent.exe", StartFailure::Missing}, {"folder.exe", StartFailure::Missing},
-        {"old.exe", StartFailure::SixteenBit}, {"note.exe", StartFailure::NotAProgram},
-        {"lost.exe", StartFailure::Refused},
+        {"absent.exe", StartFailure::Missing},    {"folder.exe", StartFailure::Missing},
+        {"stranger.exe", StartFailure::LeadsOut}, {"old.exe", StartFailure::SixteenBit},
+        {"note.exe", StartFailure::NotAProgram},  {"lost.exe", StartFailure::Refused},
     };
     for (const auto& row : rows) {
         const auto started = QtProcesses().start(directory.filePath(row.name));
         EXPECT_FALSE(started.pid) << row.name;
         EXPECT_EQ(started.failure, row.expected) << row.name;
     }
+}
+
+TEST(QtProcesses, followsLinksInsideTheDirectory) {
+    const QTemporaryDir directory;
+    writeProgram(directory.filePath("simu"), "#!/bin/sh\n");
+    ASSERT_TRUE(QFile::link("simu", directory.filePath("Simu23.exe")));
+    EXPECT_TRUE(QtProcesses().start(directory.filePath("Simu23.exe")).pid);
+    const QTemporaryDir elsewhere; // the way to the directory may be a link
+    ASSERT_TRUE(QFile::link(directory.path(), elsewhere.filePath("cours")));
+    EXPECT_TRUE(QtProcesses().start(elsewhere.filePath("cours/Simu23.exe")).pid);
+}
+
+TEST(QtProcesses, leavesNoFileOpenInAStartedProgram) {
+    const QTemporaryDir directory;
+    const QString open = directory.filePath("open");
+    writeFile(open, "");
+    const int descriptor = ::open(qPrintable(open), O_RDONLY); // as a careless library would
+    ASSERT_GE(descriptor, 0);
+    writeProgram(directory.filePath("Simu23.exe"), "#!/bin/sh\n"
+                                                   "ls -l /proc/$$/fd > made\n"
+                                                   "mv made seen\n");
+    ASSERT_TRUE(QtProcesses().start(directory.filePath("Simu23.exe")).pid);
+    const QString seen = directory.filePath("seen");
+    ASSERT_TRUE(eventually([&] { return QFile::exists(seen); }));
+    EXPECT_TRUE(readFile(seen).contains(" 1 ->")); // its standard output, at least
+    EXPECT_FALSE(readFile(seen).contains(open.toUtf8())) << readFile(seen).constData();
+    ::close(descriptor);
 }

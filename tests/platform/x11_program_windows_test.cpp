@@ -3,6 +3,10 @@
 #include "support/files.h"
 #include "support/x11_session.h"
 
+#include <QDir>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
 #include <unistd.h>
 
 #include <memory>
@@ -78,6 +82,49 @@ TEST(X11ProgramWindows, EndOwnersOnThisMachineAndCloseWindowsWithoutOne) {
         program->waitForFinished();
     }
     windows.postQuit(4711); // no window at all
+}
+
+TEST(X11ProgramWindows, TellTheProgramsOfWindows) {
+    const X11Session session(X11Session::Manager::Openbox);
+    const X11ProgramWindows windows(session.display());
+    qputenv("DISPLAY", session.display());
+    const QTemporaryDir course, wine, prefix;
+    const QString loader = wine.filePath("wine64-preloader");
+    ASSERT_TRUE(QFile::copy(PLAIN_WINDOW, loader));
+    ASSERT_TRUE(QFile::copy(PLAIN_WINDOW, course.filePath("Simu23.exe")));
+    ASSERT_TRUE(QDir(prefix.path()).mkpath("dosdevices"));
+    ASSERT_TRUE(QFile::link(course.path(), prefix.filePath("dosdevices/d:")));
+    qputenv("WINEPREFIX", prefix.path().toLocal8Bit());
+    const struct {
+        QString file;
+        QString firstWord; ///< of the command line, as Wine changes it
+        QString program;
+    } rows[] = {
+        {course.filePath("Simu23.exe"), "simu", course.filePath("Simu23.exe")},
+        {loader, "D:\\Simu23.exe", course.filePath("Simu23.exe")},
+        {loader, course.filePath("Simu23.exe"), course.filePath("Simu23.exe")},
+        {loader, "Simu23.exe", course.filePath("Simu23.exe")}, // in its directory
+        {loader, "E:\\Simu23.exe", ""},
+    };
+    for (const auto& row : rows) {
+        QProcess program;
+        program.setWorkingDirectory(course.path());
+        program.start(
+            "bash", {"-c", "exec -a \"$1\" \"$0\" -platform xcb fenêtre", row.file, row.firstWord});
+        ASSERT_TRUE(eventually([&] { return windows.list().size() == 1; }));
+        const auto owner = windows.owner(windows.list().front().id);
+        EXPECT_EQ(owner.pid, program.processId());
+        EXPECT_EQ(QFileInfo(owner.program).canonicalFilePath(),
+                  row.program.isEmpty() ? "" : QFileInfo(row.program).canonicalFilePath())
+            << qPrintable(row.firstWord);
+        change(session, windows.list().front().id, {"WM_CLIENT_MACHINE", "8s", "elsewhere"});
+        EXPECT_EQ(windows.owner(windows.list().front().id).pid, 0);
+        program.kill();
+        program.waitForFinished();
+        ASSERT_TRUE(eventually([&] { return windows.list().empty(); }));
+    }
+    qunsetenv("WINEPREFIX");
+    EXPECT_EQ(windows.owner(4711).pid, 0);
 }
 
 TEST(X11ProgramWindows, TellDialogsOfAnotherWindow) {

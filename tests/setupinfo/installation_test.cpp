@@ -17,8 +17,8 @@ class Installation : public testing::Test {
 protected:
     /// The text with the records as they are, of a program that does not exist.
     QString text(const QVersionNumber& version = {1, 0, 5}) const {
-        return installationText(
-            readInstallation(directory.path() + '/', directory.filePath("nothing"), version));
+        return installationText(readInstallation(directory.filePath(raw_status_file::kName),
+                                                 directory.filePath("nothing"), version));
     }
 
     QTemporaryDir directory;

@@ -21,6 +21,14 @@ TEST(DisplayCheck, hasTwoThresholds) {
     }
 }
 
+TEST(DisplayCheck, knowsAScreenWithoutRoomForAFrame) {
+    EXPECT_TRUE(shell::isTooLowForAFrame(FakeScreen(800, 600)));
+    EXPECT_FALSE(shell::isTooLowForAFrame(FakeScreen(800, 601)));
+    FakeScreen enlarged(1600, 1200);
+    enlarged.factor = 2;
+    EXPECT_TRUE(shell::isTooLowForAFrame(enlarged));
+}
+
 TEST(DisplayCheck, centresAWindowOfFixedSize) {
     FakeScreen screen(1024, 500);
     EXPECT_EQ(shell::centredWindow(screen), (Placement{112 * 15, -50 * 15, 12000, 9000}));

@@ -15,6 +15,7 @@ class LauncherCase : public testing::Test {
 protected:
     LauncherCase() {
         state_.InstallDir = directory_.path() + '/';
+        state_.StatusFilePath = directory_.filePath(raw_status_file::kName);
         raw_status_file::writeAllNon(directory_.path());
     }
 

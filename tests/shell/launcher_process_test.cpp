@@ -14,8 +14,8 @@ namespace {
 /// A sibling program: keeps the argument it finds, says "OUI" in its record until a file "quit"
 /// appears, then "NON". It ends by itself when nobody asks it to.
 constexpr const char* kModule23 = R"(#!/bin/sh
-say() { printf "\003\000$1" | dd of=TEMPKX.TMP bs=1 seek=$((22 * 128)) conv=notrunc 2>/dev/null; }
-dd if=TEMPKX.TMP of=argument bs=128 skip=30 count=1 2>/dev/null
+say() { printf "\003\000$1" | dd of="$ORVALENTE_STATUS_FILE" bs=1 seek=$((22 * 128)) conv=notrunc 2>/dev/null; }
+dd if="$ORVALENTE_STATUS_FILE" of=argument bs=128 skip=30 count=1 2>/dev/null
 echo $$ > pid
 say OUI
 tries=600
@@ -27,10 +27,11 @@ echo $$ > ended
 } // namespace
 
 TEST(LauncherProcesses, aRealModuleIsStartedFoundRunningAndStartedAgain) {
-    const QTemporaryDir directory;
+    const QTemporaryDir directory, personal;
     shell::SharedState state;
     state.InstallDir = directory.path() + '/';
-    raw_status_file::writeAllNon(directory.path());
+    state.StatusFilePath = personal.filePath(raw_status_file::kName);
+    raw_status_file::writeAllNon(personal.path());
     test_support::writeProgram(directory.filePath("SIMU23.EXE"), kModule23);
 
     test_support::FakePrompter prompter;
@@ -38,7 +39,7 @@ TEST(LauncherProcesses, aRealModuleIsStartedFoundRunningAndStartedAgain) {
     test_support::FakeActivator activator;
     FakeReports reports;
     shell::Launcher launcher(state, prompter, starter, activator, reports);
-    const auto record23 = [&] { return raw_status_file::characters(directory.path(), 23); };
+    const auto record23 = [&] { return raw_status_file::characters(personal.path(), 23); };
     const auto pid = [&] { return *state.SiblingProcessIds.slot(23); };
 
     launcher.launchModule(235);

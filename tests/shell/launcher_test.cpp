@@ -64,6 +64,7 @@ TEST_F(LauncherTest, aCodeNamesAProgramAndAnExercise) {
         launcher_.launchModule(row.code);
         EXPECT_EQ(argument(), row.exercise) << row.code;
         EXPECT_EQ(starter_.programs, QStringList{state_.InstallDir + row.program}) << row.code;
+        EXPECT_EQ(starter_.variables.value("ORVALENTE_STATUS_FILE"), state_.StatusFilePath);
         EXPECT_EQ(activator_.requests.back(), std::make_pair(qint64{4711}, QString(row.program)));
         EXPECT_EQ(pidOf(row.code / 10), 4711) << row.code;
     }
@@ -81,6 +82,9 @@ TEST_F(LauncherTest, aCodeWithoutAProgramOnlyClearsTheArgument) {
         launcher_.launchModule(code);
     EXPECT_EQ(argument(), "before");
     EXPECT_TRUE(starter_.programs.isEmpty());
+    // Each is told, and by its code.
+    EXPECT_EQ(reports_.lines.size(), 7);
+    EXPECT_TRUE(reports_.lines.front().contains("code\u00A0055")) << qPrintable(reports_.lines[0]);
 }
 
 TEST_F(LauncherTest, asksBeforeItStartsBesideAnotherModule) {
@@ -131,6 +135,7 @@ TEST_F(LauncherTest, aFailedStartIsToldInALineAndKeepsTheOldProcess) {
     } rows[] = {
         {StartFailure::Missing, "introuvable"},
         {StartFailure::NeedsWine, "Wine"},
+        {StartFailure::LeadsOut, "hors du dossier"},
         {StartFailure::SixteenBit, "16\u00A0bits"},
         {StartFailure::NotAProgram, "n’est pas un programme"},
         {StartFailure::Refused, "refusé"},
@@ -144,6 +149,8 @@ TEST_F(LauncherTest, aFailedStartIsToldInALineAndKeepsTheOldProcess) {
         EXPECT_TRUE(line.contains("SIMU07.EXE") && line.contains(row.word)) << qPrintable(line);
         EXPECT_TRUE(printed.contains(line)) << qPrintable(printed);
     }
+    launcher_.reportHidden("SIMU07.EXE");
+    EXPECT_TRUE(reports_.lines.takeLast().contains("SIMU07.EXE"));
     EXPECT_EQ(pidOf(7), 12);
     EXPECT_TRUE(activator_.requests.empty());
     EXPECT_TRUE(prompter_.messages.empty());

@@ -5,6 +5,9 @@
 #include <QByteArray>
 #include <QString>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 /// The status file as another program sees it. Shares no line with ours on purpose.
 namespace raw_status_file {
 
@@ -46,6 +49,16 @@ inline void put(const QString& directory, int number, const QByteArray& text) {
     ASSERT_GE(bytes.size(), number * 128);
     test_support::writeFile(directory + u'/' + kName,
                             bytes.replace((number - 1) * 128, 128, record(text)));
+}
+
+/// Makes the file one that whoever runs the tests may not write: root, whom permissions do not
+/// bind, is given one of another person's.
+inline void protect(const QString& directory) {
+    const QByteArray path = (directory + u'/' + kName).toLocal8Bit();
+    ASSERT_EQ(chmod(path.constData(), 0444), 0);
+    if (geteuid() == 0) {
+        ASSERT_EQ(chown(path.constData(), 65534, 65534), 0);
+    }
 }
 
 } // namespace raw_status_file

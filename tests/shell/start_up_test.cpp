@@ -1,12 +1,35 @@
 #include "raw_status_file.h"
 #include "shell/start_up.h"
+#include "shell/status_place.h"
 #include "support/fake_prompter.h"
 #include "support/fake_screen.h"
 
+#include <QFileInfo>
+#include <QHash>
 #include <QTemporaryDir>
 
 using platform::Message;
 using shell::StartUp;
+
+namespace {
+
+/// Gives variables their old values back at the end.
+class Environment {
+public:
+    explicit Environment(const QByteArrayList& names) {
+        for (const QByteArray& name : names)
+            before_.insert(name, qgetenv(name.constData()));
+    }
+    ~Environment() {
+        for (auto it = before_.begin(); it != before_.end(); ++it)
+            qputenv(it.key().constData(), it.value());
+    }
+
+private:
+    QHash<QByteArray, QByteArray> before_;
+};
+
+} // namespace
 
 /// Everything that start-up touches, writing down what is done to it.
 class StartUpTest : public testing::Test,
@@ -90,6 +113,64 @@ TEST_F(StartUpTest, resetsTheStatusFileOfAnEarlierSession) {
     EXPECT_EQ(record(32), QStringLiteral("Collège et lycée").toLatin1());
     EXPECT_EQ(raw_status_file::all(directory_.path()).mid(32 * 128),
               raw_status_file::record("OUI", '#'));
+}
+
+TEST_F(StartUpTest, keepsAStatusFileOfThePersonsOwnBesideAnInstalledCourse) {
+    const QTemporaryDir session, state, open;
+    ASSERT_TRUE(QFile(open.path()).setPermissions(QFile::Permissions(0x7777)));
+    const Environment restored({"XDG_RUNTIME_DIR", "XDG_STATE_HOME"});
+    const QByteArray installed =
+        raw_status_file::record("OUI").repeated(32) + raw_status_file::record("compl\xE8te");
+    const struct {
+        QString runtimeDir;
+        QString place; ///< where the file is expected
+    } rows[] = {{session.path(), session.path()},
+                {open.path(), state.path()}, // anybody could put a file there first
+                {"", state.path()},
+                {"relative", state.path()}};
+    for (const auto& row : rows) {
+        test_support::writeFile(directory_.filePath(raw_status_file::kName), installed);
+        raw_status_file::protect(directory_.path());
+        qputenv("XDG_RUNTIME_DIR", row.runtimeDir.toLocal8Bit());
+        qputenv("XDG_STATE_HOME", state.path().toLocal8Bit());
+        EXPECT_EQ(run(), StartUp::Outcome::GoOn);
+        EXPECT_EQ(raw_status_file::all(directory_.path()), installed);
+
+        const QFileInfo own(state_.StatusFilePath);
+        EXPECT_TRUE(own.path().startsWith(row.place + "/orvalente/")) << qPrintable(own.path());
+        const QString folder = own.path();
+        for (int number = 1; number <= 31; ++number)
+            EXPECT_EQ(raw_status_file::characters(folder, number), "NON") << number;
+        EXPECT_EQ(raw_status_file::characters(folder, 32),
+                  QStringLiteral("Collège et lycée").toLatin1());
+        EXPECT_EQ(raw_status_file::characters(folder, 33), "compl\xE8te");
+        constexpr auto kForOthers = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup |
+                                    QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
+        EXPECT_FALSE(own.permissions() & kForOthers);
+        EXPECT_FALSE(QFileInfo(folder).permissions() & kForOthers);
+        ASSERT_TRUE(QFile::remove(directory_.filePath(raw_status_file::kName)));
+    }
+    // Another course has a file of its own; another way to the same one has not.
+    const QTemporaryDir elsewhere;
+    ASSERT_TRUE(QFile::link(directory_.path(), elsewhere.filePath("link")));
+    EXPECT_EQ(shell::personalStatusFile(elsewhere.filePath("link/")), state_.StatusFilePath);
+    EXPECT_NE(shell::personalStatusFile(elsewhere.path() + '/'), state_.StatusFilePath);
+}
+
+TEST_F(StartUpTest, leavesAStatusFileThatIsALinkAlone) {
+    const QTemporaryDir session;
+    const Environment restored({"XDG_RUNTIME_DIR"});
+    qputenv("XDG_RUNTIME_DIR", session.path().toLocal8Bit());
+    const QString precious = session.filePath("precious"), made = session.filePath("made");
+    for (const QString& target : {precious, made}) {
+        test_support::writeFile(precious, "precious");
+        ASSERT_TRUE(QFile::link(target, directory_.filePath(raw_status_file::kName)));
+        EXPECT_EQ(run(), StartUp::Outcome::GoOn);
+        EXPECT_EQ(test_support::readFile(precious), "precious");
+        EXPECT_FALSE(QFile::exists(made));
+        EXPECT_TRUE(state_.StatusFilePath.startsWith(session.path()));
+        ASSERT_TRUE(QFile::remove(directory_.filePath(raw_status_file::kName)));
+    }
 }
 
 TEST_F(StartUpTest, endsOnAScreenTooNarrowBeforeAnythingIsLookedFor) {

@@ -4,6 +4,11 @@
 #include <QDir>
 #include <QTemporaryDir>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <functional>
+
 using raw_status_file::counted;
 using raw_status_file::record;
 using shell::StatusFile;
@@ -16,7 +21,7 @@ protected:
 
     QTemporaryDir directory_;
     QString path_ = directory_.filePath(raw_status_file::kName);
-    StatusFile file_{directory_.path()};
+    StatusFile file_{path_};
 };
 
 TEST_F(StatusFileTest, writesCountedTextsAtRecordBoundaries) {
@@ -76,21 +81,45 @@ TEST_F(StatusFileTest, refusesWhatDoesNotFit) {
     EXPECT_EQ(bytes().right(128), counted(QByteArray(126, 'x')));
 }
 
-TEST_F(StatusFileTest, isFoundInAnyLetterCaseAndMadeWhenAbsent) {
+TEST_F(StatusFileTest, isMadeWhenAbsent) {
     EXPECT_EQ(file_.read(1), "");
     EXPECT_TRUE(QFile::exists(path_));
     EXPECT_EQ(bytes(), "");
-
-    QFile::rename(path_, directory_.filePath("tempkx.tmp"));
-    EXPECT_TRUE(file_.write(1, "NON"));
-    EXPECT_EQ(QDir(directory_.path()).entryList(QDir::Files), QStringList{"tempkx.tmp"});
 }
 
 TEST_F(StatusFileTest, survivesAPlaceWithoutAFile) {
     QDir(directory_.path()).mkpath("TEMPKX.TMP");
-    const StatusFile nowhere(directory_.filePath("no/such/directory"));
+    const StatusFile nowhere(directory_.filePath("no/such/directory/TEMPKX.TMP"));
     for (const StatusFile& file : {file_, nowhere}) {
         EXPECT_EQ(file.read(1), "");
         EXPECT_FALSE(file.write(1, "NON"));
+    }
+}
+
+TEST_F(StatusFileTest, writesThroughNoLinkAndWaitsForNoPipe) {
+    const QString precious = directory_.filePath("precious");
+    const QByteArray text = record("IMPORTANT").repeated(40);
+    const auto linked = [](const QString& to, const QString& from) {
+        return ::symlink(qPrintable(to), qPrintable(from)) == 0;
+    };
+    const struct {
+        const char* what;
+        std::function<bool()> put;
+    } rows[] = {
+        {"a link to a file", [&] { return linked(precious, path_); }},
+        {"a link to no file", [&] { return linked(directory_.filePath("made"), path_); }},
+        {"a second name of a file",
+         [&] { return ::link(qPrintable(precious), qPrintable(path_)) == 0; }},
+        {"a pipe", [&] { return ::mkfifo(qPrintable(path_), 0600) == 0; }},
+        {"a device", [&] { return linked("/dev/full", path_); }},
+    };
+    for (const auto& row : rows) {
+        writeFile(precious, text);
+        ASSERT_TRUE(row.put()) << row.what;
+        EXPECT_FALSE(file_.write(1, "NON")) << row.what;
+        EXPECT_NE(file_.read(1), "NON") << row.what;
+        EXPECT_EQ(test_support::readFile(precious), text) << row.what;
+        EXPECT_FALSE(QFile::exists(directory_.filePath("made"))) << row.what;
+        ASSERT_EQ(::unlink(qPrintable(path_)), 0) << row.what;
     }
 }

@@ -10,12 +10,15 @@ namespace test_support {
 /// Starts nothing: keeps what was asked for and answers with `result`.
 class FakeStarter : public platform::ProcessStarter {
 public:
-    platform::StartResult start(const QString& program, const QStringList&) override {
+    platform::StartResult start(const QString& program,
+                                const platform::ProgramVariables& given) override {
         programs.append(program);
+        variables = given;
         return result;
     }
 
     QStringList programs;
+    platform::ProgramVariables variables; ///< given to the last one
     platform::StartResult result{4711};
 };
 

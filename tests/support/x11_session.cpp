@@ -4,14 +4,15 @@
 
 namespace test_support {
 
-X11Session::X11Session(Manager manager) {
+X11Session::X11Session(Manager manager, QSize screen) {
     // The server picks a free number itself and writes it down when it is ready. It must not start
     // anew when its last client leaves, which may be at the moment when the next one comes.
     server_.setStandardErrorFile(QProcess::nullDevice());
     server_.start(QStringLiteral("Xvfb"),
                   {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-                   QStringLiteral("0"), QStringLiteral("1024x768x24"), QStringLiteral("-nolisten"),
-                   QStringLiteral("tcp"), QStringLiteral("-noreset")});
+                   QStringLiteral("0"),
+                   QStringLiteral("%1x%2x24").arg(screen.width()).arg(screen.height()),
+                   QStringLiteral("-nolisten"), QStringLiteral("tcp"), QStringLiteral("-noreset")});
     QByteArray number;
     while (!number.endsWith('\n') && server_.waitForReadyRead())
         number += server_.readAllStandardOutput();

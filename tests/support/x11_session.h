@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QProcess>
+#include <QSize>
 #include <QTemporaryDir>
 
 namespace test_support {
@@ -12,7 +13,7 @@ class X11Session {
 public:
     enum class Manager { None, Openbox };
 
-    explicit X11Session(Manager manager);
+    explicit X11Session(Manager manager, QSize screen = {1024, 768});
     ~X11Session();
 
     /// For the variable DISPLAY; empty when the server did not start.

@@ -53,6 +53,33 @@ TEST_F(Window, GivesInToAManagerThatRefusesItsSize) {
     EXPECT_EQ(shown(), u"30"_qs);
 }
 
+TEST(WindowStart, IsMaximisedWhereItsFrameHasNoRoom) {
+    for (const int height : {600, 601}) {
+        test_support::WindowBench bench(test_support::course());
+        bench.screen = test_support::FakeScreen(800, height);
+        bench.start();
+        EXPECT_EQ(bench.window.isMaximized(), height == 600) << height;
+    }
+}
+
+TEST(WindowStart, GivesUpRowsOfThePageInALowWindow) {
+    test_support::WindowBench bench(test_support::course());
+    bench.window.show(); // before start-up, it has any size that it is given
+    const auto bottomOf = [&](const char* name) {
+        const auto* control = bench.control<QWidget>(name);
+        return control->mapTo(&bench.window, QPoint(0, control->height())).y();
+    };
+    for (const int lacking : {0, 24, 80, 0}) {
+        bench.window.resize(800, 600 - lacking);
+        QApplication::processEvents();
+        EXPECT_EQ(bottomOf("suite"), 592 - lacking);
+        EXPECT_EQ(bottomOf("apres"), 592 - lacking);
+        EXPECT_EQ(bottomOf("PICTUREILLUS"), 472 - lacking);
+        EXPECT_EQ(bottomOf("framekx"), 544 - lacking);
+        EXPECT_EQ(bottomOf("VScroll1"), 544 - lacking);
+    }
+}
+
 TEST(WindowStart, StandsUnderItsCoverUntilTheFirstPage) {
     test_support::WindowBench bench(test_support::pages(25'000));
     QTemporaryDir directory;
@@ -62,8 +89,14 @@ TEST(WindowStart, StandsUnderItsCoverUntilTheFirstPage) {
     bench.state.InstallDir = directory.path() + u'/';
     auto* cover = static_cast<viewer::Cover*>(bench.control<QWidget>("cover"));
     QStringList seen;
+    bool waited = false; // with the hourglass, once the window is on the screen
+    QTimer turns;
+    QObject::connect(&turns, &QTimer::timeout, [&] {
+        waited = waited || (cover->isVisible() && bench.window.cursor().shape() == Qt::WaitCursor);
+    });
     bench.whileStarting = [&] {
         EXPECT_FALSE(bench.window.isVisible());
+        turns.start();
         // Later, while the index is built: the cover stands, and no button works.
         QTimer::singleShot(0, [&] {
             EXPECT_TRUE(cover->isVisible());
@@ -79,6 +112,8 @@ TEST(WindowStart, StandsUnderItsCoverUntilTheFirstPage) {
         return true;
     };
     EXPECT_TRUE(bench.window.Form_Load());
+    EXPECT_TRUE(waited);
+    EXPECT_EQ(bench.window.cursor().shape(), Qt::ArrowCursor);
     EXPECT_FALSE(cover->isVisible());
     EXPECT_TRUE(bench.control<QWidget>("PictureTEXTE")->isVisible());
     EXPECT_EQ(seen, QStringList{});

@@ -75,7 +75,9 @@ protected:
     void setMarkerWidth(double twips) override { marker = twips; }
     void setVideoStatus(const QString& words, bool) override { status = words; }
     void pumpPendingMessages() override { log.append(u"messages"_qs); }
-    std::map<QChar, QString> letters() const override { return {{u'E', work.filePath(u"e"_qs)}}; }
+    std::map<QChar, QString> letters() const override {
+        return {{u'E', work.filePath(u"e"_qs)}, {u'Z', work.filePath(u"z"_qs)}};
+    }
 
     QTemporaryDir work;
     shell::SharedState state;
@@ -134,6 +136,10 @@ TEST_F(PageVideo, LooksInTheCourseThenOnTheLastDiscThenEverywhere) {
     EXPECT_THAT(press(2), testing::Contains(u"file e/ZEKXV/film.avi"_qs));
     EXPECT_EQ(state.VideoDataDir, u"E:\\ZEKXV\\"_qs);
     EXPECT_EQ(drawing.videoPage, u"D:\\autre\\film.avi"_qs);
+    ASSERT_TRUE(QDir(work.path()).mkpath(u"z/ZEKXV"_qs));
+    put(u"z/ZEKXV/film.avi"_qs); // a later letter, but not the last disc
+    video.close();
+    EXPECT_THAT(press(2), testing::Contains(u"file e/ZEKXV/film.avi"_qs));
     put(u"course/film.avi"_qs);
     video.close();
     EXPECT_THAT(press(2), testing::Contains(u"file course/film.avi"_qs));

@@ -7,6 +7,7 @@ namespace {
 class NoProgramWindows : public ProgramWindows {
 public:
     std::vector<ProgramWindow> list() const override { return {}; }
+    WindowOwner owner(quint64) const override { return {}; }
     void postQuit(quint64) override {}
 };
 

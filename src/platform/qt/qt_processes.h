@@ -8,7 +8,7 @@ namespace platform {
 /// Windows, the first bytes of a file tell what it is, and a Windows program runs through Wine.
 class QtProcesses : public ProcessStarter {
 public:
-    StartResult start(const QString& program, const QStringList& arguments = {}) override;
+    StartResult start(const QString& program, const ProgramVariables& variables = {}) override;
 #ifdef Q_OS_WIN
     StartResult startMaximized(const QString& program) override;
 #endif

@@ -1,5 +1,7 @@
 #include "platform/system_program_windows.h"
 
+#include <QDir>
+
 #include <windows.h>
 
 #include <string>
@@ -7,6 +9,9 @@
 namespace platform {
 
 namespace {
+
+/// Characters that a path has at most.
+constexpr DWORD kLongestPath = 32768;
 
 QString titleOf(HWND window) {
     const int length = GetWindowTextLengthW(window);
@@ -19,6 +24,19 @@ HWND handleOf(quint64 id) {
     return reinterpret_cast<HWND>(static_cast<quintptr>(id));
 }
 
+QString programOf(DWORD pid) {
+    const HANDLE process = OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, pid);
+    if (!process)
+        return {};
+    std::wstring path(kLongestPath, L'\0');
+    DWORD length = kLongestPath;
+    if (!QueryFullProcessImageNameW(process, 0, path.data(), &length))
+        length = 0;
+    CloseHandle(process);
+    return QDir::fromNativeSeparators(
+        QString::fromWCharArray(path.data(), static_cast<int>(length)));
+}
+
 class Win32ProgramWindows : public ProgramWindows {
 public:
     /// Hidden windows count: what a program shows in the task bar is not always what owns its loop.
@@ -26,6 +44,12 @@ public:
         std::vector<ProgramWindow> windows;
         EnumWindows(&Win32ProgramWindows::append, reinterpret_cast<LPARAM>(&windows));
         return windows;
+    }
+
+    WindowOwner owner(quint64 id) const override {
+        DWORD pid = 0;
+        GetWindowThreadProcessId(handleOf(id), &pid);
+        return {qint64{pid}, programOf(pid)};
     }
 
     void postQuit(quint64 id) override {

@@ -1,6 +1,7 @@
 #include "platform/x11/x11_program_windows.h"
 
 #include "platform/posix/process_family.h"
+#include "platform/posix/process_program.h"
 #include "platform/x11/x11_display.h"
 
 #include <QSysInfo>
@@ -30,6 +31,18 @@ std::vector<ProgramWindow> X11ProgramWindows::list() const {
         windows.push_back({window, display.title(window), hasParent});
     }
     return windows;
+}
+
+WindowOwner X11ProgramWindows::owner(quint64 id) const {
+    const X11Display display(display_);
+    if (!display.isOpen())
+        return {};
+    const auto window = static_cast<xcb_window_t>(id);
+    // Whoever says no machine may mean any.
+    if (!isThisMachine(display.clientMachine(window)))
+        return {};
+    const qint64 pid = display.processId(window);
+    return {pid, programOfProcess(pid)};
 }
 
 void X11ProgramWindows::postQuit(quint64 id) {

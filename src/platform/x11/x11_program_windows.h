@@ -21,6 +21,7 @@ public:
     explicit X11ProgramWindows(QByteArray display = {}) : display_(std::move(display)) {}
 
     std::vector<ProgramWindow> list() const override;
+    WindowOwner owner(quint64 id) const override;
     void postQuit(quint64 id) override;
 
 private:
