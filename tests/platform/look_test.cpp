@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QLabel>
 #include <QPainter>
+#include <QPlainTextEdit>
 #include <QTest>
 #include <QTimer>
 
@@ -174,7 +175,9 @@ TEST_F(Buttons, LastingMnemonicOutlivesTheCaption) {
 TEST_F(Buttons, UnderlinesMnemonicsOnlyWhileAltIsDown) {
     const QImage plain = painted(search);
     TextField field(&window);
-    for (QWidget* focused : {&window, static_cast<QWidget*>(&field)}) {
+    QPlainTextEdit text(&window);
+    for (QWidget* focused :
+         {&window, static_cast<QWidget*>(&field), static_cast<QWidget*>(&text)}) {
         QTest::keyPress(focused, Qt::Key_Alt, Qt::AltModifier);
         EXPECT_NE(painted(search), plain);
         QTest::keyRelease(focused, Qt::Key_Alt);

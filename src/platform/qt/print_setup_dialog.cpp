@@ -1,8 +1,10 @@
 #include "platform/qt/print_setup_dialog.h"
 
 #include "platform/qt/look/button.h"
+#include "platform/qt/look/enter_once.h"
 #include "platform/qt/look/mnemonics.h"
 #include "platform/qt/look/palette.h"
+#include "platform/qt/look/radio_button.h"
 #include "platform/qt/look/text_field.h"
 
 #include <QComboBox>
@@ -11,7 +13,6 @@
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QLabel>
-#include <QRadioButton>
 #include <QSpinBox>
 
 namespace platform {
@@ -96,6 +97,7 @@ PrintSetupDialog::PrintSetupDialog(const PrintSettings& settings, Prompter& prom
     rows_->addLayout(buttonRow(), rows_->rowCount(), 0, 1, 2);
     rows_->setSizeConstraint(QLayout::SetFixedSize);
     new look::MnemonicDisplay(this);
+    new look::EnterOnce(this);
     file_->setFocus();
 }
 
@@ -145,8 +147,8 @@ QLayout* PrintSetupDialog::fileRow(const QString& file) {
 QLayout* PrintSetupDialog::orientationRow(QPageLayout::Orientation orientation) {
     auto* row = newRow();
     row->setSpacing(3 * kGrid);
-    portrait_ = new QRadioButton(QStringLiteral("Po&rtrait"), this);
-    landscape_ = new QRadioButton(QStringLiteral("Pa&ysage"), this);
+    portrait_ = new look::RadioButton(QStringLiteral("Po&rtrait"), this);
+    landscape_ = new look::RadioButton(QStringLiteral("Pa&ysage"), this);
     (orientation == QPageLayout::Portrait ? portrait_ : landscape_)->setChecked(true);
     row->addWidget(portrait_);
     row->addWidget(landscape_);
