@@ -67,7 +67,8 @@ void LinkRow::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        click();
+        if (!event->isAutoRepeat()) // held down it opens one page, not thirty a second
+            click();
         return;
     case Qt::Key_Down:
         focusNextChild();

@@ -26,7 +26,7 @@ public:
 
 private:
     ErrorCode calculate() {
-        simplify();
+        cleanUp();
         if (const ErrorCode error = verifier(text_); error != ErrorCode::None)
             return error;
         if (!count() || !passUntilDone())
@@ -40,7 +40,8 @@ private:
         Counters counted;
         for (int pass = 1; pass <= kMostPasses; ++pass) {
             if (text_ == remembered) {
-                simplify();
+                if (!simplify())
+                    return false;
                 if (text_ == remembered && counters_ == counted)
                     return false; // every further pass would do the same, up to the last
             }
@@ -63,10 +64,11 @@ private:
             if (!calculfonctions(text_, counters_, angles_))
                 return false;
             told("calculfonctions");
-            simplify();
+            if (!simplify())
+                return false;
         }
         if (counters_.nbparentheses > 0) {
-            if (calculparentheses(text_, counters_, hooks_) != Progress::Done)
+            if (calculparentheses(text_, counters_, effort_, hooks_) != Progress::Done)
                 return false;
             told("calculparentheses");
         }
@@ -84,7 +86,13 @@ private:
         return counted.has_value();
     }
 
-    void simplify() {
+    /// False when the text has been walked over too often.
+    bool simplify() {
+        cleanUp();
+        return effort_.spend(text_.size());
+    }
+
+    void cleanUp() {
         text_ = simplifier(text_);
         told("simplifier");
     }
@@ -104,6 +112,7 @@ private:
     const AngleMode angles_;
     const Hooks& hooks_;
     Counters counters_;
+    Effort effort_;
 };
 
 } // namespace

@@ -45,4 +45,8 @@ struct Hooks {
     std::function<void(const char* step, TextView text)> trace;
 };
 
+inline bool isCancelled(const Hooks& hooks) {
+    return hooks.cancelled && hooks.cancelled();
+}
+
 } // namespace calculator

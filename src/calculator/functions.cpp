@@ -1,5 +1,6 @@
 #include "calculator/functions.h"
 
+#include "calculator/gap_text.h"
 #include "text/number_text.h"
 #include "text/numeric_reader.h"
 
@@ -64,11 +65,20 @@ std::optional<Text> valueText(Function function, TextView argument, AngleMode an
 }
 
 /// The function that can be evaluated at `position`. One at the very start is never looked at.
-std::optional<Function> readyAt(const Text& text, std::size_t position) {
+std::optional<Function> readyAt(const GapText& text, std::size_t position) {
     const std::size_t argument = position + kToArgument;
     if (position == 0 || argument >= text.size() || !startsNumber(text[argument]))
         return std::nullopt;
-    return functionAt(text, position);
+    const char16_t name[] = {text[position], text[position + 1], text[position + 2]};
+    return functionAt(TextView(name, kNameLength), 0);
+}
+
+/// Position of the ")" or the space that ends an argument; the size of the text when there is none.
+std::size_t endOfArgument(const GapText& text, std::size_t argument) {
+    std::size_t end = argument + 1;
+    while (end < text.size() && text[end] != u')' && text[end] != u' ')
+        ++end;
+    return end;
 }
 
 } // namespace
@@ -102,27 +112,28 @@ std::optional<double> valueOf(Function function, double x, AngleMode angles) {
 }
 
 bool calculfonctions(Text& text, Counters& counters, AngleMode angles) {
+    GapText work(text);
     std::size_t i = 1;
-    while (i < text.size() && counters.nbfonctions > 0) {
-        const auto function = readyAt(text, i);
+    while (i < work.size() && counters.nbfonctions > 0) {
+        const auto function = readyAt(work, i);
         if (!function) {
             ++i;
             continue;
         }
         const std::size_t argument = i + kToArgument;
-        const std::size_t end = text.find_first_of(u") ", argument + 1);
-        if (end == Text::npos)
+        const std::size_t end = endOfArgument(work, argument);
+        if (end == work.size())
             return false;
-        const auto value =
-            valueText(*function, TextView(text).substr(argument, end - argument), angles);
+        const auto value = valueText(*function, work.substr(argument, end - argument), angles);
         if (!value)
             return false;
-        text.replace(i, end - i, *value);
+        work.replace(i, end - i, *value);
         --counters.nbfonctions;
         // Only a function whose argument starts in the new value has become ready behind the walk;
         // the leftmost is found from here as it would be from the start.
         i -= std::min(i - 1, kToArgument);
     }
+    text = work.text();
     return true;
 }
 

@@ -3,7 +3,9 @@
 #include "calculator/display.h"
 #include "calculator/key_button.h"
 #include "calculator/option_frame.h"
+#include "platform/qt/look/enter_once.h"
 #include "platform/qt/look/mnemonics.h"
+#include "platform/qt/look/program_icon.h"
 #include "text/rounding.h"
 
 #include <QApplication>
@@ -15,6 +17,8 @@
 
 namespace calculator {
 
+namespace look = platform::look;
+
 namespace {
 
 constexpr QSize kSize(302, 430);
@@ -25,9 +29,12 @@ constexpr QRect kFormats(99, 64, 98, 64);
 constexpr int kDefaultBreathingInterval = 20;
 
 /// The character that a key of the keyboard stands for; null for none. A "^" that waits for the
-/// next letter, as on French keyboards, counts at once.
+/// next letter, as on French keyboards, counts at once; so does what AltGr types, which Windows
+/// tells as Ctrl and Alt together.
 QChar characterOf(const QKeyEvent& event) {
-    if (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
+    constexpr Qt::KeyboardModifiers kAltGr = Qt::ControlModifier | Qt::AltModifier;
+    const Qt::KeyboardModifiers commands = event.modifiers() & (kAltGr | Qt::MetaModifier);
+    if (commands && commands != kAltGr)
         return {};
     switch (event.key()) {
     case Qt::Key_Backspace:
@@ -59,11 +66,13 @@ Machine::Machine(Memory& memory)
       breathingInterval_(kDefaultBreathingInterval) {
     setObjectName(QStringLiteral("Machine"));
     setWindowTitle(QStringLiteral("Calculatrice"));
+    setWindowIcon(look::programIcon());
     setFixedSize(kSize);
     z1_->setGeometry(kDisplay);
     addOptions();
     addKeys();
-    new platform::look::MnemonicDisplay(this);
+    new look::MnemonicDisplay(this);
+    new look::EnterOnce(this);
     rules_.load();
     z1_->setFocus();
 }

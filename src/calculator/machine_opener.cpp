@@ -20,6 +20,8 @@ void MachineOpener::open(std::optional<QPoint> place) {
         make();
     if (place)
         window_->move(*place);
+    if (window_->isMinimized())
+        window_->showNormal();
     window_->show();
     window_->raise();
     window_->activateWindow();

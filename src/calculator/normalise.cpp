@@ -1,5 +1,8 @@
 #include "calculator/normalise.h"
 
+#include <utility>
+#include <vector>
+
 namespace calculator {
 
 namespace {
@@ -37,56 +40,131 @@ char16_t product(char16_t first, char16_t second) {
     return first == second ? u'+' : u'-';
 }
 
-/// Adds a sign to folded text; nothing doubled and no "+" at the start is left.
-void foldSign(Text& out, char16_t sign) {
-    if (!out.empty() && isSign(out.back())) {
-        sign = product(out.back(), sign);
-        out.pop_back();
+/// Whether signs stand beside each other or at the start, or a group is plain (see Folding). Nearly
+/// every clean-up finds nothing of it.
+bool hasSomethingToFold(TextView text) {
+    bool inGroup = false; // since the last "(" there was at most a sign, then digits and points
+    char16_t before = u'+';
+    for (const char16_t c : text) {
+        if (isSign(c)) {
+            if (isSign(before))
+                return true;
+            inGroup = inGroup && before == u'(';
+        } else if (c == u')') {
+            if (inGroup && before != u'(')
+                return true;
+            inGroup = false;
+        } else if (!isDigitOrPoint(c)) {
+            inGroup = c == u'(';
+        }
+        before = c;
     }
-    if (sign == u'-' || !out.empty())
-        out += sign;
-}
-
-/// Adds a ")", or takes away the parentheses of the group that it closes when that is a plain
-/// number: digits and points, at most one sign before them, at least one character.
-void closeGroup(Text& out) {
-    std::size_t first = out.size();
-    while (first > 0 && isDigitOrPoint(out[first - 1]))
-        --first;
-    if (first > 0 && isSign(out[first - 1]))
-        --first;
-    const bool plain = first > 0 && out[first - 1] == u'(' && first < out.size();
-    if (!plain) {
-        out += u')';
-        return;
-    }
-    if (!isSign(out[first])) {
-        out.erase(first - 1, 1);
-        return;
-    }
-    const Text number = out.substr(first + 1);
-    const char16_t sign = out[first];
-    out.resize(first - 1);
-    foldSign(out, sign);
-    out += number;
+    return false;
 }
 
 /// Signs folded and plain groups opened until nothing of it is left to do. The rules do not depend
 /// on their order, so one walk that always finishes what lies behind it gives the same text as
 /// walks repeated until nothing changes.
-Text fold(TextView text) {
-    Text out;
-    out.reserve(text.size());
-    for (const char16_t c : text) {
-        if (isSign(c))
-            foldSign(out, c);
-        else if (c == u')')
-            closeGroup(out);
-        else
-            out += c;
+///
+/// Plain is a group of digits and points, at most one sign before them, at least one character. A
+/// run of digits and points is one token, so that a long one in many parentheses is not walked over
+/// at each of them; runs that come together, as those of "3(2)", are chained.
+class Folding {
+public:
+    explicit Folding(TextView text) : text_(text) { tokens_.reserve(text.size()); }
+
+    Text folded() && {
+        for (std::size_t i = 0; i < text_.size();) {
+            const char16_t c = text_[i];
+            if (isDigitOrPoint(c)) {
+                const std::size_t begin = i;
+                while (i < text_.size() && isDigitOrPoint(text_[i]))
+                    ++i;
+                runs_.push_back({begin, i - begin});
+                addDigits({kDigits, runs_.size() - 1, runs_.size() - 1});
+                continue;
+            }
+            if (isSign(c))
+                addSign(c);
+            else if (c == u')')
+                closeGroup();
+            else
+                tokens_.push_back({c});
+            ++i;
+        }
+        return written();
     }
-    return out;
-}
+
+private:
+    static constexpr char16_t kDigits = u'0'; ///< what stands for a chain of runs
+    static constexpr std::size_t kNone = Text::npos;
+
+    struct Run {
+        std::size_t begin;
+        std::size_t length;
+        std::size_t next = kNone; ///< in the chain
+    };
+    struct Token {
+        char16_t c;
+        std::size_t firstRun = kNone;
+        std::size_t lastRun = kNone;
+    };
+
+    void addDigits(const Token& digits) {
+        if (tokens_.empty() || tokens_.back().c != kDigits) {
+            tokens_.push_back(digits);
+            return;
+        }
+        runs_[tokens_.back().lastRun].next = digits.firstRun;
+        tokens_.back().lastRun = digits.lastRun;
+    }
+
+    /// Nothing doubled and no "+" at the start is left.
+    void addSign(char16_t sign) {
+        if (!tokens_.empty() && isSign(tokens_.back().c)) {
+            sign = product(tokens_.back().c, sign);
+            tokens_.pop_back();
+        }
+        if (sign == u'-' || !tokens_.empty())
+            tokens_.push_back({sign});
+    }
+
+    /// Adds a ")", or takes away the parentheses of a plain group that it closes.
+    void closeGroup() {
+        const std::size_t size = tokens_.size();
+        const bool hasDigits = size > 0 && tokens_.back().c == kDigits;
+        std::size_t first = size - hasDigits;
+        const bool hasSign = first > 0 && isSign(tokens_[first - 1].c);
+        first -= hasSign;
+        if (first == 0 || first == size || tokens_[first - 1].c != u'(') {
+            tokens_.push_back({u')'});
+            return;
+        }
+        const Token sign = tokens_[first];
+        const Token digits = tokens_.back();
+        tokens_.resize(first - 1);
+        if (hasSign)
+            addSign(sign.c);
+        if (hasDigits)
+            addDigits(digits);
+    }
+
+    Text written() const {
+        Text out;
+        out.reserve(text_.size());
+        for (const Token& token : tokens_) {
+            if (token.c != kDigits)
+                out += token.c;
+            for (std::size_t run = token.firstRun; run != kNone; run = runs_[run].next)
+                out += text_.substr(runs_[run].begin, runs_[run].length);
+        }
+        return out;
+    }
+
+    TextView text_;
+    std::vector<Token> tokens_;
+    std::vector<Run> runs_;
+};
 
 bool isExponentLetter(char16_t c) {
     return c == u'D' || c == u'E';
@@ -162,7 +240,8 @@ Text espacer(TextView text) {
 }
 
 Text simplifier(TextView text) {
-    return spaced(fold(capitalsWithoutSpaces(text)));
+    Text typed = capitalsWithoutSpaces(text);
+    return spaced(hasSomethingToFold(typed) ? Folding(typed).folded() : std::move(typed));
 }
 
 } // namespace calculator

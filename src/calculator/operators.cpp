@@ -51,10 +51,6 @@ std::size_t findOperator(TextView text, char16_t op, std::size_t from) {
     return Text::npos;
 }
 
-bool cancelled(const Hooks& hooks) {
-    return hooks.cancelled && hooks.cancelled();
-}
-
 /// One operator's way through the text: `done` is what lies behind, its reductions made, and
 /// text[next...] what lies ahead; together they are the expression as it stands. A value holds no
 /// space, so it brings forth no operator, neither this one behind the walk nor an earlier one
@@ -87,7 +83,7 @@ public:
 private:
     /// Calculates the operator that `next_` stands before.
     Progress reduce() {
-        if (cancelled(hooks_))
+        if (isCancelled(hooks_))
             return Progress::Cancelled;
         if (done_.size() < 2)
             return Progress::Fault;
@@ -129,7 +125,7 @@ private:
 } // namespace
 
 Progress calculoperateurs(Text& text, Counters& counters, const Hooks& hooks) {
-    if (cancelled(hooks))
+    if (isCancelled(hooks))
         return Progress::Cancelled;
     text = simplifier(text);
     // A counter that was already used up does not keep the first reduction from being made.

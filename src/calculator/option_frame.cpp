@@ -4,9 +4,9 @@
 #include "platform/qt/look/interface_font.h"
 #include "platform/qt/look/palette.h"
 #include "platform/qt/look/pixels.h"
+#include "platform/qt/look/radio_button.h"
 
 #include <QPainter>
-#include <QRadioButton>
 
 namespace calculator {
 
@@ -25,9 +25,9 @@ constexpr double kCircleX = 10.5;
 constexpr double kTextX = 22;
 constexpr double kMiddle = 0.355; ///< of the letters' size, from their middle to their foot
 
-class Option : public QRadioButton {
+class Option : public look::RadioButton {
 public:
-    using QRadioButton::QRadioButton;
+    using look::RadioButton::RadioButton;
 
 protected:
     bool hitButton(const QPoint& position) const override { return rect().contains(position); }

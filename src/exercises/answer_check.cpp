@@ -96,6 +96,9 @@ std::u16string foldedAnswer(std::u16string_view typed) {
 }
 
 bool castexte(std::u16string_view solution, std::u16string_view typed) {
+    // There is no word to look for: between any two signs would be a place for it.
+    if (solution.find_first_not_of(u' ') == solution.npos)
+        return typed.empty();
     const std::u16string text = foldedAnswer(typed);
     const std::u16string sought = smallLetters(solution);
     WordReader reader(sought);

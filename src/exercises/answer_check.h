@@ -14,8 +14,8 @@ std::u16string foldedAnswer(std::u16string_view typed);
 
 /// Whether a typed answer is right: the solution, or the solution with one of the endings "s", "e",
 /// "es" and "x", stands in the folded answer as whole words, letter case left aside. No letter or
-/// digit may come just before or just after it. An empty solution stands wherever no letter or
-/// digit is on either side, so in an empty answer.
+/// digit may come just before or just after it. Only the empty answer fits an empty solution, or
+/// one of spaces.
 ///
 /// Only what was typed is folded: a solution with an accent or a sign of the folding fits no
 /// answer. Meant so. Takes time proportional to both lengths.

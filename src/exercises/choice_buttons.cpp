@@ -24,7 +24,7 @@ QPointF middle() {
 
 } // namespace
 
-OptionButton::OptionButton(QWidget* parent) : QRadioButton(parent) {
+OptionButton::OptionButton(QWidget* parent) : RadioButton(parent) {
     prepare(*this);
 }
 

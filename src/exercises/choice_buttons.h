@@ -1,14 +1,15 @@
 #pragma once
 
+#include "platform/qt/look/radio_button.h"
+
 #include <QCheckBox>
-#include <QRadioButton>
 
 namespace exercises {
 
 // Members of `Option1` and `Check1`. They show their sign only: the words beside it are drawn on
 // the question. The sign is kChoiceSignMargin inside the control on every side.
 
-class OptionButton : public QRadioButton {
+class OptionButton : public platform::look::RadioButton {
 public:
     explicit OptionButton(QWidget* parent);
 

@@ -26,7 +26,7 @@ protected:
 private:
     void Timer1_Timer();
 
-    QTimer Timer1_;
+    QTimer Timer1_{this};
     RightAnswerBlink blink_;
     platform::look::Icon Image1_;
     platform::look::Icon Image2_;

@@ -16,7 +16,6 @@
 #include "viewer/picture_box.h"
 #include "viewer/surface_widths.h"
 
-#include <QIcon>
 #include <QLabel>
 #include <QPainter>
 #include <QPlainTextEdit>
@@ -75,7 +74,6 @@ Exo::Exo(const Parts& parts, QWidget& mainWindow)
       blinkInterval_(RightAnswerBlink::kIntervalMs) {
     setObjectName(QStringLiteral("exo"));
     setWindowTitle(QStringLiteral("Exercices"));
-    setWindowIcon(mainWindow.windowIcon());
     setWindowModality(Qt::WindowModal);
     setAttribute(Qt::WA_QuitOnClose, false); // the program goes on in the main window
     QPalette colours = palette();

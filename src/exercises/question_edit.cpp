@@ -13,11 +13,17 @@ platform::Message failure(const QString& reason, const char16_t* consequence,
             .buttons = buttons};
 }
 
+/// A last line ends too: the comment on a wrong answer begins with a line of its own.
+QString withLastLineEnded(const QString& source) {
+    const bool ended = source.isEmpty() || source.endsWith(u'\n');
+    return ended ? source : source + QStringLiteral("\r\n");
+}
+
 } // namespace
 
 /// Why `typed` is not in the database; nothing when it is.
 std::optional<QString> QuestionEdit::write(const std::optional<QString>& typed) {
-    return typed ? session_.record().setQuestion(*typed) : std::nullopt;
+    return typed ? session_.record().setQuestion(withLastLineEnded(*typed)) : std::nullopt;
 }
 
 bool QuestionEdit::commit(const std::optional<QString>& typed) {

@@ -16,8 +16,8 @@ public:
     QuestionEdit(TestSession& session, platform::Prompter& prompter)
         : session_(session), prompter_(prompter) {}
 
-    /// Writes `typed`; absent when the author has typed nothing. False when it could not be
-    /// written: the author has been told, and it must stay in sight.
+    /// Writes `typed`, its last line ended; absent when the author has typed nothing. False when it
+    /// could not be written: the author has been told, and it must stay in sight.
     bool commit(const std::optional<QString>& typed);
 
     enum class Closing {

@@ -23,7 +23,6 @@ void TestSession::load(const platform::Recordset* description, platform::Records
     open_ = true;
     shared_.ExerciseReturnPage = 0;
     view_.setScoreVisible(false);
-    view_.setFace(kNeutralFace);
     const TestDescription found = description
                                       ? describeTest(*description, shared_.PendingExerciseChapter)
                                       : TestDescription();
@@ -33,6 +32,8 @@ void TestSession::load(const platform::Recordset* description, platform::Records
         test_.QuestionCount = *found.count;
     if (test_.CurrentQuestion == 0 || test_.CurrentQuestion > test_.QuestionCount)
         test_.CurrentQuestion = 1;
+    // A test that was left shows the face of its answers again.
+    view_.setFace(smileLevel(counts(test_)).value_or(kNeutralFace));
     record_ = QuestionRecord(contenu);
 }
 

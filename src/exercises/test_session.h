@@ -20,7 +20,7 @@ namespace exercises {
 /// messages run; when the test is closed from there, the rest of the command is left out.
 class TestSession {
 public:
-    /// The face of the marker until the first validation.
+    /// The face of the marker until the first answer of the test.
     static constexpr int kNeutralFace = 4;
 
     TestSession(shell::SharedState& shared, TestState& test, TestView& view,

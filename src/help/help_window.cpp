@@ -10,11 +10,11 @@
 #include "platform/qt/look/mnemonics.h"
 #include "platform/qt/look/palette.h"
 #include "platform/qt/look/pixels.h"
+#include "platform/qt/look/program_icon.h"
 #include "platform/qt/look/text_field.h"
 #include "platform/qt/look/tool_tip.h"
 
 #include <QHBoxLayout>
-#include <QIcon>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScreen>
@@ -62,7 +62,7 @@ HelpWindow::HelpWindow(const HelpBook& book, const HelpPrinting& printing)
       hitBar_(new HitBar(this)) {
     setObjectName(QStringLiteral("aide"));
     setWindowTitle(kTitle);
-    setWindowIcon(QIcon(QStringLiteral(":/look/icons/orvalente.svg")));
+    setWindowIcon(look::programIcon());
     setMinimumSize(kSmallest);
     resize(kSize.boundedTo(screen()->availableSize()));
     QPalette colours = palette();

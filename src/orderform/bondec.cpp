@@ -4,6 +4,7 @@
 #include "orderform/order_field.h"
 #include "orderform/price.h"
 #include "platform/qt/look/button.h"
+#include "platform/qt/look/enter_once.h"
 #include "platform/qt/look/ink.h"
 #include "platform/qt/look/mnemonics.h"
 #include "platform/qt/look/palette.h"
@@ -88,6 +89,7 @@ Bondec::Bondec(const PrintingParts& printing, platform::Prompter& prompter, QWid
     showAmounts();
     sayPrinted(false);
     new look::MnemonicDisplay(this);
+    new look::EnterOnce(this);
     field(Field::Surname).setFocus();
 }
 

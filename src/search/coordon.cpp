@@ -3,6 +3,7 @@
 #include "platform/file_names.h"
 #include "platform/qt/look/button.h"
 #include "platform/qt/look/check_box.h"
+#include "platform/qt/look/enter_once.h"
 #include "platform/qt/look/ink.h"
 #include "platform/qt/look/interface_font.h"
 #include "platform/qt/look/list_box.h"
@@ -74,6 +75,7 @@ Coordon::Coordon(shell::SharedState& state, QWidget* mainWindow)
     setWindowModality(Qt::WindowModal);
     addControls();
     new look::MnemonicDisplay(this);
+    new look::EnterOnce(this); // held down after a search, Enter opens no page
     Form_Load();
 }
 
@@ -244,9 +246,7 @@ void Coordon::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        // A button takes the key itself. Held down after a search it opens no page.
-        if (event->isAutoRepeat())
-            return;
+        // A button takes the key itself.
         if (Text1_->hasFocus())
             Command2_Click();
         else if (List2_->hasFocus())

@@ -4,6 +4,7 @@
 #include "platform/qt/look/ink.h"
 #include "platform/qt/look/palette.h"
 #include "platform/qt/look/pixels.h"
+#include "platform/qt/look/program_icon.h"
 #include "platform/qt/look/spaced_label.h"
 #include "shell/display_warning_words.h"
 
@@ -54,6 +55,7 @@ Alerte::Alerte(std::int16_t mode, platform::DisplaySettings& settings, QWidget* 
       Label1_(newText(look::kInk, this)), notice_(newText(look::kMuted, this)) {
     setObjectName(QStringLiteral("alerte"));
     setWindowTitle(QStringLiteral("Configuration de l’écran"));
+    setWindowIcon(look::programIcon()); // it comes before the main window has one
     setModal(true);
     Label1_->setObjectName(QStringLiteral("Label1"));
     notice_->setObjectName(QStringLiteral("notice"));

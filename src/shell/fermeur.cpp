@@ -4,6 +4,7 @@
 #include "platform/qt/look/interface_font.h"
 #include "platform/qt/look/palette.h"
 #include "platform/qt/look/pixels.h"
+#include "platform/qt/look/program_icon.h"
 
 #include <QCloseEvent>
 #include <QEventLoop>
@@ -47,6 +48,7 @@ Fermeur::Fermeur(QWidget* window, std::function<void()> closing)
     const QString words = QStringLiteral("Fermeture du logiciel et de ses modules…");
     setObjectName(QStringLiteral("Fermeur"));
     setWindowTitle(QStringLiteral("Fermeture"));
+    setWindowIcon(look::programIcon()); // there may be no window that gives it one
     setAccessibleName(words);
     setModal(true);
     setFixedSize(kSize);

@@ -4,6 +4,7 @@
 #include "platform/qt/look/button.h"
 #include "platform/qt/look/mnemonics.h"
 #include "platform/qt/look/palette.h"
+#include "platform/qt/look/program_icon.h"
 #include "platform/twips.h"
 #include "viewer/chapter_bar.h"
 #include "viewer/cover.h"
@@ -19,7 +20,6 @@
 #include "viewer/video_frame.h"
 
 #include <QCoreApplication>
-#include <QIcon>
 
 namespace viewer {
 
@@ -176,8 +176,7 @@ void Multim::showFirstPage() {
     parts_->actions.run(QStringLiteral("PAG001"));
     setPageVisible(true);
     // Only the window manager shows it, and reading it takes as long as a page: after the page.
-    QTimer::singleShot(
-        0, this, [this] { setWindowIcon(QIcon(QStringLiteral(":/look/icons/orvalente.svg"))); });
+    QTimer::singleShot(0, this, [this] { setWindowIcon(platform::look::programIcon()); });
 }
 
 void Multim::shareLinkCursor() {

@@ -78,6 +78,7 @@ TEST(Result, isOddOnPurpose) {
                    u"(1)(2) = 12",        // plain groups lose their parentheses
                    u"2E(3) = 2E3",        // ... even within a number
                    u"3(1 - 5) + 1 = 0",   // a spliced sign becomes an operator: 3 - 4 + 1
+                   u"5 + (+(1 + 2)) = 8", // a plus with nothing before it becomes a sign
                    u"1,5 + 1 = 2",        // a comma ends the number
                    u"\u00F9 4 = \u00D94", // a capital is made of it before it could be a root
                    u"abc = ABC",          // what holds nothing to calculate is the result
@@ -110,7 +111,8 @@ TEST(Fault, syntax) {
 TEST(Fault, leftUnevaluated) {
     expectFault(ErrorCode::Impossible,
                 {u"2 + ", u"2 - ", u"2 + * 3", u"* 3", u")2(", u"sin ", u"sin",
-                 u"ln (2 + 3)"}); // LON5: one digit is passed over, nothing is left
+                 u"2 * (+(1 + 2))", // the sign comes out with the number: 2 * + 3
+                 u"ln (2 + 3)"});   // LON5: one digit is passed over, nothing is left
 }
 
 TEST(Simplifier, foldsAndSpaces) {
@@ -154,9 +156,39 @@ TEST(LongExpressions, endWhereSixteenBitsEnd) {
     EXPECT_EQ(evaluated(u"1" + repeated(8190, u"+1")).text, u"8191");
 }
 
-TEST(LongExpressions, depthIsNoDanger) {
-    EXPECT_EQ(evaluated(repeated(20000, u"(") + u"7" + repeated(20000, u")")).text, u"7");
-    EXPECT_EQ(evaluated(repeated(500, u"(") + u"1" + repeated(500, u"+1)")).text, u"501");
+// With time that grows as the square of the length, each of these would outlast the run.
+TEST(LongExpressions, takeNoLongerByTheCharacter) {
+    const Text digits(500'000, u'1');
+    const std::pair<Text, Text> rows[] = {
+        {repeated(20'000, u"(") + u"7" + repeated(20'000, u")"), u"7"},
+        {repeated(500, u"(") + u"1" + repeated(500, u"+1)"), u"501"},
+        {repeated(250'000, u"(") + digits + repeated(250'000, u")"), digits},
+        {repeated(200'000, u"(-") + digits + repeated(200'000, u")"), digits},
+        {repeated(200'000, u"(") + u"1" + repeated(200'000, u"(1))"), Text(200'001, u'1')},
+        {repeated(30'000, u"(") + u"2E+" + Text(500'000, u'0') + repeated(30'000, u")"),
+         u"2E+" + Text(500'000, u'0')},
+        {repeated(32'000, u"sin ") + u"0", u"0"},
+        {repeated(16'000, u"sin 0 + ") + u"1", u"1"},
+        {repeated(16'000, u"(1E1)+") + u"0", u"160000"},
+        {Text(500'000, u'-') + u"3", u"3"},
+        {Text(500'000, u' ') + u"3", u"3"},
+    };
+    for (const auto& [expression, expected] : rows) {
+        const Evaluation found = evaluated(expression);
+        EXPECT_EQ(found.error, ErrorCode::None) << expression.size();
+        EXPECT_TRUE(found.text == expected) << expression.size() << " " << found.text.size();
+    }
+}
+
+// Groups whose values are no numbers, or join what is beside them, are each a clean-up of the
+// whole.
+TEST(LongExpressions, thatNeedTooManyCleanUpsAreImpossible) {
+    EXPECT_EQ(evaluated(repeated(1'000, u"\u00F9()")).text, Text(1'000, u'\u00D9'));
+    EXPECT_EQ(evaluated(repeated(1'000, u"(0+1)")).text, Text(1'000, u'1'));
+    const Text joined = repeated(15'000, u"3(1-5)");
+    const Text kept = repeated(15'000, u"(") + Text(300'000, u'Z') + repeated(15'000, u")");
+    for (const Text& expression : {joined, kept})
+        EXPECT_EQ(evaluated(expression).error, ErrorCode::Impossible) << expression.size();
 }
 
 // Each pass makes one function of a nest a number, and a last one has nothing left to do.

@@ -135,6 +135,14 @@ TEST_F(Keys, formatsShowTheResultAgain) {
     EXPECT_EQ(rules.display(), u"3"); // an entry stays as it is
 }
 
+// Meant so: a message reads as 0.
+TEST_F(Keys, theLastAnswerTakesTheMessageToo) {
+    press("5 EXE 1 / 0 EXE RAZ");
+    rules.setFormat(Format::Scientific);
+    EXPECT_EQ(rules.display(), u"0.E+00");
+    EXPECT_EQ(entry("2 EXE ANS"), "|2.E+00|");
+}
+
 TEST_F(Keys, memoryTakesWhatTheDisplayShows) {
     press("5 Command1 RAZ 2 Command2");
     EXPECT_EQ(memory.memoire, 3);

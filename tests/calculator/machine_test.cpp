@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QLocale>
+#include <QPointer>
 #include <QTest>
 #include <QTimer>
 #include <QWindow>
@@ -78,9 +79,97 @@ TEST_F(Window, calculatesByKeyboard) {
     EXPECT_EQ(shown(), "3 ^ ");
 }
 
+TEST_F(Window, enterHeldDownCalculatesOnce) {
+    type("2+3");
+    hit(Qt::Key_Return);
+    QKeyEvent heldDown(QEvent::KeyPress, Qt::Key_Return, {}, QStringLiteral("\r"), true);
+    QApplication::sendEvent(QApplication::focusWidget(), &heldDown);
+    EXPECT_EQ(shown(), " 5"); // and not the 0 of the emptied entry
+    QKeyEvent repeated(QEvent::KeyPress, Qt::Key_7, {}, QStringLiteral("7"), true);
+    QApplication::sendEvent(QApplication::focusWidget(), &repeated);
+    EXPECT_EQ(shown(), "7"); // any other key may be held
+}
+
+TEST_F(Window, altGrTypesAndCtrlAndAltDoNot) {
+    const auto strike = [](Qt::KeyboardModifiers modifiers, const char* text) {
+        QKeyEvent event(QEvent::KeyPress, Qt::Key_AsciiCircum, modifiers, QString::fromUtf8(text));
+        QApplication::sendEvent(QApplication::focusWidget(), &event);
+    };
+    type("2");
+    strike(Qt::ControlModifier, "^");
+    strike(Qt::AltModifier, "^");
+    strike(Qt::MetaModifier, "^");
+    strike(Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier, "^");
+    EXPECT_EQ(shown(), "2");
+    strike(Qt::ControlModifier | Qt::AltModifier, "^"); // AltGr of Windows
+    strike(Qt::GroupSwitchModifier, "3");
+    EXPECT_EQ(shown(), "2 ^ 3");
+}
+
+TEST_F(Window, tabStopsAtTheChosenOptionOfEachFrame) {
+    const auto stops = [this] {
+        QStringList names;
+        control<QLineEdit>("z1")->setFocus();
+        for (int stop = 0; stop < 60; ++stop) {
+            hit(Qt::Key_Tab);
+            const QString name = QApplication::focusWidget()->objectName();
+            if (QApplication::focusWidget()->inherits("QRadioButton") && !names.contains(name))
+                names += name;
+        }
+        return names;
+    };
+    EXPECT_EQ(stops(), (QStringList{"angle1", "C1"}));
+    click("angle0");
+    EXPECT_EQ(stops(), (QStringList{"angle0", "C1"}));
+}
+
+TEST_F(Window, altReleasedOverTheDisplayEndsTheUnderlines) {
+    const auto painted = [this] { return control<QWidget>("bsin")->grab().toImage(); };
+    const QImage plain = painted();
+    QTest::keyPress(control<QLineEdit>("z1"), Qt::Key_Alt, Qt::AltModifier);
+    EXPECT_NE(painted(), plain);
+    QTest::keyRelease(control<QLineEdit>("z1"), Qt::Key_Alt);
+    EXPECT_EQ(painted(), plain);
+}
+
+TEST_F(Window, comesBackWhenItWasMinimised) {
+    type("12");
+    opener.window()->showMinimized();
+    open();
+    EXPECT_FALSE(opener.window()->isMinimized());
+    EXPECT_EQ(shown(), "12");
+    EXPECT_FALSE(opener.window()->windowIcon().isNull());
+}
+
+TEST_F(Window, openedAfreshItIsAnotherWindow) {
+    click("B8 Command1 C0 angle0 B5");
+    const QPointer<QWidget> before = opener.window();
+    QSize size;
+    opener.openAfresh([&size](QSize asked) {
+        size = asked;
+        return QPoint(60, 50);
+    });
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_FALSE(before);
+    ASSERT_TRUE(opener.window() && QTest::qWaitForWindowActive(opener.window()));
+    EXPECT_EQ(size, opener.window()->size());
+    EXPECT_EQ(opener.window()->pos(), QPoint(60, 50));
+    EXPECT_EQ(shown(), "");
+    EXPECT_TRUE(control<QAbstractButton>("C1")->isChecked());
+    EXPECT_TRUE(control<QAbstractButton>("angle1")->isChecked());
+    click("ANS Command3"); // no answer, but the memory
+    EXPECT_EQ(shown(), "8");
+}
+
 TEST_F(Window, theDisplayKeepsTheFocusAndIsNotEdited) {
-    click("B1 Command1");
-    EXPECT_EQ(QApplication::focusWidget()->objectName(), QStringLiteral("z1"));
+    // The plus key writes nothing on the blank display that RAZ leaves.
+    for (const char* key :
+         {"B1", "Command1", "Command2", "command4", "EXE", "ANS", "EFFACE", "RAZ", "plus", "C0"}) {
+        control<QAbstractButton>("Bln")->setFocus();
+        click(key);
+        EXPECT_EQ(QApplication::focusWidget()->objectName(), QStringLiteral("z1")) << key;
+    }
+    click("B1");
     hit(Qt::Key_Left);
     hit(Qt::Key_Home);
     hit(Qt::Key_Delete);

@@ -38,6 +38,20 @@ void expectSame(const Text& expression) {
     }
 }
 
+/// The same with as many ")" as "(", in an order that could be.
+Text balanced(const Text& text) {
+    Text out;
+    std::size_t open = 0;
+    for (const char16_t c : text) {
+        if (c == u')' && open == 0)
+            continue;
+        open += c == u'(';
+        open -= c == u')';
+        out += c;
+    }
+    return out.append(open, u')');
+}
+
 /// Pieces of which texts are put together in any order, sound or not.
 class AgainstLiteralRewriting : public testing::TestWithParam<std::vector<Text>> {};
 
@@ -48,6 +62,7 @@ TEST_P(AgainstLiteralRewriting, givesTheSame) {
         for (int left = 1 + random.below(14); left > 0; --left)
             text += random.of(GetParam());
         expectSame(text);
+        expectSame(balanced(text));
     }
 }
 
@@ -63,6 +78,9 @@ INSTANTIATE_TEST_SUITE_P(
         // letters that almost are names
         std::vector<Text>{u"I", u"N", u"V", u"S", u"L", u"O", u"G", u"E", u"D", u"X", u"P", u"7",
                           u"INV", u"LN", u"-", u"+", u"*", u" ", u"(5)"},
+        // groups in groups, values with exponents and values that join their neighbours
+        std::vector<Text>{u"(", u"(", u"((", u")", u"))", u"(1+2)", u"(3-5)", u"(2E+3)", u"()",
+                          u"1E-5", u"7", u"+", u"-", u"*", u"/", u"(+", u"-("},
         // anything
         std::vector<Text>{u"\t", u"\n", u",", u"%", u"\x1", u"É", u"π", u"Ÿ", u"\xD83D", u"\xFFFF",
                           u"1", u"2 3", u"d", u"lnln", u"sin", u")(", u"*", u"-", u"1E999"}));

@@ -48,6 +48,22 @@ TEST_F(Authoring, TurnedBackTheSwitchStoresAndShowsWhatWasTyped) {
     EXPECT_TRUE(area().readableText().contains(u"Oh"));
 }
 
+TEST_F(Authoring, ALastLineTypedWithoutEnterIsEnded) {
+    click("Command1");
+    source().moveCursor(QTextCursor::End);
+    source().insertPlainText(QStringLiteral("Cochez.¶"));
+    click("Command1");
+    EXPECT_EQ(stored()[0], untouched_[0] + QStringLiteral("Cochez.¶\r\n"));
+    click("command5"); // wrong: the comment has a line of its own
+    EXPECT_TRUE(area().readableText().contains(u"Cochez.\nNon"))
+        << area().readableText().toStdString();
+    click("Command1");
+    source().selectAll();
+    source().cut();
+    click("Command1");
+    EXPECT_EQ(stored()[0], u"");
+}
+
 TEST_F(Authoring, OnlyTheQuestionIsTakenAndOnlyWhatWasTypedIsStored) {
     click("command5"); // wrong: the comment stands below
     ASSERT_TRUE(area().readableText().contains(u"Non"));

@@ -89,19 +89,20 @@ TEST_F(Moving, staysBetweenTheFirstAndTheLast) {
 
 TEST_F(Moving, aRightAnswerLeadsToTheNextOneLeft) {
     writeBoxes(6);
-    for (const int answered : {1, 3, 4, 6})
-        state.QuestionState.store(answered, 1);
+    state.QuestionState.store(1, 1);
+    for (const int wrong : {3, 4, 6})
+        state.QuestionState.store(wrong, -1);
     state.CurrentQuestion = 5;
     open();
     EXPECT_TRUE(window.score); // some questions have been answered
     window.duringPopup = [&] { // the strip is up to date by then; the rest follows
         EXPECT_EQ(window.stripPaintings, 2);
-        EXPECT_EQ(window.face, TestSession::kNeutralFace);
+        EXPECT_EQ(window.face, 2); // that of 1 in 4, as when the test was left
     };
     answer(true);
     EXPECT_EQ(window.popups, 1);
     EXPECT_TRUE(window.markerVisible);
-    EXPECT_EQ(window.face, 7);
+    EXPECT_EQ(window.face, 3);
     EXPECT_EQ(window.caption, u"Question 2 / 6 :");
 }
 

@@ -72,7 +72,8 @@ TEST(Exercises, readNumbersAsTheyAreTyped) {
         EXPECT_EQ(exercise.judge(QString::fromUtf8(right)), Answer::Right) << right;
     for (const char* wrong : {"2,39", "-2,5", "\u22122,5", "2,5e300"})
         EXPECT_EQ(exercise.judge(QString::fromUtf8(wrong)), Answer::Wrong) << wrong;
-    for (const char* none : {"", "deux", "2,5 kg", "2,5,1", "nan", "inf", "m/s"})
+    for (const char* none :
+         {"", "deux", "2,5 kg", "m/s 2,5", "2 m/s 5", "2,5 m/s m/s", "2,5,1", "nan", "inf", "m/s"})
         EXPECT_EQ(exercise.judge(QString::fromUtf8(none)), Answer::NoNumber) << none;
 }
 

@@ -46,6 +46,8 @@ TEST_F(LinksWindowTest, opensOnlyWhatIsPressed) {
     EXPECT_TRUE(shows(row(1)->link().address.toString()));
     EXPECT_EQ(opened_, QStringList());
     QTest::keyClick(row(1), Qt::Key_Return);
+    QKeyEvent heldDown(QEvent::KeyPress, Qt::Key_Return, {}, QStringLiteral("\r"), true);
+    QCoreApplication::sendEvent(row(1), &heldDown);
     QTest::mouseClick(row(2), Qt::LeftButton);
     EXPECT_EQ(opened_,
               QStringList({row(1)->link().address.toString(), row(2)->link().address.toString()}));

@@ -61,6 +61,18 @@ protected:
     orderform::Bondec form{{person, paper, fonts}, prompter, nullptr};
 };
 
+TEST_F(Bondec, enterHeldDownPrintsNothing) {
+    fillIn();
+    field("Pays").setFocus();
+    QTest::keyClick(&field("Pays"), Qt::Key_Return);
+    ASSERT_EQ(focused(), QStringLiteral("Quantité"));
+    QKeyEvent heldDown(QEvent::KeyPress, Qt::Key_Return, {}, QStringLiteral("\r"), true);
+    QCoreApplication::sendEvent(&field("Quantité"), &heldDown);
+    EXPECT_EQ(person.asked, 0);
+    QTest::keyClick(&field("Quantité"), Qt::Key_Return);
+    EXPECT_EQ(person.asked, 1);
+}
+
 TEST_F(Bondec, explainsFaultsAndLeadsToTheFirst) {
     field("Nom").setText(QStringLiteral(" Martin "));
     field("Code postal").setText(QStringLiteral("690"));

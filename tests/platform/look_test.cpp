@@ -11,6 +11,7 @@
 #include <QHelpEvent>
 #include <QLabel>
 #include <QPainter>
+#include <QPlainTextEdit>
 #include <QTest>
 #include <QTimer>
 
@@ -144,7 +145,9 @@ TEST_F(Buttons, LastingMnemonicOutlivesTheCaption) {
 TEST_F(Buttons, UnderlinesMnemonicsOnlyWhileAltIsDown) {
     const QImage plain = painted(search);
     TextField field(&window);
-    for (QWidget* focused : {&window, static_cast<QWidget*>(&field)}) {
+    QPlainTextEdit text(&window);
+    for (QWidget* focused :
+         {&window, static_cast<QWidget*>(&field), static_cast<QWidget*>(&text)}) {
         QTest::keyPress(focused, Qt::Key_Alt, Qt::AltModifier);
         EXPECT_NE(painted(search), plain);
         QTest::keyRelease(focused, Qt::Key_Alt);

@@ -40,6 +40,19 @@ protected:
     test_support::FakePrompter prompter;
 };
 
+TEST_F(PrintSetup, enterHeldDownConfirmsNothingAndTabStopsAtTheChosenOption) {
+    platform::PrintSetupDialog dialog(
+        {QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Landscape, {10, 10, 10, 10}),
+         path("a.pdf")},
+        prompter, nullptr);
+    dialog.show();
+    QKeyEvent heldDown(QEvent::KeyPress, Qt::Key_Return, {}, QStringLiteral("\r"), true);
+    QCoreApplication::sendEvent(dialog.focusWidget(), &heldDown);
+    EXPECT_TRUE(dialog.isVisible());
+    for (const auto* option : dialog.findChildren<QRadioButton*>())
+        EXPECT_EQ((option->focusPolicy() & Qt::TabFocus) != 0, option->isChecked());
+}
+
 TEST_F(PrintSetup, theControlsGiveTheLayout) {
     platform::PrintSetupDialog dialog({QPageLayout(QPageSize(QPageSize::A5), QPageLayout::Landscape,
                                                    {12, 13, 14, 15}, QPageLayout::Millimeter),

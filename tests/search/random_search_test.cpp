@@ -1,6 +1,7 @@
 #include "search/course.h"
 #include "search/course_pages.h"
-#include "text/letters.h"
+
+#include <QString>
 
 #include <gtest/gtest.h>
 
@@ -10,15 +11,22 @@
 namespace search {
 namespace {
 
-// A literal search, character by character in UTF-16, beside the one in folded bytes.
+// A literal search, character by character in UTF-16 and with Qt's knowledge of letters, beside the
+// one in folded bytes.
+
+char16_t literallyFolded(QChar c, bool ignoreAccents) {
+    c = c.toLower();
+    if (!ignoreAccents)
+        return c.unicode();
+    if (c == u'’')
+        return u'\'';
+    return QString(c).normalized(QString::NormalizationForm_D).front().toLower().unicode();
+}
 
 std::u16string literallyFolded(std::u16string_view from, bool ignoreAccents) {
     std::u16string to(from);
-    for (char16_t& c : to) {
-        c = text::lowerCase(c);
-        if (const char16_t typed = text::keyboardForm(c); ignoreAccents && typed != u' ')
-            c = text::lowerCase(text::withoutAccent(typed));
-    }
+    for (char16_t& c : to)
+        c = literallyFolded(QChar(c), ignoreAccents);
     return to;
 }
 

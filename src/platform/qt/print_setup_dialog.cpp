@@ -2,6 +2,7 @@
 
 #include "platform/qt/look/button.h"
 #include "platform/qt/look/dress.h"
+#include "platform/qt/look/enter_once.h"
 #include "platform/qt/look/mnemonics.h"
 #include "platform/qt/look/option_button.h"
 #include "platform/qt/look/text_field.h"
@@ -98,6 +99,7 @@ PrintSetupDialog::PrintSetupDialog(const PrintSettings& settings, Prompter& prom
     rows_->setSizeConstraint(QLayout::SetFixedSize);
     look::dress(*this);
     new look::MnemonicDisplay(this);
+    new look::EnterOnce(this);
     file_->setFocus();
 }
 

@@ -3,6 +3,7 @@
 #include "platform/qt/look/button.h"
 #include "platform/qt/look/mnemonics.h"
 #include "platform/qt/look/palette.h"
+#include "platform/qt/look/program_icon.h"
 #include "platform/qt/look/spaced_label.h"
 
 #include <QApplication>
@@ -70,6 +71,7 @@ MessageDialog::MessageDialog(const Message& message, QWidget* parent)
       answer_(choices(message.buttons).last().answer) {
     text_->setText(QString(message.text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
     setWindowTitle(message.title);
+    setWindowIcon(programIcon()); // there may be no other window, or none with an icon yet
     setAccessibleName(message.title);
     setAccessibleDescription(text_->text());
     setModal(true);

@@ -3,6 +3,7 @@
 #include "platform/qt/look/button.h"
 
 #include <QCheckBox>
+#include <QCoreApplication>
 #include <QEvent>
 #include <QKeyEvent>
 #include <QLabel>
@@ -39,16 +40,22 @@ MnemonicDisplay::MnemonicDisplay(QWidget* window)
 }
 
 bool MnemonicDisplay::eventFilter(QObject* watched, QEvent* event) {
+    const auto isAlt = [event] { return static_cast<QKeyEvent*>(event)->key() == Qt::Key_Alt; };
     switch (event->type()) {
     case QEvent::KeyPress:
-    case QEvent::KeyRelease:
         // A key that the control with the focus has no use for arrives here.
-        if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Alt)
-            show(event->type() == QEvent::KeyPress);
+        if (watched == window_ && isAlt())
+            show(true);
+        break;
+    case QEvent::KeyRelease:
+        // Text fields keep what is let go to themselves.
+        if (isAlt())
+            show(false);
         break;
     case QEvent::WindowDeactivate:
         // Another window gets to know that Alt was let go.
-        show(false);
+        if (watched == window_)
+            show(false);
         break;
     default:
         break;
@@ -60,6 +67,10 @@ void MnemonicDisplay::show(bool shown) {
     if (shown == shown_)
         return;
     shown_ = shown;
+    if (shown)
+        QCoreApplication::instance()->installEventFilter(this);
+    else
+        QCoreApplication::instance()->removeEventFilter(this);
     for (auto* button : window_->findChildren<QPushButton*>())
         if (auto* painted = dynamic_cast<Button*>(button))
             painted->setMnemonicShown(shown);

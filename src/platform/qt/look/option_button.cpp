@@ -6,8 +6,7 @@
 
 namespace platform::look {
 
-OptionButton::OptionButton(const QString& caption, QWidget* parent)
-    : QRadioButton(caption, parent) {
+OptionButton::OptionButton(const QString& caption, QWidget* parent) : RadioButton(caption, parent) {
     prepareChoice(*this);
 }
 

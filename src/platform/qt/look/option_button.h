@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QRadioButton>
+#include "platform/qt/look/radio_button.h"
 
 namespace platform::look {
 
-/// An option button with its caption, painted by hand.
-class OptionButton : public QRadioButton {
+/// One of the options of a dialog, with its caption, painted by hand.
+class OptionButton : public RadioButton {
 public:
     OptionButton(const QString& caption, QWidget* parent);
 

@@ -4,7 +4,6 @@
 #include "platform/qt/look/pixels.h"
 
 #include <QContextMenuEvent>
-#include <QKeyEvent>
 #include <QPainter>
 
 namespace platform::look {
@@ -40,11 +39,6 @@ void TextField::paintEvent(QPaintEvent* event) {
                   QColor::fromRgb(isEnabled() ? kPaper : kIvory), focused ? 2 : 1);
     }
     QLineEdit::paintEvent(event);
-}
-
-void TextField::keyReleaseEvent(QKeyEvent* event) {
-    QLineEdit::keyReleaseEvent(event);
-    event->ignore(); // the base class keeps it; the window wants to know when Alt is let go
 }
 
 void TextField::contextMenuEvent(QContextMenuEvent* event) {

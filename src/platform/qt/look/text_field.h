@@ -11,7 +11,6 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void keyReleaseEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
 };
 
