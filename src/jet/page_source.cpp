@@ -41,7 +41,7 @@ ParsedHeader parseHeader(std::array<std::uint8_t, kHeaderBytes>& stored) {
         (hasEngineName(header, kEngineName) && version > 1))
         return {{}, Failure::Kind::Unsupported, "les fichiers de 2007 et après ne sont pas lus"};
     if (!hasEngineName(header, kEngineName))
-        return {{}, Failure::Kind::NotADatabase, "ce n'est pas une base Jet (page d'en-tête)"};
+        return {{}, Failure::Kind::NotADatabase, "ce n’est pas une base Jet (page d’en-tête)"};
 
     const std::size_t masked = version == 0 ? kMaskLengthJet3 : kMaskLengthJet4;
     applyRc4(kHeaderMaskKey, std::span(stored).subspan(kMaskAt, masked));
@@ -53,32 +53,28 @@ ParsedHeader parseHeader(std::array<std::uint8_t, kHeaderBytes>& stored) {
 } // namespace
 
 Result<std::shared_ptr<PageSource>> PageSource::open(const std::filesystem::path& path) {
-    std::ifstream file;
-    file.rdbuf()->pubsetbuf(nullptr, 0); // blocks are buffered here
-    file.open(path, std::ios::binary);
     std::error_code error;
-    const std::uintmax_t size = std::filesystem::file_size(path, error);
-    if (!file || error)
-        return fileFailure(Failure::Kind::System, path, "le fichier ne peut pas être ouvert");
+    auto file = files::InputFile::open(path, error);
+    if (!file)
+        return fileFailure(path, "le fichier ne peut pas être ouvert", error);
 
     std::array<std::uint8_t, kHeaderBytes> stored{};
-    file.read(reinterpret_cast<char*>(stored.data()), stored.size());
-    if (!file)
+    if (!file->read(0, stored, error))
         return fileFailure(Failure::Kind::NotADatabase, path,
-                           "le fichier est plus court qu'un en-tête");
+                           "le fichier est plus court qu’un en-tête");
     const ParsedHeader parsed = parseHeader(stored);
     if (parsed.fault)
         return fileFailure(parsed.kind, path, parsed.fault);
-    if (size / parsed.header.format->pageSize <= kCatalogPage)
-        return fileFailure(Failure::Kind::Damaged, path, "le fichier s'arrête avant son catalogue");
-    return std::shared_ptr<PageSource>(new PageSource(std::move(file), parsed.header, size));
+    if (file->size() / parsed.header.format->pageSize <= kCatalogPage)
+        return fileFailure(Failure::Kind::Damaged, path, "le fichier s’arrête avant son catalogue");
+    return std::shared_ptr<PageSource>(new PageSource(*std::move(file), parsed.header));
 }
 
-PageSource::PageSource(std::ifstream file, const Header& header, std::uint64_t fileSize)
+PageSource::PageSource(files::InputFile file, const Header& header)
     : file_(std::move(file)), header_(header),
       // Row pointers give a page 24 bits.
       pageCount_(static_cast<std::uint32_t>(
-          std::min<std::uint64_t>(fileSize / header.format->pageSize, 1u << 24))) {}
+          std::min<std::uint64_t>(file_.size() / header.format->pageSize, 1u << 24))) {}
 
 std::optional<Page> PageSource::page(std::uint32_t number) {
     if (number >= pageCount_)
@@ -125,11 +121,8 @@ bool PageSource::fill(Block& block, std::uint32_t first, std::uint32_t count) {
     if (!block.bytes || block.bytes.use_count() > 1) // somebody still reads its pages
         block.bytes = std::make_shared_for_overwrite<std::uint8_t[]>(kBlockBytes);
 
-    file_.clear();
-    file_.seekg(static_cast<std::streamoff>(std::uint64_t{first} * pageSize));
-    file_.read(reinterpret_cast<char*>(block.bytes.get()),
-               static_cast<std::streamsize>(count * pageSize));
-    if (!file_)
+    std::error_code error;
+    if (!file_.read(std::uint64_t{first} * pageSize, {block.bytes.get(), count * pageSize}, error))
         return false;
     if (header_.pageKey != 0) {
         for (std::uint32_t i = first == 0 ? 1 : 0; i < count; ++i)

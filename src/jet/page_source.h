@@ -1,5 +1,6 @@
 #pragma once
 
+#include "files/input_file.h"
 #include "jet/bytes.h"
 #include "jet/format.h"
 #include "jet/result.h"
@@ -7,7 +8,6 @@
 #include <array>
 #include <cstdint>
 #include <filesystem>
-#include <fstream>
 #include <memory>
 #include <optional>
 
@@ -62,14 +62,14 @@ private:
         }
     };
 
-    PageSource(std::ifstream file, const Header& header, std::uint64_t fileSize);
+    PageSource(files::InputFile file, const Header& header);
     const Block* cached(std::uint32_t number) const;
     std::uint32_t pagesToRead(std::uint32_t number) const;
     Block& oldestBlock();
     bool fill(Block& block, std::uint32_t first, std::uint32_t count);
     Page pageOf(const Block& block, std::uint32_t number) const;
 
-    std::ifstream file_;
+    files::InputFile file_;
     Header header_;
     std::uint32_t pageCount_;
     std::uint64_t clock_ = 0;
