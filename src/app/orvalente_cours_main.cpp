@@ -5,6 +5,7 @@
 #include "coursetool/extract.h"
 #include "coursetool/search.h"
 #include "coursetool/symbols.h"
+#include "files/cause.h"
 #include "platform/module.h"
 
 #include <cstdio>
@@ -36,7 +37,8 @@ struct Perform {
         return verdict();
     }
     int operator()(const app::DumpCall& call) {
-        return status(coursetool::dump(call.file, call.table, out, report));
+        const ExitCode code = coursetool::dump(call.file, call.table, out, report);
+        return report.hasFailures() ? verdict() : status(code);
     }
     int operator()(const app::TraceCall& call) {
         if (const auto run = drawing<coursetool::TraceFunction>(coursetool::kTraceSymbol))
@@ -52,10 +54,7 @@ struct Perform {
         std::ios::sync_with_stdio(false);
         std::cin.tie(nullptr);
         const int error = calculator::runCalc(call, std::cin, std::cout, std::cerr);
-        if (std::cout.flush())
-            return error;
-        report.fault({"sortie standard"}, "tout n’a pas pu être écrit");
-        return verdict();
+        return afterOutput(error);
     }
     int operator()(const app::SymbolsCall& call) {
         coursetool::listSymbols(call.course, out, report);
@@ -74,14 +73,13 @@ struct Perform {
         std::ios::sync_with_stdio(false);
         std::cin.tie(nullptr);
         const int status = exercises::runAnswer(call, std::cin, std::cout, std::cerr);
-        if (std::cout.flush())
-            return status;
-        report.fault({"sortie standard"}, "tout n’a pas pu être écrit");
-        return verdict();
+        return afterOutput(status);
     }
     int operator()(const app::ShowText& show) {
-        print(stdout, show.text);
-        return status(ExitCode::Fine);
+        out.text() = show.text;
+        if (!out.flush())
+            report.outputFailure(out.error());
+        return verdict();
     }
     int operator()(const app::WrongCall& wrong) {
         print(stderr, "orvalente-cours : " + wrong.sentence +
@@ -99,8 +97,20 @@ struct Perform {
         return reinterpret_cast<Function>(found.address);
     }
 
+    /// `result`, unless it could not be written.
+    int afterOutput(int result) {
+        if (std::cout.flush())
+            return result;
+        report.outputFailure(files::lastError());
+        return verdict();
+    }
+
     static int status(ExitCode code) { return static_cast<int>(code); }
-    int verdict() const { return status(report.hasFaults() ? ExitCode::Faults : ExitCode::Fine); }
+    int verdict() const {
+        return status(report.hasFailures() ? ExitCode::NotWritten
+                      : report.hasFaults() ? ExitCode::Faults
+                                           : ExitCode::Fine);
+    }
 };
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "coursetool/paths.h"
 #include "coursetool/source_text.h"
 #include "coursetool/tables.h"
+#include "files/cause.h"
 #include "jet/unicode.h"
 
 namespace coursetool {
@@ -20,17 +21,20 @@ constexpr int kNumberWarnings = 20;
 
 /// The files with this ending in file-name order. What else stands there, hidden files aside, is
 /// named: a page that silently is none would be missed late.
-std::vector<fs::path> sourcesIn(const fs::path& folder, std::string_view ending,
-                                std::string_view alsoExpected, Report& report) {
+std::vector<fs::path> sourcesIn(const fs::path& folder, const fs::path& top,
+                                std::string_view ending, std::string_view alsoExpected,
+                                Report& report) {
     std::vector<fs::path> files;
     for (const fs::directory_entry& entry : entriesOf(folder, report)) {
         const std::string name = shown(entry.path().filename());
         std::error_code error;
-        if (name.ends_with(ending) && entry.is_regular_file(error))
-            files.push_back(entry.path());
-        else if (!name.starts_with('.') && name != alsoExpected)
+        if (name.ends_with(ending) && entry.is_regular_file(error)) {
+            if (isFileOf(top, entry, report))
+                files.push_back(entry.path());
+        } else if (!name.starts_with('.') && name != alsoExpected) {
             report.warning({shown(entry.path())},
                            "laissé de côté : ce n’est pas un fichier " + std::string(ending));
+        }
     }
     return files;
 }
@@ -66,7 +70,9 @@ void CourseBuilder::compilePages() {
                                        "par page");
         return;
     }
-    for (const fs::path& file : sourcesIn(folder, kPageEnding, "", report_))
+    if (!isFolderOf(source_, folder, report_))
+        return;
+    for (const fs::path& file : sourcesIn(folder, source_, kPageEnding, "", report_))
         compilePage(file);
     if (cours_.count() == 0)
         report_.warning({shown(folder)}, "aucune page : le cours sera vide");
@@ -110,10 +116,13 @@ void CourseBuilder::compileExercises() {
     std::error_code error;
     if (!fs::exists(folder, error))
         return; // a course without tests: the tables are there and empty
+    if (!isFolderOf(source_, folder, report_))
+        return;
     for (const fs::directory_entry& entry : entriesOf(folder, report_)) {
-        if (entry.is_directory(error))
+        if (isFolderOf(source_, entry.path(), report_))
             compileTest(entry.path());
-        else if (!shown(entry.path().filename()).starts_with('.'))
+        else if (!entry.is_directory(error) &&
+                 !shown(entry.path().filename()).starts_with('.'))
             report_.warning({shown(entry.path())},
                             "laissé de côté : les questions sont dans un dossier par test");
     }
@@ -121,18 +130,20 @@ void CourseBuilder::compileExercises() {
 
 void CourseBuilder::compileTest(const fs::path& folder) {
     compileChapter(folder / kChapterFile);
-    for (const fs::path& file : sourcesIn(folder, kQuestionEnding, kChapterFile, report_))
+    for (const fs::path& file : sourcesIn(folder, source_, kQuestionEnding, kChapterFile, report_))
         compileQuestion(file);
 }
 
 void CourseBuilder::compileChapter(const fs::path& file) {
     std::error_code error;
-    if (!fs::exists(file, error)) {
+    const fs::directory_entry entry(file, error);
+    if (!entry.exists(error)) {
         report_.fault({shown(file)},
                       "le fichier manque : y écrire Chapitre, Titre et Nbquest du test");
         return;
     }
-    const auto source = readSource(file, report_);
+    const auto source =
+        isFileOf(source_, entry, report_) ? readSource(file, report_) : std::nullopt;
     if (!source)
         return;
     const Fields fields =
@@ -164,12 +175,14 @@ void CourseBuilder::checkFiles() {
     const auto list = [&](const char* folder) {
         std::error_code error;
         const fs::path path = source_ / folder;
-        return fs::exists(path, error) ? listTree(path, report_) : FileTree();
+        return fs::exists(path, error) && isFolderOf(source_, path, report_)
+                   ? listTree(path, source_, report_)
+                   : FileTree();
     };
     files_ = list(kFilesFolder);
     disc_ = list(kDiscFolder);
     NameTable reserved;
-    for (const char* name : {kCourseFile, kExerciseFile, kDiscFolder, StagedCourse::kStagingFolder})
+    for (const char* name : {kCourseFile, kExerciseFile, kDiscFolder, files::Publication::kFolder})
         reserved.add(name);
     checkNames(source_ / kFilesFolder, files_, reserved);
     checkNames(source_ / kDiscFolder, disc_, {});
@@ -206,8 +219,8 @@ void CourseBuilder::copyTree(const fs::path& from, const FileTree& tree, const f
         std::error_code error;
         fs::copy_file(from / path, course_.pathFor(to / path), error);
         if (error)
-            report_.fault({shown(from / path)},
-                          "le fichier ne peut pas être copié : " + error.message());
+            report_.failure({shown(from / path)},
+                            "le fichier ne peut pas être copié : " + files::causeOf(error));
         course_.add(to / path);
     }
 }

@@ -197,7 +197,7 @@ ExitCode dump(const std::filesystem::path& file, const std::string& tableName, O
     else
         code = dumpTable(*database, tableName, file, out, report);
     if (!out.flush())
-        report.fault({"sortie standard"}, "tout n’a pas pu être écrit");
+        report.outputFailure(out.error());
     return code == ExitCode::Fine && report.hasFaults() ? ExitCode::Faults : code;
 }
 

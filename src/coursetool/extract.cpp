@@ -5,9 +5,10 @@
 #include "coursetool/paths.h"
 #include "coursetool/question_folders.h"
 #include "coursetool/source_writer.h"
-#include "coursetool/staged_course.h"
 #include "coursetool/table_source.h"
 #include "coursetool/tables.h"
+#include "files/cause.h"
+#include "files/publication.h"
 #include "jet/unicode.h"
 
 #include <unordered_map>
@@ -58,7 +59,7 @@ public:
         : course_(course), output_(output), report_(report), writer_(report) {}
 
     void run() {
-        const FileTree tree = listTree(course_, report_);
+        const FileTree tree = listTree(course_, course_, report_);
         const auto courseFile = findDatabase(tree, kCourseFile);
         const auto exerciseFile = findDatabase(tree, kExerciseFile);
         if (!courseFile) {
@@ -85,7 +86,8 @@ private:
         std::error_code error;
         fs::create_directories(path, error);
         if (error)
-            report_.fault({shown(path)}, "le dossier ne peut pas être créé : " + error.message());
+            report_.failure({shown(path)},
+                            "le dossier ne peut pas être créé : " + files::causeOf(error));
         return !error;
     }
 
@@ -193,7 +195,7 @@ private:
     }
 
     static bool isStaging(const fs::path& path) {
-        return *path.begin() == StagedCourse::kStagingFolder;
+        return *path.begin() == files::Publication::kFolder;
     }
 
     /// Disc directories stand beside the files in the sources, among them in the course.
@@ -208,8 +210,8 @@ private:
         fs::create_directories(to.parent_path(), error);
         fs::copy_file(course_ / file, to, error);
         if (error)
-            report_.fault({shown(course_ / file)},
-                          "le fichier ne peut pas être copié : " + error.message());
+            report_.failure({shown(course_ / file)},
+                            "le fichier ne peut pas être copié : " + files::causeOf(error));
     }
 
     fs::path course_;

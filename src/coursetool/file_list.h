@@ -15,14 +15,24 @@ namespace coursetool {
 std::vector<std::filesystem::directory_entry> entriesOf(const std::filesystem::path& directory,
                                                         Report& report);
 
-/// Everything under a directory, with paths relative to it, in the order of their names, a
-/// directory before what it holds. Links to files count as files; links to directories, and
-/// whatever is neither file nor directory, are faults: following them could lead round in circles.
+/// Whether the entry is a file that stands in `top` in the end. A link that leads out of there is a
+/// fault: who copies or publishes a folder must not take along what others keep elsewhere.
+bool isFileOf(const std::filesystem::path& top, const std::filesystem::directory_entry& entry,
+              Report& report);
+/// The same for a directory.
+bool isFolderOf(const std::filesystem::path& top, const std::filesystem::path& folder,
+                Report& report);
+
+/// Everything under a directory of `top`, with paths relative to the directory, in the order of
+/// their names, a directory before what it holds. Links to files of `top` count as files; links to
+/// directories, and whatever is neither file nor directory, are faults: following them could lead
+/// round in circles.
 struct FileTree {
     std::vector<std::filesystem::path> files;
     std::vector<std::filesystem::path> directories;
 };
-FileTree listTree(const std::filesystem::path& directory, Report& report);
+FileTree listTree(const std::filesystem::path& directory, const std::filesystem::path& top,
+                  Report& report);
 
 /// File names of one directory, found again without regard to letter case.
 class NameTable {

@@ -1,6 +1,7 @@
 #include "coursetool/front_matter.h"
 
 #include "coursetool/field_value.h"
+#include "coursetool/front_matter_check.h"
 #include "jet/unicode.h"
 
 // Syntax errors are expected in sources: they come back as values.
@@ -26,6 +27,26 @@ std::string_view lineOf(std::string_view text, int number) {
         text.remove_prefix(end + 1);
     }
     return text.substr(0, text.find('\n'));
+}
+
+toml::source_position positionOf(std::size_t offset, std::string_view text) {
+    const std::string_view before = text.substr(0, offset);
+    const std::size_t lineStart = before.rfind('\n') + 1; // 0 in the first line
+    const std::string_view line = before.substr(lineStart);
+    const auto isStart = [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; };
+    return {static_cast<toml::source_index>(1 + std::count(before.begin(), before.end(), '\n')),
+            static_cast<toml::source_index>(1 + std::count_if(line.begin(), line.end(), isStart))};
+}
+
+/// What is enough to find it again: a damaged line can be as long as the file.
+std::string shortened(std::string_view words) {
+    constexpr std::size_t kEnough = 120;
+    if (words.size() <= kEnough)
+        return std::string(words);
+    std::size_t end = kEnough;
+    while (end > 0 && (static_cast<unsigned char>(words[end]) & 0xC0) == 0x80)
+        --end;
+    return std::string(words.substr(0, end)) + "…";
 }
 
 class FieldReader {
@@ -63,12 +84,19 @@ private:
     toml::table parse() {
         std::string text(toml_);
         for (int faults = 0; faults < kMaxSyntaxFaults; ++faults) {
-            toml::parse_result result = toml::parse(text);
-            if (result)
-                return std::move(result).table();
+            const auto unreadable = firstUnreadable(text);
+            toml::source_position at{};
+            if (unreadable) {
+                at = positionOf(*unreadable, text);
+                tellSyntax({}, at);
+            } else {
+                toml::parse_result result = toml::parse(text);
+                if (result)
+                    return std::move(result).table();
+                at = result.error().source().begin;
+                tellSyntax(result.error().description(), at);
+            }
             syntaxFaults_ = true;
-            const toml::source_position at = result.error().source().begin;
-            tellSyntax(result.error().description(), at);
             const std::string_view line = lineOf(text, static_cast<int>(at.line));
             if (line.find_first_not_of(' ') == std::string_view::npos)
                 break; // nothing left to blank: the error runs over several lines
@@ -83,7 +111,7 @@ private:
         if (description.find("redefine") != std::string_view::npos)
             report_.fault(place(at), "ce champ est déjà donné plus haut : n’en garder qu’un");
         else
-            report_.fault(place(at), inQuotes(line) + " ne se lit pas : écrire « champ = valeur », "
+            report_.fault(place(at), inQuotes(shortened(line)) + " ne se lit pas : écrire « champ = valeur », "
                                                       "un texte entre guillemets");
     }
 
@@ -130,14 +158,14 @@ private:
         std::string names;
         for (const FieldRule& rule : rules_) {
             if (jet::sameName(jet::toUtf16(rule.name), jet::toUtf16(key.str()))) {
-                report_.fault(place(key.source().begin), "champ inconnu " + inQuotes(key.str()) +
+                report_.fault(place(key.source().begin), "champ inconnu " + inQuotes(shortened(key.str())) +
                                                              " : écrire " + inQuotes(rule.name));
                 return;
             }
             names.append(names.empty() ? "" : ", ").append(rule.name);
         }
         report_.fault(place(key.source().begin),
-                      "champ inconnu " + inQuotes(key.str()) + " : les champs sont " + names);
+                      "champ inconnu " + inQuotes(shortened(key.str())) + " : les champs sont " + names);
     }
 
     void checkRequired() {

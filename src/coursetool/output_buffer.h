@@ -2,13 +2,15 @@
 
 #include <cstdio>
 #include <string>
+#include <system_error>
 
 namespace coursetool {
 
-/// Collects output and hands it to a stream in large pieces.
+/// Collects output and hands it to a stream in large pieces. What a course says reaches a terminal
+/// without the control characters that could steer it, everything else byte by byte.
 class OutputBuffer {
 public:
-    explicit OutputBuffer(std::FILE* stream) : stream_(stream) { text_.reserve(2 * kPiece); }
+    explicit OutputBuffer(std::FILE* stream);
 
     /// What is to be written next is appended here.
     std::string& text() { return text_; }
@@ -16,19 +18,18 @@ public:
     /// To be called after each line; false once writing has failed.
     bool lineDone() { return text_.size() < kPiece || flush(); }
 
-    bool flush() {
-        good_ = good_ && std::fwrite(text_.data(), 1, text_.size(), stream_) == text_.size() &&
-                std::fflush(stream_) == 0;
-        text_.clear();
-        return good_;
-    }
+    bool flush();
+
+    /// What went wrong first.
+    std::error_code error() const { return error_; }
 
 private:
     static constexpr std::size_t kPiece = 256 * 1024;
 
     std::FILE* stream_;
+    bool toTerminal_;
     std::string text_;
-    bool good_ = true;
+    std::error_code error_;
 };
 
 } // namespace coursetool

@@ -38,7 +38,7 @@ void print(const PrintRequest& request, const platform::FontBook& fonts,
         report.fault({course->file}, "la page " + std::to_string(request.page) +
                                          " n’a rien à imprimer : debutimp dépasse finimp");
     else if (!printer.error().isEmpty())
-        report.fault({shown(request.output)}, printer.error().toStdString());
+        report.failure({shown(request.output)}, printer.error().toStdString());
 }
 
 } // namespace coursetool

@@ -1,5 +1,8 @@
 #include "coursetool/report.h"
 
+#include "files/cause.h"
+#include "text/utf8.h"
+
 namespace coursetool {
 
 namespace {
@@ -18,11 +21,24 @@ std::string locate(const Place& place) {
 
 void Report::fault(const Place& place, std::string_view sentence) {
     ++faults_;
-    lines_.push_back(locate(place).append(sentence));
+    add(place, sentence);
+}
+
+void Report::failure(const Place& place, std::string_view sentence) {
+    ++failures_;
+    fault(place, sentence);
 }
 
 void Report::warning(const Place& place, std::string_view sentence) {
-    lines_.push_back(locate(place).append("avertissement : ").append(sentence));
+    add(place, std::string("avertissement : ").append(sentence));
+}
+
+void Report::outputFailure(std::error_code error) {
+    failure({"sortie standard"}, "tout n’a pas pu être écrit : " + files::causeOf(error));
+}
+
+void Report::add(const Place& place, std::string_view sentence) {
+    lines_.push_back(text::plainLine(locate(place).append(sentence)));
 }
 
 std::string inQuotes(std::string_view words) {

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
 namespace coursetool {
@@ -16,19 +17,29 @@ struct Place {
 };
 
 /// What a subcommand has to say about a course: one line each, French, "FILE:LINE:COLUMN: sentence"
-/// (a warning has "avertissement : " before its sentence).
+/// (a warning has "avertissement : " before its sentence). Whatever the words come from, a line is
+/// one line, and a terminal can be trusted with it.
 class Report {
 public:
+    /// What is wrong with the course.
     void fault(const Place& place, std::string_view sentence);
+    /// What could not be written, through no fault of the course. It counts as a fault, too.
+    void failure(const Place& place, std::string_view sentence);
     void warning(const Place& place, std::string_view sentence);
+    /// The failure of standard output.
+    void outputFailure(std::error_code error);
 
     bool hasFaults() const { return faults_ > 0; }
+    bool hasFailures() const { return failures_ > 0; }
     std::size_t faultCount() const { return faults_; }
     /// In the order in which they were found.
     const std::vector<std::string>& lines() const { return lines_; }
 
 private:
+    void add(const Place& place, std::string_view sentence);
+
     std::size_t faults_ = 0;
+    std::size_t failures_ = 0;
     std::vector<std::string> lines_;
 };
 

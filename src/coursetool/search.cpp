@@ -4,9 +4,11 @@
 #include "coursetool/file_list.h"
 #include "coursetool/paths.h"
 #include "coursetool/tables.h"
+#include "files/within.h"
 #include "jet/unicode.h"
 #include "search/course_pages.h"
 #include "search/page_search.h"
+#include "text/utf8.h"
 
 #include <optional>
 
@@ -20,8 +22,7 @@ namespace fs = std::filesystem;
 std::optional<fs::path> courseDatabase(const fs::path& course, Report& report) {
     NameTable files;
     for (const fs::directory_entry& entry : entriesOf(course, report)) {
-        std::error_code error;
-        if (entry.is_regular_file(error))
+        if (files::isFileWithin(entry.path(), course))
             files.add(entry.path().filename());
     }
     if (const auto name = files.find(kCourseFile))
@@ -31,10 +32,11 @@ std::optional<fs::path> courseDatabase(const fs::path& course, Report& report) {
 }
 
 void appendLine(const search::FoundPage& page, std::string& out) {
-    out += std::to_string(page.number) + '\t';
-    for (const char c : jet::toUtf8(page.title))
-        out += c == '\t' || c == '\r' || c == '\n' ? ' ' : c;
-    out += '\n';
+    std::string title = jet::toUtf8(page.title);
+    for (char& c : title)
+        if (c == '\t' || c == '\r' || c == '\n')
+            c = ' ';
+    out += std::to_string(page.number) + '\t' + text::plainLine(title) + '\n';
 }
 
 } // namespace
@@ -61,7 +63,7 @@ void searchPages(const SearchRequest& request, OutputBuffer& out, Report& report
         out.lineDone();
     }
     if (!out.flush())
-        report.fault({"sortie standard"}, "tout n’a pas pu être écrit");
+        report.outputFailure(out.error());
     reportProblems(pages->problems(), *file, report);
 }
 

@@ -1,12 +1,14 @@
 #include "coursetool/sheet_files.h"
 
 #include "coursetool/paths.h"
+#include "files/cause.h"
+#include "files/whole_file.h"
 #include "platform/cairo/pdf_file.h"
 #include "platform/png/png_file.h"
 #include "platform/qt/sheet_raster.h"
 #include "platform/svg/svg_file.h"
 
-#include <QFile>
+#include <QIODevice>
 
 namespace coursetool {
 
@@ -16,7 +18,22 @@ namespace fs = std::filesystem;
 
 constexpr double kScreenDotsPerInch = 96;
 
-constexpr char kCannotWrite[] = "ne peut pas être écrit";
+/// A file as what writes PNG knows it.
+class FileDevice : public QIODevice {
+public:
+    explicit FileDevice(files::WholeFile& file) : file_(file) {
+        open(QIODevice::WriteOnly | QIODevice::Unbuffered);
+    }
+
+protected:
+    qint64 readData(char*, qint64) override { return -1; }
+    qint64 writeData(const char* data, qint64 length) override {
+        return file_.write(std::string_view(data, static_cast<std::size_t>(length))) ? length : -1;
+    }
+
+private:
+    files::WholeFile& file_;
+};
 
 /// One file a sheet.
 class SeparateFiles : public SheetFiles {
@@ -28,18 +45,18 @@ public:
         const fs::path path = request_.all()
                                   ? request_.output / pathFrom((name + ending_).toStdString())
                                   : request_.output;
-        QFile file(path);
-        if (file.open(QIODevice::WriteOnly) && write(sheet, file) && file.flush())
+        files::WholeFile file(path);
+        if (!file.error() && write(sheet, file) && file.putInPlace())
             return true;
-        report_.fault({shown(path)}, kCannotWrite);
-        // Half a file would pass for a page.
-        if (file.isOpen())
-            file.remove();
+        const auto cause =
+            file.error() ? file.error() : std::make_error_code(std::errc::not_enough_memory);
+        report_.failure({shown(path)},
+                        "le fichier ne peut pas être écrit : " + files::causeOf(cause));
         return false;
     }
 
 protected:
-    virtual bool write(const platform::Sheet& sheet, QFile& file) = 0;
+    virtual bool write(const platform::Sheet& sheet, files::WholeFile& file) = 0;
 
     const RenderRequest& request_;
     const QLatin1String ending_;
@@ -54,9 +71,10 @@ public:
         : SeparateFiles(request, ".png", report), raster_(fonts, request.scale) {}
 
 private:
-    bool write(const platform::Sheet& sheet, QFile& file) override {
+    bool write(const platform::Sheet& sheet, files::WholeFile& file) override {
         const QSize size = raster_.size(sheet);
-        platform::PngFile png(file, size, kScreenDotsPerInch * request_.scale);
+        FileDevice device(file);
+        platform::PngFile png(device, size, kScreenDotsPerInch * request_.scale);
         const int rows = raster_.bandRows(sheet);
         for (int top = 0; top < size.height(); top += rows)
             if (!png.add(raster_.band(sheet, top)))
@@ -74,13 +92,14 @@ public:
         : SeparateFiles(request, ".svg", report), fonts_(fonts), set_(std::move(set)) {}
 
 private:
-    bool write(const platform::Sheet& sheet, QFile& file) override {
+    bool write(const platform::Sheet& sheet, files::WholeFile& file) override {
         const auto address = [this](const QString& tag) {
             const QString name = set_.fileOfTag(tag);
             return name.isEmpty() ? name : name + ending_;
         };
         const QByteArray document = platform::svgDocument(sheet, fonts_, address, request_.scale);
-        return file.write(document) == document.size();
+        return file.write(
+            std::string_view(document.constData(), static_cast<std::size_t>(document.size())));
     }
 
     const platform::FontBook& fonts_;
@@ -104,7 +123,7 @@ public:
 
 private:
     bool fail() {
-        report_.fault(place_, pdf_.error().toStdString());
+        report_.failure(place_, pdf_.error().toStdString());
         return false;
     }
 
@@ -126,7 +145,8 @@ std::unique_ptr<SheetFiles> openSheetFiles(const RenderRequest& request,
         std::error_code error;
         fs::create_directories(request.output, error);
         if (error) {
-            report.fault({shown(request.output)}, "ce dossier ne peut pas être créé");
+            report.failure({shown(request.output)},
+                           "le dossier ne peut pas être créé : " + files::causeOf(error));
             return nullptr;
         }
     }

@@ -1,10 +1,12 @@
 #include "coursetool/source_text.h"
 
 #include "coursetool/paths.h"
+#include "files/cause.h"
+#include "files/input_file.h"
+#include "text/utf8.h"
 
 #include <algorithm>
 #include <cstdint>
-#include <fstream>
 
 namespace coursetool {
 
@@ -16,28 +18,11 @@ bool isContinuation(char c) {
     return (static_cast<unsigned char>(c) & 0xC0) == 0x80;
 }
 
-/// Bytes of the character that `text` starts with; 0 when it is no UTF-8.
-std::size_t characterLength(std::string_view text) {
-    const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
-    const unsigned char lead = byte(0);
-    if (lead < 0x80)
-        return 1;
-    const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
-    if (lead < 0xC2 || lead > 0xF4 || text.size() < length ||
-        !std::all_of(text.begin() + 1, text.begin() + static_cast<std::ptrdiff_t>(length),
-                     isContinuation))
-        return 0;
-    const bool overlong = (lead == 0xE0 && byte(1) < 0xA0) || (lead == 0xF0 && byte(1) < 0x90);
-    const bool surrogate = lead == 0xED && byte(1) >= 0xA0;
-    const bool beyond = lead == 0xF4 && byte(1) >= 0x90;
-    return overlong || surrogate || beyond ? 0 : length;
-}
-
 /// Column, from 1, of the first character of the line that is no UTF-8; 0 when there is none.
 int firstBadColumn(std::string_view line) {
     int column = 1;
     while (!line.empty()) {
-        const std::size_t length = characterLength(line);
+        const std::size_t length = text::utf8CharacterLength(line);
         if (length == 0)
             return column;
         line.remove_prefix(length);
@@ -91,19 +76,17 @@ bool isFence(std::string_view line) {
 
 std::optional<std::string> readBytes(const std::filesystem::path& file, Report& report) {
     std::error_code error;
-    const std::uintmax_t size = std::filesystem::file_size(file, error);
-    std::ifstream stream(file, std::ios::binary);
-    if (error || !stream) {
-        report.fault({shown(file)}, "le fichier ne peut pas être lu");
+    const auto input = files::InputFile::open(file, error);
+    if (!input) {
+        report.fault({shown(file)}, "le fichier ne peut pas être lu : " + files::causeOf(error));
         return std::nullopt;
     }
-    if (size > kMaxSourceBytes) {
+    if (input->size() > kMaxSourceBytes) {
         report.fault({shown(file)}, "le fichier dépasse 64 Mo : ce n’est pas le texte d’une page");
         return std::nullopt;
     }
-    std::string bytes(static_cast<std::size_t>(size), '\0');
-    stream.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    if (static_cast<std::uintmax_t>(stream.gcount()) != size) {
+    std::string bytes(static_cast<std::size_t>(input->size()), '\0');
+    if (!input->read(0, {reinterpret_cast<std::uint8_t*>(bytes.data()), bytes.size()}, error)) {
         report.fault({shown(file)}, "le fichier ne peut pas être lu en entier");
         return std::nullopt;
     }

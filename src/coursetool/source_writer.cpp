@@ -3,9 +3,9 @@
 #include "coursetool/field_text.h"
 #include "coursetool/paths.h"
 #include "coursetool/source_text.h"
+#include "files/cause.h"
+#include "files/whole_file.h"
 #include "jet/unicode.h"
-
-#include <fstream>
 
 namespace coursetool {
 
@@ -82,11 +82,11 @@ std::optional<std::string> SourceWriter::body(const SourceRecord& record, const 
 }
 
 void SourceWriter::writeFile(const std::string& text, const std::filesystem::path& file) {
-    std::ofstream stream(file, std::ios::binary);
-    stream.write(text.data(), static_cast<std::streamsize>(text.size()));
-    stream.close();
-    if (!stream)
-        report_.fault({shown(file)}, "le fichier ne peut pas être écrit");
+    files::WholeFile source(file);
+    source.write(text);
+    if (!source.putInPlace())
+        report_.failure({shown(file)},
+                        "le fichier ne peut pas être écrit : " + files::causeOf(source.error()));
 }
 
 void SourceWriter::tell(const SourceRecord& record, const FieldRule& field,

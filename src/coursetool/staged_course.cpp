@@ -1,47 +1,47 @@
 #include "coursetool/staged_course.h"
 
 #include "coursetool/paths.h"
+#include "files/cause.h"
+#include "files/within.h"
 
 namespace coursetool {
 
 namespace fs = std::filesystem;
 
-namespace {
-
-constexpr char kNewFiles[] = "nouveau";
-constexpr char kOldFiles[] = "ancien";
-
-/// A second name for the file where the file system can, a copy elsewhere.
-bool keepCopy(const fs::path& file, const fs::path& backup, std::error_code& error) {
-    fs::create_hard_link(file, backup, error);
-    return !error || fs::copy_file(file, backup, error);
-}
-
-} // namespace
-
-StagedCourse::StagedCourse(fs::path directory) : directory_(std::move(directory)) {}
+StagedCourse::StagedCourse(fs::path directory)
+    : directory_(std::move(directory)), publication_(directory_) {}
 
 StagedCourse::~StagedCourse() {
-    std::error_code ignored;
-    fs::remove_all(directory_ / kStagingFolder, ignored);
+    if (lock_ && lock_->isHeld())
+        publication_.clear();
     if (published_)
         return;
     // Directories that were made for nothing go again, unless something stands in them.
+    std::error_code ignored;
     for (auto made = madeDirectories_.rbegin(); made != madeDirectories_.rend(); ++made)
         fs::remove(*made, ignored);
 }
 
 bool StagedCourse::open(Report& report) {
     std::error_code error;
-    const fs::path staging = directory_ / kStagingFolder;
-    if (makeDirectory(directory_, error)) {
-        fs::remove_all(staging, error);
-        fs::create_directories(staging / kNewFiles, error);
+    if (!makeDirectory(directory_, error)) {
+        report.failure({shown(directory_)},
+                       "le dossier ne peut pas être créé : " + files::causeOf(error));
+        return false;
     }
-    if (error)
-        report.fault({shown(directory_)},
-                     "le dossier ne peut pas être créé ou écrit : " + error.message());
-    return !error;
+    lock_.emplace(directory_);
+    if (!lock_->isHeld()) {
+        report.failure({shown(directory_)}, "un autre build écrit dans ce dossier");
+        return false;
+    }
+    if (publication_.isPending())
+        publication_.finish();
+    if (!publication_.prepare()) {
+        report.failure({shown(directory_)},
+                       "le dossier ne peut pas être écrit : " + files::causeOf(publication_.error()));
+        return false;
+    }
+    return true;
 }
 
 bool StagedCourse::makeDirectory(const fs::path& path, std::error_code& error) {
@@ -49,13 +49,22 @@ bool StagedCourse::makeDirectory(const fs::path& path, std::error_code& error) {
         return true;
     if (!makeDirectory(path.parent_path(), error))
         return false;
+    error.clear();
     if (fs::create_directory(path, error))
         madeDirectories_.push_back(path);
     return !error;
 }
 
+/// The same for a directory of the course, which a link must not lead elsewhere.
+bool StagedCourse::makeInside(const fs::path& relative, std::error_code& error) {
+    if (files::isFreeOfLinks(directory_ / relative, directory_))
+        return makeDirectory(directory_ / relative, error);
+    error = std::make_error_code(std::errc::too_many_symbolic_link_levels);
+    return false;
+}
+
 fs::path StagedCourse::pathFor(const fs::path& relative) const {
-    const fs::path path = directory_ / kStagingFolder / kNewFiles / relative;
+    const fs::path path = publication_.newFile(relative);
     std::error_code ignored; // whoever writes the file meets the failure
     fs::create_directories(path.parent_path(), ignored);
     return path;
@@ -64,71 +73,54 @@ fs::path StagedCourse::pathFor(const fs::path& relative) const {
 bool StagedCourse::publish(Report& report) {
     std::error_code error;
     fs::path at = directory_;
-    const auto step = [&](const fs::path& relative, bool done) {
-        at = directory_ / relative;
-        return done;
-    };
-    fs::create_directory(directory_ / kStagingFolder / kOldFiles, error);
-    published_ = !error;
-    for (auto it = folders_.begin(); published_ && it != folders_.end(); ++it)
-        published_ = step(*it, makeDirectory(directory_ / *it, error));
-    for (auto it = files_.begin(); published_ && it != files_.end(); ++it)
-        published_ = step(*it, replace(*it, error));
-    if (!published_) {
-        rollBack();
-        report.fault({shown(at)}, "le fichier ne peut pas être mis en place, le cours reste comme "
-                                  "il était : " +
-                                      error.message());
+    auto steps = plan(at, error);
+    published_ = !error && publication_.begin(std::move(steps)) && publication_.finish();
+    if (published_)
+        return true;
+    if (!error) {
+        error = publication_.error();
+        at = publication_.place();
     }
-    return published_;
+    report.failure({shown(at)}, "le fichier ne peut pas être mis en place, le cours reste comme il "
+                                "était : " +
+                                    files::causeOf(error));
+    return false;
 }
 
-bool StagedCourse::replace(const fs::path& relative, std::error_code& error) {
-    Replacement step;
-    step.target = directory_ / relative;
-    if (!makeDirectory(step.target.parent_path(), error))
-        return false;
-    step.old = standsAt(step.target);
-    if (!step.old.empty()) {
-        if (fs::is_directory(step.old, error)) {
+/// What goes where, with the directories for it made. Most of what can be in the way is met here,
+/// before anything has moved.
+std::vector<files::Publication::Replacement> StagedCourse::plan(fs::path& at,
+                                                                std::error_code& error) {
+    std::vector<files::Publication::Replacement> steps;
+    for (auto it = folders_.begin(); !error && it != folders_.end(); ++it) {
+        at = directory_ / *it;
+        makeInside(*it, error);
+    }
+    for (auto it = files_.begin(); !error && it != files_.end(); ++it) {
+        at = directory_ / *it;
+        if (!makeInside(it->parent_path(), error))
+            break;
+        const fs::path old = standsAt(*it);
+        std::error_code absent;
+        if (!old.empty() && fs::is_directory(fs::symlink_status(directory_ / old, absent)))
             error = std::make_error_code(std::errc::is_a_directory);
-            return false;
-        }
-        step.backup = directory_ / kStagingFolder / kOldFiles / std::to_string(done_.size());
-        if (!keepCopy(step.old, step.backup, error))
-            return false;
+        steps.push_back({*it, old});
     }
-    done_.push_back(step);
-    fs::rename(pathFor(relative), step.target, error);
-    // Where letter case does not tell files apart, the old name now is the new file.
-    std::error_code gone;
-    if (!error && !step.old.empty() && !fs::equivalent(step.old, step.target, gone))
-        fs::remove(step.old, error);
-    return !error;
+    return steps;
 }
 
-fs::path StagedCourse::standsAt(const fs::path& target) {
+/// What the new file takes the place of, relative to the course; empty when there is nothing.
+fs::path StagedCourse::standsAt(const fs::path& relative) {
     // A name that differs in letter case only counts too: it could be found instead of the new one.
-    const fs::path directory = target.parent_path();
+    const fs::path directory = relative.parent_path();
     const auto [known, isNew] = present_.try_emplace(directory);
     if (isNew) {
         Report unreadable; // writing there fails with a word of its own
-        for (const fs::directory_entry& entry : entriesOf(directory, unreadable))
+        for (const fs::directory_entry& entry : entriesOf(directory_ / directory, unreadable))
             known->second.add(entry.path().filename());
     }
-    const auto name = known->second.find(target.filename());
+    const auto name = known->second.find(relative.filename());
     return name ? directory / *name : fs::path();
-}
-
-void StagedCourse::rollBack() {
-    std::error_code ignored;
-    for (auto step = done_.rbegin(); step != done_.rend(); ++step) {
-        if (step->backup.empty() || step->old != step->target)
-            fs::remove(step->target, ignored);
-        if (!step->backup.empty())
-            fs::rename(step->backup, step->old, ignored);
-    }
-    done_.clear();
 }
 
 } // namespace coursetool

@@ -2,6 +2,8 @@
 
 #include "coursetool/file_list.h"
 #include "coursetool/paths.h"
+#include "files/within.h"
+#include "text/utf8.h"
 #include "viewer/symbol_names.h"
 
 namespace coursetool {
@@ -14,8 +16,7 @@ namespace {
 fs::path symbolFolder(const fs::path& course, Report& report) {
     NameTable folders;
     for (const fs::directory_entry& entry : entriesOf(course, report)) {
-        std::error_code error;
-        if (entry.is_directory(error))
+        if (files::isDirectoryWithin(entry.path(), course))
             folders.add(entry.path().filename());
     }
     const auto name = folders.find(viewer::kSymbolFolder);
@@ -23,18 +24,21 @@ fs::path symbolFolder(const fs::path& course, Report& report) {
 }
 
 /// The names of the files in the folder; those that name no symbol are warned about.
-std::vector<std::string> symbolFiles(const fs::path& folder, Report& report) {
+std::vector<std::string> symbolFiles(const fs::path& folder, const fs::path& course,
+                                     Report& report) {
     std::vector<std::string> names;
     for (const fs::directory_entry& entry : entriesOf(folder, report)) {
         const std::string name = shown(entry.path().filename());
         std::error_code error;
-        if (entry.is_regular_file(error) && viewer::symbolKey(name))
-            names.push_back(name);
-        else if (!name.starts_with('.'))
+        if (entry.is_regular_file(error) && viewer::symbolKey(name)) {
+            if (isFileOf(course, entry, report))
+                names.push_back(name);
+        } else if (!name.starts_with('.')) {
             report.warning(
                 {shown(entry.path())},
                 "laissé de côté : le nom d’un symbole commence par sa clé de deux "
                 "caractères, suivie de « - » ou « . », et finit comme celui d’une image");
+        }
     }
     return names;
 }
@@ -54,16 +58,16 @@ void warnAboutHidden(const fs::path& folder, const std::vector<std::string>& nam
 void listSymbols(const fs::path& course, OutputBuffer& out, Report& report) {
     const fs::path folder = course.empty() ? fs::path() : symbolFolder(course, report);
     const std::vector<std::string> names =
-        folder.empty() ? std::vector<std::string>() : symbolFiles(folder, report);
+        folder.empty() ? std::vector<std::string>() : symbolFiles(folder, course, report);
     const auto list = viewer::imageListOf(names);
     warnAboutHidden(folder, names, list, report);
     for (const auto& [key, file] : list) {
-        out.text() +=
-            key + '\t' + file.name + '\t' + (file.isOwn ? "Orvalente" : shown(folder)) + '\n';
+        out.text() += key + '\t' + text::plainLine(file.name) + '\t' +
+                      (file.isOwn ? "Orvalente" : text::plainLine(shown(folder))) + '\n';
         out.lineDone();
     }
     if (!out.flush())
-        report.fault({"sortie standard"}, "tout n’a pas pu être écrit");
+        report.outputFailure(out.error());
 }
 
 } // namespace coursetool

@@ -4,6 +4,18 @@
 
 namespace coursetool {
 
+namespace {
+
+/// A full disc is no fault of the sources.
+void tellAt(const Place& place, const jet::Failure& failure, Report& report) {
+    if (failure.kind == jet::Failure::Kind::System)
+        report.failure(place, failure.sentence);
+    else
+        report.fault(place, failure.sentence);
+}
+
+} // namespace
+
 DatabaseTarget::DatabaseTarget(std::filesystem::path path, std::string shownAs, Report& report)
     : shownAs_(std::move(shownAs)), report_(report) {
     auto writer = jet::DatabaseWriter::create(path);
@@ -31,7 +43,7 @@ void DatabaseTarget::finish() {
 }
 
 void DatabaseTarget::tell(const jet::Failure& failure) {
-    report_.fault({shownAs_}, failure.sentence);
+    tellAt({shownAs_}, failure, report_);
 }
 
 TableTarget::TableTarget(DatabaseTarget& database, const TableRule& rule, Report& report)
@@ -42,7 +54,7 @@ void TableTarget::append(std::span<const jet::Value> values, const Place& place)
     if (!writer_ || report_.hasFaults())
         return;
     if (const auto done = writer_->append(values); !done)
-        report_.fault(place, done.error().sentence);
+        tellAt(place, done.error(), report_);
 }
 
 void KeyPlaces::take(const jet::Value& number, const Place& place, Report& report) {

@@ -66,7 +66,7 @@ private:
         }
         appendTraceEnd(state, out_.text());
         if (!out_.flush())
-            report_.fault({"sortie standard"}, "tout n’a pas pu être écrit");
+            report_.outputFailure(out_.error());
     }
 
     const TraceRequest& request_;

@@ -53,9 +53,9 @@ private:
     const char* whyNot(const TableInfo& table) {
         const auto page = source_.page(table.definitionPage);
         if (!page || page->type() != PageType::Definition)
-            return "sa page n'est pas une définition";
+            return "sa page n’est pas une définition";
         if (!pages_.insert(table.definitionPage).second)
-            return "sa définition est celle d'une autre table";
+            return "sa définition est celle d’une autre table";
         return names_.insert(foldedName(table.name)).second ? nullptr
                                                             : "une autre table a le même nom";
     }
@@ -87,7 +87,7 @@ Result<Catalog> readCatalog(const std::shared_ptr<PageSource>& source) {
         const auto index = (*reader)->columnIndex(names[i]);
         if (!index)
             return Failure{Failure::Kind::Damaged,
-                           "catalogue : il n'a pas de colonne « " + toUtf8(names[i]) + " »"};
+                           "catalogue : il n’a pas de colonne « " + toUtf8(names[i]) + " »"};
         columns[i] = *index;
     }
     CatalogReader entries(*source);

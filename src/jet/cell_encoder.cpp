@@ -17,7 +17,7 @@ namespace jet {
 namespace {
 
 constexpr std::uint8_t kNegativeDecimal = 0x80;
-constexpr const char* kOtherType = "la valeur n'est pas du type de la colonne";
+constexpr const char* kOtherType = "la valeur n’est pas du type de la colonne";
 constexpr const char* kTooLong = "la valeur est plus longue que la colonne";
 constexpr const char* kTooLarge = "le nombre est trop grand pour la colonne";
 
@@ -126,7 +126,7 @@ EncodedCell encodeCharacters(const Value& value, std::size_t longest, const Colu
     if (!format.wideText) {
         auto bytes = encodeWindows1252(stored);
         return bytes ? EncodedCell(std::move(*bytes))
-                     : "le texte a un caractère que la page de code 1252 n'a pas";
+                     : "le texte a un caractère que la page de code 1252 n’a pas";
     }
     auto bytes = encodeText(stored, column.compressible && !fills);
     return bytes ? EncodedCell(std::move(*bytes)) : "le texte commence par U+FEFF";

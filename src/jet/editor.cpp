@@ -95,7 +95,7 @@ Result<RowPointer> placeOf(const OpenTable& table, std::size_t position) {
         return true;
     });
     if (!found)
-        return Failure{Failure::Kind::NotFound, "pas d'enregistrement " + std::to_string(position)};
+        return Failure{Failure::Kind::NotFound, "pas d’enregistrement " + std::to_string(position)};
     // Pointers of a damaged table can lead to one and the same row.
     bool isShared = false;
     if (!(body == place))
@@ -104,7 +104,7 @@ Result<RowPointer> placeOf(const OpenTable& table, std::size_t position) {
             return !isShared;
         });
     if (isShared)
-        return Failure{Failure::Kind::Damaged, "l'enregistrement " + std::to_string(position) +
+        return Failure{Failure::Kind::Damaged, "l’enregistrement " + std::to_string(position) +
                                                    " en est un autre à la fois"};
     return place;
 }
@@ -122,13 +122,13 @@ Result<DatabaseEditor> DatabaseEditor::open(const std::filesystem::path& path,
                                             std::unique_ptr<PageSink> sink) {
     if (hasLockFile(path))
         return fileFailure(Failure::Kind::System, path,
-                           "un autre programme l'a ouverte (fichier .ldb)");
+                           "un autre programme l’a ouverte (fichier .ldb)");
     const auto source = PageSource::open(path);
     if (!source)
         return source.error();
     if (!(*source)->format().wideText && (*source)->header().codePage != kWindows1252)
         return fileFailure(Failure::Kind::Unsupported, path,
-                           "sa page de code n'est pas la page 1252, elle n'est que lue");
+                           "sa page de code n’est pas la page 1252, elle n’est que lue");
     return DatabaseEditor(path, std::move(sink));
 }
 

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <string>
+#include <system_error>
 
 namespace jet {
 
@@ -22,5 +23,9 @@ struct Failure {
 
 /// « base de données « nom » : », then what happened to the file.
 Failure fileFailure(Failure::Kind kind, const std::filesystem::path& path, const char* what);
+
+/// The same for what the system refused, with its cause behind a colon; without one when `error`
+/// is none.
+Failure fileFailure(const std::filesystem::path& path, const char* what, std::error_code error);
 
 } // namespace jet

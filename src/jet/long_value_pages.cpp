@@ -1,12 +1,8 @@
 #include "jet/long_value_pages.h"
 
 #include "jet/byte_writer.h"
-#include "jet/data_page.h"
 #include "jet/data_page_builder.h"
 #include "jet/long_value_writer.h"
-
-#include <optional>
-#include <unordered_set>
 
 namespace jet {
 
@@ -34,29 +30,6 @@ Result<std::vector<std::uint8_t>> storeOnNewPages(Bytes value, PageChanges& chan
     }
     return longValueCell(isSingle ? LongValueKind::Single : LongValueKind::Chain, value.size(),
                          RowPointer(pages[first], 0));
-}
-
-bool RecordFollower::follow(Bytes cell, const std::function<void(RowPointer)>& callback) {
-    const std::uint32_t stored = cell.u32(0);
-    const auto kind = static_cast<LongValueKind>(stored >> kLongValueKindShift);
-    if ((stored & kLongValueLengthMask) == 0 ||
-        (kind != LongValueKind::Single && kind != LongValueKind::Chain))
-        return true;
-    std::unordered_set<std::uint32_t> visited;
-    RowPointer next(cell.u32(kLongValuePointerAt));
-    while (next.page != 0 && visited.insert(next.stored()).second) {
-        if (left_ == 0)
-            return false;
-        --left_;
-        const auto record = followPointer(*source_, next, kLongValueOwner, Slot::Kind::InPlace);
-        if (!record)
-            return true;
-        callback(record->place);
-        if (kind == LongValueKind::Single)
-            return true;
-        next = RowPointer(record->row.u32(0));
-    }
-    return true;
 }
 
 } // namespace jet

@@ -5,7 +5,6 @@
 #include "jet/result.h"
 
 #include <cstdint>
-#include <functional>
 #include <vector>
 
 namespace jet {
@@ -15,24 +14,5 @@ namespace jet {
 Result<std::vector<std::uint8_t>> storeOnNewPages(Bytes value, PageChanges& changes,
                                                   PageTaker& taker, int rank,
                                                   std::vector<std::uint32_t>& pages);
-
-/// Follows long values to their records.
-class RecordFollower {
-public:
-    /// Many cells of a damaged file can share one long chain: no more records than this many times
-    /// the pages of the file are looked at.
-    static constexpr std::uint64_t kBudget = 64;
-
-    explicit RecordFollower(PageSource& source)
-        : source_(&source), left_(kBudget * source.pageCount()) {}
-
-    /// Calls back with the place of each record of the value whose cell this is, as far as they
-    /// can be followed. False once there was too much to follow.
-    bool follow(Bytes cell, const std::function<void(RowPointer)>& callback);
-
-private:
-    PageSource* source_;
-    std::uint64_t left_;
-};
 
 } // namespace jet

@@ -30,14 +30,14 @@ Result<LongValues::Value> LongValues::fetch(Bytes cell) {
     if (length > source_->fileSize())
         return damaged("annoncée plus grande que le fichier");
     if (!spend(length))
-        return damaged("refusée : la table en donne plus que le fichier n'en peut contenir");
+        return damaged("refusée : la table en donne plus que le fichier n’en peut contenir");
     switch (kind) {
     case LongValueKind::Single:
         return fetchSingle(pointer, length);
     case LongValueKind::Chain:
         return fetchChain(pointer, length);
     default:
-        return damaged("d'une sorte inconnue");
+        return damaged("d’une sorte inconnue");
     }
 }
 
@@ -52,9 +52,9 @@ bool LongValues::spend(std::uint64_t bytes) {
 Result<LongValues::Value> LongValues::fetchSingle(RowPointer at, std::size_t length) {
     const auto record = followPointer(*source_, at, kLongValueOwner, Slot::Kind::InPlace);
     if (!record)
-        return damaged("absente de la page qu'elle nomme");
+        return damaged("absente de la page qu’elle nomme");
     if (record->row.size() < length)
-        return damaged("plus courte qu'annoncé");
+        return damaged("plus courte qu’annoncé");
     return Value{record->page, record->row.first(length)};
 }
 
@@ -66,7 +66,7 @@ Result<LongValues::Value> LongValues::fetchChain(RowPointer first, std::size_t l
     while (visited.size() < source_->pageCount() && visited.insert(next.stored()).second) {
         const auto record = followPointer(*source_, next, kLongValueOwner, Slot::Kind::InPlace);
         if (!record)
-            return damaged("dont un morceau est absent de la page qu'il nomme");
+            return damaged("dont un morceau est absent de la page qu’il nomme");
         const Bytes piece = record->row.from(kNextPieceBytes).first(length - pieces_.size());
         if (piece.empty())
             return damaged("dont un morceau est vide");
@@ -75,7 +75,7 @@ Result<LongValues::Value> LongValues::fetchChain(RowPointer first, std::size_t l
             return Value{{}, Bytes(pieces_)};
         next = RowPointer(record->row.u32(0));
         if (next.page == 0)
-            return damaged("plus courte qu'annoncé");
+            return damaged("plus courte qu’annoncé");
     }
     return damaged("dont la chaîne tourne en rond");
 }

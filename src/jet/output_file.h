@@ -1,12 +1,13 @@
 #pragma once
 
+#include "files/whole_file.h"
 #include "jet/bytes.h"
 #include "jet/result.h"
 
 #include <cstdint>
 #include <filesystem>
-#include <fstream>
 #include <memory>
+#include <vector>
 
 namespace jet {
 
@@ -15,7 +16,6 @@ namespace jet {
 class OutputFile {
 public:
     static Result<std::unique_ptr<OutputFile>> create(const std::filesystem::path& target);
-    ~OutputFile(); ///< removes what was not put in place
     OutputFile(const OutputFile&) = delete;
     OutputFile& operator=(const OutputFile&) = delete;
 
@@ -30,15 +30,15 @@ public:
     Result<void> putInPlace();
 
 private:
-    OutputFile(std::filesystem::path target, std::filesystem::path temporary);
-    Failure failure(const char* what) const;
+    explicit OutputFile(const std::filesystem::path& target) : target_(target), file_(target) {}
+    bool writeWaiting();
 
     std::filesystem::path target_;
-    std::filesystem::path temporary_;
-    std::ofstream file_;
+    files::WholeFile file_;
     std::uint32_t pageCount_ = 0;
-    std::uint32_t nextInOrder_ = 0; ///< page the file would write without moving
-    bool failed_ = false;
+    /// Pages that follow each other, to be written in one piece.
+    std::vector<std::uint8_t> waiting_;
+    std::uint64_t waitingAt_ = 0;
     bool closed_ = false;
 };
 

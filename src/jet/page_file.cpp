@@ -1,5 +1,7 @@
 #include "jet/page_file.h"
 
+#include "files/cause.h"
+
 #include <limits>
 #include <system_error>
 #include <utility>
@@ -55,20 +57,20 @@ void setLength(std::FILE* file, std::uint64_t size) {
 Result<std::unique_ptr<PageSink>> PageFile::open(const std::filesystem::path& path) {
     std::error_code error;
     if (!std::filesystem::is_regular_file(path, error))
-        return fileFailure(Failure::Kind::System, path, "le fichier ne peut pas être ouvert");
+        return fileFailure(path, "le fichier ne peut pas être ouvert",
+                           error ? error : std::make_error_code(std::errc::not_supported));
     std::FILE* file = openExisting(path);
     if (!file)
-        return fileFailure(Failure::Kind::System, path,
-                           "le fichier ne peut pas être modifié (protégé en écriture ?)");
+        return fileFailure(path, "le fichier ne peut pas être modifié", files::lastError());
     // Unbuffered, so that a page goes to the system in one piece or not at all.
     std::setvbuf(file, nullptr, _IONBF, 0);
     const std::uintmax_t size = std::filesystem::file_size(path, error);
     std::unique_ptr<PageSink> opened(new PageFile(file, path, size));
     if (error)
-        return fileFailure(Failure::Kind::System, path, "le fichier ne peut pas être ouvert");
+        return fileFailure(path, "le fichier ne peut pas être ouvert", error);
     if (!takeLock(file))
         return fileFailure(Failure::Kind::System, path,
-                           "un autre programme est en train d'y écrire");
+                           "un autre programme est en train d’y écrire");
     return opened;
 }
 
@@ -82,15 +84,18 @@ PageFile::~PageFile() {
 Result<void> PageFile::write(std::uint32_t number, Bytes page) {
     const std::uint64_t at = std::uint64_t{number} * page.size();
     const bool isReachable = at <= std::numeric_limits<std::int32_t>::max() - page.size();
-    if (!isReachable || std::fseek(file_, static_cast<long>(at), SEEK_SET) != 0 ||
+    if (!isReachable)
+        return fileFailure(path_, "l’écriture a échoué",
+                           std::make_error_code(std::errc::file_too_large));
+    if (std::fseek(file_, static_cast<long>(at), SEEK_SET) != 0 ||
         std::fwrite(page.data(), 1, page.size(), file_) != page.size())
-        return fileFailure(Failure::Kind::System, path_, "l'écriture a échoué (disque plein ?)");
+        return fileFailure(path_, "l’écriture a échoué", files::lastError());
     return {};
 }
 
 Result<void> PageFile::sync() {
     if (std::fflush(file_) != 0 || !flushToDisk(file_))
-        return fileFailure(Failure::Kind::System, path_, "l'écriture a échoué (disque plein ?)");
+        return fileFailure(path_, "l’écriture a échoué", files::lastError());
     return {};
 }
 

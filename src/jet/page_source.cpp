@@ -7,10 +7,6 @@
 #include <limits>
 #include <utility>
 
-#ifndef _WIN32
-#include <unistd.h>
-#endif
-
 namespace jet {
 
 namespace {
@@ -31,17 +27,6 @@ bool hasEngineName(Bytes header, const char* name) {
     return std::memcmp(header.data() + kEngineNameAt, name, std::strlen(name) + 1) == 0;
 }
 
-/// Whether all of `size` bytes from `position` on could be read.
-bool readAt(std::FILE* file, std::uint64_t position, void* bytes, std::size_t size) {
-#ifdef _WIN32
-    return _fseeki64(file, static_cast<long long>(position), SEEK_SET) == 0 &&
-           std::fread(bytes, 1, size, file) == size;
-#else
-    return pread(fileno(file), bytes, size, static_cast<off_t>(position)) ==
-           static_cast<ssize_t>(size);
-#endif
-}
-
 /// The kind of failure and its reason, or the header.
 struct ParsedHeader {
     PageSource::Header header;
@@ -56,7 +41,7 @@ ParsedHeader parseHeader(std::array<std::uint8_t, kHeaderBytes>& stored) {
         (hasEngineName(header, kEngineName) && version > 1))
         return {{}, Failure::Kind::Unsupported, "les fichiers de 2007 et après ne sont pas lus"};
     if (!hasEngineName(header, kEngineName))
-        return {{}, Failure::Kind::NotADatabase, "ce n'est pas une base Jet (page d'en-tête)"};
+        return {{}, Failure::Kind::NotADatabase, "ce n’est pas une base Jet (page d’en-tête)"};
 
     const std::size_t masked = version == 0 ? kMaskLengthJet3 : kMaskLengthJet4;
     applyRc4(kHeaderMaskKey, std::span(stored).subspan(kMaskAt, masked));
@@ -68,41 +53,28 @@ ParsedHeader parseHeader(std::array<std::uint8_t, kHeaderBytes>& stored) {
 } // namespace
 
 Result<std::shared_ptr<PageSource>> PageSource::open(const std::filesystem::path& path) {
-    File file = openFile(path);
     std::error_code error;
-    const std::uintmax_t size = std::filesystem::file_size(path, error);
-    if (!file || error)
-        return fileFailure(Failure::Kind::System, path, "le fichier ne peut pas être ouvert");
+    auto file = files::InputFile::open(path, error);
+    if (!file)
+        return fileFailure(path, "le fichier ne peut pas être ouvert", error);
 
     std::array<std::uint8_t, kHeaderBytes> stored{};
-    if (!readAt(file.get(), 0, stored.data(), stored.size()))
+    if (!file->read(0, stored, error))
         return fileFailure(Failure::Kind::NotADatabase, path,
-                           "le fichier est plus court qu'un en-tête");
+                           "le fichier est plus court qu’un en-tête");
     const ParsedHeader parsed = parseHeader(stored);
     if (parsed.fault)
         return fileFailure(parsed.kind, path, parsed.fault);
-    if (size / parsed.header.format->pageSize <= kCatalogPage)
-        return fileFailure(Failure::Kind::Damaged, path, "le fichier s'arrête avant son catalogue");
-    return std::shared_ptr<PageSource>(new PageSource(std::move(file), parsed.header, size));
+    if (file->size() / parsed.header.format->pageSize <= kCatalogPage)
+        return fileFailure(Failure::Kind::Damaged, path, "le fichier s’arrête avant son catalogue");
+    return std::shared_ptr<PageSource>(new PageSource(*std::move(file), parsed.header));
 }
 
-/// Programs that are started while the file is open do not get it.
-PageSource::File PageSource::openFile(const std::filesystem::path& path) {
-#ifdef _WIN32
-    File file(_wfopen(path.c_str(), L"rbN"));
-#else
-    File file(std::fopen(path.c_str(), "rbe"));
-#endif
-    if (file)
-        std::setvbuf(file.get(), nullptr, _IONBF, 0); // blocks are buffered here
-    return file;
-}
-
-PageSource::PageSource(File file, const Header& header, std::uint64_t fileSize)
+PageSource::PageSource(files::InputFile file, const Header& header)
     : file_(std::move(file)), header_(header),
       // Row pointers give a page 24 bits.
       pageCount_(static_cast<std::uint32_t>(
-          std::min<std::uint64_t>(fileSize / header.format->pageSize, 1u << 24))) {}
+          std::min<std::uint64_t>(file_.size() / header.format->pageSize, 1u << 24))) {}
 
 std::optional<Page> PageSource::page(std::uint32_t number) {
     if (number >= pageCount_)
@@ -149,7 +121,8 @@ bool PageSource::fill(Block& block, std::uint32_t first, std::uint32_t count) {
     if (!block.bytes || block.bytes.use_count() > 1) // somebody still reads its pages
         block.bytes = std::make_shared_for_overwrite<std::uint8_t[]>(kBlockBytes);
 
-    if (!readAt(file_.get(), std::uint64_t{first} * pageSize, block.bytes.get(), count * pageSize))
+    std::error_code error;
+    if (!file_.read(std::uint64_t{first} * pageSize, {block.bytes.get(), count * pageSize}, error))
         return false;
     if (header_.pageKey != 0) {
         for (std::uint32_t i = first == 0 ? 1 : 0; i < count; ++i)

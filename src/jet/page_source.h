@@ -1,12 +1,12 @@
 #pragma once
 
+#include "files/input_file.h"
 #include "jet/bytes.h"
 #include "jet/format.h"
 #include "jet/result.h"
 
 #include <array>
 #include <cstdint>
-#include <cstdio>
 #include <filesystem>
 #include <memory>
 #include <optional>
@@ -62,20 +62,14 @@ private:
         }
     };
 
-    struct Close {
-        void operator()(std::FILE* file) const { std::fclose(file); }
-    };
-    using File = std::unique_ptr<std::FILE, Close>;
-
-    static File openFile(const std::filesystem::path& path);
-    PageSource(File file, const Header& header, std::uint64_t fileSize);
+    PageSource(files::InputFile file, const Header& header);
     const Block* cached(std::uint32_t number) const;
     std::uint32_t pagesToRead(std::uint32_t number) const;
     Block& oldestBlock();
     bool fill(Block& block, std::uint32_t first, std::uint32_t count);
     Page pageOf(const Block& block, std::uint32_t number) const;
 
-    File file_;
+    files::InputFile file_;
     Header header_;
     std::uint32_t pageCount_;
     std::uint64_t clock_ = 0;

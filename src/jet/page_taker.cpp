@@ -3,39 +3,52 @@
 #include "jet/data_page.h"
 #include "jet/usage_map.h"
 
-#include <utility>
+#include <algorithm>
+#include <functional>
 
 namespace jet {
 
 Result<std::uint32_t> PageTaker::take() {
-    listEmptied();
-    if (!emptied_.empty()) {
-        taken_.push_back(emptied_.back());
-        emptied_.pop_back();
+    list();
+    if (!available_.empty()) {
+        taken_.push_back(available_.back());
+        available_.pop_back();
         return taken_.back();
     }
-    const auto added = changes_->add();
+    const auto added = addPage();
     if (!added)
         return Failure{Failure::Kind::Refused,
                        "le fichier dépasserait la taille permise à une base de données"};
-    taken_.push_back(*added);
     return *added;
 }
 
-void PageTaker::listEmptied() {
-    if (std::exchange(listed_, true))
+/// Pages that are passed over stay without content, so that what names them stays damaged.
+std::optional<std::uint32_t> PageTaker::addPage() {
+    for (;;) {
+        const auto added = changes_->add();
+        if (added)
+            taken_.push_back(*added);
+        if (!added || !named_->isNamed(*added))
+            return added;
+    }
+}
+
+void PageTaker::list() {
+    if (named_)
         return;
     PageSource& source = changes_->source();
+    named_.emplace(source);
+    available_ = named_->lostPages();
     const auto free = pagesInMap(source, kGlobalMap, kGlobalMapOwner);
-    if (!free)
-        return;
-    for (auto number = free->rbegin(); number != free->rend(); ++number) {
-        const auto page = source.page(*number);
+    for (const std::uint32_t number : free.value_or(std::vector<std::uint32_t>())) {
+        const auto page = source.page(number);
         const auto data =
             page ? DataPage::of(*page, kLongValueOwner, source.format()) : std::nullopt;
-        if (data && data->isSound() && data->slotCount() == 0)
-            emptied_.push_back(*number);
+        if (data && data->isSound() && data->slotCount() == 0 && !named_->isNamed(number))
+            available_.push_back(number);
     }
+    std::sort(available_.begin(), available_.end(), std::greater<>());
+    available_.erase(std::unique(available_.begin(), available_.end()), available_.end());
 }
 
 } // namespace jet

@@ -57,19 +57,19 @@ Result<void> RowChange::plan(RowPointer place, std::vector<ChangedCell> cells) {
     const auto row = site ? Row::parse(site->row, definition_->shape).row : std::nullopt;
     parts_ = row ? RowParts::of(*row, *definition_) : std::nullopt;
     if (!parts_)
-        return damaged("l'enregistrement est endommagé");
+        return damaged("l’enregistrement est endommagé");
     for (const ChangedCell& cell : cells_)
         if (!(cell.absent ? parts_->clear(cell.place) : parts_->set(cell.place, {})))
-            return damaged("l'enregistrement ne correspond pas à la définition");
+            return damaged("l’enregistrement ne correspond pas à la définition");
 
     const auto form = chooseForm(*site);
     if (!form)
-        return Failure{Failure::Kind::Refused, "l'enregistrement ne tient pas dans une page"};
+        return Failure{Failure::Kind::Refused, "l’enregistrement ne tient pas dans une page"};
     if (const auto stored = store(form->longestInline); !stored)
         return stored;
     const RowBytes bytes = assemble(form->longestInline);
     if (!isAsAsked(*row, bytes, form->longestInline))
-        return damaged("la définition mêle les colonnes de l'enregistrement");
+        return damaged("la définition mêle les colonnes de l’enregistrement");
     noteLeftValues(*row);
     if (const auto put = form->staysOnPage ? replace(*site, bytes) : moveOut(*site, bytes); !put)
         return put;
@@ -146,7 +146,7 @@ Result<void> RowChange::replace(const PointedRow& site, Bytes row) {
     PageImage* page = changes_->edit(site.place.page, kRow);
     if (!page || replaceRow(*page, changes_->format(), site.place.row, row,
                             isMoved ? kSlotBody : std::uint16_t{0}) != RowReplaced::Done)
-        return damaged("la page de l'enregistrement est endommagée");
+        return damaged("la page de l’enregistrement est endommagée");
     return {};
 }
 
@@ -158,7 +158,7 @@ Result<void> RowChange::moveOut(const PointedRow& site, Bytes row) {
     DataPageBuilder fresh(*number, definition_->page, changes_->format());
     const auto body = fresh.add(row, 0, kSlotBody);
     if (!body)
-        return Failure{Failure::Kind::Refused, "l'enregistrement ne tient pas dans une page"};
+        return Failure{Failure::Kind::Refused, "l’enregistrement ne tient pas dans une page"};
     changes_->put(*number, fresh.image(), kNewPages);
     for (const RowPointer map : {definition_->ownedPages, definition_->pagesWithRoom})
         if (const auto added = addToMap(map, {&*number, 1}); !added)
@@ -169,7 +169,7 @@ Result<void> RowChange::moveOut(const PointedRow& site, Bytes row) {
     PageImage* page = changes_->edit(site.pointer.page, kRow);
     if (!page || replaceRow(*page, changes_->format(), site.pointer.row, pointer.written(),
                             kSlotPointer) != RowReplaced::Done)
-        return damaged("la page de l'enregistrement est endommagée");
+        return damaged("la page de l’enregistrement est endommagée");
     return {};
 }
 

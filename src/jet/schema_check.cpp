@@ -32,7 +32,7 @@ const char* nameFault(std::u16string_view table) {
     if (!hasNameShape(table))
         return "un nom a de 1 à 64 caractères et ni commence ni finit par un espace";
     if (!isIndexable(table))
-        return "un nom de table n'a que des lettres sans accent, des chiffres, des espaces et « _ "
+        return "un nom de table n’a que des lettres sans accent, des chiffres, des espaces et « _ "
                "»";
     if (sameName(table.substr(0, kSystemPrefix.size()), kSystemPrefix))
         return "les noms en « MSys » sont ceux du système";
@@ -45,7 +45,7 @@ const char* nameFault(const Column& column) {
         return "un nom a de 1 à 64 caractères et ni commence ni finit par un espace";
     for (const char16_t c : column.name)
         if (isControl(c) || kForbidden.find(c) != std::u16string_view::npos)
-            return "un nom de colonne n'a ni point, ni « ! », ni crochet, ni accent grave seul";
+            return "un nom de colonne n’a ni point, ni « ! », ni crochet, ni accent grave seul";
     return nullptr;
 }
 
@@ -59,7 +59,7 @@ const char* typeFault(const Column& column) {
     switch (column.type) {
     case ColumnType::Unknown:
     case ColumnType::FixedBinary:
-        return "ce type ne s'écrit pas";
+        return "ce type ne s’écrit pas";
     case ColumnType::Text:
     case ColumnType::Binary:
         return isBetween(column.length, 1, 255) ? nullptr : "la longueur va de 1 à 255";

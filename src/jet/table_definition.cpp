@@ -36,7 +36,7 @@ Result<std::vector<std::uint8_t>> collectPages(PageSource& source, std::uint32_t
     do {
         const auto page = source.page(number);
         if (!isDefinitionPage(page))
-            return damaged(number, "n'est pas une page de définition");
+            return damaged(number, "n’est pas une page de définition");
         if (std::find(visited.begin(), visited.end(), number) != visited.end())
             return damaged(number, "revient sur elle-même");
         if (visited.size() == kMaxDefinitionPages)
@@ -129,10 +129,10 @@ const char* readColumns(Bytes content, const Format& format, TableDefinition& ta
     if (columnCount > kMaxColumns)
         return "annonce trop de colonnes";
     if (indexCount > kMaxIndexes)
-        return "annonce trop d'index";
+        return "annonce trop d’index";
     const std::size_t blocksAt = format.arraysAt + indexCount * format.realIndexEntry;
     if (!content.has(blocksAt, columnCount * format.columnBlock))
-        return "s'arrête dans la liste des colonnes";
+        return "s’arrête dans la liste des colonnes";
 
     std::size_t nameAt = blocksAt + columnCount * format.columnBlock;
     for (std::size_t i = 0; i < columnCount; ++i) {
@@ -140,7 +140,7 @@ const char* readColumns(Bytes content, const Format& format, TableDefinition& ta
         Column column = readColumn(block, format);
         auto name = takeName(content, nameAt, format);
         if (!name)
-            return "a un nom de colonne qui n'y tient pas";
+            return "a un nom de colonne qui n’y tient pas";
         column.name = std::move(*name);
         table.places.push_back(readPlace(block, column.type, format));
         table.columns.push_back(std::move(column));

@@ -239,7 +239,7 @@ Failure TableReader::cellFailure(const LiveRow& live, std::size_t column,
 }
 
 Failure TableReader::noSuch(std::size_t position, std::size_t column) const {
-    return {Failure::Kind::NotFound, label() + " : pas d'enregistrement " +
+    return {Failure::Kind::NotFound, label() + " : pas d’enregistrement " +
                                          std::to_string(position) + ", colonne " +
                                          std::to_string(column)};
 }

@@ -103,9 +103,9 @@ std::optional<DataPage> TableRows::dataPage(std::uint32_t number) {
     const auto page = source_->page(number);
     auto data = page ? DataPage::of(*page, definition_->page, source_->format()) : std::nullopt;
     if (noting_ && !data)
-        passOver(number, "ce n'est pas une page de données de la table");
+        passOver(number, "ce n’est pas une page de données de la table");
     if (noting_ && data && !data->isSound())
-        passOver(number, "elle annonce plus de lignes qu'elle n'en contient");
+        passOver(number, "elle annonce plus de lignes qu’elle n’en contient");
     return data;
 }
 

@@ -41,7 +41,7 @@ Result<TableTail> readTableTail(const TableDefinition& definition) {
     const Bytes rest(definition.rest);
     const Failure damaged{Failure::Kind::Damaged, "la définition (page " +
                                                       std::to_string(definition.page) +
-                                                      ") a une liste d'index qui n'y tient pas"};
+                                                      ") a une liste d’index qui n’y tient pas"};
     const std::size_t realBytes = definition.realIndexes * format.realIndexBlock;
     if (definition.logicalIndexes > kMaxLogicalIndexes ||
         !rest.has(realBytes, definition.logicalIndexes * format.logicalIndexBlock))

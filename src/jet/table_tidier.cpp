@@ -3,7 +3,8 @@
 #include "jet/data_page.h"
 #include "jet/data_page_builder.h"
 #include "jet/data_page_editor.h"
-#include "jet/long_value_pages.h"
+#include "jet/named_pages.h"
+#include "jet/record_follower.h"
 #include "jet/table_rows.h"
 #include "jet/usage_map.h"
 
@@ -19,49 +20,52 @@ constexpr int kFreeMap = 2;
 } // namespace
 
 void TableTidier::plan(std::span<const RowChange::LeftValue> left) {
-    listCandidates(left);
     if (!lookThroughRows())
         return;
+    const NamedPages named(changes_->source());
+    listLeft(left);
+    if (named.isWhole())
+        listOwned();
+    std::erase_if(candidates_, [&](const auto& entry) { return named.isNamed(entry.first); });
     deleteLostBodies();
     freePages();
 }
 
-/// Pages with one record only; the others hold values of other rows.
-void TableTidier::listCandidates(std::span<const RowChange::LeftValue> left) {
-    PageSource& source = changes_->source();
-    RecordFollower follower(source);
-    for (const RowChange::LeftValue& value : left) {
+void TableTidier::listLeft(std::span<const RowChange::LeftValue> left) {
+    RecordFollower follower(changes_->source());
+    for (const RowChange::LeftValue& value : left)
         follower.follow(value.cell, [&](RowPointer record) {
-            const auto page = source.page(record.page);
-            const auto data =
-                page ? DataPage::of(*page, kLongValueOwner, source.format()) : std::nullopt;
-            if (data && data->slotCount() == 1)
-                candidates_.emplace(record.page, value.columnNumber);
+            addCandidate(record.page, value.columnNumber);
         });
+}
+
+/// What an earlier change could not give back any more.
+void TableTidier::listOwned() {
+    for (const auto& [column, maps] : tail_->longColumns) {
+        const auto pages = pagesInMap(changes_->source(), maps.owned);
+        for (const std::uint32_t page : pages.value_or(std::vector<std::uint32_t>()))
+            addCandidate(page, column);
     }
+}
+
+/// Pages with one record at most; the others hold values of other rows.
+void TableTidier::addCandidate(std::uint32_t number, std::size_t columnNumber) {
+    PageSource& source = changes_->source();
+    const auto page = source.page(number);
+    const auto data = page ? DataPage::of(*page, kLongValueOwner, source.format()) : std::nullopt;
+    if (data && data->isSound() && data->slotCount() <= 1)
+        candidates_.emplace(number, columnNumber);
 }
 
 /// False when not all rows could be looked at.
 bool TableTidier::lookThroughRows() {
     TableRows rows(changes_->source(), *definition_, {});
-    RecordFollower follower(changes_->source());
-    bool isWhole = true;
     rows.forEach([&](const LiveRow& live) {
         if (!(live.body == live.place))
             bodies_.insert(live.body.stored());
-        for (std::size_t i = 0; i < definition_->places.size() && !candidates_.empty(); ++i) {
-            const ColumnPlace& place = definition_->places[i];
-            const auto cell =
-                tail_->longColumns.contains(place.number) && live.row.isSet(place.number)
-                    ? live.row.variableValue(place.variableIndex)
-                    : std::nullopt;
-            if (cell && !follower.follow(
-                            *cell, [this](RowPointer record) { candidates_.erase(record.page); }))
-                isWhole = false;
-        }
-        return isWhole;
+        return true;
     });
-    return isWhole && rows.problems().empty();
+    return rows.problems().empty();
 }
 
 void TableTidier::deleteLostBodies() {

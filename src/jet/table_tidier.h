@@ -15,10 +15,11 @@
 
 namespace jet {
 
-/// Plans, after a change of a row, what gives back the room of its old form: pages with nothing but
-/// a long value that no row names any more are emptied and become free, and bodies of moved rows
-/// that no pointer leads to count as deleted. Each write of it may be the last. A table of which
-/// some rows cannot be read is left as it is: they may name anything.
+/// Plans, after a change of a row, what gives back the room of its old form, and of the old forms
+/// that changes cut short have left: pages with nothing but a long value that no row names any more
+/// are emptied and become free, and bodies of moved rows that no pointer leads to count as deleted.
+/// Each write of it may be the last. A table of which some rows cannot be read is left as it is:
+/// they may name anything.
 class TableTidier {
 public:
     TableTidier(PageChanges& changes, const TableDefinition& definition, const TableTail& tail)
@@ -27,9 +28,10 @@ public:
     void plan(std::span<const RowChange::LeftValue> left);
 
 private:
-    void listCandidates(std::span<const RowChange::LeftValue> left);
+    void listLeft(std::span<const RowChange::LeftValue> left);
+    void listOwned();
+    void addCandidate(std::uint32_t page, std::size_t columnNumber);
     bool lookThroughRows();
-    bool keepNamedPages(const Row& row);
     void deleteLostBodies();
     void freePages();
 

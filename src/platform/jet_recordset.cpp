@@ -102,7 +102,7 @@ public:
         if (access_ == Access::ReadOnly)
             return Recordset::setField(name, text);
         if (position_ < 0)
-            return QStringLiteral("aucun enregistrement n'est choisi");
+            return QStringLiteral("aucun enregistrement n’est choisi");
         auto editor = jet::DatabaseEditor::open(place_.path);
         if (!editor)
             return sentence(editor.error());

@@ -3,7 +3,7 @@
 #include "jet/csv_dump.h"
 #include "jet/data_page.h"
 #include "jet/database.h"
-#include "jet/long_value_pages.h"
+#include "jet/record_follower.h"
 #include "jet/table_rows.h"
 #include "jet/table_tail.h"
 #include "jet/usage_map.h"

@@ -233,7 +233,7 @@ INSTANTIATE_TEST_SUITE_P(
         Damage{"ColumnCount", [](Image i) { jet::put16(i, kDefinition + 45, 0xFFFF); },
                Outcome::TableFails, "trop de colonnes"},
         Damage{"IndexCount", [](Image i) { jet::put32(i, kDefinition + 51, 0xFFFFFFFF); },
-               Outcome::TableFails, "trop d'index"},
+               Outcome::TableFails, "trop d’index"},
         Damage{"NameOdd", [](Image i) { i[kNames] = 3; }, Outcome::TableFails, "nom de colonne"},
         Damage{"NameEmpty", [](Image i) { i[kNames] = 0; }, Outcome::TableFails, "nom de colonne"},
         Damage{"NameTooLong", [](Image i) { jet::put16(i, kNames, 0xFFFE); }, Outcome::TableFails,

@@ -227,7 +227,7 @@ TEST_F(Editor, leavesTheFileWhenItCannotGrow) {
     signal(SIGXFSZ, ignored);
     ASSERT_FALSE(changed);
     EXPECT_EQ(changed.error().kind, jet::Failure::Kind::System);
-    EXPECT_THAT(changed.error().sentence, HasSubstr("« t.mdb » : l'écriture a échoué"));
+    EXPECT_THAT(changed.error().sentence, HasSubstr("« t.mdb » : l’écriture a échoué"));
     EXPECT_EQ(readBytes(path_), before);
 }
 
@@ -272,10 +272,10 @@ TEST_F(Editor, refusesWhatItCannotChange) {
     };
     const std::vector<Case> cases{
         {u"absente", 0, {{u"memo", u""}}, Kind::NotFound, "pas de table « absente »"},
-        {u"T", 12, {{u"memo", u""}}, Kind::NotFound, "table « T » : pas d'enregistrement 12"},
+        {u"T", 12, {{u"memo", u""}}, Kind::NotFound, "table « T » : pas d’enregistrement 12"},
         {u"T", 0, {{u"mémo", u""}}, Kind::NotFound, "pas de colonne « mémo »"},
         {u"T", 0, {{u"memo", u"a"}, {u"Memo", u"b"}}, Kind::Refused, "donnée deux fois"},
-        {u"T", 0, {{u"memo", 7}}, Kind::Refused, "n'est pas du type"},
+        {u"T", 0, {{u"memo", 7}}, Kind::Refused, "n’est pas du type"},
         {u"T", 0, {{u"memo", u"neuf"}, {u"nom", Value(text(256))}}, Kind::Refused, "plus longue"},
         {u"Every type_1", 0, {{u"Long", 8}}, Kind::Refused, "se numérote"}};
     for (const Case& refused : cases) {

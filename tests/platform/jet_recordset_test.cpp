@@ -75,7 +75,7 @@ TEST_F(JetRecordsetTest, saysWhyAFieldIsNotSet) {
     EXPECT_EQ(refused, QStringLiteral("les enregistrements sont ouverts en lecture seule"));
     const auto records = open(Access::Writable);
     EXPECT_TRUE(records->setField(QStringLiteral("numero"), QStringLiteral("7"))
-                    ->contains(QStringLiteral("« numero », la valeur n'est pas du type")));
+                    ->contains(QStringLiteral("« numero », la valeur n’est pas du type")));
 
     // Another program takes the file between opening and setting.
     QFile lock(folder_.filePath(QStringLiteral("qekx é.ldb")));

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace text {
+
+/// Bytes, 1 to 4, of the character that `utf8`, which is not empty, starts with; 0 when it is no
+/// UTF-8: a byte that starts none, one that is cut short, a code written longer than it must be, a
+/// half of a UTF-16 pair, or a code beyond U+10FFFF.
+std::size_t utf8CharacterLength(std::string_view utf8);
+
+/// The text as one line that a terminal can be trusted with, whoever wrote it: U+FFFD stands for
+/// control characters (U+0000 to U+001F, U+007F to U+009F), for line and paragraph separators, for
+/// what changes the direction of writing (U+200E, U+200F, U+202A to U+202E, U+2066 to U+2069), and
+/// for bytes that are no UTF-8.
+std::string plainLine(std::string_view utf8);
+
+/// Replaces, in a text of several lines, what could steer a terminal: control characters but the
+/// tab and the line feed.
+std::string plainLines(std::string_view utf8);
+
+} // namespace text
