@@ -24,6 +24,10 @@ PictureBox::PictureBox(platform::SurfaceId id, int widthPx, QRgb ground,
     PictureAccessible::install();
 }
 
+PictureBox::~PictureBox() {
+    delete rim_;
+}
+
 void PictureBox::empty() {
     raster_.reset();
     surface_.clear();

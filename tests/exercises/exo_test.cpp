@@ -290,6 +290,28 @@ TEST_F(Opened, TheMainWindowWaitsAndOthersDoNot) {
     EXPECT_EQ(bench.drawing.fenetreSource, nullptr);
 }
 
+using QuestionLinks = ExoCase;
+
+// Further down on the question it looks the same.
+TEST_F(QuestionLinks, AreNotCutByTheEdgesOfTheQuestion) {
+    QList<QImage> shown;
+    for (const std::u16string& above : {u"", u"##PIY020\r\n"}) {
+        shared.PendingExerciseChapter = 3;
+        state = {};
+        const std::u16string source =
+            u"##SI12\r\n" + above + u"##PIY004\r\nÎgj\r\n##EXOLIÎle gj#1\r\n";
+        write({{number(3), jet::Value(u"x"), number(1)}},
+              {{jet::Value(301), number(3), jet::Value(u"ohm"), jet::Value(source), {}}});
+        openWindow();
+        const int moved = shown.isEmpty() ? 0 : 20;
+        shown.append(control<QWidget>("frame1").grab(QRect(2, 2 + moved, 590, 60)).toImage());
+        prompter.answers = {platform::Answer::Yes};
+        control("Image2").click();
+        prompter.answers.clear();
+    }
+    EXPECT_EQ(shown[0], shown[1]);
+}
+
 using BadInput = ExoCase;
 
 TEST_F(BadInput, LeavesTheWindowUsable) {
