@@ -178,6 +178,14 @@ TEST_F(InkMargin, whatStandsBeyondTheSurfaceDoesNotShow) {
     EXPECT_FALSE(platform::isBelow({SurfaceId::PictureTexte, 0, 0, "É", {}, 0, 0}, line));
 }
 
+TEST_F(InkMargin, aLineWithMostOfItBeyondIsCutAtTheEdge) {
+    print(0, 15 * 15, QStringLiteral("ÉM"));
+    for (const QImage& image : {shown(20, 1), filed(20, 1)}) {
+        EXPECT_GT(inked(image.copy(0, kMarginPx, image.width(), 20)), 0);
+        EXPECT_EQ(inked(image.copy(0, kMarginPx + 20, image.width(), kMarginPx)), 0);
+    }
+}
+
 TEST_F(InkMargin, whatIsTooWideIsCutAtTheEdge) {
     print(0, 0, QString(200, u'M'));
     surface.fill(3000, 0, 9000, 300, 0xffdce6ff, platform::FillMode::Mask);
