@@ -126,24 +126,29 @@ TEST_F(InkMargin, aLineAloneOnItsSurfaceShowsAllOfItsInk) {
 }
 
 TEST_F(InkMargin, nothingOfAPageStaysOnTheNext) {
-    for (const Type& type : kTypes)
-        for (const double ratio : kRatios) {
-            platform::RasterSurface raster(SurfaceId::PictureTexte, kWidthPx, fonts, kWhite);
-            raster.setDevicePixelRatio(ratio);
-            recording.clear();
-            surface.clear();
-            use(type);
+    const auto drawFull = [&](const Type& type, bool isText) {
+        use(type);
+        if (isText)
             print(0, 0, QStringLiteral("gypaète jaune {|}"));
+        else
             surface.line(0, 0, 900, surface.textHeight());
-            raster.play(recording);
-            const int height = raster.drawnHeightPx();
-            surface.clear();
-            print(0, 0, QStringLiteral("."));
-            raster.play(recording);
-            const int full = inked(raster.image(height + 40));
-            EXPECT_EQ(full, inked(raster.image(qCeil(surface.textHeight() / 15))))
-                << type.face << type.points << ratio;
-        }
+    };
+    for (const Type& type : kTypes)
+        for (const double ratio : kRatios)
+            for (const bool isText : {true, false}) {
+                platform::RasterSurface raster(SurfaceId::PictureTexte, kWidthPx, fonts, kWhite);
+                raster.setDevicePixelRatio(ratio);
+                recording.clear();
+                drawFull(type, isText);
+                raster.play(recording);
+                const int height = raster.drawnHeightPx() + 40;
+                EXPECT_GT(inked(raster.image(height)), 20);
+                surface.clear();
+                surface.fill(0, 0, 15, 15, 0xff000000, platform::FillMode::Copy);
+                raster.play(recording);
+                EXPECT_EQ(inked(raster.image(height)), inked(raster.image(1)))
+                    << type.face << type.points << ratio << isText;
+            }
 }
 
 TEST_F(InkMargin, bordersAtTheEdgesShow) {
