@@ -61,8 +61,8 @@ void InkRim::paintEvent(QPaintEvent* event) {
     painter.scale(1 / ratio, 1 / ratio);
     box_.paintMargin(painter, event->rect().translated(corner));
     // The captions of links belong to the page as its text does. The box covers the rest of them.
-    for (LinkWidget* link : box_.findChildren<LinkWidget*>(Qt::FindDirectChildrenOnly))
-        if (link->isVisible())
+    for (QObject* child : box_.children())
+        if (auto* link = dynamic_cast<LinkWidget*>(child); link && link->isVisible())
             link->drawOn(painter, ratio);
 }
 

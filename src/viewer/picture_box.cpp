@@ -24,6 +24,10 @@ PictureBox::PictureBox(platform::SurfaceId id, int widthPx, QRgb ground,
     PictureAccessible::install();
 }
 
+PictureBox::~PictureBox() {
+    delete rim_;
+}
+
 void PictureBox::empty() {
     raster_.reset();
     surface_.clear();
@@ -130,6 +134,14 @@ void PictureBox::paintEvent(QPaintEvent* event) {
     moveToSurface(painter);
     const QRect exposed = event->rect().translated(-inset_, -inset_);
     raster_.paint(painter, exposed);
+    if (inset_ > 0) {
+        // What rises above a first line goes over the rule.
+        painter.save();
+        painter.setClipping(false);
+        painter.scale(1 / raster_.devicePixelRatio(), 1 / raster_.devicePixelRatio());
+        paintMargin(painter, event->rect());
+        painter.restore();
+    }
     paintMarks(painter, exposed.adjusted(-1, -1, 1, 1));
 }
 

@@ -21,6 +21,7 @@ public:
     /// `widthPx` is the width to draw on; the control itself may be larger, see setInset().
     PictureBox(platform::SurfaceId id, int widthPx, QRgb ground, const platform::FontBook& fonts,
                platform::Recording& recording, QWidget* parent);
+    ~PictureBox() override;
 
     platform::Surface& surface() { return surface_; }
     platform::SurfaceId surfaceId() const { return surface_.id(); }
@@ -63,7 +64,7 @@ public:
     /// to the window alone: no recording and no paper has them.
     void setMarks(Marks marks);
 
-    /// The control that shows paintMargin() around this one.
+    /// The control that shows paintMargin() around this one, and goes with it.
     void setRim(QWidget* rim) { rim_ = rim; }
     /// Has it painted anew.
     void updateMargin();

@@ -306,6 +306,27 @@ TEST_F(Opened, TheMainWindowWaitsAndOthersDoNot) {
     EXPECT_EQ(bench.drawing.fenetreSource, nullptr);
 }
 
+using QuestionLinks = ExoCase;
+
+// Its caption stands there as the question's own text would, accents and feet included.
+TEST_F(QuestionLinks, LookLikeText) {
+    QList<QImage> shown;
+    for (const char16_t* line : {u"##PIX032\r\nÎle gj\r\n", u"##EXOLIÎle gj#1\r\n"}) {
+        shared.PendingExerciseChapter = 3;
+        state = {};
+        const std::u16string source = std::u16string(u"##SI12\r\n##PIY004\r\n") + line;
+        write({{number(3), jet::Value(u"x"), number(1)}},
+              {{jet::Value(301), number(3), jet::Value(u"ohm"), jet::Value(source), {}}});
+        openWindow();
+        shown.append(area().grab(QRect(30, 0, 200, 40)).toImage());
+        prompter.answers = {platform::Answer::Yes};
+        control("Image2").click();
+        prompter.answers.clear();
+    }
+    EXPECT_NE(shown[0].pixelColor(33, 12), shown[0].pixelColor(199, 39)) << "an I, and paper";
+    EXPECT_EQ(shown[0], shown[1]);
+}
+
 using BadInput = ExoCase;
 
 TEST_F(BadInput, LeavesTheWindowUsable) {

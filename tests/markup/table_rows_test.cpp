@@ -63,6 +63,11 @@ INSTANTIATE_TEST_SUITE_P(
                      "line 300,0 300,400", "line 150,400 300,400", "line 150,600 300,600",
                      "line 150,400 150,600", "line 300,400 300,600"}) +
                 QStringList({"print 8900,600 \"x\" Arial 10", "print 0,800 \"y\" Arial 10"})},
+        Row{"aRowAboveAnotherEndsWithItsOwnCells",
+            u"##PIY080\n##TAB010020 1\n¶\n##FINITAB\n##DECLIG-6\n##TAB010020 1\n¶\n##FINTAB\nx\n",
+            borders({"line 150,200 300,200", "line 150,400 300,400", "line 150,200 150,400",
+                     "line 300,200 300,400"}) +
+                QStringList("print 0,400 \"x\" Arial 10")},
         Row{"aPenThatRisesMakesTheRowNoLower",
             u"##PIY010\n##TAB010020 1\n¶\n¶\n##TAB020030 2\n¶\n##DECLIG-2\n##FINTAB\nx\n",
             borders({"line 150,150 450,150", "line 150,550 450,550", "line 150,150 150,550",

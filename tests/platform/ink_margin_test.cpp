@@ -126,24 +126,29 @@ TEST_F(InkMargin, aLineAloneOnItsSurfaceShowsAllOfItsInk) {
 }
 
 TEST_F(InkMargin, nothingOfAPageStaysOnTheNext) {
-    for (const Type& type : kTypes)
-        for (const double ratio : kRatios) {
-            platform::RasterSurface raster(SurfaceId::PictureTexte, kWidthPx, fonts, kWhite);
-            raster.setDevicePixelRatio(ratio);
-            recording.clear();
-            surface.clear();
-            use(type);
+    const auto drawFull = [&](const Type& type, bool isText) {
+        use(type);
+        if (isText)
             print(0, 0, QStringLiteral("gypaète jaune {|}"));
+        else
             surface.line(0, 0, 900, surface.textHeight());
-            raster.play(recording);
-            const int height = raster.drawnHeightPx();
-            surface.clear();
-            print(0, 0, QStringLiteral("."));
-            raster.play(recording);
-            const int full = inked(raster.image(height + 40));
-            EXPECT_EQ(full, inked(raster.image(qCeil(surface.textHeight() / 15))))
-                << type.face << type.points << ratio;
-        }
+    };
+    for (const Type& type : kTypes)
+        for (const double ratio : kRatios)
+            for (const bool isText : {true, false}) {
+                platform::RasterSurface raster(SurfaceId::PictureTexte, kWidthPx, fonts, kWhite);
+                raster.setDevicePixelRatio(ratio);
+                recording.clear();
+                drawFull(type, isText);
+                raster.play(recording);
+                const int height = raster.drawnHeightPx() + 40;
+                EXPECT_GT(inked(raster.image(height)), 20);
+                surface.clear();
+                surface.fill(0, 0, 15, 15, 0xff000000, platform::FillMode::Copy);
+                raster.play(recording);
+                EXPECT_EQ(inked(raster.image(height)), inked(raster.image(1)))
+                    << type.face << type.points << ratio << isText;
+            }
 }
 
 TEST_F(InkMargin, bordersAtTheEdgesShow) {
@@ -176,6 +181,14 @@ TEST_F(InkMargin, whatStandsBeyondTheSurfaceDoesNotShow) {
     EXPECT_FALSE(platform::svgDocument(sheet(height), fonts, {}).contains("Ébène"));
     EXPECT_TRUE(platform::isBelow({SurfaceId::PictureTexte, 0, line, "É", {}, 0, 0}, line));
     EXPECT_FALSE(platform::isBelow({SurfaceId::PictureTexte, 0, 0, "É", {}, 0, 0}, line));
+}
+
+TEST_F(InkMargin, aLineWithMostOfItBeyondIsCutAtTheEdge) {
+    print(0, 15 * 15, QStringLiteral("ÉM"));
+    for (const QImage& image : {shown(20, 1), filed(20, 1)}) {
+        EXPECT_GT(inked(image.copy(0, kMarginPx, image.width(), 20)), 0);
+        EXPECT_EQ(inked(image.copy(0, kMarginPx + 20, image.width(), kMarginPx)), 0);
+    }
 }
 
 TEST_F(InkMargin, whatIsTooWideIsCutAtTheEdge) {

@@ -69,6 +69,30 @@ TEST_F(Links, EdgesOfThePageCutNoInk) {
         }
 }
 
+/// In the band of the title and in the frame of the illustration, what rises above a first line
+/// shows as further down, as far as there is room.
+TEST_F(Links, TitleAndIllustrationShowWhatRises) {
+    const auto columns = [&](const char* area, int top) {
+        QWidget* const box = bench.control<QWidget>(area);
+        const QRect band(box->mapTo(&bench.window, QPoint(10, top)), QSize(100, 1));
+        const QImage image = bench.window.grab(band).toImage();
+        int inked = 0;
+        for (int x = 0; x < image.width(); ++x)
+            inked += image.pixelColor(x, 0).lightness() < 128;
+        return inked;
+    };
+    for (const auto& [directive, area, inset] :
+         {std::tuple(u"##OBJTIT\r\n"_qs, "titre", 0),
+          std::tuple(u"##OBJILLUS\r\n"_qs, "PICTUREILLUS", 1)}) {
+        const QString words = u"##SI12\r\n##POX010\r\n##EXPMMM\r\n¶\r\n"_qs;
+        show(3, directive + u"##PIY010\r\n"_qs + words);
+        const int further = columns(area, inset + 9);
+        show(4, directive + words);
+        EXPECT_GT(further, 0) << area << ": the row above the line has ink";
+        EXPECT_GE(columns(area, inset - 1), further) << area;
+    }
+}
+
 TEST_F(Links, ScrollWithThePageAndGoWithIt) {
     show(3, u"##LIERTlien#PAG002\r\n¶\r\n"_qs + u"ligne¶\r\n"_qs.repeated(60));
     const QPoint before = link("Labelien(0)")->mapTo(&bench.window, QPoint());
