@@ -5,6 +5,7 @@
 #include "support/fake_prompter.h"
 #include "support/printing.h"
 
+#include <QLabel>
 #include <QLineEdit>
 #include <QPrinter>
 #include <QPushButton>
@@ -72,6 +73,7 @@ TEST_F(Window, searchesAndMarksByKeyboard) {
     const int count = browser->hitCount();
     ASSERT_GT(count, 2);
     EXPECT_EQ(browser->currentHit(), 0);
+    EXPECT_EQ(window.findChild<QLabel*>()->text(), QString("Mot marqué 1 sur %1").arg(count));
     hit(Qt::Key_F3, Qt::ShiftModifier);
     EXPECT_EQ(browser->currentHit(), count - 1);
     EXPECT_TRUE(browser->viewport()->rect().intersects(browser->cursorRect()));
@@ -83,6 +85,11 @@ TEST_F(Window, searchesAndMarksByKeyboard) {
     hit(Qt::Key_Down);
     hit(Qt::Key_Return);
     EXPECT_NE(shown(), "videos.html");
+    list->setFocus();
+    hit(Qt::Key_Escape); // as everywhere but in the words
+    EXPECT_FALSE(window.isVisible());
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     EXPECT_GT(browser->hitCount(), 0);
     hit(Qt::Key_F, Qt::ControlModifier);
     hit(Qt::Key_Escape);
@@ -93,8 +100,18 @@ TEST_F(Window, searchesAndMarksByKeyboard) {
 }
 
 TEST_F(Window, linksLeadWithinTheManualOnly) {
+    const auto isEnabled = [this](const char* caption) {
+        for (const auto* button : window.findChildren<QPushButton*>())
+            if (button->text() == QString::fromUtf8(caption))
+                return button->isEnabled();
+        ADD_FAILURE() << caption;
+        return false;
+    };
+    EXPECT_FALSE(isEnabled("&Précédent"));
     Q_EMIT browser->anchorClicked(QUrl("aide:/imprimer.html"));
     EXPECT_EQ(shown(), "imprimer.html");
+    EXPECT_TRUE(isEnabled("&Précédent"));
+    EXPECT_FALSE(isEnabled("S&uivant"));
     for (const char* elsewhere : {"https://example.org/", "file:///etc/passwd", "aide:/../a.html"})
         Q_EMIT browser->anchorClicked(QUrl(elsewhere));
     EXPECT_EQ(shown(), "imprimer.html");
@@ -120,6 +137,9 @@ TEST_F(Window, enlargesTheTextAroundTheLineAtTheTop) {
     QTextCursor there(browser->document());
     there.setPosition(top);
     EXPECT_LT(std::abs(browser->cursorRect(there).top()), 2);
+    const double enlarged = browser->document()->size().height();
+    hit(Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_LT(browser->document()->size().height(), enlarged);
     hit(Qt::Key_0, Qt::ControlModifier);
     EXPECT_EQ(browser->document()->size().height(), height);
 }

@@ -73,6 +73,23 @@ TEST_F(Bondec, enterHeldDownPrintsNothing) {
     EXPECT_EQ(person.asked, 1);
 }
 
+TEST_F(Bondec, everythingStandsInsideAndNothingOnSomethingElse) {
+    QList<QWidget*> shown;
+    for (auto* control : form.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
+        if (control->isVisible())
+            shown.append(control);
+    EXPECT_GT(shown.size(), 15);
+    for (const QWidget* control : shown) {
+        EXPECT_TRUE(form.rect().contains(control->geometry())) << qPrintable(control->objectName());
+        const auto* label = qobject_cast<const QLabel*>(control);
+        EXPECT_TRUE(!label || label->sizeHint().width() <= label->width() || label->wordWrap())
+            << qPrintable(label->text());
+        for (const QWidget* other : shown)
+            EXPECT_TRUE(other == control || !other->geometry().intersects(control->geometry()))
+                << qPrintable(control->objectName() + u'/' + other->objectName());
+    }
+}
+
 TEST_F(Bondec, explainsFaultsAndLeadsToTheFirst) {
     field("Nom").setText(QStringLiteral(" Martin "));
     field("Code postal").setText(QStringLiteral("690"));

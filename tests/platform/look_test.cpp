@@ -218,7 +218,24 @@ TEST(MessageDialog, TellsScreenReadersTitleAndText) {
                                nullptr);
     EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Mise à jour"));
     EXPECT_EQ(dialog.accessibleName(), QStringLiteral("Mise à jour"));
+    EXPECT_EQ(dialog.accessibleDescription(), QStringLiteral("un\ndeux"));
     EXPECT_EQ(dialog.findChild<QLabel*>()->text(), QStringLiteral("un\ndeux"));
+}
+
+TEST(MessageDialog, ShowsTheSignOfItsKind) {
+    using Kind = Message::Icon;
+    for (const auto& [kind, name] :
+         {std::pair(Kind::Critical, "error"), std::pair(Kind::Question, "question"),
+          std::pair(Kind::Exclamation, "warning"), std::pair(Kind::Information, "info")}) {
+        MessageDialog dialog(
+            {QStringLiteral("Titre"), QStringLiteral("Texte"), kind, Message::Buttons::Ok},
+            nullptr);
+        QImage sign(48, 48, QImage::Format_RGB32);
+        sign.fill(QColor::fromRgb(kIvory));
+        QPainter painter(&sign);
+        Icon(QString::fromLatin1(name)).paint(painter, sign.rect(), Icon::Style::Coloured);
+        EXPECT_EQ(painted(dialog).copy(24, 24, 48, 48), sign) << name;
+    }
 }
 
 TEST(MessageDialog, TakesNoWordsForMarkup) {

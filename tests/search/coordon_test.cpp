@@ -1,6 +1,7 @@
 #include "coursetool/tables.h"
 #include "jet/unicode.h"
 #include "jet/writer.h"
+#include "platform/qt/look/palette.h"
 #include "search/coordon.h"
 #include "support/files.h"
 #include "support/plain_words.h"
@@ -91,6 +92,18 @@ protected:
         return all.join(u'|').toStdString();
     }
 
+    static bool has(const QImage& picture, QRgb colour) {
+        for (int y = 0; y < picture.height(); ++y)
+            for (int x = 0; x < picture.width(); ++x)
+                if (picture.pixel(x, y) == colour)
+                    return true;
+        return false;
+    }
+    /// The colour a button is filled with.
+    QRgb ground(const char* button) {
+        return control<QPushButton>(button).grab().toImage().pixel(6, 5);
+    }
+
     bool closed() const { return !window->isVisible(); }
 
     shell::SharedState shared;
@@ -110,6 +123,9 @@ TEST_F(CoordonWindow, ListsWhatItsBoxesAskFor) {
     open();
     EXPECT_EQ(window->height(), 132);
     EXPECT_EQ(lines(), "-");
+    EXPECT_EQ(ground("Command2"), platform::look::kBlue);
+    EXPECT_EQ(control<QLineEdit>("Text1").accessibleName(),
+              QStringLiteral("Saisir le(s) mot(s) à rechercher :"));
     search(QStringLiteral("l"));
     EXPECT_EQ(lines(), "-");
     EXPECT_TRUE(control<QLabel>("Label2").isHidden());
@@ -118,6 +134,12 @@ TEST_F(CoordonWindow, ListsWhatItsBoxesAskFor) {
     search(QStringLiteral(" Lumière ; INDICE"));
     EXPECT_EQ(lines(), "La lumière 102|L’indice 104");
     EXPECT_EQ(window->height(), 280);
+    // Blue is what is likely to be wanted next; the arrow key leads there from the words.
+    EXPECT_EQ(ground("Command2"), platform::look::kPaper);
+    EXPECT_EQ(ground("Command3"), platform::look::kBlue);
+    control<QLineEdit>("Text1").setFocus();
+    QTest::keyClick(&control<QLineEdit>("Text1"), Qt::Key_Down);
+    EXPECT_TRUE(list().hasFocus());
     control<QCheckBox>("Checkmots").click();
     search(QStringLiteral("lumière indice"));
     EXPECT_EQ(lines(), "La lumière 102");
@@ -159,6 +181,11 @@ TEST_F(CoordonWindow, TitlesStandInTheListToTheLetter) {
                 }
         return columns;
     };
+    // Of the line that is chosen the words are white.
+    const QImage chosen =
+        list().viewport()->grab(list().visualRect(list().currentIndex())).toImage();
+    EXPECT_EQ(chosen.pixel(chosen.width() - 1, 2), platform::look::kBlue);
+    EXPECT_TRUE(has(chosen, platform::look::kPaper));
     EXPECT_GT(inkedColumns(0), inkedColumns(1) + 5) << "the sign before the letter";
     EXPECT_GT(inkedColumns(2), 150) << "the signs of a markup";
 }
@@ -217,6 +244,7 @@ TEST_F(CoordonWindow, StaysAliveDuringALongSearch) {
     EXPECT_TRUE(bar.isVisible());
     EXPECT_GT(bar.value(), 1);
     EXPECT_EQ(bar.maximum(), 4'999);
+    EXPECT_TRUE(has(bar.grab().toImage(), platform::look::kBlue));
     EXPECT_FALSE(control<QPushButton>("Command3").isEnabled());
     // Neither Enter nor the button starts it anew meanwhile.
     control<QCheckBox>("Checkmots").click();

@@ -4,6 +4,7 @@
 #include "setupinfo/maj2001.h"
 #include "support/fake_prompter.h"
 #include "support/files.h"
+#include "support/plain_words.h"
 #include "support/printing.h"
 
 #include <QLabel>
@@ -74,6 +75,11 @@ TEST_F(Maj2001, groundGrowsFromBlackToBlue) {
 
 TEST_F(Maj2001, longRecordsGoOnBelow) {
     EXPECT_EQ(dialog.size(), QSize(480, 304));
+    EXPECT_EQ(dialog.accessibleDescription(), installationText(installation));
+    installation.type = test_support::kHostileWords; // whoever wrote the status file
+    setupinfo::Maj2001 hostile(installation, directory.path() + '/', starter, nullptr);
+    hostile.show();
+    EXPECT_EQ(test_support::expectPlainWords(hostile), 1);
     installation.type = QString(126, u'W');
     setupinfo::Maj2001 tall(installation, directory.path() + '/', starter, nullptr);
     const auto* label = tall.findChild<QLabel*>(QStringLiteral("Label1"));

@@ -4,6 +4,8 @@
 
 #include <gmock/gmock.h>
 
+#include <numeric>
+
 namespace {
 
 using testing::ElementsAre;
@@ -52,8 +54,9 @@ TEST_F(Histories, HoldsTheLastHundredPages) {
     for (int number = 1; number <= 101; ++number)
         visit({number});
     EXPECT_EQ(bench.state.HistoryPos, 100);
-    EXPECT_EQ(bench.history().first(), 2);
-    EXPECT_EQ(bench.history().last(), 101);
+    QList<int> last(100);
+    std::iota(last.begin(), last.end(), 2);
+    EXPECT_EQ(bench.history(), last);
     for (int step = 0; step < 99; ++step)
         bench.commands.back();
     EXPECT_EQ(bench.shown(), QStringLiteral("2"));
