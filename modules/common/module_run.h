@@ -14,7 +14,8 @@ namespace common {
 /// "NON", and the shell then starts a new one: nothing is lost by that.
 class ModuleRun {
 public:
-    /// `module`: 1 to 30. The status file is looked for beside the program.
+    /// `module`: 1 to 30. The status file is the one that the shell names, or else lies beside the
+    /// program.
     explicit ModuleRun(int module);
     ~ModuleRun();
 

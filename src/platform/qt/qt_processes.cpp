@@ -28,12 +28,13 @@ ProgramFile findProgram(const QString& program) {
     const QFileInfo asked(program);
     const QString directory = asked.absolutePath();
     const std::optional<QString> found = findWithoutCase(directory, asked.fileName());
-    if (!found)
+    const QString path = found.value_or(asked.absoluteFilePath());
+    if (!QFileInfo(path).isFile())
         return {};
     // A course folder could name any program of the person's otherwise.
-    if (!staysInside(directory, *found))
+    if (!staysInside(directory, path))
         return {{}, StartFailure::LeadsOut};
-    return {*found};
+    return {path};
 }
 
 /// Most of what is open says so itself; libraries may have opened more.
