@@ -33,8 +33,16 @@ QPushButton* segment(const QString& caption, const QString& tooltip) {
     return button;
 }
 
-/// Buttons of which one is pressed, in a row.
+/// Buttons of which one is pressed, in a row. The Tab key stops at the pressed one, as the arrow
+/// keys lead to the others.
 QWidget* row(QButtonGroup* group) {
+    QObject::connect(group, &QButtonGroup::buttonToggled, group,
+                     [group](const QAbstractButton* pressed, bool down) {
+                         for (QAbstractButton* button : group->buttons())
+                             if (down)
+                                 button->setFocusPolicy(button == pressed ? Qt::TabFocus
+                                                                          : Qt::NoFocus);
+                     });
     auto* widget = new QWidget;
     auto* layout = new QHBoxLayout(widget);
     layout->setContentsMargins(0, 2, 0, 2);

@@ -2,6 +2,7 @@
 #include "app/scale.h"
 #include "app/shell_application.h"
 #include "platform/qt/font_book.h"
+#include "platform/qt/held_keys.h"
 
 #include <QApplication>
 #include <QScreen>
@@ -62,6 +63,7 @@ int main(int argc, char** argv) {
         qputenv("QT_SCALE_FACTOR", QByteArray::number(scale));
 
     QApplication application(argc, argv);
+    const platform::HeldKeys heldKeys;
     QApplication::setApplicationName(QStringLiteral("orvalente"));
     // The leaving question ends the program, not the closing of some window.
     QApplication::setQuitOnLastWindowClosed(false);

@@ -72,6 +72,17 @@ TEST_F(SimulatorTest, theSpaceBarRunsAndStopsAndArrowsMoveSliders) {
     EXPECT_EQ(time->value(), 0);
 }
 
+TEST_F(SimulatorTest, tabStopsAtThePressedButtonOfARow) {
+    open({});
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
+    QTest::mouseClick(button("Lune"), Qt::LeftButton);
+    EXPECT_EQ(button("Lune")->focusPolicy(), Qt::TabFocus);
+    EXPECT_EQ(button("Terre")->focusPolicy(), Qt::NoFocus);
+    button("Lune")->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(button("Lune"), Qt::Key_Left);
+    EXPECT_TRUE(button("Terre")->isChecked() && button("Terre")->hasFocus());
+}
+
 TEST_F(SimulatorTest, theDecimalPointOfTheKeyboardIsAComma) {
     open({});
     auto* speed = named<NumberField>("Vitesse initiale");
