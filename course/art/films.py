@@ -14,8 +14,8 @@ import sys
 from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
-WIDTH, HEIGHT = 320, 240
-RATE = 12.5  # frames a second
+WIDTH, HEIGHT = 640, 480  # of a frame, pixels; the drawings count in halves of that, 320 by 240
+RATE = 25  # frames a second
 
 GROUND, INK, GLASS, RULE = "#fffff0", "#1d4e89", "#8fa9bd", "#8c8472"
 GAS, AIR, ACID, COPPER = "#a8501c", "#7fa3c7", "#8fc9c0", "#b4602c"
@@ -27,7 +27,8 @@ def text(x, y, words, size=12, weight="normal", ink=INK):
 
 
 def picture(*parts):
-    return (f'<svg xmlns="http://www.w3.org/2000/svg" width="{WIDTH}" height="{HEIGHT}">'
+    return (f'<svg xmlns="http://www.w3.org/2000/svg" width="{WIDTH}" height="{HEIGHT}" '
+            f'viewBox="0 0 {WIDTH // 2} {HEIGHT // 2}">'
             f'<rect width="100%" height="100%" fill="{GROUND}"/>{"".join(parts)}</svg>')
 
 
@@ -45,8 +46,9 @@ def ease(seconds, start, end):
 class Diffusion:
     """Two jars, the lower one with a brown gas, and the molecules in them."""
 
-    name, seconds = "diffusion.avi", 11
+    name, seconds = "diffusion.avi", 12
     opening, opened = 1.5, 2.5  # seconds: the plate between the jars is drawn out
+    step = 1.75  # of a molecule, from one frame to the next
     slices, top, bottom = 44, 28, 204  # of the jars, pixels
     box = (196, 28, 300, 204)
 
@@ -64,39 +66,42 @@ class Diffusion:
             self.molecules.append([lot.uniform(left + 5, right - 5), y, angle, gas])
 
     def frame(self, seconds):
-        if seconds >= self.opening:
-            self.spread()
-        self.move(seconds)
         drawn = ease(seconds, self.opening, self.opened) * 96
+        if seconds >= self.opened:  # no colour passes while the plate is there
+            self.spread()
+        self.move(drawn / 96)
         return picture(
             text(76, 19, "Ce que l’on voit"), text(248, 19, "Les molécules"),
             self.jars(drawn), self.molecule_box(drawn),
             caption(seconds, [(0, "En bas un gaz roux, en haut de l’air"),
                               (self.opening, "On retire la plaque…"),
-                              (4, "Les deux gaz se mélangent"),
-                              (9, "Chaque gaz occupe tout l’espace")]))
+                              (3.5, "Les deux gaz se mélangent"),
+                              (10, "Chaque gaz occupe tout l’espace")]))
 
     def spread(self):
         """One frame of the diffusion equation; nothing leaves the jars."""
-        for _ in range(12):
+        for _ in range(6):
             old = [self.shares[0], *self.shares, self.shares[-1]]
             self.shares = [old[i] + 0.42 * (old[i - 1] - 2 * old[i] + old[i + 1])
                            for i in range(1, len(old) - 1)]
 
-    def move(self, seconds):
+    def move(self, opened):
+        """One frame of the molecules; the plate is drawn out to the right, by the share `opened`."""
         left, top, right, bottom = self.box
-        middle = (top + bottom) / 2
-        closed = seconds < self.opened - 0.5
+        middle, edge = (top + bottom) / 2, left + opened * (right - left)
         for molecule in self.molecules:
-            x, y, angle, gas = molecule
-            angle += self.lot.gauss(0, 0.18)
-            if closed:
-                low, high = (middle + 5, bottom - 5) if gas else (top + 5, middle - 5)
-            else:
-                low, high = top + 5, bottom - 5
-            x, y = x + 3.5 * math.cos(angle), y + 3.5 * math.sin(angle)
+            x, y, angle, _ = molecule
+            above = y < middle
+            angle += self.lot.gauss(0, 0.127)
+            beside = x < edge  # of the plate: where it has gone, the way is free
+            x, y = x + self.step * math.cos(angle), y + self.step * math.sin(angle)
             if not left + 5 <= x <= right - 5:
                 x, angle = min(max(x, left + 5), right - 5), math.pi - angle
+            if beside and x >= edge and abs(y - middle) < 5:  # against the edge of the plate
+                x, angle = edge - 0.1, math.pi - angle
+            low, high = top + 5, bottom - 5
+            if x >= edge:
+                low, high = (low, middle - 5) if above else (middle + 5, high)
             if not low <= y <= high:
                 y, angle = min(max(y, low), high), -angle
             molecule[:3] = x, y, angle
@@ -133,7 +138,7 @@ class Balloon:
     def frame(self, seconds):
         return picture(self.generator(seconds), self.flask(seconds), self.tube(seconds),
                        caption(seconds, [(0, "L’acide attaque le cuivre : un gaz se forme"),
-                                         (self.filling, "Plus lourd que l’air, il reste au fond"),
+                                         (self.filling, "Plus dense que l’air, il reste au fond"),
                                          (5.5, "Il chasse l’air vers le haut"),
                                          (self.full, "Le ballon est plein de gaz")]))
 
@@ -183,7 +188,8 @@ def render(film, directory):
     # A key frame each second keeps steps back quick.
     subprocess.run(["ffmpeg", "-loglevel", "error", "-y", "-f", "image2pipe", "-c:v", "png",
                     "-framerate", str(RATE), "-i", "-", "-c:v", "mpeg4", "-vtag", "XVID", "-bf", "0",
-                    "-g", "13", "-qscale:v", "6", "-pix_fmt", "yuv420p", "-bitexact",
+                    "-g", str(RATE), "-qscale:v", "6", "-mbd", "rd", "-trellis", "2", "-cmp",
+                    "2", "-subcmp", "2", "-pix_fmt", "yuv420p", "-bitexact",
                     str(directory / film.name)], input=frames, check=True)
 
 
