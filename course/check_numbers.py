@@ -206,6 +206,8 @@ def main():
             if not found:
                 faults.append(f"{path}:1: no longer stands here: {words}")
                 continue
+            if found.re.groups != len(exact):
+                sys.exit(f"{path.name}: {found.re.groups} numbers, {len(exact)} results: {words}")
             for group, result in enumerate(exact, 1):
                 checked += 1
                 if not agrees(found[group], result):
