@@ -1,32 +1,15 @@
 #include "platform/cairo/cairo_pictures.h"
 
 #include "platform/cairo/jpeg_header.h"
+#include "platform/printed_picture.h"
 
 #include <QCryptographicHash>
 
-#include <cmath>
 #include <cstring>
 
 namespace platform {
 
 namespace {
-
-/// Pixels of a drawing for each logical pixel that it takes: 384 to the inch.
-constexpr int kDrawingDensity = 4;
-
-/// Most pixels that a drawing becomes, a page full of them at 288 to the inch: 16 MB while the page
-/// is written.
-constexpr double kMaxDrawingPixels = 4e6;
-
-/// How large a picture is to stand in the document. Photographs and the like keep their pixels.
-QSize pixelsOf(const Picture& picture, QSize drawn) {
-    if (picture.format() != PictureFormat::Svg)
-        return picture.size();
-    const double area = double(drawn.width()) * drawn.height();
-    const double density = std::min<double>(kDrawingDensity, std::sqrt(kMaxDrawingPixels / area));
-    return {std::max(1, static_cast<int>(drawn.width() * density)),
-            std::max(1, static_cast<int>(drawn.height() * density))};
-}
 
 void releaseBytes(void* bytes) {
     delete static_cast<QByteArray*>(bytes);
@@ -81,7 +64,7 @@ cairo_surface_t* CairoPictures::surface(const std::shared_ptr<const Picture>& pi
                                         QSize drawn) {
     const auto photograph = picture->format() == PictureFormat::Jpeg ? jpegSize(picture->bytes())
                                                                      : std::optional<QSize>();
-    const QSize pixels = photograph ? *photograph : pixelsOf(*picture, drawn);
+    const QSize pixels = photograph ? *photograph : printedPixels(*picture, drawn);
     const QByteArray id = idOf(picture) + ' ' + QByteArray::number(pixels.width()) + ' ' +
                           QByteArray::number(pixels.height());
     if (const auto found = page_.find(id); found != page_.end())

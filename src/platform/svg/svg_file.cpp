@@ -1,5 +1,6 @@
 #include "platform/svg/svg_file.h"
 
+#include "platform/masked_pictures.h"
 #include "platform/multiply_inks.h"
 #include "platform/svg/svg_text.h"
 #include "platform/twips.h"
@@ -99,9 +100,10 @@ public:
     ElementWriter(const TextMetrics& metrics, PictureStore& pictures, QByteArray& out)
         : metrics_(metrics), pictures_(pictures), out_(out) {}
 
-    /// `ink` is the operation's own where mask fills multiply.
-    void write(const Operation& operation, QRgb ink) {
+    /// `ink` and `masked` are the operation's own where mask fills multiply; `masked` may be null.
+    void write(const Operation& operation, QRgb ink, const Picture* masked) {
         ink_ = ink;
+        masked_ = masked;
         std::visit(*this, operation);
     }
 
@@ -167,7 +169,7 @@ public:
     void operator()(const PictureOperation& picture) const {
         if (!picture.picture || !near(picture.x, picture.y, picture.width, picture.height))
             return;
-        const QByteArray name = pictures_.name(*picture.picture);
+        const QByteArray name = pictures_.name(masked_ ? *masked_ : *picture.picture);
         if (name.isEmpty())
             return;
         const Place place = onScreen(picture.x, picture.y, picture.width, picture.height);
@@ -250,13 +252,15 @@ private:
     PictureStore& pictures_;
     QByteArray& out_;
     QRgb ink_ = 0;
+    const Picture* masked_ = nullptr;
 };
 
 class DocumentWriter {
 public:
     DocumentWriter(const Sheet& sheet, const TextMetrics& metrics, const LinkAddress& address)
         : sheet_(sheet), metrics_(metrics), address_(address),
-          inks_(multiplyInks(sheet.operations, metrics)) {}
+          inks_(multiplyInks(sheet.operations, metrics)),
+          masked_(maskedPictures(sheet.operations, multipliedInk)) {}
 
     QByteArray write(double scale) {
         for (const PlacedSurface& surface : sheet_.surfaces)
@@ -287,9 +291,13 @@ private:
         body_ += "<g transform=\"translate(" + pixels(surface.x) + ' ' + pixels(surface.y) +
                  ")\" clip-path=\"url(#" + name + ")\">\n";
         ElementWriter elements(metrics_, pictures_, body_);
-        for (std::size_t i = 0; i < sheet_.operations.size(); ++i)
-            if (surfaceOf(sheet_.operations[i]) == surface.surface)
-                elements.write(sheet_.operations[i], inks_[i]);
+        for (std::size_t i = 0; i < sheet_.operations.size(); ++i) {
+            if (surfaceOf(sheet_.operations[i]) != surface.surface)
+                continue;
+            const auto masked = masked_.find(i);
+            elements.write(sheet_.operations[i], inks_[i],
+                           masked == masked_.end() ? nullptr : masked->second.get());
+        }
         for (const LinkArea& area : sheet_.links)
             if (area.surface == surface.surface)
                 if (const QString to = address_ ? address_(area.tag) : QString(); !to.isEmpty())
@@ -301,6 +309,7 @@ private:
     const TextMetrics& metrics_;
     const LinkAddress& address_;
     std::vector<QRgb> inks_;
+    std::map<std::size_t, std::shared_ptr<const Picture>> masked_;
     PictureStore pictures_;
     QByteArray clips_;
     QByteArray body_;
