@@ -65,10 +65,12 @@ TEST_F(Actions, ReadingOrderHasItsOwnTable) {
     bench.commands.previousInChapter();
     EXPECT_EQ(bench.shown(), QStringLiteral("3"));
     bench.commands.nextInChapter();
+    bench.commands.nextInChapter(); // of the last page: it is shown again
     EXPECT_EQ(bench.shown(), QStringLiteral("1"));
+    EXPECT_THAT(bench.history(), ElementsAre(1, 3, 1, 1));
     for (const int index : {9, -1, std::numeric_limits<int>::min()}) {
         bench.actions.showPageByOrder(index);
-        EXPECT_EQ(bench.shown(), index == 9 ? QStringLiteral("3") : bench.shown()) << index;
+        EXPECT_EQ(bench.shown(), QStringLiteral("1")) << index;
     }
 }
 
