@@ -121,6 +121,12 @@ QRgb lineOf(const QByteArray& attributes) {
 
 TEST(SvgBounds, dashesWithoutEndAreALine) {
     EXPECT_EQ(lineOf("stroke-dasharray='0.0001'"), 0xffff0000u);
+    // Fewer than those, and yet too many.
+    EXPECT_EQ(pictureFrom(svg("<path stroke='#f00' stroke-width='9' d='M0 45H90' "
+                              "stroke-dasharray='0.002'/>"))
+                  ->image({90, 90})
+                  .pixel(40, 45),
+              0xffff0000u);
     const auto dashes = pictureFrom(svg("<path stroke='#f00' stroke-width='9' d='M0 45H90' "
                                         "stroke-dasharray='10'/>"))
                             ->image({90, 90});

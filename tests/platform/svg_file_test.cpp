@@ -80,7 +80,7 @@ public:
     PngPicture() : image_(64, 32, QImage::Format_RGB32) {
         QPainter painter(&image_);
         painter.fillRect(0, 0, 32, 16, Qt::red);
-        painter.fillRect(32, 0, 32, 16, Qt::green);
+        painter.fillRect(32, 0, 32, 16, QColor(200, 100, 50));
         painter.fillRect(0, 16, 32, 16, Qt::blue);
         painter.fillRect(32, 16, 32, 16, Qt::black);
         painter.end();

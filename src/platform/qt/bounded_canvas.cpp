@@ -148,7 +148,7 @@ public:
         if (isSpent())
             return;
         const PathCost cost = costOf(path, painter_.transform(), painter_.pen(), image_.rect());
-        if (cost.dashes > kMostDashes || (cost.dashes > 0 && cost.smooth() > left_))
+        if (cost.dashes > kMostDashes || (cost.dashes > 0 && cost.plain() > left_))
             drawUndashed(path);
         else
             drawPath(path, cost);
