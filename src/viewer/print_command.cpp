@@ -9,7 +9,7 @@ namespace {
 QString sentenceOn(const PrintRun& run) {
     if (!run.hasEnded)
         return QStringLiteral("L’impression n’a pas pu être terminée\u00A0: des pages manquent.");
-    return QStringLiteral("L’impression a été interrompue\u00A0: %1 sur %2.")
+    return QStringLiteral("L’impression a été interrompue\u00A0: %1 sur\u00A0%2.")
         .arg(run.printed == 1 ? QStringLiteral("1 page")
                               : QStringLiteral("%1 pages").arg(run.printed))
         .arg(run.wanted);

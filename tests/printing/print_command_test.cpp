@@ -44,9 +44,9 @@ TEST_F(PrintCommand, aJobThatIsCutIsTold) {
         bool canEnd;
         const char* told;
     } rows[] = {{9, -1, true, nullptr},
-                {1, -1, true, "L’impression a été interrompue\u00A0: 1 page sur 3."},
-                {2, -1, true, "L’impression a été interrompue\u00A0: 2 pages sur 3."},
-                {9, 2, true, "L’impression a été interrompue\u00A0: 2 pages sur 3."},
+                {1, -1, true, "L’impression a été interrompue\u00A0: 1 page sur\u00A03."},
+                {2, -1, true, "L’impression a été interrompue\u00A0: 2 pages sur\u00A03."},
+                {9, 2, true, "L’impression a été interrompue\u00A0: 2 pages sur\u00A03."},
                 {9, -1, false, "L’impression n’a pas pu être terminée\u00A0: des pages manquent."}};
     for (const auto& row : rows) {
         test_support::CountingPrinter counting;
