@@ -3,6 +3,7 @@
 #include "app/course_data.h"
 #include "app/installation_window.h"
 #include "app/order_window.h"
+#include "app/pdf_loader.h"
 #include "app/video_loader.h"
 #include "calculator/machine_opener.h"
 #include "exercises/exo_opener.h"
@@ -188,14 +189,14 @@ struct ShellApplication::Parts {
     exercises::ExoOpener exercise;
     markup::Renderer renderer;
     viewer::PageLoader pages;
-    platform::QtPrinter printer{fonts};
+    platform::QtPrinter printer{fonts, &loadPdfPrinter};
     platform::QtPrinterSetup printerSetup{printer, prompter};
     platform::SystemHelpViewer helpViewer{otherWindows};
     Help help{state, helpViewer, {printerSetup, printer, prompter}};
-    platform::EscapeWatch escape;
+    platform::EscapeWatch escape{window};
     viewer::PagePrinter pagePrinter{{state, bound, pages, window, drawing, window, window, pictures,
                                      fonts, printer, [this] { return escape.isAsked(); }}};
-    viewer::PrintCommand printing{printerSetup, pagePrinter};
+    viewer::PrintCommand printing{printerSetup, pagePrinter, prompter};
     viewer::ActionDispatcher actions;
     viewer::Neighbours neighbours;
     viewer::MainCommands commands;

@@ -1,21 +1,13 @@
 #include "app/video_loader.h"
 
-#include "platform/module.h"
-
-#include <cstdio>
+#include "app/loaded_function.h"
 
 namespace app {
 
 std::unique_ptr<platform::Video> loadVideoDevice() {
-    // Loaded once: the first call alone takes time, and complains.
-    static const auto function = [] {
-        auto found = platform::loadModuleFunction(ORVALENTE_VIDEO_MODULE, "orvalenteVideo");
-        if (!found.address)
-            std::fprintf(stderr, "orvalente : les vidéos ne peuvent pas être lues : %s.\n",
-                         found.reason.c_str());
-        return reinterpret_cast<platform::Video* (*)()>(found.address);
-    }();
-    return std::unique_ptr<platform::Video>(function ? function() : nullptr);
+    static const auto make = reinterpret_cast<platform::Video* (*)()>(loadedFunction(
+        ORVALENTE_VIDEO_MODULE, "orvalenteVideo", "les vidéos ne peuvent pas être lues"));
+    return std::unique_ptr<platform::Video>(make ? make() : nullptr);
 }
 
 } // namespace app

@@ -39,14 +39,14 @@ std::optional<int> CoursePages::number(int position) const {
 }
 
 int CoursePages::positionShown(int number) const {
-    return viewer::positionByNumber(state_, number).value_or(0);
+    return viewer::positionOfCode(state_, number).value_or(0);
 }
 
 std::optional<int> CoursePages::positionShown(const QString& tag) const {
     if (viewer::codePrefix(tag) != u"PAG")
         return std::nullopt;
     const auto number = text::toInt16(viewer::codeArgument(tag));
-    const auto position = number ? viewer::positionByNumber(state_, *number) : std::nullopt;
+    const auto position = number ? viewer::positionOfCode(state_, *number) : std::nullopt;
     return position && *position < count() ? position : std::nullopt;
 }
 

@@ -22,7 +22,7 @@ void print(const PrintRequest& request, const platform::FontBook& fonts,
     viewer::BoundRecord bound;
     viewer::PageLoader loader(state, bound, page, page, page.renderer(), page);
     loader.bindTo(*course->records);
-    if (const auto position = viewer::positionByNumber(state, request.page))
+    if (const auto position = viewer::positionOfCode(state, request.page))
         loader.moveTo(*position);
     if (bound.TextID != QString::number(request.page)) {
         report.fault({course->file},
@@ -34,7 +34,7 @@ void print(const PrintRequest& request, const platform::FontBook& fonts,
     platform::PdfPrinter printer(QString::fromStdString(shown(request.output)), fonts);
     viewer::PagePrinter pages(
         {state, bound, loader, page, page.state(), page, page, pictures, fonts, printer, {}});
-    if (!pages.imprimepage())
+    if (pages.imprimepage().wanted == 0)
         report.fault({course->file}, "la page " + std::to_string(request.page) +
                                          " n’a rien à imprimer : debutimp dépasse finimp");
     else if (!printer.error().isEmpty())

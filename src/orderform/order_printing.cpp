@@ -8,6 +8,7 @@ PrintOutcome printOrder(const Order& order, const PrintingParts& parts) {
     using Asked = platform::PrinterSetup::Outcome;
     switch (parts.setup.ask()) {
     case Asked::Cancelled:
+    case Asked::Busy:
         return PrintOutcome::Cancelled;
     case Asked::Gone:
         return PrintOutcome::Gone;

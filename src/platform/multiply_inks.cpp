@@ -61,15 +61,6 @@ int quotient(int channel, int cover) {
     return cover == 0 ? 0 : ((channel & cover) * 255 + cover / 2) / cover;
 }
 
-QRgb quotient(QRgb ink, QRgb cover) {
-    return qRgb(quotient(qRed(ink), qRed(cover)), quotient(qGreen(ink), qGreen(cover)),
-                quotient(qBlue(ink), qBlue(cover)));
-}
-
-QRgb masked(QRgb ink, QRgb cover) {
-    return (ink & cover) | 0xff000000;
-}
-
 /// The inks, each joined by `join` with the AND of the mask fills that cover it.
 std::vector<QRgb> joinedInks(const std::vector<Operation>& operations, const TextMetrics& metrics,
                              QRgb (*join)(QRgb ink, QRgb cover)) {
@@ -96,14 +87,22 @@ std::vector<QRgb> joinedInks(const std::vector<Operation>& operations, const Tex
 
 } // namespace
 
+QRgb multipliedInk(QRgb ink, QRgb cover) {
+    return qRgb(quotient(qRed(ink), qRed(cover)), quotient(qGreen(ink), qGreen(cover)),
+                quotient(qBlue(ink), qBlue(cover)));
+}
+
+QRgb maskedInk(QRgb ink, QRgb cover) {
+    return (ink & cover) | 0xff000000;
+}
+
 std::vector<QRgb> multiplyInks(const std::vector<Operation>& operations,
                                const TextMetrics& metrics) {
-    return joinedInks(operations, metrics,
-                      [](QRgb ink, QRgb cover) { return quotient(ink, cover); });
+    return joinedInks(operations, metrics, multipliedInk);
 }
 
 std::vector<QRgb> maskedInks(const std::vector<Operation>& operations, const TextMetrics& metrics) {
-    return joinedInks(operations, metrics, masked);
+    return joinedInks(operations, metrics, maskedInk);
 }
 
 } // namespace platform

@@ -45,6 +45,7 @@ public:
     enum class Outcome {
         Confirmed,
         Cancelled,
+        Busy, ///< another job is under way; the person has been told
         Gone, ///< nobody can answer any more: the program ends
     };
 

@@ -1,8 +1,8 @@
 #include "platform/without_masks.h"
 
+#include "platform/masked_pictures.h"
 #include "platform/multiply_inks.h"
 
-#include <QPainter>
 #include <QRectF>
 
 #include <algorithm>
@@ -27,43 +27,11 @@ QRectF areaOf(const FillOperation& fill) {
     return {fill.x, fill.y, fill.width, fill.height};
 }
 
-/// A picture with mask fills over it.
-class TintedPicture : public Picture {
-public:
-    /// The areas are in parts of the picture, from 0 to 1.
-    TintedPicture(std::shared_ptr<const Picture> plain, std::vector<Tint> tints)
-        : plain_(std::move(plain)), tints_(std::move(tints)) {}
-
-    QSize size() const override { return plain_->size(); }
-    PictureFormat format() const override { return PictureFormat::Bmp; }
-    const QByteArray& bytes() const override { return bytes_; }
-
-    QImage image(QSize pixels) const override {
-        const QImage plain = plain_->image(pixels);
-        if (plain.isNull())
-            return plain;
-        QImage tinted(plain.size(), QImage::Format_RGB32);
-        tinted.fill(kWhite);
-        QPainter painter(&tinted);
-        painter.drawImage(0, 0, plain);
-        painter.setCompositionMode(QPainter::RasterOp_SourceAndDestination);
-        for (const Tint& tint : tints_)
-            painter.fillRect(
-                QTransform::fromScale(tinted.width(), tinted.height()).mapRect(tint.area).toRect(),
-                QColor::fromRgb(tint.ink));
-        return tinted;
-    }
-
-private:
-    std::shared_ptr<const Picture> plain_;
-    std::vector<Tint> tints_;
-    QByteArray bytes_;
-};
-
 class Rewriting {
 public:
     Rewriting(const std::vector<Operation>& operations, const TextMetrics& metrics)
-        : operations_(operations), inks_(maskedInks(operations, metrics)) {
+        : operations_(operations), inks_(maskedInks(operations, metrics)),
+          pictures_(maskedPictures(operations, maskedInk)) {
         for (std::size_t i = 0; i < operations.size(); ++i)
             if (const auto* fill = std::get_if<FillOperation>(&operations[i]);
                 fill && fill->mode == FillMode::Mask)
@@ -98,19 +66,8 @@ public:
         emitTints();
     }
     void operator()(PictureOperation picture) {
-        const QRectF area(picture.x, picture.y, picture.width, picture.height);
-        std::vector<Tint> tints;
-        if (picture.picture && picture.picture->format() != PictureFormat::Svg)
-            for (const Mask* mask : masksOver(picture.surface, area)) {
-                const QRectF part = (mask->tint.area & area).translated(-area.topLeft());
-                tints.push_back({picture.surface,
-                                 {part.x() / area.width(), part.y() / area.height(),
-                                  part.width() / area.width(), part.height() / area.height()},
-                                 mask->tint.ink});
-            }
-        if (!tints.empty())
-            picture.picture =
-                std::make_shared<TintedPicture>(std::move(picture.picture), std::move(tints));
+        if (const auto masked = pictures_.find(index_); masked != pictures_.end())
+            picture.picture = masked->second;
         result_.emplace_back(std::move(picture));
     }
     template <class Other>
@@ -160,6 +117,7 @@ private:
 
     const std::vector<Operation>& operations_;
     std::vector<QRgb> inks_;
+    std::map<std::size_t, std::shared_ptr<const Picture>> pictures_;
     std::vector<Mask> masks_;
     std::vector<Tint> tints_;
     std::vector<Operation> result_;

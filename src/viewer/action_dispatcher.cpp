@@ -33,15 +33,14 @@ void ActionDispatcher::runAction(QString& code) {
 
 void ActionDispatcher::showPageByNumber(double number) {
     const auto n = text::toInt16(number);
-    if (const auto position = n ? positionByNumber(state_, *n) : std::nullopt)
+    if (const auto position = n ? positionOfCode(state_, *n) : std::nullopt)
         loader_.moveTo(*position);
     show();
 }
 
 void ActionDispatcher::showPageByOrder(std::int32_t index) {
-    const auto& table = state_.PageByOrder;
-    if (index >= 0 && table && static_cast<std::size_t>(index) < table->size())
-        loader_.moveTo((*table)[static_cast<std::size_t>(index)]);
+    if (const auto position = positionByOrder(state_, index))
+        loader_.moveTo(*position);
     show();
 }
 

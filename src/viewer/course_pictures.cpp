@@ -1,49 +1,10 @@
 #include "viewer/course_pictures.h"
 
-#include "platform/qt/picture_file.h"
-
-#include <QFileInfo>
-
-#include <algorithm>
-#include <numeric>
-
 namespace viewer {
-
-namespace {
-
-/// What is held for another time: as many pictures as a rich page has, and no more than one file
-/// may have bytes. A picture of a few pixels keeps those too (4 MB at most).
-constexpr std::size_t kMostHeld = 32;
-constexpr qint64 kMostBytes = platform::kMaxPictureFileBytes;
-
-} // namespace
 
 std::shared_ptr<const platform::Picture> CoursePictures::load(const QString& path) {
     // What was no name stayed what it was; it is not to be looked for in the current directory.
-    if (path.trimmed().isEmpty())
-        return nullptr;
-    const QFileInfo file(path);
-    const auto held = std::find_if(held_.begin(), held_.end(), [&](const Held& entry) {
-        return entry.path == path && entry.changed == file.lastModified() &&
-               entry.bytes == file.size();
-    });
-    if (held != held_.end())
-        return held->picture;
-    std::erase_if(held_, [&](const Held& entry) { return entry.path == path; });
-    held_.push_back({path, file.lastModified(), file.size(), platform::loadPicture(path)});
-    const auto picture = held_.back().picture;
-    makeRoom();
-    return picture;
-}
-
-void CoursePictures::makeRoom() {
-    const auto bytes = [this] {
-        return std::accumulate(
-            held_.begin(), held_.end(), qint64(0),
-            [](qint64 sum, const Held& entry) { return sum + (entry.picture ? entry.bytes : 0); });
-    };
-    while (held_.size() > kMostHeld || (held_.size() > 1 && bytes() > kMostBytes))
-        held_.pop_front();
+    return path.trimmed().isEmpty() ? nullptr : files_.load(path);
 }
 
 } // namespace viewer

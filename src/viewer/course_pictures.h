@@ -2,19 +2,13 @@
 
 #include "markup/picture_shelf.h"
 #include "shell/data_location.h"
+#include "viewer/held_pictures.h"
 #include "viewer/image_list.h"
-
-#include <QDateTime>
-
-#include <deque>
 
 namespace viewer {
 
 /// The pictures of a course: files in the installation directory and on its discs, and the symbols
 /// of the image list.
-///
-/// The files read last are held, so that a page that shows one many times, or is shown again, reads
-/// it once; a file that has changed is read anew.
 class CoursePictures : public markup::PictureShelf {
 public:
     CoursePictures(shell::DataLocation& location, ImageList& symbols)
@@ -27,18 +21,12 @@ public:
     }
 
 private:
-    struct Held {
-        QString path;
-        QDateTime changed;
-        qint64 bytes;
-        std::shared_ptr<const platform::Picture> picture; ///< null when it cannot be read
-    };
-
-    void makeRoom();
+    /// As many as a rich page has.
+    static constexpr std::size_t kMostHeld = 32;
 
     shell::DataLocation& location_;
     ImageList& symbols_;
-    std::deque<Held> held_; ///< the newest at the end
+    HeldPictures files_{kMostHeld};
 };
 
 } // namespace viewer

@@ -1,7 +1,6 @@
 #include "viewer/image_list.h"
 
 #include "platform/file_names.h"
-#include "platform/qt/picture_file.h"
 #include "viewer/symbol_names.h"
 
 #include <QDir>
@@ -11,14 +10,8 @@ namespace viewer {
 std::shared_ptr<const platform::Picture> ImageList::symbol(const QString& key) {
     if (!paths_)
         paths_ = listFiles();
-    const std::string plain = plainSymbolKey(key.toStdString());
-    const auto path = paths_->find(plain);
-    if (path == paths_->end())
-        return nullptr;
-    const auto [held, isNew] = pictures_.try_emplace(plain);
-    if (isNew)
-        held->second = platform::loadPicture(path->second);
-    return held->second;
+    const auto path = paths_->find(plainSymbolKey(key.toStdString()));
+    return path == paths_->end() ? nullptr : pictures_.load(path->second);
 }
 
 std::map<std::string, QString> ImageList::listFiles() const {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/picture.h"
+#include "viewer/held_pictures.h"
 
 #include <QString>
 
@@ -23,11 +23,14 @@ public:
     std::shared_ptr<const platform::Picture> symbol(const QString& key);
 
 private:
+    /// Our own, and as many of a course's.
+    static constexpr std::size_t kMostHeld = 256;
+
     std::map<std::string, QString> listFiles() const;
 
     QString courseDirectory_;
     std::optional<std::map<std::string, QString>> paths_;
-    std::map<std::string, std::shared_ptr<const platform::Picture>> pictures_;
+    HeldPictures pictures_{kMostHeld};
 };
 
 } // namespace viewer

@@ -24,16 +24,22 @@ std::optional<std::int32_t> pageNumber(const platform::FieldValue& field) {
     return text::toInt32(platform::fieldNumber(field));
 }
 
-void enter(Table& table, const platform::FieldValue& field, int position) {
+/// `after`: slots that the table has above its highest number.
+void enter(Table& table, const platform::FieldValue& field, int position, std::size_t after) {
     const auto number = pageNumber(field);
     if (!number || *number < 0 || *number > kMaxIndexedNumber)
         return;
-    // The slot after the highest number is needed: the highest page is found below the upper bound.
     const auto slot = static_cast<std::size_t>(*number);
-    if (table.size() < slot + 2)
-        table.resize(slot + 2, 0);
+    if (table.size() <= slot + after)
+        table.resize(slot + after + 1, 0);
     if (position <= std::numeric_limits<std::int16_t>::max())
         table[slot] = static_cast<std::int16_t>(position);
+}
+
+std::optional<std::int16_t> entry(const std::optional<Table>& table, std::int32_t number) {
+    if (number < 0 || !table || static_cast<std::size_t>(number) >= table->size())
+        return std::nullopt;
+    return (*table)[static_cast<std::size_t>(number)];
 }
 
 } // namespace
@@ -44,8 +50,9 @@ void buildPageIndex(const platform::Recordset& cours, shell::SharedState& state,
     Table byOrder;
     cours.forEach({QStringLiteral("Numeropage"), QStringLiteral("Index")},
                   [&](int position, std::span<const platform::FieldValue> fields) {
-                      enter(byNumber, fields[0], position);
-                      enter(byOrder, fields[1], position);
+                      // Codes reach only numbers below the upper bound, so it has to be one more.
+                      enter(byNumber, fields[0], position, 1);
+                      enter(byOrder, fields[1], position, 0);
                       if (letMessagesRun && (position + 1) % kRecordsAtATime == 0)
                           letMessagesRun();
                   });
@@ -53,13 +60,19 @@ void buildPageIndex(const platform::Recordset& cours, shell::SharedState& state,
     state.PageByOrder = std::move(byOrder);
 }
 
-std::optional<std::int16_t> positionByNumber(const shell::SharedState& state, std::int32_t number) {
-    // The last slot is the upper bound itself, which no page number reaches. Numbers without a
-    // record lead to the record of position 0, which is meant so.
+std::optional<std::int16_t> positionOfCode(const shell::SharedState& state, std::int32_t number) {
     const auto& table = state.PageByNumber;
-    if (number < 0 || !table || static_cast<std::size_t>(number) + 1 >= table->size())
+    if (table && static_cast<std::size_t>(number) + 1 == table->size())
         return std::nullopt;
-    return (*table)[static_cast<std::size_t>(number)];
+    return entry(table, number);
+}
+
+std::optional<std::int16_t> positionInPrint(const shell::SharedState& state, std::int32_t number) {
+    return entry(state.PageByNumber, number);
+}
+
+std::optional<std::int16_t> positionByOrder(const shell::SharedState& state, std::int32_t index) {
+    return entry(state.PageByOrder, index);
 }
 
 } // namespace viewer

@@ -48,43 +48,48 @@ void PagePrinter::makeCurrent(int position) {
 
 void PagePrinter::makeCurrentByNumber(std::int64_t number) {
     // Outside the table the record before stays current and is printed again, meant so.
-    const auto position = positionByNumber(parts_.state, static_cast<std::int32_t>(number));
+    const auto position = positionInPrint(parts_.state, static_cast<std::int32_t>(number));
     makeCurrent(position.value_or(-1));
 }
 
-bool PagePrinter::imprimepage() {
+PrintRun PagePrinter::imprimepage() {
     const int remembered = parts_.pages.position();
     const Range pages = range();
+    PrintRun run;
     if (pages.first > pages.last)
-        return false;
-    parts_.printer.begin(QStringLiteral("Orvalente - ") + parts_.bound.Textitre.simplified());
-    int count = 0;
-    bool goesOn = true;
-    for (std::int64_t k = pages.first; k <= pages.last && goesOn; ++k) {
-        ++count;
+        return run;
+    run.wanted = static_cast<int>(pages.last - pages.first + 1);
+    run.hasBegun =
+        parts_.printer.begin(QStringLiteral("Orvalente - ") + parts_.bound.Textitre.simplified());
+    bool isStopped = false;
+    for (std::int64_t k = pages.first; k <= pages.last && !isStopped; ++k) {
+        const auto count = static_cast<int>(k - pages.first + 1);
         parts_.view.showHourglass();
         makeCurrentByNumber(k);
-        goesOn =
-            printPage(footerLine() + (pages.first == pages.last ? QString() : pageMention(count)));
+        run.printed +=
+            printPage(footerLine() + (run.wanted == 1 ? QString() : pageMention(count)), isStopped);
         parts_.view.restorePointer();
     }
-    parts_.printer.end();
+    run.hasEnded = parts_.printer.end();
     makeCurrent(remembered);
-    return true;
+    return run;
 }
 
-bool PagePrinter::printPage(const QString& footer) {
+bool PagePrinter::printPage(const QString& footer, bool& isStopped) {
     platform::Recording drawing;
     // The footer is in the letters that the page ended with, meant so.
     const Footer line{footer, drawOnPaper(drawing)};
-    for (platform::Sheet& sheet :
-         layOnPaper(drawing, line, parts_.printer.paper(), parts_.metrics)) {
-        sheet.title = parts_.bound.Textitre;
-        parts_.printer.print(sheet);
-        if (parts_.isStopped && parts_.isStopped())
-            return false;
+    bool isPrinted = true;
+    std::vector<platform::Sheet> sheets =
+        layOnPaper(drawing, line, parts_.printer.paper(), parts_.metrics);
+    for (std::size_t i = 0; i < sheets.size() && !isStopped; ++i) {
+        sheets[i].title = parts_.bound.Textitre;
+        // Of a page that is stopped before its last sheet, a part is missing.
+        isPrinted = parts_.printer.print(sheets[i]) && isPrinted;
+        isStopped = parts_.isStopped && parts_.isStopped();
+        isPrinted = isPrinted && (!isStopped || i + 1 == sheets.size());
     }
-    return true;
+    return isPrinted;
 }
 
 platform::Font PagePrinter::drawOnPaper(platform::Recording& drawing) {

@@ -15,6 +15,17 @@ namespace viewer {
 /// Most pages of one job: two reams of paper. A range that a course gives wrongly ends there.
 inline constexpr int kMaxPrintedPages = 1000;
 
+/// What became of a job.
+struct PrintRun {
+    int wanted = 0;        ///< pages of the range
+    int printed = 0;       ///< of these, as far as the printer took them
+    bool hasBegun = false; ///< there was a printer
+    bool hasEnded = false; ///< what was printed was handed over
+
+    /// Whether a part of the pages is missing on paper that was not missing from the start.
+    bool isCut() const { return hasBegun && (printed < wanted || !hasEnded); }
+};
+
 /// Prints the pages that belong together with the one shown: each is drawn anew, on paper.
 class PagePrinter {
 public:
@@ -37,8 +48,8 @@ public:
 
     /// Prints the range of the current record as one job, to the end or until it is stopped. What
     /// fails is passed over: without a printer, nothing happens. Afterwards the record is current
-    /// that was so before, and the page on screen is as it was. False when the range has no pages.
-    bool imprimepage();
+    /// that was so before, and the page on screen is as it was.
+    PrintRun imprimepage();
 
 private:
     /// Fixed page numbers; nothing is printed when the first exceeds the last.
@@ -51,8 +62,9 @@ private:
     void makeCurrentByNumber(std::int64_t number);
     /// Draws the current record.
     platform::Font drawOnPaper(platform::Recording& drawing);
-    /// The sheets of the current record; false when no more are to follow.
-    bool printPage(const QString& footer);
+    /// The sheets of the current record; false when one of them is missing. `isStopped` is set when
+    /// no more are to follow.
+    bool printPage(const QString& footer, bool& isStopped);
 
     Parts parts_;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/message_box.h"
 #include "platform/printer.h"
 #include "viewer/neighbours.h"
 #include "viewer/page_printer.h"
@@ -9,11 +10,12 @@ namespace viewer {
 /// What the print button does.
 class PrintCommand : public PagePrinting {
 public:
-    PrintCommand(platform::PrinterSetup& setup, PagePrinter& pages)
-        : setup_(setup), pages_(pages) {}
+    PrintCommand(platform::PrinterSetup& setup, PagePrinter& pages, platform::Prompter& prompter)
+        : setup_(setup), pages_(pages), prompter_(prompter) {}
 
     /// Asks for the printer's set-up until it is confirmed, then prints. Cancel brings the dialog
-    /// back, meant so.
+    /// back, and a missing printer is passed over in silence, both meant so; of a job that was cut
+    /// the person is told.
     void print() override;
 
     /// Nothing: a recorded surface counts in twips, its texts have no ground, and the renderer has
@@ -23,6 +25,7 @@ public:
 private:
     platform::PrinterSetup& setup_;
     PagePrinter& pages_;
+    platform::Prompter& prompter_;
 };
 
 } // namespace viewer

@@ -1,6 +1,7 @@
 #include "help/help_browser.h"
 #include "help/help_list.h"
 #include "help/help_window.h"
+#include "platform/qt/print_setup.h"
 #include "printing/printed_pdf.h"
 #include "support/fake_prompter.h"
 #include "support/printing.h"
@@ -166,6 +167,25 @@ TEST_F(Window, printsThePageShown) {
     hit(Qt::Key_P, Qt::ControlModifier);
     ASSERT_EQ(prompter.messages.size(), 1U);
     EXPECT_TRUE(prompter.messages[0].text.contains("n’a pas pu être imprimée"));
+}
+
+TEST_F(Window, aJobOfTheCourseIsNotCut) {
+    platform::QtPrinterSetup asking(printer, prompter);
+    HelpWindow other(book, {asking, printer, prompter});
+    other.show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&other));
+    setup.ask();
+    platform::Sheet sheet;
+    sheet.width = 11906;
+    sheet.height = 16838;
+    ASSERT_TRUE(printer.begin("Cours"));
+    EXPECT_TRUE(printer.print(sheet));
+    hit(Qt::Key_P, Qt::ControlModifier);
+    ASSERT_EQ(prompter.messages.size(), 1U);
+    EXPECT_TRUE(prompter.messages[0].text.startsWith("Une impression est en cours"));
+    EXPECT_TRUE(printer.print(sheet));
+    EXPECT_TRUE(printer.end());
+    EXPECT_EQ(test_support::PrintedPdf(directory.filePath("page.pdf")).sheets().size(), 2);
 }
 
 } // namespace

@@ -224,7 +224,7 @@ TEST(PictureFile, dearDrawingsLoseTheirFinenessNotTheProgram) {
     // Lines all over the picture: smooth, it would take a minute.
     QByteArray tangle = "M0 0";
     std::mt19937 random(4711);
-    for (int line = 0; line < 4000; ++line)
+    for (int line = 0; line < 1500; ++line)
         tangle += "L" + QByteArray::number(int(random() % 900)) + " " +
                   QByteArray::number(int(random() % 900));
     const auto picture =

@@ -80,7 +80,7 @@ public:
     PngPicture() : image_(64, 32, QImage::Format_RGB32) {
         QPainter painter(&image_);
         painter.fillRect(0, 0, 32, 16, Qt::red);
-        painter.fillRect(32, 0, 32, 16, Qt::green);
+        painter.fillRect(32, 0, 32, 16, QColor(200, 100, 50));
         painter.fillRect(0, 16, 32, 16, Qt::blue);
         painter.fillRect(32, 16, 32, 16, Qt::black);
         painter.end();
@@ -98,6 +98,9 @@ private:
 };
 
 struct Svg : testing::Test, SheetCase {
+    /// Twips of the surface as a pixel of the sheet.
+    static QPoint inSheet(QPoint twips) { return (twips + QPoint(150, 150)) / 15; }
+
     QByteArray document(const platform::LinkAddress& address = {}, double scale = 1) const {
         return platform::svgDocument(sheet(), fonts, address, scale);
     }
@@ -113,6 +116,7 @@ TEST_F(Svg, looksLikeTheRaster) {
     surface.fill(300, 350, 1200, 400, 0xffdce6ff, FillMode::Mask);
     surface.fill(2100, 350, 750, 450, 0xff00ff00, FillMode::Copy);
     surface.line(0, 900, 4500, 900);
+    surface.line(4200, 1050, 4200, 1650);
     surface.setLineWidth(4);
     surface.line(0, 1000, 1500, 1900);
     surface.setPenX(2000);
@@ -124,9 +128,28 @@ TEST_F(Svg, looksLikeTheRaster) {
     const QImage theirs = drawnElsewhere(document());
     EXPECT_LE(difference(coarse(ours), coarse(theirs)), 24);
     EXPECT_EQ(theirs.pixel(18, 38), qRgb(255, 255, 255));
+    // Thin lines are lost among so many pixels.
+    for (const QPoint on : {QPoint(4485, 900), QPoint(4200, 1050), QPoint(4200, 1650)})
+        EXPECT_EQ(theirs.pixel(inSheet(on)), ours.pixel(inSheet(on))) << on.x();
+    EXPECT_EQ(theirs.pixel(inSheet({4200, 1350})), qRgb(0xb4, 0x64, 0));
     // The paper under the mask has its ink, and so has the picture's corner.
     EXPECT_EQ(QColor(theirs.pixel(108, 36)), QColor(0xdc, 0xe6, 0xff));
     EXPECT_EQ(drawnElsewhere(document({}, 2)).size(), QSize(640, 440));
+}
+
+TEST_F(Svg, picturesUnderMaskFillsHaveTheColoursOfTheScreen) {
+    surface.setPenX(300);
+    surface.setPenY(300);
+    surface.paint(std::make_shared<PngPicture>(), 960, 480, {}, false);
+    surface.fill(300, 300, 960, 480, 0xff80c080, FillMode::Mask);
+    surface.fill(0, 600, 780, 180, 0xffff90ff, FillMode::Mask);
+    const QImage theirs = drawnElsewhere(document());
+    const QImage ours = raster(sheet());
+    for (const QPoint at : {QPoint(405, 405), {405, 705}, {1005, 405}, {1005, 705}, {105, 705}})
+        EXPECT_LE(difference(theirs.copy(QRect(inSheet(at), QSize(1, 1))),
+                             ours.copy(QRect(inSheet(at), QSize(1, 1)))),
+                  2)
+            << at.x() << ' ' << at.y();
 }
 
 TEST_F(Svg, hasTextAsUnicodeAsWideAsItWasMeasured) {

@@ -40,6 +40,22 @@ TEST_F(PdfFile, textIsUnicodeInEveryFace) {
                            QStringLiteral("insé\u00ADcable")}));
 }
 
+/// What a glyph meant first, the document has for it all along.
+TEST_F(PdfFile, oddLettersLeaveTheLaterOnesWhatTheyAre) {
+    double y = 0;
+    for (const char16_t* words :
+         {u"une\ttable\u0001ronde", u"deux mots", u"insé\u00ADcable", u"peut-être oui"}) {
+        for (const char16_t* face : {u"Arial", u"Times new roman"})
+            printIn(face, y += 300, QString::fromUtf16(words));
+    }
+    write({sheet()});
+    QStringList lines;
+    for (const char16_t* words :
+         {u"une table ronde", u"deux mots", u"insé\u00ADcable", u"peut-être oui"})
+        lines += QStringList(2, QString::fromUtf16(words));
+    EXPECT_EQ(text().trimmed().split(u'\n', Qt::SkipEmptyParts), lines);
+}
+
 TEST_F(PdfFile, everyLetterStandsWhereTheFontBookPutsIt) {
     struct Letter {
         double x, foot;
@@ -101,6 +117,14 @@ TEST_F(PdfFile, everyLetterStandsWhereTheFontBookPutsIt) {
         EXPECT_TRUE(there) << qPrintable(letter.captured(0));
     }
     EXPECT_EQ(seen, expected.size());
+    // Readers pass over a letter that stands twice at its place.
+    const QString drawn = QString::fromUtf8(PdfBench::run(u"mutool"_qs, {u"trace"_qs, path()}));
+    static const QRegularExpression kGlyph(QStringLiteral("<g unicode=\"[^ \"]"));
+    auto glyphs = kGlyph.globalMatch(drawn);
+    std::size_t shown = 0;
+    for (; glyphs.hasNext(); glyphs.next())
+        ++shown;
+    EXPECT_EQ(shown, expected.size());
 }
 
 TEST_F(PdfFile, linksOutlineLabelsAndMetadata) {

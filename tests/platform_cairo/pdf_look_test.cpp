@@ -1,5 +1,7 @@
 #include "platform_cairo/pdf_bench.h"
 
+#include <QBuffer>
+
 namespace {
 
 /// Compares what poppler shows of a page with the screen's picture.
@@ -69,6 +71,47 @@ TEST_F(PdfLook, noPaperShowsBetweenTheStripsOfAGradient) {
     const int x = page.width() / 2;
     for (int y = page.height() / 5; y < page.height() / 2; ++y)
         EXPECT_LE(farthestChannel(page.pixel(x, y), 0xff000080), 2) << y;
+}
+
+TEST_F(PdfLook, picturesUnderMaskFillsHaveTheColoursOfTheScreen) {
+    // In squares of ten pixels, since readers move the edges of pictures; the lowest see-through.
+    QImage colours(60, 40, QImage::Format_ARGB32);
+    for (int y = 0; y < 40; ++y)
+        for (int x = 0; x < 60; ++x)
+            colours.setPixel(x, y, y < 30 ? qRgb(x / 10 * 50, y / 10 * 110, 255 - x / 10 * 45) : 0);
+    QByteArray bytes;
+    QBuffer file(&bytes);
+    ASSERT_TRUE(colours.save(&file, "png"));
+    const auto picture =
+        std::make_shared<test_support::FilePicture>(bytes, platform::PictureFormat::Png);
+    const auto paint = [&](double x, double y, double width, double height) {
+        surface.setPenX(x);
+        surface.setPenY(y);
+        surface.paint(picture, width, height, {}, false);
+    };
+    surface.fill(0, 0, 9000, 1500, 0xffffff90, platform::FillMode::Copy);
+    paint(150, 150, 900, 600);
+    paint(1500, 195, 1800, 1200); // stretched
+    paint(4500, 150, 900, 600);
+    paint(6000, 150, 900, 600); // no fill touches it
+    surface.fill(300, 300, 2400, 300, 0xffdce6c8, platform::FillMode::Mask);
+    surface.fill(0, 450, 4000, 300, 0xff80a0f0, platform::FillMode::Mask);
+    surface.fill(4500, 150, 900, 600, 0xff643296, platform::FillMode::Mask);
+    compare();
+    const struct {
+        int left, top, scale;
+    } places[] = {{10, 10, 1}, {100, 13, 2}, {300, 10, 1}, {400, 10, 1}};
+    for (const auto& place : places)
+        for (int y = 5; y < 30; y += 10)
+            for (int x = 5; x < 60; x += 10) {
+                const QPoint at(place.left + x * place.scale, place.top + y * place.scale);
+                // Where two fills overlap in part, they are multiplied.
+                if (QRect(20, 30, 160, 10).contains(at))
+                    continue;
+                EXPECT_LE(farthestChannel(pdf.pixel(at), screen.pixel(at)), 2)
+                    << at.x() << ' ' << at.y();
+            }
+    EXPECT_EQ(pdf.pixel(405, 45), 0xffffff90u) << "what shines through";
 }
 
 TEST_F(PdfLook, textUnderAMaskFillStaysInItsInk) {

@@ -1,4 +1,6 @@
+#include "platform/cairo/cairo_pictures.h"
 #include "platform_cairo/pdf_bench.h"
+#include "support/fake_pictures.h"
 
 #include <QBuffer>
 #include <QPainter>
@@ -117,6 +119,25 @@ TEST_F(PdfPictures, drawingsBecomeFinePixels) {
     EXPECT_EQ(rows[0][10], rows[1][10]);
     EXPECT_GE(rows[2][3].toInt(), 3 * 600);
     EXPECT_LE(rows[2][3].toInt() * rows[2][4].toInt(), 4'000'000);
+}
+
+TEST(CairoPictures, aPageHoldsABoundedNumberOfPixels) {
+    platform::CairoPictures pictures(600'000);
+    std::vector<std::shared_ptr<test_support::PlainPicture>> page;
+    const auto widthOf = [&](std::size_t at) {
+        cairo_surface_t* surface = pictures.surface(page[at], {100, 100});
+        return surface ? cairo_image_surface_get_width(surface) : 0;
+    };
+    for (int i = 0; i < 12; ++i)
+        page.push_back(std::make_shared<test_support::PlainPicture>(QSize(300, 300)));
+    QList<int> widths;
+    for (std::size_t at = 0; at < page.size(); ++at)
+        widths.append(widthOf(at));
+    EXPECT_EQ(widths, (QList<int>{300, 100, 100, 100, 100, 100, 100, 0, 0, 0, 0, 0}));
+    for (const std::size_t at : {0, 1, 7})
+        EXPECT_EQ(widthOf(at), widths[qsizetype(at)]) << "shown again";
+    pictures.endPage();
+    EXPECT_EQ(widthOf(8), 300);
 }
 
 } // namespace

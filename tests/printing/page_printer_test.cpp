@@ -44,29 +44,33 @@ TEST_F(PagePrinter, aRangeIsOneJobInTheOrderOfThePageNumbers) {
 
 TEST_F(PagePrinter, rangesAsTheFieldsHaveThem) {
     const struct {
+        int from; ///< position of the record that is current
         const char* first;
         const char* last;
         QList<int> pages;
     } rows[] = {
-        {"2", "4", {2, 5, 4}},           // a number without a page has the first record
-        {"4", "6", {4, 4, 4}},           // beyond the table the record before stays
-        {"-2", "0", {5, 5, 5}},          // also on the other side; number 0 has the first record
-        {"", "", {5}},                   // blank fields read as 0
-        {"", "2", {5, 5, 2}},            //
-        {" 2x", "2.4", {2}},             // as numbers are read everywhere
-        {"99999999999", "2", {5, 5, 2}}, // what fits no page number counts as 0
-        {"4", "2", {}},
-        {"4", "", {}},
+        {0, "2", "4", {2, 5, 4}},           // a number without a page has the first record
+        {0, "4", "6", {4, 5, 5}},           // the upper bound too
+        {2, "6", "7", {4, 4}},              // beyond the table the record before stays
+        {2, "-2", "0", {4, 4, 5}},          // also on the other side
+        {0, "", "", {5}},                   // blank fields read as 0
+        {0, "", "2", {5, 5, 2}},            //
+        {0, " 2x", "2.4", {2}},             // as numbers are read everywhere
+        {0, "99999999999", "2", {5, 5, 2}}, // what fits no page number counts as 0
+        {0, "4", "2", {}},
+        {0, "4", "", {}},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.first + std::string(" to ") + row.last);
-        open({record(5, row.first, row.last), record(2, "", ""), record(4, "", "")});
-        // Number 5 is the highest of the table; it is out of the way.
+        open({record(5, row.first, row.last), record(2, "", ""), record(4, row.first, row.last)});
+        bench->pages.moveTo(row.from);
+        const QString current = bench->bound.TextID;
+        // Number 5 would be the highest of the table; it is out of the way.
         bench->state.PageByNumber->resize(6);
         QFile::remove(path());
         if (row.pages.isEmpty()) {
             test_support::CountingPrinter counting;
-            EXPECT_FALSE(pages(counting).imprimepage());
+            EXPECT_EQ(pages(counting).imprimepage().wanted, 0);
             EXPECT_EQ(counting.jobs + counting.sheets, 0);
             continue;
         }
@@ -74,7 +78,7 @@ TEST_F(PagePrinter, rangesAsTheFieldsHaveThem) {
         ASSERT_EQ(sheets.size(), row.pages.size());
         for (qsizetype i = 0; i < sheets.size(); ++i)
             EXPECT_EQ(sheets[i].first(), QStringLiteral("Voici la page %1").arg(row.pages[i]));
-        EXPECT_EQ(bench->bound.TextID, "5");
+        EXPECT_EQ(bench->bound.TextID, current);
     }
 }
 
@@ -118,22 +122,38 @@ TEST_F(PagePrinter, aJobIsBoundedAndEndsAfterTheSheetInWorkWhenStopped) {
     EXPECT_EQ(underHourglass, counting.sheets);
     EXPECT_EQ(pointer(), Qt::ArrowCursor);
 
-    // The window's own messages, as they come while a sheet is being printed.
-    const std::pair<const char*, std::function<QEvent*()>> rows[] = {
-        {"Escape", [] { return new QKeyEvent(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier); }},
-        {"close", [] { return new QEvent(QEvent::Close); }},
+    // The windows' own messages, as they come while a sheet is being printed.
+    QWidget window;
+    QWidget child(&window);
+    QWidget help;
+    const auto escape = [] {
+        return new QKeyEvent(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
     };
-    for (const auto& [name, event] : rows) {
-        SCOPED_TRACE(name);
+    const struct {
+        const char* name;
+        QWidget& to;
+        std::function<QEvent*()> event;
+        int sheets;
+    } rows[] = {
+        {"Escape", child, escape, 3},
+        {"close", window, [] { return new QEvent(QEvent::Close); }, 3},
+        {"Escape in the help", help, escape, 5},
+        {"a window beside, a hint, that goes", help, [] { return new QEvent(QEvent::Close); }, 5},
+        {"what is closed inside", child, [] { return new QEvent(QEvent::Close); }, 5},
+    };
+    open({record(1, "1", "5")});
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
         test_support::CountingPrinter stopped;
-        QWidget other;
-        stopped.whilePrinting = [&, make = event] {
+        stopped.whilePrinting = [&] {
             if (stopped.sheets == 3)
-                QCoreApplication::postEvent(&other, make());
+                QCoreApplication::postEvent(&row.to, row.event());
         };
-        platform::EscapeWatch escape;
-        pages(stopped, [&] { return escape.isAsked(); }).imprimepage();
-        EXPECT_EQ(stopped.sheets, 3);
+        platform::EscapeWatch watch(window);
+        const auto run = pages(stopped, [&] { return watch.isAsked(); }).imprimepage();
+        EXPECT_EQ(stopped.sheets, row.sheets);
+        EXPECT_EQ(run.printed, row.sheets);
+        EXPECT_EQ(run.isCut(), row.sheets == 3);
         EXPECT_EQ(stopped.ended, 1);
         EXPECT_EQ(bench->bound.TextID, "1");
     }
@@ -143,7 +163,7 @@ TEST_F(PagePrinter, withoutAPrinterNothingHappens) {
     open({record(1, "1", "2"), record(2, "", "")});
     printer.device().setOutputFormat(QPrinter::PdfFormat);
     printer.device().setOutputFileName(directory.filePath("nulle/part.pdf"));
-    EXPECT_TRUE(pages(printer).imprimepage());
+    EXPECT_FALSE(pages(printer).imprimepage().isCut());
     EXPECT_FALSE(printer.error().isEmpty());
     EXPECT_EQ(bench->bound.TextID, "1");
     EXPECT_EQ(print().sheets().size(), 2) << "the next job is not affected";

@@ -19,12 +19,14 @@ public:
         ++sheets;
         if (whilePrinting)
             whilePrinting();
-        return true;
+        return sheets != refused;
     }
-    bool end() override { return ++ended > 0; }
+    bool end() override { return ++ended > 0 && canEnd; }
     QString error() const override { return {}; }
 
     std::function<void()> whilePrinting;
+    int refused = -1;   ///< the sheet that it does not take, counted from 1
+    bool canEnd = true; ///< whether it can hand a job over
     int jobs = 0, sheets = 0, ended = 0;
 };
 
@@ -56,7 +58,8 @@ protected:
     PrintedPdf print() {
         printer.device().setOutputFormat(QPrinter::PdfFormat);
         printer.device().setOutputFileName(path());
-        EXPECT_TRUE(pages(printer).imprimepage());
+        const auto run = pages(printer).imprimepage();
+        EXPECT_TRUE(run.hasBegun && run.wanted > 0 && !run.isCut());
         EXPECT_EQ(printer.error(), QString());
         return PrintedPdf(path());
     }

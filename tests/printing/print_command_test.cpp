@@ -2,6 +2,7 @@
 #include "coursetool/print.h"
 #include "coursetool/tool_pictures.h"
 #include "printing/print_case.h"
+#include "support/fake_prompter.h"
 #include "viewer/print_command.h"
 
 namespace {
@@ -22,13 +23,43 @@ TEST_F(PrintCommand, theSetupComesBackUntilItIsConfirmed) {
     test_support::CountingPrinter counting;
     viewer::PagePrinter printing = pages(counting);
     Person setup;
-    viewer::PrintCommand(setup, printing).print();
+    test_support::FakePrompter prompter;
+    viewer::PrintCommand(setup, printing, prompter).print();
     EXPECT_EQ(setup.asked, 5);
     EXPECT_EQ(counting.sheets, 1);
     Person ending;
-    ending.last = Outcome::Gone;
-    viewer::PrintCommand(ending, printing).print();
-    EXPECT_EQ(counting.sheets, 1) << "the program ends";
+    for (const Outcome outcome : {Outcome::Gone, Outcome::Busy}) {
+        ending.last = outcome;
+        viewer::PrintCommand(ending, printing, prompter).print();
+        EXPECT_EQ(counting.sheets, 1) << "the program ends, or another job is under way";
+    }
+    EXPECT_TRUE(prompter.messages.empty());
+}
+
+TEST_F(PrintCommand, aJobThatIsCutIsTold) {
+    open({record(1, "1", "3")});
+    Person setup;
+    const struct {
+        int stoppedAfter, refused;
+        bool canEnd;
+        const char* told;
+    } rows[] = {{9, -1, true, nullptr},
+                {1, -1, true, "L’impression a été interrompue\u00A0: 1 page sur\u00A03."},
+                {2, -1, true, "L’impression a été interrompue\u00A0: 2 pages sur\u00A03."},
+                {9, 2, true, "L’impression a été interrompue\u00A0: 2 pages sur\u00A03."},
+                {9, -1, false, "L’impression n’a pas pu être terminée\u00A0: des pages manquent."}};
+    for (const auto& row : rows) {
+        test_support::CountingPrinter counting;
+        counting.refused = row.refused;
+        counting.canEnd = row.canEnd;
+        auto printing = pages(counting, [&] { return counting.sheets == row.stoppedAfter; });
+        test_support::FakePrompter prompter;
+        viewer::PrintCommand(setup, printing, prompter).print();
+        ASSERT_EQ(prompter.messages.size(), row.told ? 1U : 0U);
+        if (row.told) {
+            EXPECT_EQ(prompter.messages[0].text, QString(row.told));
+        }
+    }
 }
 
 /// The demonstration course, printed by the tool.

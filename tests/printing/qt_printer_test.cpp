@@ -67,6 +67,13 @@ protected:
         return different / double(a.width() * a.height());
     }
 
+    /// A drawing of 40 pixels.
+    static std::shared_ptr<const platform::Picture> disc() {
+        return platform::SvgPicture::read("<svg xmlns='http://www.w3.org/2000/svg' width='40' "
+                                          "height='40'><circle cx='20' cy='20' r='15' "
+                                          "fill='#800000'/></svg>");
+    }
+
     QString path(const QString& name) const { return directory.filePath(name); }
 
     QTemporaryDir directory;
@@ -92,6 +99,11 @@ TEST_F(QtPrinter, textIsTextWhereTheFontBookPutsIt) {
         EXPECT_EQ(qt[i].text, cairo[i].text);
         EXPECT_NEAR(qt[i].left, cairo[i].left, 8) << qPrintable(qt[i].text);
         EXPECT_NEAR(qt[i].right, cairo[i].right, 8) << qPrintable(qt[i].text);
+    }
+    // Readers pass over a letter that stands twice at its place. Blanks may be tabs.
+    for (const char* file : {"qt.pdf", "cairo.pdf"}) {
+        const QString drawn = PrintedPdf::run("mutool", {"trace", path(file)});
+        EXPECT_EQ(drawn.count(QRegularExpression("<g unicode=\"[^ &]")), 93) << file;
     }
     const QString faces = PrintedPdf(path("qt.pdf")).listed("pdffonts").join(u'\n');
     for (const char* face : {"LiberationSans ", "LiberationSerif-Bold ", "ComicNeue-BoldItalic "})
@@ -120,6 +132,10 @@ TEST_F(QtPrinter, signsMaskFillsLinesAndPicturesLookAsInTheFile) {
     surface.paint(std::make_shared<test_support::PlainPicture>(QSize(20, 20), Qt::white), 1500,
                   1500, "p", false);
     surface.fill(2400, 4800, 1500, 600, 0xff00ff00, FillMode::Mask);
+    // Over a drawing, which is transparent around its disc.
+    surface.setPenX(5400);
+    surface.paint(disc(), 1500, 1500, "d.svg", false);
+    surface.fill(5400, 4500, 750, 1500, 0xffffc0c0, FillMode::Mask);
     surface.setInk(0xff000080);
     surface.line(0, 6300, 9000, 6300);
     surface.line(0, 6300, 3000, 7200);
@@ -136,26 +152,62 @@ TEST_F(QtPrinter, signsMaskFillsLinesAndPicturesLookAsInTheFile) {
     EXPECT_EQ(at(3000, 3600), 0xffff0000u) << "over a fill";
     EXPECT_EQ(at(3450, 5000), 0xff00ff00u) << "over a picture";
     EXPECT_EQ(at(4200, 5000), 0xffffffffu);
+    EXPECT_EQ(at(5800, 5250), 0xff800000u & 0xffffc0c0u) << "over a drawing";
+    EXPECT_EQ(at(6500, 5250), 0xff800000u);
+    EXPECT_EQ(at(5450, 4550), 0xffffc0c0u) << "beside its disc";
+    EXPECT_EQ(at(6850, 4550), 0xffffffffu);
 }
 
-TEST_F(QtPrinter, drawingsStayCurvesAndPhotographsKeepTheirPixels) {
-    surface.paint(platform::SvgPicture::read("<svg xmlns='http://www.w3.org/2000/svg' width='40' "
-                                             "height='40'><circle cx='20' cy='20' r='15' "
-                                             "fill='#f00'/></svg>"),
-                  3000, 3000, "a.svg", false);
+TEST_F(QtPrinter, drawingsAreAsFineAsPrintAndPhotographsKeepTheirPixels) {
+    surface.paint(disc(), 3000, 3000, "a.svg", false);
+    surface.paint(std::make_shared<test_support::PlainPicture>(QSize(300, 200)), 600, 600, "b.bmp",
+                  false);
     platform::QtPrinter qt(fonts);
     qt.device().setOutputFormat(QPrinter::PdfFormat);
     qt.device().setOutputFileName(path("qt.pdf"));
     printTo(qt);
-    EXPECT_TRUE(PrintedPdf(path("qt.pdf")).listed("pdfimages", {"-list"}).isEmpty());
+    const QString images = PrintedPdf(path("qt.pdf")).listed("pdfimages", {"-list"}).join(u'\n');
+    for (const char* size : {" 800   800 ", " 300   200 "})
+        EXPECT_TRUE(images.contains(size)) << qPrintable(images);
     const QImage page = shown("qt.pdf");
-    EXPECT_EQ(page.pixel((567 + 886 + 1500) / 15, (567 + 1500) / 15), 0xffff0000u);
-    surface.paint(std::make_shared<test_support::PlainPicture>(QSize(300, 200)), 600, 600, "b.bmp",
-                  false);
-    printTo(qt);
-    const auto images = PrintedPdf(path("qt.pdf")).listed("pdfimages", {"-list"});
-    ASSERT_EQ(images.size(), 1);
-    EXPECT_TRUE(images[0].simplified().startsWith(u"1 0 image 300 200")) << qPrintable(images[0]);
+    EXPECT_NEAR(qRed(page.pixel((567 + 886 + 1500) / 15, (567 + 1500) / 15)), 0x80, 2);
+}
+
+/// A file is written by what the printer was given for it.
+TEST_F(QtPrinter, lettersOfSignFacesAreFoundInFiles) {
+    print(u"Symbol", 0, QStringLiteral("lWab"));
+    platform::QtPrinter qt(fonts, [](const QString& file, const platform::FontBook& book,
+                                     const platform::Paper& paper) {
+        return std::unique_ptr<platform::Printer>(
+            std::make_unique<platform::PdfPrinter>(file, book, paper));
+    });
+    qt.device().setOutputFormat(QPrinter::PdfFormat);
+    const struct {
+        QPageSize::PageSizeId size;
+        QPageLayout::Orientation lie;
+        const char* points;
+    } rows[] = {{QPageSize::A4, QPageLayout::Portrait, "595 x 842 pts (A4)"},
+                {QPageSize::A5, QPageLayout::Landscape, "595 x 420 pts (A5)"}};
+    for (const auto& row : rows) {
+        qt.device().setOutputFileName(path("file.pdf"));
+        qt.device().setPageSize(QPageSize(row.size));
+        qt.device().setPageOrientation(row.lie);
+        ASSERT_TRUE(qt.begin("essai"));
+        EXPECT_TRUE(qt.isBusy());
+        EXPECT_FALSE(qt.begin("un autre")) << "one job at a time";
+        for (const auto& sheet : viewer::layOnPaper(recording, {"pied", {}}, qt.paper(), fonts))
+            EXPECT_TRUE(qt.print(sheet));
+        EXPECT_TRUE(qt.end()) << qPrintable(qt.error());
+        EXPECT_FALSE(qt.isBusy());
+        const PrintedPdf pdf(path("file.pdf"));
+        EXPECT_EQ(pdf.sheets(), (QList<QStringList>{{QStringLiteral("λΩαβ"), "pied"}}));
+        const QString told = PrintedPdf::run("pdfinfo", {path("file.pdf")});
+        EXPECT_TRUE(told.contains(row.points)) << qPrintable(told);
+    }
+    qt.device().setOutputFileName(path("nulle/part.pdf"));
+    EXPECT_FALSE(qt.begin("essai"));
+    EXPECT_EQ(qt.error(), QStringLiteral("le dossier où écrire le fichier n’existe pas"));
+    EXPECT_FALSE(qt.isBusy());
 }
 
 /// What a page shows again on a later sheet.

@@ -65,9 +65,11 @@ TEST_F(Actions, ReadingOrderHasItsOwnTable) {
     bench.commands.previousInChapter();
     EXPECT_EQ(bench.shown(), QStringLiteral("3"));
     bench.commands.nextInChapter();
+    bench.commands.nextInChapter(); // of the last page: it is shown again
     EXPECT_EQ(bench.shown(), QStringLiteral("1"));
+    EXPECT_THAT(bench.history(), ElementsAre(1, 3, 1, 1));
     // Outside the table the page stays.
-    for (const int index : {10, -1, std::numeric_limits<int>::min()}) {
+    for (const int index : {9, 10, -1, std::numeric_limits<int>::min()}) {
         bench.actions.showPageByOrder(index);
         EXPECT_EQ(bench.shown(), QStringLiteral("1")) << index;
     }

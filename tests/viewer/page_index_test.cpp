@@ -28,6 +28,21 @@ TEST(PageIndex, HoldsPositionsWithOneSlotMoreThanTheHighestNumber) {
     EXPECT_THAT(byNumber({3.0, 1.0}), ElementsAre(0, 1, 0, 0, 0));
 }
 
+TEST(PageIndex, TheTableByReadingOrderEndsWithTheHighestIndex) {
+    shell::SharedState state;
+    viewer::buildPageIndex(
+        MemoryRecordset({{{QStringLiteral("Numeropage"), 1.0}, {QStringLiteral("Index"), 2.0}},
+                         {{QStringLiteral("Numeropage"), 2.0}, {QStringLiteral("Index"), 3.0}}}),
+        state);
+    EXPECT_THAT(*state.PageByOrder, ElementsAre(0, 0, 0, 1));
+    for (const auto& [number, code, print, order] :
+         {std::tuple{-1, -1, -1, -1}, {1, 0, 0, 0}, {2, 1, 1, 0}, {3, -1, 0, 1}, {4, -1, -1, -1}}) {
+        EXPECT_EQ(viewer::positionOfCode(state, number).value_or(-1), code) << number;
+        EXPECT_EQ(viewer::positionInPrint(state, number).value_or(-1), print) << number;
+        EXPECT_EQ(viewer::positionByOrder(state, number).value_or(-1), order) << number;
+    }
+}
+
 TEST(PageIndex, PassesOverNumbersThatNoCodeCanReach) {
     EXPECT_THAT(byNumber({-1.0, FieldValue{}, 1.0, 4e9, viewer::kMaxIndexedNumber + 1.0}),
                 ElementsAre(0, 2, 0));

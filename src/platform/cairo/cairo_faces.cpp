@@ -88,15 +88,22 @@ CairoFace::~CairoFace() {
         cairo_font_face_destroy(face_);
 }
 
-char32_t CairoFace::character(quint32 glyph) const {
-    return glyph < glyphs_.size() ? glyphs_[glyph].character : 0;
+bool CairoFace::tells(quint32 glyph, char32_t character) {
+    if (glyph >= glyphs_.size())
+        return false;
+    Glyph& known = glyphs_[glyph];
+    const bool isSaid = known.character != character;
+    if (!known.isWritten)
+        known.character = character;
+    known.isWritten = true;
+    return !isSaid;
 }
 
 double CairoFace::shortfall(quint32 glyph) const {
     return glyph < glyphs_.size() ? glyphs_[glyph].shortfall : 0;
 }
 
-const CairoFace& CairoFaces::face(const Font& font, int stage) {
+CairoFace& CairoFaces::face(const Font& font, int stage) {
     for (const Asked& asked : asked_)
         if (asked.stage == stage && asked.bold == font.bold && asked.italic == font.italic &&
             asked.face == font.face)
@@ -109,7 +116,7 @@ const CairoFace& CairoFaces::face(const Font& font, int stage) {
     return *asked_.back().answer;
 }
 
-const CairoFace& CairoFaces::find(const Font& font, int stage) {
+CairoFace& CairoFaces::find(const Font& font, int stage) {
     const FontBook::FaceSource& source = FontBook::faceSource(font, stage);
     std::unique_ptr<CairoFace>& slot = faces_[&source];
     if (!slot)

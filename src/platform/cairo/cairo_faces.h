@@ -25,9 +25,11 @@ public:
     /// How far the letters have to be slanted, to the em.
     double slant() const { return slant_; }
 
-    /// The first character that a glyph shows by the face's own table, which is the one that cairo
-    /// writes for it; 0 when there is none.
-    char32_t character(quint32 glyph) const;
+    /// Whether a glyph, shown without a word on what it means, is taken for `character`: the first
+    /// character that a document has for a glyph, by the face's own table or by what was said with
+    /// it, stands for all that come later without one. To be asked for each glyph that is shown, in
+    /// their order.
+    bool tells(quint32 glyph, char32_t character);
 
     /// By how much a glyph's advance in a file falls short of its own, in em: files have whole
     /// thousandths.
@@ -35,7 +37,8 @@ public:
 
 private:
     struct Glyph {
-        char32_t character = 0;
+        char32_t character = 0; ///< the first by the face's own table; 0 when there is none
+        bool isWritten = false; ///< `character` is what the document has
         float shortfall = 0;
     };
 
@@ -44,21 +47,21 @@ private:
     std::vector<Glyph> glyphs_;
 };
 
-/// The faces of a font book.
+/// The faces of a font book, as one document has them.
 class CairoFaces {
 public:
     /// The face of a stage. It lives as long as this object.
-    const CairoFace& face(const Font& font, int stage);
+    CairoFace& face(const Font& font, int stage);
 
 private:
     struct Asked {
         QString face;
         bool bold, italic;
         int stage;
-        const CairoFace* answer;
+        CairoFace* answer;
     };
 
-    const CairoFace& find(const Font& font, int stage);
+    CairoFace& find(const Font& font, int stage);
 
     std::vector<Asked> asked_; ///< a course has a dozen; whole texts ask for the same
     std::unordered_map<const FontBook::FaceSource*, std::unique_ptr<CairoFace>> faces_;

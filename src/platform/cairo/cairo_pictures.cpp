@@ -1,32 +1,15 @@
 #include "platform/cairo/cairo_pictures.h"
 
 #include "platform/cairo/jpeg_header.h"
+#include "platform/printed_picture.h"
 
 #include <QCryptographicHash>
 
-#include <cmath>
 #include <cstring>
 
 namespace platform {
 
 namespace {
-
-/// Pixels of a drawing for each logical pixel that it takes: 384 to the inch.
-constexpr int kDrawingDensity = 4;
-
-/// Most pixels that a drawing becomes, a page full of them at 288 to the inch: 16 MB while the page
-/// is written.
-constexpr double kMaxDrawingPixels = 4e6;
-
-/// How large a picture is to stand in the document. Photographs and the like keep their pixels.
-QSize pixelsOf(const Picture& picture, QSize drawn) {
-    if (picture.format() != PictureFormat::Svg)
-        return picture.size();
-    const double area = double(drawn.width()) * drawn.height();
-    const double density = std::min<double>(kDrawingDensity, std::sqrt(kMaxDrawingPixels / area));
-    return {std::max(1, static_cast<int>(drawn.width() * density)),
-            std::max(1, static_cast<int>(drawn.height() * density))};
-}
 
 void releaseBytes(void* bytes) {
     delete static_cast<QByteArray*>(bytes);
@@ -45,6 +28,10 @@ void attach(cairo_surface_t* surface, const char* type, const QByteArray& bytes)
 CairoSurface placeholder(QSize size = {1, 1}) {
     return CairoSurface(
         cairo_image_surface_create(CAIRO_FORMAT_RGB24, size.width(), size.height()));
+}
+
+qint64 bytesOf(QSize pixels) {
+    return 4 * qint64(pixels.width()) * pixels.height();
 }
 
 CairoSurface copyOf(const QImage& image) {
@@ -66,7 +53,7 @@ CairoSurface copyOf(const QImage& image) {
 
 } // namespace
 
-const QByteArray& CairoPictures::idOf(const std::shared_ptr<const Picture>& picture) {
+QByteArray CairoPictures::idOf(const std::shared_ptr<const Picture>& picture, QSize pixels) {
     Known& known = known_[picture.get()];
     if (known.picture.lock() != picture) {
         known.picture = picture;
@@ -74,22 +61,36 @@ const QByteArray& CairoPictures::idOf(const std::shared_ptr<const Picture>& pict
                        ? "nameless " + QByteArray::number(++nameless_)
                        : QCryptographicHash::hash(picture->bytes(), QCryptographicHash::Sha256);
     }
-    return known.id;
+    return known.id + ' ' + QByteArray::number(pixels.width()) + ' ' +
+           QByteArray::number(pixels.height());
+}
+
+QSize CairoPictures::affordable(QSize wanted, QSize drawn) const {
+    const qint64 room = mostPageBytes_ - pageBytes_;
+    for (const QSize size : {wanted, wanted.boundedTo(drawn)})
+        if (bytesOf(size) <= room)
+            return size;
+    return {};
 }
 
 cairo_surface_t* CairoPictures::surface(const std::shared_ptr<const Picture>& picture,
                                         QSize drawn) {
     const auto photograph = picture->format() == PictureFormat::Jpeg ? jpegSize(picture->bytes())
                                                                      : std::optional<QSize>();
-    const QSize pixels = photograph ? *photograph : pixelsOf(*picture, drawn);
-    const QByteArray id = idOf(picture) + ' ' + QByteArray::number(pixels.width()) + ' ' +
-                          QByteArray::number(pixels.height());
-    if (const auto found = page_.find(id); found != page_.end())
-        return found->second.get();
-
-    CairoSurface made = photograph              ? placeholder()
-                        : written_.contains(id) ? placeholder(pixels)
-                                                : copyOf(picture->image(pixels));
+    const QSize whole = photograph ? *photograph : printedPixels(*picture, drawn);
+    for (const QSize size : {whole, whole.boundedTo(drawn)})
+        if (const auto shown = page_.find(idOf(picture, size)); shown != page_.end())
+            return shown->second.get();
+    const bool isStored = photograph || written_.contains(idOf(picture, whole));
+    const QSize pixels = isStored ? whole : affordable(whole, drawn);
+    if (pixels.isEmpty())
+        return nullptr;
+    const QByteArray id = idOf(picture, pixels);
+    CairoSurface made = photograph ? placeholder()
+                        : isStored ? placeholder(pixels)
+                                   : copyOf(picture->image(pixels));
+    if (made && !isStored)
+        pageBytes_ += bytesOf(pixels);
     if (made) {
         attach(made.get(), CAIRO_MIME_TYPE_UNIQUE_ID, id);
         if (photograph)
@@ -103,6 +104,7 @@ void CairoPictures::endPage() {
         if (surface)
             written_.insert(id);
     page_.clear();
+    pageBytes_ = 0;
 }
 
 } // namespace platform

@@ -65,11 +65,12 @@ public:
             error_ = openingFailure(path);
     }
 
-    bool addSheet(const Sheet& sheet) {
+    bool addSheet(const Sheet& sheet, double width) {
         if (!error_.isEmpty())
             return false;
+        const double wanted = width > 0 && sheet.width > 0 ? width / sheet.width : 1;
         const double longest = std::max(sheet.width, sheet.height) / kTwipsPerPoint;
-        scale_ = std::min(1.0, kMaxPagePoints / longest) / kTwipsPerPoint;
+        scale_ = std::min(wanted, kMaxPagePoints / longest) / kTwipsPerPoint;
         beginPage(std::max(1.0, sheet.width * scale_), std::max(1.0, sheet.height * scale_));
         name(sheet);
         cairo_save(context_.get());
@@ -200,8 +201,8 @@ PdfFile::~PdfFile() = default;
 PdfFile::PdfFile(PdfFile&&) noexcept = default;
 PdfFile& PdfFile::operator=(PdfFile&&) noexcept = default;
 
-bool PdfFile::addSheet(const Sheet& sheet) {
-    return writer_->addSheet(sheet);
+bool PdfFile::addSheet(const Sheet& sheet, double width) {
+    return writer_->addSheet(sheet, width);
 }
 
 bool PdfFile::finish() {

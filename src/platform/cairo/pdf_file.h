@@ -46,7 +46,10 @@ public:
     /// allows are scaled down as a whole). It carries the sheet's title in the outline, its number
     /// as label and, when it is the first with its number, the named destination "page12". False
     /// once writing has failed; calls may go on, to no effect.
-    bool addSheet(const Sheet& sheet);
+    ///
+    /// `width`: of the page, in twips; the sheet is enlarged or reduced as a whole to it. 0 leaves
+    /// the sheet as it is.
+    bool addSheet(const Sheet& sheet, double width = 0);
 
     /// Completes the file and puts it in its place. False when it could not be written, or when no
     /// sheet was added: a PDF file has at least one page. To be called once.

@@ -9,7 +9,7 @@ bool PdfPrinter::begin(const QString& title) {
 }
 
 bool PdfPrinter::print(const Sheet& sheet) {
-    return file_ && file_->addSheet(sheet);
+    return file_ && file_->addSheet(sheet, paper_ ? paper_->width : 0);
 }
 
 bool PdfPrinter::end() {

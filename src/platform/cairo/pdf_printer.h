@@ -7,14 +7,16 @@
 
 namespace platform {
 
-/// Prints into a PDF file, on plain paper: a job is the whole file. Sheets keep their size, so one
-/// that was laid out larger than the paper gives a larger page.
+/// Prints into a PDF file: a job is the whole file.
 class PdfPrinter : public Printer {
 public:
-    /// `fonts` must be the one that the sheets are laid out with, and outlive the printer.
-    PdfPrinter(QString path, const FontBook& fonts) : path_(std::move(path)), fonts_(fonts) {}
+    /// `fonts` must be the one that the sheets are laid out with, and outlive the printer. Without
+    /// a paper it is plain, and sheets keep their size, so that one that was laid out larger gives
+    /// a larger page.
+    PdfPrinter(QString path, const FontBook& fonts, std::optional<Paper> paper = std::nullopt)
+        : path_(std::move(path)), fonts_(fonts), paper_(paper) {}
 
-    Paper paper() const override { return kPlainPaper; }
+    Paper paper() const override { return paper_.value_or(kPlainPaper); }
     bool begin(const QString& title) override;
     bool print(const Sheet& sheet) override;
     bool end() override;
@@ -23,6 +25,7 @@ public:
 private:
     QString path_;
     const FontBook& fonts_;
+    std::optional<Paper> paper_;
     std::optional<PdfFile> file_;
     QString error_;
 };

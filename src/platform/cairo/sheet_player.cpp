@@ -1,6 +1,7 @@
 #include "platform/cairo/sheet_player.h"
 
 #include "platform/ink_area.h"
+#include "platform/masked_pictures.h"
 #include "platform/multiply_inks.h"
 #include "platform/twips.h"
 
@@ -31,6 +32,12 @@ constexpr double kLowered[] = {0.0006, 0.0018};
 bool isCharacter(char32_t c) {
     return c >= 0x20 && c <= 0x10FFFF && (c < 0xD800 || c > 0xDFFF) && (c < 0xFDD0 || c > 0xFDEF) &&
            (c & 0xFFFE) != 0xFFFE;
+}
+
+/// What a reader is to take a character for: of tabs and control characters, a gap is all that
+/// shows.
+char32_t readCharacter(char32_t c) {
+    return c > 0 && c < 0x20 ? U' ' : c;
 }
 
 /// Appends the character as UTF-8 and returns the number of bytes, 0 for none.
@@ -83,11 +90,13 @@ public:
         : owner_(owner), cairo_(cairo), surface_(place.surface),
           area_(0, 0, place.width, place.height) {}
 
-    /// `next` may be null.
-    void play(const Operation& operation, QRgb ink, const Operation* next) {
+    /// `masked` and `next` may be null.
+    void play(const Operation& operation, QRgb ink, const std::shared_ptr<const Picture>& masked,
+              const Operation* next) {
         if (surfaceOf(operation) != surface_)
             return;
         ink_ = ink;
+        masked_ = masked;
         next_ = next;
         std::visit([this](const auto& drawn) { playWhereItMayInk(drawn); }, operation);
     }
@@ -147,7 +156,8 @@ public:
                           static_cast<int>(height / kTwipsPerPixel));
         if (drawn.isEmpty())
             return;
-        cairo_surface_t* source = owner_.pictures_.surface(picture.picture, drawn);
+        cairo_surface_t* source =
+            owner_.pictures_.surface(masked_ ? masked_ : picture.picture, drawn);
         if (!source)
             return;
         cairo_save(cairo_);
@@ -230,7 +240,7 @@ private:
 
     void showRun(const TextOperation& text, double foot,
                  std::span<const FontBook::PlacedGlyph> run) {
-        const CairoFace& face = owner_.faces_.face(text.font, run.front().stage);
+        CairoFace& face = owner_.faces_.face(text.font, run.front().stage);
         if (!face.face())
             return;
         const double em = fontPixels(text.font.points) * kTwipsPerPixel;
@@ -240,16 +250,17 @@ private:
         cairo_set_font_matrix(cairo_, &size);
         const int count = static_cast<int>(glyphs_.size());
         // Where the face itself tells the characters, it costs less not to.
-        if (std::all_of(run.begin(), run.end(), [&](const FontBook::PlacedGlyph& glyph) {
-                return face.character(glyph.index) == glyph.character;
-            })) {
+        bool isTold = true;
+        for (const FontBook::PlacedGlyph& glyph : run.first(glyphs_.size()))
+            isTold = face.tells(glyph.index, readCharacter(glyph.character)) && isTold;
+        if (isTold) {
             cairo_show_glyphs(cairo_, glyphs_.data(), count);
             return;
         }
         utf8_.clear();
         clusters_.clear();
         for (const FontBook::PlacedGlyph& glyph : run.first(glyphs_.size()))
-            clusters_.push_back({append(utf8_, glyph.character), 1});
+            clusters_.push_back({append(utf8_, readCharacter(glyph.character)), 1});
         cairo_show_text_glyphs(cairo_, utf8_.data(), static_cast<int>(utf8_.size()), glyphs_.data(),
                                count, clusters_.data(), count, cairo_text_cluster_flags_t{});
     }
@@ -291,6 +302,7 @@ private:
     QRectF area_;
     QRectF inkArea_; ///< of the operation at hand
     QRgb ink_ = 0xff000000;
+    std::shared_ptr<const Picture> masked_; ///< what stands in for the picture at hand
     const Operation* next_ = nullptr;
     std::string utf8_;
     std::vector<cairo_glyph_t> glyphs_;
@@ -303,6 +315,7 @@ SheetPlayer::SheetPlayer(const FontBook& fonts, CairoFaces& faces, CairoPictures
 void SheetPlayer::play(const Sheet& sheet, cairo_t* cairo) {
     const std::vector<Operation>& operations = sheet.operations;
     const std::vector<QRgb> inks = multiplyInks(operations, fonts_);
+    const auto masked = maskedPictures(operations, multipliedInk);
     painted_.clear();
     // As on the window, each surface is a picture of its own.
     for (const PlacedSurface& place : sheet.surfaces) {
@@ -312,9 +325,11 @@ void SheetPlayer::play(const Sheet& sheet, cairo_t* cairo) {
         const QRectF shown = withInkMargin({place.width, place.height});
         cairo_rectangle(cairo, shown.x(), shown.y(), shown.width(), shown.height());
         cairo_clip(cairo);
-        for (std::size_t i = 0; i < operations.size(); ++i)
-            player.play(operations[i], inks[i],
+        for (std::size_t i = 0; i < operations.size(); ++i) {
+            const auto picture = masked.find(i);
+            player.play(operations[i], inks[i], picture == masked.end() ? nullptr : picture->second,
                         i + 1 < operations.size() ? &operations[i + 1] : nullptr);
+        }
         cairo_restore(cairo);
     }
 }

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QWidget>
 
 namespace platform {
 
@@ -14,12 +15,14 @@ bool EscapeWatch::isAsked() {
 }
 
 bool EscapeWatch::eventFilter(QObject* watched, QEvent* event) {
+    if (!watched->isWidgetType() || static_cast<QWidget*>(watched)->window() != &window_)
+        return QObject::eventFilter(watched, event);
     if (event->type() == QEvent::KeyPress &&
         static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
         asked_ = true;
         return true;
     }
-    if (event->type() == QEvent::Close && watched->isWidgetType())
+    if (event->type() == QEvent::Close && watched == &window_)
         asked_ = true;
     return QObject::eventFilter(watched, event);
 }

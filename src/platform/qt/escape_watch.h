@@ -2,12 +2,17 @@
 
 #include <QObject>
 
+class QWidget;
+
 namespace platform {
 
-/// Tells long work whether the person wants it to end: with Escape in any window, or by closing a
-/// window.
+/// Tells long work whether the person wants it to end: with Escape in its window, or by closing
+/// that one. Other windows that stand beside it, their menus and hints come and go meanwhile.
 class EscapeWatch : public QObject {
 public:
+    /// `window` must outlive the watch.
+    explicit EscapeWatch(const QWidget& window) : window_(window) {}
+
     /// Lets window messages run. True when one of those that wait asks for the end.
     bool isAsked();
 
@@ -15,6 +20,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    const QWidget& window_;
     bool asked_ = false;
 };
 

@@ -1,7 +1,7 @@
 #include "platform/qt/paper_painter.h"
 
 #include "platform/ink_area.h"
-#include "platform/qt/svg_picture.h"
+#include "platform/printed_picture.h"
 #include "platform/sign_faces.h"
 #include "platform/twips.h"
 #include "platform/without_masks.h"
@@ -65,11 +65,11 @@ void PaperPainter::draw(const PictureOperation& picture) {
           picture.height < kFarPx * kTwipsPerPixel))
         return;
     const QRectF place(picture.x, picture.y, picture.width, picture.height);
-    if (const auto* drawing = dynamic_cast<const SvgPicture*>(picture.picture.get())) {
-        drawing->draw(painter_, place);
-        return;
-    }
-    painter_.drawImage(place, picture.picture->image(picture.picture->size()));
+    const QSize drawn = (place.size() / kTwipsPerPixel).toSize().expandedTo({1, 1});
+    // What is no photograph would be made one in a PDF file, which a printer often is.
+    painter_.setRenderHint(QPainter::LosslessImageRendering,
+                           picture.picture->format() != PictureFormat::Jpeg);
+    painter_.drawImage(place, picture.picture->image(printedPixels(*picture.picture, drawn)));
 }
 
 void PaperPainter::draw(const TextOperation& text) {

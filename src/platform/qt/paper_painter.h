@@ -12,8 +12,8 @@
 
 namespace platform {
 
-/// Draws sheets with a painter that prints: text as text, lines and drawings as curves. Mask fills
-/// are shown as `withoutMasks` says.
+/// Draws sheets with a painter that prints: text as text, lines as lines, drawings in pixels as
+/// fine as print. Mask fills are shown as `withoutMasks` says.
 class PaperPainter {
 public:
     /// The painter need not be active yet.

@@ -53,6 +53,13 @@ void nameFile(QPrinter& device) {
 } // namespace
 
 PrinterSetup::Outcome QtPrinterSetup::ask() {
+    if (printer_.isBusy()) {
+        prompter_.ask({QStringLiteral("Imprimer"),
+                       QStringLiteral("Une impression est en cours\u00A0: attendez qu’elle soit "
+                                      "terminée, ou arrêtez-la."),
+                       Message::Icon::Exclamation, Message::Buttons::Ok});
+        return Outcome::Busy;
+    }
     if (!speaksFrench_)
         loadFrenchTexts();
     speaksFrench_ = true;

@@ -9,7 +9,7 @@ class QDialog;
 namespace platform {
 
 /// Asks in the system's print dialog, or, where no printer is installed, in one of our own for a
-/// PDF file.
+/// PDF file. While a job is under way nothing is set up, which would cut it.
 class QtPrinterSetup : public PrinterSetup {
 public:
     /// `prompter` asks whether a file is to be replaced, and says what is wrong with its name.

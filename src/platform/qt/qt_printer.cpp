@@ -49,7 +49,7 @@ private:
     int sheets_ = 0;
 };
 
-QtPrinter::QtPrinter(const FontBook& fonts) : fonts_(fonts) {}
+QtPrinter::QtPrinter(const FontBook& fonts, PdfPrinterMaker pdf) : fonts_(fonts), makePdf_(pdf) {}
 QtPrinter::~QtPrinter() = default;
 
 QPrinter& QtPrinter::device() const {
@@ -71,9 +71,23 @@ Paper QtPrinter::paper() const {
 }
 
 bool QtPrinter::begin(const QString& title) {
-    job_.reset();
+    if (isBusy())
+        return false;
     error_.clear();
-    device().setDocName(title);
+    if (makePdf_ && device().outputFormat() == QPrinter::PdfFormat)
+        pdf_ = makePdf_(device().outputFileName(), fonts_, paper());
+    if (!pdf_) {
+        device().setDocName(title);
+        return beginOnDevice();
+    }
+    if (pdf_->begin(title))
+        return true;
+    error_ = pdf_->error();
+    pdf_.reset();
+    return false;
+}
+
+bool QtPrinter::beginOnDevice() {
     job_ = std::make_unique<Job>(device(), fonts_);
     if (job_->begin())
         return true;
@@ -83,19 +97,24 @@ bool QtPrinter::begin(const QString& title) {
 }
 
 bool QtPrinter::print(const Sheet& sheet) {
-    if (!job_ || !error_.isEmpty())
+    if (!isBusy() || !error_.isEmpty())
         return false;
-    if (!job_->print(sheet, paper()))
+    const bool isPrinted = pdf_ ? pdf_->print(sheet) : job_->print(sheet, paper());
+    if (!isPrinted)
         error_ = QStringLiteral("l’impression a été interrompue");
-    return error_.isEmpty();
+    return isPrinted;
 }
 
 bool QtPrinter::end() {
-    if (!job_)
+    if (!isBusy())
         return false;
-    if (!job_->end() && error_.isEmpty())
+    const bool isEnded = pdf_ ? pdf_->end() : job_->end();
+    if (!isEnded && pdf_)
+        error_ = pdf_->error();
+    if (!isEnded && error_.isEmpty())
         error_ = QStringLiteral("l’impression a été interrompue");
     job_.reset();
+    pdf_.reset();
     return error_.isEmpty();
 }
 

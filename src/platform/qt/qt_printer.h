@@ -9,13 +9,22 @@ class QPrinter;
 
 namespace platform {
 
+/// What writes a job into a PDF file. Null when there is no such thing.
+using PdfPrinterMaker = std::unique_ptr<Printer> (*)(const QString& path, const FontBook& fonts,
+                                                     const Paper& paper);
+
 /// The printer of the system that was chosen last, or a PDF file. What was chosen holds until the
 /// program ends. Looking for printers takes time, so nothing is done before the first use.
 class QtPrinter : public Printer {
 public:
-    /// `fonts` must be the one that the sheets are laid out with, and outlive the printer.
-    explicit QtPrinter(const FontBook& fonts);
+    /// `fonts` must be the one that the sheets are laid out with, and outlive the printer. PDF
+    /// files are written by what `pdf` makes: in those of the toolkit the letters of sign faces can
+    /// be read, but not found. Without it, and where it makes nothing, they are the toolkit's.
+    explicit QtPrinter(const FontBook& fonts, PdfPrinterMaker pdf = nullptr);
     ~QtPrinter() override;
+
+    /// Whether a job is under way: the printer takes one at a time.
+    bool isBusy() const { return job_ != nullptr || pdf_ != nullptr; }
 
     /// For the dialogs that set it up; not while a job is under way.
     QPrinter& device() const;
@@ -29,9 +38,13 @@ public:
 private:
     class Job;
 
+    bool beginOnDevice();
+
     const FontBook& fonts_;
+    PdfPrinterMaker makePdf_;
     mutable std::unique_ptr<QPrinter> device_;
     std::unique_ptr<Job> job_;
+    std::unique_ptr<Printer> pdf_; ///< takes the job's place where that is a file
     QString error_;
 };
 

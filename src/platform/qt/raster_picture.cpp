@@ -1,5 +1,6 @@
 #include "platform/qt/raster_picture.h"
 
+#include "platform/qt/decoded_cache.h"
 #include "platform/qt/picture_file.h"
 
 #include <QBuffer>
@@ -9,8 +10,7 @@ namespace platform {
 
 namespace {
 
-/// Pictures up to this many pixels (4 MB each) are kept: every page's are smaller.
-constexpr qint64 kKeptPixels = 1'000'000;
+using decoded::Part;
 
 /// Scans of a progressive JPEG. Ten are usual; each takes the time of the whole picture, and a
 /// small file can ask for thousands.
@@ -52,10 +52,6 @@ QImage decode(QByteArray bytes, PictureFormat format, QSize pixels = {}) {
     return inScreenFormat(reader.read());
 }
 
-bool isKept(const QImage& image) {
-    return qint64(image.width()) * image.height() <= kKeptPixels;
-}
-
 } // namespace
 
 std::shared_ptr<const RasterPicture> RasterPicture::read(const QByteArray& bytes,
@@ -66,25 +62,53 @@ std::shared_ptr<const RasterPicture> RasterPicture::read(const QByteArray& bytes
     return std::make_shared<RasterPicture>(bytes, format, pixels);
 }
 
+QSize RasterPicture::toldSize(const QByteArray& bytes, PictureFormat format) {
+    QByteArray read = bytes;
+    QBuffer buffer(&read);
+    QImageReader reader(&buffer, readerName(format));
+    reader.setAutoDetectImageFormat(false);
+    return isPictureSize(reader.size()) ? reader.size() : QSize(0, 0);
+}
+
+bool RasterPicture::isReadable(const QByteArray& bytes, PictureFormat format) {
+    return isPictureSize(decode(bytes, format).size());
+}
+
 RasterPicture::RasterPicture(const QByteArray& bytes, PictureFormat format, const QImage& pixels)
     : bytes_(bytes), format_(format), size_(pixels.size()) {
-    if (isKept(pixels))
-        own_ = pixels;
+    decoded::keepPixels(this, Part::Own, pixels);
+}
+
+RasterPicture::~RasterPicture() {
+    decoded::forget(this);
+}
+
+/// In its own size, where that is small enough to be kept.
+QImage RasterPicture::own() const {
+    if (4 * qint64(size_.width()) * size_.height() > kMostKeptBytes)
+        return {};
+    QImage pixels = decoded::findPixels(this, Part::Own, size_);
+    if (pixels.isNull()) {
+        pixels = decode(bytes_, format_);
+        decoded::keepPixels(this, Part::Own, pixels);
+    }
+    return pixels;
 }
 
 QImage RasterPicture::image(QSize pixels) const {
     if (!isPictureSize(pixels))
         return {};
-    if (pixels == own_.size())
-        return own_;
-    if (pixels == last_.size())
-        return last_;
-    QImage image = own_.isNull()
+    if (QImage last = decoded::findPixels(this, Part::Drawn, pixels); !last.isNull())
+        return last;
+    const QImage own = this->own();
+    if (pixels == own.size())
+        return own;
+    QImage image = own.isNull()
                        ? decode(bytes_, format_, pixels)
-                       : own_.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+                       : own.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     // Scaling may leave another format behind.
     image = inScreenFormat(image);
-    last_ = isKept(image) ? image : QImage();
+    decoded::keepPixels(this, Part::Drawn, image);
     return image;
 }
 

@@ -1,24 +1,61 @@
 #include "platform/qt/svg_guard.h"
 
 #include "platform/qt/picture_file.h"
+#include "platform/qt/raster_picture.h"
 #include "platform/qt/svg_size.h"
+#include "platform/qt/svg_source.h"
 
-#include <QBuffer>
 #include <QHash>
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
+#include <algorithm>
+#include <initializer_list>
 #include <vector>
 
 namespace platform {
 
 namespace {
 
+bool isOneOf(const QString& name, std::initializer_list<QLatin1String> names) {
+    return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+bool isText(const QString& element) {
+    return isOneOf(element, {QLatin1String("text"), QLatin1String("tspan"),
+                             QLatin1String("textArea"), QLatin1String("tbreak")});
+}
+
+/// What makes no part of a picture that stands still.
+bool isLeftOut(const QString& element) {
+    return isOneOf(element, {QLatin1String("script"), QLatin1String("set")}) ||
+           element.startsWith(QLatin1String("animate"));
+}
+
+/// Values that are as long as the drawing needs.
+bool mayBeLong(QStringView attribute) {
+    return attribute == QLatin1String("d") || attribute == QLatin1String("points") ||
+           attribute.endsWith(QLatin1String("href"));
+}
+
+/// Words of a style sheet: selectors, properties, values.
+qint64 wordsOf(QStringView styles) {
+    qint64 words = 0;
+    bool isInWord = false;
+    for (const QChar c : styles) {
+        const bool separates = c.isSpace() || QLatin1String("{},;:>+[].#").contains(c);
+        words += !separates && !isInWord;
+        isInWord = !separates;
+    }
+    return words;
+}
+
 /// How an SVG's elements hold and use each other.
 class UseGraph {
 public:
-    /// Takes an element as it begins; false when there are too many, too deep.
-    bool begin(const QString& id, const QString& uses) {
+    /// Takes an element as it begins; false when there are too many, too deep. `weight`: as many
+    /// elements it counts when it is drawn.
+    bool begin(const QString& id, const QString& uses, int weight) {
         const int index = static_cast<int>(nodes_.size());
         if (index >= kMaxSvgElements || open_.size() >= kMaxSvgDepth)
             return false;
@@ -26,12 +63,20 @@ public:
             nodes_[open_.back()].children.push_back(index);
         if (!id.isEmpty())
             ids_.insert(id, index);
-        nodes_.push_back({uses, 1, {}, Node::State::Unknown});
+        nodes_.push_back({uses, weight, {}, Node::State::Unknown});
         open_.push_back(static_cast<std::size_t>(index));
         return true;
     }
 
     void end() { open_.pop_back(); }
+
+    /// Makes the element that is open heavier.
+    void add(qint64 weight) {
+        if (!open_.empty())
+            nodes_[open_.back()].drawn += static_cast<int>(weight);
+    }
+
+    qint64 elements() const { return static_cast<qint64>(nodes_.size()); }
 
     /// Whether the whole comes to an end, within the bounds.
     bool isBounded() { return !nodes_.empty() && add(0, 0); }
@@ -53,6 +98,8 @@ private:
         if (node.state == Node::State::Added)
             return true;
         if (node.state == Node::State::BeingAdded || nesting > kMaxNesting)
+            return false;
+        if (node.drawn > kMaxSvgUses)
             return false;
         node.state = Node::State::BeingAdded;
         for (const int child : node.children)
@@ -79,7 +126,7 @@ private:
 
 class Guard {
 public:
-    explicit Guard(const QByteArray& file) : reader_(file), writer_(&guarded_.source) {
+    explicit Guard(const QString& source) : reader_(source), writer_(&guarded_.source) {
         // Programs leave behind names of spaces that they do not declare.
         reader_.setNamespaceProcessing(false);
     }
@@ -87,9 +134,8 @@ public:
     std::optional<GuardedSvg> run() {
         while (!reader_.atEnd() && !refused_)
             take(reader_.readNext());
-        if (refused_ || reader_.hasError())
-            return std::nullopt;
-        if (!uses_.isBounded())
+        if (refused_ || reader_.hasError() || styleWords_ * elementWeight_ > kMaxSvgStyleWork ||
+            !uses_.isBounded())
             return std::nullopt;
         return guarded_;
     }
@@ -101,8 +147,15 @@ private:
         } else if (token == QXmlStreamReader::EndElement) {
             writer_.writeEndElement();
             uses_.end();
+            isInStyle_ = false;
+            textDepth_ -= isText(elementName());
         } else if (token == QXmlStreamReader::Characters) {
-            writer_.writeCharacters(reader_.text().toString());
+            const QString text = reader_.text().toString();
+            if (textDepth_ > 0)
+                uses_.add(text.size() / kSvgLettersToElement);
+            if (isInStyle_)
+                styleWords_ += wordsOf(text);
+            writer_.writeCharacters(text);
         }
     }
 
@@ -119,14 +172,18 @@ private:
             refused_ = true;
             return;
         }
-        if (name == QLatin1String("script")) {
+        if (isLeftOut(name)) {
             reader_.skipCurrentElement();
             return;
         }
+        isInStyle_ = name == QLatin1String("style");
+        textDepth_ += isText(name);
         writer_.writeStartElement(name);
         QString uses;
         for (const QXmlStreamAttribute& attribute : attributes) {
             const QString value = attribute.value().toString();
+            if (value.size() > kMaxSvgValue && !mayBeLong(attribute.qualifiedName()))
+                continue;
             if (isReference(attribute)) {
                 if (!mayRefer(name, value))
                     continue;
@@ -137,7 +194,10 @@ private:
         if (isFirst_)
             takeSize(attributes);
         isFirst_ = false;
-        refused_ = !uses_.begin(attributes.value(QLatin1String("id")).toString(), uses) || refused_;
+        const QString id = attributes.value(QLatin1String("id")).toString();
+        // Selectors are compared with each of an element's classes.
+        elementWeight_ += 1 + attributes.value(QLatin1String("class")).count(u' ');
+        refused_ = !uses_.begin(id, uses, isText(name) ? kSvgTextElements : 1) || refused_;
     }
 
     static bool isReference(const QXmlStreamAttribute& attribute) {
@@ -158,14 +218,13 @@ private:
         if (!value.startsWith(QLatin1String("data:")) || at < 0)
             return false;
         const QByteArray bytes = QByteArray::fromBase64(value.mid(at + encoded.size()).toLatin1());
-        if (pictureFormat(bytes) == PictureFormat::Svg)
+        const auto format = pictureFormat(bytes);
+        if (!format || format == PictureFormat::Svg)
             return false;
-        const auto picture = pictureFrom(bytes);
-        if (!picture)
-            return false;
-        pixelsInside_ += qint64(picture->size().width()) * picture->size().height();
-        refused_ = refused_ || pixelsInside_ > kMaxPicturePixels;
-        return true;
+        const QSize told = RasterPicture::toldSize(bytes, *format);
+        guarded_.pixels += qint64(told.width()) * told.height();
+        refused_ = refused_ || guarded_.pixels > kMaxPicturePixels;
+        return !refused_ && RasterPicture::isReadable(bytes, *format);
     }
 
     void takeSize(const QXmlStreamAttributes& attributes) {
@@ -180,7 +239,10 @@ private:
     GuardedSvg guarded_;
     QXmlStreamWriter writer_;
     UseGraph uses_;
-    qint64 pixelsInside_ = 0;
+    qint64 styleWords_ = 0;
+    qint64 elementWeight_ = 0;
+    bool isInStyle_ = false;
+    int textDepth_ = 0;
     bool isFirst_ = true;
     bool refused_ = false;
 };
@@ -190,7 +252,8 @@ private:
 std::optional<GuardedSvg> guardSvg(const QByteArray& file) {
     if (file.size() > kMaxSvgBytes)
         return std::nullopt;
-    return Guard(file).run();
+    const auto source = svgSource(file);
+    return source ? Guard(*source).run() : std::nullopt;
 }
 
 } // namespace platform

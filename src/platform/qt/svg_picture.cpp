@@ -1,11 +1,15 @@
 #include "platform/qt/svg_picture.h"
 
 #include "platform/qt/bounded_canvas.h"
+#include "platform/qt/decoded_cache.h"
+#include "platform/qt/drawing_thread.h"
 #include "platform/qt/picture_file.h"
 #include "platform/qt/svg_guard.h"
 
+#include <QBuffer>
 #include <QPainter>
 #include <QSvgRenderer>
+#include <QXmlStreamReader>
 
 #include <algorithm>
 #include <cmath>
@@ -14,10 +18,13 @@ namespace platform {
 
 namespace {
 
-/// Pictures up to this many pixels (4 MB each) are kept.
-constexpr qint64 kKeptPixels = 1'000'000;
+using decoded::Part;
 
 constexpr double kLargestSide = 1e6;
+
+/// What a drawing takes in memory, to a byte of its file; measured with long paths.
+constexpr qint64 kBytesPerByte = 8;
+constexpr qint64 kBytesPerPixel = 4;
 
 QSize wholePixels(QSizeF size) {
     const auto side = [](double length) {
@@ -26,47 +33,105 @@ QSize wholePixels(QSizeF size) {
     return {side(size.width()), side(size.height())};
 }
 
+/// A file that ends where reading it is given up.
+class Interruptible : public QBuffer {
+public:
+    Interruptible(const QByteArray& bytes, const GivenUp& givenUp) : givenUp_(givenUp) {
+        setData(bytes);
+        open(ReadOnly);
+    }
+
+protected:
+    qint64 readData(char* to, qint64 count) override {
+        return givenUp_ ? -1 : QBuffer::readData(to, std::min(count, kStep));
+    }
+
+private:
+    static constexpr qint64 kStep = 4096;
+
+    const GivenUp& givenUp_;
+};
+
 } // namespace
 
+struct SvgPicture::Drawing {
+    QSvgRenderer renderer;
+    QSize size;
+    qint64 bytes = 0; ///< that it takes
+
+    /// Null when there is nothing to be drawn.
+    static std::shared_ptr<Drawing> read(const QByteArray& file, const GivenUp& givenUp) {
+        const auto guarded = guardSvg(file);
+        if (!guarded || givenUp)
+            return nullptr;
+        auto drawing = std::make_shared<Drawing>();
+        Interruptible source(guarded->source, givenUp);
+        QXmlStreamReader reader(&source);
+        if (!drawing->renderer.load(&reader))
+            return nullptr;
+        // Given sizes stretch a drawing like any other picture.
+        drawing->renderer.setAspectRatioMode(Qt::IgnoreAspectRatio);
+        drawing->size = wholePixels(
+            guarded->size.isEmpty() ? QSizeF(drawing->renderer.defaultSize()) : guarded->size);
+        drawing->bytes = guarded->source.size() * kBytesPerByte + guarded->pixels * kBytesPerPixel;
+        return drawing;
+    }
+};
+
 std::shared_ptr<const SvgPicture> SvgPicture::read(const QByteArray& bytes) {
-    const auto guarded = guardSvg(bytes);
-    if (!guarded)
+    auto picture = std::make_shared<SvgPicture>(bytes);
+    const auto size = std::make_shared<QSize>();
+    const bool isRead =
+        picture->use([size](Drawing& drawing, const GivenUp&) { *size = drawing.size; });
+    if (!isRead || !isPictureSize(*size))
         return nullptr;
-    auto renderer = std::make_unique<QSvgRenderer>(guarded->source);
-    if (!renderer->isValid())
-        return nullptr;
-    // Given sizes stretch a drawing like any other picture.
-    renderer->setAspectRatioMode(Qt::IgnoreAspectRatio);
-    const QSize size =
-        wholePixels(guarded->size.isEmpty() ? QSizeF(renderer->defaultSize()) : guarded->size);
-    if (!isPictureSize(size))
-        return nullptr;
-    return std::make_shared<SvgPicture>(bytes, std::move(renderer), size);
+    picture->size_ = *size;
+    return picture;
 }
 
-SvgPicture::SvgPicture(const QByteArray& bytes, std::unique_ptr<QSvgRenderer> renderer, QSize size)
-    : bytes_(bytes), renderer_(std::move(renderer)), size_(size) {}
+SvgPicture::~SvgPicture() {
+    decoded::forget(this);
+}
 
-SvgPicture::~SvgPicture() = default;
-
-void SvgPicture::draw(QPainter& painter, const QRectF& place) const {
-    painter.save();
-    renderer_->render(&painter, place);
-    painter.restore();
+bool SvgPicture::use(const Task& task) const {
+    if (isHopeless_)
+        return false;
+    const auto kept = std::static_pointer_cast<const Drawing>(decoded::find(this, Part::Drawing));
+    // Nobody else uses it: a thread that is left behind keeps it, and no other gets it any more.
+    const auto drawing =
+        std::make_shared<std::shared_ptr<Drawing>>(std::const_pointer_cast<Drawing>(kept));
+    isHopeless_ = !doInTime([drawing, task, bytes = bytes_](const GivenUp& givenUp) {
+        if (!*drawing)
+            *drawing = Drawing::read(bytes, givenUp);
+        if (*drawing && !givenUp)
+            task(**drawing, givenUp);
+    });
+    if (isHopeless_) {
+        decoded::forget(this);
+        return false;
+    }
+    if (*drawing)
+        decoded::keep(this, Part::Drawing, *drawing, (*drawing)->bytes);
+    return *drawing != nullptr;
 }
 
 QImage SvgPicture::image(QSize pixels) const {
     if (!isPictureSize(pixels))
         return {};
-    if (pixels == last_.size())
-        return last_;
-    BoundedCanvas canvas(pixels);
-    QPainter painter(&canvas);
-    renderer_->render(&painter, QRectF(QPointF(), pixels));
-    painter.end();
-    const bool isKept = qint64(pixels.width()) * pixels.height() <= kKeptPixels;
-    last_ = isKept ? canvas.image() : QImage();
-    return canvas.image();
+    if (QImage last = decoded::findPixels(this, Part::Drawn, pixels); !last.isNull())
+        return last;
+    const auto image = std::make_shared<QImage>();
+    const bool isDrawn = use([image, pixels](Drawing& drawing, const GivenUp& givenUp) {
+        BoundedCanvas canvas(pixels, givenUp);
+        QPainter painter(&canvas);
+        drawing.renderer.render(&painter, QRectF(QPointF(), pixels));
+        painter.end();
+        *image = canvas.image();
+    });
+    if (!isDrawn)
+        return {};
+    decoded::keepPixels(this, Part::Drawn, *image);
+    return *image;
 }
 
 } // namespace platform

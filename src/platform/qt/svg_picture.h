@@ -2,21 +2,22 @@
 
 #include "platform/picture.h"
 
+#include <atomic>
+#include <functional>
 #include <memory>
 
-class QPainter;
-class QRectF;
 class QSvgRenderer;
 
 namespace platform {
 
-/// A drawing, drawn in the size that is asked for.
+/// A drawing, drawn in the size that is asked for. What of it takes too long, reading or drawing,
+/// is given up (drawing_thread.h): it is no picture then, or one that shows nothing from there on.
 class SvgPicture : public Picture {
 public:
     /// Null when it is no SVG that can be drawn.
     static std::shared_ptr<const SvgPicture> read(const QByteArray& bytes);
 
-    SvgPicture(const QByteArray& bytes, std::unique_ptr<QSvgRenderer> renderer, QSize size);
+    explicit SvgPicture(const QByteArray& bytes) : bytes_(bytes) {}
     ~SvgPicture() override;
 
     QSize size() const override { return size_; }
@@ -24,14 +25,17 @@ public:
     PictureFormat format() const override { return PictureFormat::Svg; }
     const QByteArray& bytes() const override { return bytes_; }
 
-    /// Draws it as curves, for devices that keep them.
-    void draw(QPainter& painter, const QRectF& place) const;
-
 private:
+    struct Drawing;
+    using Task = std::function<void(Drawing& drawing, const std::atomic<bool>& givenUp)>;
+
+    /// Hands the drawing, read anew where it is not kept any more, to `task` on another thread.
+    /// False when there is none, or it took too long.
+    bool use(const Task& task) const;
+
     QByteArray bytes_;
-    std::unique_ptr<QSvgRenderer> renderer_;
     QSize size_;
-    mutable QImage last_; ///< in the size asked for last; null when that was large
+    mutable bool isHopeless_ = false; ///< it has taken too long
 };
 
 } // namespace platform

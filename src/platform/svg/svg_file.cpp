@@ -1,6 +1,7 @@
 #include "platform/svg/svg_file.h"
 
 #include "platform/ink_area.h"
+#include "platform/masked_pictures.h"
 #include "platform/multiply_inks.h"
 #include "platform/svg/svg_text.h"
 #include "platform/twips.h"
@@ -126,10 +127,11 @@ public:
                   ClipStore& clips, QByteArray& out)
         : surface_(surface), metrics_(metrics), pictures_(pictures), clips_(clips), out_(out) {}
 
-    /// `ink` is the operation's own where mask fills multiply. What stands on no part of the
-    /// surface is left out.
-    void write(const Operation& operation, QRgb ink) {
+    /// `ink` and `masked` are the operation's own where mask fills multiply; `masked` may be null.
+    /// What stands on no part of the surface is left out.
+    void write(const Operation& operation, QRgb ink, const Picture* masked) {
         ink_ = ink;
+        masked_ = masked;
         std::visit(
             [this](const auto& drawn) {
                 if constexpr (requires { inkArea(drawn, surface_, metrics_); }) {
@@ -205,7 +207,7 @@ public:
     void operator()(const PictureOperation& picture) const {
         if (!picture.picture || !near(picture.x, picture.y, picture.width, picture.height))
             return;
-        const QByteArray name = pictures_.name(*picture.picture);
+        const QByteArray name = pictures_.name(masked_ ? *masked_ : *picture.picture);
         if (name.isEmpty())
             return;
         const Place place = onScreen(picture.x, picture.y, picture.width, picture.height);
@@ -302,13 +304,15 @@ private:
     QByteArray& out_;
     QRgb ink_ = 0;
     QRectF area_; ///< of the operation at hand
+    const Picture* masked_ = nullptr;
 };
 
 class DocumentWriter {
 public:
     DocumentWriter(const Sheet& sheet, const TextMetrics& metrics, const LinkAddress& address)
         : sheet_(sheet), metrics_(metrics), address_(address),
-          inks_(multiplyInks(sheet.operations, metrics)) {}
+          inks_(multiplyInks(sheet.operations, metrics)),
+          masked_(maskedPictures(sheet.operations, multipliedInk)) {}
 
     QByteArray write(double scale) {
         for (const PlacedSurface& surface : sheet_.surfaces)
@@ -337,9 +341,13 @@ private:
         body_ += "<g transform=\"translate(" + pixels(surface.x) + ' ' + pixels(surface.y) +
                  ")\" clip-path=\"" + clips_.reference(withInkMargin(size)) + "\">\n";
         ElementWriter elements(size, metrics_, pictures_, clips_, body_);
-        for (std::size_t i = 0; i < sheet_.operations.size(); ++i)
-            if (surfaceOf(sheet_.operations[i]) == surface.surface)
-                elements.write(sheet_.operations[i], inks_[i]);
+        for (std::size_t i = 0; i < sheet_.operations.size(); ++i) {
+            if (surfaceOf(sheet_.operations[i]) != surface.surface)
+                continue;
+            const auto masked = masked_.find(i);
+            elements.write(sheet_.operations[i], inks_[i],
+                           masked == masked_.end() ? nullptr : masked->second.get());
+        }
         for (const LinkArea& area : sheet_.links)
             if (area.surface == surface.surface)
                 if (const QString to = address_ ? address_(area.tag) : QString(); !to.isEmpty())
@@ -351,6 +359,7 @@ private:
     const TextMetrics& metrics_;
     const LinkAddress& address_;
     std::vector<QRgb> inks_;
+    std::map<std::size_t, std::shared_ptr<const Picture>> masked_;
     PictureStore pictures_;
     ClipStore clips_;
     QByteArray body_;
