@@ -17,14 +17,6 @@ bool isLong(ColumnType type) {
     return type == ColumnType::Memo || type == ColumnType::Ole;
 }
 
-void decode(Bytes bytes, TextForm form, std::string& out) {
-    decodeTextUtf8(bytes, form, out);
-}
-
-void decode(Bytes bytes, TextForm form, TextSink& out) {
-    decodeText(bytes, form, out);
-}
-
 } // namespace
 
 /// The record a visit has come to.
@@ -44,8 +36,8 @@ public:
         return value;
     }
 
-    Result<bool> appendUtf8(std::size_t column, std::string& out) override {
-        return reader_.decodeCellText(*live_, column, out);
+    Result<void> read(std::size_t column, Value& into) override {
+        return reader_.readCell(*live_, column, into);
     }
 
     Result<bool> readText(std::size_t column, TextSink& out) override {
@@ -220,14 +212,13 @@ Result<void> TableReader::readCell(const LiveRow& live, std::size_t column, Valu
     return {};
 }
 
-template <class Out>
-Result<bool> TableReader::decodeCellText(const LiveRow& live, std::size_t column, Out& out) {
+Result<bool> TableReader::decodeCellText(const LiveRow& live, std::size_t column, TextSink& out) {
     if (isNull(live.row, column) || !isText(columns()[column].type))
         return false;
     const auto stored = cellBytes(live.row, column);
     if (!stored)
         return cellFailure(live, column, stored.error());
-    decode(stored->bytes, textForm(column), out);
+    decodeText(stored->bytes, textForm(column), out);
     return true;
 }
 

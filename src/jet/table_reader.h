@@ -39,8 +39,7 @@ private:
     TextForm textForm(std::size_t column) const;
     bool isNull(const Row& row, std::size_t column) const;
     Result<void> readCell(const LiveRow& live, std::size_t column, Value& into);
-    template <class Out>
-    Result<bool> decodeCellText(const LiveRow& live, std::size_t column, Out& out);
+    Result<bool> decodeCellText(const LiveRow& live, std::size_t column, TextSink& out);
     std::optional<Bytes> plainBytes(const Row& row, std::size_t column) const;
     Result<LongValues::Value> cellBytes(const Row& row, std::size_t column);
     Failure cellFailure(const LiveRow& live, std::size_t column, const Failure& failure) const;
