@@ -11,7 +11,7 @@ namespace {
 
 constexpr char32_t kReplacement = 0xFFFD;
 /// Texts go through a buffer on the stack in stretches of so many units or bytes.
-constexpr std::size_t kStretch = 1024;
+constexpr std::size_t kStretch = 2048;
 /// Room for a stretch, and for a replacement that the unit before it left to be written.
 constexpr std::size_t kBuffer = (kStretch + 1) * kLongest + kOverrun;
 

@@ -51,7 +51,7 @@ TEST(JsonValues, haveTheirFormats) {
 }
 
 TEST(JsonStrings, areEscapedWhereverTheCharacterStands) {
-    // Blocks of sixteen bytes and pieces of a thousand: each place in them, and each neighbour.
+    // Blocks of sixteen bytes and pieces of two thousand: each place in them, and each neighbour.
     for (const auto& [c, escape] : {std::pair{'"', "\\\""},
                                     {'\\', "\\\\"},
                                     {'\n', "\\n"},
@@ -59,7 +59,7 @@ TEST(JsonStrings, areEscapedWhereverTheCharacterStands) {
                                     {'\t', "\\t"},
                                     {'\0', "\\u0000"},
                                     {'\x1F', "\\u001f"}}) {
-        for (std::size_t place = 0; place < 1040; place += place < 40 || place > 1000 ? 1 : 97) {
+        for (std::size_t place = 0; place < 2080; place += place < 40 || place > 2020 ? 1 : 97) {
             const std::string before(place, '\x20');
             const std::string after = "!#[]\x7F\xC3\xA9\xFF";
             std::string out;
