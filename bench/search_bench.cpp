@@ -50,8 +50,11 @@ std::vector<Page> pagesOf(const char* file) {
     const std::size_t fpc = *table->columnIndex(u"fpc");
     table->visit(
         [&](jet::RecordView& record) {
-            Page& page = pages.emplace_back();
-            return *record.appendUtf8(titre, page.title) && *record.appendUtf8(fpc, page.source);
+            const auto text = [&](std::size_t column) {
+                return jet::toUtf8(*record.value(column)->text());
+            };
+            pages.push_back({text(titre), text(fpc)});
+            return true;
         },
         1);
     return pages;

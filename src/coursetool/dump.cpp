@@ -1,10 +1,13 @@
 #include "coursetool/dump.h"
 
-#include "coursetool/json_text.h"
+#include "coursetool/json_number.h"
+#include "coursetool/json_string.h"
 #include "coursetool/paths.h"
 #include "jet/unicode.h"
 #include "jet/value_text.h"
 
+#include <charconv>
+#include <limits>
 #include <type_traits>
 
 namespace coursetool {
@@ -18,7 +21,8 @@ void append(std::string_view utf8, std::string& out) {
 template <class Number>
 void appendContent(const Number& number, std::string& out) {
     static_assert(std::is_integral_v<Number>);
-    out += std::to_string(number);
+    char digits[std::numeric_limits<Number>::digits10 + 2]; // one more digit, and a sign
+    out.append(digits, std::to_chars(digits, digits + sizeof digits, number).ptr);
 }
 void appendContent(std::monostate, std::string& out) {
     out += "null";
@@ -93,20 +97,21 @@ private:
     }
 
     bool writeText(jet::RecordView& record, std::size_t column, std::string& line) {
-        cell_.clear();
-        const auto present = record.appendUtf8(column, cell_);
-        if (!present)
-            return tell(present.error(), record.position());
-        if (*present)
-            append(cell_, line);
-        return *present;
+        const std::size_t before = line.size();
+        JsonString text(line);
+        const auto present = record.readText(column, text);
+        if (present && *present) {
+            text.close();
+            return true;
+        }
+        line.resize(before);
+        return present ? false : tell(present.error(), record.position());
     }
 
     bool writeValue(jet::RecordView& record, std::size_t column, std::string& line) {
-        const auto value = record.value(column);
-        if (!value)
-            return tell(value.error(), record.position());
-        appendJsonValue(*value, line);
+        if (const auto read = record.read(column, value_); !read)
+            return tell(read.error(), record.position());
+        appendJsonValue(value_, line);
         return true;
     }
 
@@ -119,7 +124,7 @@ private:
     jet::Table& table_;
     OutputBuffer& out_;
     std::vector<std::string> keys_;
-    std::string cell_;
+    jet::Value value_;
     jet::Problems damagedCells_;
 };
 

@@ -1,7 +1,7 @@
 #include "coursetool/field_text.h"
 
 #include "coursetool/field_value.h"
-#include "coursetool/json_text.h"
+#include "coursetool/json_number.h"
 #include "coursetool/toml_text.h"
 #include "jet/unicode.h"
 #include "jet/value_text.h"

@@ -24,7 +24,8 @@ public:
     std::error_code error() const { return error_; }
 
 private:
-    static constexpr std::size_t kPiece = 256 * 1024;
+    /// What a pipe takes at once, and little enough to stay in the processor's caches.
+    static constexpr std::size_t kPiece = 64 * 1024;
 
     std::FILE* stream_;
     bool toTerminal_;

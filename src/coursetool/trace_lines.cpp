@@ -1,6 +1,7 @@
 #include "coursetool/trace_lines.h"
 
-#include "coursetool/json_text.h"
+#include "coursetool/json_number.h"
+#include "coursetool/json_string.h"
 #include "jet/unicode.h"
 #include "platform/twips.h"
 

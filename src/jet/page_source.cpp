@@ -84,7 +84,7 @@ std::optional<Page> PageSource::page(std::uint32_t number) {
         const Block* found = cached(number);
         if (!found) {
             const std::uint32_t count = pagesToRead(number);
-            Block& block = oldestBlock();
+            Block& block = blockFor(count);
             if (!fill(block, number, count))
                 return std::nullopt;
             found = &block;
@@ -106,13 +106,22 @@ const PageSource::Block* PageSource::cached(std::uint32_t number) const {
 std::uint32_t PageSource::pagesToRead(std::uint32_t number) const {
     const Block* before = number > 0 ? cached(number - 1) : nullptr;
     const std::uint32_t wanted = before ? before->count * 2 : 1;
-    const auto largest = static_cast<std::uint32_t>(kBlockBytes / format().pageSize);
-    return std::min({wanted, largest, pageCount_ - number});
+    return std::min({wanted, largestBlock(), pageCount_ - number});
 }
 
-PageSource::Block& PageSource::oldestBlock() {
-    return *std::min_element(blocks_.begin(), blocks_.end(),
-                             [](const Block& a, const Block& b) { return a.lastUse < b.lastUse; });
+std::uint32_t PageSource::largestBlock() const {
+    return static_cast<std::uint32_t>(kBlockBytes / format().pageSize);
+}
+
+/// The oldest block, or the oldest full one when there are enough for a walk.
+PageSource::Block& PageSource::blockFor(std::uint32_t count) {
+    const auto isFull = [&](const Block& block) { return block.count == largestBlock(); };
+    const bool isWalk =
+        count == largestBlock() && std::ranges::count_if(blocks_, isFull) >= kWalkBlocks;
+    const auto age = [&](const Block& block) {
+        return std::pair(isWalk && !isFull(block), block.lastUse);
+    };
+    return *std::ranges::min_element(blocks_, {}, age);
 }
 
 bool PageSource::fill(Block& block, std::uint32_t first, std::uint32_t count) {

@@ -6,6 +6,7 @@
 #include "jet/result.h"
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <memory>
@@ -50,6 +51,9 @@ private:
     static constexpr std::size_t kBlockBytes = 64 * 1024;
     /// All in all 1 MB at most, however large the file.
     static constexpr std::size_t kBlocks = 16;
+    /// Full blocks that a walk takes in turn: memory that was written a moment ago is still in the
+    /// processor's caches, and what was read before the walk stays (`bench/run jet`).
+    static constexpr std::ptrdiff_t kWalkBlocks = 4;
 
     struct Block {
         std::uint32_t first = 0;
@@ -65,7 +69,8 @@ private:
     PageSource(files::InputFile file, const Header& header);
     const Block* cached(std::uint32_t number) const;
     std::uint32_t pagesToRead(std::uint32_t number) const;
-    Block& oldestBlock();
+    std::uint32_t largestBlock() const;
+    Block& blockFor(std::uint32_t count);
     bool fill(Block& block, std::uint32_t first, std::uint32_t count);
     Page pageOf(const Block& block, std::uint32_t number) const;
 

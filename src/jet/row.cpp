@@ -82,13 +82,6 @@ std::size_t Row::variableOffset(std::size_t index) const {
     return stored + 256 * jumpsUpTo(index);
 }
 
-std::optional<Bytes> Row::fixedValue(std::size_t offset, std::size_t size) const {
-    const Bytes area = fixedArea();
-    if (!area.has(offset, size))
-        return std::nullopt;
-    return area.part(offset, size);
-}
-
 std::optional<Bytes> Row::variableValue(std::size_t index) const {
     if (index >= variableCount_)
         return Bytes();

@@ -30,7 +30,12 @@ public:
     }
 
     /// `size` bytes of the fixed area at `offset`; nothing when they reach out of it.
-    std::optional<Bytes> fixedValue(std::size_t offset, std::size_t size) const;
+    std::optional<Bytes> fixedValue(std::size_t offset, std::size_t size) const {
+        const Bytes area = fixedArea();
+        if (!area.has(offset, size))
+            return std::nullopt;
+        return area.part(offset, size);
+    }
     std::size_t columnCount() const { return columnCount_; }
     std::size_t variableCount() const { return variableCount_; }
     /// Behind the column count, up to the first variable value.

@@ -27,10 +27,10 @@ public:
     virtual std::size_t position() const = 0;
     virtual bool isNull(std::size_t column) = 0;
     virtual Result<Value> value(std::size_t column) = 0;
-    /// Appends a Text or Memo cell to `out` as UTF-8, without going through a Value; unpaired
-    /// surrogates become U+FFFD. False, and nothing appended, for NULL and for other types.
-    virtual Result<bool> appendUtf8(std::size_t column, std::string& out) = 0;
-    /// The same for those who have a use for the text as it is stored, and want no copy of it.
+    /// The same into a Value that is used again and again. A failure leaves it as it was.
+    virtual Result<void> read(std::size_t column, Value& into) = 0;
+    /// A Text or Memo cell as it is stored, without going through a Value. False, and nothing
+    /// given to `out`, for NULL and for other types, and on a failure too.
     virtual Result<bool> readText(std::size_t column, TextSink& out) = 0;
 };
 

@@ -6,6 +6,7 @@
 #include "jet/table_rows.h"
 #include "jet/text_codec.h"
 
+#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -39,8 +40,8 @@ private:
     TextForm textForm(std::size_t column) const;
     bool isNull(const Row& row, std::size_t column) const;
     Result<void> readCell(const LiveRow& live, std::size_t column, Value& into);
-    template <class Out>
-    Result<bool> decodeCellText(const LiveRow& live, std::size_t column, Out& out);
+    Result<bool> decodeCellText(const LiveRow& live, std::size_t column, TextSink& out);
+    std::optional<std::int32_t> longNumber(const Row& row, std::size_t column) const;
     std::optional<Bytes> plainBytes(const Row& row, std::size_t column) const;
     Result<LongValues::Value> cellBytes(const Row& row, std::size_t column);
     Failure cellFailure(const LiveRow& live, std::size_t column, const Failure& failure) const;

@@ -1,7 +1,5 @@
 #include "jet/text_codec.h"
 
-#include "jet/utf8_writer.h"
-
 #include <array>
 #include <cstddef>
 #include <cstring>
@@ -163,12 +161,6 @@ std::vector<std::uint8_t> compress(std::u16string_view text) {
 void decodeText(Bytes bytes, TextForm form, std::u16string& out) {
     Utf16Sink sink(out);
     decode(bytes, form, sink);
-}
-
-void decodeTextUtf8(Bytes bytes, TextForm form, std::string& out) {
-    Utf8Writer writer(out);
-    decode(bytes, form, writer);
-    writer.finish();
 }
 
 void decodeText(Bytes bytes, TextForm form, TextSink& out) {

@@ -20,8 +20,6 @@ enum class TextForm {
 
 /// Appends the text to `out` as it is stored, unpaired surrogates and NUL included.
 void decodeText(Bytes bytes, TextForm form, std::u16string& out);
-/// Appends the text to `out` as UTF-8; unpaired surrogates become U+FFFD.
-void decodeTextUtf8(Bytes bytes, TextForm form, std::string& out);
 /// Gives the text to `out` as it is stored.
 void decodeText(Bytes bytes, TextForm form, TextSink& out);
 

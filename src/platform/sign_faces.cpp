@@ -2,7 +2,12 @@
 
 #include <QFile>
 
+#include <algorithm>
 #include <array>
+#include <charconv>
+#include <cstdint>
+#include <string_view>
+#include <system_error>
 
 // Resources of a static library are found only after this, which no namespace may hold.
 static void initSignFaceResources() {
@@ -15,32 +20,44 @@ namespace {
 
 using Encoding = std::array<char32_t, 256>;
 
-/// Reads a table of code, Unicode value (both hexadecimal) and name, separated by tabs.
+/// Enters a line of a table: code, Unicode value (both hexadecimal) and name, separated by tabs.
+void enter(std::string_view line, Encoding& encoding) {
+    const char* const end = line.data() + line.size();
+    std::size_t code = 0;
+    const auto first = std::from_chars(line.data(), end, code, 16);
+    if (first.ec != std::errc() || code >= encoding.size() || first.ptr == end)
+        return;
+    std::uint32_t character = 0;
+    std::from_chars(first.ptr + 1, end, character, 16);
+    encoding[code] = character;
+}
+
+/// The first sign of a page waits for it: no pieces of it are copied.
 Encoding readEncoding(const QString& resource) {
     Encoding encoding{};
     initSignFaceResources();
     QFile file(resource);
     if (!file.open(QIODevice::ReadOnly))
         return encoding;
-    while (!file.atEnd()) {
-        const QByteArray line = file.readLine();
-        if (line.startsWith('#'))
-            continue;
-        const QList<QByteArray> cells = line.split('\t');
-        if (cells.size() < 2)
-            continue;
-        const uint code = cells[0].toUInt(nullptr, 16);
-        if (code < encoding.size())
-            encoding[code] = cells[1].toUInt(nullptr, 16);
+    const QByteArray bytes = file.readAll();
+    std::string_view rest(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    while (!rest.empty()) {
+        const std::string_view line = rest.substr(0, rest.find('\n'));
+        enter(line, encoding); // remarks begin with no number
+        rest.remove_prefix(std::min(line.size() + 1, rest.size()));
     }
     return encoding;
 }
 
 const Encoding& encoding(SignFace face) {
-    static const Encoding symbol = readEncoding(QStringLiteral(":/platform/symbol-encoding.tsv"));
+    if (face == SignFace::Symbol) {
+        static const Encoding symbol =
+            readEncoding(QStringLiteral(":/platform/symbol-encoding.tsv"));
+        return symbol;
+    }
     static const Encoding wingdings =
         readEncoding(QStringLiteral(":/platform/wingdings-encoding.tsv"));
-    return face == SignFace::Symbol ? symbol : wingdings;
+    return wingdings;
 }
 
 constexpr char32_t kLoopedPhi = U'\u03C6';

@@ -1,20 +1,15 @@
 #pragma once
 
 #include "jet/bytes.h"
+#include "text/vectors.h"
 
 #include <bit>
 #include <cstddef>
 #include <cstdint>
 
-#if defined(__SSE2__) || defined(_M_X64)
-#include <emmintrin.h>
-#define ORVALENTE_SSE2
-#endif
-
 namespace search {
 
-// The loops that take the time of a search, in the vector instructions that every 64-bit PC
-// has; on other machines as plain loops.
+// The loops that take the time of a search (`bench/run search`).
 
 /// Lower case in Latin-1: A to Z, and À to Þ but the multiplication sign.
 constexpr std::uint8_t foldedLatin(std::uint8_t c) {
@@ -24,10 +19,9 @@ constexpr std::uint8_t foldedLatin(std::uint8_t c) {
 
 #ifdef ORVALENTE_SSE2
 
-inline __m128i vectorAt(const void* bytes, std::size_t offset = 0) {
-    return _mm_loadu_si128(
-        reinterpret_cast<const __m128i*>(static_cast<const char*>(bytes) + offset));
-}
+using text::kVectorBytes;
+using text::putVector;
+using text::vectorAt;
 
 /// All ones where the byte is from `first` to `last`.
 inline __m128i isBetween(__m128i bytes, unsigned first, unsigned last) {
@@ -56,15 +50,13 @@ inline std::size_t foldLatin(jet::Bytes units, char* to) {
 #ifdef ORVALENTE_SSE2
     const __m128i beyond = _mm_set1_epi16(static_cast<short>(0xFF00));
     const std::uint8_t* const from = units.data();
-    constexpr std::size_t kLane = sizeof(__m128i);
-    for (; units.has(2 * done, 2 * kLane); done += kLane) {
+    for (; units.has(2 * done, 2 * kVectorBytes); done += kVectorBytes) {
         const __m128i first = vectorAt(from, 2 * done);
-        const __m128i second = vectorAt(from, 2 * done + kLane);
+        const __m128i second = vectorAt(from, 2 * done + kVectorBytes);
         const __m128i high = _mm_and_si128(_mm_or_si128(first, second), beyond);
         if (_mm_movemask_epi8(_mm_cmpeq_epi8(high, _mm_setzero_si128())) != 0xFFFF)
             break;
-        _mm_storeu_si128(reinterpret_cast<__m128i*>(to + done),
-                         foldedLatin(_mm_packus_epi16(first, second)));
+        putVector(foldedLatin(_mm_packus_epi16(first, second)), to + done);
     }
 #else
     for (; units.has(2 * done, 2) && units.u16(2 * done) <= 0xFF; ++done)
@@ -78,10 +70,9 @@ inline std::size_t foldLatin(jet::Bytes units, char* to) {
 inline std::size_t copyUnaccented(const char* from, std::size_t count, char* to) {
     std::size_t done = 0;
 #ifdef ORVALENTE_SSE2
-    constexpr std::size_t kLane = sizeof(__m128i);
-    for (; count - done >= kLane; done += kLane) {
+    for (; count - done >= kVectorBytes; done += kVectorBytes) {
         const __m128i bytes = vectorAt(from, done);
-        _mm_storeu_si128(reinterpret_cast<__m128i*>(to + done), bytes);
+        putVector(bytes, to + done);
         // A mask of the highest bits: those of bytes beyond ASCII and those of the comparison.
         const auto stops = static_cast<unsigned>(
             _mm_movemask_epi8(_mm_or_si128(bytes, isBetween(bytes, 'A', 'P'))));
@@ -104,21 +95,20 @@ inline constexpr std::size_t kPairsAtOnce = 64;
 inline std::uint64_t bytePairs(const char* a, char first, const char* b, char second) {
     std::uint64_t pairs = 0;
 #ifdef ORVALENTE_SSE2
-    constexpr std::size_t kLane = sizeof(__m128i);
     const __m128i firsts = _mm_set1_epi8(first);
     const __m128i seconds = _mm_set1_epi8(second);
-    __m128i both[kPairsAtOnce / kLane];
+    __m128i both[kPairsAtOnce / kVectorBytes];
     __m128i any = _mm_setzero_si128();
-    for (std::size_t i = 0; i < kPairsAtOnce / kLane; ++i) {
-        both[i] = _mm_and_si128(_mm_cmpeq_epi8(vectorAt(a, i * kLane), firsts),
-                                _mm_cmpeq_epi8(vectorAt(b, i * kLane), seconds));
+    for (std::size_t i = 0; i < kPairsAtOnce / kVectorBytes; ++i) {
+        both[i] = _mm_and_si128(_mm_cmpeq_epi8(vectorAt(a, i * kVectorBytes), firsts),
+                                _mm_cmpeq_epi8(vectorAt(b, i * kVectorBytes), seconds));
         any = _mm_or_si128(any, both[i]);
     }
     if (_mm_movemask_epi8(any) == 0)
         return 0;
-    for (std::size_t i = 0; i < kPairsAtOnce / kLane; ++i) {
+    for (std::size_t i = 0; i < kPairsAtOnce / kVectorBytes; ++i) {
         const auto bits = static_cast<std::uint32_t>(_mm_movemask_epi8(both[i]));
-        pairs |= std::uint64_t{bits} << (i * kLane);
+        pairs |= std::uint64_t{bits} << (i * kVectorBytes);
     }
 #else
     for (std::size_t i = 0; i < kPairsAtOnce; ++i)

@@ -34,7 +34,7 @@ constexpr int kMaxTyped = 100;
 } // namespace
 
 FindBar::FindBar(QWidget* parent)
-    : QWidget(parent), field_(new platform::look::TextField(this)),
+    : QWidget(parent),
       previous_(addButton("findPrevious", "up", QStringLiteral("Occurrence précédente (Maj+F3)"),
                           kPreviousX, &Actions::previous)),
       next_(addButton("findNext", "down", QStringLiteral("Occurrence suivante (F3)"), kNextX,
@@ -44,15 +44,6 @@ FindBar::FindBar(QWidget* parent)
     setObjectName(QStringLiteral("findBar"));
     setAccessibleName(QStringLiteral("Recherche dans la page"));
     setFixedSize(kWidth, kHeight);
-
-    field_->setObjectName(QStringLiteral("findField"));
-    field_->setFont(interfaceFont(kLabelPx));
-    field_->setPlaceholderText(QStringLiteral("Rechercher dans la page"));
-    field_->setAccessibleName(field_->placeholderText());
-    field_->setMaxLength(kMaxTyped);
-    field_->setGeometry(kField);
-    field_->installEventFilter(this);
-    connect(field_, &QLineEdit::textEdited, this, [this] { actions_.typed(); });
 
     status_->setObjectName(QStringLiteral("findStatus"));
     status_->setTextFormat(Qt::PlainText);
@@ -77,23 +68,41 @@ Button* FindBar::addButton(const char* name, const char* icon, const QString& to
     return button;
 }
 
+/// Made when it is first needed: loading the fonts of a text field would delay the first page.
+platform::look::TextField& FindBar::field() {
+    if (field_)
+        return *field_;
+    field_ = new platform::look::TextField(this);
+    field_->setObjectName(QStringLiteral("findField"));
+    field_->setFont(platform::look::interfaceFont(platform::look::kLabelPx));
+    field_->setPlaceholderText(QStringLiteral("Rechercher dans la page"));
+    field_->setAccessibleName(field_->placeholderText());
+    field_->setMaxLength(kMaxTyped);
+    field_->setGeometry(kField);
+    field_->installEventFilter(this);
+    connect(field_, &QLineEdit::textEdited, this, [this] { actions_.typed(); });
+    setTabOrder(this, field_); // before the buttons
+    field_->show();
+    return *field_;
+}
+
 QString FindBar::text() const {
-    return field_->text();
+    return field_ ? field_->text() : QString();
 }
 
 void FindBar::setText(const QString& text) {
-    field_->setText(text);
+    field().setText(text);
 }
 
 void FindBar::takeKeyboard() {
-    field_->setFocus(Qt::ShortcutFocusReason);
-    field_->selectAll();
+    field().setFocus(Qt::ShortcutFocusReason);
+    field().selectAll();
 }
 
 void FindBar::setStatus(const QString& words, bool found) {
     for (Button* button : {previous_, next_}) {
         if (button->hasFocus() && !found)
-            field_->setFocus();
+            field().setFocus();
         button->setEnabled(found);
     }
     if (words == status_->text())

@@ -49,9 +49,10 @@ protected:
 private:
     platform::look::Button* addButton(const char* name, const char* icon, const QString& toolTip,
                                       int x, std::function<void()> Actions::*action);
+    platform::look::TextField& field();
 
     Actions actions_;
-    platform::look::TextField* field_;
+    platform::look::TextField* field_ = nullptr;
     platform::look::Button* previous_;
     platform::look::Button* next_;
     QLabel* status_;

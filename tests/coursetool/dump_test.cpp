@@ -1,10 +1,14 @@
 #include "coursetool/dump.h"
-#include "coursetool/json_text.h"
+#include "coursetool/json_number.h"
+#include "coursetool/json_string.h"
 #include "coursetool/workspace.h"
+#include "jet/text_codec.h"
+#include "jet/unicode.h"
 
 #include <gmock/gmock.h>
 
 #include <limits>
+#include <random>
 
 namespace {
 
@@ -47,7 +51,7 @@ TEST(JsonValues, haveTheirFormats) {
 }
 
 TEST(JsonStrings, areEscapedWhereverTheCharacterStands) {
-    // Blocks of eight bytes and pieces of a thousand: each place in them, and each neighbour.
+    // Blocks of sixteen bytes and pieces of two thousand: each place in them, and each neighbour.
     for (const auto& [c, escape] : {std::pair{'"', "\\\""},
                                     {'\\', "\\\\"},
                                     {'\n', "\\n"},
@@ -55,13 +59,54 @@ TEST(JsonStrings, areEscapedWhereverTheCharacterStands) {
                                     {'\t', "\\t"},
                                     {'\0', "\\u0000"},
                                     {'\x1F', "\\u001f"}}) {
-        for (std::size_t place = 0; place < 1040; place += place < 20 || place > 1000 ? 1 : 97) {
+        for (std::size_t place = 0; place < 2080; place += place < 40 || place > 2020 ? 1 : 97) {
             const std::string before(place, '\x20');
             const std::string after = "!#[]\x7F\xC3\xA9\xFF";
             std::string out;
             coursetool::appendJsonString(before + c + c + after, out);
             ASSERT_EQ(out, '"' + before + escape + escape + after + '"') << place;
         }
+    }
+}
+
+std::string fromStored(const std::vector<std::uint8_t>& bytes, jet::TextForm form) {
+    std::string out;
+    coursetool::JsonString text(out);
+    jet::decodeText(bytes, form, text);
+    text.close();
+    return out;
+}
+
+TEST(JsonStrings, takePairsOfSurrogatesAndReplaceTheRest) {
+    const std::vector<std::uint8_t> bytes{0x3D, 0xD8, 0x3D, 0xD8, 0x00, 0xDE,
+                                          'x',  0,    0x00, 0xDE, 0x3D, 0xD8};
+    EXPECT_EQ(fromStored(bytes, jet::TextForm::Utf16), "\"\uFFFD\U0001F600x\uFFFD\uFFFD\"");
+    // The halves of a pair may come in two pieces, and one without the other before ASCII.
+    const std::vector<std::uint8_t> compressed{0xFF, 0xFE, 0,   0x3D, 0xD8, 0,    0, 0x01,
+                                               0xDE, 0,    'a', 0,    0x3D, 0xD8, 0, 'b'};
+    EXPECT_EQ(fromStored(compressed, jet::TextForm::Compressible), "\"\U0001F601a\uFFFDb\"");
+}
+
+TEST(JsonStrings, areTheSameFromUtf16AsFromUtf8) {
+    const std::u16string_view kinds[] = {u"une page sans rien d'autre ",
+                                         u"éàç\r\n",
+                                         u"\"\\\t",
+                                         u"\u0080\u07FF\u0800\uFFFF",
+                                         u"œ€’Ω漢ж",
+                                         u"\xD83D\xDE00",
+                                         u"\u0100a\u8022\u8041\u5C5C",
+                                         std::u16string_view(u"\0b", 2)};
+    std::mt19937 random(11);
+    for (int i = 0; i < 3000; ++i) {
+        std::u16string text;
+        const std::size_t length = random() % 2500;
+        while (text.size() < length)
+            text += kinds[random() % (i % 2 == 0 ? 3 : 8)].substr(0, 1 + random() % 30);
+        const auto stored = jet::encodeText(text, i % 3 != 0);
+        ASSERT_TRUE(stored);
+        std::string expected;
+        coursetool::appendJsonString(jet::toUtf8(text), expected);
+        ASSERT_EQ(fromStored(*stored, jet::TextForm::Compressible), expected);
     }
 }
 

@@ -1,6 +1,7 @@
 #include "jet/byte_writer.h"
 #include "jet/files.h"
 #include "jet/format.h"
+#include "jet/utf16_text.h"
 #include "jet/writing.h"
 
 #include <gmock/gmock.h>
@@ -383,9 +384,9 @@ TEST(DamagedFiles, giveOutNoMoreThanTheyCanHold) {
         for (std::size_t next = 0; next < 3000;) {
             read->visit(
                 [&, first = next](jet::RecordView& record) {
-                    std::string text;
-                    refused += record.appendUtf8(2, text) ? 0 : 1;
-                    total += 2 * text.size();
+                    Utf16Text stored;
+                    refused += record.readText(2, stored) ? 0 : 1;
+                    total += 2 * stored.text.size();
                     next = record.position() + 1;
                     return next < first + atATime;
                 },
