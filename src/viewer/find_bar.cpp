@@ -81,7 +81,13 @@ platform::look::TextField& FindBar::field() {
     field_->setGeometry(kField);
     field_->installEventFilter(this);
     connect(field_, &QLineEdit::textEdited, this, [this] { actions_.typed(); });
-    setTabOrder(this, field_); // before the buttons
+    // Behind the bar's last button, and then the buttons behind it.
+    setTabOrder(this, field_);
+    QWidget* before = field_;
+    for (QPushButton* button : findChildren<QPushButton*>()) {
+        setTabOrder(before, button);
+        before = button;
+    }
     field_->show();
     return *field_;
 }

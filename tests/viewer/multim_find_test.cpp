@@ -72,6 +72,9 @@ TEST_F(Find, SearchesWhileTypingAndWalksByKeysAndButtons) {
         EXPECT_EQ(status(), row.status) << row.key;
         EXPECT_EQ(scrolled(), row.status == u"1 sur 2" ? 0 : second);
     }
+    pressThere(Qt::Key_Tab);
+    EXPECT_EQ(focused(), u"findPrevious"_qs) << "the field comes before the buttons";
+    pressThere(Qt::Key_Backtab, Qt::ShiftModifier);
     click("findPrevious");
     EXPECT_EQ(status(), u"2 sur 2"_qs);
     EXPECT_EQ(focused(), u"findField"_qs);

@@ -137,6 +137,7 @@ public:
         if (refused_ || reader_.hasError() || styleWords_ * elementWeight_ > kMaxSvgStyleWork ||
             !uses_.isBounded())
             return std::nullopt;
+        guarded_.elements = uses_.elements();
         return guarded_;
     }
 

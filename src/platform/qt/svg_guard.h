@@ -12,6 +12,7 @@ struct GuardedSvg {
     QByteArray source; ///< UTF-8, with a view box where the file gives a size
     QSizeF size;       ///< in pixels; empty when the file does not tell
     qint64 pixels = 0; ///< of the pictures inside
+    qint64 elements = 0;
 };
 
 // What SVG files may cost, generous for drawings made by hand or by a program for plots.
