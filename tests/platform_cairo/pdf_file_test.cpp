@@ -44,7 +44,7 @@ TEST_F(PdfFile, textIsUnicodeInEveryFace) {
 TEST_F(PdfFile, oddLettersLeaveTheLaterOnesWhatTheyAre) {
     double y = 0;
     for (const char16_t* words :
-         {u"une\ttable\u0001ronde", u"deux mots", u"insé\u00ADcable", u"peut-être oui"}) {
+         {u"une\ttable \u0001ronde", u"deux mots", u"insé\u00ADcable", u"peut-être oui"}) {
         for (const char16_t* face : {u"Arial", u"Times new roman"})
             printIn(face, y += 300, QString::fromUtf16(words));
     }

@@ -3,6 +3,7 @@
 #include "viewer/page_code.h"
 #include "viewer/window_bench.h"
 
+#include <QCursor>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -29,6 +30,7 @@ inline QList<MemoryRecordset::Record> course() {
 class Window : public testing::Test {
 protected:
     Window() {
+        QCursor::setPos(kBesideTheWindow);
         bench.start();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&bench.window));
     }
@@ -43,6 +45,9 @@ protected:
     QString shown() const { return bench.bound.TextID; }
     /// How far the page is scrolled, in pixels.
     int scrolled() { return -bench.control<QWidget>("PictureTEXTE")->y(); }
+
+    /// Where no button lies under the pointer.
+    static constexpr QPoint kBesideTheWindow{799, 799};
 
     WindowBench bench{course()};
 };
