@@ -1,8 +1,7 @@
 #include "app/video_loader.h"
 
 #include "platform/module.h"
-
-#include <cstdio>
+#include "platform/terminal.h"
 
 namespace app {
 
@@ -11,8 +10,8 @@ std::unique_ptr<platform::Video> loadVideoDevice() {
     static const auto function = [] {
         auto found = platform::loadModuleFunction(ORVALENTE_VIDEO_MODULE, "orvalenteVideo");
         if (!found.address)
-            std::fprintf(stderr, "orvalente : les vidéos ne peuvent pas être lues : %s.\n",
-                         found.reason.c_str());
+            platform::tellOnTerminal(QStringLiteral("les vidéos ne peuvent pas être lues : %1")
+                                         .arg(QString::fromStdString(found.reason)));
         return reinterpret_cast<platform::Video* (*)()>(found.address);
     }();
     return std::unique_ptr<platform::Video>(function ? function() : nullptr);
