@@ -81,7 +81,8 @@ public:
         app_.set_version_flag("--version", "orvalente-cours " ORVALENTE_VERSION,
                               "Affiche la version");
         app_.footer("Code de sortie : 0 tout va bien, 1 des fautes dans le cours (sur la sortie "
-                    "d’erreur,\nfichier:ligne:colonne), 2 mauvais appel.");
+                    "d’erreur,\nfichier:ligne:colonne), 2 mauvais appel, 74 résultat impossible à "
+                    "écrire.");
 
         build_ = add("build", "Compile les sources d’un cours en un dossier d’installation");
         positional(build_, "SRC", typed_.from, "Dossier des sources");

@@ -1,9 +1,8 @@
 #include "app/course_data.h"
 
 #include "platform/jet_recordset.h"
+#include "platform/terminal.h"
 #include "viewer/page_loader.h"
-
-#include <cstdio>
 
 namespace app {
 
@@ -11,7 +10,7 @@ void CourseData::bind(const QString& path) {
     auto opened = platform::openRecordset(path, QStringLiteral("cours"));
     if (!opened) {
         // The window just stays empty; who looks for the reason finds it here.
-        std::fprintf(stderr, "orvalente : %s\n", opened.error().sentence.c_str());
+        platform::tellOnTerminal(QString::fromStdString(opened.error().sentence));
         return;
     }
     cours_ = std::move(*opened);

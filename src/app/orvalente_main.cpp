@@ -3,6 +3,7 @@
 #include "app/shell_application.h"
 #include "platform/qt/font_book.h"
 #include "platform/qt/held_keys.h"
+#include "platform/terminal.h"
 
 #include <QApplication>
 #include <QScreen>
@@ -35,8 +36,10 @@ double chooseScale(const app::CommandLine& line, int argc, char** argv) {
         return app::automaticScale(screen.width(), screen.height());
     const double scale = app::fittingScale(line.scale, screen.width(), screen.height());
     if (scale < line.scale)
-        std::fprintf(stderr, "orvalente : l’échelle %g ne tient pas sur l’écran ; %g à la place.\n",
-                     line.scale, scale);
+        platform::tellOnTerminal(
+            QStringLiteral("l’échelle %1 ne tient pas sur l’écran ; %2 à la place.")
+                .arg(line.scale)
+                .arg(scale));
     return scale;
 }
 
@@ -45,8 +48,8 @@ double chooseScale(const app::CommandLine& line, int argc, char** argv) {
 void warnOfMissingFaces() {
     const QStringList missing = platform::FontBook::missingFamilies();
     if (!missing.isEmpty())
-        std::fprintf(stderr, "orvalente : polices absentes, les pages en souffriront : %s.\n",
-                     qUtf8Printable(missing.join(QStringLiteral(", "))));
+        platform::tellOnTerminal(QStringLiteral("polices absentes, les pages en souffriront : %1.")
+                                     .arg(missing.join(QStringLiteral(", "))));
 }
 
 } // namespace

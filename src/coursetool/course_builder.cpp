@@ -121,8 +121,7 @@ void CourseBuilder::compileExercises() {
     for (const fs::directory_entry& entry : entriesOf(folder, report_)) {
         if (isFolderOf(source_, entry.path(), report_))
             compileTest(entry.path());
-        else if (!entry.is_directory(error) &&
-                 !shown(entry.path().filename()).starts_with('.'))
+        else if (!entry.is_directory(error) && !shown(entry.path().filename()).starts_with('.'))
             report_.warning({shown(entry.path())},
                             "laissé de côté : les questions sont dans un dossier par test");
     }

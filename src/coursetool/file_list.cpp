@@ -69,7 +69,8 @@ std::vector<fs::directory_entry> entriesOf(const fs::path& directory, Report& re
     for (fs::directory_iterator it(directory, error), end; !error && it != end; it.increment(error))
         entries.push_back(*it);
     if (error)
-        report.fault({shown(directory)}, "le dossier ne peut pas être lu : " + files::causeOf(error));
+        report.fault({shown(directory)},
+                     "le dossier ne peut pas être lu : " + files::causeOf(error));
     std::sort(entries.begin(), entries.end(), [](const auto& a, const auto& b) {
         return a.path().u8string() < b.path().u8string();
     });

@@ -111,8 +111,9 @@ private:
         if (description.find("redefine") != std::string_view::npos)
             report_.fault(place(at), "ce champ est déjà donné plus haut : n’en garder qu’un");
         else
-            report_.fault(place(at), inQuotes(shortened(line)) + " ne se lit pas : écrire « champ = valeur », "
-                                                      "un texte entre guillemets");
+            report_.fault(place(at), inQuotes(shortened(line)) +
+                                         " ne se lit pas : écrire « champ = valeur », "
+                                         "un texte entre guillemets");
     }
 
     static std::vector<Entry> inLineOrder(const toml::table& table) {
@@ -158,14 +159,15 @@ private:
         std::string names;
         for (const FieldRule& rule : rules_) {
             if (jet::sameName(jet::toUtf16(rule.name), jet::toUtf16(key.str()))) {
-                report_.fault(place(key.source().begin), "champ inconnu " + inQuotes(shortened(key.str())) +
+                report_.fault(place(key.source().begin), "champ inconnu " +
+                                                             inQuotes(shortened(key.str())) +
                                                              " : écrire " + inQuotes(rule.name));
                 return;
             }
             names.append(names.empty() ? "" : ", ").append(rule.name);
         }
-        report_.fault(place(key.source().begin),
-                      "champ inconnu " + inQuotes(shortened(key.str())) + " : les champs sont " + names);
+        report_.fault(place(key.source().begin), "champ inconnu " + inQuotes(shortened(key.str())) +
+                                                     " : les champs sont " + names);
     }
 
     void checkRequired() {

@@ -37,8 +37,8 @@ bool StagedCourse::open(Report& report) {
     if (publication_.isPending())
         publication_.finish();
     if (!publication_.prepare()) {
-        report.failure({shown(directory_)},
-                       "le dossier ne peut pas être écrit : " + files::causeOf(publication_.error()));
+        report.failure({shown(directory_)}, "le dossier ne peut pas être écrit : " +
+                                                files::causeOf(publication_.error()));
         return false;
     }
     return true;

@@ -35,7 +35,7 @@ int runBatch(std::streambuf& in, std::ostream& out, std::ostream& err) {
         const std::size_t tab = line.find('\t');
         const bool complete = read == text::Line::Whole && tab != std::string::npos;
         if (!complete) {
-            err << "answer : ligne " << number
+            err << "orvalente-cours : ligne " << number
                 << (read == text::Line::TooLong
                         ? " : elle est trop longue.\n"
                         : " : pas de tabulation entre solution et réponse.\n");

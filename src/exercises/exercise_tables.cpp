@@ -35,7 +35,9 @@ ExerciseTables openExerciseTables(const QString& installDirectory, platform::Acc
     ExerciseTables tables;
     const auto path = platform::findWithoutCase(installDirectory, kExerciseDatabaseName);
     if (!path) {
-        tables.failures += kExerciseDatabaseName + QStringLiteral(": not in the course directory");
+        tables.failures +=
+            kExerciseDatabaseName +
+            QStringLiteral("\u00A0: absente du dossier du cours, il n’y aura pas de test");
         return tables;
     }
     tables.description = open(*path, QStringLiteral("DESCRIPTION"), access, tables.failures);

@@ -12,6 +12,7 @@
 #include "platform/qt/look/palette.h"
 #include "platform/qt/look/scroll_bar.h"
 #include "platform/qt/look/tool_tip.h"
+#include "platform/terminal.h"
 #include "viewer/page_panel.h"
 #include "viewer/picture_box.h"
 #include "viewer/surface_widths.h"
@@ -19,8 +20,6 @@
 #include <QLabel>
 #include <QPainter>
 #include <QPlainTextEdit>
-
-#include <cstdio>
 
 namespace exercises {
 
@@ -202,7 +201,7 @@ void Exo::Form_Load() {
     tables_ = openExerciseTables(parts_.shared.InstallDir);
     // The window stays usable; who looks for the reason finds it here.
     for (const QString& failure : std::as_const(tables_.failures))
-        std::fprintf(stderr, "orvalente : %s\n", qUtf8Printable(failure));
+        platform::tellOnTerminal(failure);
     session_->load(tables_.description.get(), tables_.contenu.get());
 }
 

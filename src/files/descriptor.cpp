@@ -2,9 +2,10 @@
 
 #include "files/cause.h"
 
-#include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
+
+#include <cerrno>
 #include <utility>
 
 #ifdef _WIN32

@@ -48,7 +48,8 @@ private:
 void syncDirectory(const std::filesystem::path& directory);
 
 /// Returns when everything that was written to the file system of `directory` is on the disk: many
-/// small files take no longer that way than one. Where there is no such call, nothing is waited for.
+/// small files take no longer that way than one. Where there is no such call, nothing is waited
+/// for.
 bool syncFileSystem(const std::filesystem::path& directory, std::error_code& error);
 
 } // namespace files

@@ -1,7 +1,8 @@
 #include "files/directory_lock.h"
 
-#include <cerrno>
 #include <fcntl.h>
+
+#include <cerrno>
 
 #ifdef _WIN32
 #include <io.h>

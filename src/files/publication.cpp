@@ -203,8 +203,8 @@ bool Publication::putBack() {
         const bool wasMoved = !stands(newFile(step.target)) && stands(directory_ / step.target);
         if (wasMoved)
             fs::rename(directory_ / step.target, newFile(step.target), error);
-        const bool lacksOld =
-            !step.old.empty() && (wasMoved || !stands(directory_ / step.old)) && stands(keptFile(i));
+        const bool lacksOld = !step.old.empty() && (wasMoved || !stands(directory_ / step.old)) &&
+                              stands(keptFile(i));
         if (!error && lacksOld)
             fs::rename(keptFile(i), directory_ / step.old, error);
         all = all && !error;

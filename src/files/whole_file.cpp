@@ -43,14 +43,19 @@ fs::path withoutLinks(const fs::path& target, std::error_code& error) {
 
 } // namespace
 
-WholeFile::WholeFile(const fs::path& target) : target_(withoutLinks(target, error_)) {
+WholeFile::WholeFile(const fs::path& target) : target_(target) {
+    if (isSystemName(target)) { // links there need not lead to names
+        openDirectly();
+        return;
+    }
+    target_ = withoutLinks(target, error_);
     if (error_)
         return;
     std::error_code absent;
     const fs::file_status status = fs::status(target_, absent);
     if (fs::is_directory(status))
         error_ = std::make_error_code(std::errc::is_a_directory);
-    else if (isSystemName(target) || (fs::exists(status) && !fs::is_regular_file(status)))
+    else if (fs::exists(status) && !fs::is_regular_file(status))
         openDirectly();
     else
         openBeside();

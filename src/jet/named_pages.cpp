@@ -77,10 +77,9 @@ void NamedPages::readRows(const TableDefinition& definition, const TableTail& ta
                 continue;
             const auto cell = live.row.variableValue(place.variableIndex);
             const auto ignoreRecords = [](RowPointer) {};
-            isWhole_ = cell &&
-                       follower_.follow(*cell, ignoreRecords,
-                                        [this](std::uint32_t page) { named_.insert(page); }) &&
-                       isWhole_;
+            isWhole_ = cell && follower_.follow(*cell, ignoreRecords, [this](std::uint32_t page) {
+                named_.insert(page);
+            }) && isWhole_;
         }
         return true;
     });

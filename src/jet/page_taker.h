@@ -10,9 +10,9 @@
 
 namespace jet {
 
-/// Finds pages for new content: those that RowChange emptied once, those that a change cut short has
-/// lost, then those past the end of the file. Other pages that the map of free pages offers are left
-/// alone: in a damaged file that map may name pages whose content is still needed, whereas an
+/// Finds pages for new content: those that RowChange emptied once, those that a change cut short
+/// has lost, then those past the end of the file. Other pages that the map of free pages offers are
+/// left alone: in a damaged file that map may name pages whose content is still needed, whereas an
 /// emptied one has none. A page that a row names is taken by nobody, wherever it is.
 class PageTaker {
 public:
@@ -20,7 +20,8 @@ public:
 
     /// A page nobody else has, to be put() by the caller.
     Result<std::uint32_t> take();
-    /// All pages given out so far, and those past the end that were passed over; the map of free pages still has to learn of them.
+    /// All pages given out so far, and those past the end that were passed over; the map of free
+    /// pages still has to learn of them.
     const std::vector<std::uint32_t>& taken() const { return taken_; }
 
 private:

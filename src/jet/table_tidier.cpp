@@ -34,9 +34,8 @@ void TableTidier::plan(std::span<const RowChange::LeftValue> left) {
 void TableTidier::listLeft(std::span<const RowChange::LeftValue> left) {
     RecordFollower follower(changes_->source());
     for (const RowChange::LeftValue& value : left)
-        follower.follow(value.cell, [&](RowPointer record) {
-            addCandidate(record.page, value.columnNumber);
-        });
+        follower.follow(value.cell,
+                        [&](RowPointer record) { addCandidate(record.page, value.columnNumber); });
 }
 
 /// What an earlier change could not give back any more.

@@ -32,7 +32,7 @@ std::optional<DriveFile> DriveSearch::findOn(QChar letter, const QString& folder
 std::optional<QString> DriveSearch::findInFolder(const QString& top, const QString& folder,
                                                  const QString& name) {
     const auto directory = findFolderWithoutCase(top, folder);
-    return directory ? findWithoutCase(*directory, name) : std::nullopt;
+    return directory ? findWithoutCase(*directory, name, top) : std::nullopt;
 }
 
 std::optional<QString> DriveSearch::ask(const QString& top, const QString& folder,

@@ -1,7 +1,8 @@
 #include "platform/file_names.h"
 
+#include "files/within.h"
+
 #include <QDir>
-#include <QFileInfo>
 
 #include <algorithm>
 
@@ -14,20 +15,25 @@ bool hasDrivePrefix(const QString& name) {
            name[0].isLetter();
 }
 
+using IsWithin = bool (*)(const std::filesystem::path& entry,
+                          const std::filesystem::path& directory);
+
 std::optional<QString> findEntry(const QString& directory, const QString& name, QDir::Filter kind,
-                                 bool (QFileInfo::*isKind)() const) {
+                                 IsWithin isWithin, const QString& bounds) {
+    const std::filesystem::path top = bounds.toStdU16String();
+    const auto isThere = [&](const QString& path) { return isWithin(path.toStdU16String(), top); };
     // An empty directory would mean the current one, which is nobody's choice.
     if (directory.isEmpty() || name.isEmpty() || lastComponent(name) != name)
         return std::nullopt;
     const QDir folder(directory);
     // The exact name saves listing the folder, which takes long where it is large.
-    if ((QFileInfo(folder, name).*isKind)())
+    if (isThere(folder.filePath(name)))
         return folder.filePath(name);
 
     // No name filters: brackets and asterisks in a name are to be taken literally.
     const QStringList entries = folder.entryList(kind | QDir::Hidden | QDir::System, QDir::Name);
     for (const QString& entry : entries) {
-        if (entry.compare(name, Qt::CaseInsensitive) == 0 && (QFileInfo(folder, entry).*isKind)())
+        if (entry.compare(name, Qt::CaseInsensitive) == 0 && isThere(folder.filePath(entry)))
             return folder.filePath(entry);
     }
     return std::nullopt;
@@ -49,12 +55,14 @@ QString lastComponent(const QString& name) {
     return rest;
 }
 
-std::optional<QString> findWithoutCase(const QString& directory, const QString& name) {
-    return findEntry(directory, name, QDir::Files, &QFileInfo::isFile);
+std::optional<QString> findWithoutCase(const QString& directory, const QString& name,
+                                       const QString& bounds) {
+    return findEntry(directory, name, QDir::Files, &files::isFileWithin,
+                     bounds.isEmpty() ? directory : bounds);
 }
 
 std::optional<QString> findFolderWithoutCase(const QString& directory, const QString& name) {
-    return findEntry(directory, name, QDir::Dirs, &QFileInfo::isDir);
+    return findEntry(directory, name, QDir::Dirs, &files::isDirectoryWithin, directory);
 }
 
 bool staysInside(const QString& directory, const QString& path) {

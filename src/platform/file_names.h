@@ -14,14 +14,18 @@ QString lastComponent(const QString& name);
 
 /// Path of the file `name` in `directory`: the exact name when there is one, otherwise the first,
 /// in code point order, that differs only in letter case. Hidden files count, directories and
-/// devices do not. Nothing when there is no such file, or when `name` is not a bare file name.
-std::optional<QString> findWithoutCase(const QString& directory, const QString& name);
+/// devices do not, nor do links that lead out of `bounds` (the directory itself unless another is
+/// named, which `directory` starts with): whatever a course names is looked up here, and none of it
+/// may be a file from elsewhere. Nothing when there is no such file, or when `name` is not a bare
+/// file name.
+std::optional<QString> findWithoutCase(const QString& directory, const QString& name,
+                                       const QString& bounds = {});
 
 /// Whether the file at `path`, followed through all links to its end, stands in `directory` or in a
 /// directory below. False when there is no such file.
 bool staysInside(const QString& directory, const QString& path);
 
-/// The same as findWithoutCase() for a directory.
+/// The same as findWithoutCase() for a directory, within the one it is looked up in.
 std::optional<QString> findFolderWithoutCase(const QString& directory, const QString& name);
 
 } // namespace platform

@@ -1,12 +1,12 @@
 #include "shell/report_sink.h"
 
-#include <cstdio>
+#include "platform/terminal.h"
 
 namespace shell {
 
 void reportFailure(ReportSink& sink, const QString& line) {
     sink.report(line);
-    std::fprintf(stderr, "orvalente: %s\n", qUtf8Printable(line));
+    platform::tellOnTerminal(line);
 }
 
 } // namespace shell

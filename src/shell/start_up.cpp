@@ -1,5 +1,6 @@
 #include "shell/start_up.h"
 
+#include "files/publication.h"
 #include "shell/course_directory.h"
 #include "shell/status_file.h"
 #include "shell/status_place.h"
@@ -66,6 +67,8 @@ void StartUp::clearSharedState() {
 
 /// False when there is no database file. One that cannot be opened is not noticed here.
 bool StartUp::bindDatabase() {
+    // A build that was cut short leaves new pages that want their pictures.
+    files::finishPublication(state_.InstallDir.toStdU16String());
     const std::optional<QString> path = findCourseDatabase(state_.InstallDir);
     if (!path)
         return false;

@@ -65,15 +65,13 @@ std::size_t utf8CharacterLength(std::string_view utf8) {
 }
 
 std::string plainLine(std::string_view utf8) {
-    return replaced(utf8, [](std::uint32_t code) {
-        return !isControl(code) && !isLineOrDirection(code);
-    });
+    return replaced(
+        utf8, [](std::uint32_t code) { return !isControl(code) && !isLineOrDirection(code); });
 }
 
 std::string plainLines(std::string_view utf8) {
-    return replaced(utf8, [](std::uint32_t code) {
-        return !isControl(code) || code == '\t' || code == '\n';
-    });
+    return replaced(
+        utf8, [](std::uint32_t code) { return !isControl(code) || code == '\t' || code == '\n'; });
 }
 
 } // namespace text

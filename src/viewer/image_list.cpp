@@ -19,7 +19,8 @@ std::map<std::string, QString> ImageList::listFiles() const {
     std::vector<std::string> courseFiles;
     if (folder)
         for (const QString& name : QDir(*folder).entryList(QDir::Files))
-            courseFiles.push_back(name.toStdString());
+            if (platform::findWithoutCase(*folder, name, courseDirectory_))
+                courseFiles.push_back(name.toStdString());
     std::map<std::string, QString> paths;
     for (const auto& [key, file] : imageListOf(std::move(courseFiles)))
         paths[key] = (file.isOwn ? QStringLiteral(":/symbols") : *folder) + u'/' +

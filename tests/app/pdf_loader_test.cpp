@@ -29,8 +29,8 @@ TEST(PdfLoader, theModuleWritesWhatTheProgramLaidOut) {
     const auto words = test_support::PrintedPdf(path).words();
     ASSERT_EQ(words.size(), 1);
     EXPECT_EQ(words[0].text, QStringLiteral("λΩαβ"));
-    EXPECT_NEAR(words[0].right - words[0].left,
-                fonts.width(surface.font(), QStringLiteral("lWab")), 10);
+    EXPECT_NEAR(words[0].right - words[0].left, fonts.width(surface.font(), QStringLiteral("lWab")),
+                10);
 }
 
 } // namespace

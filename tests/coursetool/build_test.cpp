@@ -2,6 +2,7 @@
 #include "coursetool/workspace.h"
 
 #include <gmock/gmock.h>
+#include <unistd.h>
 
 namespace {
 
@@ -108,20 +109,67 @@ TEST_F(Build, refusesFileNamesThatClash) {
     EXPECT_EQ(report.faultCount(), 4u) << text;
 }
 
-TEST_F(Build, doesNotFollowLinksToDirectories) {
+TEST_F(Build, doesNotFollowLinksOutOfTheSources) {
+    namespace fs = std::filesystem;
+    work.write("secret", kPage);
+    work.write("away/chapter.toml", "Chapitre = 1\n");
     work.write("src/pages/1.page", kPage);
     work.write("src/files/a.txt", "x");
-    std::filesystem::create_directory_symlink(work.path("src"), work.path("src/files/loop"));
+    work.write("src/exercises/t/1.question", "+++\nREFERENCE = 101\n+++\n");
+    fs::create_symlink("a.txt", work.path("src/files/same.txt"));
+    for (const char* link : {"src/pages/2.page", "src/files/b.txt", "src/exercises/t/chapter.toml",
+                             "src/exercises/t/2.question"})
+        fs::create_symlink(work.path("secret"), work.path(link));
+    fs::create_directory_symlink(work.path("src"), work.path("src/files/loop"));
+    fs::create_directory_symlink(work.path("away"), work.path("src/exercises/u"));
+    fs::create_directory_symlink(work.path("away"), work.path("src/disc"));
     EXPECT_FALSE(build());
-    EXPECT_THAT(textOf(report), HasSubstr("files/loop: "));
+    for (const char* link : {"pages/2.page", "files/b.txt", "t/chapter.toml", "t/2.question",
+                             "exercises/u", "src/disc"})
+        EXPECT_THAT(textOf(report),
+                    HasSubstr(std::string(link) + ": ce lien mène hors du dossier"));
+    EXPECT_THAT(textOf(report), HasSubstr("files/loop: ni fichier ni dossier"));
+    EXPECT_EQ(report.faultCount(), 7u) << textOf(report);
+}
+
+/// The course that is replaced may be anybody's.
+TEST_F(Build, writesThroughNoLinkInTheCourse) {
+    namespace fs = std::filesystem;
+    work.write("victim/d.bmp", "mine");
+    work.write("src/pages/1.page", kPage);
+    work.write("src/files/a.txt", "new");
+    fs::create_directories(work.path("out"));
+    fs::create_symlink(work.path("victim/d.bmp"), work.path("out/a.txt"));
+    fs::create_symlink(work.path("victim/none.mdb"), work.path("out/Zekx.mdb"));
+    fs::create_directory_symlink(work.path("victim"), work.path("out/.orvalente-cours"));
+    ASSERT_TRUE(build()) << textOf(report);
+    EXPECT_EQ(work.read("out/a.txt"), "new");
+    EXPECT_FALSE(fs::is_symlink(work.path("out/a.txt")));
+    work.write("src/disc/ZEKXDATA/d.bmp", "theirs");
+    fs::create_directories(work.path("out/disc"));
+    fs::create_directory_symlink(work.path("victim"), work.path("out/disc/ZEKXDATA"));
+    EXPECT_FALSE(build());
+    EXPECT_THAT(textOf(report), HasSubstr("un lien y mène ailleurs"));
+    EXPECT_EQ(work.read("victim/d.bmp"), "mine");
+    EXPECT_THAT(work.files("victim"), ElementsAre("d.bmp"));
 }
 
 TEST_F(Build, namesAnOutputThatCannotBeWritten) {
     work.write("src/pages/1.page", kPage);
     work.write("out", "a file");
     EXPECT_FALSE(build());
-    EXPECT_THAT(textOf(report), HasSubstr(work.path("out").string() + ": "));
+    EXPECT_THAT(textOf(report), HasSubstr(work.path("out").string() +
+                                          ": le dossier ne peut pas être créé : un fichier"));
+    EXPECT_TRUE(report.hasFailures());
     EXPECT_EQ(work.read("out"), "a file");
+    std::filesystem::remove(work.path("out"));
+    std::filesystem::create_directory(work.path("out"));
+    std::filesystem::permissions(work.path("out"), std::filesystem::perms{0555});
+    const uid_t user = geteuid();
+    ASSERT_EQ(seteuid(user == 0 ? 65534 : user), 0); // root may write anything
+    EXPECT_FALSE(build());
+    ASSERT_EQ(seteuid(user), 0);
+    EXPECT_THAT(textOf(report), HasSubstr("les droits d’accès l’interdisent"));
 }
 
 TEST(BuildOutput, amongTheSourcesIsRecognised) {

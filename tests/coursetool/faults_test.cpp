@@ -93,16 +93,18 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"overlong", kPage, page("titre = \"x\"") + "a\xE0\x80\xAF\n", ":6:2", "UTF-8"},
         // What the TOML library does not stand is met before it.
         Row{"accentedKey", kPage, page("numéro = 3"), ":3:1", "« numéro = 3 » ne se lit pas"},
-        Row{"dottedKey", kPage, page("a" + repeated(".a", 250'000) + " = 1"), ":3:1", "… » ne se lit pas"},
+        Row{"dottedKey", kPage, page("a" + repeated(".a", 250'000) + " = 1"), ":3:1",
+            "… » ne se lit pas"},
         Row{"dottedKeyInATable", kPage, page("a = {b" + repeated(".b", 250'000) + " = 1}"), ":3:5",
             "ne se lit pas"},
-        Row{"nestedArrays", kPage, page("Index = " + repeated("[", 250'000)), ":3:9", "… » ne se lit pas"},
+        Row{"nestedArrays", kPage, page("Index = " + repeated("[", 250'000)), ":3:9",
+            "… » ne se lit pas"},
         Row{"tableOfArrays", kPage, page("[[titre]]"), ":3:1", "« [[titre]] »"},
         Row{"underscore", kPage, page("titre = _1"), ":3:9", "« titre = _1 »"},
         Row{"controlCharacter", kPage, page("titre = \x01"), ":3:9", "ne se lit pas"},
         Row{"behindAText", kPage, page("titre = \"x\" y.z"), ":3:9", "ne se lit pas"},
-        Row{"afterALongText", kPage, page("titre = \"\"\"a\n= b \\\"\"\" c\n\"\"\"\né = 1"),
-            ":6:1", "« é = 1 »"}),
+        Row{"afterALongText", kPage, page("titre = \"\"\"a\n= b \\\"\"\" c\n\"\"\"\né = 1"), ":6:1",
+            "« é = 1 »"}),
     [](const auto& row) { return row.param.name; });
 
 TEST(Faults, areAllReportedInOneRun) {

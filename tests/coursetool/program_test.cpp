@@ -4,7 +4,11 @@
 
 #include <QProcess>
 
+#include <fcntl.h>
 #include <gmock/gmock.h>
+#include <stdlib.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -26,8 +30,10 @@ struct Program : testing::Test {
     }
 
     /// Runs in the workspace; without a display, whatever the tests run under.
-    Outcome run(const QStringList& arguments) {
+    Outcome run(const QStringList& arguments, const QString& output = {}) {
         QProcess child;
+        if (!output.isEmpty())
+            child.setStandardOutputFile(output, QIODevice::Append);
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
             environment.remove(QString::fromLatin1(name));
@@ -39,8 +45,8 @@ struct Program : testing::Test {
         return {child.exitCode(), child.readAllStandardOutput().toStdString(),
                 child.readAllStandardError().toStdString()};
     }
-    Outcome run(const char* arguments) {
-        return run(QString::fromUtf8(arguments).split(u' ', Qt::SkipEmptyParts));
+    Outcome run(const char* arguments, const QString& output = {}) {
+        return run(QString::fromUtf8(arguments).split(u' ', Qt::SkipEmptyParts), output);
     }
 };
 
@@ -125,6 +131,64 @@ TEST_F(Program, endsWithTwoForWrongCallsAndDoesNothing) {
     EXPECT_FALSE(work.has("out"));
     run("build src -o out");
     EXPECT_EQ(run("dump out/Zekx.mdb autre").code, 2);
+}
+
+TEST_F(Program, tellsAFullDiscFromFaultsOfTheCourse) {
+    ASSERT_EQ(run("build src -o out").code, 0);
+    work.write("page.txt", "x");
+    for (const char* call :
+         {"dump out/Zekx.mdb", "dump out/Zekx.mdb cours", "trace out --page 1", "symbols out",
+          "calc 1+1", "answer a a", "--help", "trace --source page.txt"}) {
+        const Outcome outcome = run(call, QStringLiteral("/dev/full"));
+        EXPECT_EQ(outcome.code, 74) << call;
+        EXPECT_EQ(outcome.err,
+                  "sortie standard: tout n’a pas pu être écrit : le disque est plein\n")
+            << call;
+    }
+    for (const char* call :
+         {"render out --page 1 --format png -o /dev/full",
+          "render out --page 1 --format svg -o /dev/full",
+          "render out --page 1 --format pdf -o /dev/full", "print out --page 1 -o /dev/full"}) {
+        const Outcome outcome = run(call);
+        EXPECT_EQ(outcome.code, 74) << call;
+        EXPECT_THAT(outcome.err, HasSubstr("/dev/full: ")) << call;
+        EXPECT_THAT(outcome.err, testing::EndsWith("le disque est plein\n")) << call;
+    }
+    EXPECT_EQ(run("render out --page 1 --format png -o /dev/null").code, 0);
+    EXPECT_THAT(run("render out --page 1 --format svg -o /dev/stdout").out, StartsWith("<"));
+    EXPECT_EQ(run("build src -o /dev/full/out").code, 74);
+}
+
+TEST_F(Program, waitsForNoPipe) {
+    ASSERT_EQ(mkfifo(work.path("tube").c_str(), 0600), 0);
+    for (const char* call : {"dump tube", "trace --source tube", "render --source tube -o a.png"}) {
+        const Outcome outcome = run(call);
+        EXPECT_EQ(outcome.code, 1) << call;
+        EXPECT_THAT(outcome.err, HasSubstr("ce n’est pas un fichier ordinaire")) << call;
+    }
+}
+
+/// What a course says is plain text, whoever shows it.
+TEST_F(Program, letsNoCourseSteerTheTerminal) {
+    work.write("src/pages/2.page", "+++\nNumeropage = 2\ntitre = \"\\u001b[31m\\u009bm\"\n"
+                                   "moteur = true\n+++\nA mot\x1B[2J\n");
+    ASSERT_EQ(run("build src -o out").code, 0);
+    EXPECT_EQ(run("search out mot").out, "2\t�[31m�m\n");
+    // Byte by byte into a file, without control characters on a terminal.
+    EXPECT_THAT(run("dump out/Zekx.mdb cours").out, HasSubstr("\xC2\x9Bm"));
+    const int master = posix_openpt(O_RDWR | O_NOCTTY);
+    ASSERT_EQ(grantpt(master) | unlockpt(master), 0);
+    const QString terminal = QString::fromLocal8Bit(ptsname(master));
+    const int slave = open(qPrintable(terminal), O_RDWR | O_NOCTTY); // keeps what was written
+    EXPECT_EQ(run("dump out/Zekx.mdb cours", terminal).code, 0);
+    std::string shown(4096, '\0');
+    shown.resize(static_cast<std::size_t>(read(master, shown.data(), shown.size())));
+    close(slave);
+    close(master);
+    EXPECT_THAT(shown, HasSubstr("\\u001b[31m�m"));
+    work.write("src/pages/\x1B]0;x\x07.page", "no page");
+    const Outcome faulty = run("build src -o out");
+    EXPECT_THAT(faulty.err, HasSubstr("src/pages/�]0;x�.page:1:1: "));
 }
 
 TEST_F(Program, drawsBareSourcesOfPagesAndQuestions) {

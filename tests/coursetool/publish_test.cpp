@@ -5,14 +5,14 @@
 #include "files/directory_lock.h"
 #include "files/publication.h"
 
-#include <gmock/gmock.h>
-
 #include <fcntl.h>
-#include <functional>
-#include <map>
+#include <gmock/gmock.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
+
+#include <functional>
+#include <map>
 
 namespace {
 

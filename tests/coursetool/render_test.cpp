@@ -8,6 +8,9 @@
 #include <QImage>
 
 #include <gmock/gmock.h>
+#include <sys/resource.h>
+
+#include <csignal>
 
 namespace {
 
@@ -209,6 +212,41 @@ TEST_F(Render, whatIsLostOfACourseIsToldByPage) {
                 AllOf(HasSubstr("Zekx.mdb: avertissement : page 5, ligne 3 : « perdu » ne se voit"),
                       HasSubstr("Zekx.mdb: avertissement : page 7, ligne 2 : « fin » ne compte")));
     EXPECT_THAT(work.read("all/page-005.svg"), Not(HasSubstr("perdu")));
+}
+
+/// A process that may write little to a file stands for a disc with no more room.
+TEST_F(Render, aFailureLeavesTheFormerFile) {
+    for (const char* name : {"7.png", "7.svg", "7.pdf"})
+        work.write(name, "ancien");
+    rlimit former;
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &former), 0);
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit little{100, former.rlim_max};
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &little), 0);
+    draw(one(7, {}, RenderFormat::Png, "7.png"));
+    draw(one(7, {}, RenderFormat::Svg, "7.svg"));
+    draw(one(7, {}, RenderFormat::Pdf, "7.pdf"));
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &former), 0);
+    std::signal(SIGXFSZ, handler);
+    EXPECT_EQ(report.faultCount(), 3u);
+    EXPECT_TRUE(report.hasFailures());
+    EXPECT_THAT(textOf(report), HasSubstr("7.png: le fichier ne peut pas être écrit : le fichier "
+                                          "deviendrait trop grand"));
+    for (const char* name : {"7.png", "7.svg", "7.pdf"})
+        EXPECT_EQ(work.read(name), "ancien") << name;
+}
+
+TEST_F(Render, allGoIntoAFolderThatIsThereAlready) {
+    work.write("svg/page-005.svg", "ancien");
+    work.write("svg/autre.txt", "reste");
+    for (int times = 0; times < 2; ++times)
+        drawAll(RenderFormat::Svg, "svg");
+    EXPECT_EQ(textOf(report), "");
+    EXPECT_THAT(work.files("svg"),
+                ElementsAre("autre.txt", "page-005.svg", "page-007-2.svg", "page-007.svg",
+                            "page-sans-numero.svg", "question-307.svg"));
+    EXPECT_THAT(work.read("svg/page-005.svg"), testing::StartsWith("<"));
+    EXPECT_EQ(work.read("svg/autre.txt"), "reste");
 }
 
 TEST_F(Render, aTraceOfAQuestionTellsItsFields) {

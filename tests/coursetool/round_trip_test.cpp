@@ -196,6 +196,27 @@ TEST_F(RoundTrip, extractsWhatADamagedDatabaseStillHolds) {
     EXPECT_FALSE(work.files("src/pages").empty());
 }
 
+TEST_F(RoundTrip, takesNoFileAlongThatALinkLeadsTo) {
+    work.write("secret", "mine");
+    writeCourse({page(1, u"x", u"x")});
+    std::filesystem::create_symlink("couv1.jpg", work.path("old/same.jpg"));
+    std::filesystem::create_symlink(work.path("secret"), work.path("old/taken.jpg"));
+    EXPECT_THAT(extract(), HasSubstr("taken.jpg: ce lien mène hors du dossier"));
+    EXPECT_EQ(report.faultCount(), 1u);
+    EXPECT_EQ(work.read("src/files/same.jpg"), "x");
+    EXPECT_FALSE(work.has("src/files/taken.jpg"));
+}
+
+/// In sources they could steer the editor's terminal; a no-break space is a letter like others.
+TEST_F(RoundTrip, writesControlCharactersAsEscapes) {
+    writeCourse({page(1, u"\u0001\u007F\u0080\u009F\u00A0é", u"x")});
+    EXPECT_EQ(extract(), "");
+    EXPECT_THAT(work.read("src/pages/1-1.page"),
+                HasSubstr("titre = \"\\u0001\\u007f\\u0080\\u009f\u00A0é\"\n"));
+    expectBuilds();
+    expectSame("Zekx.mdb", "cours");
+}
+
 TEST_F(RoundTrip, needsACourse) {
     EXPECT_THAT(extract(), HasSubstr("Zekx.mdb manque"));
     EXPECT_FALSE(work.has("src"));

@@ -41,9 +41,10 @@ TEST(AnswerCommand, aBatchGivesOneVerdictALine) {
     const Called faulty(batch, "masse masse\n\nmasse\tmasse " + std::string(1 << 20, 'x') +
                                    "\nmasse\tmasse\n");
     EXPECT_EQ(faulty.written, "faux\nfaux\nfaux\njuste\n");
-    EXPECT_EQ(faulty.complained, "answer : ligne 1 : pas de tabulation entre solution et réponse.\n"
-                                 "answer : ligne 2 : pas de tabulation entre solution et réponse.\n"
-                                 "answer : ligne 3 : elle est trop longue.\n");
+    EXPECT_EQ(faulty.complained,
+              "orvalente-cours : ligne 1 : pas de tabulation entre solution et réponse.\n"
+              "orvalente-cours : ligne 2 : pas de tabulation entre solution et réponse.\n"
+              "orvalente-cours : ligne 3 : elle est trop longue.\n");
     EXPECT_EQ(faulty.status, 1);
 }
 

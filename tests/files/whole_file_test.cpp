@@ -3,13 +3,13 @@
 #include "files/input_file.h"
 #include "files/whole_file.h"
 
-#include <gmock/gmock.h>
-
-#include <csignal>
 #include <fcntl.h>
+#include <gmock/gmock.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include <csignal>
 
 namespace {
 

@@ -30,18 +30,14 @@ TEST(Within, takesLinksByTheirEnd) {
         bool isFolder;
         bool isFreeOfLinks;
     };
-    for (const Row& row : {Row{"a.png", true, false, true}, Row{"sub", false, true, true},
-                           Row{"inside.png", true, false, false},
-                           Row{"outside.png", false, false, false},
-                           Row{"roundabout.png", true, false, false},
-                           Row{"dangling.png", false, false, false},
-                           Row{"circle.png", false, false, false},
-                           Row{"folder/b.png", true, false, false},
-                           Row{"folder", false, true, false}, Row{"away", false, false, false},
-                           Row{"away/c.png", false, false, false},
-                           Row{"../cours2/c.png", false, false, false},
-                           Row{"pipe.png", false, false, true},
-                           Row{"new/of/mine.png", false, false, true}}) {
+    for (const Row& row :
+         {Row{"a.png", true, false, true}, Row{"sub", false, true, true},
+          Row{"inside.png", true, false, false}, Row{"outside.png", false, false, false},
+          Row{"roundabout.png", true, false, false}, Row{"dangling.png", false, false, false},
+          Row{"circle.png", false, false, false}, Row{"folder/b.png", true, false, false},
+          Row{"folder", false, true, false}, Row{"away", false, false, false},
+          Row{"away/c.png", false, false, false}, Row{"../cours2/c.png", false, false, false},
+          Row{"pipe.png", false, false, true}, Row{"new/of/mine.png", false, false, true}}) {
         for (const fs::path& top : {course, fs::path(course.string() + "/")}) {
             EXPECT_EQ(files::isFileWithin(top / row.name, top), row.isFile) << row.name;
             EXPECT_EQ(files::isDirectoryWithin(top / row.name, top), row.isFolder) << row.name;

@@ -1,5 +1,7 @@
+#include "jet/byte_writer.h"
 #include "jet/csv_dump.h"
 #include "jet/files.h"
+#include "jet/unicode.h"
 #include "jet/writing.h"
 
 #include <gtest/gtest.h>
@@ -120,6 +122,44 @@ TEST(OpeningAFile, thatIsNoDatabase) {
     EXPECT_EQ(jet::Database::open(scratch / "empty.mdb").error().kind, Kind::NotADatabase);
     writeBytes(scratch / "text.mdb", FileBytes(5000, 'x'));
     EXPECT_EQ(jet::Database::open(scratch / "text.mdb").error().kind, Kind::NotADatabase);
+}
+
+/// All the memos of a record lead to one chain of nearly the whole file.
+TEST(DamagedRecords, giveOutNoMoreForOneRecordThanTheyHave) {
+    const ScratchFolder scratch;
+    NewTable table{u"T", {{.name = u"n", .type = jet::ColumnType::Long}}, {{1}}};
+    for (int i = 0; i < 40; ++i) {
+        table.columns.push_back(
+            {.name = jet::toUtf16("m" + std::to_string(i)), .type = jet::ColumnType::Memo});
+        table.rows[0].push_back(std::u16string(i == 0 ? 400000 : 1500, u'c'));
+    }
+    writeDatabase(scratch / "t.mdb", {table});
+    FileBytes bytes = readBytes(scratch / "t.mdb");
+    // The headers stand one behind the other; the longest value's is the one that names a chain.
+    FileBytes longest(8);
+    jet::put32(longest, 0, 800000);
+    const auto chain =
+        std::search(bytes.begin(), bytes.end(), longest.begin(), longest.begin() + 4);
+    ASSERT_NE(chain, bytes.end());
+    std::copy_n(chain, 8, longest.begin());
+    for (int i = 0; i < 40; ++i)
+        std::copy_n(longest.begin(), 8, chain + 12 * i);
+    writeBytes(scratch / "t.mdb", bytes);
+    auto database = jet::Database::open(scratch / "t.mdb");
+    auto read = database->table(u"T");
+    std::size_t total = 0;
+    std::size_t given = 0;
+    read->visit([&](jet::RecordView& record) {
+        for (std::size_t i = 1; i <= 40; ++i) {
+            std::string memo;
+            given += record.appendUtf8(i, memo) ? 1 : 0;
+            total += 2 * memo.size();
+        }
+        return true;
+    });
+    EXPECT_GE(given, 1u);
+    EXPECT_LT(given, 3u);
+    EXPECT_LE(total, bytes.size());
 }
 
 } // namespace

@@ -119,9 +119,10 @@ void expectOutcome(const Damage& damage, const jet::Result<jet::Database>& datab
             said += memo.error().sentence + "\n";
     }
     EXPECT_THAT(said, HasSubstr(damage.word));
+    const std::size_t told = table->problems().count();
     EXPECT_EQ(said.empty(), *damage.word == '\0') << said;
-    EXPECT_EQ(table->visit([](jet::RecordView&) { return true; }).count(),
-              table->problems().count());
+    EXPECT_EQ(table->visit([](jet::RecordView&) { return true; }).count(), told);
+    EXPECT_EQ(table->problems().count(), told) << "told twice";
 }
 
 class DamagedFile : public testing::TestWithParam<Damage> {};

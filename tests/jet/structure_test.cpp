@@ -4,6 +4,7 @@
 #include "jet/bytes.h"
 #include "jet/files.h"
 #include "jet/format.h"
+#include "jet/index_builder.h"
 #include "jet/unicode.h"
 #include "jet/writing.h"
 
@@ -149,6 +150,28 @@ TEST_F(Structure, freePagesAreThosePastTheEnd) {
     for (std::size_t i = 0; i < 8 * bits.size(); ++i)
         ASSERT_EQ(bits.u8(i / 8) >> (i % 8) & 1, i < pages ? 0 : 1) << i;
     EXPECT_EQ(map.u32(5), 0u);
+}
+
+/// 226 entries of 16 bytes leave no room on their page; one more needs two leaves and a root.
+TEST(IndexPages, areFilledToTheLastByte) {
+    for (const auto& [entries, pages] : {std::pair(225, 1u), {226, 1u}, {227, 3u}}) {
+        const ScratchFolder scratch;
+        auto file = *jet::OutputFile::create(scratch / "index");
+        const std::uint32_t root = file->allocate();
+        jet::IndexBuilder index;
+        for (int i = 0; i < entries; ++i)
+            index.add(jet::IndexKey().add(std::u16string_view(u"NEUF CARS")),
+                      jet::RowPointer(static_cast<std::uint32_t>(i), 0));
+        index.write(root, 2, *file);
+        EXPECT_EQ(file->pageCount(), pages) << entries;
+        ASSERT_TRUE(file->putInPlace());
+        const FileBytes written = readBytes(scratch / "index");
+        const Bytes first = Bytes(written).part(0, kPage);
+        EXPECT_EQ(first.u8(0), pages == 1 ? 4 : 3) << entries;
+        if (pages == 1) {
+            EXPECT_EQ(first.u16(2), 16u * static_cast<unsigned>(226 - entries));
+        }
+    }
 }
 
 /// A Memo that is NULL can be given a value later without moving its row.

@@ -271,6 +271,7 @@ TEST(Refused, valuesThatDoNotFitTheirColumn) {
                 {3, 1.0},
                 {4, 1.0},
                 {5, (1 << 24) + 1},
+                {5, -(1 << 24) - 1},
                 {7, 1.0},
                 {8, std::u16string(256, u'a')},
                 {8, u"\uFEFFa"},
@@ -295,6 +296,15 @@ TEST(Refused, valuesThatDoNotFitTheirColumn) {
     ASSERT_TRUE(writer->finish());
     EXPECT_EQ(readTable(scratch / "t.mdb", table.name), Rows{table.rows[0]})
         << "a refused row left something behind";
+}
+
+TEST(RoundTrip, wholeNumbersThatASingleHoldsExactly) {
+    const ScratchFolder scratch;
+    const int most = 1 << 24;
+    writeDatabase(scratch / "t.mdb",
+                  {{u"T", {{.name = u"x", .type = ColumnType::Single}}, {{most}, {-most}}}});
+    EXPECT_EQ(readTable(scratch / "t.mdb", u"T"),
+              (Rows{{static_cast<float>(most)}, {static_cast<float>(-most)}}));
 }
 
 TEST(Refused, aRowLongerThanAPage) {

@@ -1,3 +1,4 @@
+#include "platform/drive_search.h"
 #include "platform/file_names.h"
 #include "support/files.h"
 
@@ -21,6 +22,8 @@ TEST(LastComponent, isTheBareNameOrNothing) {
         {"D:\\ZEKXDATA\\fig1.gif", "fig1.gif"},
         {"D:fig1.gif", "fig1.gif"},
         {"images\\D:fig1.gif", "fig1.gif"},
+        {"É:fig1.gif", "É:fig1.gif"}, // drives have letters from A to Z
+        {"1:fig1.gif", "1:fig1.gif"},
         {QLatin1String("fig1.gif\0.exe", 13), "fig1.gif"},
         {QLatin1String("\0fig1.gif", 9), ""},
         {".hidden", ".hidden"},
@@ -77,4 +80,30 @@ TEST_F(FindWithoutCase, countsOnlyFilesOfTheDirectoryItself) {
     ASSERT_EQ(mkfifo(qPrintable(directory_.filePath("pipe")), 0600), 0);
     EXPECT_EQ(find("PIPE"), "-");
     EXPECT_EQ(find("pipe"), "-");
+}
+
+/// A course could otherwise show what the person alone may read.
+TEST_F(FindWithoutCase, followsNoLinkOutOfTheDirectory) {
+    QTemporaryDir elsewhere;
+    writeFile(elsewhere.filePath("secret.gif"), "x");
+    touch("fig.gif");
+    const auto link = [this](const QString& to, const char* name) {
+        ASSERT_TRUE(QFile::link(to, directory_.filePath(name)));
+    };
+    link(elsewhere.filePath("secret.gif"), "out.gif");
+    link("fig.gif", "in.gif");
+    link(elsewhere.path(), "folder");
+    EXPECT_EQ(find("out.gif"), "-");
+    EXPECT_EQ(find("OUT.gif"), "-");
+    EXPECT_EQ(find("in.gif"), "in.gif");
+    EXPECT_FALSE(platform::findFolderWithoutCase(directory_.path(), "folder"));
+    // On a disc, what counts is the disc.
+    QDir(directory_.path()).mkpath("ZEKXDATA");
+    link("../fig.gif", "ZEKXDATA/same disc.gif");
+    link(elsewhere.filePath("secret.gif"), "ZEKXDATA/out.gif");
+    using platform::DriveSearch;
+    EXPECT_TRUE(DriveSearch::findInFolder(directory_.path(), "ZEKXDATA", "same disc.gif"));
+    EXPECT_FALSE(DriveSearch::findInFolder(directory_.path(), "ZEKXDATA", "out.gif"));
+    link(elsewhere.path(), "ZEKXV");
+    EXPECT_FALSE(DriveSearch::findInFolder(directory_.path(), "ZEKXV", "secret.gif"));
 }

@@ -261,6 +261,38 @@ bool isNullOr(const std::shared_ptr<const platform::Picture>& picture, QSize siz
     return !picture || picture->size() == size;
 }
 
+TEST(PictureFile, everyKindOfPngIsReadAndNoneIsTalkedAbout) {
+    QImage colours = halves(40, 30, true);
+    for (int x = 0; x < 40; ++x)
+        colours.setPixel(x, 3, qRgba(x * 6, 255 - x, 7 * x % 256, 255 - 5 * x));
+    testing::internal::CaptureStderr();
+    for (const QImage::Format format :
+         {QImage::Format_Mono, QImage::Format_Indexed8, QImage::Format_Grayscale8,
+          QImage::Format_Grayscale16, QImage::Format_RGB888, QImage::Format_RGB32,
+          QImage::Format_ARGB32, QImage::Format_RGBA64}) {
+        const QImage original = colours.convertToFormat(format);
+        QByteArray bytes = file(original, "PNG");
+        const auto picture = pictureFrom(bytes);
+        ASSERT_TRUE(picture) << format;
+        const QImage read = picture->image(original.size());
+        EXPECT_EQ(read.hasAlphaChannel(), original.hasAlphaChannel()) << format;
+        const QImage expected = original.convertToFormat(read.format());
+        for (int y = 0; y < read.height(); ++y)
+            for (int x = 0; x < read.width(); ++x)
+                for (const auto channel : {&qRed, &qGreen, &qBlue, &qAlpha})
+                    ASSERT_NEAR(channel(read.pixel(x, y)), channel(expected.pixel(x, y)), 1)
+                        << format << " at " << x << ", " << y;
+        // A length that is wrong, a check sum, a colour too many, an end too early.
+        for (const qsizetype place : {30, 34, 42, int(bytes.size()) / 2, int(bytes.size()) - 14}) {
+            QByteArray damaged = bytes;
+            damaged[place] = static_cast<char>(damaged[place] ^ 0x55);
+            pictureFrom(damaged);
+            pictureFrom(bytes.left(place));
+        }
+    }
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
 TEST(PictureFile, brokenFilesAreNullOrWhole) {
     std::mt19937 random(4711);
     std::vector<QByteArray> files{kGif, svg("width='8' height='8'", "<path d='M0 0h9'/>")};

@@ -181,8 +181,8 @@ TEST_F(Svg, staysReadableWhateverThePageHolds) {
     surface.fill(0, 0, 1e30, 1e30, 0xff000000, FillMode::Copy);
     surface.line(0, 3e38, 5, 5);
     const QByteArray svg = document();
-    EXPECT_THAT(texts(svg), ElementsAre(QStringLiteral("ab c\uFFFDd\uFFFDe"),
-                                        QString::fromUcs4(U"🡺")));
+    EXPECT_THAT(texts(svg),
+                ElementsAre(QStringLiteral("ab c\uFFFDd\uFFFDe"), QString::fromUcs4(U"🡺")));
     EXPECT_FALSE(svg.contains("nan") || svg.contains("inf") || svg.contains("e+"));
 }
 

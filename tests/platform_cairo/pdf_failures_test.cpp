@@ -25,9 +25,11 @@ protected:
 };
 
 TEST_F(PdfFailures, aPlaceThatCannotBeWrittenIsTold) {
-    EXPECT_EQ(failure(QStringLiteral("absent/pages.pdf")),
-              QString("le dossier où écrire le fichier n’existe pas"));
-    EXPECT_EQ(failure(QStringLiteral(".")), QString("un dossier porte ce nom"));
+    EXPECT_EQ(
+        failure(QStringLiteral("absent/pages.pdf")),
+        QString("le fichier ne peut pas être créé\u00A0: le fichier ou son dossier n’existe pas"));
+    EXPECT_EQ(failure(QStringLiteral(".")),
+              QString("le fichier ne peut pas être créé\u00A0: un dossier porte ce nom"));
     EXPECT_EQ(failure(QStringLiteral("vide.pdf"), 0), QString("il n’y a aucune page à écrire"));
     EXPECT_EQ(QDir(directory.path()).entryList(QDir::Files), QStringList());
 }
@@ -55,9 +57,11 @@ TEST_F(PdfFailures, aFullDiscLeavesTheFormerFile) {
     const QString told = failure(QStringLiteral("pages.pdf"), 3);
     ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &former), 0);
     std::signal(SIGXFSZ, handler);
-    EXPECT_EQ(told, QString("l’écriture du fichier a échoué (disque plein\u00A0?)"));
+    EXPECT_EQ(told,
+              QString("l’écriture du fichier a échoué\u00A0: le fichier deviendrait trop grand"));
     EXPECT_EQ(test_support::readFile(path()), QByteArray("ancien"));
-    EXPECT_EQ(QDir(directory.path()).entryList(QDir::Files), QStringList{"pages.pdf"});
+    EXPECT_EQ(QDir(directory.path()).entryList(QDir::Files | QDir::Hidden),
+              QStringList{"pages.pdf"});
 }
 #endif
 

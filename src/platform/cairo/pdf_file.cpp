@@ -1,12 +1,12 @@
 #include "platform/cairo/pdf_file.h"
 
+#include "files/cause.h"
+#include "files/whole_file.h"
 #include "platform/cairo/cairo_faces.h"
 #include "platform/cairo/cairo_pictures.h"
 #include "platform/cairo/sheet_player.h"
 
-#include <QFileInfo>
 #include <QRectF>
-#include <QSaveFile>
 
 #include <cairo-pdf.h>
 
@@ -29,18 +29,13 @@ struct ContextRelease {
 };
 
 cairo_status_t write(void* file, const unsigned char* bytes, unsigned int count) {
-    const auto written =
-        static_cast<QSaveFile*>(file)->write(reinterpret_cast<const char*>(bytes), count);
-    return written == count ? CAIRO_STATUS_SUCCESS : CAIRO_STATUS_WRITE_ERROR;
+    return static_cast<files::WholeFile*>(file)->write(std::span(bytes, count))
+               ? CAIRO_STATUS_SUCCESS
+               : CAIRO_STATUS_WRITE_ERROR;
 }
 
-QString openingFailure(const QString& path) {
-    const QFileInfo target(path);
-    if (target.isDir())
-        return QStringLiteral("un dossier porte ce nom");
-    if (!QFileInfo(target.absolutePath()).isDir())
-        return QStringLiteral("le dossier où écrire le fichier n’existe pas");
-    return QStringLiteral("le fichier ne peut pas être créé\u00A0: le système l’a refusé");
+QString failure(const QString& what, std::error_code error) {
+    return what + QStringLiteral("\u00A0: ") + QString::fromStdString(files::causeOf(error));
 }
 
 QByteArray destination(int number) {
@@ -60,9 +55,10 @@ QByteArray numbers(std::initializer_list<double> values) {
 class PdfFile::Writer {
 public:
     Writer(const QString& path, const FontBook& fonts, PdfDocument document)
-        : file_(path), document_(std::move(document)), player_(fonts, faces_, pictures_) {
-        if (QFileInfo(path).isDir() || !file_.open(QIODevice::WriteOnly))
-            error_ = openingFailure(path);
+        : file_(path.toStdU16String()), document_(std::move(document)),
+          player_(fonts, faces_, pictures_) {
+        if (file_.error())
+            error_ = failure(QStringLiteral("le fichier ne peut pas être créé"), file_.error());
     }
 
     bool addSheet(const Sheet& sheet, double width) {
@@ -93,8 +89,7 @@ public:
         cairo_surface_finish(pdf_.get());
         if (!check())
             return false;
-        // commit() would put a file in place whose last bytes could not be written.
-        if (!file_.flush() || !file_.commit())
+        if (!file_.putInPlace())
             error_ = writingFailure();
         return error_.isEmpty();
     }
@@ -168,7 +163,7 @@ private:
     }
 
     bool check() {
-        if (file_.error() != QFileDevice::NoError)
+        if (file_.error())
             error_ = writingFailure();
         else if (cairo_status(context_.get()) != CAIRO_STATUS_SUCCESS ||
                  cairo_surface_status(pdf_.get()) != CAIRO_STATUS_SUCCESS)
@@ -177,12 +172,12 @@ private:
         return error_.isEmpty();
     }
 
-    static QString writingFailure() {
-        return QStringLiteral("l’écriture du fichier a échoué (disque plein\u00A0?)");
+    QString writingFailure() const {
+        return failure(QStringLiteral("l’écriture du fichier a échoué"), file_.error());
     }
 
     // Later members use earlier ones until they are gone.
-    QSaveFile file_;
+    files::WholeFile file_;
     PdfDocument document_;
     CairoFaces faces_;
     CairoPictures pictures_;

@@ -2,6 +2,7 @@
 
 #include "platform/qt/decoded_cache.h"
 #include "platform/qt/picture_file.h"
+#include "platform/qt/png_picture.h"
 
 #include <QBuffer>
 #include <QImageReader>
@@ -42,6 +43,12 @@ QImage inScreenFormat(const QImage& image) {
 QImage decode(QByteArray bytes, PictureFormat format, QSize pixels = {}) {
     if (format == PictureFormat::Jpeg && bytes.count(kScanMarker) > kMaxJpegScans)
         return {};
+    if (format == PictureFormat::Png) {
+        const QImage image = inScreenFormat(readPng(bytes));
+        return pixels.isEmpty() || image.isNull()
+                   ? image
+                   : image.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    }
     QBuffer buffer(&bytes);
     QImageReader reader(&buffer, readerName(format));
     reader.setAutoDetectImageFormat(false);
