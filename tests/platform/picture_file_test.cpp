@@ -279,7 +279,8 @@ TEST(PictureFile, everyKindOfPngIsReadAndNoneIsTalkedAbout) {
         const QImage expected = original.convertToFormat(read.format());
         for (int y = 0; y < read.height(); ++y)
             for (int x = 0; x < read.width(); ++x)
-                for (const auto channel : {&qRed, &qGreen, &qBlue, &qAlpha})
+                for (int (*const channel)(QRgb) :
+                     std::initializer_list<int (*)(QRgb)>{qRed, qGreen, qBlue, qAlpha})
                     ASSERT_NEAR(channel(read.pixel(x, y)), channel(expected.pixel(x, y)), 1)
                         << format << " at " << x << ", " << y;
         // A length that is wrong, a check sum, a colour too many, an end too early.
