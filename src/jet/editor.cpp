@@ -9,6 +9,7 @@
 #include "jet/unicode.h"
 
 #include <algorithm>
+#include <optional>
 #include <string>
 #include <system_error>
 #include <utility>
@@ -109,6 +110,59 @@ Result<RowPointer> placeOf(const OpenTable& table, std::size_t position) {
     return place;
 }
 
+/// The change of one row, planned but not written.
+class PlannedChange {
+public:
+    PlannedChange() = default;
+    PlannedChange(const PlannedChange&) = delete;
+    PlannedChange& operator=(const PlannedChange&) = delete;
+
+    Result<void> plan(const std::filesystem::path& path, std::u16string_view tableName,
+                      std::size_t position, std::span<const CellChange> cells) {
+        auto table = openTable(path, tableName);
+        if (!table)
+            return table.error();
+        table_ = std::move(*table);
+        auto encoded = encode(table_, cells);
+        if (!encoded)
+            return table_.failure(encoded.error());
+        const auto place = placeOf(table_, position);
+        if (!place)
+            return table_.failure(place.error());
+        changes_.emplace(*table_.source);
+        row_.emplace(*changes_, table_.definition, table_.tail);
+        if (const auto planned = row_->plan(*place, std::move(*encoded)); !planned)
+            return table_.failure(
+                {planned.error().kind,
+                 "enregistrement " + std::to_string(position) + " : " + planned.error().sentence});
+        return {};
+    }
+
+    Result<void> commit(PageSink& sink) { return changes_->commit(sink); }
+
+    /// Gives back what changes cut short have left in the table. Not to be followed by commit().
+    Result<void> clearUp(PageSink& sink) {
+        PageChanges changes(*table_.source);
+        TableTidier(changes, table_.definition, table_.tail).planLost();
+        return changes.commit(sink);
+    }
+
+    /// After commit(): gives back what the row had and has no more, as far as that is possible.
+    void tidy(const std::filesystem::path& path, PageSink& sink) {
+        const auto source = PageSource::open(path);
+        if (!source)
+            return;
+        PageChanges changes(**source);
+        TableTidier(changes, table_.definition, table_.tail).plan(row_->leftValues());
+        (void)changes.commit(sink);
+    }
+
+private:
+    OpenTable table_;
+    std::optional<PageChanges> changes_;
+    std::optional<RowChange> row_;
+};
+
 } // namespace
 
 Result<DatabaseEditor> DatabaseEditor::open(const std::filesystem::path& path) {
@@ -140,30 +194,23 @@ DatabaseEditor::~DatabaseEditor() = default;
 
 Result<void> DatabaseEditor::change(std::u16string_view tableName, std::size_t position,
                                     std::span<const CellChange> cells) {
-    auto table = openTable(path_, tableName);
-    if (!table)
-        return table.error();
-    auto encoded = encode(*table, cells);
-    if (!encoded)
-        return table->failure(encoded.error());
-    const auto place = placeOf(*table, position);
-    if (!place)
-        return table->failure(place.error());
-
-    PageChanges changes(*table->source);
-    RowChange row(changes, table->definition, table->tail);
-    if (const auto planned = row.plan(*place, std::move(*encoded)); !planned)
-        return table->failure({planned.error().kind, "enregistrement " + std::to_string(position) +
-                                                         " : " + planned.error().sentence});
-    if (const auto written = changes.commit(*sink_); !written)
-        return written;
-
-    // The change stands; room that cannot be given back is lost, nothing else.
-    if (const auto source = PageSource::open(path_)) {
-        PageChanges tidied(**source);
-        TableTidier(tidied, table->definition, table->tail).plan(row.leftValues());
-        (void)tidied.commit(*sink_);
+    {
+        // What is refused leaves the file as it is, so nothing is written before a plan stands.
+        PlannedChange rehearsed;
+        if (const auto planned = rehearsed.plan(path_, tableName, position, cells); !planned)
+            return planned;
+        // Left to the end, this would never be done where changes are cut short again and again,
+        // and the file would grow with each.
+        if (const auto cleared = rehearsed.clearUp(*sink_); !cleared)
+            return cleared;
     }
+    PlannedChange change;
+    if (const auto planned = change.plan(path_, tableName, position, cells); !planned)
+        return planned;
+    if (const auto written = change.commit(*sink_); !written)
+        return written;
+    // The change stands; room that cannot be given back is lost, nothing else.
+    change.tidy(path_, *sink_);
     return {};
 }
 

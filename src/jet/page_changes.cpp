@@ -51,8 +51,11 @@ Result<void> PageChanges::writeAll(PageSink& sink, std::vector<std::uint32_t>& w
     // In the order of their numbers within a rank, so that the file grows page by page.
     std::multimap<int, std::uint32_t> byRank;
     for (const auto& [number, change] : changes_)
-        byRank.emplace(change.rank, number);
-    int rank = byRank.empty() ? 0 : byRank.begin()->first;
+        if (change.image != change.before)
+            byRank.emplace(change.rank, number);
+    if (byRank.empty())
+        return {};
+    int rank = byRank.begin()->first;
     for (const auto& [nextRank, number] : byRank) {
         if (std::exchange(rank, nextRank) != nextRank)
             if (const auto flushed = sink.sync(); !flushed)

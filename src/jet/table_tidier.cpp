@@ -3,7 +3,6 @@
 #include "jet/data_page.h"
 #include "jet/data_page_builder.h"
 #include "jet/data_page_editor.h"
-#include "jet/named_pages.h"
 #include "jet/record_follower.h"
 #include "jet/table_rows.h"
 #include "jet/usage_map.h"
@@ -26,6 +25,20 @@ void TableTidier::plan(std::span<const RowChange::LeftValue> left) {
     listLeft(left);
     if (named.isWhole())
         listOwned();
+    planCandidates(named);
+}
+
+void TableTidier::planLost() {
+    if (!lookThroughRows())
+        return;
+    const NamedPages named(changes_->source());
+    if (!named.isWhole())
+        return;
+    listOwned();
+    planCandidates(named);
+}
+
+void TableTidier::planCandidates(const NamedPages& named) {
     std::erase_if(candidates_, [&](const auto& entry) { return named.isNamed(entry.first); });
     deleteLostBodies();
     freePages();

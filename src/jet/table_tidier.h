@@ -1,5 +1,6 @@
 #pragma once
 
+#include "jet/named_pages.h"
 #include "jet/page_changes.h"
 #include "jet/page_taker.h"
 #include "jet/row_change.h"
@@ -26,8 +27,11 @@ public:
         : changes_(&changes), taker_(changes), definition_(&definition), tail_(&tail) {}
 
     void plan(std::span<const RowChange::LeftValue> left);
+    /// The same without a change before, and for a sound file only.
+    void planLost();
 
 private:
+    void planCandidates(const NamedPages& named);
     void listLeft(std::span<const RowChange::LeftValue> left);
     void listOwned();
     void addCandidate(std::uint32_t page, std::size_t columnNumber);

@@ -93,7 +93,7 @@ TEST_F(Program, endsWithOneForFaultsAndNamesThem) {
 
 TEST_F(Program, endsWithTwoForWrongCallsAndDoesNothing) {
     work.write("some/file", "x");
-    work.write("page.txt", "x");
+    work.write("page.txt", "x¶\r\n");
     for (const char* call : {"",
                              "bidule",
                              "build",
@@ -135,7 +135,7 @@ TEST_F(Program, endsWithTwoForWrongCallsAndDoesNothing) {
 
 TEST_F(Program, tellsAFullDiscFromFaultsOfTheCourse) {
     ASSERT_EQ(run("build src -o out").code, 0);
-    work.write("page.txt", "x");
+    work.write("page.txt", "x¶\r\n");
     for (const char* call :
          {"dump out/Zekx.mdb", "dump out/Zekx.mdb cours", "trace out --page 1", "symbols out",
           "calc 1+1", "answer a a", "--help", "trace --source page.txt"}) {

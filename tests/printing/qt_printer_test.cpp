@@ -206,7 +206,8 @@ TEST_F(QtPrinter, lettersOfSignFacesAreFoundInFiles) {
     }
     qt.device().setOutputFileName(path("nulle/part.pdf"));
     EXPECT_FALSE(qt.begin("essai"));
-    EXPECT_EQ(qt.error(), QStringLiteral("le dossier où écrire le fichier n’existe pas"));
+    EXPECT_TRUE(qt.error().startsWith(QStringLiteral("le fichier ne peut pas être créé")))
+        << qPrintable(qt.error());
     EXPECT_FALSE(qt.isBusy());
 }
 
