@@ -34,8 +34,8 @@ public:
     /// Number of a page past the end, to be put(); nothing once the format's limit is reached.
     std::optional<std::uint32_t> add();
 
-    /// Writes all that is to become something else. When a write fails, those before it are taken back, last one first, as far as
-    /// the file lets itself be written, so that it is as it was.
+    /// Writes all that is to become something else. When a write fails, those before it are taken
+    /// back, last one first, as far as the file lets itself be written, so that it is as it was.
     Result<void> commit(PageSink& sink);
 
 private:
