@@ -224,7 +224,7 @@ TEST(PictureFile, dearDrawingsLoseTheirFinenessNotTheProgram) {
     // Lines all over the picture: smooth, it would take a minute.
     QByteArray tangle = "M0 0";
     std::mt19937 random(4711);
-    for (int line = 0; line < 1500; ++line)
+    for (int line = 0; line < 4000; ++line)
         tangle += "L" + QByteArray::number(int(random() % 900)) + " " +
                   QByteArray::number(int(random() % 900));
     const auto picture =
@@ -277,12 +277,15 @@ TEST(PictureFile, everyKindOfPngIsReadAndNoneIsTalkedAbout) {
         const QImage read = picture->image(original.size());
         EXPECT_EQ(read.hasAlphaChannel(), original.hasAlphaChannel()) << format;
         const QImage expected = original.convertToFormat(read.format());
+        // Eight bits of sixteen may be rounded either way.
+        const auto isNear = [](QRgb a, QRgb b) {
+            return std::abs(qRed(a) - qRed(b)) <= 1 && std::abs(qGreen(a) - qGreen(b)) <= 1 &&
+                   std::abs(qBlue(a) - qBlue(b)) <= 1 && qAlpha(a) == qAlpha(b);
+        };
         for (int y = 0; y < read.height(); ++y)
             for (int x = 0; x < read.width(); ++x)
-                for (int (*const channel)(QRgb) :
-                     std::initializer_list<int (*)(QRgb)>{qRed, qGreen, qBlue, qAlpha})
-                    ASSERT_NEAR(channel(read.pixel(x, y)), channel(expected.pixel(x, y)), 1)
-                        << format << " at " << x << ", " << y;
+                ASSERT_TRUE(isNear(read.pixel(x, y), expected.pixel(x, y)))
+                    << format << " at " << x << ", " << y;
         // A length that is wrong, a check sum, a colour too many, an end too early.
         for (const qsizetype place : {30, 34, 42, int(bytes.size()) / 2, int(bytes.size()) - 14}) {
             QByteArray damaged = bytes;
