@@ -3,7 +3,9 @@
 #include "shell/status_place.h"
 #include "support/fake_prompter.h"
 #include "support/fake_screen.h"
+#include "support/files.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QHash>
 #include <QTemporaryDir>
@@ -87,6 +89,18 @@ TEST_F(StartUpTest, runsItsStepsInOrder) {
                            "place 1680 1260 12000 9000", "pump, file there", "pump, file there"}));
     EXPECT_TRUE(prompter_.messages.empty());
     EXPECT_EQ(startUp_.coverPath(), directory_.path() + "/couverture.jpg");
+}
+
+/// The database is bound when its pages and their pictures are there.
+TEST_F(StartUpTest, finishesWhatABuildHasLeft) {
+    const QDir course(directory_.path());
+    course.mkpath(".orvalente-cours/nouveau");
+    test_support::writeFile(course.filePath(".orvalente-cours/nouveau/a.bmp"), "neuf");
+    test_support::writeFile(course.filePath(".orvalente-cours/journal"),
+                            QByteArray("orvalente-cours 1\na.bmp\0\0", 25));
+    EXPECT_EQ(run(), StartUp::Outcome::GoOn);
+    EXPECT_EQ(test_support::readFile(course.filePath("a.bmp")), "neuf");
+    EXPECT_FALSE(course.exists(".orvalente-cours"));
 }
 
 TEST_F(StartUpTest, leavesTheSharedStateReady) {
