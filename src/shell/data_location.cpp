@@ -25,23 +25,23 @@ QString DataLocation::locatePicture(const QString& name) {
     if (isBlank(name))
         return name;
     const QString fileName = platform::lastComponent(name);
-    if (const auto installed = platform::findWithoutCase(state_.InstallDir, fileName))
+    if (const auto installed = platform::findWithoutCase(directories_.InstallDir, fileName))
         return *installed;
     // The directory is kept but never read, and every picture searches all drives again: meant so.
-    return searchDrives(kPictureFolder, fileName, state_.PictureDataDir);
+    return searchDrives(kPictureFolder, fileName, directories_.PictureDataDir);
 }
 
 QString DataLocation::locateVideo(const QString& name) {
     if (isBlank(name))
         return name;
-    return searchDrives(kVideoFolder, platform::lastComponent(name), state_.VideoDataDir);
+    return searchDrives(kVideoFolder, platform::lastComponent(name), directories_.VideoDataDir);
 }
 
 std::optional<QString> DataLocation::findBesideLastVideo(const QString& name) {
     const QString fileName = platform::lastComponent(name);
-    if (fileName.isEmpty() || state_.VideoDataDir.isEmpty())
+    if (fileName.isEmpty() || directories_.VideoDataDir.isEmpty())
         return std::nullopt;
-    const auto found = drives_.findOn(state_.VideoDataDir.front(), kVideoFolder, fileName);
+    const auto found = drives_.findOn(directories_.VideoDataDir.front(), kVideoFolder, fileName);
     return found ? std::optional(found->path) : std::nullopt;
 }
 

@@ -1,22 +1,18 @@
 #pragma once
 
+#include "shell/data_directories.h"
 #include "text/bounded_array.h"
+#include "viewer/page_index.h"
 
 #include <QString>
 
 #include <cstdint>
-#include <optional>
-#include <vector>
 
 namespace shell {
 
 /// Everything that more than one window or procedure shares: one object, made by the program and
 /// handed by reference to whoever works on it. It is filled at start-up and lives until the end.
-struct SharedState {
-    /// The installation directory with exactly one trailing separator, "/" on every system. Every
-    /// installed file is this followed by a bare file name.
-    QString InstallDir;
-
+struct SharedState : DataDirectories, viewer::PageIndex {
     /// The status file that the shell and its sibling programs share, an absolute path: that of the
     /// installation directory, or one of the person's own where that cannot be written. Empty
     /// before start-up has reset it.
@@ -39,10 +35,6 @@ struct SharedState {
 
     /// Reading-order index of the page now shown.
     std::int32_t CurrentOrderIndex = 0;
-    /// Record positions (from 0) by fixed page number and by reading-order index; holes hold 0.
-    /// Absent until the index of the pages is built.
-    std::optional<std::vector<std::int16_t>> PageByNumber;
-    std::optional<std::vector<std::int16_t>> PageByOrder;
 
     /// Module number of the sibling program being launched, then the answer about its status.
     std::int16_t ModuleNumber = 0;
@@ -58,9 +50,6 @@ struct SharedState {
     /// is only advice, and the main window keeps itself centred.
     std::int16_t DisplayWarningMode = 0;
 
-    /// Where on the discs pictures and videos were found last: letter, ":\" and directory.
-    QString PictureDataDir;
-    QString VideoDataDir;
     /// Whether a video device is open.
     bool VideoOpen = false;
 };

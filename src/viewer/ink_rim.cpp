@@ -1,8 +1,8 @@
 #include "viewer/ink_rim.h"
 
 #include "platform/ink_area.h"
-#include "viewer/link_widget.h"
 #include "viewer/picture_box.h"
+#include "viewer/surface_control.h"
 
 #include <QEvent>
 #include <QPaintEvent>
@@ -61,9 +61,9 @@ void InkRim::paintEvent(QPaintEvent* event) {
     painter.scale(1 / ratio, 1 / ratio);
     box_.paintMargin(painter, event->rect().translated(corner));
     // The captions of links belong to the page as its text does. The box covers the rest of them.
-    for (QObject* child : box_.children())
-        if (auto* link = dynamic_cast<LinkWidget*>(child); link && link->isVisible())
-            link->drawOn(painter, ratio);
+    for (QWidget* child : box_.findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+        if (auto* control = dynamic_cast<SurfaceControl*>(child); control && child->isVisible())
+            control->drawOn(painter, ratio);
 }
 
 } // namespace viewer

@@ -2,6 +2,7 @@
 
 #include "platform/qt/font_book.h"
 #include "platform/recording.h"
+#include "viewer/surface_control.h"
 
 #include <QAbstractButton>
 #include <QMargins>
@@ -14,7 +15,7 @@ class PictureBox;
 /// A member of an array of link controls: it stands on a picture box and paints on it as if the
 /// page had drawn it there. The Tab key reaches it; a click leaves the keyboard where it is. Its
 /// contents rectangle is the link itself, around it is room for letters that lean out.
-class LinkWidget : public QAbstractButton {
+class LinkWidget : public QAbstractButton, public SurfaceControl {
 public:
     LinkWidget(int index, const platform::FontBook& fonts, QWidget* parent);
 
@@ -29,9 +30,7 @@ public:
     /// Hides the control and empties it.
     void freeLink();
 
-    /// Draws the link in device pixels from the corner of the surface; `ratio` of them make a
-    /// logical one.
-    void drawOn(QPainter& painter, double ratio) { draw(painter, ratio); }
+    void drawOn(QPainter& painter, double ratio) override { draw(painter, ratio); }
 
     /// How far from the link the outer edge of its focus ring is, in pixels.
     virtual QSize ringReach() const = 0;

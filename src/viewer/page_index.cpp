@@ -44,7 +44,7 @@ std::optional<std::int16_t> entry(const std::optional<Table>& table, std::int32_
 
 } // namespace
 
-void buildPageIndex(const platform::Recordset& cours, shell::SharedState& state,
+void buildPageIndex(const platform::Recordset& cours, PageIndex& index,
                     const std::function<void()>& letMessagesRun) {
     Table byNumber;
     Table byOrder;
@@ -56,23 +56,23 @@ void buildPageIndex(const platform::Recordset& cours, shell::SharedState& state,
                       if (letMessagesRun && (position + 1) % kRecordsAtATime == 0)
                           letMessagesRun();
                   });
-    state.PageByNumber = std::move(byNumber);
-    state.PageByOrder = std::move(byOrder);
+    index.PageByNumber = std::move(byNumber);
+    index.PageByOrder = std::move(byOrder);
 }
 
-std::optional<std::int16_t> positionOfCode(const shell::SharedState& state, std::int32_t number) {
-    const auto& table = state.PageByNumber;
+std::optional<std::int16_t> positionOfCode(const PageIndex& index, std::int32_t number) {
+    const auto& table = index.PageByNumber;
     if (table && static_cast<std::size_t>(number) + 1 == table->size())
         return std::nullopt;
     return entry(table, number);
 }
 
-std::optional<std::int16_t> positionInPrint(const shell::SharedState& state, std::int32_t number) {
-    return entry(state.PageByNumber, number);
+std::optional<std::int16_t> positionInPrint(const PageIndex& index, std::int32_t number) {
+    return entry(index.PageByNumber, number);
 }
 
-std::optional<std::int16_t> positionByOrder(const shell::SharedState& state, std::int32_t index) {
-    return entry(state.PageByOrder, index);
+std::optional<std::int16_t> positionByOrder(const PageIndex& index, std::int32_t order) {
+    return entry(index.PageByOrder, order);
 }
 
 } // namespace viewer
