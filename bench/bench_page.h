@@ -2,7 +2,7 @@
 
 #include "markup/picture_shelf.h"
 #include "markup/renderer.h"
-#include "platform/qt/font_book.h"
+#include "page/faces/font_book.h"
 
 namespace bench {
 
@@ -22,22 +22,22 @@ public:
         renderer.affichepage();
     }
 
-    platform::RichTextHolder& code() override { return holder; }
-    platform::Surface& pictureTexte() override { return texte; }
-    platform::Surface& pictureIllus() override { return illus; }
-    platform::Surface& titre() override { return title; }
+    page::RichTextHolder& code() override { return holder; }
+    page::Surface& pictureTexte() override { return texte; }
+    page::Surface& pictureIllus() override { return illus; }
+    page::Surface& titre() override { return title; }
     void setCaption(const QString&) override {}
     void setBusy(bool) override {}
-    void refresh(platform::Surface&) override {}
+    void refresh(page::Surface&) override {}
     void preparePrinter() override {}
     void showVideoFrame() override {}
 
-    platform::FontBook fonts;
-    platform::Recording recording;
-    platform::Surface texte{platform::SurfaceId::PictureTexte, 9000, fonts, recording};
-    platform::Surface illus{platform::SurfaceId::PictureIllus, 2250, fonts, recording};
-    platform::Surface title{platform::SurfaceId::Titre, 9000, fonts, recording};
-    platform::RichTextHolder holder;
+    page::FontBook fonts;
+    page::Recording recording;
+    page::Surface texte{page::SurfaceId::PictureTexte, 9000, fonts, recording};
+    page::Surface illus{page::SurfaceId::PictureIllus, 2250, fonts, recording};
+    page::Surface title{page::SurfaceId::Titre, 9000, fonts, recording};
+    page::RichTextHolder holder;
     markup::DrawingState state;
     markup::Renderer renderer;
 };

@@ -3,7 +3,7 @@
 //   course_pdf pages N DIR       writes DIR/cours.pdf from N page sources and DIR/photo.jpg
 
 #include "bench_page.h"
-#include "platform/cairo/pdf_file.h"
+#include "output/pdf/pdf_file.h"
 #include "process_memory.h"
 #include "rich_page.h"
 #include "viewer/page_sheet.h"
@@ -34,7 +34,7 @@ QByteArray photograph() {
     return file;
 }
 
-class Photograph : public platform::Picture {
+class Photograph : public page::Picture {
 public:
     explicit Photograph(const QString& path) {
         QFile file(path);
@@ -44,7 +44,7 @@ public:
 
     QSize size() const override { return {400, 300}; }
     QImage image(QSize pixels) const override { return QImage::fromData(bytes_).scaled(pixels); }
-    platform::PictureFormat format() const override { return platform::PictureFormat::Jpeg; }
+    page::PictureFormat format() const override { return page::PictureFormat::Jpeg; }
     const QByteArray& bytes() const override { return bytes_; }
 
 private:
@@ -57,25 +57,24 @@ public:
     explicit Shelf(const QString& path) : picture_(std::make_shared<Photograph>(path)) {}
 
     QString locatePicture(const QString& name) override { return name; }
-    std::shared_ptr<const platform::Picture> load(const QString&) override { return picture_; }
-    std::shared_ptr<const platform::Picture> symbol(const QString&) override { return nullptr; }
+    std::shared_ptr<const page::Picture> load(const QString&) override { return picture_; }
+    std::shared_ptr<const page::Picture> symbol(const QString&) override { return nullptr; }
 
 private:
-    std::shared_ptr<const platform::Picture> picture_;
+    std::shared_ptr<const page::Picture> picture_;
 };
 
 bool writePdf(int count, const QString& directory) {
     Shelf shelf(directory + QLatin1String("/photo.jpg"));
     bench::Page page(shelf);
-    platform::PdfFile pdf(directory + QLatin1String("/cours.pdf"), page.fonts,
-                          {QStringLiteral("Cours d’optique"), QStringLiteral("Un professeur"),
-                           [](const QString& tag) { return tag.mid(3).toInt(); }});
+    output::PdfFile pdf(directory + QLatin1String("/cours.pdf"), page.fonts,
+                        {QStringLiteral("Cours d’optique"), QStringLiteral("Un professeur"),
+                         [](const QString& tag) { return tag.mid(3).toInt(); }});
     const QString title = QStringLiteral("La réfraction de la lumière");
     for (int number = 0; number < count; ++number) {
         page.draw(bench::coursePageSource(number, count));
         viewer::drawPageTitle(page.title, page.fonts, title);
-        platform::Sheet sheet =
-            viewer::pageSheet(page.recording, page.fonts, page.state.hauteurPage);
+        page::Sheet sheet = viewer::pageSheet(page.recording, page.fonts, page.state.hauteurPage);
         sheet.title = title;
         sheet.number = number + 1;
         pdf.addSheet(sheet);

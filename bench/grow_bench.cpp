@@ -3,7 +3,7 @@
 
 #include "coursetool/offscreen_page.h"
 #include "no_pictures.h"
-#include "platform/qt/font_book.h"
+#include "page/faces/font_book.h"
 #include "rich_page.h"
 
 #include <QGuiApplication>
@@ -32,7 +32,7 @@ QString sourceOf(int lines) {
     return source;
 }
 
-double medianMilliseconds(int lines, const platform::FontBook& fonts) {
+double medianMilliseconds(int lines, const page::FontBook& fonts) {
     const QString source = sourceOf(lines);
     NoPictures pictures;
     std::vector<double> times;
@@ -51,7 +51,7 @@ double medianMilliseconds(int lines, const platform::FontBook& fonts) {
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
-    const platform::FontBook fonts;
+    const page::FontBook fonts;
     double before = 0;
     for (const int lines : {1000, 10'000, 100'000}) {
         const double time = medianMilliseconds(lines, fonts);

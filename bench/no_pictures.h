@@ -6,6 +6,6 @@
 class NoPictures : public markup::PictureShelf {
 public:
     QString locatePicture(const QString&) override { return {}; }
-    std::shared_ptr<const platform::Picture> load(const QString&) override { return nullptr; }
-    std::shared_ptr<const platform::Picture> symbol(const QString&) override { return nullptr; }
+    std::shared_ptr<const page::Picture> load(const QString&) override { return nullptr; }
+    std::shared_ptr<const page::Picture> symbol(const QString&) override { return nullptr; }
 };

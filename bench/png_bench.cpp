@@ -3,9 +3,9 @@
 
 #include "coursetool/offscreen_page.h"
 #include "no_pictures.h"
-#include "platform/png/png_file.h"
-#include "platform/qt/sheet_raster.h"
-#include "platform/twips.h"
+#include "output/png/png_file.h"
+#include "output/raster/sheet_raster.h"
+#include "page/twips.h"
 #include "rich_page.h"
 #include "viewer/page_sheet.h"
 
@@ -51,12 +51,12 @@ std::vector<Bytef> rowsOf(const QImage& image) {
     return rows;
 }
 
-platform::Sheet sheetOf(const QString& source, const platform::FontBook& fonts) {
+page::Sheet sheetOf(const QString& source, const page::FontBook& fonts) {
     NoPictures pictures;
     coursetool::OffscreenPage page(fonts, pictures);
     page.draw(source);
     return viewer::pageSheet(page.recording(), fonts,
-                             page.pictureTexte().heightPx() * platform::kTwipsPerPixel);
+                             page.pictureTexte().heightPx() * page::kTwipsPerPixel);
 }
 
 } // namespace
@@ -65,8 +65,8 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const int pages = argc > 1 ? std::atoi(argv[1]) : 600;
     QGuiApplication application(argc, argv);
-    const platform::FontBook fonts;
-    platform::SheetRaster raster(fonts, 1);
+    const page::FontBook fonts;
+    output::SheetRaster raster(fonts, 1);
 
     Stopwatch drawing;
     Stopwatch encoding;
@@ -79,7 +79,7 @@ int main(int argc, char** argv) {
         QSize size;
         const QImage* band = nullptr;
         drawing.time([&] {
-            const platform::Sheet sheet = sheetOf(source, fonts);
+            const page::Sheet sheet = sheetOf(source, fonts);
             size = raster.size(sheet);
             band = &raster.band(sheet, 0);
         });
@@ -87,7 +87,7 @@ int main(int argc, char** argv) {
             QBuffer file;
             file.open(QIODevice::WriteOnly);
             encoding.time([&] {
-                platform::PngFile png(file, size, 96);
+                output::PngFile png(file, size, 96);
                 if (!png.add(*band) || !png.finish())
                     std::exit(1);
             });

@@ -3,8 +3,8 @@
 #include "bench_page.h"
 #include "markup/renderer.h"
 #include "no_pictures.h"
-#include "platform/qt/font_book.h"
-#include "platform/qt/raster_surface.h"
+#include "output/raster/raster_surface.h"
+#include "page/faces/font_book.h"
 #include "rich_page.h"
 
 #include <QAbstractTextDocumentLayout>
@@ -22,8 +22,7 @@ void pageSourceToPixels(benchmark::State& loop) {
     NoPictures pictures;
     bench::Page page(pictures);
     const QString source = bench::richPageSource();
-    platform::RasterSurface raster(platform::SurfaceId::PictureTexte, kWidthPx, page.fonts,
-                                   0xffffffff);
+    output::RasterSurface raster(page::SurfaceId::PictureTexte, kWidthPx, page.fonts, 0xffffffff);
     for (auto _ : loop) {
         raster.reset();
         page.draw(source);
@@ -45,10 +44,10 @@ void bareDrawingCalls(benchmark::State& loop) {
     bench::Page page(pictures);
     page.draw(bench::richPageSource());
     std::vector<Call> calls;
-    for (const platform::Operation& operation : page.recording.operations()) {
-        const auto& text = std::get<platform::TextOperation>(operation);
+    for (const page::Operation& operation : page.recording.operations()) {
+        const auto& text = std::get<page::TextOperation>(operation);
         QFont font(QStringLiteral("Liberation Sans"));
-        font.setPixelSize(platform::fontPixels(text.font.points));
+        font.setPixelSize(page::fontPixels(text.font.points));
         font.setBold(text.font.bold);
         font.setItalic(text.font.italic);
         font.setKerning(false);

@@ -2,8 +2,8 @@
 //   scripts/fuzz [SECONDS]
 
 #include "markup/any_page.h"
-#include "platform/qt/font_book.h"
-#include "platform/qt/raster_surface.h"
+#include "output/raster/raster_surface.h"
+#include "page/faces/font_book.h"
 
 #include <QGuiApplication>
 
@@ -24,9 +24,9 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static test_support::PageBench bench;
-    static const platform::FontBook fonts;
-    static platform::RasterSurface raster(platform::SurfaceId::PictureTexte, 600, fonts,
-                                          qRgb(255, 255, 255));
+    static const page::FontBook fonts;
+    static output::RasterSurface raster(page::SurfaceId::PictureTexte, 600, fonts,
+                                        qRgb(255, 255, 255));
     if (size > kMostBytes)
         return 0;
     QString source =

@@ -1,13 +1,13 @@
 #include "app/course_data.h"
 
-#include "platform/jet_recordset.h"
+#include "coursedata/jet_recordset.h"
 #include "platform/terminal.h"
 #include "viewer/page_loader.h"
 
 namespace app {
 
 void CourseData::bind(const QString& path) {
-    auto opened = platform::openRecordset(path, QStringLiteral("cours"));
+    auto opened = coursedata::openRecordset(path, QStringLiteral("cours"));
     if (!opened) {
         // The window just stays empty; who looks for the reason finds it here.
         platform::tellOnTerminal(QString::fromStdString(opened.error().sentence));

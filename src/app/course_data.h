@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/recordset.h"
+#include "coursedata/recordset.h"
 #include "shell/start_up.h"
 
 #include <memory>
@@ -20,7 +20,7 @@ public:
 
 private:
     viewer::PageLoader& pages_;
-    std::unique_ptr<platform::Recordset> cours_;
+    std::unique_ptr<coursedata::Recordset> cours_;
 };
 
 } // namespace app

@@ -3,8 +3,8 @@
 #include "coursetool/render.h"
 #include "coursetool/tool_pictures.h"
 #include "coursetool/trace.h"
-#include "platform/qt/font_book.h"
-#include "platform/qt/look/field_pictures.h"
+#include "look/field_pictures.h"
+#include "page/faces/font_book.h"
 
 #include <QGuiApplication>
 
@@ -26,7 +26,7 @@ struct Ground {
 
     NoDisplay noDisplay;
     QGuiApplication application;
-    platform::FontBook fonts;
+    page::FontBook fonts;
 };
 
 } // namespace
@@ -47,7 +47,7 @@ extern "C" Q_DECL_EXPORT void orvalenteRender(int& argc, char** argv,
     coursetool::ToolPictures pictures(request.source.empty() ? request.course
                                                              : request.source.parent_path(),
                                       request.drives, report);
-    coursetool::render(request, ground.fonts, pictures, platform::look::fieldPictures(), report);
+    coursetool::render(request, ground.fonts, pictures, look::fieldPictures(), report);
 }
 
 extern "C" Q_DECL_EXPORT void orvalentePrint(int& argc, char** argv,

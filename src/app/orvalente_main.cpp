@@ -1,8 +1,8 @@
 #include "app/command_line.h"
 #include "app/scale.h"
 #include "app/shell_application.h"
-#include "platform/qt/font_book.h"
-#include "platform/qt/held_keys.h"
+#include "look/held_keys.h"
+#include "page/faces/font_book.h"
 #include "platform/terminal.h"
 
 #include <QApplication>
@@ -46,7 +46,7 @@ double chooseScale(const app::CommandLine& line, int argc, char** argv) {
 /// Pages were laid out for these faces: without their stand-ins, lines run past the margins and
 /// signs are missing.
 void warnOfMissingFaces() {
-    const QStringList missing = platform::FontBook::missingFamilies();
+    const QStringList missing = page::FontBook::missingFamilies();
     if (!missing.isEmpty())
         platform::tellOnTerminal(QStringLiteral("polices absentes, les pages en souffriront : %1.")
                                      .arg(missing.join(QStringLiteral(", "))));
@@ -66,7 +66,7 @@ int main(int argc, char** argv) {
         qputenv("QT_SCALE_FACTOR", QByteArray::number(scale));
 
     QApplication application(argc, argv);
-    const platform::HeldKeys heldKeys;
+    const look::HeldKeys heldKeys;
     QApplication::setApplicationName(QStringLiteral("orvalente"));
     // The leaving question ends the program, not the closing of some window.
     QApplication::setQuitOnLastWindowClosed(false);

@@ -4,10 +4,10 @@
 
 namespace app {
 
-std::unique_ptr<platform::Printer>
-loadPdfPrinter(const QString& path, const platform::FontBook& fonts, const platform::Paper& paper) {
+std::unique_ptr<platform::Printer> loadPdfPrinter(const QString& path, const page::FontBook& fonts,
+                                                  const platform::Paper& paper) {
     using Make =
-        platform::Printer* (*)(const QString&, const platform::FontBook&, const platform::Paper&);
+        platform::Printer* (*)(const QString&, const page::FontBook&, const platform::Paper&);
     static const auto make = reinterpret_cast<Make>(loadedFunction(
         ORVALENTE_PDF_MODULE, "orvalentePdfPrinter",
         "les fichiers PDF sont écrits sans que leurs lettres grecques puissent être cherchées"));

@@ -1,7 +1,7 @@
-#include "platform/cairo/pdf_printer.h"
+#include "output/pdf/pdf_printer.h"
 
 extern "C" Q_DECL_EXPORT platform::Printer* orvalentePdfPrinter(const QString& path,
-                                                                const platform::FontBook& fonts,
+                                                                const page::FontBook& fonts,
                                                                 const platform::Paper& paper) {
-    return new platform::PdfPrinter(path, fonts, paper);
+    return new output::PdfPrinter(path, fonts, paper);
 }

@@ -6,17 +6,20 @@
 #include "app/pdf_loader.h"
 #include "app/video_loader.h"
 #include "calculator/machine_opener.h"
+#include "coursedata/course_directory.h"
+#include "coursedata/course_pictures.h"
+#include "coursedata/data_location.h"
 #include "exercises/exo_opener.h"
 #include "help/help_opener.h"
+#include "look/message_dialog.h"
+#include "look/print_setup.h"
 #include "markup/renderer.h"
-#include "platform/qt/escape_watch.h"
-#include "platform/qt/font_book.h"
-#include "platform/qt/look/message_dialog.h"
+#include "output/paper/escape_watch.h"
+#include "output/paper/qt_printer.h"
+#include "page/faces/font_book.h"
 #include "platform/qt/mounted_drives.h"
 #include "platform/qt/patient_activator.h"
-#include "platform/qt/print_setup.h"
 #include "platform/qt/qt_beeper.h"
-#include "platform/qt/qt_printer.h"
 #include "platform/qt/qt_processes.h"
 #include "platform/qt/qt_screen.h"
 #include "platform/qt/system_display_settings.h"
@@ -25,13 +28,10 @@
 #include "search/coordon_opener.h"
 #include "shell/alerte.h"
 #include "shell/closing.h"
-#include "shell/course_directory.h"
-#include "shell/data_location.h"
 #include "shell/fermeur.h"
 #include "shell/launcher.h"
 #include "shell/start_up.h"
 #include "viewer/action_dispatcher.h"
-#include "viewer/course_pictures.h"
 #include "viewer/link_controls.h"
 #include "viewer/main_commands.h"
 #include "viewer/multim.h"
@@ -54,7 +54,7 @@ QString demonstrationCourse() {
 }
 
 QString courseDirectory(const CommandLine& commandLine) {
-    return shell::chooseCourseDirectory(
+    return coursedata::chooseCourseDirectory(
         {commandLine.course, QCoreApplication::applicationDirPath(), demonstrationCourse()});
 }
 
@@ -160,10 +160,10 @@ struct ShellApplication::Parts {
 
     shell::SharedState state;
     markup::DrawingState drawing;
-    viewer::BoundRecord bound;
-    platform::FontBook fonts;
+    coursedata::BoundRecord bound;
+    page::FontBook fonts;
     platform::QtScreen screen;
-    platform::look::DialogPrompter prompter;
+    look::DialogPrompter prompter;
     platform::QtProcesses processes;
     OtherWindows otherWindows;
     platform::PatientActivator activator{otherWindows, whenNotFound()};
@@ -182,18 +182,18 @@ struct ShellApplication::Parts {
 
     platform::MountedDrives drives;
     platform::QtBeeper beeper;
-    shell::DataLocation location{state, drives, prompter, beeper};
+    coursedata::DataLocation location{state, drives, prompter, beeper};
     viewer::PageVideo video{state, drawing, location, window, &loadVideoDevice};
-    viewer::ImageList symbols;
-    viewer::CoursePictures pictures{location, symbols};
+    coursedata::ImageList symbols;
+    coursedata::CoursePictures pictures{location, symbols};
     exercises::ExoOpener exercise;
     markup::Renderer renderer;
     viewer::PageLoader pages;
-    platform::QtPrinter printer{fonts, &loadPdfPrinter};
-    platform::QtPrinterSetup printerSetup{printer, prompter};
+    output::QtPrinter printer{fonts, &loadPdfPrinter};
+    look::QtPrinterSetup printerSetup{printer, prompter};
     platform::SystemHelpViewer helpViewer{otherWindows};
     Help help{state, helpViewer, {printerSetup, printer, prompter}};
-    platform::EscapeWatch escape{window};
+    output::EscapeWatch escape{window};
     viewer::PagePrinter pagePrinter{{state, bound, pages, window, drawing, window, window, pictures,
                                      fonts, printer, [this] { return escape.isAsked(); }}};
     viewer::PrintCommand printing{printerSetup, pagePrinter, prompter};

@@ -1,16 +1,14 @@
 #include "calculator/display.h"
 
-#include "platform/qt/look/interface_font.h"
-#include "platform/qt/look/palette.h"
-#include "platform/qt/look/pixels.h"
+#include "look/interface_font.h"
+#include "look/palette.h"
+#include "look/pixels.h"
 
 #include <QFontMetricsF>
 #include <QKeyEvent>
 #include <QPainter>
 
 namespace calculator {
-
-namespace look = platform::look;
 
 namespace {
 

@@ -1,15 +1,13 @@
 #include "calculator/key_button.h"
 
-#include "platform/qt/look/palette.h"
-#include "platform/qt/look/pixels.h"
-#include "platform/qt/look/tool_tip.h"
+#include "look/palette.h"
+#include "look/pixels.h"
+#include "look/tool_tip.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
 
 namespace calculator {
-
-namespace look = platform::look;
 
 namespace {
 

@@ -2,13 +2,13 @@
 
 #include "calculator/key_layout.h"
 #include "calculator/keypad.h"
-#include "platform/qt/look/button.h"
+#include "look/button.h"
 
 namespace calculator {
 
 /// A key of the keypad. In its caption what follows "^" is set small and raised, and a lone "x"
 /// before it in italics; the key without a caption shows the drawing of a backspace key.
-class KeyButton : public platform::look::Button {
+class KeyButton : public look::Button {
 public:
     KeyButton(const Key& key, const KeyPlace& place, QWidget* parent);
 
@@ -23,7 +23,7 @@ private:
     void paintRaised(QPainter& painter, const QString& base, const QString& raised) const;
 
     KeyStyle style_;
-    platform::look::Icon icon_;
+    look::Icon icon_;
 };
 
 } // namespace calculator

@@ -3,9 +3,9 @@
 #include "calculator/display.h"
 #include "calculator/key_button.h"
 #include "calculator/option_frame.h"
-#include "platform/qt/look/enter_once.h"
-#include "platform/qt/look/mnemonics.h"
-#include "platform/qt/look/program_icon.h"
+#include "look/enter_once.h"
+#include "look/mnemonics.h"
+#include "look/program_icon.h"
 #include "text/rounding.h"
 
 #include <QApplication>
@@ -16,8 +16,6 @@
 #include <QRadioButton>
 
 namespace calculator {
-
-namespace look = platform::look;
 
 namespace {
 

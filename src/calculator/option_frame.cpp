@@ -1,16 +1,14 @@
 #include "calculator/option_frame.h"
 
-#include "platform/qt/look/choice_sign.h"
-#include "platform/qt/look/interface_font.h"
-#include "platform/qt/look/palette.h"
-#include "platform/qt/look/pixels.h"
-#include "platform/qt/look/radio_button.h"
+#include "look/choice_sign.h"
+#include "look/interface_font.h"
+#include "look/palette.h"
+#include "look/pixels.h"
+#include "look/radio_button.h"
 
 #include <QPainter>
 
 namespace calculator {
-
-namespace look = platform::look;
 
 namespace {
 

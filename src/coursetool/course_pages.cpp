@@ -1,9 +1,9 @@
 #include "coursetool/course_pages.h"
 
-#include "platform/twips.h"
+#include "coursedata/page_index.h"
+#include "page/twips.h"
 #include "text/rounding.h"
 #include "viewer/page_code.h"
-#include "viewer/page_index.h"
 #include "viewer/page_loader.h"
 #include "viewer/page_sheet.h"
 
@@ -19,19 +19,19 @@ std::optional<CoursePages> CoursePages::open(const std::filesystem::path& course
 }
 
 CoursePages::CoursePages(CourseRecords pages) : pages_(std::move(pages)) {
-    viewer::buildPageIndex(*pages_.records, state_);
+    coursedata::buildPageIndex(*pages_.records, state_);
     numbers_.resize(static_cast<std::size_t>(pages_.records->recordCount()));
     pages_.records->forEach({QStringLiteral("Numeropage")},
-                            [&](int position, std::span<const platform::FieldValue> fields) {
+                            [&](int position, std::span<const coursedata::FieldValue> fields) {
                                 if (!std::holds_alternative<std::monostate>(fields[0]))
                                     numbers_.at(static_cast<std::size_t>(position)) =
-                                        text::toInt32(platform::fieldNumber(fields[0]));
+                                        text::toInt32(coursedata::fieldNumber(fields[0]));
                             });
 }
 
 QString CoursePages::title() const {
     pages_.records->setAbsolutePosition(0);
-    return platform::shownText(pages_.records->field(QStringLiteral("titre"))).simplified();
+    return coursedata::shownText(pages_.records->field(QStringLiteral("titre"))).simplified();
 }
 
 std::optional<int> CoursePages::number(int position) const {
@@ -39,19 +39,19 @@ std::optional<int> CoursePages::number(int position) const {
 }
 
 int CoursePages::positionShown(int number) const {
-    return viewer::positionOfCode(state_, number).value_or(0);
+    return coursedata::positionOfCode(state_, number).value_or(0);
 }
 
 std::optional<int> CoursePages::positionShown(const QString& tag) const {
     if (viewer::codePrefix(tag) != u"PAG")
         return std::nullopt;
     const auto number = text::toInt16(viewer::codeArgument(tag));
-    const auto position = number ? viewer::positionOfCode(state_, *number) : std::nullopt;
+    const auto position = number ? coursedata::positionOfCode(state_, *number) : std::nullopt;
     return position && *position < count() ? position : std::nullopt;
 }
 
-viewer::BoundRecord CoursePages::draw(int position, OffscreenPage& page) {
-    viewer::BoundRecord bound;
+coursedata::BoundRecord CoursePages::draw(int position, OffscreenPage& page) {
+    coursedata::BoundRecord bound;
     viewer::PageLoader loader(state_, bound, page, page, page.renderer(), page);
     loader.bindTo(*pages_.records);
     loader.moveTo(position);
@@ -65,12 +65,12 @@ SourcePlace CoursePages::place(int position) const {
     return {file(), known ? "page " + std::to_string(*known) : "page sans numéro"};
 }
 
-platform::Sheet CoursePages::sheet(int position, const platform::TextMetrics& metrics,
-                                   markup::PictureShelf& pictures, Report& report) {
+page::Sheet CoursePages::sheet(int position, const page::TextMetrics& metrics,
+                               markup::PictureShelf& pictures, Report& report) {
     OffscreenPage page(metrics, pictures);
-    const viewer::BoundRecord bound = draw(position, page);
+    const coursedata::BoundRecord bound = draw(position, page);
     reportLost(page, place(position), report);
-    platform::Sheet sheet = viewer::pageSheet(page.recording(), metrics, page.columnHeight());
+    page::Sheet sheet = viewer::pageSheet(page.recording(), metrics, page.columnHeight());
     sheet.title = bound.Textitre.simplified();
     sheet.number = number(position).value_or(0);
     return sheet;

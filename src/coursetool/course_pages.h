@@ -1,11 +1,11 @@
 #pragma once
 
+#include "coursedata/bound_record.h"
 #include "coursetool/course_records.h"
 #include "coursetool/lost_text.h"
 #include "coursetool/offscreen_page.h"
-#include "platform/sheet.h"
+#include "page/sheet.h"
 #include "shell/shared_state.h"
-#include "viewer/bound_record.h"
 
 #include <optional>
 #include <vector>
@@ -34,12 +34,12 @@ public:
     std::optional<int> positionShown(const QString& tag) const;
 
     /// Draws the page at a position on a fresh `page`; gives its fields.
-    viewer::BoundRecord draw(int position, OffscreenPage& page);
+    coursedata::BoundRecord draw(int position, OffscreenPage& page);
 
     /// The sheet of the page at a position. Every page starts anew: what the page before it left
     /// does not show. Warns of what of its source nobody sees.
-    platform::Sheet sheet(int position, const platform::TextMetrics& metrics,
-                          markup::PictureShelf& pictures, Report& report);
+    page::Sheet sheet(int position, const page::TextMetrics& metrics,
+                      markup::PictureShelf& pictures, Report& report);
 
     /// Where the source of the page at a position is.
     SourcePlace place(int position) const;

@@ -1,6 +1,6 @@
 #include "coursetool/course_questions.h"
 
-#include "platform/numbers.h"
+#include "page/numbers.h"
 #include "text/rounding.h"
 #include "viewer/page_code.h"
 
@@ -24,22 +24,22 @@ std::optional<CourseQuestions> CourseQuestions::open(const std::filesystem::path
     return CourseQuestions(*std::move(questions), tests ? tests->records.get() : nullptr);
 }
 
-CourseQuestions::CourseQuestions(CourseRecords questions, const platform::Recordset* tests)
+CourseQuestions::CourseQuestions(CourseRecords questions, const coursedata::Recordset* tests)
     : questions_(std::move(questions)) {
-    using Fields = std::span<const platform::FieldValue>;
+    using Fields = std::span<const coursedata::FieldValue>;
     references_.resize(static_cast<std::size_t>(questions_.records->recordCount()));
     questions_.records->forEach({QStringLiteral("REFERENCE")}, [&](int position, Fields fields) {
         if (!std::holds_alternative<std::monostate>(fields[0]))
             references_.at(static_cast<std::size_t>(position)) =
-                text::toInt32(platform::fieldNumber(fields[0]));
+                text::toInt32(coursedata::fieldNumber(fields[0]));
     });
     if (tests)
-        tests->forEach({QStringLiteral("Chapitre"), QStringLiteral("Titre")},
-                       [&](int, Fields fields) {
-                           // Of tests of the same chapter the last one counts.
-                           if (const auto chapter = text::toInt16(platform::fieldNumber(fields[0])))
-                               testTitles_[*chapter] = platform::shownText(fields[1]);
-                       });
+        tests->forEach(
+            {QStringLiteral("Chapitre"), QStringLiteral("Titre")}, [&](int, Fields fields) {
+                // Of tests of the same chapter the last one counts.
+                if (const auto chapter = text::toInt16(coursedata::fieldNumber(fields[0])))
+                    testTitles_[*chapter] = coursedata::shownText(fields[1]);
+            });
 }
 
 std::optional<int> CourseQuestions::reference(int position) const {
@@ -55,7 +55,7 @@ std::optional<int> CourseQuestions::position(int reference) const {
 
 void CourseQuestions::draw(int position, OffscreenQuestion& question) {
     questions_.records->setAbsolutePosition(position);
-    question.draw(platform::shownText(questions_.records->field(QStringLiteral("question"))));
+    question.draw(coursedata::shownText(questions_.records->field(QStringLiteral("question"))));
 }
 
 SourcePlace CourseQuestions::place(int position) const {
@@ -63,17 +63,17 @@ SourcePlace CourseQuestions::place(int position) const {
     return {file(), known ? "question " + std::to_string(*known) : "question sans référence"};
 }
 
-platform::Sheet CourseQuestions::sheet(int position, const platform::TextMetrics& metrics,
-                                       markup::PictureShelf& pictures,
-                                       const platform::FieldPictures& fields, Report& report) {
+page::Sheet CourseQuestions::sheet(int position, const page::TextMetrics& metrics,
+                                   markup::PictureShelf& pictures,
+                                   const page::FieldPictures& fields, Report& report) {
     OffscreenQuestion question(metrics, pictures);
     draw(position, question);
     reportUnended(question.code().text(), place(position), report);
-    platform::Sheet sheet = question.sheet(fields);
+    page::Sheet sheet = question.sheet(fields);
     sheet.title = title(position);
-    for (platform::LinkArea& link : sheet.links) {
+    for (page::LinkArea& link : sheet.links) {
         // The tag is a bare page number; the main window makes a page code of it.
-        const auto page = text::toInt16(platform::leadingNumber(link.tag));
+        const auto page = text::toInt16(page::leadingNumber(link.tag));
         link.tag = page ? viewer::pageCode(*page) : QString();
     }
     return sheet;

@@ -32,15 +32,15 @@ public:
 
     /// The sheet of the question at a position; the tags of its links are page codes. Warns of
     /// what of its source nobody sees.
-    platform::Sheet sheet(int position, const platform::TextMetrics& metrics,
-                          markup::PictureShelf& pictures, const platform::FieldPictures& fields,
-                          Report& report);
+    page::Sheet sheet(int position, const page::TextMetrics& metrics,
+                      markup::PictureShelf& pictures, const page::FieldPictures& fields,
+                      Report& report);
 
     /// Where the source of the question at a position is.
     SourcePlace place(int position) const;
 
 private:
-    CourseQuestions(CourseRecords questions, const platform::Recordset* tests);
+    CourseQuestions(CourseRecords questions, const coursedata::Recordset* tests);
 
     QString title(int position) const;
 

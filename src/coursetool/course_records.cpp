@@ -1,8 +1,8 @@
 #include "coursetool/course_records.h"
 
+#include "coursedata/jet_recordset.h"
 #include "coursetool/paths.h"
 #include "platform/file_names.h"
-#include "platform/jet_recordset.h"
 
 namespace coursetool {
 
@@ -25,7 +25,7 @@ std::optional<CourseRecords> openRecords(const std::filesystem::path& course, co
                          : std::string("aucun test ici : ") + fileName + " manque");
         return std::nullopt;
     }
-    auto records = platform::openRecordset(*file, QString::fromLatin1(table.name.data()));
+    auto records = coursedata::openRecordset(*file, QString::fromLatin1(table.name.data()));
     if (!records) {
         report.fault({file->toStdString()}, records.error().sentence);
         return std::nullopt;

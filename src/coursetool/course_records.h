@@ -1,8 +1,8 @@
 #pragma once
 
+#include "coursedata/recordset.h"
 #include "coursetool/report.h"
 #include "coursetool/tables.h"
-#include "platform/recordset.h"
 
 #include <filesystem>
 #include <memory>
@@ -14,7 +14,7 @@ namespace coursetool {
 /// A table of an installed course.
 struct CourseRecords {
     std::string file; ///< the database, for messages
-    std::unique_ptr<platform::Recordset> records;
+    std::unique_ptr<coursedata::Recordset> records;
 };
 
 /// Opens a table of the database `fileName` in an installation directory, its name taken without

@@ -1,7 +1,7 @@
 #include "coursetool/lost_text.h"
 
-#include "platform/ink_area.h"
-#include "platform/sheet.h"
+#include "page/ink_area.h"
+#include "page/sheet.h"
 
 #include <QStringList>
 
@@ -34,14 +34,13 @@ void warn(const SourcePlace& place, int line, const std::string& sentence, Repor
 
 /// The words that stand below the foot of the text column, a run each.
 QStringList wordsBelow(const OffscreenPage& page) {
-    platform::Sheet sheet{};
-    platform::putOnSheet(page.recording(), page.metrics(), sheet);
+    page::Sheet sheet{};
+    page::putOnSheet(page.recording(), page.metrics(), sheet);
     const double foot = page.columnHeight();
     QStringList words;
-    for (const platform::Operation& operation : sheet.operations)
-        if (const auto* text = std::get_if<platform::TextOperation>(&operation))
-            if (text->surface == platform::SurfaceId::PictureTexte &&
-                platform::isBelow(*text, foot))
+    for (const page::Operation& operation : sheet.operations)
+        if (const auto* text = std::get_if<page::TextOperation>(&operation))
+            if (text->surface == page::SurfaceId::PictureTexte && page::isBelow(*text, foot))
                 words.append(text->text);
     return words;
 }

@@ -1,9 +1,9 @@
 #include "coursetool/offscreen_page.h"
 
-#include "platform/twips.h"
+#include "look/surface_widths.h"
+#include "page/twips.h"
 #include "viewer/page_sheet.h"
 #include "viewer/page_title.h"
-#include "viewer/surface_widths.h"
 
 #include <algorithm>
 #include <cmath>
@@ -17,15 +17,15 @@ constexpr double kBareMarginPx = 8;
 
 } // namespace
 
-using platform::kTwipsPerPixel;
-using platform::SurfaceId;
+using page::kTwipsPerPixel;
+using page::SurfaceId;
 
-OffscreenPage::OffscreenPage(const platform::TextMetrics& metrics, markup::PictureShelf& pictures)
-    : metrics_(metrics), pictureTexte_(SurfaceId::PictureTexte,
-                                       viewer::kPageWidthPx * kTwipsPerPixel, metrics, recording_),
-      pictureIllus_(SurfaceId::PictureIllus, viewer::kIllustrationWidthPx * kTwipsPerPixel, metrics,
+OffscreenPage::OffscreenPage(const page::TextMetrics& metrics, markup::PictureShelf& pictures)
+    : metrics_(metrics), pictureTexte_(SurfaceId::PictureTexte, look::kPageWidthPx * kTwipsPerPixel,
+                                       metrics, recording_),
+      pictureIllus_(SurfaceId::PictureIllus, look::kIllustrationWidthPx * kTwipsPerPixel, metrics,
                     recording_),
-      titre_(SurfaceId::Titre, viewer::kTitleWidthPx * kTwipsPerPixel, metrics, recording_),
+      titre_(SurfaceId::Titre, look::kTitleWidthPx * kTwipsPerPixel, metrics, recording_),
       renderer_(state_, *this, pictures, recording_) {
     state_.surfaceDessin = &pictureTexte_;
     state_.fenetreSource = this;
@@ -42,19 +42,19 @@ double OffscreenPage::columnHeight() const {
 }
 
 double OffscreenPage::drawnHeight(SurfaceId surface) const {
-    platform::Sheet drawn{};
-    platform::putOnSheet(recording_, metrics_, drawn);
-    return std::min(platform::drawnHeight(drawn.operations, surface, metrics_),
-                    platform::kMaxSurfaceHeightPx * kTwipsPerPixel);
+    page::Sheet drawn{};
+    page::putOnSheet(recording_, metrics_, drawn);
+    return std::min(page::drawnHeight(drawn.operations, surface, metrics_),
+                    page::kMaxSurfaceHeightPx * kTwipsPerPixel);
 }
 
-platform::Sheet OffscreenPage::bareSheet() const {
+page::Sheet OffscreenPage::bareSheet() const {
     const double height = std::ceil(columnHeight() / kTwipsPerPixel) * kTwipsPerPixel;
     if (drawnHeight(SurfaceId::Titre) > 0 || drawnHeight(SurfaceId::PictureIllus) > 0)
         return viewer::pageSheet(recording_, metrics_, height);
     constexpr double kMargin = kBareMarginPx * kTwipsPerPixel;
-    platform::Sheet sheet{};
-    platform::putOnSheet(recording_, metrics_, sheet);
+    page::Sheet sheet{};
+    page::putOnSheet(recording_, metrics_, sheet);
     sheet.width = pictureTexte_.scaleWidth() + 2 * kMargin;
     sheet.height = height + 2 * kMargin;
     sheet.surfaces = {

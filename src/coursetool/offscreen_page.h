@@ -3,11 +3,11 @@
 #include "markup/picture_shelf.h"
 #include "markup/renderer.h"
 #include "markup/windows.h"
-#include "platform/recording.h"
-#include "platform/rich_text_holder.h"
-#include "platform/sheet.h"
-#include "platform/surface.h"
-#include "platform/text_metrics.h"
+#include "page/recording.h"
+#include "page/rich_text_holder.h"
+#include "page/sheet.h"
+#include "page/surface.h"
+#include "page/text_metrics.h"
 #include "viewer/neighbours.h"
 #include "viewer/page_view.h"
 
@@ -20,12 +20,12 @@ class OffscreenPage : public markup::PageWindow,
                       public viewer::PageView,
                       public viewer::VideoDevice {
 public:
-    OffscreenPage(const platform::TextMetrics& metrics, markup::PictureShelf& pictures);
+    OffscreenPage(const page::TextMetrics& metrics, markup::PictureShelf& pictures);
 
     markup::DrawingState& state() { return state_; }
     markup::Renderer& renderer() { return renderer_; }
-    const platform::Recording& recording() const { return recording_; }
-    const platform::TextMetrics& metrics() const { return metrics_; }
+    const page::Recording& recording() const { return recording_; }
+    const page::TextMetrics& metrics() const { return metrics_; }
 
     /// Draws a bare page source.
     void draw(const QString& source);
@@ -35,19 +35,19 @@ public:
     double columnHeight() const;
     /// The column alone, with a margin and as tall as the window has it; the whole page when it
     /// drew on its title or its illustration.
-    platform::Sheet bareSheet() const;
+    page::Sheet bareSheet() const;
 
-    platform::Surface& pictureTexte() override { return pictureTexte_; }
-    platform::Surface& pictureIllus() override { return pictureIllus_; }
-    platform::Surface& titre() override { return titre_; }
-    platform::RichTextHolder& code() override { return code_; }
+    page::Surface& pictureTexte() override { return pictureTexte_; }
+    page::Surface& pictureIllus() override { return pictureIllus_; }
+    page::Surface& titre() override { return titre_; }
+    page::RichTextHolder& code() override { return code_; }
 
     void clearPictures() override { recording_.clear(); }
     void setTitle(const QString& title) override;
 
     // What shows in the window alone.
     void setBusy(bool) override {}
-    void refresh(platform::Surface&) override {}
+    void refresh(page::Surface&) override {}
     void preparePrinter() override {}
     void showVideoFrame() override {}
     void setPageVisible(bool) override {}
@@ -68,14 +68,14 @@ public:
     void press(int) override {}
 
 private:
-    double drawnHeight(platform::SurfaceId surface) const;
+    double drawnHeight(page::SurfaceId surface) const;
 
-    const platform::TextMetrics& metrics_;
-    platform::Recording recording_;
-    platform::Surface pictureTexte_;
-    platform::Surface pictureIllus_;
-    platform::Surface titre_;
-    platform::RichTextHolder code_;
+    const page::TextMetrics& metrics_;
+    page::Recording recording_;
+    page::Surface pictureTexte_;
+    page::Surface pictureIllus_;
+    page::Surface titre_;
+    page::RichTextHolder code_;
     markup::DrawingState state_;
     markup::Renderer renderer_;
 };

@@ -1,15 +1,15 @@
 #include "coursetool/offscreen_question.h"
 
-#include "platform/twips.h"
-#include "viewer/surface_widths.h"
+#include "look/surface_widths.h"
+#include "page/twips.h"
 
 #include <algorithm>
 #include <cmath>
 
 namespace coursetool {
 
-using platform::kTwipsPerPixel;
-using platform::SurfaceId;
+using page::kTwipsPerPixel;
+using page::SurfaceId;
 
 namespace {
 
@@ -19,15 +19,15 @@ constexpr int kMarginPx = 16;
 
 } // namespace
 
-OffscreenQuestion::OffscreenQuestion(const platform::TextMetrics& metrics,
+OffscreenQuestion::OffscreenQuestion(const page::TextMetrics& metrics,
                                      markup::PictureShelf& pictures)
     : metrics_(metrics),
       picture2_(SurfaceId::Picture2, kQuestionWidthPx * kTwipsPerPixel, metrics, recording_),
-      pictureTexte_(SurfaceId::PictureTexte, viewer::kPageWidthPx * kTwipsPerPixel, metrics,
+      pictureTexte_(SurfaceId::PictureTexte, look::kPageWidthPx * kTwipsPerPixel, metrics,
                     recording_),
-      pictureIllus_(SurfaceId::PictureIllus, viewer::kIllustrationWidthPx * kTwipsPerPixel, metrics,
+      pictureIllus_(SurfaceId::PictureIllus, look::kIllustrationWidthPx * kTwipsPerPixel, metrics,
                     recording_),
-      titre_(SurfaceId::Titre, viewer::kTitleWidthPx * kTwipsPerPixel, metrics, recording_),
+      titre_(SurfaceId::Titre, look::kTitleWidthPx * kTwipsPerPixel, metrics, recording_),
       renderer_(state_, *this, pictures, recording_) {
     state_.surfaceDessin = &picture2_;
     state_.fenetreSource = this;
@@ -38,14 +38,14 @@ void OffscreenQuestion::draw(const QString& source) {
     renderer_.affichepage();
 }
 
-platform::Sheet OffscreenQuestion::sheet(const platform::FieldPictures& fields) const {
+page::Sheet OffscreenQuestion::sheet(const page::FieldPictures& fields) const {
     constexpr double kMargin = kMarginPx * kTwipsPerPixel;
-    platform::Sheet sheet{};
-    platform::putOnSheet(recording_, metrics_, sheet, fields);
+    page::Sheet sheet{};
+    page::putOnSheet(recording_, metrics_, sheet, fields);
     // A control on the last line reaches further down than the pen.
     const double drawn = std::min(
-        platform::drawnHeight(sheet.operations, SurfaceId::Picture2, metrics_) / kTwipsPerPixel,
-        platform::kMaxSurfaceHeightPx);
+        page::drawnHeight(sheet.operations, SurfaceId::Picture2, metrics_) / kTwipsPerPixel,
+        page::kMaxSurfaceHeightPx);
     const double height = std::ceil(std::max(drawn, picture2_.heightPx())) * kTwipsPerPixel;
     sheet.width = picture2_.scaleWidth() + 2 * kMargin;
     sheet.height = height + 2 * kMargin;

@@ -1,28 +1,28 @@
 #include "coursetool/print.h"
 
+#include "coursedata/bound_record.h"
+#include "coursedata/page_index.h"
 #include "coursetool/course_records.h"
 #include "coursetool/offscreen_page.h"
 #include "coursetool/paths.h"
-#include "platform/cairo/pdf_printer.h"
-#include "viewer/bound_record.h"
-#include "viewer/page_index.h"
+#include "output/pdf/pdf_printer.h"
 #include "viewer/page_loader.h"
 #include "viewer/page_printer.h"
 
 namespace coursetool {
 
-void print(const PrintRequest& request, const platform::FontBook& fonts,
-           markup::PictureShelf& pictures, Report& report) {
+void print(const PrintRequest& request, const page::FontBook& fonts, markup::PictureShelf& pictures,
+           Report& report) {
     const auto course = openRecords(request.course, kCourseFile, coursTable(), report);
     if (!course)
         return;
     shell::SharedState state;
-    viewer::buildPageIndex(*course->records, state);
+    coursedata::buildPageIndex(*course->records, state);
     OffscreenPage page(fonts, pictures);
-    viewer::BoundRecord bound;
+    coursedata::BoundRecord bound;
     viewer::PageLoader loader(state, bound, page, page, page.renderer(), page);
     loader.bindTo(*course->records);
-    if (const auto position = viewer::positionOfCode(state, request.page))
+    if (const auto position = coursedata::positionOfCode(state, request.page))
         loader.moveTo(*position);
     if (bound.TextID != QString::number(request.page)) {
         report.fault({course->file},
@@ -31,7 +31,7 @@ void print(const PrintRequest& request, const platform::FontBook& fonts,
     }
     loader.showCurrentRecord();
 
-    platform::PdfPrinter printer(QString::fromStdString(shown(request.output)), fonts);
+    output::PdfPrinter printer(QString::fromStdString(shown(request.output)), fonts);
     viewer::PagePrinter pages(
         {state, bound, loader, page, page.state(), page, page, pictures, fonts, printer, {}});
     if (pages.imprimepage().wanted == 0)

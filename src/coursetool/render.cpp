@@ -34,8 +34,8 @@ private:
 
 class Renderer {
 public:
-    Renderer(const RenderRequest& request, const platform::FontBook& fonts,
-             markup::PictureShelf& pictures, const platform::FieldPictures& fields, Report& report)
+    Renderer(const RenderRequest& request, const page::FontBook& fonts,
+             markup::PictureShelf& pictures, const page::FieldPictures& fields, Report& report)
         : request_(request), fonts_(fonts), pictures_(pictures), fields_(fields), report_(report) {}
 
     void renderPage(int number) {
@@ -126,7 +126,7 @@ private:
     }
 
     /// A single sheet has nowhere to lead to.
-    void writeOne(const platform::Sheet& sheet) {
+    void writeOne(const page::Sheet& sheet) {
         const SheetSet alone{sheet.title, [](const QString&) { return QString(); },
                              [](const QString&) { return std::optional<int>(); }};
         const auto files = openSheetFiles(request_, fonts_, alone, report_);
@@ -135,16 +135,16 @@ private:
     }
 
     const RenderRequest& request_;
-    const platform::FontBook& fonts_;
+    const page::FontBook& fonts_;
     markup::PictureShelf& pictures_;
-    const platform::FieldPictures& fields_;
+    const page::FieldPictures& fields_;
     Report& report_;
 };
 
 } // namespace
 
-void render(const RenderRequest& request, const platform::FontBook& fonts,
-            markup::PictureShelf& pictures, const platform::FieldPictures& fields, Report& report) {
+void render(const RenderRequest& request, const page::FontBook& fonts,
+            markup::PictureShelf& pictures, const page::FieldPictures& fields, Report& report) {
     Renderer renderer(request, fonts, pictures, fields, report);
     if (!request.source.empty())
         renderer.renderSource();

@@ -2,8 +2,8 @@
 
 #include "coursetool/drawing_request.h"
 #include "markup/picture_shelf.h"
-#include "platform/field_view.h"
-#include "platform/qt/font_book.h"
+#include "page/faces/font_book.h"
+#include "page/field_view.h"
 
 namespace coursetool {
 
@@ -21,7 +21,7 @@ namespace coursetool {
 /// question. Pictures are those that lie beside the file.
 ///
 /// Faults: no course, no page or question of that number, a file that cannot be written.
-void render(const RenderRequest& request, const platform::FontBook& fonts,
-            markup::PictureShelf& pictures, const platform::FieldPictures& fields, Report& report);
+void render(const RenderRequest& request, const page::FontBook& fonts,
+            markup::PictureShelf& pictures, const page::FieldPictures& fields, Report& report);
 
 } // namespace coursetool

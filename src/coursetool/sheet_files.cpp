@@ -3,10 +3,10 @@
 #include "coursetool/paths.h"
 #include "files/cause.h"
 #include "files/whole_file.h"
-#include "platform/cairo/pdf_file.h"
-#include "platform/png/png_file.h"
-#include "platform/qt/sheet_raster.h"
-#include "platform/svg/svg_file.h"
+#include "output/pdf/pdf_file.h"
+#include "output/png/png_file.h"
+#include "output/raster/sheet_raster.h"
+#include "output/svg/svg_file.h"
 
 #include <QIODevice>
 
@@ -41,7 +41,7 @@ public:
     SeparateFiles(const RenderRequest& request, const char* ending, Report& report)
         : request_(request), ending_(ending), report_(report) {}
 
-    bool add(const platform::Sheet& sheet, const QString& name) final {
+    bool add(const page::Sheet& sheet, const QString& name) final {
         const fs::path path = request_.all()
                                   ? request_.output / pathFrom((name + ending_).toStdString())
                                   : request_.output;
@@ -56,7 +56,7 @@ public:
     }
 
 protected:
-    virtual bool write(const platform::Sheet& sheet, files::WholeFile& file) = 0;
+    virtual bool write(const page::Sheet& sheet, files::WholeFile& file) = 0;
 
     const RenderRequest& request_;
     const QLatin1String ending_;
@@ -67,14 +67,14 @@ private:
 
 class PngFiles : public SeparateFiles {
 public:
-    PngFiles(const RenderRequest& request, const platform::FontBook& fonts, Report& report)
+    PngFiles(const RenderRequest& request, const page::FontBook& fonts, Report& report)
         : SeparateFiles(request, ".png", report), raster_(fonts, request.scale) {}
 
 private:
-    bool write(const platform::Sheet& sheet, files::WholeFile& file) override {
+    bool write(const page::Sheet& sheet, files::WholeFile& file) override {
         const QSize size = raster_.size(sheet);
         FileDevice device(file);
-        platform::PngFile png(device, size, kScreenDotsPerInch * request_.scale);
+        output::PngFile png(device, size, kScreenDotsPerInch * request_.scale);
         const int rows = raster_.bandRows(sheet);
         for (int top = 0; top < size.height(); top += rows)
             if (!png.add(raster_.band(sheet, top)))
@@ -82,38 +82,38 @@ private:
         return png.finish();
     }
 
-    platform::SheetRaster raster_;
+    output::SheetRaster raster_;
 };
 
 class SvgFiles : public SeparateFiles {
 public:
-    SvgFiles(const RenderRequest& request, const platform::FontBook& fonts, SheetSet set,
+    SvgFiles(const RenderRequest& request, const page::FontBook& fonts, SheetSet set,
              Report& report)
         : SeparateFiles(request, ".svg", report), fonts_(fonts), set_(std::move(set)) {}
 
 private:
-    bool write(const platform::Sheet& sheet, files::WholeFile& file) override {
+    bool write(const page::Sheet& sheet, files::WholeFile& file) override {
         const auto address = [this](const QString& tag) {
             const QString name = set_.fileOfTag(tag);
             return name.isEmpty() ? name : name + ending_;
         };
-        const QByteArray document = platform::svgDocument(sheet, fonts_, address, request_.scale);
+        const QByteArray document = output::svgDocument(sheet, fonts_, address, request_.scale);
         return file.write(
             std::string_view(document.constData(), static_cast<std::size_t>(document.size())));
     }
 
-    const platform::FontBook& fonts_;
+    const page::FontBook& fonts_;
     SheetSet set_;
 };
 
 class PdfSheets : public SheetFiles {
 public:
-    PdfSheets(const RenderRequest& request, const platform::FontBook& fonts,
-              platform::PdfDocument document, Report& report)
+    PdfSheets(const RenderRequest& request, const page::FontBook& fonts,
+              output::PdfDocument document, Report& report)
         : place_{shown(request.output)},
           pdf_(QString::fromStdString(place_.file), fonts, std::move(document)), report_(report) {}
 
-    bool add(const platform::Sheet& sheet, const QString&) override {
+    bool add(const page::Sheet& sheet, const QString&) override {
         return pdf_.addSheet(sheet) || fail();
     }
     void finish() override {
@@ -128,19 +128,18 @@ private:
     }
 
     Place place_;
-    platform::PdfFile pdf_;
+    output::PdfFile pdf_;
     Report& report_;
 };
 
 } // namespace
 
 std::unique_ptr<SheetFiles> openSheetFiles(const RenderRequest& request,
-                                           const platform::FontBook& fonts, SheetSet set,
+                                           const page::FontBook& fonts, SheetSet set,
                                            Report& report) {
     if (request.format == RenderFormat::Pdf)
         return std::make_unique<PdfSheets>(
-            request, fonts, platform::PdfDocument{set.title, {}, std::move(set.numberOfTag)},
-            report);
+            request, fonts, output::PdfDocument{set.title, {}, std::move(set.numberOfTag)}, report);
     if (request.all()) {
         std::error_code error;
         fs::create_directories(request.output, error);

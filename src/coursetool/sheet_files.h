@@ -1,8 +1,8 @@
 #pragma once
 
 #include "coursetool/drawing_request.h"
-#include "platform/qt/font_book.h"
-#include "platform/sheet.h"
+#include "page/faces/font_book.h"
+#include "page/sheet.h"
 
 #include <QString>
 
@@ -29,7 +29,7 @@ public:
 
     /// Writes a sheet; `name` is that of its file, without directory and ending, where each sheet
     /// has a file of its own. False when writing more is of no use: the fault is in the report.
-    virtual bool add(const platform::Sheet& sheet, const QString& name) = 0;
+    virtual bool add(const page::Sheet& sheet, const QString& name) = 0;
 
     /// To be called after the last sheet.
     virtual void finish() {}
@@ -39,7 +39,7 @@ public:
 /// directory there, which is made, or into one PDF. A fault, and null, when that directory cannot
 /// be made.
 std::unique_ptr<SheetFiles> openSheetFiles(const RenderRequest& request,
-                                           const platform::FontBook& fonts, SheetSet set,
+                                           const page::FontBook& fonts, SheetSet set,
                                            Report& report);
 
 } // namespace coursetool

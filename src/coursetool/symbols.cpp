@@ -1,10 +1,10 @@
 #include "coursetool/symbols.h"
 
+#include "coursedata/symbol_names.h"
 #include "coursetool/file_list.h"
 #include "coursetool/paths.h"
 #include "files/within.h"
 #include "text/utf8.h"
-#include "viewer/symbol_names.h"
 
 namespace coursetool {
 
@@ -19,7 +19,7 @@ fs::path symbolFolder(const fs::path& course, Report& report) {
         if (files::isDirectoryWithin(entry.path(), course))
             folders.add(entry.path().filename());
     }
-    const auto name = folders.find(viewer::kSymbolFolder);
+    const auto name = folders.find(coursedata::kSymbolFolder);
     return name ? course / *name : fs::path();
 }
 
@@ -30,7 +30,7 @@ std::vector<std::string> symbolFiles(const fs::path& folder, const fs::path& cou
     for (const fs::directory_entry& entry : entriesOf(folder, report)) {
         const std::string name = shown(entry.path().filename());
         std::error_code error;
-        if (entry.is_regular_file(error) && viewer::symbolKey(name)) {
+        if (entry.is_regular_file(error) && coursedata::symbolKey(name)) {
             if (isFileOf(course, entry, report))
                 names.push_back(name);
         } else if (!name.starts_with('.')) {
@@ -44,9 +44,9 @@ std::vector<std::string> symbolFiles(const fs::path& folder, const fs::path& cou
 }
 
 void warnAboutHidden(const fs::path& folder, const std::vector<std::string>& names,
-                     const std::map<std::string, viewer::SymbolFile>& list, Report& report) {
+                     const std::map<std::string, coursedata::SymbolFile>& list, Report& report) {
     for (const std::string& name : names) {
-        const viewer::SymbolFile& shownOne = list.at(viewer::symbolKey(name).value());
+        const coursedata::SymbolFile& shownOne = list.at(coursedata::symbolKey(name).value());
         if (shownOne.name != name)
             report.warning({shown(folder / pathFrom(name))},
                            "laissé de côté : sa clé est celle de " + inQuotes(shownOne.name));
@@ -59,7 +59,7 @@ void listSymbols(const fs::path& course, OutputBuffer& out, Report& report) {
     const fs::path folder = course.empty() ? fs::path() : symbolFolder(course, report);
     const std::vector<std::string> names =
         folder.empty() ? std::vector<std::string>() : symbolFiles(folder, course, report);
-    const auto list = viewer::imageListOf(names);
+    const auto list = coursedata::imageListOf(names);
     warnAboutHidden(folder, names, list, report);
     for (const auto& [key, file] : list) {
         out.text() += key + '\t' + text::plainLine(file.name) + '\t' +

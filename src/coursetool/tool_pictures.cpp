@@ -26,10 +26,10 @@ std::map<QChar, QString> lettersOf(const std::map<char, std::filesystem::path>& 
 ToolPictures::ToolPictures(const std::filesystem::path& course,
                            const std::map<char, std::filesystem::path>& drives, Report& report)
     : place_(shown(course)), report_(report), drives_(directoryName(course), lettersOf(drives)),
-      location_(state_, drives_, nobody_, nobody_), symbols_(directoryName(course)),
+      location_(directories_, drives_, nobody_, nobody_), symbols_(directoryName(course)),
       pictures_(location_, symbols_) {
     if (!course.empty())
-        state_.InstallDir = shell::installDir(directoryName(course));
+        directories_.InstallDir = shell::installDir(directoryName(course));
 }
 
 QString ToolPictures::locatePicture(const QString& name) {
@@ -40,14 +40,14 @@ QString ToolPictures::locatePicture(const QString& name) {
     return path;
 }
 
-std::shared_ptr<const platform::Picture> ToolPictures::load(const QString& path) {
+std::shared_ptr<const page::Picture> ToolPictures::load(const QString& path) {
     auto picture = pictures_.load(path);
     if (!picture && !path.trimmed().isEmpty())
         warnOnce(path, "ce n’est pas une image que le programme sait montrer");
     return picture;
 }
 
-std::shared_ptr<const platform::Picture> ToolPictures::symbol(const QString& key) {
+std::shared_ptr<const page::Picture> ToolPictures::symbol(const QString& key) {
     return pictures_.symbol(key);
 }
 

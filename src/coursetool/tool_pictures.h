@@ -1,8 +1,9 @@
 #pragma once
 
+#include "coursedata/course_pictures.h"
+#include "coursedata/data_location.h"
 #include "coursetool/report.h"
 #include "platform/qt/mounted_drives.h"
-#include "viewer/course_pictures.h"
 
 #include <QSet>
 
@@ -21,8 +22,8 @@ public:
                  const std::map<char, std::filesystem::path>& drives, Report& report);
 
     QString locatePicture(const QString& name) override;
-    std::shared_ptr<const platform::Picture> load(const QString& path) override;
-    std::shared_ptr<const platform::Picture> symbol(const QString& key) override;
+    std::shared_ptr<const page::Picture> load(const QString& path) override;
+    std::shared_ptr<const page::Picture> symbol(const QString& key) override;
 
 private:
     /// Nobody is there to answer, and nobody hears a beep.
@@ -36,12 +37,12 @@ private:
     std::string place_;
     Report& report_;
     QSet<QString> told_;
-    shell::SharedState state_;
+    coursedata::DataDirectories directories_;
     platform::MountedDrives drives_;
     Absent nobody_;
-    shell::DataLocation location_;
-    viewer::ImageList symbols_;
-    viewer::CoursePictures pictures_;
+    coursedata::DataLocation location_;
+    coursedata::ImageList symbols_;
+    coursedata::CoursePictures pictures_;
 };
 
 } // namespace coursetool

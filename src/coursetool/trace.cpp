@@ -14,7 +14,7 @@ namespace {
 
 class Tracer {
 public:
-    Tracer(const TraceRequest& request, const platform::TextMetrics& metrics,
+    Tracer(const TraceRequest& request, const page::TextMetrics& metrics,
            markup::PictureShelf& pictures, OutputBuffer& out, Report& report)
         : request_(request), metrics_(metrics), pictures_(pictures), out_(out), report_(report) {}
 
@@ -23,7 +23,7 @@ public:
         if (!pages)
             return;
         OffscreenPage page(metrics_, pictures_);
-        const viewer::BoundRecord shown = pages->draw(pages->positionShown(number), page);
+        const coursedata::BoundRecord shown = pages->draw(pages->positionShown(number), page);
         if (shown.TextID != QString::number(number))
             report_.warning({coursetool::shown(request_.course)},
                             "aucune page ne porte le numéro " + std::to_string(number) +
@@ -59,8 +59,8 @@ public:
     }
 
 private:
-    void write(const platform::Recording& recording, const markup::DrawingState& state) {
-        for (const platform::Operation& operation : recording.operations()) {
+    void write(const page::Recording& recording, const markup::DrawingState& state) {
+        for (const page::Operation& operation : recording.operations()) {
             appendTraceLine(operation, out_.text());
             out_.lineDone();
         }
@@ -70,7 +70,7 @@ private:
     }
 
     const TraceRequest& request_;
-    const platform::TextMetrics& metrics_;
+    const page::TextMetrics& metrics_;
     markup::PictureShelf& pictures_;
     OutputBuffer& out_;
     Report& report_;
@@ -78,7 +78,7 @@ private:
 
 } // namespace
 
-void trace(const TraceRequest& request, const platform::TextMetrics& metrics,
+void trace(const TraceRequest& request, const page::TextMetrics& metrics,
            markup::PictureShelf& pictures, OutputBuffer& out, Report& report) {
     Tracer tracer(request, metrics, pictures, out, report);
     if (!request.source.empty())

@@ -2,7 +2,7 @@
 
 #include "coursetool/drawing_request.h"
 #include "markup/picture_shelf.h"
-#include "platform/text_metrics.h"
+#include "page/text_metrics.h"
 
 namespace coursetool {
 
@@ -12,7 +12,7 @@ namespace coursetool {
 /// goes before it; a fault when there is no course, a warning when the number leads to something
 /// else. Of a bare source, its line ends as they stand; lines that are not UTF-8 are faults, and
 /// are drawn with U+FFFD for each byte that is wrong.
-void trace(const TraceRequest& request, const platform::TextMetrics& metrics,
+void trace(const TraceRequest& request, const page::TextMetrics& metrics,
            markup::PictureShelf& pictures, OutputBuffer& out, Report& report);
 
 } // namespace coursetool

@@ -3,7 +3,7 @@
 #include "coursetool/json_number.h"
 #include "coursetool/json_string.h"
 #include "jet/unicode.h"
-#include "platform/twips.h"
+#include "page/twips.h"
 
 namespace coursetool {
 
@@ -48,8 +48,8 @@ public:
     Line& colour(std::string_view name, QRgb value) {
         return text(name, QStringLiteral("#%1").arg(value & 0xffffff, 6, 16, QLatin1Char('0')));
     }
-    Line& surface(platform::SurfaceId id) { return text("surface", platform::surfaceName(id)); }
-    Line& font(const platform::Font& font) {
+    Line& surface(page::SurfaceId id) { return text("surface", page::surfaceName(id)); }
+    Line& font(const page::Font& font) {
         return text("font", font.face)
             .number("size", font.points)
             .flag("bold", font.bold)
@@ -70,7 +70,7 @@ private:
 struct Describe {
     std::string& out;
 
-    void operator()(const platform::TextOperation& text) const {
+    void operator()(const page::TextOperation& text) const {
         Line("text", out)
             .surface(text.surface)
             .number("x", text.x)
@@ -80,7 +80,7 @@ struct Describe {
             .colour("ink", text.ink)
             .number("width", text.width);
     }
-    void operator()(const platform::LineOperation& line) const {
+    void operator()(const page::LineOperation& line) const {
         Line("line", out)
             .surface(line.surface)
             .number("x1", line.x1)
@@ -90,8 +90,8 @@ struct Describe {
             .colour("ink", line.ink)
             .number("lineWidth", line.lineWidth);
     }
-    void operator()(const platform::FillOperation& fill) const {
-        const bool mask = fill.mode == platform::FillMode::Mask;
+    void operator()(const page::FillOperation& fill) const {
+        const bool mask = fill.mode == page::FillMode::Mask;
         Line("fill", out)
             .surface(fill.surface)
             .number("x", fill.x)
@@ -101,7 +101,7 @@ struct Describe {
             .colour("ink", fill.ink)
             .text("mode", mask ? u"mask" : u"copy");
     }
-    void operator()(const platform::PictureOperation& picture) const {
+    void operator()(const page::PictureOperation& picture) const {
         Line("picture", out)
             .surface(picture.surface)
             .number("x", picture.x)
@@ -110,10 +110,10 @@ struct Describe {
             .number("height", picture.height)
             .text(picture.symbol ? "key" : "name", picture.name);
     }
-    void operator()(const platform::LinkOperation& link) const {
+    void operator()(const page::LinkOperation& link) const {
         Line("link", out)
             .surface(link.surface)
-            .text("control", platform::linkControlName(link.control))
+            .text("control", page::linkControlName(link.control))
             .number("index", link.index)
             .number("x", link.x)
             .number("y", link.y)
@@ -124,17 +124,17 @@ struct Describe {
             .text("tooltip", link.tooltip)
             .text("key", link.key);
     }
-    void operator()(const platform::MenuOperation& menu) const {
+    void operator()(const page::MenuOperation& menu) const {
         Line("menu", out)
             .number("menu", menu.menu)
             .number("entry", menu.entry)
             .text("caption", menu.caption)
             .text("target", menu.target);
     }
-    void operator()(const platform::FieldOperation& field) const {
+    void operator()(const page::FieldOperation& field) const {
         Line("field", out)
             .surface(field.surface)
-            .text("control", platform::fieldControlName(field.control))
+            .text("control", page::fieldControlName(field.control))
             .number("index", field.index)
             .number("x", field.x)
             .number("y", field.y)
@@ -143,17 +143,17 @@ struct Describe {
             .text("tag", field.tag)
             .text("tooltip", field.tooltip);
     }
-    void operator()(const platform::VideoOperation& video) const {
+    void operator()(const page::VideoOperation& video) const {
         Line("video", out).text("name", video.name);
     }
-    void operator()(const platform::SwitchOperation& change) const {
-        Line("surface", out).text("name", platform::surfaceName(change.surface));
+    void operator()(const page::SwitchOperation& change) const {
+        Line("surface", out).text("name", page::surfaceName(change.surface));
     }
-    void operator()(const platform::ClearOperation&) const {}
-    void operator()(const platform::CaptionOperation& caption) const {
+    void operator()(const page::ClearOperation&) const {}
+    void operator()(const page::CaptionOperation& caption) const {
         Line("caption", out).text("text", caption.text);
     }
-    void operator()(const platform::FailedOperation& failed) const {
+    void operator()(const page::FailedOperation& failed) const {
         Line("failed", out)
             .number("line", failed.line)
             .text("directive", failed.directive)
@@ -163,17 +163,17 @@ struct Describe {
 
 } // namespace
 
-void appendTraceLine(const platform::Operation& operation, std::string& out) {
+void appendTraceLine(const page::Operation& operation, std::string& out) {
     std::visit(Describe{out}, operation);
 }
 
 void appendTraceEnd(const markup::DrawingState& state, std::string& out) {
-    const platform::Surface& surface = *state.surfaceDessin;
+    const page::Surface& surface = *state.surfaceDessin;
     Line("end", out)
         .surface(surface.id())
         .number("x", surface.penX())
         .number("y", surface.penY())
-        .number("height", surface.heightPx() * platform::kTwipsPerPixel)
+        .number("height", surface.heightPx() * page::kTwipsPerPixel)
         .number("hauteurPage", state.hauteurPage)
         .number("alignement", state.alignement)
         .number("margeGauche", state.margeGauche)

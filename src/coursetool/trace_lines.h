@@ -1,7 +1,7 @@
 #pragma once
 
 #include "markup/drawing_state.h"
-#include "platform/recording.h"
+#include "page/recording.h"
 
 #include <string>
 
@@ -9,7 +9,7 @@ namespace coursetool {
 
 /// Appends the operation as one line of a trace: a JSON object and a line end. Operations that draw
 /// nothing and change nothing a trace tells of append nothing.
-void appendTraceLine(const platform::Operation& operation, std::string& out);
+void appendTraceLine(const page::Operation& operation, std::string& out);
 
 /// Appends the last line of a trace: the drawing state as the page left it.
 void appendTraceEnd(const markup::DrawingState& state, std::string& out);

@@ -5,10 +5,10 @@
 #include "exercises/mark_picture.h"
 #include "exercises/question_links.h"
 #include "exercises/test_session.h"
-#include "platform/qt/look/choice_sign.h"
-#include "platform/qt/look/text_field.h"
-#include "platform/twips.h"
-#include "viewer/picture_box.h"
+#include "look/choice_sign.h"
+#include "look/picture_box.h"
+#include "look/text_field.h"
+#include "page/twips.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -17,8 +17,6 @@
 
 namespace exercises {
 
-namespace look = platform::look;
-
 namespace {
 
 using markup::AnswerFields;
@@ -26,7 +24,7 @@ using markup::AnswerFields;
 constexpr int kTextHeightPx = 24;
 /// The answer is as large as the page's text at its best.
 constexpr int kTextPx = 16;
-constexpr double kMarkTwips = 16 * platform::kTwipsPerPixel;
+constexpr double kMarkTwips = 16 * page::kTwipsPerPixel;
 
 /// Above and below the middle of a choice, where a click on its words counts.
 constexpr int kWordsReachPx = 10;
@@ -37,8 +35,8 @@ QString nameOf(const char* array, int index) {
 
 } // namespace
 
-AnswerPanel::AnswerPanel(viewer::PictureBox& Picture2, const platform::FontBook& fonts,
-                         platform::Recording& recording)
+AnswerPanel::AnswerPanel(look::PictureBox& Picture2, const page::FontBook& fonts,
+                         page::Recording& recording)
     : Picture2_(Picture2), recording_(recording), Text1_(new look::TextField(&Picture2)),
       Labelien_(new LinkCaption(fonts, &Picture2)),
       Image1_(new LinkIcon(QStringLiteral("link"), &Picture2)),
@@ -113,9 +111,9 @@ void AnswerPanel::placeChoices(ChoiceArray array) {
         button->setAccessibleName(beside.text.isEmpty() ? QStringLiteral("Choix %1").arg(i + 1)
                                                         : beside.text);
         const int middle = corner.y() + look::kChoiceSignPx / 2;
-        const int right = qRound(std::clamp(beside.right / platform::kTwipsPerPixel,
-                                            static_cast<double>(corner.x()),
-                                            static_cast<double>(Picture2_.width())));
+        const int right =
+            qRound(std::clamp(beside.right / page::kTwipsPerPixel, static_cast<double>(corner.x()),
+                              static_cast<double>(Picture2_.width())));
         words_.push_back({QRect(QPoint(corner.x(), middle - kWordsReachPx),
                                 QPoint(right, middle + kWordsReachPx)),
                           button});
@@ -126,7 +124,7 @@ void AnswerPanel::placeChoices(ChoiceArray array) {
 void AnswerPanel::placeText() {
     if (!fields_.Text1.visible)
         return;
-    const int width = static_cast<int>(AnswerFields::kTextBoxWidth / platform::kTwipsPerPixel);
+    const int width = static_cast<int>(AnswerFields::kTextBoxWidth / page::kTwipsPerPixel);
     QRect place(placeOf(fields_.Text1.place), QSize(width, kTextHeightPx));
     // On the first line the box begins above the question: what would be cut there is left out.
     if (place.top() < 0 && place.bottom() >= 0)
@@ -215,8 +213,8 @@ void AnswerPanel::disable(ChoiceArray array, int index) {
 }
 
 void AnswerPanel::paintMark(ChoiceArray array, int index, Mark mark) {
-    const platform::FieldOperation& place = field(array, index)->place;
-    platform::Surface& surface = Picture2_.surface();
+    const page::FieldOperation& place = field(array, index)->place;
+    page::Surface& surface = Picture2_.surface();
     const QPointF pen = surface.pen();
     if (surface.setPenX(place.x - kMarkLeftOfControlTwips) &&
         surface.setPenY(place.y - kMarkAboveControlTwips))

@@ -2,8 +2,8 @@
 
 #include "exercises/test_view.h"
 #include "markup/answer_fields.h"
-#include "platform/qt/font_book.h"
-#include "platform/recording.h"
+#include "page/faces/font_book.h"
+#include "page/recording.h"
 
 #include <QAbstractButton>
 #include <QObject>
@@ -13,13 +13,10 @@
 #include <functional>
 #include <vector>
 
-namespace platform::look {
-class TextField;
-}
-
-namespace viewer {
+namespace look {
 class PictureBox;
-}
+class TextField;
+} // namespace look
 
 namespace exercises {
 
@@ -32,8 +29,8 @@ class QuestionLink;
 class AnswerPanel : public QObject, public AnswerControls {
 public:
     /// `Picture2` draws into `recording`; all must outlive the panel's use.
-    AnswerPanel(viewer::PictureBox& Picture2, const platform::FontBook& fonts,
-                platform::Recording& recording);
+    AnswerPanel(look::PictureBox& Picture2, const page::FontBook& fonts,
+                page::Recording& recording);
 
     markup::AnswerFields& fields() { return fields_; }
 
@@ -49,7 +46,7 @@ public:
     int footPx() const;
     /// The controls that the keyboard reaches, line by line.
     std::vector<QWidget*> inReadingOrder() const;
-    platform::look::TextField& Text1() const { return *Text1_; }
+    look::TextField& Text1() const { return *Text1_; }
 
     // AnswerControls
     bool isVisible(ChoiceArray array, int index) const override;
@@ -75,12 +72,12 @@ private:
     QAbstractButton* choiceWithWordsAt(QPoint place) const;
     std::vector<QWidget*> all() const;
 
-    viewer::PictureBox& Picture2_;
-    platform::Recording& recording_;
+    look::PictureBox& Picture2_;
+    page::Recording& recording_;
     markup::AnswerFields fields_;
     Buttons Option1_{};
     Buttons Check1_{};
-    platform::look::TextField* Text1_;
+    look::TextField* Text1_;
     LinkCaption* Labelien_;
     LinkIcon* Image1_;
     LinkIcon* Icovideo_;

@@ -1,12 +1,10 @@
 #include "exercises/choice_buttons.h"
 
-#include "platform/qt/look/choice_sign.h"
+#include "look/choice_sign.h"
 
 #include <QPainter>
 
 namespace exercises {
-
-namespace look = platform::look;
 
 namespace {
 

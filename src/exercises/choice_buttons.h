@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/qt/look/radio_button.h"
+#include "look/radio_button.h"
 
 #include <QCheckBox>
 
@@ -9,7 +9,7 @@ namespace exercises {
 // Members of `Option1` and `Check1`. They show their sign only: the words beside it are drawn on
 // the question. The sign is kChoiceSignMargin inside the control on every side.
 
-class OptionButton : public platform::look::RadioButton {
+class OptionButton : public look::RadioButton {
 public:
     explicit OptionButton(QWidget* parent);
 

@@ -1,17 +1,15 @@
 #include "exercises/cjuste.h"
 
-#include "platform/qt/look/ink.h"
-#include "platform/qt/look/interface_font.h"
-#include "platform/qt/look/palette.h"
-#include "platform/qt/look/pixels.h"
+#include "look/ink.h"
+#include "look/interface_font.h"
+#include "look/palette.h"
+#include "look/pixels.h"
 
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
 
 namespace exercises {
-
-namespace look = platform::look;
 
 namespace {
 

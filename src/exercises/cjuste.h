@@ -1,7 +1,7 @@
 #pragma once
 
 #include "exercises/right_answer_blink.h"
-#include "platform/qt/look/icon.h"
+#include "look/icon.h"
 
 #include <QDialog>
 #include <QPixmap>
@@ -28,8 +28,8 @@ private:
 
     QTimer Timer1_{this};
     RightAnswerBlink blink_;
-    platform::look::Icon Image1_;
-    platform::look::Icon Image2_;
+    look::Icon Image1_;
+    look::Icon Image2_;
     QPixmap behind_; ///< what the round corners leave to be seen
 };
 

@@ -5,25 +5,23 @@
 #include "exercises/placement.h"
 #include "exercises/strip.h"
 #include "exercises/title_band_view.h"
-#include "platform/qt/look/button.h"
-#include "platform/qt/look/ink.h"
-#include "platform/qt/look/interface_font.h"
-#include "platform/qt/look/mnemonics.h"
-#include "platform/qt/look/palette.h"
-#include "platform/qt/look/scroll_bar.h"
-#include "platform/qt/look/tool_tip.h"
+#include "look/button.h"
+#include "look/ink.h"
+#include "look/interface_font.h"
+#include "look/mnemonics.h"
+#include "look/page_panel.h"
+#include "look/palette.h"
+#include "look/picture_box.h"
+#include "look/scroll_bar.h"
+#include "look/surface_widths.h"
+#include "look/tool_tip.h"
 #include "platform/terminal.h"
-#include "viewer/page_panel.h"
-#include "viewer/picture_box.h"
-#include "viewer/surface_widths.h"
 
 #include <QLabel>
 #include <QPainter>
 #include <QPlainTextEdit>
 
 namespace exercises {
-
-namespace look = platform::look;
 
 namespace {
 
@@ -111,15 +109,15 @@ void Exo::addLabels() {
 }
 
 void Exo::addQuestionArea() {
-    frame1_ = new viewer::PagePanel(body_);
+    frame1_ = new look::PagePanel(body_);
     frame1_->setObjectName(QStringLiteral("frame1"));
     frame1_->framekx().setObjectName(QStringLiteral("view"));
     frame1_->VScroll1().setObjectName(QStringLiteral("questionScroll"));
     frame1_->VScroll1().setAccessibleName(QStringLiteral("Défilement de la question"));
     frame1_->setGeometry(kFrame1);
     frame1_->setPanelHeight(kFrame1.height(), kViewHeight);
-    Picture2_ = new viewer::PictureBox(platform::SurfaceId::Picture2, viewer::kPageWidthPx,
-                                       look::kPaper, parts_.fonts, recording_, frame1_);
+    Picture2_ = new look::PictureBox(page::SurfaceId::Picture2, look::kPageWidthPx, look::kPaper,
+                                     parts_.fonts, recording_, frame1_);
     frame1_->setPage(Picture2_);
     page_.setArea(Picture2_);
     answers_ = std::make_unique<AnswerPanel>(*Picture2_, parts_.fonts, recording_);
@@ -198,7 +196,7 @@ void Exo::start() {
 }
 
 void Exo::Form_Load() {
-    tables_ = openExerciseTables(parts_.shared.InstallDir);
+    tables_ = coursedata::openExerciseTables(parts_.shared.InstallDir);
     // The window stays usable; who looks for the reason finds it here.
     for (const QString& failure : std::as_const(tables_.failures))
         platform::tellOnTerminal(failure);
@@ -209,7 +207,8 @@ void Exo::Form_Load() {
 void Exo::makeWritable() {
     if (writable_)
         return;
-    ExerciseTables fresh = openExerciseTables(parts_.shared.InstallDir, platform::Access::Writable);
+    coursedata::ExerciseTables fresh =
+        coursedata::openExerciseTables(parts_.shared.InstallDir, coursedata::Access::Writable);
     if (!fresh.description || !fresh.contenu)
         return;
     writable_ = true;

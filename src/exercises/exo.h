@@ -1,7 +1,7 @@
 #pragma once
 
+#include "coursedata/exercise_tables.h"
 #include "exercises/calculator_beside.h"
-#include "exercises/exercise_tables.h"
 #include "exercises/question_edit.h"
 #include "exercises/question_page.h"
 #include "exercises/test_session.h"
@@ -11,10 +11,10 @@
 #include "markup/picture_shelf.h"
 #include "markup/renderer.h"
 #include "markup/windows.h"
+#include "page/faces/font_book.h"
+#include "page/recording.h"
+#include "page/rich_text_holder.h"
 #include "platform/message_box.h"
-#include "platform/qt/font_book.h"
-#include "platform/recording.h"
-#include "platform/rich_text_holder.h"
 #include "platform/screen.h"
 #include "shell/shared_state.h"
 
@@ -29,14 +29,11 @@
 class QLabel;
 class QPlainTextEdit;
 
-namespace platform::look {
+namespace look {
 class Button;
-}
-
-namespace viewer {
 class PagePanel;
 class PictureBox;
-} // namespace viewer
+} // namespace look
 
 namespace exercises {
 
@@ -57,7 +54,7 @@ public:
         markup::DrawingState& drawing;
         markup::PageWindow& page; ///< the main window, for what questions draw there
         markup::PictureShelf& pictures;
-        const platform::FontBook& fonts;
+        const page::FontBook& fonts;
         const platform::Screen& screen;
         platform::Prompter& prompter;
         CourseWindow& course;
@@ -93,7 +90,7 @@ public:
     void showRightAnswer() override;
 
     // markup::SourceWindow
-    platform::RichTextHolder& code() override { return code_; }
+    page::RichTextHolder& code() override { return code_; }
     markup::AnswerFields* answerFields() override;
 
 protected:
@@ -134,7 +131,7 @@ private:
     std::optional<QString> typedSource() const;
     void showSource();
 
-    void setButtonVisible(platform::look::Button& button, bool visible);
+    void setButtonVisible(look::Button& button, bool visible);
     bool keepTyped();
     bool mayClose();
     void fitQuestion();
@@ -143,10 +140,10 @@ private:
 
     Parts parts_;
     QWidget& mainWindow_;
-    platform::Recording recording_;
-    platform::RichTextHolder code_;
+    page::Recording recording_;
+    page::RichTextHolder code_;
     QuestionPage page_;
-    ExerciseTables tables_;
+    coursedata::ExerciseTables tables_;
     std::unique_ptr<AnswerPanel> answers_;
     std::optional<markup::Renderer> renderer_;
     std::optional<TestSession> session_;
@@ -158,18 +155,18 @@ private:
     QWidget* body_ = nullptr;
     QLabel* Label2_ = nullptr;
     QLabel* noa_ = nullptr;
-    viewer::PagePanel* frame1_ = nullptr;
-    viewer::PictureBox* Picture2_ = nullptr;
+    look::PagePanel* frame1_ = nullptr;
+    look::PictureBox* Picture2_ = nullptr;
     Strip* Picture1_ = nullptr;
     Marker* Image4_ = nullptr;
-    platform::look::Button* Command3_ = nullptr;
-    platform::look::Button* command4_ = nullptr;
-    platform::look::Button* command5_ = nullptr;
-    platform::look::Button* command6_ = nullptr;
-    platform::look::Button* Command7_ = nullptr;
-    platform::look::Button* Image2_ = nullptr;
-    platform::look::Button* Command1_ = nullptr; ///< authors only
-    QPlainTextEdit* source_ = nullptr;           ///< `code` as authors see it
+    look::Button* Command3_ = nullptr;
+    look::Button* command4_ = nullptr;
+    look::Button* command5_ = nullptr;
+    look::Button* command6_ = nullptr;
+    look::Button* Command7_ = nullptr;
+    look::Button* Image2_ = nullptr;
+    look::Button* Command1_ = nullptr; ///< authors only
+    QPlainTextEdit* source_ = nullptr; ///< `code` as authors see it
 
     bool markerPlaced_ = false;
     bool questionHadFocus_ = false;

@@ -5,11 +5,11 @@
 #include "exercises/exo.h"
 #include "exercises/placement.h"
 #include "exercises/strip.h"
-#include "platform/qt/look/button.h"
-#include "platform/qt/look/text_field.h"
-#include "platform/twips.h"
-#include "viewer/page_panel.h"
-#include "viewer/picture_box.h"
+#include "look/button.h"
+#include "look/page_panel.h"
+#include "look/picture_box.h"
+#include "look/text_field.h"
+#include "page/twips.h"
 
 #include <QClipboard>
 #include <QCloseEvent>
@@ -35,7 +35,7 @@ bool isEnter(const QKeyEvent& event) {
 } // namespace
 
 void Exo::connectHandlers() {
-    using platform::look::Button;
+    using look::Button;
     struct Row {
         Button* button;
         void (Exo::*click)();
@@ -81,11 +81,11 @@ void Exo::Image2_Click() {
 
 void Exo::Command7_Click() {
     const auto placeFor = [this](QSize size) {
-        const auto twips = [](int pixels) { return pixels * platform::kTwipsPerPixel; };
+        const auto twips = [](int pixels) { return pixels * page::kTwipsPerPixel; };
         const CalculatorPlace place = calculatorPlace(
             twips(mainWindow_.y()), twips(mainWindow_.width()), twips(size.width()));
-        return QPoint(qRound(place.left / platform::kTwipsPerPixel),
-                      qRound(place.top / platform::kTwipsPerPixel));
+        return QPoint(qRound(place.left / page::kTwipsPerPixel),
+                      qRound(place.top / page::kTwipsPerPixel));
     };
     parts_.calculator.openAfresh(placeFor);
 }

@@ -17,7 +17,7 @@ public:
         shell::SharedState& shared;
         markup::DrawingState& drawing;
         markup::PictureShelf& pictures;
-        const platform::FontBook& fonts;
+        const page::FontBook& fonts;
         const platform::Screen& screen;
         platform::Prompter& prompter;
         CalculatorBeside& calculator;

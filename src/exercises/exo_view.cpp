@@ -5,12 +5,12 @@
 #include "exercises/exo.h"
 #include "exercises/progress_strip.h"
 #include "exercises/strip.h"
-#include "platform/qt/look/button.h"
-#include "platform/qt/look/text_field.h"
-#include "platform/qt/look/tool_tip.h"
-#include "platform/twips.h"
-#include "viewer/page_panel.h"
-#include "viewer/picture_box.h"
+#include "look/button.h"
+#include "look/page_panel.h"
+#include "look/picture_box.h"
+#include "look/text_field.h"
+#include "look/tool_tip.h"
+#include "page/twips.h"
 
 #include <QAccessible>
 #include <QLabel>
@@ -22,7 +22,7 @@ namespace exercises {
 
 namespace {
 
-constexpr double kQuestionAreaPx = kQuestionAreaTwips / platform::kTwipsPerPixel;
+constexpr double kQuestionAreaPx = kQuestionAreaTwips / page::kTwipsPerPixel;
 
 /// Space below a control that is the lowest thing of a question.
 constexpr int kFootPx = 4;
@@ -34,14 +34,14 @@ void tellNewName(QWidget& widget, const QString& name) {
 
 /// Height, in twips, down to the lowest text, line or picture on the surface. A ground is drawn for
 /// what stands on it and does not count.
-double drawnFoot(const platform::Recording& recording, const platform::Surface& surface) {
+double drawnFoot(const page::Recording& recording, const page::Surface& surface) {
     double foot = 0;
-    for (const platform::Operation& operation : recording.operations())
-        if (const auto* text = std::get_if<platform::TextOperation>(&operation))
+    for (const page::Operation& operation : recording.operations())
+        if (const auto* text = std::get_if<page::TextOperation>(&operation))
             foot = std::max(foot, text->y + surface.metrics().height(text->font));
-        else if (const auto* line = std::get_if<platform::LineOperation>(&operation))
+        else if (const auto* line = std::get_if<page::LineOperation>(&operation))
             foot = std::max({foot, line->y1, line->y2});
-        else if (const auto* picture = std::get_if<platform::PictureOperation>(&operation))
+        else if (const auto* picture = std::get_if<page::PictureOperation>(&operation))
             foot = std::max(foot, picture->y + picture->height);
     return foot;
 }
@@ -53,7 +53,7 @@ void Exo::setTitle(const QString& title) {
     const QString shown =
         Label2_->fontMetrics().elidedText(words, Qt::ElideRight, Label2_->width());
     Label2_->setText(shown);
-    platform::look::setToolTip(*Label2_, shown == words ? QString() : words);
+    look::setToolTip(*Label2_, shown == words ? QString() : words);
     Label2_->setAccessibleName(words);
 }
 
@@ -63,7 +63,7 @@ void Exo::setCaption(const QString& caption) {
 
 /// A button that goes leaves the keyboard to the question, not to some other button: the same key
 /// struck again must not press that one.
-void Exo::setButtonVisible(platform::look::Button& button, bool visible) {
+void Exo::setButtonVisible(look::Button& button, bool visible) {
     if (!visible && focusWidget() == &button)
         Picture2_->setFocus();
     button.setVisible(visible);
@@ -151,8 +151,8 @@ void Exo::drawQuestion(const QString& source) {
 /// Makes the area as tall as the view, so that a coloured ground fills it, or as all that stands on
 /// it: the renderer only knows where the pen ended.
 void Exo::fitQuestion() {
-    platform::Surface& surface = Picture2_->surface();
-    const double drawn = drawnFoot(recording_, surface) / platform::kTwipsPerPixel;
+    page::Surface& surface = Picture2_->surface();
+    const double drawn = drawnFoot(recording_, surface) / page::kTwipsPerPixel;
     const int foot = answers_->footPx();
     const double view = frame1_->framekx().height();
     surface.setHeightPx(std::max(
@@ -180,7 +180,7 @@ void Exo::putInTabOrder() {
 /// The answer box has the keyboard at once; otherwise the question, to be read, and the Tab key
 /// leads to its choices.
 void Exo::focusQuestion() {
-    platform::look::TextField& Text1 = answers_->Text1();
+    look::TextField& Text1 = answers_->Text1();
     if (!Text1.isHidden() && !isAnswered(parts_.test, parts_.test.CurrentQuestion))
         Text1.setFocus();
     else if (questionHadFocus_)

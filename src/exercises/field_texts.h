@@ -1,7 +1,7 @@
 #pragma once
 
 #include "markup/answer_fields.h"
-#include "platform/recording.h"
+#include "page/recording.h"
 
 #include <QString>
 
@@ -15,11 +15,11 @@ struct BesideText {
 };
 
 /// The text right of a control of `fields`.
-BesideText textRightOf(const platform::FieldOperation& field, const markup::AnswerFields& fields,
-                       const platform::Recording& recording);
+BesideText textRightOf(const page::FieldOperation& field, const markup::AnswerFields& fields,
+                       const page::Recording& recording);
 
 /// The text left of a control of `fields`.
-BesideText textLeftOf(const platform::FieldOperation& field, const markup::AnswerFields& fields,
-                      const platform::Recording& recording);
+BesideText textLeftOf(const page::FieldOperation& field, const markup::AnswerFields& fields,
+                      const page::Recording& recording);
 
 } // namespace exercises

@@ -1,6 +1,6 @@
 #include "exercises/mark_picture.h"
 
-#include "platform/qt/look/icon.h"
+#include "look/icon.h"
 
 #include <QFile>
 #include <QPainter>
@@ -11,10 +11,10 @@ namespace {
 
 constexpr int kMarkPx = 16;
 
-class DrawnMark : public platform::Picture {
+class DrawnMark : public page::Picture {
 public:
     explicit DrawnMark(const QString& name) : icon_(name) {
-        QFile file(platform::look::Icon::fileOf(name));
+        QFile file(look::Icon::fileOf(name));
         if (file.open(QIODevice::ReadOnly))
             bytes_ = file.readAll();
     }
@@ -25,15 +25,15 @@ public:
         QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
         image.fill(Qt::transparent);
         QPainter painter(&image);
-        icon_.paint(painter, QRectF(QPointF(), pixels), platform::look::Icon::Style::Coloured);
+        icon_.paint(painter, QRectF(QPointF(), pixels), look::Icon::Style::Coloured);
         return image;
     }
 
-    platform::PictureFormat format() const override { return platform::PictureFormat::Svg; }
+    page::PictureFormat format() const override { return page::PictureFormat::Svg; }
     const QByteArray& bytes() const override { return bytes_; }
 
 private:
-    platform::look::Icon icon_;
+    look::Icon icon_;
     QByteArray bytes_;
 };
 
@@ -43,7 +43,7 @@ QString markName(Mark mark) {
     return mark == Mark::InSolution ? QStringLiteral("faces/right") : QStringLiteral("faces/wrong");
 }
 
-std::shared_ptr<const platform::Picture> markPicture(Mark mark) {
+std::shared_ptr<const page::Picture> markPicture(Mark mark) {
     return std::make_shared<DrawnMark>(markName(mark));
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "exercises/choices.h"
-#include "platform/picture.h"
+#include "page/picture.h"
 
 #include <memory>
 
@@ -11,6 +11,6 @@ namespace exercises {
 QString markName(Mark mark);
 
 /// A mark as a picture that questions can be painted with, crisp at every size.
-std::shared_ptr<const platform::Picture> markPicture(Mark mark);
+std::shared_ptr<const page::Picture> markPicture(Mark mark);
 
 } // namespace exercises

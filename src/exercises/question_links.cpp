@@ -1,13 +1,13 @@
 #include "exercises/question_links.h"
 
+#include "look/palette.h"
+#include "look/pixels.h"
+#include "look/tool_tip.h"
 #include "markup/answer_fields.h"
-#include "platform/link_view.h"
-#include "platform/qt/look/palette.h"
-#include "platform/qt/look/pixels.h"
-#include "platform/qt/look/tool_tip.h"
-#include "platform/qt/raster_surface.h"
-#include "platform/surface.h"
-#include "platform/twips.h"
+#include "output/raster/raster_surface.h"
+#include "page/link_view.h"
+#include "page/surface.h"
+#include "page/twips.h"
 
 #include <QKeyEvent>
 #include <QPainter>
@@ -16,26 +16,23 @@
 
 namespace exercises {
 
-namespace look = platform::look;
-
 namespace {
 
 constexpr double kRingRadius = 3;
-constexpr int kIconPx =
-    static_cast<int>(markup::AnswerFields::kIconWidth / platform::kTwipsPerPixel);
+constexpr int kIconPx = static_cast<int>(markup::AnswerFields::kIconWidth / page::kTwipsPerPixel);
 
 /// Largest caption, in pixels: what is wider lies outside the question area, and what is taller is
 /// no caption.
 constexpr QSize kLargestCaption(2000, 1000);
 
 int pixels(double twips) {
-    return qRound(std::clamp(twips / platform::kTwipsPerPixel, -platform::kMaxSurfaceHeightPx,
-                             platform::kMaxSurfaceHeightPx));
+    return qRound(std::clamp(twips / page::kTwipsPerPixel, -page::kMaxSurfaceHeightPx,
+                             page::kMaxSurfaceHeightPx));
 }
 
 } // namespace
 
-QPoint placeOf(const platform::FieldOperation& field) {
+QPoint placeOf(const page::FieldOperation& field) {
     return {pixels(field.x), pixels(field.y)};
 }
 
@@ -58,14 +55,14 @@ void QuestionLink::keyPressEvent(QKeyEvent* event) {
         QAbstractButton::keyPressEvent(event);
 }
 
-LinkCaption::LinkCaption(const platform::FontBook& fonts, QWidget* parent)
+LinkCaption::LinkCaption(const page::FontBook& fonts, QWidget* parent)
     : QuestionLink(parent), fonts_(fonts) {}
 
-void LinkCaption::show(const platform::FieldOperation& field) {
+void LinkCaption::show(const page::FieldOperation& field) {
     field_ = field;
     setTag(field.tag);
     setAccessibleName(field.caption.simplified());
-    const auto extent = platform::captionExtent(field.caption, field.font, fonts_);
+    const auto extent = page::captionExtent(field.caption, field.font, fonts_);
     const QSize size(pixels(extent.width) + 1, pixels(extent.height) + 1);
     setGeometry(QRect(placeOf(field), size.boundedTo(kLargestCaption))
                     .adjusted(-kMargin, -kMargin, kMargin, kMargin));
@@ -76,17 +73,17 @@ void LinkCaption::show(const platform::FieldOperation& field) {
 void LinkCaption::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     // Letters may lean out of their line a little, into the margin.
-    platform::Recording recording;
-    platform::LinkOperation label;
+    page::Recording recording;
+    page::LinkOperation label;
     label.surface = field_.surface;
-    label.x = label.y = kMargin * platform::kTwipsPerPixel;
+    label.x = label.y = kMargin * page::kTwipsPerPixel;
     label.caption = field_.caption;
     label.font = field_.font;
     label.font.underline = underMouse();
     label.ink = field_.ink;
-    for (auto& line : platform::captionLines(label, fonts_))
+    for (auto& line : page::captionLines(label, fonts_))
         recording.add(std::move(line));
-    platform::RasterSurface raster(field_.surface, width(), fonts_, look::kPaper);
+    output::RasterSurface raster(field_.surface, width(), fonts_, look::kPaper);
     raster.setDevicePixelRatio(devicePixelRatioF());
     raster.play(recording);
     // Darkening leaves the ground of a coloured row in place.
@@ -100,7 +97,7 @@ LinkIcon::LinkIcon(const QString& drawing, QWidget* parent) : QuestionLink(paren
     resize(kIconPx + 2 * kMargin, kIconPx + 2 * kMargin);
 }
 
-void LinkIcon::show(const platform::FieldOperation& field) {
+void LinkIcon::show(const page::FieldOperation& field) {
     setTag(field.tag);
     look::setToolTip(*this, field.tooltip);
     move(placeOf(field) - QPoint(kMargin, kMargin));

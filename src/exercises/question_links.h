@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/qt/font_book.h"
-#include "platform/qt/look/icon.h"
-#include "platform/recording.h"
+#include "look/icon.h"
+#include "page/faces/font_book.h"
+#include "page/recording.h"
 
 #include <QAbstractButton>
 
@@ -31,17 +31,17 @@ private:
 /// `Labelien`: a caption in the font and ink of the question.
 class LinkCaption : public QuestionLink {
 public:
-    LinkCaption(const platform::FontBook& fonts, QWidget* parent);
+    LinkCaption(const page::FontBook& fonts, QWidget* parent);
 
     /// Takes caption, place and target.
-    void show(const platform::FieldOperation& field);
+    void show(const page::FieldOperation& field);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    const platform::FontBook& fonts_;
-    platform::FieldOperation field_;
+    const page::FontBook& fonts_;
+    page::FieldOperation field_;
 };
 
 /// `Image1` and `Icovideo`: a drawing of 24 pixels.
@@ -49,16 +49,16 @@ class LinkIcon : public QuestionLink {
 public:
     LinkIcon(const QString& drawing, QWidget* parent);
 
-    void show(const platform::FieldOperation& field);
+    void show(const page::FieldOperation& field);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    platform::look::Icon icon_;
+    look::Icon icon_;
 };
 
 /// Where a field stands on the question area, in whole pixels, held where controls can be.
-QPoint placeOf(const platform::FieldOperation& field);
+QPoint placeOf(const page::FieldOperation& field);
 
 } // namespace exercises

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "look/picture_box.h"
 #include "markup/windows.h"
-#include "viewer/picture_box.h"
 
 #include <QWidget>
 #include <QWindow>
@@ -14,11 +14,11 @@ class QuestionPage : public markup::PageWindow {
 public:
     QuestionPage(markup::PageWindow& main, QWidget& window) : main_(main), window_(window) {}
 
-    void setArea(viewer::PictureBox* Picture2) { Picture2_ = Picture2; }
+    void setArea(look::PictureBox* Picture2) { Picture2_ = Picture2; }
 
-    platform::Surface& pictureTexte() override { return main_.pictureTexte(); }
-    platform::Surface& pictureIllus() override { return main_.pictureIllus(); }
-    platform::Surface& titre() override { return main_.titre(); }
+    page::Surface& pictureTexte() override { return main_.pictureTexte(); }
+    page::Surface& pictureIllus() override { return main_.pictureIllus(); }
+    page::Surface& titre() override { return main_.titre(); }
     void setCaption(const QString& caption) override { main_.setCaption(caption); }
     void showVideoFrame() override { main_.showVideoFrame(); }
     void preparePrinter() override { main_.preparePrinter(); }
@@ -31,7 +31,7 @@ public:
             window_.unsetCursor();
     }
 
-    void refresh(platform::Surface& surface) override {
+    void refresh(page::Surface& surface) override {
         if (!Picture2_ || &surface != &Picture2_->surface()) {
             main_.refresh(surface);
             return;
@@ -43,7 +43,7 @@ public:
 private:
     markup::PageWindow& main_;
     QWidget& window_;
-    viewer::PictureBox* Picture2_ = nullptr;
+    look::PictureBox* Picture2_ = nullptr;
 };
 
 } // namespace exercises

@@ -3,10 +3,10 @@
 #include "exercises/mark_picture.h"
 #include "exercises/progress_strip.h"
 #include "exercises/strip_accessible.h"
-#include "platform/qt/look/interface_font.h"
-#include "platform/qt/look/palette.h"
-#include "platform/qt/look/pixels.h"
-#include "platform/qt/look/tool_tip.h"
+#include "look/interface_font.h"
+#include "look/palette.h"
+#include "look/pixels.h"
+#include "look/tool_tip.h"
 
 #include <QFontMetricsF>
 #include <QHelpEvent>
@@ -16,8 +16,6 @@
 #include <algorithm>
 
 namespace exercises {
-
-namespace look = platform::look;
 
 namespace {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "exercises/test_state.h"
-#include "platform/qt/look/icon.h"
+#include "look/icon.h"
 
 #include <QWidget>
 
@@ -41,8 +41,8 @@ private:
 
     const TestState& test_;
     std::function<void(double)> choose_;
-    platform::look::Icon right_;
-    platform::look::Icon wrong_;
+    look::Icon right_;
+    look::Icon wrong_;
 };
 
 /// `Image4`: the face that marks the band of the question shown. It lies over the strip and lets
@@ -60,7 +60,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    platform::look::Icon face_;
+    look::Icon face_;
 };
 
 } // namespace exercises

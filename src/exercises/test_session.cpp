@@ -1,7 +1,7 @@
 #include "exercises/test_session.h"
 
 #include "exercises/progress_strip.h"
-#include "platform/numbers.h"
+#include "page/numbers.h"
 #include "text/rounding.h"
 
 namespace exercises {
@@ -19,13 +19,13 @@ TestSession::TestSession(shell::SharedState& shared, TestState& test, TestView& 
     : shared_(shared), test_(test), view_(view), controls_(controls), course_(course),
       prompter_(prompter) {}
 
-void TestSession::load(const platform::Recordset* description, platform::Recordset* contenu) {
+void TestSession::load(const coursedata::Recordset* description, coursedata::Recordset* contenu) {
     open_ = true;
     shared_.ExerciseReturnPage = 0;
     view_.setScoreVisible(false);
-    const TestDescription found = description
-                                      ? describeTest(*description, shared_.PendingExerciseChapter)
-                                      : TestDescription();
+    const coursedata::TestDescription found =
+        description ? coursedata::describeTest(*description, shared_.PendingExerciseChapter)
+                    : coursedata::TestDescription();
     if (found.title)
         view_.setTitle(*found.title);
     if (found.count)
@@ -34,7 +34,7 @@ void TestSession::load(const platform::Recordset* description, platform::Records
         test_.CurrentQuestion = 1;
     // A test that was left shows the face of its answers again.
     view_.setFace(smileLevel(counts(test_)).value_or(kNeutralFace));
-    record_ = QuestionRecord(contenu);
+    record_ = coursedata::QuestionRecord(contenu);
 }
 
 void TestSession::activate() {
@@ -56,11 +56,12 @@ void TestSession::tritexte() {
 }
 
 void TestSession::findRecord() {
-    record_.moveTo(questionReference(shared_.PendingExerciseChapter, test_.CurrentQuestion));
+    record_.moveTo(
+        coursedata::questionReference(shared_.PendingExerciseChapter, test_.CurrentQuestion));
 }
 
-void TestSession::reopen(platform::Recordset* contenu) {
-    record_ = QuestionRecord(contenu);
+void TestSession::reopen(coursedata::Recordset* contenu) {
+    record_ = coursedata::QuestionRecord(contenu);
     findRecord();
 }
 
@@ -149,7 +150,7 @@ bool TestSession::close() {
 
 void TestSession::leaveFor(const QString& tag) {
     open_ = false;
-    shared_.ExerciseReturnPage = text::toInt16(platform::leadingNumber(tag)).value_or(0);
+    shared_.ExerciseReturnPage = text::toInt16(page::leadingNumber(tag)).value_or(0);
 }
 
 void TestSession::refreshStrip() {

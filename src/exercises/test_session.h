@@ -1,11 +1,11 @@
 #pragma once
 
-#include "exercises/exercise_tables.h"
+#include "coursedata/exercise_tables.h"
+#include "coursedata/recordset.h"
 #include "exercises/score.h"
 #include "exercises/test_state.h"
 #include "exercises/test_view.h"
 #include "platform/message_box.h"
-#include "platform/recordset.h"
 #include "shell/shared_state.h"
 
 #include <QChar>
@@ -29,12 +29,12 @@ public:
     /// Opens the test of `PendingExerciseChapter` over its two tables, null for one that could not
     /// be opened; they must outlive the session. A chapter without a test leaves title and count as
     /// they were.
-    void load(const platform::Recordset* description, platform::Recordset* contenu);
+    void load(const coursedata::Recordset* description, coursedata::Recordset* contenu);
     /// Goes on over another recordset of "Contenu", opened anew; null for one that could not be
     /// opened. The test stays where it is.
-    void reopen(platform::Recordset* contenu);
+    void reopen(coursedata::Recordset* contenu);
     /// The record of the question shown.
-    QuestionRecord& record() { return record_; }
+    coursedata::QuestionRecord& record() { return record_; }
     /// The window has come up: shows the current question. Once a showing: drawing it again would
     /// take away what has been ticked or typed.
     void activate();
@@ -86,7 +86,7 @@ private:
     AnswerControls& controls_;
     CourseWindow& course_;
     platform::Prompter& prompter_;
-    QuestionRecord record_{nullptr};
+    coursedata::QuestionRecord record_{nullptr};
     bool validateVisible_ = false;
     bool open_ = false;
 };

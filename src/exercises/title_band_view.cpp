@@ -1,10 +1,10 @@
 #include "exercises/title_band_view.h"
 
 #include "exercises/title_band.h"
-#include "platform/font.h"
-#include "platform/qt/look/interface_font.h"
-#include "platform/qt/look/pixels.h"
-#include "platform/twips.h"
+#include "look/interface_font.h"
+#include "look/pixels.h"
+#include "page/font.h"
+#include "page/twips.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -13,8 +13,7 @@ namespace exercises {
 
 TitleBandView::TitleBandView(QWidget* parent) : QWidget(parent) {
     setObjectName(QStringLiteral("tito"));
-    setFont(platform::look::interfaceFont(platform::fontPixels(kTitlePoints),
-                                          platform::look::Weight::Bold));
+    setFont(look::interfaceFont(page::fontPixels(kTitlePoints), look::Weight::Bold));
     setAccessibleName(kBandTitle);
 }
 
@@ -23,8 +22,8 @@ void TitleBandView::paintEvent(QPaintEvent*) {
     painter.setFont(font());
     const QFontMetricsF metrics(font());
     const double foot =
-        platform::look::snapped(painter, (height() - metrics.height()) / 2 + metrics.ascent());
-    double x = kTitleLeftTwips / platform::kTwipsPerPixel;
+        look::snapped(painter, (height() - metrics.height()) / 2 + metrics.ascent());
+    double x = kTitleLeftTwips / page::kTwipsPerPixel;
     const int length = static_cast<int>(kBandTitle.size());
     for (int i = 1; i <= length; ++i) {
         const QString letter(kBandTitle.at(i - 1));

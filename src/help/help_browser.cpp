@@ -1,9 +1,9 @@
 #include "help/help_browser.h"
 
 #include "help/page_document.h"
-#include "platform/qt/look/interface_font.h"
-#include "platform/qt/look/palette.h"
-#include "platform/qt/look/scroll_bar.h"
+#include "look/interface_font.h"
+#include "look/palette.h"
+#include "look/scroll_bar.h"
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>
@@ -33,7 +33,7 @@ QString fileOf(const QUrl& url) {
 
 HelpBrowser::HelpBrowser(const HelpBook& book, QWidget* parent)
     : QTextBrowser(parent), book_(book) {
-    using namespace platform::look;
+    using namespace look;
     setVerticalScrollBar(new ScrollBar(this, ScrollBar::Top::Minimum));
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setFrameShape(NoFrame);
@@ -102,7 +102,7 @@ void HelpBrowser::stepHit(int by) {
 }
 
 void HelpBrowser::paintHits() {
-    using namespace platform::look;
+    using namespace look;
     QList<ExtraSelection> marks;
     for (const Span& hit : hits_) {
         const bool isCurrent = marks.size() == currentHit_;

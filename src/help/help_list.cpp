@@ -1,8 +1,8 @@
 #include "help/help_list.h"
 
-#include "platform/qt/look/interface_font.h"
-#include "platform/qt/look/palette.h"
-#include "platform/qt/look/scroll_bar.h"
+#include "look/interface_font.h"
+#include "look/palette.h"
+#include "look/scroll_bar.h"
 
 #include <QKeyEvent>
 #include <QPainter>
@@ -13,7 +13,7 @@ namespace help {
 
 namespace {
 
-using namespace platform::look;
+using namespace look;
 
 constexpr int kPageRole = Qt::UserRole;     ///< position in the book; none for a heading
 constexpr int kLineRole = Qt::UserRole + 1; ///< HTML of the line of context

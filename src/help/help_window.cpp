@@ -1,18 +1,18 @@
 #include "help/help_window.h"
 
+#include "help/document_printer.h"
 #include "help/help_browser.h"
 #include "help/help_list.h"
 #include "help/help_search.h"
 #include "help/hit_bar.h"
 #include "help/page_document.h"
-#include "platform/qt/document_printer.h"
-#include "platform/qt/look/button.h"
-#include "platform/qt/look/mnemonics.h"
-#include "platform/qt/look/palette.h"
-#include "platform/qt/look/pixels.h"
-#include "platform/qt/look/program_icon.h"
-#include "platform/qt/look/text_field.h"
-#include "platform/qt/look/tool_tip.h"
+#include "look/button.h"
+#include "look/mnemonics.h"
+#include "look/palette.h"
+#include "look/pixels.h"
+#include "look/program_icon.h"
+#include "look/text_field.h"
+#include "look/tool_tip.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -25,7 +25,6 @@ namespace help {
 
 namespace {
 
-namespace look = platform::look;
 using look::Button;
 
 constexpr QSize kSize(880, 648); ///< all of the contents at once
@@ -215,8 +214,8 @@ void HelpWindow::print() {
         return;
     const HelpPage& page = book_.pages()[browser_->page()];
     PageDocument document(book_, page);
-    if (platform::printDocument(printing_.printer, document,
-                                kTitle + QStringLiteral(" – ") + page.title))
+    if (help::printDocument(printing_.printer, document,
+                            kTitle + QStringLiteral(" – ") + page.title))
         return;
     printing_.prompter.ask({QStringLiteral("Imprimer"),
                             QStringLiteral("La page n’a pas pu être imprimée."),

@@ -1,17 +1,17 @@
 #pragma once
 
 #include "help/help_book.h"
+#include "output/paper/qt_printer.h"
 #include "platform/message_box.h"
-#include "platform/qt/qt_printer.h"
 
 #include <QWidget>
 
 class QBoxLayout;
 
-namespace platform::look {
+namespace look {
 class Button;
 class TextField;
-} // namespace platform::look
+} // namespace look
 
 namespace help {
 
@@ -22,7 +22,7 @@ class HitBar;
 /// What a page of the manual is printed with.
 struct HelpPrinting {
     platform::PrinterSetup& setup;
-    platform::QtPrinter& printer;
+    output::QtPrinter& printer;
     platform::Prompter& prompter;
 };
 
@@ -51,12 +51,12 @@ private:
 
     const HelpBook& book_;
     HelpPrinting printing_;
-    platform::look::TextField* words_;
+    look::TextField* words_;
     HelpList* list_;
     HelpBrowser* browser_;
     HitBar* hitBar_;
-    platform::look::Button* back_ = nullptr;
-    platform::look::Button* forward_ = nullptr;
+    look::Button* back_ = nullptr;
+    look::Button* forward_ = nullptr;
 };
 
 } // namespace help

@@ -1,8 +1,8 @@
 #include "help/hit_bar.h"
 
-#include "platform/qt/look/button.h"
-#include "platform/qt/look/palette.h"
-#include "platform/qt/look/tool_tip.h"
+#include "look/button.h"
+#include "look/palette.h"
+#include "look/tool_tip.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -11,7 +11,7 @@ namespace help {
 
 namespace {
 
-using platform::look::Button;
+using look::Button;
 
 constexpr int kHeight = 32;
 
@@ -22,7 +22,7 @@ HitBar::HitBar(QWidget* parent) : QWidget(parent), words_(new QLabel(this)) {
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(8);
     words_->setTextFormat(Qt::PlainText);
-    words_->setFont(platform::look::interfaceFont(platform::look::kLabelPx));
+    words_->setFont(look::interfaceFont(look::kLabelPx));
     row->addWidget(words_, 1);
     addButton(QStringLiteral("up"), QStringLiteral("Mot marqué précédent (Maj + F3)"), -1);
     addButton(QStringLiteral("down"), QStringLiteral("Mot marqué suivant (F3)"), 1);
@@ -32,7 +32,7 @@ HitBar::HitBar(QWidget* parent) : QWidget(parent), words_(new QLabel(this)) {
 
 void HitBar::addButton(const QString& icon, const QString& words, int by) {
     auto* button = new Button({}, {.icon = icon}, this);
-    platform::look::setToolTip(*button, words);
+    look::setToolTip(*button, words);
     button->setAccessibleName(words);
     button->setFixedSize(kHeight, kHeight);
     connect(button, &QPushButton::clicked, this, [this, by] {

@@ -1,9 +1,9 @@
 #include "help/page_document.h"
 
+#include "look/icon.h"
+#include "look/interface_font.h"
+#include "look/palette.h"
 #include "platform/file_names.h"
-#include "platform/qt/look/icon.h"
-#include "platform/qt/look/interface_font.h"
-#include "platform/qt/look/palette.h"
 
 #include <QFile>
 #include <QPainter>
@@ -20,14 +20,13 @@ constexpr double kCaptureRatio = 2; ///< at which the pictures of windows are ta
 constexpr double kPaperRatio = 3; ///< of pictures on paper
 
 QPixmap drawing(const QString& name, double ratio) {
-    if (!QFile::exists(platform::look::Icon::fileOf(name)))
+    if (!QFile::exists(look::Icon::fileOf(name)))
         return {};
     QPixmap picture(QSize(1, 1) * qRound(kIconPx * ratio));
     picture.setDevicePixelRatio(ratio);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
-    platform::look::Icon(name).paint(painter, {0, 0, kIconPx, kIconPx},
-                                     platform::look::Icon::Style::Coloured);
+    look::Icon(name).paint(painter, {0, 0, kIconPx, kIconPx}, look::Icon::Style::Coloured);
     return picture;
 }
 
@@ -51,7 +50,7 @@ QPixmap capture(const QString& file, double ratio) {
 QString pageStyle(double zoom) {
     const auto px = [zoom](double pixels) { return QString::number(qRound(pixels * zoom)); };
     const auto colour = [](QRgb rgb) { return QColor::fromRgb(rgb).name(); };
-    using namespace platform::look;
+    using namespace look;
     return QStringLiteral(
                "body, p, li, td, th, h1, h2 { font-family: 'Liberation Sans'; font-size: %1px;"
                " color: %4; }"

@@ -3,7 +3,7 @@
 #include "markup/arguments.h"
 #include "markup/directives.h"
 #include "markup/renderer.h"
-#include "platform/link_view.h"
+#include "page/link_view.h"
 
 #include <algorithm>
 
@@ -20,10 +20,10 @@ constexpr double kCheckDrop = 30;
 constexpr double kTextRise = 30;
 constexpr double kChoiceAdvance = 270;
 
-platform::FieldOperation fieldAtPen(Renderer& renderer, platform::FieldControl control, double drop,
-                                    double width) {
-    const platform::Surface& surface = renderer.surface();
-    platform::FieldOperation place;
+page::FieldOperation fieldAtPen(Renderer& renderer, page::FieldControl control, double drop,
+                                double width) {
+    const page::Surface& surface = renderer.surface();
+    page::FieldOperation place;
     place.surface = surface.id();
     place.control = control;
     place.x = surface.penX();
@@ -33,14 +33,14 @@ platform::FieldOperation fieldAtPen(Renderer& renderer, platform::FieldControl c
 }
 
 /// Shows the control and moves the pen past it.
-void show(Renderer& renderer, AnswerFields::Field& field, const platform::FieldOperation& place) {
+void show(Renderer& renderer, AnswerFields::Field& field, const page::FieldOperation& place) {
     field = {true, place};
     renderer.recording().add(place);
     renderer.surface().setPenX(place.x + place.width);
 }
 
 /// The first control of an array that is still hidden; when all show, nothing happens.
-void showNext(Renderer& renderer, AnswerFields::Choices& choices, platform::FieldControl control,
+void showNext(Renderer& renderer, AnswerFields::Choices& choices, page::FieldControl control,
               double drop) {
     for (int index = 0; index <= AnswerFields::kLastChoice; ++index) {
         AnswerFields::Field& field = *choices.slot(index);
@@ -58,18 +58,18 @@ void showNext(Renderer& renderer, AnswerFields::Choices& choices, platform::Fiel
 
 void optionField(Renderer& renderer, QStringView) {
     if (AnswerFields* fields = renderer.state().fenetreSource->answerFields())
-        showNext(renderer, fields->Option1, platform::FieldControl::Option1, kOptionDrop);
+        showNext(renderer, fields->Option1, page::FieldControl::Option1, kOptionDrop);
 }
 
 void checkField(Renderer& renderer, QStringView) {
     if (AnswerFields* fields = renderer.state().fenetreSource->answerFields())
-        showNext(renderer, fields->Check1, platform::FieldControl::Check1, kCheckDrop);
+        showNext(renderer, fields->Check1, page::FieldControl::Check1, kCheckDrop);
 }
 
 void textField(Renderer& renderer, QStringView) {
     if (AnswerFields* fields = renderer.state().fenetreSource->answerFields())
         show(renderer, fields->Text1,
-             fieldAtPen(renderer, platform::FieldControl::Text1, -kTextRise,
+             fieldAtPen(renderer, page::FieldControl::Text1, -kTextRise,
                         AnswerFields::kTextBoxWidth));
 }
 
@@ -78,22 +78,22 @@ void questionLink(Renderer& renderer, QStringView d) {
     const auto argument = splitAtLastSharp(d, kKeywordLength);
     if (!fields || !argument)
         return;
-    const platform::Surface& surface = renderer.surface();
+    const page::Surface& surface = renderer.surface();
     // Level with the middle of the caption, as far as there is room above a first line.
     const double level = (surface.textHeight() - AnswerFields::kIconWidth) / 2;
-    auto icon = fieldAtPen(renderer, platform::FieldControl::Image1,
+    auto icon = fieldAtPen(renderer, page::FieldControl::Image1,
                            std::max(level, -std::max(0., surface.penY())),
                            AnswerFields::kIconWidth + AnswerFields::kIconGap);
     icon.tag = argument->after.toString();
     show(renderer, fields->Image1, icon);
 
-    auto label = fieldAtPen(renderer, platform::FieldControl::Labelien, 0, 0);
+    auto label = fieldAtPen(renderer, page::FieldControl::Labelien, 0, 0);
     label.caption = argument->before.toString();
     label.tag = icon.tag;
     label.font = surface.font();
     label.font.underline = false;
     label.ink = surface.ink();
-    label.width = platform::captionExtent(label.caption, label.font, surface.metrics()).width;
+    label.width = page::captionExtent(label.caption, label.font, surface.metrics()).width;
     show(renderer, fields->Labelien, label);
 }
 
@@ -102,7 +102,7 @@ void questionVideo(Renderer& renderer, QStringView d) {
     const auto argument = splitAtLastSharp(d, kKeywordLength);
     if (!fields || !argument)
         return;
-    auto icon = fieldAtPen(renderer, platform::FieldControl::Icovideo, 0, AnswerFields::kIconWidth);
+    auto icon = fieldAtPen(renderer, page::FieldControl::Icovideo, 0, AnswerFields::kIconWidth);
     icon.tooltip = argument->before.toString();
     icon.tag = argument->after.toString();
     show(renderer, fields->Icovideo, icon);
@@ -115,7 +115,7 @@ void pageVideo(Renderer& renderer, QStringView d) {
         return;
     const QString name = d.sliced(kKeywordLength).toString();
     renderer.state().videoPage = name;
-    renderer.recording().add(platform::VideoOperation{name});
+    renderer.recording().add(page::VideoOperation{name});
     renderer.window().showVideoFrame();
 }
 

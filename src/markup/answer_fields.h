@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/recording.h"
+#include "page/recording.h"
 #include "text/bounded_array.h"
 
 namespace markup {
@@ -18,7 +18,7 @@ struct AnswerFields {
 
     struct Field {
         bool visible = false;
-        platform::FieldOperation place;
+        page::FieldOperation place;
     };
     using Choices = text::BoundedArray<Field, 0, kLastChoice>;
 

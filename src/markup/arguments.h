@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/numbers.h"
+#include "page/numbers.h"
 
 #include <QStringView>
 
@@ -38,7 +38,7 @@ inline std::optional<SplitArgument> splitAtLastSharp(QStringView d, qsizetype ke
 
 /// The number in the last characters; 0 when they start with none.
 inline double lastNumber(QStringView d, qsizetype count) {
-    return platform::leadingNumber(lastCharacters(d, count));
+    return page::leadingNumber(lastCharacters(d, count));
 }
 
 } // namespace markup

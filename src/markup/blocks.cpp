@@ -1,7 +1,7 @@
 #include "markup/arguments.h"
 #include "markup/directives.h"
 #include "markup/renderer.h"
-#include "platform/twips.h"
+#include "page/twips.h"
 #include "text/rounding.h"
 
 #include <algorithm>
@@ -11,8 +11,8 @@ namespace markup {
 
 namespace {
 
-using platform::kTwipsPerPixel;
-using platform::Surface;
+using page::kTwipsPerPixel;
+using page::Surface;
 
 /// The gradient of a page runs down what the main window shows of it, in bands of whole pixels, so
 /// that no device leaves a seam between two; 53 fills whatever the page.
@@ -53,7 +53,7 @@ QRgb faded(QRgb tint, int done) {
 void fonddegrade(Surface& surface, double top, double width, QRgb tint) {
     for (int band = 0; band < kBands; ++band)
         surface.fill(0, top + band * kBandHeight, width, kBandHeight, faded(tint, band),
-                     platform::FillMode::Mask);
+                     page::FillMode::Mask);
 }
 
 } // namespace

@@ -2,7 +2,7 @@
 
 #include "markup/link_table.h"
 #include "markup/qb_color.h"
-#include "platform/surface.h"
+#include "page/surface.h"
 #include "text/bounded_array.h"
 
 #include <QPointF>
@@ -21,9 +21,9 @@ enum BorderEdge { TopEdge = 1, BottomEdge, LeftEdge, InnerEdge, RightEdge };
 /// There is one for the whole program: it outlives a page, and only what `initecran` resets starts
 /// anew. Lengths are twips.
 struct DrawingState {
-    platform::Surface* surfaceDessin = nullptr; ///< set by the caller of a rendering
-    SourceWindow* fenetreSource = nullptr;      ///< set by the caller of a rendering
-    bool enImpression = false;                  ///< set by the caller of a rendering
+    page::Surface* surfaceDessin = nullptr; ///< set by the caller of a rendering
+    SourceWindow* fenetreSource = nullptr;  ///< set by the caller of a rendering
+    bool enImpression = false;              ///< set by the caller of a rendering
 
     std::int16_t alignement = 0; ///< 0 left, 1 centre, 2 right
     std::int16_t margeGauche = 0;

@@ -9,7 +9,7 @@ namespace markup {
 
 namespace {
 
-using platform::Surface;
+using page::Surface;
 
 /// Length of "FRAC".
 constexpr qsizetype kKeywordLength = 4;

@@ -1,7 +1,7 @@
 #include "markup/arguments.h"
 #include "markup/directives.h"
 #include "markup/renderer.h"
-#include "platform/twips.h"
+#include "page/twips.h"
 #include "text/rounding.h"
 
 #include <QList>
@@ -10,7 +10,7 @@ namespace markup {
 
 namespace {
 
-using platform::Surface;
+using page::Surface;
 
 // Marks over a text, in twips.
 constexpr int kLowMark = 30;
@@ -126,7 +126,7 @@ void drawReactionArrow(Renderer& renderer, const Strokes& strokes) {
     drawStrokes(surface, strokes);
     // The point of the arrow covers the pixel at its end; the room begins after it.
     surface.setPenX(surface.penX() + (kArrowEnd + kArrowRoom) * surface.textHeight() +
-                    surface.lineWidth() * platform::kTwipsPerPixel);
+                    surface.lineWidth() * page::kTwipsPerPixel);
 }
 
 enum class Mark { Bar, Vector };
@@ -160,7 +160,7 @@ void beginRoot(Renderer& renderer, QStringView) {
 void endRoot(Renderer& renderer, QStringView d) {
     Surface& surface = renderer.surface();
     const double line = surface.textHeight();
-    const auto height = text::toInt16(platform::leadingNumber(charactersFrom(d, 4)) * line);
+    const auto height = text::toInt16(page::leadingNumber(charactersFrom(d, 4)) * line);
     if (!renderer.check(height.has_value(), u"la racine est trop haute"))
         return;
     const QPointF start = renderer.state().debutRacine;

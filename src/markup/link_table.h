@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/recording.h"
+#include "page/recording.h"
 #include "text/bounded_array.h"
 
 #include <QString>
@@ -17,7 +17,7 @@ struct LinkTable {
 
     /// One control. It is free while its tag is empty, whether visible or not.
     struct Element {
-        platform::LinkOperation link;
+        page::LinkOperation link;
         bool visible = false;
     };
     using Elements = text::BoundedArray<Element, 0, kLast>;

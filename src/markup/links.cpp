@@ -1,8 +1,8 @@
 #include "markup/arguments.h"
 #include "markup/directives.h"
 #include "markup/renderer.h"
-#include "platform/link_view.h"
-#include "platform/twips.h"
+#include "page/link_view.h"
+#include "page/twips.h"
 
 namespace markup {
 
@@ -18,7 +18,7 @@ constexpr char16_t kFloating[] = u"FLOTTANT";
 constexpr char16_t kLinkSign[] = u"LK";
 
 /// Side of what stands for a picture that the image list does not have, in twips.
-constexpr double kPlaceholderSide = 24 * platform::kTwipsPerPixel;
+constexpr double kPlaceholderSide = 24 * page::kTwipsPerPixel;
 
 /// The lowest free element; element 0 once all are taken, so that a page with more links than
 /// elements still shows its last ones.
@@ -45,7 +45,7 @@ QString takeCaption(DrawingState& state, QStringView caption) {
 }
 
 /// Takes a free control of the page for the link and shows it; gives its index.
-int placeControl(Renderer& renderer, LinkTable::Elements& elements, platform::LinkOperation link) {
+int placeControl(Renderer& renderer, LinkTable::Elements& elements, page::LinkOperation link) {
     link.index = freeElement(elements);
     *elements.slot(link.index) = {link, true};
     renderer.recording().add(link);
@@ -53,12 +53,12 @@ int placeControl(Renderer& renderer, LinkTable::Elements& elements, platform::Li
 }
 
 /// Where no link can be followed, its caption is part of the text.
-void printCaption(Renderer& renderer, const platform::LinkOperation& link) {
-    platform::Surface& surface = renderer.surface();
-    const platform::Font before = surface.font();
+void printCaption(Renderer& renderer, const page::LinkOperation& link) {
+    page::Surface& surface = renderer.surface();
+    const page::Font before = surface.font();
     const QPointF pen = surface.pen();
     surface.setUnderline(false);
-    for (const platform::TextOperation& line : platform::captionLines(link, surface.metrics())) {
+    for (const page::TextOperation& line : page::captionLines(link, surface.metrics())) {
         surface.setPenX(pen.x());
         surface.setPenY(line.y);
         surface.print(line.text);
@@ -69,24 +69,24 @@ void printCaption(Renderer& renderer, const platform::LinkOperation& link) {
 }
 
 /// An empty frame in place of a picture that is not there.
-void drawPlaceholder(platform::Surface& surface, double x, double y) {
+void drawPlaceholder(page::Surface& surface, double x, double y) {
     surface.line(x, y, x + kPlaceholderSide, y);
     surface.line(x + kPlaceholderSide, y, x + kPlaceholderSide, y + kPlaceholderSide);
     surface.line(x + kPlaceholderSide, y + kPlaceholderSide, x, y + kPlaceholderSide);
     surface.line(x, y + kPlaceholderSide, x, y);
 }
 
-void printPicture(Renderer& renderer, const platform::LinkOperation& link) {
-    platform::Surface& surface = renderer.surface();
+void printPicture(Renderer& renderer, const page::LinkOperation& link) {
+    page::Surface& surface = renderer.surface();
     if (link.picture)
         surface.paint(link.picture, link.width, link.height, link.key, true);
     else
         drawPlaceholder(surface, link.x, link.y);
 }
 
-platform::LinkOperation linkAtPen(Renderer& renderer, platform::LinkControl control) {
-    const platform::Surface& surface = renderer.surface();
-    platform::LinkOperation link;
+page::LinkOperation linkAtPen(Renderer& renderer, page::LinkControl control) {
+    const page::Surface& surface = renderer.surface();
+    page::LinkOperation link;
     link.surface = surface.id();
     link.control = control;
     link.x = surface.penX();
@@ -96,7 +96,7 @@ platform::LinkOperation linkAtPen(Renderer& renderer, platform::LinkControl cont
 
 /// The symbol with this key; the sign of a link for a key that the image list does not have, so
 /// that there is something to click, the same wherever the page is shown.
-std::shared_ptr<const platform::Picture> symbolOrSign(PictureShelf& pictures, const QString& key) {
+std::shared_ptr<const page::Picture> symbolOrSign(PictureShelf& pictures, const QString& key) {
     auto symbol = pictures.symbol(key);
     return symbol ? symbol : pictures.symbol(QString::fromUtf16(kLinkSign));
 }
@@ -104,14 +104,14 @@ std::shared_ptr<const platform::Picture> symbolOrSign(PictureShelf& pictures, co
 /// Places a picture link; gives its index, nothing where links are only printed.
 std::optional<int> placePicture(Renderer& renderer, QStringView key, const QString& target,
                                 const QString& tooltip) {
-    platform::LinkOperation link = linkAtPen(renderer, platform::LinkControl::Imagelien);
+    page::LinkOperation link = linkAtPen(renderer, page::LinkControl::Imagelien);
     link.tag = target;
     link.tooltip = tooltip;
     link.key = key.toString();
     link.picture = symbolOrSign(renderer.pictures(), link.key);
     const QSize pixels = link.picture ? link.picture->size() : QSize();
-    link.width = link.picture ? pixels.width() * platform::kTwipsPerPixel : kPlaceholderSide;
-    link.height = link.picture ? pixels.height() * platform::kTwipsPerPixel : kPlaceholderSide;
+    link.width = link.picture ? pixels.width() * page::kTwipsPerPixel : kPlaceholderSide;
+    link.height = link.picture ? pixels.height() * page::kTwipsPerPixel : kPlaceholderSide;
 
     std::optional<int> index;
     if (renderer.onCoursePage())
@@ -133,14 +133,14 @@ void textLink(Renderer& renderer, QStringView d) {
     const auto argument = splitAtLastSharp(d, kKeywordLength);
     if (!argument)
         return;
-    platform::Surface& surface = renderer.surface();
-    platform::LinkOperation link = linkAtPen(renderer, platform::LinkControl::Labelien);
+    page::Surface& surface = renderer.surface();
+    page::LinkOperation link = linkAtPen(renderer, page::LinkControl::Labelien);
     link.caption = takeCaption(renderer.state(), argument->before);
     link.tag = argument->after.toString();
     link.font = surface.font();
     link.font.underline = false; // the mark of the link under the pointer
     link.ink = surface.ink();
-    const auto extent = platform::captionExtent(link.caption, link.font, surface.metrics());
+    const auto extent = page::captionExtent(link.caption, link.font, surface.metrics());
     link.width = extent.width;
     link.height = extent.height;
     if (renderer.onCoursePage())
@@ -186,7 +186,7 @@ void menuEntry(Renderer& renderer, QStringView d) {
     const int entry = freeEntry(*menu);
     *menu->slot(entry) = {caption, argument->after.toString()};
     renderer.recording().add(
-        platform::MenuOperation{state.menuCourant, entry, caption, argument->after.toString()});
+        page::MenuOperation{state.menuCourant, entry, caption, argument->after.toString()});
 }
 
 } // namespace markup

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/picture.h"
+#include "page/picture.h"
 
 #include <QString>
 #include <QStringView>
@@ -19,10 +19,10 @@ public:
     virtual QString locatePicture(const QString& name) = 0;
 
     /// Null when the file is no picture that can be shown.
-    virtual std::shared_ptr<const platform::Picture> load(const QString& path) = 0;
+    virtual std::shared_ptr<const page::Picture> load(const QString& path) = 0;
 
     /// The symbol of the image list with this key of two characters; null when there is none.
-    virtual std::shared_ptr<const platform::Picture> symbol(const QString& key) = 0;
+    virtual std::shared_ptr<const page::Picture> symbol(const QString& key) = 0;
 };
 
 } // namespace markup

@@ -1,8 +1,8 @@
 #include "markup/arguments.h"
 #include "markup/directives.h"
 #include "markup/renderer.h"
+#include "page/twips.h"
 #include "platform/file_names.h"
-#include "platform/twips.h"
 #include "text/rounding.h"
 
 namespace markup {
@@ -24,15 +24,15 @@ struct Size {
 /// A length of a sized picture in twips; 0, and a failure, when it leaves the 16 bits.
 double givenLength(Renderer& renderer, QStringView pixels) {
     std::int16_t twips = 0;
-    renderer.store(twips, platform::leadingNumber(pixels) * platform::kTwipsPerPixel);
+    renderer.store(twips, page::leadingNumber(pixels) * page::kTwipsPerPixel);
     return twips;
 }
 
-Size ownSize(const platform::Picture* picture) {
+Size ownSize(const page::Picture* picture) {
     if (!picture)
         return {};
     const QSize pixels = picture->size();
-    return {pixels.width() * platform::kTwipsPerPixel, pixels.height() * platform::kTwipsPerPixel};
+    return {pixels.width() * page::kTwipsPerPixel, pixels.height() * page::kTwipsPerPixel};
 }
 
 /// `given` is the size that a sized picture is stretched to.
@@ -46,7 +46,7 @@ void chargeimage(Renderer& renderer, const QString& nom, Mode mode, Size given) 
     renderer.check(picture != nullptr, u"l’image ne peut pas être lue");
     const Size size = mode == Mode::GivenSize ? given : ownSize(picture.get());
 
-    platform::Surface& surface = renderer.surface();
+    page::Surface& surface = renderer.surface();
     surface.setPenX(alignedX(renderer.state(), size.width, surface.penX()));
     if (picture && size.width > 0 && size.height > 0)
         surface.paint(picture, size.width, size.height, platform::lastComponent(nom), false);
@@ -62,7 +62,7 @@ void symbolInLine(Renderer& renderer, QStringView d) {
     if (!picture)
         return;
     const Size size = ownSize(picture.get());
-    platform::Surface& surface = renderer.surface();
+    page::Surface& surface = renderer.surface();
     surface.paint(picture, size.width, size.height, key, true);
     surface.setPenX(surface.penX() + size.width);
 }

@@ -1,7 +1,7 @@
 #include "markup/arguments.h"
 #include "markup/directives.h"
 #include "markup/renderer.h"
-#include "platform/twips.h"
+#include "page/twips.h"
 #include "text/rounding.h"
 
 namespace markup {
@@ -13,14 +13,14 @@ constexpr char16_t kPenOutside[] = u"la position sort des limites";
 /// A pixel count of a directive in twips. The product is a 16-bit one: nothing beyond 32767.
 std::optional<std::int16_t> pixelsToTwips(double pixels) {
     const auto whole = text::toInt16(pixels);
-    return whole ? text::toInt16(*whole * platform::kTwipsPerPixel) : std::nullopt;
+    return whole ? text::toInt16(*whole * page::kTwipsPerPixel) : std::nullopt;
 }
 
 } // namespace
 
 void centrePenFor(Renderer& renderer, QStringView d) {
     // The text measured begins with the "C" of "FEINC": pages are laid out with this, so it stays.
-    platform::Surface& surface = renderer.surface();
+    page::Surface& surface = renderer.surface();
     const DrawingState& state = renderer.state();
     const double width = surface.textWidth(charactersFrom(d, 5));
     renderer.check(surface.setPenX((state.margeGauche + state.margeDroite - width) / 2),
@@ -34,20 +34,20 @@ void setPenX(Renderer& renderer, QStringView d) {
 }
 
 void movePenX(Renderer& renderer, QStringView d) {
-    platform::Surface& surface = renderer.surface();
+    page::Surface& surface = renderer.surface();
     const auto twips = pixelsToTwips(lastNumber(d, 3));
     renderer.check(twips && surface.setPenX(surface.penX() + *twips), kPenOutside);
 }
 
 void movePenY(Renderer& renderer, QStringView d) {
-    platform::Surface& surface = renderer.surface();
+    page::Surface& surface = renderer.surface();
     const auto twips = pixelsToTwips(lastNumber(d, 3));
     renderer.check(twips && surface.setPenY(surface.penY() + *twips), kPenOutside);
 }
 
 void skipLines(Renderer& renderer, QStringView d) {
     static constexpr qsizetype kFirstArgument = 7;
-    const double lines = platform::leadingNumber(charactersFrom(d, kFirstArgument));
+    const double lines = page::leadingNumber(charactersFrom(d, kFirstArgument));
     renderer.movePenYBy(lines * renderer.surface().textHeight());
 }
 

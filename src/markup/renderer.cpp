@@ -1,7 +1,7 @@
 #include "markup/renderer.h"
 
 #include "markup/directive_table.h"
-#include "platform/printable_text.h"
+#include "page/printable_text.h"
 #include "text/rounding.h"
 
 namespace markup {
@@ -18,7 +18,7 @@ constexpr double kPaperColumnPx = 600;
 } // namespace
 
 Renderer::Renderer(DrawingState& state, PageWindow& window, PictureShelf& pictures,
-                   platform::Recording& recording, double screenTwipsPerPixel)
+                   page::Recording& recording, double screenTwipsPerPixel)
     : state_(state), window_(window), pictures_(pictures), recording_(recording),
       twipsPerPixel_(screenTwipsPerPixel) {}
 
@@ -43,8 +43,8 @@ double Renderer::fullWidth() const {
 
 bool Renderer::check(bool done, const char16_t* reason) {
     if (!done)
-        recording_.add(platform::FailedOperation{lineNumber_, directive_.toString(),
-                                                 QString::fromUtf16(reason)});
+        recording_.add(
+            page::FailedOperation{lineNumber_, directive_.toString(), QString::fromUtf16(reason)});
     return done;
 }
 
@@ -62,7 +62,7 @@ void Renderer::movePenYBy(double twips) {
 void Renderer::initecran() {
     state_.lienEnAttente.clear();
 
-    platform::Surface& target = surface();
+    page::Surface& target = surface();
     target.setFontPoints(10);
     target.setFace(QStringLiteral("Arial"));
     target.setBold(false);
@@ -103,7 +103,7 @@ void Renderer::affichepage() {
     paper_ = state_.surfaceDessin;
     initecran();
 
-    platform::RichTextHolder& code = state_.fenetreSource->code();
+    page::RichTextHolder& code = state_.fenetreSource->code();
     for (;;) {
         const qsizetype debut = code.selectionStart();
         const qsizetype end = code.find(kLineEnd, debut, code.text().size());
@@ -131,21 +131,21 @@ void Renderer::drawLine(QStringView ligne) {
     directive_ = {};
     QString buffer;
     const QStringView texte = finParagraphe ? ligne.chopped(1) : ligne;
-    printTextLine(platform::composedText(texte, buffer).toString(), finParagraphe);
+    printTextLine(page::composedText(texte, buffer).toString(), finParagraphe);
 }
 
 void Renderer::tradcode(QStringView ligne) {
     directive_ = ligne;
     const QStringView d = ligne.sliced(kDirectiveMark.size());
     QString buffer;
-    const QStringView composed = platform::composedText(d, buffer);
+    const QStringView composed = page::composedText(d, buffer);
     for (const Directive& directive : directiveTable())
         if (directive.matches(d))
             directive.run(*this, directive.argument == Argument::File ? d : composed);
 }
 
 void Renderer::printTextLine(const QString& texte, bool finParagraphe) {
-    platform::Surface& target = surface();
+    page::Surface& target = surface();
     align(texte);
     // A shift is taken back after the line, unless the pen could not follow it.
     const std::int16_t shift = state_.decalageUnique;
@@ -170,13 +170,13 @@ void Renderer::align(const QString& texte) {
 }
 
 void Renderer::printShadow(const QString& texte) {
-    platform::Surface& target = surface();
+    page::Surface& target = surface();
     const QRgb ink = target.ink();
     const QPointF pen = target.pen();
     const auto shadow = qbColor(state_.reliefCouleur);
     if (check(shadow.has_value(), u"la couleur du relief n’est pas dans la palette"))
         target.setInk(*shadow);
-    const double offset = state_.reliefDecalage * platform::kTwipsPerPixel;
+    const double offset = state_.reliefDecalage * page::kTwipsPerPixel;
     target.setPenX(pen.x() + offset);
     target.setPenY(pen.y() + offset);
     target.print(texte);

@@ -3,8 +3,8 @@
 #include "markup/drawing_state.h"
 #include "markup/picture_shelf.h"
 #include "markup/windows.h"
-#include "platform/recording.h"
-#include "platform/twips.h"
+#include "page/recording.h"
+#include "page/twips.h"
 
 #include <QStringView>
 
@@ -18,7 +18,7 @@ class Renderer {
 public:
     /// `screenTwipsPerPixel` is the vertical one. All references must outlive the renderer.
     Renderer(DrawingState& state, PageWindow& window, PictureShelf& pictures,
-             platform::Recording& recording, double screenTwipsPerPixel = platform::kTwipsPerPixel);
+             page::Recording& recording, double screenTwipsPerPixel = page::kTwipsPerPixel);
 
     /// Draws the whole source of `fenetreSource`. Callers set `surfaceDessin`, `fenetreSource` and
     /// `enImpression` first, load the source, and set `hauteurPage` to 0 unless the drawing is to
@@ -38,8 +38,8 @@ public:
     DrawingState& state() { return state_; }
     PageWindow& window() { return window_; }
     PictureShelf& pictures() { return pictures_; }
-    platform::Recording& recording() { return recording_; }
-    platform::Surface& surface() { return *state_.surfaceDessin; }
+    page::Recording& recording() { return recording_; }
+    page::Surface& surface() { return *state_.surfaceDessin; }
     double twipsPerPixel() const { return twipsPerPixel_; }
 
     /// Whether the page at hand is a course page on screen: the only kind that places links and
@@ -73,11 +73,11 @@ private:
     DrawingState& state_;
     PageWindow& window_;
     PictureShelf& pictures_;
-    platform::Recording& recording_;
+    page::Recording& recording_;
     double twipsPerPixel_;
-    platform::Surface* paper_ = nullptr;
-    platform::Recording discarded_;
-    std::optional<platform::Surface> nowhere_;
+    page::Surface* paper_ = nullptr;
+    page::Recording discarded_;
+    std::optional<page::Surface> nowhere_;
     int lineNumber_ = 0;
     QStringView directive_;
 };

@@ -9,7 +9,7 @@ namespace markup {
 
 namespace {
 
-using platform::Surface;
+using page::Surface;
 
 /// Distance of indices and exponents from their line, and of the stacked pair of "POLY", in twips
 /// for each point of the size. An em is 20 twips a point.

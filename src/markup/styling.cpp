@@ -125,7 +125,7 @@ void fontFace(Renderer& renderer, QStringView d) {
     if (face.isEmpty())
         return;
     // Faces of one size differ in height; the pen moves so that the text keeps its foot.
-    platform::Surface& surface = renderer.surface();
+    page::Surface& surface = renderer.surface();
     const double before = surface.textHeight();
     surface.setFace(face);
     surface.setPenY(surface.penY() + before - surface.textHeight());
@@ -133,7 +133,7 @@ void fontFace(Renderer& renderer, QStringView d) {
 
 void textShadow(Renderer& renderer, QStringView d) {
     DrawingState& state = renderer.state();
-    renderer.store(state.reliefDecalage, platform::leadingNumber(characterAt(d, 7)));
+    renderer.store(state.reliefDecalage, page::leadingNumber(characterAt(d, 7)));
     renderer.store(state.reliefCouleur, lastNumber(d, 2));
 }
 

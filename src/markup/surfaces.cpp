@@ -11,9 +11,9 @@ constexpr char16_t kHeightRefused[] = u"la surface refuse cette hauteur";
 /// How much a "PLOUF" adds to the surface, in pixels.
 constexpr double kGrowthPx = 1000;
 
-void drawOn(Renderer& renderer, platform::Surface& surface) {
+void drawOn(Renderer& renderer, page::Surface& surface) {
     renderer.state().surfaceDessin = &surface;
-    renderer.recording().add(platform::SwitchOperation{surface.id()});
+    renderer.recording().add(page::SwitchOperation{surface.id()});
 }
 
 /// What a name after "OBJ" leads to on screen.
@@ -42,7 +42,7 @@ void chooseOnPaper(Renderer& renderer, QStringView name) {
 void refreshAndGrow(Renderer& renderer, QStringView) {
     if (renderer.state().enImpression)
         return;
-    platform::Surface& surface = renderer.surface();
+    page::Surface& surface = renderer.surface();
     renderer.window().refresh(surface);
     renderer.check(surface.setHeightPx(surface.heightPx() + kGrowthPx), kHeightRefused);
 }
@@ -54,7 +54,7 @@ void chooseSurface(Renderer& renderer, QStringView d) {
     else
         chooseOnScreen(renderer, name);
     if (name == u"TAILLE") {
-        platform::Surface& surface = renderer.surface();
+        page::Surface& surface = renderer.surface();
         renderer.check(surface.setHeightPx(surface.penY() / renderer.twipsPerPixel()),
                        kHeightRefused);
     }
@@ -67,7 +67,7 @@ void windowCaption(Renderer& renderer, QStringView d) {
     // The eighteen blanks keep the page's own words apart from the name of the course.
     const QString caption =
         QStringLiteral("Orvalente - KAROPE                  ") + charactersFrom(d, 7).toString();
-    renderer.recording().add(platform::CaptionOperation{caption});
+    renderer.recording().add(page::CaptionOperation{caption});
     renderer.window().setCaption(caption);
 }
 

@@ -1,7 +1,7 @@
 #include "markup/arguments.h"
 #include "markup/directives.h"
 #include "markup/renderer.h"
-#include "platform/twips.h"
+#include "page/twips.h"
 #include "text/rounding.h"
 
 #include <QRectF>
@@ -13,9 +13,9 @@ namespace markup {
 
 namespace {
 
-using platform::FillMode;
-using platform::kTwipsPerPixel;
-using platform::Surface;
+using page::FillMode;
+using page::kTwipsPerPixel;
+using page::Surface;
 
 /// Room between the edge of a cell and its text.
 constexpr int kCellMargin = 120;
@@ -35,7 +35,7 @@ constexpr double kMaxBands = kBlueRange + 1;
 
 double numberAt(QStringView d, qsizetype position, qsizetype count) {
     const QStringView rest = charactersFrom(d, position);
-    return platform::leadingNumber(rest.first(qMin(count, rest.size())));
+    return page::leadingNumber(rest.first(qMin(count, rest.size())));
 }
 
 void storePenY(Renderer& renderer, std::int32_t& target) {

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "markup/answer_fields.h"
-#include "platform/rich_text_holder.h"
-#include "platform/surface.h"
+#include "page/rich_text_holder.h"
+#include "page/surface.h"
 
 #include <QString>
 
@@ -12,7 +12,7 @@ namespace markup {
 class SourceWindow {
 public:
     virtual ~SourceWindow() = default;
-    virtual platform::RichTextHolder& code() = 0;
+    virtual page::RichTextHolder& code() = 0;
 
     /// The answer controls that its pages can place; null where pages place links instead.
     virtual AnswerFields* answerFields() { return nullptr; }
@@ -23,9 +23,9 @@ class PageWindow {
 public:
     virtual ~PageWindow() = default;
 
-    virtual platform::Surface& pictureTexte() = 0;
-    virtual platform::Surface& pictureIllus() = 0;
-    virtual platform::Surface& titre() = 0;
+    virtual page::Surface& pictureTexte() = 0;
+    virtual page::Surface& pictureIllus() = 0;
+    virtual page::Surface& titre() = 0;
 
     virtual void setCaption(const QString& caption) = 0;
 
@@ -33,7 +33,7 @@ public:
     virtual void setBusy(bool busy) = 0;
 
     /// Makes what was drawn so far on the surface visible now.
-    virtual void refresh(platform::Surface& surface) = 0;
+    virtual void refresh(page::Surface& surface) = 0;
 
     /// Shows the frame of the video buttons: the page has a video.
     virtual void showVideoFrame() = 0;

@@ -1,22 +1,20 @@
 #include "orderform/bondec.h"
 
+#include "look/button.h"
+#include "look/enter_once.h"
+#include "look/ink.h"
+#include "look/mnemonics.h"
+#include "look/palette.h"
+#include "look/pixels.h"
 #include "orderform/field_note.h"
 #include "orderform/order_field.h"
 #include "orderform/price.h"
-#include "platform/qt/look/button.h"
-#include "platform/qt/look/enter_once.h"
-#include "platform/qt/look/ink.h"
-#include "platform/qt/look/mnemonics.h"
-#include "platform/qt/look/palette.h"
-#include "platform/qt/look/pixels.h"
 
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
 
 namespace orderform {
-
-namespace look = platform::look;
 
 namespace {
 

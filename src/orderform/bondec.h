@@ -9,7 +9,7 @@
 
 class QLabel;
 
-namespace platform::look {
+namespace look {
 class Button;
 }
 
@@ -55,7 +55,7 @@ private:
     QLabel* amount_ = nullptr;
     QLabel* total_ = nullptr;
     FieldNote* state_ = nullptr;
-    platform::look::Button* cancel_ = nullptr;
+    look::Button* cancel_ = nullptr;
     bool checks_ = false; ///< once the form was to be printed, faults come and go as one types
 };
 

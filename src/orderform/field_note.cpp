@@ -1,15 +1,13 @@
 #include "orderform/field_note.h"
 
-#include "platform/qt/look/interface_font.h"
-#include "platform/qt/look/palette.h"
-#include "platform/qt/look/pixels.h"
+#include "look/interface_font.h"
+#include "look/palette.h"
+#include "look/pixels.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
 
 namespace orderform {
-
-namespace look = platform::look;
 
 namespace {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/qt/look/icon.h"
+#include "look/icon.h"
 
 #include <QWidget>
 
@@ -25,7 +25,7 @@ protected:
 private:
     Kind kind_ = Kind::Hint;
     QString words_;
-    platform::look::Icon sign_;
+    look::Icon sign_;
 };
 
 } // namespace orderform

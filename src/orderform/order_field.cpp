@@ -1,14 +1,12 @@
 #include "orderform/order_field.h"
 
-#include "platform/qt/look/interface_font.h"
-#include "platform/qt/look/palette.h"
-#include "platform/qt/look/pixels.h"
+#include "look/interface_font.h"
+#include "look/palette.h"
+#include "look/pixels.h"
 
 #include <QPainter>
 
 namespace orderform {
-
-namespace look = platform::look;
 
 namespace {
 

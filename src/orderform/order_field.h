@@ -1,12 +1,12 @@
 #pragma once
 
+#include "look/text_field.h"
 #include "orderform/field_note.h"
-#include "platform/qt/look/text_field.h"
 
 namespace orderform {
 
 /// A field of the order form, which shows what is wrong with its text.
-class OrderField : public platform::look::TextField {
+class OrderField : public look::TextField {
 public:
     explicit OrderField(QWidget* parent);
 

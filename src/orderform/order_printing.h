@@ -1,8 +1,8 @@
 #pragma once
 
 #include "orderform/order.h"
+#include "page/text_metrics.h"
 #include "platform/printer.h"
-#include "platform/text_metrics.h"
 
 namespace orderform {
 
@@ -10,7 +10,7 @@ namespace orderform {
 struct PrintingParts {
     platform::PrinterSetup& setup;
     platform::Printer& printer;
-    const platform::TextMetrics& metrics;
+    const page::TextMetrics& metrics;
 };
 
 enum class PrintOutcome {

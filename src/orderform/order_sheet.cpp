@@ -1,7 +1,7 @@
 #include "orderform/order_sheet.h"
 
 #include "orderform/price.h"
-#include "platform/surface.h"
+#include "page/surface.h"
 
 #include <algorithm>
 #include <cmath>
@@ -10,8 +10,8 @@ namespace orderform {
 
 namespace {
 
-using platform::FillMode;
-using platform::SurfaceId;
+using page::FillMode;
+using page::SurfaceId;
 
 // Twips. What stands on the sheet is so large, and takes the middle of the paper's printable part.
 constexpr double kWidth = 10000;
@@ -73,11 +73,11 @@ struct Row {
 
 class OrderDrawing {
 public:
-    OrderDrawing(const Order& order, const platform::TextMetrics& metrics)
+    OrderDrawing(const Order& order, const page::TextMetrics& metrics)
         : order_(order), copies_(orderform::copies(order).value_or(0)),
           surface_(SurfaceId::Printer, kWidth, metrics, recording_) {}
 
-    const platform::Recording& recording() {
+    const page::Recording& recording() {
         drawTitle();
         drawAddressee();
         drawDetails();
@@ -210,18 +210,18 @@ private:
 
     const Order& order_;
     int copies_;
-    platform::Recording recording_;
-    platform::Surface surface_;
+    page::Recording recording_;
+    page::Surface surface_;
 };
 
 } // namespace
 
-platform::Sheet orderSheet(const Order& order, const platform::Paper& paper,
-                           const platform::TextMetrics& metrics) {
+page::Sheet orderSheet(const Order& order, const platform::Paper& paper,
+                       const page::TextMetrics& metrics) {
     // Laid out larger than the paper, the sheet is reduced when it is printed.
     const double enlargement = std::max({1.0, kWidth / std::max(1.0, paper.printableWidth),
                                          kHeight / std::max(1.0, paper.printableHeight)});
-    platform::Sheet sheet;
+    page::Sheet sheet;
     sheet.title = QStringLiteral("Bon de commande");
     sheet.width = paper.width * enlargement;
     sheet.height = paper.height * enlargement;
@@ -229,7 +229,7 @@ platform::Sheet orderSheet(const Order& order, const platform::Paper& paper,
     sheet.surfaces = {{SurfaceId::Printer, left * enlargement, paper.top * enlargement,
                        kWidth + kLineRoom, kHeight}};
     OrderDrawing drawing(order, metrics);
-    platform::putOnSheet(drawing.recording(), metrics, sheet);
+    page::putOnSheet(drawing.recording(), metrics, sheet);
     return sheet;
 }
 

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "orderform/order.h"
+#include "page/sheet.h"
+#include "page/text_metrics.h"
 #include "platform/printer.h"
-#include "platform/sheet.h"
-#include "platform/text_metrics.h"
 
 namespace orderform {
 
@@ -14,7 +14,7 @@ inline const QString kArticle =
 /// The mail-order form of a tidied order without faults: where it goes to, who orders, the articles
 /// and the total, how to pay, room for date and signature. It stands on one sheet, in smaller
 /// letters where the paper has less room than A4 upright.
-platform::Sheet orderSheet(const Order& order, const platform::Paper& paper,
-                           const platform::TextMetrics& metrics);
+page::Sheet orderSheet(const Order& order, const platform::Paper& paper,
+                       const page::TextMetrics& metrics);
 
 } // namespace orderform

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/sheet.h"
+#include "page/sheet.h"
 
 #include <QString>
 
@@ -30,7 +30,7 @@ public:
 
     /// Prints a sheet, which is enlarged or reduced as a whole to the paper's width. False once the
     /// job has failed.
-    virtual bool print(const Sheet& sheet) = 0;
+    virtual bool print(const page::Sheet& sheet) = 0;
 
     /// Ends the job and hands it over. False when any part of it failed.
     virtual bool end() = 0;

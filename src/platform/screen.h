@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/twips.h"
+#include "page/twips.h"
 
 namespace platform {
 
@@ -26,7 +26,7 @@ public:
 
 /// `reported` twips in a pixel; kTwipsPerPixel where the system does not say (0).
 inline double knownTwipsPerPixel(double reported) {
-    return reported == 0 ? kTwipsPerPixel : reported;
+    return reported == 0 ? page::kTwipsPerPixel : reported;
 }
 
 /// Width of the screen in pixels.

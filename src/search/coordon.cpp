@@ -1,17 +1,17 @@
 #include "search/coordon.h"
 
+#include "look/button.h"
+#include "look/check_box.h"
+#include "look/enter_once.h"
+#include "look/ink.h"
+#include "look/interface_font.h"
+#include "look/list_box.h"
+#include "look/mnemonics.h"
+#include "look/palette.h"
+#include "look/progress_bar.h"
+#include "look/text_field.h"
+#include "page/twips.h"
 #include "platform/file_names.h"
-#include "platform/qt/look/button.h"
-#include "platform/qt/look/check_box.h"
-#include "platform/qt/look/enter_once.h"
-#include "platform/qt/look/ink.h"
-#include "platform/qt/look/interface_font.h"
-#include "platform/qt/look/list_box.h"
-#include "platform/qt/look/mnemonics.h"
-#include "platform/qt/look/palette.h"
-#include "platform/qt/look/progress_bar.h"
-#include "platform/qt/look/text_field.h"
-#include "platform/twips.h"
 
 #include <QAccessible>
 #include <QElapsedTimer>
@@ -24,14 +24,13 @@
 
 namespace search {
 
-namespace look = platform::look;
 using look::Button;
 
 namespace {
 
 constexpr int kWidth = 480;
-constexpr auto kLowHeight = static_cast<int>(1980 / platform::kTwipsPerPixel);
-constexpr auto kHighHeight = static_cast<int>(4200 / platform::kTwipsPerPixel);
+constexpr auto kLowHeight = static_cast<int>(1980 / page::kTwipsPerPixel);
+constexpr auto kHighHeight = static_cast<int>(4200 / page::kTwipsPerPixel);
 
 constexpr QRect kPrompt(16, 8, 336, 22);
 constexpr QRect kWords(16, 32, 336, 28);

@@ -12,13 +12,13 @@
 
 class QLabel;
 
-namespace platform::look {
+namespace look {
 class Button;
 class CheckBox;
 class ListBox;
 class ProgressBar;
 class TextField;
-} // namespace platform::look
+} // namespace look
 
 namespace search {
 
@@ -67,14 +67,14 @@ private:
     int turnMs_;
     FoundList found_;
 
-    platform::look::TextField* Text1_ = nullptr;
-    platform::look::CheckBox* Checkmots_ = nullptr;
-    platform::look::CheckBox* accents_ = nullptr; ///< "Ignorer les accents"
-    platform::look::Button* Command1_ = nullptr;
-    platform::look::Button* Command2_ = nullptr;
-    platform::look::Button* Command3_ = nullptr;
-    platform::look::ListBox* List2_ = nullptr;
-    platform::look::ProgressBar* Pbar1_ = nullptr;
+    look::TextField* Text1_ = nullptr;
+    look::CheckBox* Checkmots_ = nullptr;
+    look::CheckBox* accents_ = nullptr; ///< "Ignorer les accents"
+    look::Button* Command1_ = nullptr;
+    look::Button* Command2_ = nullptr;
+    look::Button* Command3_ = nullptr;
+    look::ListBox* List2_ = nullptr;
+    look::ProgressBar* Pbar1_ = nullptr;
     QLabel* Label2_ = nullptr; ///< the notice that no page was found
 };
 

@@ -1,16 +1,14 @@
 #include "setupinfo/maj2001.h"
 
-#include "platform/qt/look/button.h"
-#include "platform/qt/look/mnemonics.h"
-#include "platform/qt/look/palette.h"
-#include "platform/qt/look/pixels.h"
-#include "platform/qt/look/spaced_label.h"
+#include "look/button.h"
+#include "look/mnemonics.h"
+#include "look/palette.h"
+#include "look/pixels.h"
+#include "look/spaced_label.h"
 
 #include <QPainter>
 
 namespace setupinfo {
-
-namespace look = platform::look;
 
 namespace {
 

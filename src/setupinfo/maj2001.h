@@ -5,10 +5,10 @@
 
 #include <QDialog>
 
-namespace platform::look {
+namespace look {
 class Button;
 class SpacedLabel;
-} // namespace platform::look
+} // namespace look
 
 namespace setupinfo {
 
@@ -30,12 +30,12 @@ private:
     void Command1_Click();
     void Command2_Click();
     void Command3_Click();
-    platform::look::Button* addButton(const QString& name, const QString& caption, bool isMain,
-                                      const QRect& place);
+    look::Button* addButton(const QString& name, const QString& caption, bool isMain,
+                            const QRect& place);
 
     QString installDir_;
     platform::ProcessStarter& starter_;
-    platform::look::SpacedLabel* Label1_ = nullptr;
+    look::SpacedLabel* Label1_ = nullptr;
 };
 
 } // namespace setupinfo

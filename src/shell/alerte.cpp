@@ -1,19 +1,17 @@
 #include "shell/alerte.h"
 
-#include "platform/qt/look/button.h"
-#include "platform/qt/look/ink.h"
-#include "platform/qt/look/palette.h"
-#include "platform/qt/look/pixels.h"
-#include "platform/qt/look/program_icon.h"
-#include "platform/qt/look/spaced_label.h"
+#include "look/button.h"
+#include "look/ink.h"
+#include "look/palette.h"
+#include "look/pixels.h"
+#include "look/program_icon.h"
+#include "look/spaced_label.h"
 #include "shell/display_warning_words.h"
 
 #include <QApplication>
 #include <QPainter>
 
 namespace shell {
-
-namespace look = platform::look;
 
 namespace {
 

@@ -1,15 +1,15 @@
 #pragma once
 
+#include "look/icon.h"
 #include "platform/display_settings.h"
-#include "platform/qt/look/icon.h"
 #include "shell/start_up.h"
 
 #include <QDialog>
 
-namespace platform::look {
+namespace look {
 class Button;
 class SpacedLabel;
-} // namespace platform::look
+} // namespace look
 
 namespace shell {
 
@@ -41,12 +41,12 @@ private:
     platform::DisplaySettings& settings_;
     DisplayWarning::Choice choice_ = DisplayWarning::Choice::Quit;
 
-    platform::look::Icon picture_;
-    platform::look::SpacedLabel* Label1_;
-    platform::look::SpacedLabel* notice_; ///< why no settings have opened
-    platform::look::Button* Command1_;
-    platform::look::Button* Command2_;
-    platform::look::Button* Command3_;
+    look::Icon picture_;
+    look::SpacedLabel* Label1_;
+    look::SpacedLabel* notice_; ///< why no settings have opened
+    look::Button* Command1_;
+    look::Button* Command2_;
+    look::Button* Command3_;
 };
 
 /// Shows `alerte` as often as start-up asks for it.

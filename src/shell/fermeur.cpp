@@ -1,10 +1,10 @@
 #include "shell/fermeur.h"
 
-#include "platform/qt/look/ink.h"
-#include "platform/qt/look/interface_font.h"
-#include "platform/qt/look/palette.h"
-#include "platform/qt/look/pixels.h"
-#include "platform/qt/look/program_icon.h"
+#include "look/ink.h"
+#include "look/interface_font.h"
+#include "look/palette.h"
+#include "look/pixels.h"
+#include "look/program_icon.h"
 
 #include <QCloseEvent>
 #include <QEventLoop>
@@ -18,8 +18,6 @@
 #include <utility>
 
 namespace shell {
-
-namespace look = platform::look;
 
 namespace {
 

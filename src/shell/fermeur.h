@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/qt/look/icon.h"
+#include "look/icon.h"
 
 #include <QDialog>
 #include <QTimer>
@@ -33,7 +33,7 @@ private:
 
     std::function<void()> closing_;
     QTimer painted_;
-    platform::look::Icon Image1_;
+    look::Icon Image1_;
 };
 
 } // namespace shell

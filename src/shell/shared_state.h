@@ -1,8 +1,8 @@
 #pragma once
 
-#include "shell/data_directories.h"
+#include "coursedata/data_directories.h"
+#include "coursedata/page_index.h"
 #include "text/bounded_array.h"
-#include "viewer/page_index.h"
 
 #include <QString>
 
@@ -12,7 +12,7 @@ namespace shell {
 
 /// Everything that more than one window or procedure shares: one object, made by the program and
 /// handed by reference to whoever works on it. It is filled at start-up and lives until the end.
-struct SharedState : DataDirectories, viewer::PageIndex {
+struct SharedState : coursedata::DataDirectories, coursedata::PageIndex {
     /// The status file that the shell and its sibling programs share, an absolute path: that of the
     /// installation directory, or one of the person's own where that cannot be written. Empty
     /// before start-up has reset it.

@@ -1,7 +1,7 @@
 #include "shell/start_up.h"
 
+#include "coursedata/course_directory.h"
 #include "files/publication.h"
-#include "shell/course_directory.h"
 #include "shell/status_file.h"
 #include "shell/status_place.h"
 
@@ -69,7 +69,7 @@ void StartUp::clearSharedState() {
 bool StartUp::bindDatabase() {
     // A build that was cut short leaves new pages that want their pictures.
     files::finishPublication(state_.InstallDir.toStdU16String());
-    const std::optional<QString> path = findCourseDatabase(state_.InstallDir);
+    const std::optional<QString> path = coursedata::findCourseDatabase(state_.InstallDir);
     if (!path)
         return false;
     parts_.database.bind(*path);

@@ -1,8 +1,8 @@
 #include "viewer/action_dispatcher.h"
 
+#include "coursedata/page_index.h"
 #include "text/rounding.h"
 #include "viewer/page_code.h"
-#include "viewer/page_index.h"
 
 namespace viewer {
 
@@ -33,13 +33,13 @@ void ActionDispatcher::runAction(QString& code) {
 
 void ActionDispatcher::showPageByNumber(double number) {
     const auto n = text::toInt16(number);
-    if (const auto position = n ? positionOfCode(state_, *n) : std::nullopt)
+    if (const auto position = n ? coursedata::positionOfCode(state_, *n) : std::nullopt)
         loader_.moveTo(*position);
     show();
 }
 
 void ActionDispatcher::showPageByOrder(std::int32_t index) {
-    if (const auto position = positionByOrder(state_, index))
+    if (const auto position = coursedata::positionByOrder(state_, index))
         loader_.moveTo(*position);
     show();
 }

@@ -1,10 +1,10 @@
 #include "viewer/chapter_bar.h"
 
-#include "platform/qt/look/button.h"
-#include "platform/qt/look/ink.h"
-#include "platform/qt/look/interface_font.h"
-#include "platform/qt/look/palette.h"
-#include "platform/qt/look/tool_tip.h"
+#include "look/button.h"
+#include "look/ink.h"
+#include "look/interface_font.h"
+#include "look/palette.h"
+#include "look/tool_tip.h"
 
 #include <QAccessible>
 #include <QLabel>
@@ -14,7 +14,7 @@ namespace viewer {
 
 namespace {
 
-using platform::look::Button;
+using look::Button;
 
 constexpr QRect kPrevious(0, 0, 152, 32);
 constexpr QRect kWords(160, 0, 304, 32);
@@ -29,7 +29,7 @@ Button* addButton(const QString& name, const QString& caption, const QString& to
                   const Button::Look& look, const QRect& place, QWidget* parent) {
     auto* button = new Button(caption, look, parent);
     button->setObjectName(name);
-    platform::look::setToolTip(*button, toolTip);
+    look::setToolTip(*button, toolTip);
     button->setAccessibleName(toolTip); // says more than the caption
     button->setGeometry(place);
     button->hide();
@@ -88,7 +88,7 @@ void ChapterBar::clearStatus() {
 }
 
 void ChapterBar::showWords() {
-    using namespace platform::look;
+    using namespace look;
     const bool hasStatus = !status_.isEmpty();
     const bool hasButtons = !avantcours_->isHidden() || !suite_->isHidden();
     words_->setGeometry(hasStatus ? kStatus : kWords);
@@ -98,7 +98,7 @@ void ChapterBar::showWords() {
     words_->setText(hasStatus    ? status_
                     : hasButtons ? QStringLiteral("Dans ce chapitre")
                                  : QString());
-    platform::look::setToolTip(*words_, status_);
+    look::setToolTip(*words_, status_);
     if (hasStatus)
         shortenToFit(*words_);
     update();
@@ -108,7 +108,7 @@ void ChapterBar::paintEvent(QPaintEvent*) {
     if (status_.isEmpty())
         return;
     QPainter painter(this);
-    sign_.paint(painter, kSign, platform::look::Icon::Style::Coloured);
+    sign_.paint(painter, kSign, look::Icon::Style::Coloured);
 }
 
 } // namespace viewer

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/qt/look/icon.h"
+#include "look/icon.h"
 
 #include <QTimer>
 #include <QWidget>
@@ -34,7 +34,7 @@ private:
     QLabel* words_;
     QString status_;
     QTimer untilRead_;
-    platform::look::Icon sign_{QStringLiteral("warning")};
+    look::Icon sign_{QStringLiteral("warning")};
 };
 
 } // namespace viewer

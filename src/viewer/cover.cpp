@@ -1,8 +1,8 @@
 #include "viewer/cover.h"
 
-#include "platform/qt/look/interface_font.h"
-#include "platform/qt/look/palette.h"
-#include "platform/qt/look/pixels.h"
+#include "look/interface_font.h"
+#include "look/palette.h"
+#include "look/pixels.h"
 
 #include <QImageReader>
 #include <QPainter>
@@ -52,7 +52,7 @@ QRect Cover::labelRect() const {
 }
 
 void Cover::paintEvent(QPaintEvent*) {
-    using namespace platform::look;
+    using namespace look;
     QPainter painter(this);
     drawFrame(painter, rect(), 0, kRule, QColor::fromRgb(kPaper));
     if (picture_.isNull() && !pictureSize_.isEmpty()) {

@@ -1,12 +1,12 @@
 #include "viewer/find_bar.h"
 
-#include "platform/qt/look/button.h"
-#include "platform/qt/look/ink.h"
-#include "platform/qt/look/interface_font.h"
-#include "platform/qt/look/palette.h"
-#include "platform/qt/look/pixels.h"
-#include "platform/qt/look/text_field.h"
-#include "platform/qt/look/tool_tip.h"
+#include "look/button.h"
+#include "look/ink.h"
+#include "look/interface_font.h"
+#include "look/palette.h"
+#include "look/pixels.h"
+#include "look/text_field.h"
+#include "look/tool_tip.h"
 
 #include <QAccessible>
 #include <QKeyEvent>
@@ -17,7 +17,7 @@ namespace viewer {
 
 namespace {
 
-using platform::look::Button;
+using look::Button;
 
 // Field and status end where the page's text column and its scroll bar do.
 constexpr int kTop = 6;
@@ -40,7 +40,7 @@ FindBar::FindBar(QWidget* parent)
       next_(addButton("findNext", "down", QStringLiteral("Occurrence suivante (F3)"), kNextX,
                       &Actions::next)),
       status_(new QLabel(this)) {
-    using namespace platform::look;
+    using namespace look;
     setObjectName(QStringLiteral("findBar"));
     setAccessibleName(QStringLiteral("Recherche dans la page"));
     setFixedSize(kWidth, kHeight);
@@ -61,7 +61,7 @@ Button* FindBar::addButton(const char* name, const char* icon, const QString& to
     auto* button =
         new Button({}, {.kind = Button::Kind::Toolbar, .icon = QString::fromLatin1(icon)}, this);
     button->setObjectName(QString::fromLatin1(name));
-    platform::look::setToolTip(*button, toolTip);
+    look::setToolTip(*button, toolTip);
     button->setAccessibleName(toolTip.section(QStringLiteral(" ("), 0, 0));
     button->setGeometry(x, kTop, kTall, kTall);
     connect(button, &QPushButton::clicked, this, [this, action] { (actions_.*action)(); });
@@ -69,12 +69,12 @@ Button* FindBar::addButton(const char* name, const char* icon, const QString& to
 }
 
 /// Made when it is first needed: loading the fonts of a text field would delay the first page.
-platform::look::TextField& FindBar::field() {
+look::TextField& FindBar::field() {
     if (field_)
         return *field_;
-    field_ = new platform::look::TextField(this);
+    field_ = new look::TextField(this);
     field_->setObjectName(QStringLiteral("findField"));
-    field_->setFont(platform::look::interfaceFont(platform::look::kLabelPx));
+    field_->setFont(look::interfaceFont(look::kLabelPx));
     field_->setPlaceholderText(QStringLiteral("Rechercher dans la page"));
     field_->setAccessibleName(field_->placeholderText());
     field_->setMaxLength(kMaxTyped);
@@ -129,7 +129,7 @@ bool FindBar::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void FindBar::paintEvent(QPaintEvent*) {
-    using namespace platform::look;
+    using namespace look;
     QPainter painter(this);
     painter.fillRect(rect(), QColor::fromRgb(kIvory));
     painter.fillRect(QRectF(0, 0, width(), crisp(painter)), QColor::fromRgb(kRule));

@@ -6,10 +6,10 @@
 
 class QLabel;
 
-namespace platform::look {
+namespace look {
 class Button;
 class TextField;
-} // namespace platform::look
+} // namespace look
 
 namespace viewer {
 
@@ -47,14 +47,14 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    platform::look::Button* addButton(const char* name, const char* icon, const QString& toolTip,
-                                      int x, std::function<void()> Actions::*action);
-    platform::look::TextField& field();
+    look::Button* addButton(const char* name, const char* icon, const QString& toolTip, int x,
+                            std::function<void()> Actions::*action);
+    look::TextField& field();
 
     Actions actions_;
-    platform::look::TextField* field_ = nullptr;
-    platform::look::Button* previous_;
-    platform::look::Button* next_;
+    look::TextField* field_ = nullptr;
+    look::Button* previous_;
+    look::Button* next_;
     QLabel* status_;
 };
 

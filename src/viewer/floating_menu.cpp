@@ -1,7 +1,7 @@
 #include "viewer/floating_menu.h"
 
-#include "platform/qt/look/interface_font.h"
-#include "platform/qt/look/menu_style.h"
+#include "look/interface_font.h"
+#include "look/menu_style.h"
 
 #include <QFontMetrics>
 
@@ -29,8 +29,8 @@ QString entryText(const QString& caption, const QFontMetrics& metrics) {
 FloatingMenu::FloatingMenu(const markup::LinkTable::Menu* entries, QWidget* parent)
     : QMenu(parent) {
     setObjectName(QStringLiteral("flottant"));
-    setStyle(new platform::look::MenuStyle(this));
-    setFont(platform::look::interfaceFont(platform::look::kLabelPx));
+    setStyle(new look::MenuStyle(this));
+    setFont(look::interfaceFont(look::kLabelPx));
     setMinimumSize(kLeast);
     for (int index = 0; index <= markup::LinkTable::kLastEntry; ++index) {
         const auto* entry = entries ? entries->slot(index) : nullptr;

@@ -1,7 +1,7 @@
 #include "viewer/focus_ring.h"
 
-#include "platform/qt/look/palette.h"
-#include "platform/qt/look/pixels.h"
+#include "look/palette.h"
+#include "look/pixels.h"
 
 #include <QEvent>
 #include <QPainter>
@@ -76,7 +76,7 @@ bool FocusRing::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void FocusRing::paintEvent(QPaintEvent*) {
-    using namespace platform::look;
+    using namespace look;
     QPainter painter(this);
     drawFrame(painter, ring_.translated(-pos()), kRadius, kBlue, Qt::NoBrush, kThickness);
 }

@@ -1,7 +1,8 @@
 #include "viewer/link_controls.h"
 
-#include "platform/surface.h"
-#include "platform/twips.h"
+#include "look/picture_box.h"
+#include "page/surface.h"
+#include "page/twips.h"
 #include "viewer/floating_menu.h"
 #include "viewer/focus_ring.h"
 #include "viewer/link_highlight.h"
@@ -9,7 +10,6 @@
 #include "viewer/link_order.h"
 #include "viewer/link_picture.h"
 #include "viewer/multim.h"
-#include "viewer/picture_box.h"
 
 #include <QCursor>
 #include <QFocusEvent>
@@ -25,14 +25,13 @@ namespace {
 /// person has chosen.
 constexpr Qt::CursorShape kPointer = Qt::PointingHandCursor;
 
-using platform::SurfaceId;
+using page::SurfaceId;
 constexpr SurfaceId kSurfaces[] = {SurfaceId::Titre, SurfaceId::PictureTexte,
                                    SurfaceId::PictureIllus};
 
 } // namespace
 
-LinkControls::LinkControls(Multim& window, const platform::FontBook& fonts,
-                           markup::LinkTable& table)
+LinkControls::LinkControls(Multim& window, const page::FontBook& fonts, markup::LinkTable& table)
     : window_(window), fonts_(fonts), table_(table), ring_(new FocusRing(&window)) {}
 
 LinkControls::~LinkControls() = default; // the controls belong to the window
@@ -106,22 +105,22 @@ void LinkControls::tellFeet() const {
                 foot = std::max(foot, element.link.y + element.link.height);
             }
     for (const SurfaceId surface : kSurfaces)
-        window_.box(surface).setControlsFoot(qCeil(
-            std::min(feet[surface] / platform::kTwipsPerPixel, platform::kMaxSurfaceHeightPx)));
+        window_.box(surface).setControlsFoot(
+            qCeil(std::min(feet[surface] / page::kTwipsPerPixel, page::kMaxSurfaceHeightPx)));
 }
 
 /// The Tab key leads from the page to its links, in the order in which they are read; a screen
 /// reader finds them in the same order.
 void LinkControls::putInReadingOrder() {
-    std::map<const platform::LinkOperation*, LinkWidget*> shown;
-    std::vector<const platform::LinkOperation*> links;
+    std::map<const page::LinkOperation*, LinkWidget*> shown;
+    std::vector<const page::LinkOperation*> links;
     for (LinkWidget* link : made())
         if (!link->isHidden()) {
             shown[&link->link()] = link;
             links.push_back(&link->link());
         }
     QWidget* before = &window_.pageArea();
-    for (const platform::LinkOperation* link : inReadingOrder(std::move(links))) {
+    for (const page::LinkOperation* link : inReadingOrder(std::move(links))) {
         QWidget* control = shown[link];
         QWidget::setTabOrder(before, control);
         control->raise(); // the children of a window stand in this order too
@@ -142,7 +141,7 @@ void LinkControls::Labelien_MouseMove(int index) {
 void LinkControls::showHighlight() {
     for (LinkLabel* label : Labelien_)
         if (label && !label->isHidden()) {
-            const platform::LinkOperation& link = table_.Labelien.slot(label->index())->link;
+            const page::LinkOperation& link = table_.Labelien.slot(label->index())->link;
             if (label->link() != link)
                 label->showLink(link, window_.box(link.surface));
         }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "markup/link_table.h"
-#include "platform/qt/font_book.h"
+#include "page/faces/font_book.h"
 #include "viewer/neighbours.h"
 
 #include <QObject>
@@ -25,7 +25,7 @@ class Multim;
 class LinkControls : public QObject, public PageLinks {
 public:
     /// All references must outlive it.
-    LinkControls(Multim& window, const platform::FontBook& fonts, markup::LinkTable& table);
+    LinkControls(Multim& window, const page::FontBook& fonts, markup::LinkTable& table);
     ~LinkControls() override;
 
     // PageLinks
@@ -62,7 +62,7 @@ private:
     std::vector<LinkWidget*> made() const;
 
     Multim& window_;
-    const platform::FontBook& fonts_;
+    const page::FontBook& fonts_;
     markup::LinkTable& table_;
     Array<LinkLabel> Labelien_{};
     Array<LinkPicture> Imagelien_{};

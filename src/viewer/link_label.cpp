@@ -1,8 +1,8 @@
 #include "viewer/link_label.h"
 
-#include "platform/link_view.h"
-#include "platform/qt/operation_painter.h"
-#include "platform/twips.h"
+#include "output/raster/operation_painter.h"
+#include "page/link_view.h"
+#include "page/twips.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -21,18 +21,18 @@ constexpr double kBesideSlanted = 1 / 4.0;
 
 } // namespace
 
-LinkLabel::LinkLabel(int index, const platform::FontBook& fonts, QWidget* parent)
+LinkLabel::LinkLabel(int index, const page::FontBook& fonts, QWidget* parent)
     : LinkWidget(index, fonts, parent) {
     setObjectName(QStringLiteral("Labelien(%1)").arg(index));
 }
 
-QSizeF LinkLabel::extent(const platform::LinkOperation& link) const {
-    const auto caption = platform::captionExtent(link.caption, link.font, fonts());
+QSizeF LinkLabel::extent(const page::LinkOperation& link) const {
+    const auto caption = page::captionExtent(link.caption, link.font, fonts());
     return {std::min(caption.width, link.width), caption.height};
 }
 
-QMargins LinkLabel::overhang(const platform::LinkOperation& link) const {
-    const int square = platform::fontPixels(link.font.points);
+QMargins LinkLabel::overhang(const page::LinkOperation& link) const {
+    const int square = page::fontPixels(link.font.points);
     const int above = qCeil(square * kAbove);
     const int around = qCeil(square * kAround);
     const int right = link.font.italic ? qCeil(square * kBesideSlanted) : around;
@@ -42,15 +42,15 @@ QMargins LinkLabel::overhang(const platform::LinkOperation& link) const {
 void LinkLabel::draw(QPainter& painter, double ratio) {
     // Bold letters that are wider than the place on the page stand closer and narrower there:
     // nothing that follows is covered.
-    const double letters = platform::captionExtent(link().caption, link().font, fonts()).width;
+    const double letters = page::captionExtent(link().caption, link().font, fonts()).width;
     if (letters > link().width) {
-        const double left = link().x / platform::kTwipsPerPixel * ratio;
+        const double left = link().x / page::kTwipsPerPixel * ratio;
         painter.translate(left, 0);
         painter.scale(link().width / letters, 1);
         painter.translate(-left, 0);
     }
-    platform::OperationPainter operations(painter, fonts(), ratio);
-    for (const platform::TextOperation& line : platform::captionLines(link(), fonts()))
+    output::OperationPainter operations(painter, fonts(), ratio);
+    for (const page::TextOperation& line : page::captionLines(link(), fonts()))
         if (operations.span(line))
             operations.draw(line);
 }

@@ -8,14 +8,14 @@ namespace viewer {
 /// gave it, also while it is bold under the pointer.
 class LinkLabel : public LinkWidget {
 public:
-    LinkLabel(int index, const platform::FontBook& fonts, QWidget* parent);
+    LinkLabel(int index, const page::FontBook& fonts, QWidget* parent);
 
     /// Lines of text stand close together.
     QSize ringReach() const override { return {4, 3}; }
 
 protected:
-    QSizeF extent(const platform::LinkOperation& link) const override;
-    QMargins overhang(const platform::LinkOperation& link) const override;
+    QSizeF extent(const page::LinkOperation& link) const override;
+    QMargins overhang(const page::LinkOperation& link) const override;
     void draw(QPainter& painter, double ratio) override;
     void mouseMoveEvent(QMouseEvent* event) override;
 };

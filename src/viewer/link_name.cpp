@@ -1,6 +1,6 @@
 #include "viewer/link_name.h"
 
-#include "platform/sign_faces.h"
+#include "page/sign_faces.h"
 #include "viewer/page_code.h"
 
 #include <QStringList>
@@ -28,18 +28,18 @@ QString meaningOf(const QString& tag) {
 }
 
 /// The sign faces have no line ends among their codes.
-QString captionInUnicode(const platform::LinkOperation& link) {
+QString captionInUnicode(const page::LinkOperation& link) {
     QStringList lines = link.caption.split(QStringLiteral("\r\n"));
     for (QString& line : lines)
-        line = platform::readableSigns(link.font.face, line);
+        line = page::readableSigns(link.font.face, line);
     return lines.join(u' ');
 }
 
 } // namespace
 
-QString linkName(const platform::LinkOperation& link) {
+QString linkName(const page::LinkOperation& link) {
     const QString words =
-        link.control == platform::LinkControl::Labelien ? captionInUnicode(link) : link.tooltip;
+        link.control == page::LinkControl::Labelien ? captionInUnicode(link) : link.tooltip;
     const QString name = words.simplified();
     return name.isEmpty() ? meaningOf(link.tag) : name;
 }

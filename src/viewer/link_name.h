@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/recording.h"
+#include "page/recording.h"
 
 #include <QString>
 
@@ -8,6 +8,6 @@ namespace viewer {
 
 /// What a screen reader calls a link: its caption on one line, in Unicode also where the page wrote
 /// signs; the tooltip of a picture, or what the picture leads to when it has none.
-QString linkName(const platform::LinkOperation& link);
+QString linkName(const page::LinkOperation& link);
 
 } // namespace viewer

@@ -8,13 +8,13 @@ namespace viewer {
 
 namespace {
 
-using Link = const platform::LinkOperation*;
+using Link = const page::LinkOperation*;
 
-int rank(platform::SurfaceId surface) {
+int rank(page::SurfaceId surface) {
     switch (surface) {
-    case platform::SurfaceId::Titre:
+    case page::SurfaceId::Titre:
         return 0;
-    case platform::SurfaceId::PictureIllus:
+    case page::SurfaceId::PictureIllus:
         return 2;
     default:
         return 1;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/recording.h"
+#include "page/recording.h"
 
 #include <vector>
 
@@ -8,7 +8,7 @@ namespace viewer {
 
 /// Links in the order in which they are read: those of the title, of the page, of the illustration;
 /// on each from line to line, and from left to right on a line.
-std::vector<const platform::LinkOperation*>
-inReadingOrder(std::vector<const platform::LinkOperation*> links);
+std::vector<const page::LinkOperation*>
+inReadingOrder(std::vector<const page::LinkOperation*> links);
 
 } // namespace viewer

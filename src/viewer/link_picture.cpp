@@ -1,9 +1,9 @@
 #include "viewer/link_picture.h"
 
-#include "platform/qt/look/icon.h"
-#include "platform/qt/look/palette.h"
-#include "platform/qt/look/pixels.h"
-#include "platform/twips.h"
+#include "look/icon.h"
+#include "look/palette.h"
+#include "look/pixels.h"
+#include "page/twips.h"
 
 #include <QPainter>
 
@@ -19,20 +19,20 @@ constexpr double kSignMarginPx = 6;
 
 } // namespace
 
-LinkPicture::LinkPicture(int index, const platform::FontBook& fonts, QWidget* parent)
+LinkPicture::LinkPicture(int index, const page::FontBook& fonts, QWidget* parent)
     : LinkWidget(index, fonts, parent) {
     setObjectName(QStringLiteral("Imagelien(%1)").arg(index));
 }
 
-QSizeF LinkPicture::extent(const platform::LinkOperation& link) const {
+QSizeF LinkPicture::extent(const page::LinkOperation& link) const {
     return {link.width, link.height};
 }
 
 void LinkPicture::draw(QPainter& painter, double ratio) {
     const auto pixel = [ratio](double twips) {
-        return qRound(twips / platform::kTwipsPerPixel * ratio);
+        return qRound(twips / page::kTwipsPerPixel * ratio);
     };
-    const platform::LinkOperation& shown = link();
+    const page::LinkOperation& shown = link();
     const QRect place(QPoint(pixel(shown.x), pixel(shown.y)),
                       QPoint(pixel(shown.x + shown.width) - 1, pixel(shown.y + shown.height) - 1));
     const QImage& picture = image(place.size());
@@ -53,7 +53,7 @@ const QImage& LinkPicture::image(QSize pixels) {
 }
 
 void LinkPicture::drawPlaceholder(QPainter& painter, const QRect& place, double ratio) const {
-    using namespace platform::look;
+    using namespace look;
     painter.scale(ratio, ratio);
     const QRectF frame(QPointF(place.topLeft()) / ratio, QSizeF(place.size()) / ratio);
     drawFrame(painter, frame, 0, kEdge, QColor::fromRgb(kPaper));

@@ -11,12 +11,12 @@ namespace viewer {
 /// comes to it.
 class LinkPicture : public LinkWidget {
 public:
-    LinkPicture(int index, const platform::FontBook& fonts, QWidget* parent);
+    LinkPicture(int index, const page::FontBook& fonts, QWidget* parent);
 
     QSize ringReach() const override { return {3, 3}; }
 
 protected:
-    QSizeF extent(const platform::LinkOperation& link) const override;
+    QSizeF extent(const page::LinkOperation& link) const override;
     void draw(QPainter& painter, double ratio) override;
 
 private:
@@ -24,7 +24,7 @@ private:
     void drawPlaceholder(QPainter& painter, const QRect& place, double ratio) const;
 
     // What was painted last: a symbol may be a large file.
-    std::shared_ptr<const platform::Picture> decoded_;
+    std::shared_ptr<const page::Picture> decoded_;
     QSize decodedSize_;
     QImage image_;
 };

@@ -1,17 +1,17 @@
 #include "viewer/link_widget.h"
 
-#include "platform/qt/look/tool_tip.h"
-#include "platform/twips.h"
+#include "look/picture_box.h"
+#include "look/tool_tip.h"
+#include "page/twips.h"
 #include "viewer/link_accessible.h"
 #include "viewer/link_name.h"
-#include "viewer/picture_box.h"
 
 #include <QKeyEvent>
 #include <QPainter>
 
 namespace viewer {
 
-LinkWidget::LinkWidget(int index, const platform::FontBook& fonts, QWidget* parent)
+LinkWidget::LinkWidget(int index, const page::FontBook& fonts, QWidget* parent)
     : QAbstractButton(parent), index_(index), fonts_(fonts) {
     setFocusPolicy(Qt::TabFocus);
     setMouseTracking(true);
@@ -19,7 +19,7 @@ LinkWidget::LinkWidget(int index, const platform::FontBook& fonts, QWidget* pare
     LinkAccessible::install();
 }
 
-void LinkWidget::showLink(const platform::LinkOperation& link, PictureBox& box) {
+void LinkWidget::showLink(const page::LinkOperation& link, look::PictureBox& box) {
     if (&box == box_ && link == link_) {
         arrange(); // the box may have grown
         return;
@@ -29,7 +29,7 @@ void LinkWidget::showLink(const platform::LinkOperation& link, PictureBox& box) 
     box_ = &box;
     link_ = link;
     setAccessibleName(linkName(link));
-    platform::look::setToolTip(*this, link.tooltip);
+    look::setToolTip(*this, link.tooltip);
     arrange();
     update();
     box.updateMargin();
@@ -38,12 +38,12 @@ void LinkWidget::showLink(const platform::LinkOperation& link, PictureBox& box) 
 void LinkWidget::freeLink() {
     hide();
     link_ = {};
-    platform::look::setToolTip(*this, {});
+    look::setToolTip(*this, {});
     setAccessibleName({});
 }
 
 void LinkWidget::arrange() {
-    using platform::kTwipsPerPixel;
+    using page::kTwipsPerPixel;
     const QRectF area = box_->shownArea();
     const QSizeF size = extent(link_) / kTwipsPerPixel;
     const QPointF corner(link_.x / kTwipsPerPixel + box_->inset(),

@@ -1,21 +1,21 @@
 #include "viewer/multim.h"
 
+#include "coursedata/page_index.h"
+#include "look/button.h"
+#include "look/ink_rim.h"
+#include "look/mnemonics.h"
+#include "look/page_panel.h"
+#include "look/palette.h"
+#include "look/picture_box.h"
+#include "look/program_icon.h"
+#include "look/surface_widths.h"
+#include "page/twips.h"
 #include "platform/file_names.h"
-#include "platform/qt/look/button.h"
-#include "platform/qt/look/mnemonics.h"
-#include "platform/qt/look/palette.h"
-#include "platform/qt/look/program_icon.h"
-#include "platform/twips.h"
 #include "viewer/chapter_bar.h"
 #include "viewer/cover.h"
 #include "viewer/find_bar.h"
-#include "viewer/ink_rim.h"
 #include "viewer/page_finder.h"
-#include "viewer/page_index.h"
-#include "viewer/page_panel.h"
-#include "viewer/picture_box.h"
 #include "viewer/rail.h"
-#include "viewer/surface_widths.h"
 #include "viewer/toolbar.h"
 #include "viewer/video_frame.h"
 
@@ -25,7 +25,7 @@ namespace viewer {
 
 namespace {
 
-using platform::SurfaceId;
+using page::SurfaceId;
 
 constexpr QRect kToolbar(0, 0, 800, 64);
 constexpr QRect kRail(8, 72, 152, 520);
@@ -38,7 +38,7 @@ constexpr int kSettledMs = 500;
 
 } // namespace
 
-Multim::Multim(shell::SharedState& state, const platform::FontBook& fonts,
+Multim::Multim(shell::SharedState& state, const page::FontBook& fonts,
                const platform::Screen& screen)
     : state_(state), fonts_(fonts), screen_(screen), sizeRule_(state, screen) {
     setObjectName(QStringLiteral("multim"));
@@ -46,12 +46,12 @@ Multim::Multim(shell::SharedState& state, const platform::FontBook& fonts,
     resize(kWindowSize);
     setMinimumSize(kWindowSize - QSize(0, kMostRowsLacking));
     QPalette colours = palette();
-    colours.setColor(QPalette::Window, QColor::fromRgb(platform::look::kIvory));
+    colours.setColor(QPalette::Window, QColor::fromRgb(look::kIvory));
     setPalette(colours);
     addControls();
     connectHandlers();
     watchPointer();
-    new platform::look::MnemonicDisplay(this);
+    new look::MnemonicDisplay(this);
     sizeSettled_.setSingleShot(true);
     sizeSettled_.setInterval(kSettledMs);
     connect(&sizeSettled_, &QTimer::timeout, this, [this] { sizeRule_.settled(present()); });
@@ -71,15 +71,15 @@ void Multim::addControls() {
     toolbar_ = new Toolbar(body_);
     toolbar_->setGeometry(kToolbar);
 
-    titre_ = new PictureBox(SurfaceId::Titre, kTitleWidthPx, platform::look::kIvory, fonts_,
-                            recording_, body_);
+    titre_ = new look::PictureBox(SurfaceId::Titre, look::kTitleWidthPx, look::kIvory, fonts_,
+                                  recording_, body_);
     titre_->setGeometry(kTitle);
-    new InkRim(*titre_, body_);
+    new look::InkRim(*titre_, body_);
 
-    panel_ = new PagePanel(body_);
+    panel_ = new look::PagePanel(body_);
     panel_->setGeometry(kPanel);
-    PictureTEXTE_ = new PictureBox(SurfaceId::PictureTexte, kPageWidthPx, platform::look::kPaper,
-                                   fonts_, recording_, panel_);
+    PictureTEXTE_ = new look::PictureBox(SurfaceId::PictureTexte, look::kPageWidthPx, look::kPaper,
+                                         fonts_, recording_, panel_);
     panel_->setPage(PictureTEXTE_);
     // A click in the page gives it the keyboard, also below a page that is shorter than the view.
     PictureTEXTE_->setFocusPolicy(Qt::StrongFocus);
@@ -89,8 +89,8 @@ void Multim::addControls() {
     videoFrame_ = new VideoFrame(body_);
 
     rail_ = new Rail(body_);
-    PICTUREILLUS_ = new PictureBox(SurfaceId::PictureIllus, kIllustrationWidthPx,
-                                   platform::look::kPaper, fonts_, recording_, rail_);
+    PICTUREILLUS_ = new look::PictureBox(SurfaceId::PictureIllus, look::kIllustrationWidthPx,
+                                         look::kPaper, fonts_, recording_, rail_);
     PICTUREILLUS_->setAccessibleName(QStringLiteral("Illustration de la page"));
     rail_->setIllustration(PICTUREILLUS_);
 
@@ -176,7 +176,7 @@ void Multim::showFirstPage() {
     parts_->actions.run(QStringLiteral("PAG001"));
     setPageVisible(true);
     // Only the window manager shows it, and reading it takes as long as a page: after the page.
-    QTimer::singleShot(0, this, [this] { setWindowIcon(platform::look::programIcon()); });
+    QTimer::singleShot(0, this, [this] { setWindowIcon(look::programIcon()); });
 }
 
 void Multim::shareLinkCursor() {
@@ -184,11 +184,11 @@ void Multim::shareLinkCursor() {
 }
 
 void Multim::setWidth(double twips) {
-    resize(qRound(twips / platform::kTwipsPerPixel), height());
+    resize(qRound(twips / page::kTwipsPerPixel), height());
 }
 
 void Multim::place(const shell::Placement& placement) {
-    const auto pixels = [](double twips) { return qRound(twips / platform::kTwipsPerPixel); };
+    const auto pixels = [](double twips) { return qRound(twips / page::kTwipsPerPixel); };
     const QSize size(pixels(placement.width), pixels(placement.height));
     // The window manager then offers neither to resize nor to maximise it.
     setFixedSize(size);

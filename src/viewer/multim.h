@@ -2,9 +2,9 @@
 
 #include "markup/renderer.h"
 #include "markup/windows.h"
-#include "platform/qt/font_book.h"
-#include "platform/recording.h"
-#include "platform/rich_text_holder.h"
+#include "page/faces/font_book.h"
+#include "page/recording.h"
+#include "page/rich_text_holder.h"
 #include "platform/screen.h"
 #include "shell/report_sink.h"
 #include "shell/shared_state.h"
@@ -24,17 +24,17 @@
 #include <memory>
 #include <optional>
 
-namespace platform::look {
+namespace look {
 class Button;
-}
+class PagePanel;
+class PictureBox;
+} // namespace look
 
 namespace viewer {
 
 class ChapterBar;
 class Cover;
 class PageFinder;
-class PagePanel;
-class PictureBox;
 class Rail;
 class Toolbar;
 class VideoFrame;
@@ -53,8 +53,7 @@ class Multim : public QWidget,
                public shell::StartUpWindow,
                public shell::ReportSink {
 public:
-    Multim(shell::SharedState& state, const platform::FontBook& fonts,
-           const platform::Screen& screen);
+    Multim(shell::SharedState& state, const page::FontBook& fonts, const platform::Screen& screen);
     ~Multim() override;
 
     /// What the window works with; made after it, since most of it knows the window.
@@ -75,15 +74,15 @@ public:
     bool Form_Load();
 
     /// The drawing of the page that is shown.
-    platform::Recording& recording() { return recording_; }
+    page::Recording& recording() { return recording_; }
 
     /// The frame of the video buttons, and where the video's picture goes.
     enum class VideoLayout { None, Closed, Open };
     void setVideoLayout(VideoLayout layout);
 
-    PictureBox& pageArea() { return *PictureTEXTE_; }
+    look::PictureBox& pageArea() { return *PictureTEXTE_; }
     /// The control that shows a surface; the page area for surfaces of other windows.
-    PictureBox& box(platform::SurfaceId surface);
+    look::PictureBox& box(page::SurfaceId surface);
     /// Scrolls so that this part of the page area shows, in its pixels.
     void reveal(const QRect& part);
 
@@ -109,14 +108,14 @@ public:
     void restorePointer() override;
 
     // markup::PageWindow, markup::SourceWindow
-    platform::Surface& pictureTexte() override;
-    platform::Surface& pictureIllus() override;
-    platform::Surface& titre() override;
+    page::Surface& pictureTexte() override;
+    page::Surface& pictureIllus() override;
+    page::Surface& titre() override;
     void setBusy(bool busy) override;
-    void refresh(platform::Surface& surface) override;
+    void refresh(page::Surface& surface) override;
     void preparePrinter() override;
     void showVideoFrame() override;
-    platform::RichTextHolder& code() override { return code_; }
+    page::RichTextHolder& code() override { return code_; }
 
     // shell::StartUpWindow
     void shareLinkCursor() override;
@@ -146,7 +145,7 @@ private:
     bool pageHasFocus() const;
     void connectHandlers();
     void watchPointer();
-    platform::look::Button& button(const char* name) const;
+    look::Button& button(const char* name) const;
 
     // Form_Load, step by step.
     void prepareAreas();
@@ -189,10 +188,10 @@ private:
     void chooseVideo(const QString& caption);
 
     shell::SharedState& state_;
-    const platform::FontBook& fonts_;
+    const page::FontBook& fonts_;
     const platform::Screen& screen_;
-    platform::Recording recording_;
-    platform::RichTextHolder code_;
+    page::Recording recording_;
+    page::RichTextHolder code_;
     std::optional<Parts> parts_;
     WindowSizeRule sizeRule_;
     QTimer sizeSettled_;
@@ -200,15 +199,15 @@ private:
     QWidget* body_ = nullptr;
     Toolbar* toolbar_ = nullptr;
     Rail* rail_ = nullptr;
-    PagePanel* panel_ = nullptr;
+    look::PagePanel* panel_ = nullptr;
     VideoFrame* videoFrame_ = nullptr;
     VideoLayout videoLayout_ = VideoLayout::None;
     int rowsLacking_ = 0; ///< of the window, in pixels, 0 to kMostRowsLacking
     ChapterBar* Framebase_ = nullptr;
     Cover* cover_ = nullptr;
-    PictureBox* PictureTEXTE_ = nullptr;
-    PictureBox* PICTUREILLUS_ = nullptr;
-    PictureBox* titre_ = nullptr;
+    look::PictureBox* PictureTEXTE_ = nullptr;
+    look::PictureBox* PICTUREILLUS_ = nullptr;
+    look::PictureBox* titre_ = nullptr;
     std::unique_ptr<PageFinder> finder_;
     QString summaryCode_; ///< the tag of Command2
 

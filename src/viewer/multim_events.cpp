@@ -1,15 +1,15 @@
 // The main window's handlers: what its controls, the keyboard, the pointer and the window system
 // tell it.
 
-#include "platform/qt/look/button.h"
-#include "platform/qt/look/scroll_bar.h"
-#include "platform/twips.h"
+#include "look/button.h"
+#include "look/page_panel.h"
+#include "look/picture_box.h"
+#include "look/scroll_bar.h"
+#include "page/twips.h"
 #include "shell/display_check.h"
 #include "viewer/chapter_bar.h"
 #include "viewer/multim.h"
 #include "viewer/page_finder.h"
-#include "viewer/page_panel.h"
-#include "viewer/picture_box.h"
 #include "viewer/rail.h"
 #include "viewer/toolbar.h"
 #include "viewer/video_frame.h"
@@ -31,9 +31,8 @@ constexpr double kLinesPerNotch = 3;
 
 } // namespace
 
-platform::look::Button& Multim::button(const char* name) const {
-    return *static_cast<platform::look::Button*>(
-        findChild<QPushButton*>(QString::fromLatin1(name)));
+look::Button& Multim::button(const char* name) const {
+    return *static_cast<look::Button*>(findChild<QPushButton*>(QString::fromLatin1(name)));
 }
 
 void Multim::connectHandlers() {

@@ -1,14 +1,14 @@
 // The main window as the page loader and the renderer see it.
 
-#include "platform/qt/look/button.h"
-#include "platform/qt/look/scroll_bar.h"
-#include "platform/qt/look/tool_tip.h"
+#include "look/button.h"
+#include "look/page_panel.h"
+#include "look/picture_box.h"
+#include "look/scroll_bar.h"
+#include "look/tool_tip.h"
 #include "viewer/chapter_bar.h"
 #include "viewer/multim.h"
 #include "viewer/page_finder.h"
-#include "viewer/page_panel.h"
 #include "viewer/page_title.h"
-#include "viewer/picture_box.h"
 #include "viewer/rail.h"
 #include "viewer/video_frame.h"
 
@@ -49,7 +49,7 @@ void Multim::hideScrollBarAndVideoFrame() {
 void Multim::clearPictures() {
     finder_->pageGoes();
     recording_.clear();
-    for (PictureBox* box : {PictureTEXTE_, PICTUREILLUS_, titre_})
+    for (look::PictureBox* box : {PictureTEXTE_, PICTUREILLUS_, titre_})
         box->empty();
     Framebase_->clearStatus();
 }
@@ -65,7 +65,7 @@ void Multim::setTitle(const QString& title) {
     PictureTEXTE_->setAccessibleName(words.isEmpty() ? QStringLiteral("Page du cours") : words);
     titre_->setAccessibleName(words);
     const QString shown = drawPageTitle(titre_->surface(), fonts_, words);
-    platform::look::setToolTip(*titre_, shown == words ? QString() : words);
+    look::setToolTip(*titre_, shown == words ? QString() : words);
 }
 
 void Multim::setBackEnabled(bool enabled) {
@@ -77,7 +77,7 @@ void Multim::setForwardEnabled(bool enabled) {
 }
 
 void Multim::fitPage() {
-    for (PictureBox* box : {PictureTEXTE_, PICTUREILLUS_, titre_})
+    for (look::PictureBox* box : {PictureTEXTE_, PICTUREILLUS_, titre_})
         box->showDrawing();
     parts_->neighbours.links.show();
     panel_->fitPage();
@@ -96,7 +96,7 @@ void Multim::setPrintable(bool printable) {
 
 void Multim::setSummary(const QString& code, const QString& caption) {
     summaryCode_ = code;
-    platform::look::Button& Command2 = button("Command2");
+    look::Button& Command2 = button("Command2");
     Command2.setCaption(caption);
     Command2.setIconName(caption == u"Accueil" ? QStringLiteral("home")
                                                : QStringLiteral("summary"));
@@ -135,20 +135,20 @@ void Multim::setBusy(bool busy) {
     busy ? showHourglass() : restorePointer();
 }
 
-platform::Surface& Multim::pictureTexte() {
+page::Surface& Multim::pictureTexte() {
     return PictureTEXTE_->surface();
 }
 
-platform::Surface& Multim::pictureIllus() {
+page::Surface& Multim::pictureIllus() {
     return PICTUREILLUS_->surface();
 }
 
-platform::Surface& Multim::titre() {
+page::Surface& Multim::titre() {
     return titre_->surface();
 }
 
-void Multim::refresh(platform::Surface& surface) {
-    for (PictureBox* box : {PictureTEXTE_, PICTUREILLUS_, titre_})
+void Multim::refresh(page::Surface& surface) {
+    for (look::PictureBox* box : {PictureTEXTE_, PICTUREILLUS_, titre_})
         if (&box->surface() == &surface) {
             box->showDrawing();
             if (box->isVisible())
@@ -157,11 +157,11 @@ void Multim::refresh(platform::Surface& surface) {
         }
 }
 
-PictureBox& Multim::box(platform::SurfaceId surface) {
+look::PictureBox& Multim::box(page::SurfaceId surface) {
     switch (surface) {
-    case platform::SurfaceId::Titre:
+    case page::SurfaceId::Titre:
         return *titre_;
-    case platform::SurfaceId::PictureIllus:
+    case page::SurfaceId::PictureIllus:
         return *PICTUREILLUS_;
     default:
         return *PictureTEXTE_;

@@ -1,10 +1,10 @@
 // The main window as the page's video sees it.
 
-#include "platform/qt/look/interface_font.h"
-#include "platform/qt/look/menu_style.h"
-#include "platform/twips.h"
+#include "look/interface_font.h"
+#include "look/menu_style.h"
+#include "look/page_panel.h"
+#include "page/twips.h"
 #include "viewer/multim.h"
-#include "viewer/page_panel.h"
 #include "viewer/video_frame.h"
 #include "viewer/video_menu.h"
 
@@ -97,8 +97,8 @@ void Multim::projo_Click() {
     auto* MVideo = new QMenu(this);
     MVideo->setObjectName(QStringLiteral("MVideo"));
     MVideo->setAccessibleName(QStringLiteral("Vidéos"));
-    MVideo->setStyle(new platform::look::MenuStyle(MVideo));
-    MVideo->setFont(platform::look::interfaceFont(platform::look::kLabelPx));
+    MVideo->setStyle(new look::MenuStyle(MVideo));
+    MVideo->setFont(look::interfaceFont(look::kLabelPx));
     for (const QString& caption : videoMenuCaptions(parts_->renderer.state().videoPage))
         connect(MVideo->addAction(caption), &QAction::triggered, this,
                 [this, caption] { chooseVideo(caption); });

@@ -1,8 +1,8 @@
 #include "viewer/occurrences.h"
 
-#include "platform/link_view.h"
-#include "platform/sign_faces.h"
-#include "platform/text_lines.h"
+#include "page/link_view.h"
+#include "page/sign_faces.h"
+#include "page/text_lines.h"
 #include "text/letters.h"
 
 #include <algorithm>
@@ -11,9 +11,9 @@ namespace viewer {
 
 namespace {
 
-using platform::TextLine;
-using platform::TextMetrics;
-using platform::TextOperation;
+using page::TextLine;
+using page::TextMetrics;
+using page::TextOperation;
 
 /// What all ways to write a character have in common.
 QChar folded(QChar character, bool ignoreAccents) {
@@ -60,18 +60,18 @@ public:
 
 private:
     bool isBlankBefore(const TextOperation& run, double end) const {
-        return !letters_.isEmpty() && platform::isApart(run, end) && !letters_.endsWith(u' ') &&
+        return !letters_.isEmpty() && page::isApart(run, end) && !letters_.endsWith(u' ') &&
                !run.text.startsWith(u' ');
     }
 
     void addRun(const TextOperation& run) {
-        const bool hasSigns = platform::signFace(run.font.face) != platform::SignFace::None;
+        const bool hasSigns = page::signFace(run.font.face) != page::SignFace::None;
         for (qsizetype index = 0; index < run.text.size() && letters_.size() < mostText_; ++index) {
             const QChar character = run.text[index];
             if (!hasSigns)
                 add(folded(character, ignoreAccents_), {&run, index});
             else
-                for (const QChar sign : platform::readableSigns(run.font.face, character))
+                for (const QChar sign : page::readableSigns(run.font.face, character))
                     add(folded(sign, ignoreAccents_), {&run, index});
         }
     }
@@ -163,16 +163,14 @@ private:
 
 } // namespace
 
-std::vector<Occurrence> occurrences(const platform::Recording& recording,
-                                    platform::SurfaceId surface, const TextMetrics& metrics,
-                                    const FoundWords& sought) {
+std::vector<Occurrence> occurrences(const page::Recording& recording, page::SurfaceId surface,
+                                    const TextMetrics& metrics, const FoundWords& sought) {
     std::vector<Occurrence> found;
     const std::vector<QString> words = foldedWords(sought);
     if (words.empty())
         return found;
-    const platform::TextLines text(recording, surface, [&](const auto& link) {
-        return platform::captionLines(link, metrics);
-    });
+    const page::TextLines text(recording, surface,
+                               [&](const auto& link) { return page::captionLines(link, metrics); });
     qsizetype left = kMaxSearchedText;
     Ruler ruler(metrics);
     for (const TextLine& line : text.lines()) {

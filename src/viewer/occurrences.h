@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/recording.h"
-#include "platform/text_metrics.h"
+#include "page/recording.h"
+#include "page/text_metrics.h"
 #include "viewer/found_words.h"
 
 #include <QRectF>
@@ -36,8 +36,7 @@ inline constexpr std::size_t kMaxSoughtWords = 100;
 /// typographic apostrophes, no-break spaces and the like match the plain ones of a keyboard, and
 /// the codes of the sign faces are the signs they show. The metrics are those the page was drawn
 /// with.
-std::vector<Occurrence> occurrences(const platform::Recording& recording,
-                                    platform::SurfaceId surface,
-                                    const platform::TextMetrics& metrics, const FoundWords& sought);
+std::vector<Occurrence> occurrences(const page::Recording& recording, page::SurfaceId surface,
+                                    const page::TextMetrics& metrics, const FoundWords& sought);
 
 } // namespace viewer

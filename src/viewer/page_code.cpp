@@ -1,6 +1,6 @@
 #include "viewer/page_code.h"
 
-#include "platform/numbers.h"
+#include "page/numbers.h"
 
 #include <cstdlib>
 
@@ -17,7 +17,7 @@ QStringView codePrefix(QStringView code) {
 }
 
 double codeArgument(QStringView code) {
-    return platform::leadingNumber(code.last(qMin<qsizetype>(3, code.size())));
+    return page::leadingNumber(code.last(qMin<qsizetype>(3, code.size())));
 }
 
 } // namespace viewer

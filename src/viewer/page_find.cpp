@@ -17,8 +17,8 @@ FoundWords typedWords(const QString& typed) {
     return {{text}, !hasAccent};
 }
 
-void PageFind::search(FoundWords sought, const platform::Recording& recording,
-                      const platform::TextMetrics& metrics, const std::vector<Part>& parts,
+void PageFind::search(FoundWords sought, const page::Recording& recording,
+                      const page::TextMetrics& metrics, const std::vector<Part>& parts,
                       const Place& from) {
     forgetPage();
     sought_ = std::move(sought);

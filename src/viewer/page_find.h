@@ -21,7 +21,7 @@ class PageFind {
 public:
     /// Text is searched on the surfaces in this order, each as far as this much of it can be seen.
     struct Part {
-        platform::SurfaceId surface;
+        page::SurfaceId surface;
         QRectF seen; ///< twips
     };
 
@@ -41,8 +41,8 @@ public:
 
     /// Looks for the words anew; the first at or behind `from` becomes current, from the end on
     /// the very first.
-    void search(FoundWords sought, const platform::Recording& recording,
-                const platform::TextMetrics& metrics, const std::vector<Part>& parts,
+    void search(FoundWords sought, const page::Recording& recording,
+                const page::TextMetrics& metrics, const std::vector<Part>& parts,
                 const Place& from);
     /// Looks for nothing.
     void clear();

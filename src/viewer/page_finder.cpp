@@ -1,9 +1,9 @@
 #include "viewer/page_finder.h"
 
-#include "platform/twips.h"
+#include "look/page_panel.h"
+#include "look/picture_box.h"
+#include "page/twips.h"
 #include "viewer/find_bar.h"
-#include "viewer/page_panel.h"
-#include "viewer/picture_box.h"
 
 #include <limits>
 
@@ -11,7 +11,7 @@ namespace viewer {
 
 namespace {
 
-using platform::kTwipsPerPixel;
+using page::kTwipsPerPixel;
 
 /// Page around the current occurrence that comes into view with it: a line of running text.
 constexpr int kAroundPx = 22;
@@ -21,7 +21,7 @@ QRectF scaled(const QRectF& rect, double factor) {
 }
 
 /// What of a surface can be seen, in twips on it.
-QRectF seen(const PictureBox& box) {
+QRectF seen(const look::PictureBox& box) {
     const QRect area = box.shownArea();
     return scaled(area.translated(-box.inset(), -box.inset()), kTwipsPerPixel);
 }
@@ -105,7 +105,7 @@ void PageFinder::pageStands() {
 
 void PageFinder::search(const FoundWords& words, const PageFind::Place& from) {
     std::vector<PageFind::Part> parts;
-    for (const PictureBox* box : stage_.boxes)
+    for (const look::PictureBox* box : stage_.boxes)
         parts.push_back({box->surfaceId(), seen(*box)});
     find_.search(words, stage_.recording, stage_.metrics, parts, from);
     showMarks();
@@ -132,7 +132,7 @@ PageFind::Place PageFinder::placeInView() const {
 
 void PageFinder::showMarks() {
     for (std::size_t part = 0; part < stage_.boxes.size(); ++part) {
-        PictureBox::Marks marks;
+        look::PictureBox::Marks marks;
         for (std::size_t index = 0; index < find_.found().size(); ++index)
             if (const PageFind::Found& one = find_.found()[index]; one.place.part == part) {
                 const QRectF area = scaled(one.area, 1 / kTwipsPerPixel);

@@ -1,16 +1,19 @@
 #pragma once
 
-#include "platform/recording.h"
-#include "platform/text_metrics.h"
+#include "page/recording.h"
+#include "page/text_metrics.h"
 #include "viewer/page_find.h"
 
 #include <array>
 
+namespace look {
+class PagePanel;
+class PictureBox;
+} // namespace look
+
 namespace viewer {
 
 class FindBar;
-class PagePanel;
-class PictureBox;
 
 /// The search in the page shown, with its marks on the areas of the window and its bar at the foot
 /// of the page. What is searched is what the page wrote: its text, then its illustration, then the
@@ -19,10 +22,10 @@ class PageFinder {
 public:
     struct Stage {
         FindBar& bar;
-        PagePanel& panel;
-        std::array<PictureBox*, 3> boxes; ///< in the order they are searched; the page first
-        const platform::Recording& recording;
-        const platform::TextMetrics& metrics;
+        look::PagePanel& panel;
+        std::array<look::PictureBox*, 3> boxes; ///< in the order they are searched; the page first
+        const page::Recording& recording;
+        const page::TextMetrics& metrics;
     };
     /// All must outlive it.
     explicit PageFinder(const Stage& stage);

@@ -1,17 +1,17 @@
 #include "viewer/page_loader.h"
 
-#include "platform/numbers.h"
+#include "page/numbers.h"
 #include "text/rounding.h"
 #include "viewer/page_code.h"
 
 namespace viewer {
 
-PageLoader::PageLoader(shell::SharedState& state, BoundRecord& bound, PageView& view,
+PageLoader::PageLoader(shell::SharedState& state, coursedata::BoundRecord& bound, PageView& view,
                        markup::SourceWindow& source, markup::Renderer& renderer, VideoDevice& video)
     : state_(state), bound_(bound), view_(view), source_(source), renderer_(renderer),
       video_(video), history_(state) {}
 
-void PageLoader::bindTo(platform::Recordset& records) {
+void PageLoader::bindTo(coursedata::Recordset& records) {
     records_ = &records;
     moveTo(0);
 }
@@ -22,7 +22,7 @@ void PageLoader::moveTo(int position) {
 }
 
 void PageLoader::takeOverOrderIndex() {
-    if (const auto index = text::toInt32(platform::leadingNumber(bound_.TextIndex)))
+    if (const auto index = text::toInt32(page::leadingNumber(bound_.TextIndex)))
         state_.CurrentOrderIndex = *index;
 }
 
@@ -50,7 +50,7 @@ void PageLoader::freeLinks() {
 
 void PageLoader::recordVisit() {
     if (state_.HistoryRecording) {
-        if (const auto page = text::toInt16(platform::leadingNumber(bound_.TextID)))
+        if (const auto page = text::toInt16(page::leadingNumber(bound_.TextID)))
             history_.record(*page);
         view_.setForwardEnabled(false);
     }
@@ -77,7 +77,7 @@ void PageLoader::showButtons() {
     view_.setChapterButtons(bound_.Checkpre, bound_.Checksui);
     view_.setPrintable(bound_.Checkimp);
     const auto field = records_ ? records_->field(QStringLiteral("sommaire")) : std::nullopt;
-    const int summary = qMax(1, text::toInt32(platform::fieldNumber(field)).value_or(1));
+    const int summary = qMax(1, text::toInt32(coursedata::fieldNumber(field)).value_or(1));
     view_.setSummary(pageCode(summary),
                      summary == 1 ? QStringLiteral("Accueil") : QStringLiteral("Sommaire"));
 }

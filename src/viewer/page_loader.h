@@ -1,9 +1,9 @@
 #pragma once
 
+#include "coursedata/bound_record.h"
+#include "coursedata/recordset.h"
 #include "markup/renderer.h"
-#include "platform/recordset.h"
 #include "shell/shared_state.h"
-#include "viewer/bound_record.h"
 #include "viewer/history.h"
 #include "viewer/neighbours.h"
 #include "viewer/page_view.h"
@@ -13,14 +13,14 @@ namespace viewer {
 /// Shows the record that is current, from the emptied page area to the buttons that fit the page.
 class PageLoader {
 public:
-    PageLoader(shell::SharedState& state, BoundRecord& bound, PageView& view,
+    PageLoader(shell::SharedState& state, coursedata::BoundRecord& bound, PageView& view,
                markup::SourceWindow& source, markup::Renderer& renderer, VideoDevice& video);
 
     /// The table "cours", once it is open; its first record becomes current. Without it (the
     /// database could not be opened) pages show nothing.
-    void bindTo(platform::Recordset& records);
+    void bindTo(coursedata::Recordset& records);
     /// Null before bindTo().
-    const platform::Recordset* records() const { return records_; }
+    const coursedata::Recordset* records() const { return records_; }
 
     /// Position of the current record, from 0; -1 when there is none.
     int position() const { return records_ ? records_->absolutePosition() : -1; }
@@ -38,8 +38,8 @@ private:
     void showButtons();
 
     shell::SharedState& state_;
-    platform::Recordset* records_ = nullptr;
-    BoundRecord& bound_;
+    coursedata::Recordset* records_ = nullptr;
+    coursedata::BoundRecord& bound_;
     PageView& view_;
     markup::SourceWindow& source_;
     markup::Renderer& renderer_;

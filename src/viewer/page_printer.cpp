@@ -1,12 +1,12 @@
 #include "viewer/page_printer.h"
 
-#include "platform/numbers.h"
-#include "platform/twips.h"
+#include "coursedata/page_index.h"
+#include "look/surface_widths.h"
+#include "page/numbers.h"
+#include "page/twips.h"
 #include "text/number_text.h"
 #include "text/rounding.h"
-#include "viewer/page_index.h"
 #include "viewer/paper_layout.h"
-#include "viewer/surface_widths.h"
 
 #include <algorithm>
 #include <tuple>
@@ -29,7 +29,7 @@ QString pageMention(int count) {
 }
 
 std::int32_t pageNumber(const QString& field) {
-    return text::toInt32(platform::leadingNumber(field)).value_or(0);
+    return text::toInt32(page::leadingNumber(field)).value_or(0);
 }
 
 } // namespace
@@ -48,7 +48,8 @@ void PagePrinter::makeCurrent(int position) {
 
 void PagePrinter::makeCurrentByNumber(std::int64_t number) {
     // Outside the table the record before stays current and is printed again, meant so.
-    const auto position = positionInPrint(parts_.state, static_cast<std::int32_t>(number));
+    const auto position =
+        coursedata::positionInPrint(parts_.state, static_cast<std::int32_t>(number));
     makeCurrent(position.value_or(-1));
 }
 
@@ -76,11 +77,11 @@ PrintRun PagePrinter::imprimepage() {
 }
 
 bool PagePrinter::printPage(const QString& footer, bool& isStopped) {
-    platform::Recording drawing;
+    page::Recording drawing;
     // The footer is in the letters that the page ended with, meant so.
     const Footer line{footer, drawOnPaper(drawing)};
     bool isPrinted = true;
-    std::vector<platform::Sheet> sheets =
+    std::vector<page::Sheet> sheets =
         layOnPaper(drawing, line, parts_.printer.paper(), parts_.metrics);
     for (std::size_t i = 0; i < sheets.size() && !isStopped; ++i) {
         sheets[i].title = parts_.bound.Textitre;
@@ -92,9 +93,9 @@ bool PagePrinter::printPage(const QString& footer, bool& isStopped) {
     return isPrinted;
 }
 
-platform::Font PagePrinter::drawOnPaper(platform::Recording& drawing) {
-    platform::Surface paper(platform::SurfaceId::Printer, kPageWidthPx * platform::kTwipsPerPixel,
-                            parts_.metrics, drawing);
+page::Font PagePrinter::drawOnPaper(page::Recording& drawing) {
+    page::Surface paper(page::SurfaceId::Printer, look::kPageWidthPx * page::kTwipsPerPixel,
+                        parts_.metrics, drawing);
     // The renderer of the screen would note in the recording of the page shown what fails here.
     markup::DrawingState& state = parts_.drawing;
     markup::Renderer renderer(state, parts_.window, parts_.pictures, drawing);

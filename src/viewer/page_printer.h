@@ -1,9 +1,9 @@
 #pragma once
 
+#include "coursedata/bound_record.h"
 #include "markup/renderer.h"
 #include "platform/printer.h"
 #include "shell/shared_state.h"
-#include "viewer/bound_record.h"
 #include "viewer/page_loader.h"
 #include "viewer/page_view.h"
 
@@ -31,14 +31,14 @@ class PagePrinter {
 public:
     struct Parts {
         shell::SharedState& state;
-        BoundRecord& bound;
+        coursedata::BoundRecord& bound;
         PageLoader& pages;
         PageView& view;
         markup::DrawingState& drawing;
         markup::PageWindow& window;
         markup::SourceWindow& source;
         markup::PictureShelf& pictures;
-        const platform::TextMetrics& metrics;
+        const page::TextMetrics& metrics;
         platform::Printer& printer;
         /// Whether no further sheet is wanted; asked after each. May be empty.
         std::function<bool()> isStopped;
@@ -61,7 +61,7 @@ private:
     void makeCurrent(int position);
     void makeCurrentByNumber(std::int64_t number);
     /// Draws the current record.
-    platform::Font drawOnPaper(platform::Recording& drawing);
+    page::Font drawOnPaper(page::Recording& drawing);
     /// The sheets of the current record; false when one of them is missing. `isStopped` is set when
     /// no more are to follow.
     bool printPage(const QString& footer, bool& isStopped);

@@ -1,7 +1,7 @@
 #include "viewer/page_sheet.h"
 
-#include "platform/twips.h"
-#include "viewer/surface_widths.h"
+#include "look/surface_widths.h"
+#include "page/twips.h"
 
 #include <algorithm>
 
@@ -21,32 +21,32 @@ constexpr int kIllustrationHeightPx = 358;
 constexpr int kColumnTopPx = 56;
 constexpr int kMarginPx = 16;
 
-platform::PlacedSurface placed(platform::SurfaceId surface, double x, double y, double width,
-                               double height) {
-    using platform::kTwipsPerPixel;
+page::PlacedSurface placed(page::SurfaceId surface, double x, double y, double width,
+                           double height) {
+    using page::kTwipsPerPixel;
     return {surface, x * kTwipsPerPixel, y * kTwipsPerPixel, width * kTwipsPerPixel,
             height * kTwipsPerPixel};
 }
 
 } // namespace
 
-platform::Sheet pageSheet(const platform::Recording& recording,
-                          const platform::TextMetrics& metrics, double columnHeight) {
-    using platform::SurfaceId;
-    const double columnPx = columnHeight / platform::kTwipsPerPixel;
+page::Sheet pageSheet(const page::Recording& recording, const page::TextMetrics& metrics,
+                      double columnHeight) {
+    using page::SurfaceId;
+    const double columnPx = columnHeight / page::kTwipsPerPixel;
     const double heightPx =
         std::max<double>(kColumnTopPx + columnPx, kIllustrationTopPx + kIllustrationHeightPx) +
         kMarginPx;
-    platform::Sheet sheet;
-    sheet.width = kWidthPx * platform::kTwipsPerPixel;
-    sheet.height = heightPx * platform::kTwipsPerPixel;
+    page::Sheet sheet;
+    sheet.width = kWidthPx * page::kTwipsPerPixel;
+    sheet.height = heightPx * page::kTwipsPerPixel;
     sheet.surfaces = {
-        placed(SurfaceId::Titre, kTitleLeftPx, kTitleTopPx, kTitleWidthPx, kTitleHeightPx),
+        placed(SurfaceId::Titre, kTitleLeftPx, kTitleTopPx, look::kTitleWidthPx, kTitleHeightPx),
         placed(SurfaceId::PictureIllus, kIllustrationLeftPx, kIllustrationTopPx,
-               kIllustrationWidthPx, kIllustrationHeightPx),
-        placed(SurfaceId::PictureTexte, kTitleLeftPx, kColumnTopPx, kPageWidthPx, columnPx),
+               look::kIllustrationWidthPx, kIllustrationHeightPx),
+        placed(SurfaceId::PictureTexte, kTitleLeftPx, kColumnTopPx, look::kPageWidthPx, columnPx),
     };
-    platform::putOnSheet(recording, metrics, sheet);
+    page::putOnSheet(recording, metrics, sheet);
     return sheet;
 }
 

@@ -1,14 +1,14 @@
 #pragma once
 
-#include "platform/recording.h"
-#include "platform/sheet.h"
-#include "platform/text_metrics.h"
+#include "page/recording.h"
+#include "page/sheet.h"
+#include "page/text_metrics.h"
 
 namespace viewer {
 
 /// The sheet of a course page: title, illustration and text column stand to each other as in the
 /// main window; the column has its full height. `columnHeight` in twips.
-platform::Sheet pageSheet(const platform::Recording& recording,
-                          const platform::TextMetrics& metrics, double columnHeight);
+page::Sheet pageSheet(const page::Recording& recording, const page::TextMetrics& metrics,
+                      double columnHeight);
 
 } // namespace viewer

@@ -1,6 +1,6 @@
 #include "viewer/page_title.h"
 
-#include "platform/twips.h"
+#include "page/twips.h"
 
 namespace viewer {
 
@@ -21,8 +21,7 @@ constexpr qsizetype kMostCharacters = 300;
 
 } // namespace
 
-QString drawPageTitle(platform::Surface& band, const platform::TextMetrics& metrics,
-                      const QString& title) {
+QString drawPageTitle(page::Surface& band, const page::TextMetrics& metrics, const QString& title) {
     band.setFace(QStringLiteral("Arial"));
     band.setBold(true);
     band.setItalic(false);
@@ -36,7 +35,7 @@ QString drawPageTitle(platform::Surface& band, const platform::TextMetrics& metr
     while (!shown.isEmpty() && band.textWidth(shown) > band.scaleWidth())
         shown = title.first(shown.size() - (shown == title ? 1 : 2)).trimmed() + u'…';
     band.setPenX(0);
-    band.setPenY(kTitleFootPx * platform::kTwipsPerPixel - metrics.ascent(band.font()));
+    band.setPenY(kTitleFootPx * page::kTwipsPerPixel - metrics.ascent(band.font()));
     band.print(shown);
     return shown;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/surface.h"
-#include "platform/text_metrics.h"
+#include "page/surface.h"
+#include "page/text_metrics.h"
 
 #include <QString>
 
@@ -9,7 +9,6 @@ namespace viewer {
 
 /// Writes a page's title on the emptied title band and returns what was written. A long title is
 /// written smaller; one too long even so ends in an ellipsis.
-QString drawPageTitle(platform::Surface& band, const platform::TextMetrics& metrics,
-                      const QString& title);
+QString drawPageTitle(page::Surface& band, const page::TextMetrics& metrics, const QString& title);
 
 } // namespace viewer

@@ -7,7 +7,7 @@ namespace viewer {
 using Command = platform::Video::Command;
 
 PageVideo::PageVideo(shell::SharedState& state, const markup::DrawingState& drawing,
-                     shell::DataLocation& location, VideoView& view, DeviceMaker makeDevice)
+                     coursedata::DataLocation& location, VideoView& view, DeviceMaker makeDevice)
     : state_(state), drawing_(drawing), location_(location), view_(view),
       makeDevice_(std::move(makeDevice)) {}
 

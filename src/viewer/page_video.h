@@ -1,8 +1,8 @@
 #pragma once
 
+#include "coursedata/data_location.h"
 #include "markup/drawing_state.h"
 #include "platform/video.h"
-#include "shell/data_location.h"
 #include "shell/shared_state.h"
 #include "viewer/neighbours.h"
 #include "viewer/video_view.h"
@@ -27,7 +27,7 @@ public:
 
     /// The page's video is the one that `drawing` names.
     PageVideo(shell::SharedState& state, const markup::DrawingState& drawing,
-              shell::DataLocation& location, VideoView& view, DeviceMaker makeDevice);
+              coursedata::DataLocation& location, VideoView& view, DeviceMaker makeDevice);
 
     // VideoDevice
     void close() override;
@@ -49,7 +49,7 @@ private:
 
     shell::SharedState& state_;
     const markup::DrawingState& drawing_;
-    shell::DataLocation& location_;
+    coursedata::DataLocation& location_;
     VideoView& view_;
     DeviceMaker makeDevice_;
     std::unique_ptr<platform::Video> MMControl1_;

@@ -1,8 +1,8 @@
 #include "viewer/paper_layout.h"
 
-#include "platform/surface.h"
-#include "platform/twips.h"
-#include "viewer/surface_widths.h"
+#include "look/surface_widths.h"
+#include "page/surface.h"
+#include "page/twips.h"
 
 #include <algorithm>
 #include <cmath>
@@ -14,12 +14,12 @@ namespace viewer {
 
 namespace {
 
-using platform::kTwipsPerPixel;
+using page::kTwipsPerPixel;
 
-constexpr double kColumn = kPageWidthPx * kTwipsPerPixel;
+constexpr double kColumn = look::kPageWidthPx * kTwipsPerPixel;
 
 /// The lowest place that is printed, as on screen: a few characters of source reach any height.
-constexpr double kLowest = platform::kMaxSurfaceHeightPx * kTwipsPerPixel;
+constexpr double kLowest = page::kMaxSurfaceHeightPx * kTwipsPerPixel;
 
 /// Largest part of a sheet that a footer in huge letters keeps for itself.
 constexpr double kFooterShare = 0.25;
@@ -58,22 +58,22 @@ struct Extent {
 };
 
 struct ExtentOf {
-    const platform::TextMetrics& metrics;
+    const page::TextMetrics& metrics;
 
-    std::optional<Extent> operator()(const platform::TextOperation& text) const {
+    std::optional<Extent> operator()(const page::TextOperation& text) const {
         if (text.text.trimmed().isEmpty() && !text.font.underline)
             return std::nullopt;
         return Extent{text.y, text.y + metrics.height(text.font), Extent::Kind::Text,
                       text.font.bold};
     }
-    std::optional<Extent> operator()(const platform::LineOperation& line) const {
+    std::optional<Extent> operator()(const page::LineOperation& line) const {
         const auto [top, bottom] = std::minmax(line.y1, line.y2);
         return Extent{top, bottom + line.lineWidth * kTwipsPerPixel, Extent::Kind::Ground};
     }
-    std::optional<Extent> operator()(const platform::FillOperation& fill) const {
+    std::optional<Extent> operator()(const page::FillOperation& fill) const {
         return Extent{fill.y, fill.y + fill.height, Extent::Kind::Ground};
     }
-    std::optional<Extent> operator()(const platform::PictureOperation& picture) const {
+    std::optional<Extent> operator()(const page::PictureOperation& picture) const {
         return Extent{picture.y, picture.y + picture.height, Extent::Kind::Drawing};
     }
     template <class Other>
@@ -82,7 +82,7 @@ struct ExtentOf {
     }
 };
 
-platform::Operation moved(platform::Operation operation, double right, double down) {
+page::Operation moved(page::Operation operation, double right, double down) {
     std::visit(
         [=](auto& drawn) {
             if constexpr (requires { drawn.x1; }) {
@@ -100,7 +100,7 @@ platform::Operation moved(platform::Operation operation, double right, double do
 }
 
 /// A footer wider than the paper, in the large letters that a page ended with, becomes smaller.
-Footer fitted(Footer footer, double width, const platform::TextMetrics& metrics) {
+Footer fitted(Footer footer, double width, const page::TextMetrics& metrics) {
     while (footer.font.points > 1 && metrics.width(footer.font, footer.text) > width)
         footer.font.points = std::floor(footer.font.points - 1);
     return footer;
@@ -110,16 +110,16 @@ Footer fitted(Footer footer, double width, const platform::TextMetrics& metrics)
 class Layout {
 public:
     /// Sheets are laid out at least `enlargement` times as large as the paper, 1 or more.
-    Layout(const platform::Recording& drawing, const Footer& footer, const platform::Paper& paper,
-           const platform::TextMetrics& metrics, double enlargement = 1)
+    Layout(const page::Recording& drawing, const Footer& footer, const platform::Paper& paper,
+           const page::TextMetrics& metrics, double enlargement = 1)
         : paper_(paper), metrics_(metrics),
           enlargement_(std::max(enlargement, kColumn / std::max(1.0, paper.printableWidth))),
           width_(paper.printableWidth * enlargement_),
           height_(std::max(kLeastHeight, paper.printableHeight * enlargement_)),
           footer_(fitted(footer, width_, metrics)), footerHeight_(metrics.height(footer_.font)),
           room_(height_ - std::min(2.5 * footerHeight_, kFooterShare * height_)) {
-        platform::putOnSheet(drawing, metrics, page_);
-        for (const platform::Operation& operation : page_.operations)
+        page::putOnSheet(drawing, metrics, page_);
+        for (const page::Operation& operation : page_.operations)
             measure(operation);
         std::sort(byTop_.begin(), byTop_.end(),
                   [](const Extent& a, const Extent& b) { return a.innerTop() > b.innerTop(); });
@@ -131,8 +131,8 @@ public:
         return room_ >= lowest_ ? 1 : (lowest_ + height_ - room_) / paper_.printableHeight;
     }
 
-    std::vector<platform::Sheet> sheets() {
-        std::vector<platform::Sheet> sheets;
+    std::vector<page::Sheet> sheets() {
+        std::vector<page::Sheet> sheets;
         double from = 0;
         do {
             const double start = origin(from);
@@ -147,7 +147,7 @@ public:
 private:
     static constexpr double kEndless = std::numeric_limits<double>::infinity();
 
-    void measure(const platform::Operation& operation) {
+    void measure(const page::Operation& operation) {
         extents_.push_back(std::visit(ExtentOf{metrics_}, operation));
         std::optional<Extent>& extent = extents_.back();
         // Neither what lies beyond the page's ends nor what has no height shows.
@@ -219,11 +219,11 @@ private:
     }
 
     /// Shows what lies between two cuts.
-    platform::Sheet sheet(double from, double start, double end) const {
-        platform::Sheet sheet;
+    page::Sheet sheet(double from, double start, double end) const {
+        page::Sheet sheet;
         sheet.width = paper_.width * enlargement_;
         sheet.height = paper_.height * enlargement_;
-        sheet.surfaces = {{platform::SurfaceId::Printer, paper_.left * enlargement_,
+        sheet.surfaces = {{page::SurfaceId::Printer, paper_.left * enlargement_,
                            paper_.top * enlargement_, width_, height_}};
         bool isCutThrough = false;
         for (std::size_t i = 0; i < extents_.size(); ++i) {
@@ -235,28 +235,28 @@ private:
         }
         // What goes on on the next sheet does not run through the foot of this one.
         if (isCutThrough)
-            sheet.operations.emplace_back(platform::FillOperation{
-                platform::SurfaceId::Printer, 0, end - start, width_, height_ - (end - start),
-                0xffffffff, platform::FillMode::Copy});
+            sheet.operations.emplace_back(
+                page::FillOperation{page::SurfaceId::Printer, 0, end - start, width_,
+                                    height_ - (end - start), 0xffffffff, page::FillMode::Copy});
         return sheet;
     }
 
-    void addFooter(platform::Sheet& sheet) const {
+    void addFooter(page::Sheet& sheet) const {
         const double width = metrics_.width(footer_.font, footer_.text);
-        sheet.operations.emplace_back(platform::TextOperation{
-            platform::SurfaceId::Printer, (width_ - width) / 2, height_ - 2 * footerHeight_,
+        sheet.operations.emplace_back(page::TextOperation{
+            page::SurfaceId::Printer, (width_ - width) / 2, height_ - 2 * footerHeight_,
             footer_.text, footer_.font, 0xff000000, width});
     }
 
     const platform::Paper& paper_;
-    const platform::TextMetrics& metrics_;
+    const page::TextMetrics& metrics_;
     double enlargement_;
     double width_;  ///< of the printable part, as laid out
     double height_; ///< of the printable part, as laid out
     Footer footer_;
     double footerHeight_;
     double room_; ///< height above the footer
-    platform::Sheet page_{};
+    page::Sheet page_{};
     std::vector<std::optional<Extent>> extents_; ///< one for each operation of the page
     std::vector<Extent> byTop_;                  ///< those that show, the lowest first
     double lowest_ = 0;
@@ -264,9 +264,9 @@ private:
 
 } // namespace
 
-std::vector<platform::Sheet> layOnPaper(const platform::Recording& drawing, const Footer& footer,
-                                        const platform::Paper& paper,
-                                        const platform::TextMetrics& metrics) {
+std::vector<page::Sheet> layOnPaper(const page::Recording& drawing, const Footer& footer,
+                                    const platform::Paper& paper,
+                                    const page::TextMetrics& metrics) {
     Layout layout(drawing, footer, paper, metrics);
     const double wanted = layout.enlargementForOneSheet();
     if (wanted > 1 && wanted <= kMostReduction)

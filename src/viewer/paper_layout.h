@@ -1,8 +1,8 @@
 #pragma once
 
+#include "page/sheet.h"
+#include "page/text_metrics.h"
 #include "platform/printer.h"
-#include "platform/sheet.h"
-#include "platform/text_metrics.h"
 
 #include <vector>
 
@@ -11,7 +11,7 @@ namespace viewer {
 /// The line at the foot of a printed page of the course.
 struct Footer {
     QString text;
-    platform::Font font;
+    page::Font font;
 };
 
 /// The sheets of paper that a page of the course takes. Its column of 600 pixels stands in the
@@ -24,8 +24,7 @@ struct Footer {
 /// sign would be; what is taller than a sheet by itself shows in part on each. The footer stands on
 /// the last sheet, in smaller letters when it is wider than the paper. Room for it is kept on every
 /// sheet.
-std::vector<platform::Sheet> layOnPaper(const platform::Recording& drawing, const Footer& footer,
-                                        const platform::Paper& paper,
-                                        const platform::TextMetrics& metrics);
+std::vector<page::Sheet> layOnPaper(const page::Recording& drawing, const Footer& footer,
+                                    const platform::Paper& paper, const page::TextMetrics& metrics);
 
 } // namespace viewer

@@ -1,10 +1,10 @@
 #include "viewer/rail.h"
 
-#include "platform/qt/look/button.h"
-#include "platform/qt/look/interface_font.h"
-#include "platform/qt/look/palette.h"
-#include "platform/qt/look/tool_tip.h"
-#include "viewer/picture_box.h"
+#include "look/button.h"
+#include "look/interface_font.h"
+#include "look/palette.h"
+#include "look/picture_box.h"
+#include "look/tool_tip.h"
 
 #include <QLabel>
 #include <QPainter>
@@ -13,7 +13,7 @@ namespace viewer {
 
 namespace {
 
-using platform::look::Button;
+using look::Button;
 
 // From the rail's top left corner, which is at 8,72 of the window, at its full height.
 constexpr int kHeight = 520;
@@ -31,7 +31,7 @@ Button* addHistoryButton(const QString& name, const QString& caption, const QStr
         caption, {.kind = Button::Kind::Ordinary, .icon = icon, .place = Button::IconPlace::Top},
         parent);
     button->setObjectName(name);
-    platform::look::setToolTip(*button, toolTip);
+    look::setToolTip(*button, toolTip);
     button->setAccessibleDescription(toolTip);
     button->setEnabled(false);
     return button;
@@ -44,7 +44,7 @@ Rail::Rail(QWidget* parent) : QWidget(parent) {
     auto* btexo = new Button(words,
                              {.kind = Button::Kind::Main,
                               .icon = QStringLiteral("back-to-test"),
-                              .weight = platform::look::Weight::Bold},
+                              .weight = look::Weight::Bold},
                              this);
     btexo->setObjectName(QStringLiteral("btexo"));
     btexo_ = btexo;
@@ -65,7 +65,7 @@ Rail::Rail(QWidget* parent) : QWidget(parent) {
                               QStringLiteral("Page suivante"), QStringLiteral("next-page"), this);
 }
 
-void Rail::setIllustration(PictureBox* illustration) {
+void Rail::setIllustration(look::PictureBox* illustration) {
     illustration->setParent(this);
     illustration->setInset(1);
     illustration_ = illustration;
@@ -86,7 +86,7 @@ void Rail::place(const QRect& rectangle) {
 }
 
 void Rail::paintEvent(QPaintEvent*) {
-    using namespace platform::look;
+    using namespace look;
     QPainter painter(this);
     mark_.paint(painter, kMark, Icon::Style::Coloured);
     painter.setPen(QColor::fromRgb(kBlue));

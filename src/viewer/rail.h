@@ -1,12 +1,14 @@
 #pragma once
 
-#include "platform/qt/look/icon.h"
+#include "look/icon.h"
 
 #include <QWidget>
 
-namespace viewer {
-
+namespace look {
 class PictureBox;
+}
+
+namespace viewer {
 
 /// The left side of the main window: the program's mark, the illustration area, the button back to
 /// the test (`btexo`, with `Label16` over its words), and the history buttons `avant` and `apres`.
@@ -16,7 +18,7 @@ public:
     explicit Rail(QWidget* parent);
 
     /// Takes the illustration area in.
-    void setIllustration(PictureBox* illustration);
+    void setIllustration(look::PictureBox* illustration);
 
     /// Stands there from now on; to be called once the illustration area is in.
     void place(const QRect& rectangle);
@@ -27,7 +29,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    platform::look::Icon mark_{QStringLiteral("orvalente")};
+    look::Icon mark_{QStringLiteral("orvalente")};
     QWidget* illustration_ = nullptr;
     QWidget* avant_;
     QWidget* apres_;

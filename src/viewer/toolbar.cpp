@@ -1,9 +1,9 @@
 #include "viewer/toolbar.h"
 
-#include "platform/qt/look/button.h"
-#include "platform/qt/look/palette.h"
-#include "platform/qt/look/pixels.h"
-#include "platform/qt/look/tool_tip.h"
+#include "look/button.h"
+#include "look/palette.h"
+#include "look/pixels.h"
+#include "look/tool_tip.h"
 
 #include <QPainter>
 
@@ -13,7 +13,7 @@ namespace viewer {
 
 namespace {
 
-using platform::look::Button;
+using look::Button;
 
 constexpr int kTop = 4;
 constexpr QSize kButton(64, 56);
@@ -56,7 +56,7 @@ Toolbar::Toolbar(QWidget* parent) : QWidget(parent) {
                                    .place = Button::IconPlace::Top},
                                   this);
         button->setObjectName(QString::fromLatin1(row.name));
-        platform::look::setToolTip(*button, QString::fromUtf8(row.toolTip));
+        look::setToolTip(*button, QString::fromUtf8(row.toolTip));
         button->setAccessibleDescription(button->toolTip());
         button->setGeometry(QRect(QPoint(row.x, kTop), kButton));
     }
@@ -64,8 +64,8 @@ Toolbar::Toolbar(QWidget* parent) : QWidget(parent) {
 
 void Toolbar::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const double line = platform::look::crisp(painter);
-    const QColor ink = QColor::fromRgb(platform::look::kRule);
+    const double line = look::crisp(painter);
+    const QColor ink = QColor::fromRgb(look::kRule);
     painter.fillRect(QRectF(0, kRuleY, width(), line), ink);
     for (const double x : kSeparators)
         painter.fillRect(QRectF(x, kSeparatorTop, line, kSeparatorHeight), ink);

@@ -1,11 +1,11 @@
 #include "viewer/video_frame.h"
 
-#include "platform/qt/look/button.h"
-#include "platform/qt/look/interface_font.h"
-#include "platform/qt/look/palette.h"
-#include "platform/qt/look/pixels.h"
-#include "platform/qt/look/tool_tip.h"
-#include "platform/twips.h"
+#include "look/button.h"
+#include "look/interface_font.h"
+#include "look/palette.h"
+#include "look/pixels.h"
+#include "look/tool_tip.h"
+#include "page/twips.h"
 
 #include <QCursor>
 #include <QKeyEvent>
@@ -17,7 +17,7 @@ namespace viewer {
 
 namespace {
 
-using platform::look::Button;
+using look::Button;
 
 constexpr QRect kPicture(8, 8, 320, 240);
 constexpr QSize kButton(31, 32);
@@ -74,7 +74,7 @@ void VideoFrame::addButtons() {
         auto* button = new Button(
             {}, {.kind = Button::Kind::Toolbar, .icon = QString::fromLatin1(row.icon)}, buttons_);
         button->setObjectName(QStringLiteral("Image4_%1").arg(row.index));
-        platform::look::setToolTip(*button, QString::fromUtf8(row.toolTip));
+        look::setToolTip(*button, QString::fromUtf8(row.toolTip));
         button->setAccessibleName(button->toolTip());
         button->setGeometry(QRect(QPoint(x, 0), kButton));
         connect(button, &QPushButton::clicked, this, [this, index = row.index] { press(index); });
@@ -91,7 +91,7 @@ void VideoFrame::setOpen(bool open) {
 }
 
 void VideoFrame::setMarkerWidth(double twips) {
-    markerPx_ = qBound(0.0, twips / platform::kTwipsPerPixel, kMarker.width());
+    markerPx_ = qBound(0.0, twips / page::kTwipsPerPixel, kMarker.width());
     update();
 }
 
@@ -163,7 +163,7 @@ bool VideoFrame::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void VideoFrame::paintEvent(QPaintEvent*) {
-    using namespace platform::look;
+    using namespace look;
     QPainter painter(this);
     drawFrame(painter, rect(), 0, hasFocus() ? kBlue : kRule, QColor::fromRgb(kPaper),
               hasFocus() ? 2 : 1);
@@ -187,7 +187,7 @@ void VideoFrame::paintEvent(QPaintEvent*) {
 }
 
 void VideoFrame::paintMarker(QPainter& painter) const {
-    using namespace platform::look;
+    using namespace look;
     QRectF marker(QPointF(kButtonsLeft, height() - kMarkerAbove), kMarker);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/qt/look/icon.h"
+#include "look/icon.h"
 #include "viewer/video_picture.h"
 
 #include <QWidget>
@@ -45,7 +45,7 @@ private:
     void paintMarker(QPainter& painter) const;
 
     std::function<void(int)> pressed_;
-    platform::look::Icon sign_{QStringLiteral("video")};
+    look::Icon sign_{QStringLiteral("video")};
     VideoPicture* projo_;
     QWidget* buttons_;
     bool open_ = false;

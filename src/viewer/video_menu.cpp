@@ -1,6 +1,6 @@
 #include "viewer/video_menu.h"
 
-#include "platform/numbers.h"
+#include "page/numbers.h"
 #include "text/rounding.h"
 #include "viewer/page_code.h"
 
@@ -21,17 +21,17 @@ QStringList videoMenuCaptions(const QString& code) {
             QStringLiteral("Diffusion d'un gaz")};
 }
 
-std::optional<QString> videoMenuTarget(const QString& caption, const platform::Recordset* cours,
+std::optional<QString> videoMenuTarget(const QString& caption, const coursedata::Recordset* cours,
                                        const QString& summaryCode) {
     if (caption.size() < kShortestTitle)
         return summaryCode;
     std::optional<QString> target;
     if (cours)
         cours->forEach({QStringLiteral("Numeropage"), QStringLiteral("titre")},
-                       [&](int, std::span<const platform::FieldValue> fields) {
-                           if (target || platform::shownText(fields[1]) != caption)
+                       [&](int, std::span<const coursedata::FieldValue> fields) {
+                           if (target || coursedata::shownText(fields[1]) != caption)
                                return;
-                           if (const auto page = text::toInt32(platform::fieldNumber(fields[0])))
+                           if (const auto page = text::toInt32(coursedata::fieldNumber(fields[0])))
                                target = pageCode(*page);
                        });
     return target;

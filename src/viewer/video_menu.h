@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/recordset.h"
+#include "coursedata/recordset.h"
 
 #include <QString>
 #include <QStringList>
@@ -16,7 +16,7 @@ QStringList videoMenuCaptions(const QString& code);
 /// The page code that an entry leads to: that of the first page whose title is the caption, to the
 /// letter, or `summaryCode` where the caption has less than three characters. Nothing when no page
 /// has the title, or without records (null).
-std::optional<QString> videoMenuTarget(const QString& caption, const platform::Recordset* cours,
+std::optional<QString> videoMenuTarget(const QString& caption, const coursedata::Recordset* cours,
                                        const QString& summaryCode);
 
 } // namespace viewer

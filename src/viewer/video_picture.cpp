@@ -1,7 +1,7 @@
 #include "viewer/video_picture.h"
 
-#include "platform/qt/look/interface_font.h"
-#include "platform/qt/look/palette.h"
+#include "look/interface_font.h"
+#include "look/palette.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -39,7 +39,7 @@ void VideoPicture::showWords(const QString& words) {
 }
 
 void VideoPicture::paintEvent(QPaintEvent*) {
-    using namespace platform::look;
+    using namespace look;
     QPainter painter(this);
     if (!picture_.isNull()) {
         painter.drawImage(rect(), picture_);

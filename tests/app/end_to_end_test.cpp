@@ -1,6 +1,6 @@
 #include "app/end_to_end_case.h"
 #include "app/x11_picture.h"
-#include "platform/qt/look/palette.h"
+#include "look/palette.h"
 
 #include <QDirIterator>
 #include <QImage>
@@ -113,7 +113,7 @@ TEST_F(EndToEnd, opensAPageThatWasSearchedAndMarksItsWords) {
             session_.display(), QRect(176, 120, 600, 400).translated(place().topLeft()));
         for (int y = 0; y < page.height(); ++y)
             for (int x = 0; x < page.width(); ++x)
-                if (page.pixel(x, y) == platform::look::kCurrentMarkTint)
+                if (page.pixel(x, y) == look::kCurrentMarkTint)
                     return true;
         return false;
     };

@@ -1,5 +1,5 @@
 #include "app/pdf_loader.h"
-#include "platform/surface.h"
+#include "page/surface.h"
 #include "printing/printed_pdf.h"
 #include "support/printing.h"
 
@@ -11,16 +11,16 @@ namespace {
 TEST(PdfLoader, theModuleWritesWhatTheProgramLaidOut) {
     const QTemporaryDir directory;
     const QString path = directory.filePath(QStringLiteral("page.pdf"));
-    platform::FontBook fonts;
-    platform::Recording recording;
-    platform::Surface surface(platform::SurfaceId::Printer, 9000, fonts, recording);
+    page::FontBook fonts;
+    page::Recording recording;
+    page::Surface surface(page::SurfaceId::Printer, 9000, fonts, recording);
     surface.setFace(QStringLiteral("Symbol"));
     surface.print(QStringLiteral("lWab"));
-    platform::Sheet sheet;
+    page::Sheet sheet;
     sheet.width = platform::kPlainPaper.width;
     sheet.height = platform::kPlainPaper.height;
-    sheet.surfaces = {{platform::SurfaceId::Printer, 600, 600, 9000, 9000}};
-    platform::putOnSheet(recording, fonts, sheet);
+    sheet.surfaces = {{page::SurfaceId::Printer, 600, 600, 9000, 9000}};
+    page::putOnSheet(recording, fonts, sheet);
     const auto printer = app::loadPdfPrinter(path, fonts, platform::kPlainPaper);
     ASSERT_TRUE(printer);
     EXPECT_TRUE(printer->begin(QStringLiteral("essai")));

@@ -3,7 +3,7 @@
 #include "coursetool/tool_pictures.h"
 #include "coursetool/trace.h"
 #include "coursetool/workspace.h"
-#include "platform/qt/look/field_pictures.h"
+#include "look/field_pictures.h"
 
 #include <QImage>
 
@@ -23,7 +23,7 @@ using testing::Not;
 
 struct Render : testing::Test {
     Workspace work;
-    platform::FontBook fonts;
+    page::FontBook fonts;
     coursetool::Report report;
 
     Render() {
@@ -52,7 +52,7 @@ struct Render : testing::Test {
     void draw(RenderRequest request) {
         request.course = work.path("out");
         coursetool::ToolPictures pictures(request.course, {}, report);
-        coursetool::render(request, fonts, pictures, platform::look::fieldPictures(), report);
+        coursetool::render(request, fonts, pictures, look::fieldPictures(), report);
     }
     void drawAll(RenderFormat format, const std::string& output) {
         RenderRequest request;

@@ -122,14 +122,14 @@ TEST_F(Trace, findsTheDatabaseInAnyLetterCase) {
 }
 
 TEST(TraceLines, haveTheFieldsOfTheirOperations) {
-    using platform::SurfaceId;
+    using page::SurfaceId;
     std::string out;
     coursetool::appendTraceLine(
-        platform::LineOperation{SurfaceId::Printer, 0.1, -0.0, 1e-7, 4, 0xff0000ff, 2}, out);
-    coursetool::appendTraceLine(platform::FillOperation{SurfaceId::Picture2, 1, 2, 3, 4, 0xff00ff00,
-                                                        platform::FillMode::Mask},
-                                out);
-    coursetool::appendTraceLine(platform::ClearOperation{SurfaceId::Titre}, out);
+        page::LineOperation{SurfaceId::Printer, 0.1, -0.0, 1e-7, 4, 0xff0000ff, 2}, out);
+    coursetool::appendTraceLine(
+        page::FillOperation{SurfaceId::Picture2, 1, 2, 3, 4, 0xff00ff00, page::FillMode::Mask},
+        out);
+    coursetool::appendTraceLine(page::ClearOperation{SurfaceId::Titre}, out);
     EXPECT_EQ(out, R"({"op":"line","surface":"printer","x1":0.1,"y1":0,"x2":1e-07,"y2":4,)"
                    R"("ink":"#0000ff","lineWidth":2})"
                    "\n"

@@ -24,9 +24,9 @@ protected:
     /// Field "question" of both records, as another reader finds them.
     QStringList stored() {
         QStringList all;
-        const ExerciseTables fresh = openExerciseTables(folder.path());
+        const coursedata::ExerciseTables fresh = coursedata::openExerciseTables(folder.path());
         fresh.contenu->forEach({QStringLiteral("question")}, [&](int, auto fields) {
-            all.append(platform::shownText(fields[0]));
+            all.append(coursedata::shownText(fields[0]));
         });
         return all;
     }

@@ -136,7 +136,7 @@ protected:
 
     /// Opens the window, as a page does with the code of a test.
     void open() {
-        tables = openExerciseTables(folder.path());
+        tables = coursedata::openExerciseTables(folder.path());
         EXPECT_EQ(tables.failures, QStringList());
         session.emplace(shared, state, window, window, window, prompter);
         session->load(tables.description.get(), tables.contenu.get());
@@ -153,7 +153,7 @@ protected:
     QString given(int question) const { return state.GivenAnswers.valueOr(question, {}); }
 
     QTemporaryDir folder;
-    ExerciseTables tables;
+    coursedata::ExerciseTables tables;
     shell::SharedState shared;
     TestState state;
     FakeWindow window;

@@ -2,8 +2,8 @@
 
 #include "exercises/exercise_case.h"
 #include "exercises/exo.h"
+#include "look/picture_box.h"
 #include "platform/file_names.h"
-#include "viewer/picture_box.h"
 #include "viewer/window_bench.h"
 
 #include <QAbstractButton>
@@ -50,8 +50,8 @@ protected:
         EXPECT_TRUE(found) << name;
         return *found;
     }
-    viewer::PictureBox& area() {
-        return static_cast<viewer::PictureBox&>(control<QWidget>("Picture2"));
+    look::PictureBox& area() {
+        return static_cast<look::PictureBox&>(control<QWidget>("Picture2"));
     }
 
     void click(const char* name) { QTest::mouseClick(&control<QWidget>(name), Qt::LeftButton); }

@@ -1,6 +1,6 @@
 #include "exercises/exo_case.h"
 #include "exercises/exo_opener.h"
-#include "platform/qt/look/scroll_bar.h"
+#include "look/scroll_bar.h"
 #include "support/plain_words.h"
 
 #include <QLabel>
@@ -197,7 +197,7 @@ TEST_F(Test, ATallCommentScrollsWithItsControls) {
     write({description(3, u"Long", number(1))},
           {question(301, 1, u"10000", kBoxes, comment.c_str())});
     openAt(1);
-    auto& bar = control<platform::look::ScrollBar>("questionScroll");
+    auto& bar = control<look::ScrollBar>("questionScroll");
     EXPECT_FALSE(bar.isVisible());
     click("command5");
     ASSERT_TRUE(bar.isVisible());

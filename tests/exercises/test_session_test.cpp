@@ -63,7 +63,7 @@ TEST_F(Opening, nullsAreFailuresOfTheirStatementOnly) {
 }
 
 TEST_F(Opening, aMissingDatabaseIsTold) {
-    tables = openExerciseTables(folder.path());
+    tables = coursedata::openExerciseTables(folder.path());
     EXPECT_FALSE(tables.description || tables.contenu);
     EXPECT_EQ(tables.failures.size(), 1);
 }

@@ -32,8 +32,8 @@ protected:
     test_support::FakeActivator activator;
     platform::SystemHelpViewer viewer{activator};
     NoDialog setup;
-    platform::FontBook fonts;
-    platform::QtPrinter printer{fonts};
+    page::FontBook fonts;
+    output::QtPrinter printer{fonts};
     test_support::FakePrompter prompter;
     help::HelpOpener opener{installDir, viewer, {setup, printer, prompter}};
 

@@ -1,7 +1,7 @@
 #include "help/help_browser.h"
 #include "help/help_list.h"
 #include "help/help_window.h"
-#include "platform/qt/print_setup.h"
+#include "look/print_setup.h"
 #include "printing/printed_pdf.h"
 #include "support/fake_prompter.h"
 #include "support/printing.h"
@@ -20,7 +20,7 @@ namespace {
 
 class IntoFile : public platform::PrinterSetup {
 public:
-    IntoFile(platform::QtPrinter& printer, QString file)
+    IntoFile(output::QtPrinter& printer, QString file)
         : printer_(printer), file_(std::move(file)) {}
     Outcome ask() override {
         printer_.device().setOutputFormat(QPrinter::PdfFormat);
@@ -30,7 +30,7 @@ public:
     Outcome answer = Outcome::Confirmed;
 
 private:
-    platform::QtPrinter& printer_;
+    output::QtPrinter& printer_;
     QString file_;
 };
 
@@ -53,8 +53,8 @@ protected:
 
     HelpBook book;
     QTemporaryDir directory;
-    platform::FontBook fonts;
-    platform::QtPrinter printer{fonts};
+    page::FontBook fonts;
+    output::QtPrinter printer{fonts};
     IntoFile setup{printer, directory.filePath("page.pdf")};
     test_support::FakePrompter prompter;
     HelpWindow window{book, {setup, printer, prompter}};
@@ -170,12 +170,12 @@ TEST_F(Window, printsThePageShown) {
 }
 
 TEST_F(Window, aJobOfTheCourseIsNotCut) {
-    platform::QtPrinterSetup asking(printer, prompter);
+    look::QtPrinterSetup asking(printer, prompter);
     HelpWindow other(book, {asking, printer, prompter});
     other.show();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&other));
     setup.ask();
-    platform::Sheet sheet;
+    page::Sheet sheet;
     sheet.width = 11906;
     sheet.height = 16838;
     ASSERT_TRUE(printer.begin("Cours"));

@@ -105,8 +105,8 @@ TEST(AnySource, isDrawnWithinBounds) {
         const auto lines = static_cast<std::size_t>(source.count(u'\n'));
         ASSERT_LE(test_support::drawAnyWay(source, bench), 3 * kMostPerLine * lines)
             << source.toStdString();
-        for (platform::Surface* surface : {&bench.texte, &bench.illus, &bench.title})
-            ASSERT_LE(surface->heightPx(), platform::kMaxSurfaceHeightPx) << source.toStdString();
+        for (page::Surface* surface : {&bench.texte, &bench.illus, &bench.title})
+            ASSERT_LE(surface->heightPx(), page::kMaxSurfaceHeightPx) << source.toStdString();
     }
 }
 

@@ -1,5 +1,5 @@
 #include "markup/page_bench.h"
-#include "platform/link_view.h"
+#include "page/link_view.h"
 
 #include <gtest/gtest.h>
 
@@ -85,7 +85,7 @@ TEST(LinkTable, theFirstElementIsReusedWhenAllAreTaken) {
     bench.draw(source);
     EXPECT_EQ(bench.captionOf(0), "100") << "meant so: the last link of a crowded page counts";
     EXPECT_EQ(bench.captionOf(1), "1");
-    const auto standing = platform::standingLinks(bench.recording);
+    const auto standing = page::standingLinks(bench.recording);
     EXPECT_EQ(standing.size(), 100u);
     EXPECT_EQ(standing.back()->caption, "100");
 }

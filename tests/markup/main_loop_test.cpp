@@ -150,7 +150,7 @@ TEST(MainLoopState, aHostileHeightIsBounded) {
     for (int i = 0; i < 5000; ++i)
         source += "##PLOUF\n";
     bench.draw(source);
-    EXPECT_EQ(bench.texte.heightPx(), platform::kMaxSurfaceHeightPx);
+    EXPECT_EQ(bench.texte.heightPx(), page::kMaxSurfaceHeightPx);
     EXPECT_EQ(bench.state.hauteurPage, 0) << "a height beyond 32 bits is not stored";
 }
 

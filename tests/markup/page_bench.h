@@ -43,13 +43,13 @@ public:
         return describe(recording);
     }
 
-    platform::RichTextHolder& code() override { return holder; }
-    platform::Surface& pictureTexte() override { return texte; }
-    platform::Surface& pictureIllus() override { return illus; }
-    platform::Surface& titre() override { return title; }
+    page::RichTextHolder& code() override { return holder; }
+    page::Surface& pictureTexte() override { return texte; }
+    page::Surface& pictureIllus() override { return illus; }
+    page::Surface& titre() override { return title; }
     void setCaption(const QString& text) override { caption = text; }
     void setBusy(bool on) override { busy.append(on); }
-    void refresh(platform::Surface& surface) override {
+    void refresh(page::Surface& surface) override {
         refreshedAt.append(static_cast<int>(recording.size()));
         refreshed = &surface;
     }
@@ -58,12 +58,12 @@ public:
     markup::AnswerFields* answerFields() override { return isQuestion ? &fields : nullptr; }
 
     FixedMetrics metrics;
-    platform::Recording recording;
-    platform::Surface texte{platform::SurfaceId::PictureTexte, 9000, metrics, recording};
-    platform::Surface illus{platform::SurfaceId::PictureIllus, 2250, metrics, recording};
-    platform::Surface title{platform::SurfaceId::Titre, 9000, metrics, recording};
-    platform::Surface printer{platform::SurfaceId::Printer, 11000, metrics, recording};
-    platform::RichTextHolder holder;
+    page::Recording recording;
+    page::Surface texte{page::SurfaceId::PictureTexte, 9000, metrics, recording};
+    page::Surface illus{page::SurfaceId::PictureIllus, 2250, metrics, recording};
+    page::Surface title{page::SurfaceId::Titre, 9000, metrics, recording};
+    page::Surface printer{page::SurfaceId::Printer, 11000, metrics, recording};
+    page::RichTextHolder holder;
     FakePictures pictures;
     markup::AnswerFields fields;
     bool isQuestion = false;
@@ -73,7 +73,7 @@ public:
     QString caption;
     QList<bool> busy;
     QList<int> refreshedAt;
-    platform::Surface* refreshed = nullptr;
+    page::Surface* refreshed = nullptr;
     int preparations = 0;
     int videoFrames = 0;
 };

@@ -1,5 +1,5 @@
 #include "orderform/bondec.h"
-#include "platform/qt/font_book.h"
+#include "page/faces/font_book.h"
 #include "support/fake_prompter.h"
 #include "support/printing.h"
 
@@ -27,7 +27,7 @@ class Paper : public platform::Printer {
 public:
     platform::Paper paper() const override { return platform::kPlainPaper; }
     bool begin(const QString&) override { return works; }
-    bool print(const platform::Sheet&) override { return ++sheets > 0; }
+    bool print(const page::Sheet&) override { return ++sheets > 0; }
     bool end() override { return works; }
     QString error() const override { return QStringLiteral("l’encre manque"); }
     bool works = true;
@@ -56,7 +56,7 @@ protected:
 
     Person person;
     Paper paper;
-    platform::FontBook fonts;
+    page::FontBook fonts;
     test_support::FakePrompter prompter;
     orderform::Bondec form{{person, paper, fonts}, prompter, nullptr};
 };

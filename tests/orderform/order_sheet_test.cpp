@@ -1,5 +1,5 @@
 #include "orderform/order_printing.h"
-#include "platform/qt/qt_printer.h"
+#include "output/paper/qt_printer.h"
 #include "printing/printed_pdf.h"
 #include "support/printing.h"
 
@@ -36,8 +36,8 @@ protected:
     }
 
     QTemporaryDir directory;
-    platform::FontBook fonts;
-    platform::QtPrinter printer{fonts};
+    page::FontBook fonts;
+    output::QtPrinter printer{fonts};
     Confirmed setup;
     Order order = newOrder();
 };

@@ -1,4 +1,4 @@
-#include "platform/qt/font_book.h"
+#include "page/faces/font_book.h"
 
 #include <QFontMetricsF>
 #include <QPainterPath>
@@ -7,15 +7,15 @@
 
 namespace {
 
-platform::Font font(const char16_t* face, double points) {
-    platform::Font font;
+page::Font font(const char16_t* face, double points) {
+    page::Font font;
     font.face = QString::fromUtf16(face);
     font.points = points;
     return font;
 }
 
 TEST(FontBook, facesAreInstalled) {
-    EXPECT_EQ(platform::FontBook::missingFamilies(), QStringList());
+    EXPECT_EQ(page::FontBook::missingFamilies(), QStringList());
 }
 
 TEST(FontBook, lineHeightsAreThoseOfTheFacesAskedFor) {
@@ -26,7 +26,7 @@ TEST(FontBook, lineHeightsAreThoseOfTheFacesAskedFor) {
         int serif;
     } rows[] = {{6, 9, 9},      {8, 12, 12},  {10, 15, 15}, {11, 17, 16}, {12, 17, 17},
                 {13.5, 20, 20}, {14, 21, 21}, {20, 30, 30}, {28, 41, 41}, {36, 53, 53}};
-    const platform::FontBook fonts;
+    const page::FontBook fonts;
     for (const auto& row : rows) {
         EXPECT_EQ(fonts.height(font(u"Arial", row.points)), row.sans * 15) << row.points;
         EXPECT_EQ(fonts.height(font(u"Times new roman", row.points)), row.serif * 15) << row.points;
@@ -34,7 +34,7 @@ TEST(FontBook, lineHeightsAreThoseOfTheFacesAskedFor) {
 }
 
 TEST(FontBook, widthsAreTheUnhintedOnesWithoutKerning) {
-    const platform::FontBook fonts;
+    const page::FontBook fonts;
     QFont reference(QStringLiteral("Liberation Sans"));
     reference.setPixelSize(16 * 15);
     reference.setHintingPreference(QFont::PreferNoHinting);
@@ -46,7 +46,7 @@ TEST(FontBook, widthsAreTheUnhintedOnesWithoutKerning) {
 }
 
 TEST(FontBook, widthsAddUp) {
-    const platform::FontBook fonts;
+    const page::FontBook fonts;
     const auto sans = font(u"Arial", 12);
     const double parts = fonts.width(sans, u"fin ") + fonts.width(sans, u"de ligne");
     EXPECT_DOUBLE_EQ(fonts.width(sans, u"fin de ligne"), parts);
@@ -56,7 +56,7 @@ TEST(FontBook, widthsAddUp) {
 }
 
 TEST(FontBook, drawsNoBoxesForWhatOnlyProgramsRead) {
-    const platform::FontBook fonts;
+    const page::FontBook fonts;
     const auto sans = font(u"Arial", 12);
     for (const char16_t hidden : u"\u0001\u001F\u007F\u0085\u200E\uFEFF") {
         const QString text = QString(u'a') + QChar(hidden) + u'b';
@@ -73,7 +73,7 @@ TEST(FontBook, drawsNoBoxesForWhatOnlyProgramsRead) {
 }
 
 TEST(FontBook, symbolCodesShowGreek) {
-    const platform::FontBook fonts;
+    const page::FontBook fonts;
     const auto symbol = font(u"SYMBOL", 12);
     const auto runs = fonts.place(symbol, u"lW");
     ASSERT_EQ(runs.size(), 1u);
@@ -87,7 +87,7 @@ TEST(FontBook, symbolCodesShowGreek) {
 }
 
 TEST(FontBook, charactersAFaceLacksComeFromAnother) {
-    const platform::FontBook fonts;
+    const page::FontBook fonts;
     const auto runs = fonts.place(font(u"Comic Sans MS", 12), u"aλb");
     ASSERT_EQ(runs.size(), 3u);
     EXPECT_EQ(runs[0].stage, runs[2].stage);
@@ -99,7 +99,7 @@ TEST(FontBook, charactersAFaceLacksComeFromAnother) {
 }
 
 TEST(FontBook, glyphsTellTheirCharacterAndTheirFile) {
-    const platform::FontBook fonts;
+    const page::FontBook fonts;
     const struct {
         const char16_t* face;
         const char16_t* text;
@@ -117,7 +117,7 @@ TEST(FontBook, glyphsTellTheirCharacterAndTheirFile) {
             shown += glyph.character;
             EXPECT_GT(glyph.offset, last);
             last = glyph.offset;
-            const auto& source = platform::FontBook::faceSource(asked, glyph.stage);
+            const auto& source = page::FontBook::faceSource(asked, glyph.stage);
             EXPECT_TRUE(source.bold && !source.italic);
             const QRawFont file(source.file, 240);
             ASSERT_TRUE(file.isValid());
@@ -131,7 +131,7 @@ TEST(FontBook, glyphsTellTheirCharacterAndTheirFile) {
 }
 
 TEST(FontBook, loneSurrogatesAndManySizesDoNoHarm) {
-    const platform::FontBook fonts;
+    const page::FontBook fonts;
     const char16_t lone[] = {u'a', 0xD800, u'b', 0xDC00, 0};
     EXPECT_GT(fonts.width(font(u"Arial", 12), lone), 0);
     for (int i = 1; i < 600; ++i)

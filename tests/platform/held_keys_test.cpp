@@ -1,4 +1,4 @@
-#include "platform/qt/held_keys.h"
+#include "look/held_keys.h"
 
 #include <QKeyEvent>
 #include <QTest>
@@ -19,7 +19,7 @@ protected:
 
 /// As X tells it: a key held down is let go and pressed again at the same moment.
 TEST(HeldKeys, MarksThePressAtTheMomentOfTheRelease) {
-    const platform::HeldKeys heldKeys;
+    const look::HeldKeys heldKeys;
     Listener window;
     window.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));

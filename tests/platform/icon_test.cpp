@@ -1,5 +1,5 @@
-#include "platform/qt/look/icon.h"
-#include "platform/qt/look/palette.h"
+#include "look/icon.h"
+#include "look/palette.h"
 #include "support/files.h"
 
 #include <QDir>
@@ -9,7 +9,7 @@
 
 namespace {
 
-using namespace platform::look;
+using namespace look;
 
 QImage drawn(const QString& name, Icon::Style style) {
     QImage image(48, 48, QImage::Format_RGB32);

@@ -1,7 +1,7 @@
-#include "platform/ink_area.h"
-#include "platform/qt/raster_surface.h"
+#include "output/raster/raster_surface.h"
+#include "output/svg/svg_file.h"
+#include "page/ink_area.h"
 #include "platform/sheets.h"
-#include "platform/svg/svg_file.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +9,7 @@
 
 namespace {
 
-using platform::SurfaceId;
+using page::SurfaceId;
 
 constexpr QRgb kWhite = 0xffffffff;
 constexpr int kMarginPx = 8;
@@ -49,7 +49,7 @@ protected:
 
     /// The surface as the window shows it: the picture, and what leans out of it.
     QImage shown(int heightPx, double ratio) {
-        platform::RasterSurface raster(SurfaceId::PictureTexte, kWidthPx, fonts, kWhite);
+        output::RasterSurface raster(SurfaceId::PictureTexte, kWidthPx, fonts, kWhite);
         raster.setDevicePixelRatio(ratio);
         raster.play(recording);
         QImage whole = paper(heightPx, ratio);
@@ -67,10 +67,10 @@ protected:
 
     /// The ink of what stands on the surface when nothing cuts it.
     int allInk(double ratio) {
-        platform::Sheet wide = sheet(400);
+        page::Sheet wide = sheet(400);
         wide.surfaces[0] = {SurfaceId::PictureTexte, 3000, 3000, 9000, 9000};
-        for (platform::Operation& operation : wide.operations)
-            if (auto* text = std::get_if<platform::TextOperation>(&operation)) {
+        for (page::Operation& operation : wide.operations)
+            if (auto* text = std::get_if<page::TextOperation>(&operation)) {
                 text->x += 750;
                 text->y += 750;
             }
@@ -78,14 +78,14 @@ protected:
         return inked(sheetRaster(wide, ratio));
     }
 
-    platform::Sheet sheet(double heightPx) {
-        constexpr double kMargin = platform::kInkMargin;
-        platform::Sheet sheet{};
+    page::Sheet sheet(double heightPx) {
+        constexpr double kMargin = page::kInkMargin;
+        page::Sheet sheet{};
         sheet.width = kWidthPx * 15 + 2 * kMargin;
         sheet.height = heightPx * 15 + 2 * kMargin;
         sheet.surfaces = {
             {SurfaceId::PictureTexte, kMargin, kMargin, kWidthPx * 15., heightPx * 15}};
-        platform::putOnSheet(recording, fonts, sheet);
+        page::putOnSheet(recording, fonts, sheet);
         return sheet;
     }
 
@@ -96,8 +96,8 @@ protected:
         return paper;
     }
 
-    QImage sheetRaster(const platform::Sheet& drawn, double ratio) {
-        platform::SheetRaster raster(fonts, ratio);
+    QImage sheetRaster(const page::Sheet& drawn, double ratio) {
+        output::SheetRaster raster(fonts, ratio);
         QImage whole(raster.size(drawn), QImage::Format_RGB32);
         QPainter painter(&whole);
         for (int top = 0; top < whole.height(); top += raster.bandRows(drawn))
@@ -106,9 +106,9 @@ protected:
     }
 
     static constexpr int kWidthPx = 300;
-    platform::FontBook fonts;
-    platform::Recording recording;
-    platform::Surface surface{SurfaceId::PictureTexte, kWidthPx * 15, fonts, recording};
+    page::FontBook fonts;
+    page::Recording recording;
+    page::Surface surface{SurfaceId::PictureTexte, kWidthPx * 15, fonts, recording};
 };
 
 TEST_F(InkMargin, aLineAloneOnItsSurfaceShowsAllOfItsInk) {
@@ -136,7 +136,7 @@ TEST_F(InkMargin, nothingOfAPageStaysOnTheNext) {
     for (const Type& type : kTypes)
         for (const double ratio : kRatios)
             for (const bool isText : {true, false}) {
-                platform::RasterSurface raster(SurfaceId::PictureTexte, kWidthPx, fonts, kWhite);
+                output::RasterSurface raster(SurfaceId::PictureTexte, kWidthPx, fonts, kWhite);
                 raster.setDevicePixelRatio(ratio);
                 recording.clear();
                 drawFull(type, isText);
@@ -144,7 +144,7 @@ TEST_F(InkMargin, nothingOfAPageStaysOnTheNext) {
                 const int height = raster.drawnHeightPx() + 40;
                 EXPECT_GT(inked(raster.image(height)), 20);
                 surface.clear();
-                surface.fill(0, 0, 15, 15, 0xff000000, platform::FillMode::Copy);
+                surface.fill(0, 0, 15, 15, 0xff000000, page::FillMode::Copy);
                 raster.play(recording);
                 EXPECT_EQ(inked(raster.image(height)), inked(raster.image(1)))
                     << type.face << type.points << ratio << isText;
@@ -161,7 +161,7 @@ TEST_F(InkMargin, bordersAtTheEdgesShow) {
         EXPECT_EQ(inked(shown(20, ratio)), (301 + 20 + 21) * r * r);
         EXPECT_EQ(inked(filed(20, ratio)), (301 + 20 + 21) * r * r);
     }
-    const QByteArray document = platform::svgDocument(sheet(20), fonts, {});
+    const QByteArray document = output::svgDocument(sheet(20), fonts, {});
     EXPECT_TRUE(document.contains("<rect x=\"0\" y=\"20\" width=\"301\" height=\"1\"/>"))
         << document.constData();
     EXPECT_TRUE(document.contains("<rect x=\"300\" y=\"0\" width=\"1\" height=\"21\"/>"));
@@ -172,15 +172,15 @@ TEST_F(InkMargin, whatStandsBeyondTheSurfaceDoesNotShow) {
     print(0, 0, QStringLiteral("a"));
     const int one = inked(shown(qCeil(line / 15), 1));
     print(0, line, QStringLiteral("Ébène")); // its line was never ended
-    surface.fill(0, line, 900, 900, 0xffdce6ff, platform::FillMode::Copy);
-    surface.fill(-900, -900, 900, 900, 0xffdce6ff, platform::FillMode::Copy);
+    surface.fill(0, line, 900, 900, 0xffdce6ff, page::FillMode::Copy);
+    surface.fill(-900, -900, 900, 900, 0xffdce6ff, page::FillMode::Copy);
     surface.line(0, line + 30, 900, line + 30);
     const int height = qCeil(line / 15);
     EXPECT_EQ(inked(shown(height, 1)), one);
     EXPECT_EQ(inked(filed(height, 1)), one);
-    EXPECT_FALSE(platform::svgDocument(sheet(height), fonts, {}).contains("Ébène"));
-    EXPECT_TRUE(platform::isBelow({SurfaceId::PictureTexte, 0, line, "É", {}, 0, 0}, line));
-    EXPECT_FALSE(platform::isBelow({SurfaceId::PictureTexte, 0, 0, "É", {}, 0, 0}, line));
+    EXPECT_FALSE(output::svgDocument(sheet(height), fonts, {}).contains("Ébène"));
+    EXPECT_TRUE(page::isBelow({SurfaceId::PictureTexte, 0, line, "É", {}, 0, 0}, line));
+    EXPECT_FALSE(page::isBelow({SurfaceId::PictureTexte, 0, 0, "É", {}, 0, 0}, line));
 }
 
 TEST_F(InkMargin, aLineWithMostOfItBeyondIsCutAtTheEdge) {
@@ -193,10 +193,10 @@ TEST_F(InkMargin, aLineWithMostOfItBeyondIsCutAtTheEdge) {
 
 TEST_F(InkMargin, whatIsTooWideIsCutAtTheEdge) {
     print(0, 0, QString(200, u'M'));
-    surface.fill(3000, 0, 9000, 300, 0xffdce6ff, platform::FillMode::Mask);
+    surface.fill(3000, 0, 9000, 300, 0xffdce6ff, page::FillMode::Mask);
     for (const QImage& image : {shown(20, 1), filed(20, 1)})
         EXPECT_EQ(inked(image.copy(kMarginPx + kWidthPx, 0, kMarginPx, image.height())), 0);
-    const QByteArray document = platform::svgDocument(sheet(20), fonts, {});
+    const QByteArray document = output::svgDocument(sheet(20), fonts, {});
     EXPECT_TRUE(document.contains("clip-path=\"url(#c2)\" textLength"));
     EXPECT_TRUE(document.contains("width=\"100\" height=\"20\" fill=\"#dce6ff\" class=\"m\""));
 }

@@ -1,5 +1,5 @@
+#include "coursedata/jet_recordset.h"
 #include "jet/writer.h"
-#include "platform/jet_recordset.h"
 #include "support/printing.h"
 
 #include <QDir>
@@ -12,9 +12,9 @@
 
 #include <vector>
 
-using platform::Access;
-using platform::openRecordset;
-using platform::shownText;
+using coursedata::Access;
+using coursedata::openRecordset;
+using coursedata::shownText;
 
 namespace {
 
@@ -30,7 +30,7 @@ protected:
         ASSERT_TRUE(writer->finish());
     }
 
-    std::unique_ptr<platform::Recordset> open(Access access) {
+    std::unique_ptr<coursedata::Recordset> open(Access access) {
         auto opened = openRecordset(path_, QStringLiteral("contenu"), access);
         EXPECT_TRUE(opened);
         return std::move(*opened);

@@ -1,10 +1,10 @@
-#include "platform/qt/look/button.h"
-#include "platform/qt/look/message_dialog.h"
-#include "platform/qt/look/mnemonics.h"
-#include "platform/qt/look/palette.h"
-#include "platform/qt/look/scroll_bar.h"
-#include "platform/qt/look/text_field.h"
-#include "platform/qt/look/tool_tip.h"
+#include "look/button.h"
+#include "look/message_dialog.h"
+#include "look/mnemonics.h"
+#include "look/palette.h"
+#include "look/scroll_bar.h"
+#include "look/text_field.h"
+#include "look/tool_tip.h"
 #include "support/plain_words.h"
 
 #include <QApplication>
@@ -19,7 +19,7 @@
 
 namespace {
 
-using namespace platform::look;
+using namespace look;
 using platform::Answer;
 using platform::Message;
 

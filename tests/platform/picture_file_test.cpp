@@ -1,4 +1,4 @@
-#include "platform/qt/picture_file.h"
+#include "page/pictures/picture_file.h"
 #include "support/files.h"
 
 #include <QBuffer>
@@ -11,8 +11,8 @@
 
 namespace {
 
-using platform::PictureFormat;
-using platform::pictureFrom;
+using page::PictureFormat;
+using page::pictureFrom;
 
 /// Red to the left, green to the right; with alpha, the lower half transparent.
 QImage halves(int width, int height, bool alpha = false) {
@@ -85,7 +85,7 @@ TEST(PictureFile, tellsFormatsByWhatIsInThem) {
          PictureFormat::Svg}};
     for (const auto& [bytes, format] : files) {
         test_support::writeFile(path, bytes);
-        const auto picture = platform::loadPicture(path);
+        const auto picture = page::loadPicture(path);
         ASSERT_TRUE(picture) << static_cast<int>(format);
         EXPECT_EQ(picture->format(), format);
         EXPECT_EQ(picture->bytes(), bytes);
@@ -98,9 +98,9 @@ TEST(PictureFile, tellsFormatsByWhatIsInThem) {
             EXPECT_NEAR(qGreen(image.pixel(size.width() - 5, 5)), 255, 4);
         }
     }
-    EXPECT_FALSE(platform::loadPicture(folder.filePath("none")));
-    EXPECT_FALSE(platform::loadPicture(folder.path()));
-    EXPECT_FALSE(platform::loadPicture("   "));
+    EXPECT_FALSE(page::loadPicture(folder.filePath("none")));
+    EXPECT_FALSE(page::loadPicture(folder.path()));
+    EXPECT_FALSE(page::loadPicture("   "));
 }
 
 TEST(PictureFile, keepsWhatIsTransparent) {
@@ -257,7 +257,7 @@ TEST(PictureFile, hugeSizesAreRefusedBeforeAnythingIsHeld) {
     EXPECT_TRUE(small->image({}).isNull());
 }
 
-bool isNullOr(const std::shared_ptr<const platform::Picture>& picture, QSize size) {
+bool isNullOr(const std::shared_ptr<const page::Picture>& picture, QSize size) {
     return !picture || picture->size() == size;
 }
 

@@ -1,4 +1,4 @@
-#include "platform/png/png_file.h"
+#include "output/png/png_file.h"
 
 #include <QBuffer>
 #include <QPainter>
@@ -20,7 +20,7 @@ QImage speckled(QSize size) {
 QByteArray encoded(const QImage& image, int bandRows, double dotsPerInch = 96) {
     QBuffer device;
     device.open(QIODevice::WriteOnly);
-    platform::PngFile png(device, image.size(), dotsPerInch);
+    output::PngFile png(device, image.size(), dotsPerInch);
     for (int top = 0; top < image.height(); top += bandRows)
         EXPECT_TRUE(
             png.add(image.copy(0, top, image.width(), std::min(bandRows, image.height() - top))));
@@ -44,18 +44,18 @@ TEST(PngFile, saysWhatWentWrong) {
     const QImage image = speckled({20, 4});
     QBuffer device;
     device.open(QIODevice::WriteOnly);
-    platform::PngFile shortOfRows(device, {20, 5}, 96);
+    output::PngFile shortOfRows(device, {20, 5}, 96);
     EXPECT_TRUE(shortOfRows.add(image));
     EXPECT_FALSE(shortOfRows.finish());
-    platform::PngFile tooManyRows(device, {20, 3}, 96);
+    output::PngFile tooManyRows(device, {20, 3}, 96);
     EXPECT_FALSE(tooManyRows.add(image));
     EXPECT_FALSE(tooManyRows.finish());
-    platform::PngFile otherWidth(device, {21, 4}, 96);
+    output::PngFile otherWidth(device, {21, 4}, 96);
     EXPECT_FALSE(otherWidth.add(image));
 
     QBuffer full;
     full.open(QIODevice::ReadOnly); // writing fails
-    platform::PngFile png(full, image.size(), 96);
+    output::PngFile png(full, image.size(), 96);
     png.add(image);
     EXPECT_FALSE(png.finish());
 }

@@ -1,16 +1,16 @@
-#include "platform/qt/raster_surface.h"
-#include "platform/surface.h"
+#include "output/raster/raster_surface.h"
+#include "page/surface.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-using platform::SurfaceId;
+using page::SurfaceId;
 
 constexpr QRgb kWhite = 0xffffffff;
 
 /// A blue square with a hole: its lower right quarter is transparent. Keeps what it was asked for.
-class Square : public platform::Picture {
+class Square : public page::Picture {
 public:
     QSize size() const override { return {10, 10}; }
     QImage image(QSize pixels) const override {
@@ -22,7 +22,7 @@ public:
                 image.setPixel(x, y, 0);
         return image;
     }
-    platform::PictureFormat format() const override { return platform::PictureFormat::Png; }
+    page::PictureFormat format() const override { return page::PictureFormat::Png; }
     const QByteArray& bytes() const override { return bytes_; }
 
     mutable QSize asked;
@@ -42,15 +42,15 @@ protected:
     }
     QRgb at(int x, int y) { return raster.image(y + 1).pixel(x, y); }
 
-    platform::FontBook fonts;
-    platform::Recording recording;
-    platform::Surface surface{SurfaceId::PictureTexte, 9000, fonts, recording};
-    platform::RasterSurface raster{SurfaceId::PictureTexte, 600, fonts, kWhite};
+    page::FontBook fonts;
+    page::Recording recording;
+    page::Surface surface{SurfaceId::PictureTexte, 9000, fonts, recording};
+    output::RasterSurface raster{SurfaceId::PictureTexte, 600, fonts, kWhite};
     std::shared_ptr<Square> square = std::make_shared<Square>();
 };
 
 TEST_F(RasterPictures, standWhereTheyWerePaintedInTheDensityOfTheScreen) {
-    surface.fill(0, 0, 9000, 1500, 0xffff0000, platform::FillMode::Copy);
+    surface.fill(0, 0, 9000, 1500, 0xffff0000, page::FillMode::Copy);
     for (const int ratio : {1, 3}) {
         raster.setDevicePixelRatio(ratio);
         paint(20, 30, 40);
@@ -77,7 +77,7 @@ TEST_F(RasterPictures, areCutAtTheEdges) {
     EXPECT_EQ(square->asked, QSize()); // nothing of them shows
     raster.setDevicePixelRatio(3);
     paint(0, 39'990, 40);
-    EXPECT_LE(raster.drawnHeightPx(), platform::kMaxSurfaceHeightPx);
+    EXPECT_LE(raster.drawnHeightPx(), page::kMaxSurfaceHeightPx);
 }
 
 TEST_F(RasterPictures, stretchedOnesCostNoMoreThanABound) {

@@ -1,12 +1,12 @@
-#include "platform/qt/raster_surface.h"
-#include "platform/readable_text.h"
-#include "platform/surface.h"
+#include "output/raster/raster_surface.h"
+#include "page/readable_text.h"
+#include "page/surface.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-using platform::SurfaceId;
+using page::SurfaceId;
 
 constexpr QRgb kWhite = 0xffffffff;
 constexpr QRgb kBlack = 0xff000000;
@@ -22,10 +22,10 @@ protected:
         return count;
     }
 
-    platform::FontBook fonts;
-    platform::Recording recording;
-    platform::Surface surface{SurfaceId::PictureTexte, 9000, fonts, recording};
-    platform::RasterSurface raster{SurfaceId::PictureTexte, 600, fonts, kWhite};
+    page::FontBook fonts;
+    page::Recording recording;
+    page::Surface surface{SurfaceId::PictureTexte, 9000, fonts, recording};
+    output::RasterSurface raster{SurfaceId::PictureTexte, 600, fonts, kWhite};
 };
 
 TEST_F(Raster, textStandsWhereItWasPrinted) {
@@ -44,7 +44,7 @@ TEST_F(Raster, textStandsWhereItWasPrinted) {
 
 TEST_F(Raster, linesAndFillsCoverWholePixels) {
     surface.line(150, 150, 300, 150);
-    surface.fill(0, 300, 150, 150, kTint, platform::FillMode::Copy);
+    surface.fill(0, 300, 150, 150, kTint, page::FillMode::Copy);
     for (const double ratio : {1.0, 2.0}) {
         raster.setDevicePixelRatio(ratio);
         raster.play(recording);
@@ -59,9 +59,9 @@ TEST_F(Raster, linesAndFillsCoverWholePixels) {
 }
 
 TEST_F(Raster, aMaskFillLeavesTextVisible) {
-    surface.fill(0, 0, 300, 300, kBlack, platform::FillMode::Copy);
-    surface.fill(0, 0, 600, 300, kTint, platform::FillMode::Mask);
-    surface.fill(0, 0, 600, 300, 0xffffff90, platform::FillMode::Mask);
+    surface.fill(0, 0, 300, 300, kBlack, page::FillMode::Copy);
+    surface.fill(0, 0, 600, 300, kTint, page::FillMode::Mask);
+    surface.fill(0, 0, 600, 300, 0xffffff90, page::FillMode::Mask);
     raster.play(recording);
     const QImage image = raster.image(20);
     EXPECT_EQ(image.pixel(5, 5), kBlack);
@@ -83,16 +83,16 @@ TEST_F(Raster, whatIsFarOutsideCostsNothing) {
     surface.setPenY(-3e38);
     surface.print(QStringLiteral("x"));
     surface.line(-3e38, 0, 3e38, 0);
-    surface.fill(0, 0, 1e30, 1e30, kTint, platform::FillMode::Copy);
-    surface.fill(0, 3e9, 15, 15, kTint, platform::FillMode::Copy);
+    surface.fill(0, 0, 1e30, 1e30, kTint, page::FillMode::Copy);
+    surface.fill(0, 3e9, 15, 15, kTint, page::FillMode::Copy);
     surface.setPenY(0);
     raster.play(recording);
-    EXPECT_LE(raster.drawnHeightPx(), platform::kMaxSurfaceHeightPx);
+    EXPECT_LE(raster.drawnHeightPx(), page::kMaxSurfaceHeightPx);
     EXPECT_EQ(raster.image(1).pixel(599, 0), kTint);
 }
 
 TEST_F(Raster, clearingWipesAndOtherSurfacesDoNotShow) {
-    platform::Surface other(SurfaceId::Titre, 9000, fonts, recording);
+    page::Surface other(SurfaceId::Titre, 9000, fonts, recording);
     other.print(QStringLiteral("titre"));
     raster.play(recording);
     EXPECT_TRUE(raster.isBlank());
@@ -120,10 +120,9 @@ TEST_F(Raster, readableTextFollowsTheLines) {
     surface.setPenY(400);
     surface.setFace(QStringLiteral("Symbol"));
     surface.print(QStringLiteral("l"));
-    EXPECT_EQ(platform::readableText(recording, SurfaceId::PictureTexte),
-              QString("H2O à droite\nλ\n"));
+    EXPECT_EQ(page::readableText(recording, SurfaceId::PictureTexte), QString("H2O à droite\nλ\n"));
     surface.clear();
-    EXPECT_EQ(platform::readableText(recording, SurfaceId::PictureTexte), QString());
+    EXPECT_EQ(page::readableText(recording, SurfaceId::PictureTexte), QString());
 }
 
 } // namespace

@@ -1,5 +1,5 @@
-#include "platform/qt/look/field_pictures.h"
-#include "platform/qt/raster_surface.h"
+#include "look/field_pictures.h"
+#include "output/raster/raster_surface.h"
 #include "platform/sheets.h"
 #include "support/recording_text.h"
 
@@ -7,19 +7,19 @@
 
 namespace {
 
-using platform::FieldControl;
-using platform::SurfaceId;
+using page::FieldControl;
+using page::SurfaceId;
 using testing::ElementsAre;
 
-QStringList described(const platform::Sheet& sheet) {
-    platform::Recording recording;
-    for (const platform::Operation& operation : sheet.operations)
+QStringList described(const page::Sheet& sheet) {
+    page::Recording recording;
+    for (const page::Operation& operation : sheet.operations)
         recording.add(operation);
     return test_support::describe(recording);
 }
 
-platform::FieldOperation field(FieldControl control, double x, double y, int index = 0) {
-    platform::FieldOperation operation;
+page::FieldOperation field(FieldControl control, double x, double y, int index = 0) {
+    page::FieldOperation operation;
     operation.surface = SurfaceId::PictureTexte;
     operation.control = control;
     operation.index = index;
@@ -42,12 +42,12 @@ TEST_F(SheetTest, showsAnswerControlsOnTopWhereTheyWerePlacedLast) {
     recording.add(field(FieldControl::Text1, 600, 900));
     printAt(0, 0, QStringLiteral("a"));
 
-    const platform::Sheet plain = sheet();
+    const page::Sheet plain = sheet();
     EXPECT_THAT(described(plain).sliced(0, 1),
                 ElementsAre(QStringLiteral("print 0,0 \"a\" Arial 10")));
     // Without pictures, frames of 13 pixels.
     EXPECT_EQ(described(plain)[1], QStringLiteral("line 15,30 195,30 #8c8472"));
-    EXPECT_THAT(described(sheet(platform::look::fieldPictures())),
+    EXPECT_THAT(described(sheet(look::fieldPictures())),
                 ElementsAre(QStringLiteral("print 0,0 \"a\" Arial 10"),
                             QStringLiteral("symbol 15,30 195,195 Option1"),
                             QStringLiteral("symbol 15,60 195,195 Option1"),
@@ -59,17 +59,17 @@ TEST_F(SheetTest, showsAnswerControlsOnTopWhereTheyWerePlacedLast) {
                             QStringLiteral("line 945,900 945,1245 #8c8472")));
     ASSERT_EQ(plain.links.size(), 1u);
     EXPECT_EQ(plain.links[0].tag + plain.links[0].caption, QStringLiteral("12la loi"));
-    EXPECT_EQ(platform::drawnHeight(plain.operations, SurfaceId::PictureTexte, fonts), 1260);
+    EXPECT_EQ(page::drawnHeight(plain.operations, SurfaceId::PictureTexte, fonts), 1260);
 }
 
 TEST_F(SheetTest, theRasterIsThatOfTheScreenCutAtTheSurfacesEdge) {
     printAt(0, 0, QStringLiteral("Un mot qui sort de la surface par la droite, et pas qu’un peu"));
     surface.line(0, 600, 9000, 615);
-    surface.fill(150, 0, 900, 300, 0xffdce6ff, platform::FillMode::Mask);
-    surface.fill(3000, 2900, 900, 900, 0xffff0000, platform::FillMode::Copy);
+    surface.fill(150, 0, 900, 300, 0xffdce6ff, page::FillMode::Mask);
+    surface.fill(3000, 2900, 900, 900, 0xffff0000, page::FillMode::Copy);
     surface.paint(std::make_shared<test_support::PlainPicture>(QSize(20, 20)), 300, 300, {}, false);
     for (const double scale : {1.0, 1.5, 2.0}) {
-        platform::RasterSurface screen(SurfaceId::PictureTexte, 300, fonts, 0xffffffff);
+        output::RasterSurface screen(SurfaceId::PictureTexte, 300, fonts, 0xffffffff);
         screen.setDevicePixelRatio(scale);
         screen.play(recording);
         QImage whole(qCeil(320 * scale), qCeil(220 * scale), QImage::Format_RGB32);
@@ -90,10 +90,10 @@ TEST_F(SheetTest, bandsJoinWithoutASeam) {
     for (int line = 0; line < 12; ++line)
         printAt(line * 7, line * 210, QStringLiteral("Ligne gÀ"));
     surface.line(0, 0, 4000, 3000);
-    const platform::Sheet narrow = sheet();
-    platform::Sheet wide = narrow; // has shorter bands
+    const page::Sheet narrow = sheet();
+    page::Sheet wide = narrow; // has shorter bands
     wide.width *= 16;
-    platform::SheetRaster bands(fonts, 7);
+    output::SheetRaster bands(fonts, 7);
     ASSERT_EQ(bands.bandRows(narrow), bands.size(narrow).height());
     ASSERT_LT(bands.bandRows(wide), bands.size(wide).height() / 2);
     const QImage whole = raster(narrow, 7);

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/qt/font_book.h"
-#include "platform/qt/sheet_raster.h"
-#include "platform/sheet.h"
-#include "platform/surface.h"
+#include "output/raster/sheet_raster.h"
+#include "page/faces/font_book.h"
+#include "page/sheet.h"
+#include "page/surface.h"
 #include "support/fake_pictures.h"
 
 #include <QPainter>
@@ -28,17 +28,17 @@ inline int difference(const QImage& a, const QImage& b) {
 
 /// A sheet to draw on: one surface of 300 x 200 pixels with a margin of 10.
 struct SheetCase {
-    platform::FontBook fonts;
-    platform::Recording recording;
-    platform::Surface surface{platform::SurfaceId::PictureTexte, 4500, fonts, recording};
+    page::FontBook fonts;
+    page::Recording recording;
+    page::Surface surface{page::SurfaceId::PictureTexte, 4500, fonts, recording};
 
-    platform::Sheet sheet(const platform::FieldPictures& fields = {}) const {
-        platform::Sheet sheet{};
+    page::Sheet sheet(const page::FieldPictures& fields = {}) const {
+        page::Sheet sheet{};
         sheet.width = 4800;
         sheet.height = 3300;
         sheet.title = QStringLiteral("Un <titre> & \"λ\"");
-        sheet.surfaces = {{platform::SurfaceId::PictureTexte, 150, 150, 4500, 3000}};
-        platform::putOnSheet(recording, fonts, sheet, fields);
+        sheet.surfaces = {{page::SurfaceId::PictureTexte, 150, 150, 4500, 3000}};
+        page::putOnSheet(recording, fonts, sheet, fields);
         return sheet;
     }
 
@@ -49,8 +49,8 @@ struct SheetCase {
     }
 
     /// The whole sheet as pixels.
-    QImage raster(const platform::Sheet& drawn, double scale = 1) const {
-        platform::SheetRaster raster(fonts, scale);
+    QImage raster(const page::Sheet& drawn, double scale = 1) const {
+        output::SheetRaster raster(fonts, scale);
         QImage whole(raster.size(drawn), QImage::Format_RGB32);
         QPainter painter(&whole);
         for (int top = 0; top < whole.height(); top += raster.bandRows(drawn))

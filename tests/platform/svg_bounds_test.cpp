@@ -1,8 +1,8 @@
-#include "platform/qt/bounded_canvas.h"
-#include "platform/qt/decoded_cache.h"
-#include "platform/qt/drawing_thread.h"
-#include "platform/qt/picture_file.h"
-#include "platform/qt/svg_guard.h"
+#include "page/pictures/bounded_canvas.h"
+#include "page/pictures/decoded_cache.h"
+#include "page/pictures/drawing_thread.h"
+#include "page/pictures/picture_file.h"
+#include "page/pictures/svg_guard.h"
 
 #include <QBuffer>
 #include <QPainter>
@@ -13,8 +13,8 @@
 
 namespace {
 
-using platform::guardSvg;
-using platform::pictureFrom;
+using page::guardSvg;
+using page::pictureFrom;
 
 QByteArray svg(const QByteArray& content, const QByteArray& attributes = {}) {
     return "<svg xmlns='http://www.w3.org/2000/svg' xmlns:xlink='http://www.w3.org/1999/xlink' "
@@ -135,8 +135,8 @@ TEST(SvgBounds, dashesWithoutEndAreALine) {
 }
 
 TEST(BoundedCanvas, drawsNothingMoreOnceItIsGivenUp) {
-    platform::GivenUp givenUp = false;
-    platform::BoundedCanvas canvas({9, 9}, givenUp);
+    page::GivenUp givenUp = false;
+    page::BoundedCanvas canvas({9, 9}, givenUp);
     QPainter painter(&canvas);
     painter.fillRect(0, 0, 4, 9, Qt::red);
     givenUp = true;
@@ -148,41 +148,41 @@ TEST(BoundedCanvas, drawsNothingMoreOnceItIsGivenUp) {
 
 TEST(DrawingThread, leavesBehindWhatTakesTooLongAndOnlyAFewOfThem) {
     using namespace std::chrono_literals;
-    const platform::Patience none{0ms, 0ms};
+    const page::Patience none{0ms, 0ms};
     const auto ended = std::make_shared<std::atomic<int>>(0);
     const auto goOn = std::make_shared<std::atomic<bool>>(false);
-    const auto stubborn = [ended, goOn](const platform::GivenUp& givenUp) {
+    const auto stubborn = [ended, goOn](const page::GivenUp& givenUp) {
         while (!givenUp || !*goOn)
             std::this_thread::sleep_for(1ms);
         ++*ended;
     };
-    for (int i = 0; i < platform::kMostLeftBehind; ++i)
-        EXPECT_FALSE(platform::doInTime(stubborn, none));
+    for (int i = 0; i < page::kMostLeftBehind; ++i)
+        EXPECT_FALSE(page::doInTime(stubborn, none));
     int done = 0;
-    const auto work = [&done](const platform::GivenUp&) { ++done; };
-    EXPECT_FALSE(platform::doInTime(work)) << "too many are left behind";
+    const auto work = [&done](const page::GivenUp&) { ++done; };
+    EXPECT_FALSE(page::doInTime(work)) << "too many are left behind";
     *goOn = true;
-    while (*ended < platform::kMostLeftBehind)
+    while (*ended < page::kMostLeftBehind)
         std::this_thread::sleep_for(1ms);
     // The last of them may still be on its way out.
-    while (!platform::doInTime(work))
+    while (!page::doInTime(work))
         std::this_thread::sleep_for(1ms);
-    EXPECT_TRUE(platform::doInTime(work));
+    EXPECT_TRUE(page::doInTime(work));
     EXPECT_EQ(done, 2);
 }
 
 TEST(DecodedCache, holdsABoundedPartOfManyPictures) {
     const QByteArray photo = wide(1000, 900);
     const QByteArray drawing = svg(inside(wide(990, 1000)));
-    std::vector<std::shared_ptr<const platform::Picture>> page;
+    std::vector<std::shared_ptr<const page::Picture>> page;
     for (int i = 0; i < 20; ++i) {
         page.push_back(pictureFrom(photo));
         page.push_back(pictureFrom(drawing));
         for (const auto& picture : {page[page.size() - 2], page.back()})
             EXPECT_FALSE(picture->image({900, 800}).isNull());
-        EXPECT_LE(platform::decoded::bytes(), platform::kMostDecodedBytes);
+        EXPECT_LE(page::decoded::bytes(), page::kMostDecodedBytes);
     }
-    EXPECT_GT(platform::decoded::bytes(), platform::kMostDecodedBytes / 2);
+    EXPECT_GT(page::decoded::bytes(), page::kMostDecodedBytes / 2);
     // What was let go of is decoded anew, to the same pixels.
     for (const std::size_t at : {0, 1}) {
         EXPECT_EQ(page[at]->image({900, 800}), page[page.size() - 2 + at]->image({900, 800}));
@@ -190,7 +190,7 @@ TEST(DecodedCache, holdsABoundedPartOfManyPictures) {
                   pictureFrom(page[at]->bytes())->image(page[at]->size()));
     }
     page.clear();
-    EXPECT_EQ(platform::decoded::bytes(), 0);
+    EXPECT_EQ(page::decoded::bytes(), 0);
 }
 
 } // namespace

@@ -1,5 +1,5 @@
+#include "output/svg/svg_file.h"
 #include "platform/sheets.h"
-#include "platform/svg/svg_file.h"
 
 #include <QBuffer>
 #include <QProcess>
@@ -9,7 +9,7 @@
 
 namespace {
 
-using platform::FillMode;
+using page::FillMode;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -75,7 +75,7 @@ QImage coarse(const QImage& image) {
 }
 
 /// A picture file in four colours, as large as it is painted.
-class PngPicture : public platform::Picture {
+class PngPicture : public page::Picture {
 public:
     PngPicture() : image_(64, 32, QImage::Format_RGB32) {
         QPainter painter(&image_);
@@ -89,7 +89,7 @@ public:
     }
     QSize size() const override { return image_.size(); }
     QImage image(QSize pixels) const override { return image_.scaled(pixels); }
-    platform::PictureFormat format() const override { return platform::PictureFormat::Png; }
+    page::PictureFormat format() const override { return page::PictureFormat::Png; }
     const QByteArray& bytes() const override { return bytes_; }
 
 private:
@@ -101,8 +101,8 @@ struct Svg : testing::Test, SheetCase {
     /// Twips of the surface as a pixel of the sheet.
     static QPoint inSheet(QPoint twips) { return (twips + QPoint(150, 150)) / 15; }
 
-    QByteArray document(const platform::LinkAddress& address = {}, double scale = 1) const {
-        return platform::svgDocument(sheet(), fonts, address, scale);
+    QByteArray document(const output::LinkAddress& address = {}, double scale = 1) const {
+        return output::svgDocument(sheet(), fonts, address, scale);
     }
 };
 
@@ -167,7 +167,7 @@ TEST_F(Svg, hasTextAsUnicodeAsWideAsItWasMeasured) {
     for (const QString& value : values(svg, "text", "textLength"))
         EXPECT_GT(value.toDouble(), 0);
     EXPECT_NEAR(values(svg, "text", "textLength")[0].toDouble() * 15,
-                std::get<platform::TextOperation>(recording.operations()[0]).width, 0.01);
+                std::get<page::TextOperation>(recording.operations()[0]).width, 0.01);
     EXPECT_TRUE(values(svg, "text", "font-family")[3].startsWith(u"Liberation Serif"));
 }
 
@@ -187,7 +187,7 @@ TEST_F(Svg, staysReadableWhateverThePageHolds) {
 }
 
 TEST_F(Svg, storesEachPictureOnce) {
-    const auto paint = [&](std::shared_ptr<const platform::Picture> picture) {
+    const auto paint = [&](std::shared_ptr<const page::Picture> picture) {
         surface.paint(std::move(picture), 300, 300, {}, false);
     };
     const auto picture = std::make_shared<PngPicture>();
@@ -207,7 +207,7 @@ TEST_F(Svg, storesEachPictureOnce) {
 }
 
 TEST_F(Svg, linksLeadWhereTheAddressSays) {
-    platform::LinkOperation link;
+    page::LinkOperation link;
     link.caption = QStringLiteral("la loi\r\nde Descartes");
     link.tag = QStringLiteral("PAG013");
     link.tooltip = QStringLiteral("vers la \"loi\"");

@@ -1,4 +1,4 @@
-#include "platform/cairo/jpeg_header.h"
+#include "output/pdf/jpeg_header.h"
 
 #include <QBuffer>
 #include <QImage>
@@ -17,8 +17,8 @@ QByteArray jpegFile(QImage::Format format) {
 }
 
 TEST(JpegHeader, tellsTheSize) {
-    EXPECT_EQ(platform::jpegSize(jpegFile(QImage::Format_RGB32)), QSize(70, 30));
-    EXPECT_EQ(platform::jpegSize(jpegFile(QImage::Format_Grayscale8)), QSize(70, 30));
+    EXPECT_EQ(output::jpegSize(jpegFile(QImage::Format_RGB32)), QSize(70, 30));
+    EXPECT_EQ(output::jpegSize(jpegFile(QImage::Format_Grayscale8)), QSize(70, 30));
 }
 
 TEST(JpegHeader, refusesWhatAReaderOfPdfCouldNotShow) {
@@ -32,14 +32,13 @@ TEST(JpegHeader, refusesWhatAReaderOfPdfCouldNotShow) {
     for (const auto& row : rows) {
         QByteArray bad = good;
         bad[frame + row.offset] = row.value;
-        EXPECT_EQ(platform::jpegSize(bad), std::nullopt) << row.offset;
+        EXPECT_EQ(output::jpegSize(bad), std::nullopt) << row.offset;
     }
     // A file cut anywhere before its size, and bytes that are no JPEG file.
     for (qsizetype size = 0; size < frame + 9; ++size)
-        EXPECT_EQ(platform::jpegSize(good.left(size)), std::nullopt) << size;
-    EXPECT_EQ(platform::jpegSize(QByteArray("\xFF\xD8").append(QByteArray(50, '\0'))),
-              std::nullopt);
-    EXPECT_EQ(platform::jpegSize(QByteArray("\xFF\xD8").append(QByteArray(50, '\xFF'))),
+        EXPECT_EQ(output::jpegSize(good.left(size)), std::nullopt) << size;
+    EXPECT_EQ(output::jpegSize(QByteArray("\xFF\xD8").append(QByteArray(50, '\0'))), std::nullopt);
+    EXPECT_EQ(output::jpegSize(QByteArray("\xFF\xD8").append(QByteArray(50, '\xFF'))),
               std::nullopt);
 }
 

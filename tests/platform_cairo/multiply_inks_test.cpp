@@ -1,18 +1,16 @@
-#include "platform/multiply_inks.h"
-#include "platform/surface.h"
+#include "page/multiply_inks.h"
+#include "page/surface.h"
 #include "support/fixed_metrics.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-using platform::FillMode;
+using page::FillMode;
 
 class MultiplyInks : public testing::Test {
 protected:
-    std::vector<QRgb> inks() const {
-        return platform::multiplyInks(recording.operations(), metrics);
-    }
+    std::vector<QRgb> inks() const { return page::multiplyInks(recording.operations(), metrics); }
     void text(QRgb ink, double y = 100) {
         surface.setPenX(100);
         surface.setPenY(y);
@@ -24,8 +22,8 @@ protected:
     }
 
     test_support::FixedMetrics metrics;
-    platform::Recording recording;
-    platform::Surface surface{platform::SurfaceId::PictureTexte, 9000, metrics, recording};
+    page::Recording recording;
+    page::Surface surface{page::SurfaceId::PictureTexte, 9000, metrics, recording};
 };
 
 TEST_F(MultiplyInks, productsOfWhatIsCoveredAreTheAnd) {

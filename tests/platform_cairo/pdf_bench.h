@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/cairo/pdf_file.h"
-#include "platform/qt/raster_surface.h"
-#include "platform/surface.h"
+#include "output/pdf/pdf_file.h"
+#include "output/raster/raster_surface.h"
+#include "page/surface.h"
 #include "support/files.h"
 #include "support/recording_text.h"
 
@@ -15,9 +15,9 @@
 namespace test_support {
 
 /// A picture that is a file in memory.
-class FilePicture : public platform::Picture {
+class FilePicture : public page::Picture {
 public:
-    FilePicture(QByteArray bytes, platform::PictureFormat format)
+    FilePicture(QByteArray bytes, page::PictureFormat format)
         : bytes_(std::move(bytes)), format_(format), image_(QImage::fromData(bytes_)) {}
 
     QSize size() const override { return image_.size(); }
@@ -25,14 +25,14 @@ public:
         ++decoded;
         return image_.scaled(pixels);
     }
-    platform::PictureFormat format() const override { return format_; }
+    page::PictureFormat format() const override { return format_; }
     const QByteArray& bytes() const override { return bytes_; }
 
     mutable int decoded = 0;
 
 private:
     QByteArray bytes_;
-    platform::PictureFormat format_;
+    page::PictureFormat format_;
     QImage image_;
 };
 
@@ -42,14 +42,14 @@ class PdfBench : public testing::Test {
 protected:
     static constexpr double kLeft = 1500, kTop = 900;
 
-    platform::Sheet sheet(int number = 0, const QString& title = {}) const {
-        platform::Sheet sheet;
+    page::Sheet sheet(int number = 0, const QString& title = {}) const {
+        page::Sheet sheet;
         sheet.width = kLeft + 9600;
         sheet.height = kTop + 6600;
         sheet.title = title;
         sheet.number = number;
-        sheet.surfaces = {{platform::SurfaceId::PictureTexte, kLeft, kTop, 9000, 6000}};
-        platform::putOnSheet(recording, fonts, sheet);
+        sheet.surfaces = {{page::SurfaceId::PictureTexte, kLeft, kTop, 9000, 6000}};
+        page::putOnSheet(recording, fonts, sheet);
         return sheet;
     }
 
@@ -57,11 +57,10 @@ protected:
         return directory.filePath(name);
     }
 
-    void write(const std::vector<platform::Sheet>& sheets,
-               const platform::PdfDocument& document = {},
+    void write(const std::vector<page::Sheet>& sheets, const output::PdfDocument& document = {},
                const QString& name = QStringLiteral("pages.pdf")) {
-        platform::PdfFile pdf(path(name), fonts, document);
-        for (const platform::Sheet& one : sheets)
+        output::PdfFile pdf(path(name), fonts, document);
+        for (const page::Sheet& one : sheets)
             ASSERT_TRUE(pdf.addSheet(one)) << qPrintable(pdf.error());
         ASSERT_TRUE(pdf.finish()) << qPrintable(pdf.error());
     }
@@ -100,7 +99,7 @@ protected:
     QImage shown() const { return page().copy(100, 60, 600, 400); }
 
     QImage onScreen() const {
-        platform::RasterSurface raster(platform::SurfaceId::PictureTexte, 600, fonts, 0xffffffff);
+        output::RasterSurface raster(page::SurfaceId::PictureTexte, 600, fonts, 0xffffffff);
         raster.play(recording);
         return raster.image(400);
     }
@@ -112,9 +111,9 @@ protected:
     }
 
     QTemporaryDir directory;
-    platform::FontBook fonts;
-    platform::Recording recording;
-    platform::Surface surface{platform::SurfaceId::PictureTexte, 9000, fonts, recording};
+    page::FontBook fonts;
+    page::Recording recording;
+    page::Surface surface{page::SurfaceId::PictureTexte, 9000, fonts, recording};
 };
 
 } // namespace test_support

@@ -16,7 +16,7 @@ class PdfFailures : public test_support::PdfBench {
 protected:
     /// What is said of a file with one page that cannot be written; no page, when `pages` is 0.
     QString failure(const QString& name, int pages = 1) {
-        platform::PdfFile pdf(path(name), fonts, {});
+        output::PdfFile pdf(path(name), fonts, {});
         for (int i = 0; i < pages; ++i)
             pdf.addSheet(sheet());
         EXPECT_FALSE(pdf.finish());
@@ -37,7 +37,7 @@ TEST_F(PdfFailures, aPlaceThatCannotBeWrittenIsTold) {
 TEST_F(PdfFailures, anUnfinishedFileLeavesTheFormerOne) {
     test_support::writeFile(path(), "ancien");
     {
-        platform::PdfFile pdf(path(), fonts, {});
+        output::PdfFile pdf(path(), fonts, {});
         EXPECT_TRUE(pdf.addSheet(sheet()));
     }
     EXPECT_EQ(test_support::readFile(path()), QByteArray("ancien"));
@@ -85,20 +85,20 @@ TEST_F(PdfFailures, oddDrawingsGiveASoundFile) {
     surface.line(-kHuge, 100, kHuge, 3e38);
     surface.line(-kHuge, 100, kHuge, 100);
     surface.line(5, 5, 5, 5);
-    surface.fill(-kHuge, -kHuge, 2 * kHuge, 2 * kHuge, 0xffdce6ff, platform::FillMode::Mask);
-    surface.fill(kNan, 0, kNan, 50, 0xffdce6ff, platform::FillMode::Copy);
-    surface.fill(0, 0, -50, 50, 0xffdce6ff, platform::FillMode::Copy);
-    const auto empty = std::make_shared<test_support::FilePicture>(QByteArray("rompu"),
-                                                                   platform::PictureFormat::Jpeg);
+    surface.fill(-kHuge, -kHuge, 2 * kHuge, 2 * kHuge, 0xffdce6ff, page::FillMode::Mask);
+    surface.fill(kNan, 0, kNan, 50, 0xffdce6ff, page::FillMode::Copy);
+    surface.fill(0, 0, -50, 50, 0xffdce6ff, page::FillMode::Copy);
+    const auto empty =
+        std::make_shared<test_support::FilePicture>(QByteArray("rompu"), page::PictureFormat::Jpeg);
     surface.setPenX(0);
     surface.setPenY(0);
     for (const double size : {0.0, -5.0, 400.0, kHuge, kNan})
         surface.paint(empty, size, size, QStringLiteral("rompu.jpg"), false);
     surface.paint(nullptr, 100, 100, QStringLiteral("rien"), false);
-    platform::Sheet page = sheet(1);
-    page.links.push_back({platform::SurfaceId::PictureTexte, kNan, -kHuge, kHuge, 1, u"x"_qs, {}});
-    page.links.push_back({platform::SurfaceId::Titre, 0, 0, 50, 50, u"x"_qs, {}});
-    platform::Sheet none;
+    page::Sheet page = sheet(1);
+    page.links.push_back({page::SurfaceId::PictureTexte, kNan, -kHuge, kHuge, 1, u"x"_qs, {}});
+    page.links.push_back({page::SurfaceId::Titre, 0, 0, 50, 50, u"x"_qs, {}});
+    page::Sheet none;
     none.width = none.height = 0;
     write({page, none}, {QString(), QString(), [](const QString&) { return 1; }});
     run(QStringLiteral("qpdf"), {QStringLiteral("--check"), path()});

@@ -5,7 +5,7 @@
 
 namespace {
 
-using platform::SurfaceId;
+using page::SurfaceId;
 
 class PdfFile : public test_support::PdfBench {
 protected:
@@ -128,7 +128,7 @@ TEST_F(PdfFile, everyLetterStandsWhereTheFontBookPutsIt) {
 }
 
 TEST_F(PdfFile, linksOutlineLabelsAndMetadata) {
-    platform::LinkOperation link;
+    page::LinkOperation link;
     link.x = 1500;
     link.y = 300;
     link.width = 900;
@@ -167,8 +167,8 @@ TEST_F(PdfFile, linksOutlineLabelsAndMetadata) {
 
 TEST_F(PdfFile, theSameSheetsGiveTheSameBytes) {
     printIn(u"Arial", 150, QStringLiteral("Un texte"));
-    surface.fill(0, 0, 3000, 600, 0xffdce6ff, platform::FillMode::Mask);
-    const platform::PdfDocument document{QStringLiteral("é"), {}, pageOfTag};
+    surface.fill(0, 0, 3000, 600, 0xffdce6ff, page::FillMode::Mask);
+    const output::PdfDocument document{QStringLiteral("é"), {}, pageOfTag};
     write({sheet(12), sheet(13)}, document);
     write({sheet(12), sheet(13)}, document, QStringLiteral("autre.pdf"));
     const QByteArray bytes = test_support::readFile(path());
@@ -181,7 +181,7 @@ TEST_F(PdfFile, facesAreSubsetsEmbeddedOnce) {
     printIn(u"Symbol", 450, QStringLiteral("l"));
     surface.setItalic(true);
     printIn(u"Symbol", 750, QStringLiteral("l"));
-    std::vector<platform::Sheet> sheets(20, sheet());
+    std::vector<page::Sheet> sheets(20, sheet());
     write(sheets);
     const QStringList faces = listed(QStringLiteral("pdffonts"));
     ASSERT_EQ(faces.size(), 3);
@@ -194,7 +194,7 @@ TEST_F(PdfFile, facesAreSubsetsEmbeddedOnce) {
 TEST_F(PdfFile, aSheetTallerThanPdfAllowsIsScaledAsAWhole) {
     printIn(u"Arial", 150, QStringLiteral("haut"));
     printIn(u"Arial", 599'000, QStringLiteral("bas"));
-    platform::Sheet tall = sheet(12);
+    page::Sheet tall = sheet(12);
     tall.height = kTop + 600'000;
     tall.surfaces[0].height = 600'000;
     tall.links.push_back({SurfaceId::PictureTexte, 0, 599'000, 1500, 300, u"PAG012"_qs, {}});
@@ -213,12 +213,12 @@ TEST_F(PdfFile, aSheetTallerThanPdfAllowsIsScaledAsAWhole) {
 TEST_F(PdfFile, surfacesStandWhereTheyArePlacedAndAreCut) {
     printIn(u"Arial", 150, QStringLiteral("visible"));
     printIn(u"Arial", 6300, QStringLiteral("dessous"));
-    surface.fill(8000, 0, 3000, 9000, 0xffff0000, platform::FillMode::Copy);
-    platform::Surface title(SurfaceId::Titre, 9000, fonts, recording);
+    surface.fill(8000, 0, 3000, 9000, 0xffff0000, page::FillMode::Copy);
+    page::Surface title(SurfaceId::Titre, 9000, fonts, recording);
     title.print(QStringLiteral("titre"));
-    platform::Surface other(SurfaceId::PictureIllus, 9000, fonts, recording);
+    page::Surface other(SurfaceId::PictureIllus, 9000, fonts, recording);
     other.print(QStringLiteral("ailleurs"));
-    platform::Sheet page = sheet();
+    page::Sheet page = sheet();
     page.surfaces.insert(page.surfaces.begin(), {SurfaceId::Titre, 1500, 150, 9000, 480});
     write({page});
     EXPECT_EQ(text().simplified(), QString("titre visible"));

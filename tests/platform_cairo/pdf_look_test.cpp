@@ -41,15 +41,15 @@ protected:
 };
 
 TEST_F(PdfLook, fillsAndLinesArePixelForPixelThose) {
-    surface.fill(150, 150, 3000, 600, 0xffdce6ff, platform::FillMode::Copy);
-    surface.fill(0, 300, 600, 150, 0xffffff90, platform::FillMode::Mask);
-    surface.fill(155, 900, 148, 301, 0xff804020, platform::FillMode::Copy);
+    surface.fill(150, 150, 3000, 600, 0xffdce6ff, page::FillMode::Copy);
+    surface.fill(0, 300, 600, 150, 0xffffff90, page::FillMode::Mask);
+    surface.fill(155, 900, 148, 301, 0xff804020, page::FillMode::Copy);
     for (int i = 0; i < 60; ++i) // a gradient whose strips are no whole pixels
         surface.fill(4000, 150 + i * 33.3, 3000, 33.3, qRgb(255, 255, 200 + 55 * i / 60),
-                     platform::FillMode::Copy);
+                     page::FillMode::Copy);
     for (int i = 0; i < 60; ++i)
         surface.fill(4000, 3000 + i * 15, 3000, 15, qRgb(255, 255, 200 + 55 * i / 60),
-                     platform::FillMode::Mask);
+                     page::FillMode::Mask);
     surface.line(150, 2000, 3000, 2000);
     surface.setLineWidth(3);
     surface.line(3007, 2000, 3007, 2400);
@@ -61,7 +61,7 @@ TEST_F(PdfLook, fillsAndLinesArePixelForPixelThose) {
 
 TEST_F(PdfLook, noPaperShowsBetweenTheStripsOfAGradient) {
     for (int i = 0; i < 100; ++i)
-        surface.fill(0, i * 45, 9000, 45, 0xff000080, platform::FillMode::Copy);
+        surface.fill(0, i * 45, 9000, 45, 0xff000080, page::FillMode::Copy);
     write({sheet()});
     // A reader that blends edges which are no pixels of its own, as most do; poppler moves them.
     run(u"mutool"_qs,
@@ -83,20 +83,20 @@ TEST_F(PdfLook, picturesUnderMaskFillsHaveTheColoursOfTheScreen) {
     QBuffer file(&bytes);
     ASSERT_TRUE(colours.save(&file, "png"));
     const auto picture =
-        std::make_shared<test_support::FilePicture>(bytes, platform::PictureFormat::Png);
+        std::make_shared<test_support::FilePicture>(bytes, page::PictureFormat::Png);
     const auto paint = [&](double x, double y, double width, double height) {
         surface.setPenX(x);
         surface.setPenY(y);
         surface.paint(picture, width, height, {}, false);
     };
-    surface.fill(0, 0, 9000, 1500, 0xffffff90, platform::FillMode::Copy);
+    surface.fill(0, 0, 9000, 1500, 0xffffff90, page::FillMode::Copy);
     paint(150, 150, 900, 600);
     paint(1500, 195, 1800, 1200); // stretched
     paint(4500, 150, 900, 600);
     paint(6000, 150, 900, 600); // no fill touches it
-    surface.fill(300, 300, 2400, 300, 0xffdce6c8, platform::FillMode::Mask);
-    surface.fill(0, 450, 4000, 300, 0xff80a0f0, platform::FillMode::Mask);
-    surface.fill(4500, 150, 900, 600, 0xff643296, platform::FillMode::Mask);
+    surface.fill(300, 300, 2400, 300, 0xffdce6c8, page::FillMode::Mask);
+    surface.fill(0, 450, 4000, 300, 0xff80a0f0, page::FillMode::Mask);
+    surface.fill(4500, 150, 900, 600, 0xff643296, page::FillMode::Mask);
     compare();
     const struct {
         int left, top, scale;
@@ -121,7 +121,7 @@ TEST_F(PdfLook, textUnderAMaskFillStaysInItsInk) {
     print(150, 150, QStringLiteral("nnn"));
     surface.setInk(0xff000000);
     print(3000, 150, QStringLiteral("nnn"));
-    surface.fill(0, 150, 6000, 360, 0xffdce6ff, platform::FillMode::Mask);
+    surface.fill(0, 150, 6000, 360, 0xffdce6ff, page::FillMode::Mask);
     compare();
     const QRect coloured(12, 10, 60, 20);
     EXPECT_GT(inked(screen, coloured, 0xffdce6ff), 300);
@@ -141,14 +141,14 @@ TEST_F(PdfLook, inkLeansOutOfASurfaceAndNothingElseDoes) {
     surface.line(0, line, 9000, line);
     const std::size_t standing = recording.size();
     print(0, line, QStringLiteral("Ébène")); // its line was never ended
-    surface.fill(0, line, 3000, 300, 0xff804020, platform::FillMode::Copy);
-    platform::Sheet exact = sheet();
+    surface.fill(0, line, 3000, 300, 0xff804020, page::FillMode::Copy);
+    page::Sheet exact = sheet();
     exact.surfaces[0].height = line;
     // The same in the middle of a large surface.
-    platform::Sheet free = exact;
+    page::Sheet free = exact;
     free.operations.resize(standing);
-    free.surfaces[0] = {platform::SurfaceId::PictureTexte, 0, 0, 12000, 6000};
-    for (platform::Operation& operation : free.operations)
+    free.surfaces[0] = {page::SurfaceId::PictureTexte, 0, 0, 12000, 6000};
+    for (page::Operation& operation : free.operations)
         std::visit(
             [](auto& drawn) {
                 if constexpr (requires { drawn.x1; }) {

@@ -1,4 +1,4 @@
-#include "platform/cairo/cairo_pictures.h"
+#include "output/pdf/cairo_pictures.h"
 #include "platform_cairo/pdf_bench.h"
 #include "support/fake_pictures.h"
 
@@ -7,7 +7,7 @@
 
 namespace {
 
-using platform::PictureFormat;
+using page::PictureFormat;
 using test_support::FilePicture;
 
 class PdfPictures : public test_support::PdfBench {
@@ -51,7 +51,7 @@ TEST_F(PdfPictures, aPhotographPassesThroughOnce) {
     // The same bytes in another object, as another page loads them; sizes and shapes differ.
     const auto again = std::make_shared<FilePicture>(file, PictureFormat::Jpeg);
     paint(picture, 150, 150, 1800, 1200);
-    const platform::Sheet first = sheet();
+    const page::Sheet first = sheet();
     paint(again, 3000, 1500, 2100, 600);
     write({first, sheet(), sheet()});
     const auto rows = images();
@@ -69,7 +69,7 @@ TEST_F(PdfPictures, aPhotographPassesThroughOnce) {
 TEST_F(PdfPictures, othersKeepEveryPixelAndTheirTransparency) {
     const QImage image = drawing(QImage::Format_ARGB32_Premultiplied);
     const auto picture = std::make_shared<FilePicture>(saved(image, "PNG"), PictureFormat::Png);
-    surface.fill(0, 0, 9000, 6000, 0xffdce6ff, platform::FillMode::Copy);
+    surface.fill(0, 0, 9000, 6000, 0xffdce6ff, page::FillMode::Copy);
     paint(picture, 150, 150, 1800, 1200);
     paint(picture, 3000, 150, 1800, 1200);
     write({sheet(), sheet()});
@@ -122,7 +122,7 @@ TEST_F(PdfPictures, drawingsBecomeFinePixels) {
 }
 
 TEST(CairoPictures, aPageHoldsABoundedNumberOfPixels) {
-    platform::CairoPictures pictures(600'000);
+    output::CairoPictures pictures(600'000);
     std::vector<std::shared_ptr<test_support::PlainPicture>> page;
     const auto widthOf = [&](std::size_t at) {
         cairo_surface_t* surface = pictures.surface(page[at], {100, 100});

@@ -1,5 +1,5 @@
-#include "platform/qt/escape_watch.h"
-#include "platform/qt/look/scroll_bar.h"
+#include "look/scroll_bar.h"
+#include "output/paper/escape_watch.h"
 #include "printing/print_case.h"
 
 #include <QCoreApplication>
@@ -24,7 +24,7 @@ TEST_F(PagePrinter, aPageAloneHasItsColumnInTheMiddleAndNoMention) {
     EXPECT_NEAR(words[0].left, left, 20);
     EXPECT_NEAR(words[1].right, left + 9000, 20);
     // The footer is centred, two lines above the foot of what can be printed.
-    platform::Font font;
+    page::Font font;
     const double height = bench->fonts.height(font);
     EXPECT_NEAR(words.last().right + words[2].left, paper.width, 30);
     EXPECT_NEAR((words[2].top + words[2].bottom) / 2,
@@ -86,7 +86,7 @@ TEST_F(PagePrinter, theScreenIsLeftAlone) {
     const QString tall = QStringLiteral("Une ligne¶\r\n##IMAABSENTE.BMP\r\n").repeated(120);
     open({record(1, "1", "2", tall),
           record(2, "", "", "##OBJILLUS\r\nnulle part¶\r\n##OBJPRINCIPAL\r\n##SI24\r\n")});
-    auto* bar = bench->control<platform::look::ScrollBar>("VScroll1");
+    auto* bar = bench->control<look::ScrollBar>("VScroll1");
     bar->setValue(bar->minimum() / 2);
     const auto seen = [&] {
         return std::tuple(bench->window.recording().size(), bar->minimum(), bar->maximum(),
@@ -149,7 +149,7 @@ TEST_F(PagePrinter, aJobIsBoundedAndEndsAfterTheSheetInWorkWhenStopped) {
             if (stopped.sheets == 3)
                 QCoreApplication::postEvent(&row.to, row.event());
         };
-        platform::EscapeWatch watch(window);
+        output::EscapeWatch watch(window);
         const auto run = pages(stopped, [&] { return watch.isAsked(); }).imprimepage();
         EXPECT_EQ(stopped.sheets, row.sheets);
         EXPECT_EQ(run.printed, row.sheets);

@@ -1,4 +1,4 @@
-#include "platform/surface.h"
+#include "page/surface.h"
 #include "support/fake_pictures.h"
 #include "support/fixed_metrics.h"
 #include "support/printing.h"
@@ -8,8 +8,8 @@
 
 namespace {
 
-using platform::FillMode;
-using platform::TextOperation;
+using page::FillMode;
+using page::TextOperation;
 
 /// Paper with room for 10,000 twips above a footer of 200.
 constexpr platform::Paper kPaper{12000, 11700, 600, 600, 10800, 10500};
@@ -27,19 +27,19 @@ protected:
         surface.paint(std::make_shared<test_support::PlainPicture>(QSize(1, 1)), 3000, height, "p",
                       false);
     }
-    std::vector<platform::Sheet> sheets(const platform::Paper& paper = kPaper) const {
+    std::vector<page::Sheet> sheets(const platform::Paper& paper = kPaper) const {
         return viewer::layOnPaper(recording, {QStringLiteral("pied"), {}}, paper, metrics);
     }
 
     /// What stands on a sheet: texts with their heights, "image" and "blanc" with theirs.
-    static QStringList on(const platform::Sheet& sheet) {
+    static QStringList on(const page::Sheet& sheet) {
         QStringList all;
         for (const auto& operation : sheet.operations)
             if (const auto* text = std::get_if<TextOperation>(&operation))
                 all.append(text->text + QStringLiteral(" %1").arg(text->y));
-            else if (const auto* painted = std::get_if<platform::PictureOperation>(&operation))
+            else if (const auto* painted = std::get_if<page::PictureOperation>(&operation))
                 all.append(QStringLiteral("image %1").arg(painted->y));
-            else if (const auto* fill = std::get_if<platform::FillOperation>(&operation))
+            else if (const auto* fill = std::get_if<page::FillOperation>(&operation))
                 all.append(QStringLiteral("%1 %2")
                                .arg(fill->ink == 0xffffffff ? "blanc" : "fond")
                                .arg(fill->y));
@@ -47,8 +47,8 @@ protected:
     }
 
     test_support::FixedMetrics metrics;
-    platform::Recording recording;
-    platform::Surface surface{platform::SurfaceId::Printer, 9000, metrics, recording};
+    page::Recording recording;
+    page::Surface surface{page::SurfaceId::Printer, 9000, metrics, recording};
 };
 
 TEST_F(PaperLayout, everyLineOfALongPageStandsWholeOnOneSheet) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/qt/qt_printer.h"
+#include "output/paper/qt_printer.h"
 #include "printing/printed_pdf.h"
 #include "viewer/page_printer.h"
 #include "viewer/window_bench.h"
@@ -15,7 +15,7 @@ class CountingPrinter : public platform::Printer {
 public:
     platform::Paper paper() const override { return platform::kPlainPaper; }
     bool begin(const QString&) override { return ++jobs > 0; }
-    bool print(const platform::Sheet&) override {
+    bool print(const page::Sheet&) override {
         ++sheets;
         if (whilePrinting)
             whilePrinting();
@@ -72,8 +72,8 @@ protected:
     }
 
     QTemporaryDir directory;
-    platform::FontBook fonts;
-    platform::QtPrinter printer{fonts};
+    page::FontBook fonts;
+    output::QtPrinter printer{fonts};
     std::unique_ptr<WindowBench> bench;
 };
 

@@ -71,7 +71,7 @@ protected:
         const std::filesystem::path course = directory.filePath("cours").toStdString();
         if (!std::filesystem::exists(course))
             coursetool::build(DEMONSTRATION_COURSE, course, report);
-        platform::FontBook fonts;
+        page::FontBook fonts;
         coursetool::ToolPictures pictures(course, {}, report);
         coursetool::print({course, page, directory.filePath(file).toStdString(), {}}, fonts,
                           pictures, report);

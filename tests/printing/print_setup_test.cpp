@@ -1,6 +1,6 @@
-#include "platform/qt/look/palette.h"
-#include "platform/qt/print_setup.h"
-#include "platform/qt/print_setup_dialog.h"
+#include "look/palette.h"
+#include "look/print_setup.h"
+#include "look/print_setup_dialog.h"
 #include "support/fake_prompter.h"
 #include "support/files.h"
 #include "support/printing.h"
@@ -41,7 +41,7 @@ protected:
 };
 
 TEST_F(PrintSetup, enterHeldDownConfirmsNothingAndTabStopsAtTheChosenOption) {
-    platform::PrintSetupDialog dialog(
+    look::PrintSetupDialog dialog(
         {QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Landscape, {10, 10, 10, 10}),
          path("a.pdf")},
         prompter, nullptr);
@@ -54,10 +54,10 @@ TEST_F(PrintSetup, enterHeldDownConfirmsNothingAndTabStopsAtTheChosenOption) {
 }
 
 TEST_F(PrintSetup, theControlsGiveTheLayout) {
-    platform::PrintSetupDialog dialog({QPageLayout(QPageSize(QPageSize::A5), QPageLayout::Landscape,
-                                                   {12, 13, 14, 15}, QPageLayout::Millimeter),
-                                       path("a.pdf")},
-                                      prompter, nullptr);
+    look::PrintSetupDialog dialog({QPageLayout(QPageSize(QPageSize::A5), QPageLayout::Landscape,
+                                               {12, 13, 14, 15}, QPageLayout::Millimeter),
+                                   path("a.pdf")},
+                                  prompter, nullptr);
     const auto shown = dialog.settings();
     EXPECT_EQ(shown.layout.pageSize().id(), QPageSize::A5);
     EXPECT_EQ(shown.layout.orientation(), QPageLayout::Landscape);
@@ -80,8 +80,8 @@ TEST_F(PrintSetup, theControlsGiveTheLayout) {
 }
 
 TEST_F(PrintSetup, theToolkitsControlsLookLikeOurOwn) {
-    using namespace platform::look;
-    platform::PrintSetupDialog dialog({QPageLayout(), path("a.pdf")}, prompter, nullptr);
+    using namespace look;
+    look::PrintSetupDialog dialog({QPageLayout(), path("a.pdf")}, prompter, nullptr);
     dialog.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
     const auto edgeOf = [&](const QWidget* control) {
@@ -113,7 +113,7 @@ TEST_F(PrintSetup, theFileIsLookedForWhereItStands) {
     } rows[] = {{path("cours/a.pdf"), path("cours"), "a.pdf"},
                 {path("nulle/part.pdf"), QDir::homePath(), "part.pdf"}};
     for (const auto& row : rows) {
-        platform::PrintSetupDialog dialog({QPageLayout(), row.file}, prompter, nullptr);
+        look::PrintSetupDialog dialog({QPageLayout(), row.file}, prompter, nullptr);
         dialog.show();
         QTimer::singleShot(0, [&row] {
             auto* files = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
@@ -148,7 +148,7 @@ TEST_F(PrintSetup, onlyAFileThatCanBeWrittenIsConfirmed) {
         SCOPED_TRACE(qPrintable(row.file));
         prompter.messages.clear();
         prompter.answers = row.answers;
-        platform::PrintSetupDialog dialog({QPageLayout(), row.file}, prompter, nullptr);
+        look::PrintSetupDialog dialog({QPageLayout(), row.file}, prompter, nullptr);
         dialog.show();
         dialog.accept();
         EXPECT_EQ(dialog.result() == QDialog::Accepted, row.isConfirmed);
@@ -162,9 +162,9 @@ TEST_F(PrintSetup, onlyAFileThatCanBeWrittenIsConfirmed) {
 TEST_F(PrintSetup, whatWasChosenHoldsForTheRun) {
     if (!QPrinterInfo::availablePrinterNames().isEmpty())
         GTEST_SKIP() << "this computer has a printer";
-    platform::FontBook fonts;
-    platform::QtPrinter printer(fonts);
-    platform::QtPrinterSetup setup(printer, prompter);
+    page::FontBook fonts;
+    output::QtPrinter printer(fonts);
+    look::QtPrinterSetup setup(printer, prompter);
     const auto answer = [&](const std::function<void(QWidget&)>& person) {
         QTimer::singleShot(0, [&person] { person(*QApplication::activeModalWidget()); });
         return setup.ask();

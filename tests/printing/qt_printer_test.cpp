@@ -1,8 +1,8 @@
-#include "platform/cairo/pdf_printer.h"
-#include "platform/qt/picture_file.h"
-#include "platform/qt/qt_printer.h"
-#include "platform/qt/svg_picture.h"
-#include "platform/surface.h"
+#include "output/paper/qt_printer.h"
+#include "output/pdf/pdf_printer.h"
+#include "page/pictures/picture_file.h"
+#include "page/pictures/svg_picture.h"
+#include "page/surface.h"
 #include "printing/printed_pdf.h"
 #include "support/fake_pictures.h"
 #include "viewer/paper_layout.h"
@@ -12,7 +12,7 @@
 
 namespace {
 
-using platform::FillMode;
+using page::FillMode;
 using test_support::PrintedPdf;
 
 class QtPrinter : public testing::Test {
@@ -35,12 +35,12 @@ protected:
 
     /// The same page by both printers.
     void printBoth() {
-        platform::QtPrinter qt(fonts);
+        output::QtPrinter qt(fonts);
         qt.device().setOutputFormat(QPrinter::PdfFormat);
         qt.device().setOutputFileName(path("qt.pdf"));
         qt.device().setPageSize(QPageSize(QPageSize::A4));
         printTo(qt);
-        platform::PdfPrinter cairo(path("cairo.pdf"), fonts);
+        output::PdfPrinter cairo(path("cairo.pdf"), fonts);
         printTo(cairo);
     }
 
@@ -68,18 +68,18 @@ protected:
     }
 
     /// A drawing of 40 pixels.
-    static std::shared_ptr<const platform::Picture> disc() {
-        return platform::SvgPicture::read("<svg xmlns='http://www.w3.org/2000/svg' width='40' "
-                                          "height='40'><circle cx='20' cy='20' r='15' "
-                                          "fill='#800000'/></svg>");
+    static std::shared_ptr<const page::Picture> disc() {
+        return page::SvgPicture::read("<svg xmlns='http://www.w3.org/2000/svg' width='40' "
+                                      "height='40'><circle cx='20' cy='20' r='15' "
+                                      "fill='#800000'/></svg>");
     }
 
     QString path(const QString& name) const { return directory.filePath(name); }
 
     QTemporaryDir directory;
-    platform::FontBook fonts;
-    platform::Recording recording;
-    platform::Surface surface{platform::SurfaceId::Printer, 9000, fonts, recording};
+    page::FontBook fonts;
+    page::Recording recording;
+    page::Surface surface{page::SurfaceId::Printer, 9000, fonts, recording};
 };
 
 TEST_F(QtPrinter, textIsTextWhereTheFontBookPutsIt) {
@@ -162,7 +162,7 @@ TEST_F(QtPrinter, drawingsAreAsFineAsPrintAndPhotographsKeepTheirPixels) {
     surface.paint(disc(), 3000, 3000, "a.svg", false);
     surface.paint(std::make_shared<test_support::PlainPicture>(QSize(300, 200)), 600, 600, "b.bmp",
                   false);
-    platform::QtPrinter qt(fonts);
+    output::QtPrinter qt(fonts);
     qt.device().setOutputFormat(QPrinter::PdfFormat);
     qt.device().setOutputFileName(path("qt.pdf"));
     printTo(qt);
@@ -176,11 +176,11 @@ TEST_F(QtPrinter, drawingsAreAsFineAsPrintAndPhotographsKeepTheirPixels) {
 /// A file is written by what the printer was given for it.
 TEST_F(QtPrinter, lettersOfSignFacesAreFoundInFiles) {
     print(u"Symbol", 0, QStringLiteral("lWab"));
-    platform::QtPrinter qt(fonts, [](const QString& file, const platform::FontBook& book,
-                                     const platform::Paper& paper) {
-        return std::unique_ptr<platform::Printer>(
-            std::make_unique<platform::PdfPrinter>(file, book, paper));
-    });
+    output::QtPrinter qt(
+        fonts, [](const QString& file, const page::FontBook& book, const platform::Paper& paper) {
+            return std::unique_ptr<platform::Printer>(
+                std::make_unique<output::PdfPrinter>(file, book, paper));
+        });
     qt.device().setOutputFormat(QPrinter::PdfFormat);
     const struct {
         QPageSize::PageSizeId size;
@@ -213,14 +213,14 @@ TEST_F(QtPrinter, lettersOfSignFacesAreFoundInFiles) {
 
 /// What a page shows again on a later sheet.
 TEST_F(QtPrinter, aPictureShowsOnEverySheetOfTheFile) {
-    const auto picture = platform::SvgPicture::read(
+    const auto picture = page::SvgPicture::read(
         "<svg xmlns='http://www.w3.org/2000/svg' width='50' height='50'><rect x='40' y='40' "
         "width='10' height='10' fill='#f00'/></svg>");
     for (const double y : {0.0, 20000.0}) {
         surface.setPenY(y);
         surface.paint(picture, 3000, 3000, "p", false);
     }
-    platform::PdfPrinter cairo(path("cairo.pdf"), fonts);
+    output::PdfPrinter cairo(path("cairo.pdf"), fonts);
     printTo(cairo);
     for (const char* sheet : {"1", "2"}) {
         PrintedPdf::run("pdftoppm", {"-r", "96", "-f", sheet, "-l", sheet, "-singlefile", "-png",

@@ -1,7 +1,7 @@
 #include "coursetool/tables.h"
 #include "jet/unicode.h"
 #include "jet/writer.h"
-#include "platform/qt/look/palette.h"
+#include "look/palette.h"
 #include "search/coordon.h"
 #include "support/files.h"
 #include "support/plain_words.h"
@@ -123,7 +123,7 @@ TEST_F(CoordonWindow, ListsWhatItsBoxesAskFor) {
     open();
     EXPECT_EQ(window->height(), 132);
     EXPECT_EQ(lines(), "-");
-    EXPECT_EQ(ground("Command2"), platform::look::kBlue);
+    EXPECT_EQ(ground("Command2"), look::kBlue);
     EXPECT_EQ(control<QLineEdit>("Text1").accessibleName(),
               QStringLiteral("Saisir le(s) mot(s) à rechercher :"));
     search(QStringLiteral("l"));
@@ -135,8 +135,8 @@ TEST_F(CoordonWindow, ListsWhatItsBoxesAskFor) {
     EXPECT_EQ(lines(), "La lumière 102|L’indice 104");
     EXPECT_EQ(window->height(), 280);
     // Blue is what is likely to be wanted next; the arrow key leads there from the words.
-    EXPECT_EQ(ground("Command2"), platform::look::kPaper);
-    EXPECT_EQ(ground("Command3"), platform::look::kBlue);
+    EXPECT_EQ(ground("Command2"), look::kPaper);
+    EXPECT_EQ(ground("Command3"), look::kBlue);
     control<QLineEdit>("Text1").setFocus();
     QTest::keyClick(&control<QLineEdit>("Text1"), Qt::Key_Down);
     EXPECT_TRUE(list().hasFocus());
@@ -184,8 +184,8 @@ TEST_F(CoordonWindow, TitlesStandInTheListToTheLetter) {
     // Of the line that is chosen the words are white.
     const QImage chosen =
         list().viewport()->grab(list().visualRect(list().currentIndex())).toImage();
-    EXPECT_EQ(chosen.pixel(chosen.width() - 1, 2), platform::look::kBlue);
-    EXPECT_TRUE(has(chosen, platform::look::kPaper));
+    EXPECT_EQ(chosen.pixel(chosen.width() - 1, 2), look::kBlue);
+    EXPECT_TRUE(has(chosen, look::kPaper));
     EXPECT_GT(inkedColumns(0), inkedColumns(1) + 5) << "the sign before the letter";
     EXPECT_GT(inkedColumns(2), 150) << "the signs of a markup";
 }
@@ -244,7 +244,7 @@ TEST_F(CoordonWindow, StaysAliveDuringALongSearch) {
     EXPECT_TRUE(bar.isVisible());
     EXPECT_GT(bar.value(), 1);
     EXPECT_EQ(bar.maximum(), 4'999);
-    EXPECT_TRUE(has(bar.grab().toImage(), platform::look::kBlue));
+    EXPECT_TRUE(has(bar.grab().toImage(), look::kBlue));
     EXPECT_FALSE(control<QPushButton>("Command3").isEnabled());
     // Neither Enter nor the button starts it anew meanwhile.
     control<QCheckBox>("Checkmots").click();

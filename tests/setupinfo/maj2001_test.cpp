@@ -1,5 +1,5 @@
+#include "look/spaced_label.h"
 #include "platform/error_box_starter.h"
-#include "platform/qt/look/spaced_label.h"
 #include "platform/qt/qt_processes.h"
 #include "setupinfo/maj2001.h"
 #include "support/fake_prompter.h"
@@ -96,7 +96,7 @@ TEST_F(Maj2001, longRecordsGoOnBelow) {
         return sum;
     };
     const auto inkOf = [&ink](const QString& text, int width) {
-        platform::look::SpacedLabel lines(22, 16, nullptr);
+        look::SpacedLabel lines(22, 16, nullptr);
         lines.setText(text);
         lines.resize(width, lines.heightForWidth(width));
         lines.setStyleSheet(QStringLiteral("background: white"));

@@ -1,4 +1,4 @@
-#include "shell/course_directory.h"
+#include "coursedata/course_directory.h"
 #include "support/files.h"
 
 #include <QTemporaryDir>
@@ -19,7 +19,7 @@ TEST(CourseDirectory, isTheNamedOneOrTheFirstThatHoldsACourse) {
         {{}, empty.path(), "/no/such/directory", empty.path()},
     };
     for (const auto& row : rows) {
-        EXPECT_EQ(shell::chooseCourseDirectory({row.named, row.program, row.demonstration}),
+        EXPECT_EQ(coursedata::chooseCourseDirectory({row.named, row.program, row.demonstration}),
                   row.expected);
     }
 }

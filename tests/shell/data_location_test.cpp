@@ -1,4 +1,4 @@
-#include "shell/data_location.h"
+#include "coursedata/data_location.h"
 #include "support/fake_beeper.h"
 #include "support/fake_prompter.h"
 #include "support/files.h"
@@ -34,10 +34,10 @@ struct DataLocation : testing::Test, platform::Drives {
 
     QTemporaryDir work;
     std::map<QChar, QString> letters_;
-    shell::SharedState state;
+    coursedata::DataDirectories state;
     test_support::FakePrompter prompter;
     test_support::FakeBeeper beeper;
-    shell::DataLocation location{state, *this, prompter, beeper};
+    coursedata::DataLocation location{state, *this, prompter, beeper};
 };
 
 TEST_F(DataLocation, prefersTheInstallationDirectoryThenTheHighestLetter) {
@@ -94,7 +94,7 @@ TEST_F(DataLocation, asksForTheDiscUntilItIsThereOrGivenUp) {
             return Answer::Retry;
         }
     } inserting(*this);
-    shell::DataLocation retrying(state, *this, inserting, beeper);
+    coursedata::DataLocation retrying(state, *this, inserting, beeper);
     EXPECT_EQ(short_(retrying.locatePicture("fig.gif")), "d/ZEKXDATA/fig.gif");
     EXPECT_EQ(inserting.asked, 2);
     EXPECT_EQ(beeper.beeps, 1);

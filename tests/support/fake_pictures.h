@@ -10,7 +10,7 @@
 namespace test_support {
 
 /// A picture of one colour.
-class PlainPicture : public platform::Picture {
+class PlainPicture : public page::Picture {
 public:
     explicit PlainPicture(QSize size, QColor colour = Qt::red) : size_(size), colour_(colour) {}
 
@@ -20,7 +20,7 @@ public:
         image.fill(colour_);
         return image;
     }
-    platform::PictureFormat format() const override { return platform::PictureFormat::Bmp; }
+    page::PictureFormat format() const override { return page::PictureFormat::Bmp; }
     const QByteArray& bytes() const override { return bytes_; }
 
 private:
@@ -39,21 +39,21 @@ public:
             whileLooking();
         return anyName || files.contains(name) ? name : QString();
     }
-    std::shared_ptr<const platform::Picture> load(const QString& path) override {
+    std::shared_ptr<const page::Picture> load(const QString& path) override {
         return anyName ? plain_ : files[path];
     }
-    std::shared_ptr<const platform::Picture> symbol(const QString& key) override {
+    std::shared_ptr<const page::Picture> symbol(const QString& key) override {
         return anyName ? plain_ : symbols.contains(key) ? symbols[key] : nullptr;
     }
 
-    std::map<QString, std::shared_ptr<const platform::Picture>> files;
-    std::map<QString, std::shared_ptr<const platform::Picture>> symbols;
+    std::map<QString, std::shared_ptr<const page::Picture>> files;
+    std::map<QString, std::shared_ptr<const page::Picture>> symbols;
     QStringList asked;
     std::function<void()> whileLooking;
     bool anyName = false; ///< whether every name and key has a picture
 
 private:
-    std::shared_ptr<const platform::Picture> plain_ = std::make_shared<PlainPicture>(QSize(80, 60));
+    std::shared_ptr<const page::Picture> plain_ = std::make_shared<PlainPicture>(QSize(80, 60));
 };
 
 } // namespace test_support

@@ -1,20 +1,20 @@
 #pragma once
 
-#include "platform/text_metrics.h"
+#include "page/text_metrics.h"
 
 namespace test_support {
 
 /// Metrics one can reckon with: at 10 points a character is 100 twips wide and a line 200 high,
 /// other sizes in proportion. "Symbol" is half as high again, so that a change of face shows.
-class FixedMetrics : public platform::TextMetrics {
+class FixedMetrics : public page::TextMetrics {
 public:
-    double width(const platform::Font& font, QStringView text) const override {
+    double width(const page::Font& font, QStringView text) const override {
         return static_cast<double>(text.size()) * 10 * font.points;
     }
-    double height(const platform::Font& font) const override {
+    double height(const page::Font& font) const override {
         return (font.face == u"Symbol" ? 30 : 20) * font.points;
     }
-    double ascent(const platform::Font& font) const override { return 16 * font.points; }
+    double ascent(const page::Font& font) const override { return 16 * font.points; }
 };
 
 } // namespace test_support

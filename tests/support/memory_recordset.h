@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/recordset.h"
+#include "coursedata/recordset.h"
 
 #include <QList>
 #include <QMap>
@@ -10,9 +10,9 @@
 namespace test_support {
 
 /// A table in memory. Field names are those of the first record.
-class MemoryRecordset : public platform::Recordset {
+class MemoryRecordset : public coursedata::Recordset {
 public:
-    using Record = QMap<QString, platform::FieldValue>;
+    using Record = QMap<QString, coursedata::FieldValue>;
 
     explicit MemoryRecordset(QList<Record> all) : records(std::move(all)) {}
 
@@ -30,17 +30,17 @@ public:
         return !records.isEmpty() && records.first().contains(name);
     }
 
-    std::optional<platform::FieldValue> field(const QString& name) const override {
+    std::optional<coursedata::FieldValue> field(const QString& name) const override {
         if (position_ < 0 || !hasField(name) || unreadable.contains(name))
             return std::nullopt;
         return records[position_].value(name);
     }
 
     void forEach(const QStringList& fields,
-                 const std::function<void(int, std::span<const platform::FieldValue>)>& visit)
+                 const std::function<void(int, std::span<const coursedata::FieldValue>)>& visit)
         const override {
         for (int position = 0; position < recordCount(); ++position) {
-            std::vector<platform::FieldValue> values;
+            std::vector<coursedata::FieldValue> values;
             for (const QString& name : fields)
                 values.push_back(records[position].value(name));
             visit(position, values);

@@ -13,7 +13,7 @@ QString colour(QRgb ink) {
                              : QStringLiteral(" #%1").arg(ink & 0xffffff, 6, 16, QLatin1Char('0'));
 }
 
-QString type(const platform::Font& font) {
+QString type(const page::Font& font) {
     QString words = QStringLiteral(" %1 %2").arg(font.face).arg(font.points);
     if (font.bold)
         words += QStringLiteral(" bold");
@@ -25,34 +25,33 @@ QString type(const platform::Font& font) {
 }
 
 /// Captions are nearly always in the type that a page starts with.
-QString captionType(const platform::Font& font) {
-    return font == platform::Font() ? QString() : type(font);
+QString captionType(const page::Font& font) {
+    return font == page::Font() ? QString() : type(font);
 }
 
 struct Describe {
-    QString operator()(const platform::TextOperation& text) const {
+    QString operator()(const page::TextOperation& text) const {
         return QStringLiteral("print %1 \"%2\"").arg(point(text.x, text.y), text.text) +
                type(text.font) + colour(text.ink);
     }
-    QString operator()(const platform::LineOperation& line) const {
+    QString operator()(const page::LineOperation& line) const {
         return QStringLiteral("line %1 %2").arg(point(line.x1, line.y1), point(line.x2, line.y2)) +
                colour(line.ink);
     }
-    QString operator()(const platform::FillOperation& fill) const {
+    QString operator()(const page::FillOperation& fill) const {
         return QStringLiteral("fill %1 %2%3")
                    .arg(point(fill.x, fill.y), point(fill.width, fill.height),
-                        fill.mode == platform::FillMode::Mask ? QStringLiteral(" mask")
-                                                              : QString()) +
+                        fill.mode == page::FillMode::Mask ? QStringLiteral(" mask") : QString()) +
                colour(fill.ink);
     }
-    QString operator()(const platform::PictureOperation& picture) const {
+    QString operator()(const page::PictureOperation& picture) const {
         return QStringLiteral("%1 %2 %3 %4")
             .arg(picture.symbol ? QStringLiteral("symbol") : QStringLiteral("picture"),
                  point(picture.x, picture.y), point(picture.width, picture.height), picture.name);
     }
-    QString operator()(const platform::LinkOperation& link) const {
+    QString operator()(const page::LinkOperation& link) const {
         QString line = QStringLiteral("link %1(%2) %3 %4 \"%5\" %6")
-                           .arg(platform::linkControlName(link.control))
+                           .arg(page::linkControlName(link.control))
                            .arg(link.index)
                            .arg(point(link.x, link.y), point(link.width, link.height),
                                 link.caption + link.key, link.tag);
@@ -60,15 +59,15 @@ struct Describe {
             line += QStringLiteral(" tip \"%1\"").arg(link.tooltip);
         return line + captionType(link.font) + colour(link.ink);
     }
-    QString operator()(const platform::MenuOperation& menu) const {
+    QString operator()(const page::MenuOperation& menu) const {
         return QStringLiteral("menu %1 %2 \"%3\" %4")
             .arg(menu.menu)
             .arg(menu.entry)
             .arg(menu.caption, menu.target);
     }
-    QString operator()(const platform::FieldOperation& field) const {
+    QString operator()(const page::FieldOperation& field) const {
         QString line = QStringLiteral("field %1(%2) %3 %4")
-                           .arg(platform::fieldControlName(field.control))
+                           .arg(page::fieldControlName(field.control))
                            .arg(field.index)
                            .arg(point(field.x, field.y))
                            .arg(field.width);
@@ -80,28 +79,28 @@ struct Describe {
             line += u' ' + field.tag;
         return line + captionType(field.font) + colour(field.ink);
     }
-    QString operator()(const platform::VideoOperation& video) const {
+    QString operator()(const page::VideoOperation& video) const {
         return QStringLiteral("video ") + video.name;
     }
-    QString operator()(const platform::SwitchOperation& change) const {
-        return QStringLiteral("surface ") + platform::surfaceName(change.surface);
+    QString operator()(const page::SwitchOperation& change) const {
+        return QStringLiteral("surface ") + page::surfaceName(change.surface);
     }
-    QString operator()(const platform::ClearOperation& clear) const {
-        return QStringLiteral("clear ") + platform::surfaceName(clear.surface);
+    QString operator()(const page::ClearOperation& clear) const {
+        return QStringLiteral("clear ") + page::surfaceName(clear.surface);
     }
-    QString operator()(const platform::CaptionOperation& caption) const {
+    QString operator()(const page::CaptionOperation& caption) const {
         return QStringLiteral("caption ") + caption.text;
     }
-    QString operator()(const platform::FailedOperation& failed) const {
+    QString operator()(const page::FailedOperation& failed) const {
         return QStringLiteral("failed %1 %2").arg(failed.line).arg(failed.directive);
     }
 };
 
 } // namespace
 
-QStringList describe(const platform::Recording& recording) {
+QStringList describe(const page::Recording& recording) {
     QStringList lines;
-    for (const platform::Operation& operation : recording.operations())
+    for (const page::Operation& operation : recording.operations())
         lines.append(std::visit(Describe{}, operation));
     return lines;
 }

@@ -58,7 +58,7 @@ TEST_F(Actions, OutOfBoundsRecordsThePageOnceMore) {
 TEST_F(Actions, ReadingOrderHasItsOwnTable) {
     bench.cours.records = {page(3, {}, {{QStringLiteral("Index"), 7.0}}),
                            page(1, {}, {{QStringLiteral("Index"), 8.0}})};
-    viewer::buildPageIndex(bench.cours, bench.state);
+    coursedata::buildPageIndex(bench.cours, bench.state);
     bench.actions.showPageByOrder(8);
     EXPECT_EQ(bench.shown(), QStringLiteral("1"));
     EXPECT_EQ(bench.state.CurrentOrderIndex, 8);

@@ -22,7 +22,7 @@ inline test_support::MemoryRecordset::Record page(int number, const QString& sou
 
 /// The same with some fields changed.
 inline test_support::MemoryRecordset::Record
-page(int number, const QString& source, const QMap<QString, platform::FieldValue>& changes) {
+page(int number, const QString& source, const QMap<QString, coursedata::FieldValue>& changes) {
     auto record = page(number, source);
     record.insert(changes);
     return record;

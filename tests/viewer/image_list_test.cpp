@@ -1,8 +1,9 @@
+#include "coursedata/course_pictures.h"
+#include "coursedata/symbol_names.h"
+#include "shell/shared_state.h"
 #include "support/fake_beeper.h"
 #include "support/fake_prompter.h"
 #include "support/files.h"
-#include "viewer/course_pictures.h"
-#include "viewer/symbol_names.h"
 
 #include <QDir>
 #include <QImage>
@@ -24,18 +25,18 @@ void writePicture(const QString& path, int side) {
 TEST(SymbolNames, beginWithTheKey) {
     for (const char* name :
          {"LK-lien.svg", "lk.PNG", "Lk-a.b.gif", "LK-.jpeg", "LK.bmp", "lK--.jpg"})
-        EXPECT_EQ(viewer::symbolKey(name), "LK") << name;
-    EXPECT_EQ(viewer::symbolKey("+1-plus.svg"), "+1");
+        EXPECT_EQ(coursedata::symbolKey(name), "LK") << name;
+    EXPECT_EQ(coursedata::symbolKey("+1-plus.svg"), "+1");
     for (const char* name : {"", "LK", "LKlien.svg", "LK-lien.txt", "L.svg", ".svg", "a.svg",
                              ".a-x.svg", "é-x.svg", "L -x.svg", "LK lien.svg"})
-        EXPECT_EQ(viewer::symbolKey(name), std::nullopt) << name;
+        EXPECT_EQ(coursedata::symbolKey(name), std::nullopt) << name;
 }
 
 TEST(ImageList, showsEverySymbolOfOurOwn) {
-    viewer::ImageList list({});
+    coursedata::ImageList list({});
     std::set<std::string> keys;
-    for (const std::string_view name : viewer::ownSymbols()) {
-        const auto key = viewer::symbolKey(name);
+    for (const std::string_view name : coursedata::ownSymbols()) {
+        const auto key = coursedata::symbolKey(name);
         ASSERT_TRUE(key) << name;
         EXPECT_TRUE(keys.insert(*key).second) << name;
         const auto symbol = list.symbol(QString::fromStdString(*key));
@@ -62,7 +63,7 @@ TEST(ImageList, aCourseAddsSymbolsAndReplacesOurs) {
     writePicture(folder + "QQ-b.png", 17);
     writePicture(folder + "QQ-a.png", 18);
     test_support::writeFile(folder + "VI-broken.svg", "<svg");
-    viewer::ImageList list(course.path());
+    coursedata::ImageList list(course.path());
     EXPECT_EQ(list.symbol("LK")->size(), QSize(16, 16));
     EXPECT_EQ(list.symbol("qq")->size(), QSize(18, 18));
     EXPECT_EQ(list.symbol("SU")->size(), QSize(24, 24));
@@ -79,9 +80,9 @@ TEST(CoursePictures, readFilesOnceUntilTheyChange) {
     state.InstallDir = course.path() + '/';
     test_support::FakePrompter prompter;
     test_support::FakeBeeper beeper;
-    shell::DataLocation location(state, drives, prompter, beeper);
-    viewer::ImageList symbols(course.path());
-    viewer::CoursePictures pictures(location, symbols);
+    coursedata::DataLocation location(state, drives, prompter, beeper);
+    coursedata::ImageList symbols(course.path());
+    coursedata::CoursePictures pictures(location, symbols);
 
     writePicture(course.filePath("Fig.PNG"), 5);
     const QString path = pictures.locatePicture("x\\fig.png");
@@ -91,7 +92,7 @@ TEST(CoursePictures, readFilesOnceUntilTheyChange) {
     writePicture(path, 300);
     EXPECT_EQ(pictures.load(path)->size(), QSize(300, 300));
 
-    std::weak_ptr<const platform::Picture> old = pictures.load(path);
+    std::weak_ptr<const page::Picture> old = pictures.load(path);
     for (int other = 0; other < 40; ++other) {
         const QString name = course.filePath(QString::number(other));
         test_support::writeFile(name, "no picture");

@@ -5,9 +5,9 @@
 
 namespace {
 
-using platform::LinkControl;
-using platform::LinkOperation;
-using platform::SurfaceId;
+using page::LinkControl;
+using page::LinkOperation;
+using page::SurfaceId;
 
 TEST(LinkName, SaysWhatTheLinkSaysOrLeadsTo) {
     struct Row {

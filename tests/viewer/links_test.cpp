@@ -1,6 +1,6 @@
+#include "look/picture_box.h"
 #include "support/plain_words.h"
 #include "viewer/link_case.h"
-#include "viewer/picture_box.h"
 
 #include <QAccessible>
 #include <QCursor>
@@ -130,7 +130,7 @@ TEST_F(Links, PageIsAsTallAsItsLastLinkAndAnIllustrationOfLinksIsNotBlank) {
 }
 
 TEST_F(Links, NobodyReachesALinkThatCannotBeSeen) {
-    platform::LinkOperation link;
+    page::LinkOperation link;
     link.caption = link.tag = u"PAG002"_qs;
     show(3, u"##LIERTvu#PAG002\r\n¶\r\n"_qs);
     int index = 1;

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "coursedata/page_index.h"
 #include "markup/page_bench.h"
 #include "support/fake_prompter.h"
 #include "viewer/action_dispatcher.h"
 #include "viewer/course.h"
 #include "viewer/fakes.h"
 #include "viewer/main_commands.h"
-#include "viewer/page_index.h"
 #include "viewer/page_loader.h"
 
 namespace test_support {
@@ -63,7 +63,7 @@ public:
     explicit LogicBench(QList<test_support::MemoryRecordset::Record> course)
         : cours(std::move(course)) {
         pages.bindTo(cours);
-        viewer::buildPageIndex(cours, state);
+        coursedata::buildPageIndex(cours, state);
     }
 
     /// Number of the page that is shown.
@@ -83,7 +83,7 @@ public:
     LoggingView view{neighbours.log};
     PageBench window;
     shell::SharedState state;
-    viewer::BoundRecord bound;
+    coursedata::BoundRecord bound;
     viewer::PageLoader pages{state, bound, view, window, window.renderer, neighbours.video};
     viewer::ActionDispatcher actions{
         state, pages, view, neighbours.modules, neighbours.exercise, neighbours.orderForm};

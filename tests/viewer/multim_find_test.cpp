@@ -1,6 +1,6 @@
 // The search in the page shown: its bar, its keys and its marks.
 
-#include "platform/qt/look/palette.h"
+#include "look/palette.h"
 #include "viewer/link_case.h"
 #include "viewer/multim.h"
 #include "viewer/window_case.h"
@@ -11,7 +11,7 @@
 
 namespace {
 
-using namespace platform::look;
+using namespace look;
 using test_support::lines;
 using test_support::Window;
 

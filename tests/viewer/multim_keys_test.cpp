@@ -1,6 +1,6 @@
 // The main window by the keyboard, the wheel and the scroll bar.
 
-#include "platform/qt/look/scroll_bar.h"
+#include "look/scroll_bar.h"
 #include "viewer/multim.h"
 #include "viewer/window_bench.h"
 #include "viewer/window_case.h"
@@ -63,7 +63,7 @@ TEST_F(Window, KeysWalkTheHistory) {
 }
 
 TEST_F(Window, KeysWheelAndBarScrollATallPage) {
-    auto* bar = bench.control<platform::look::ScrollBar>("VScroll1");
+    auto* bar = bench.control<look::ScrollBar>("VScroll1");
     const int height = bench.control<QWidget>("PictureTEXTE")->height();
     const int furthest = height - 424;
     ASSERT_GT(furthest, 424);

@@ -1,8 +1,8 @@
-#include "platform/qt/look/button.h"
-#include "platform/qt/look/palette.h"
-#include "platform/qt/look/scroll_bar.h"
+#include "look/button.h"
+#include "look/palette.h"
+#include "look/picture_box.h"
+#include "look/scroll_bar.h"
 #include "viewer/multim.h"
-#include "viewer/picture_box.h"
 #include "viewer/window_bench.h"
 #include "viewer/window_case.h"
 
@@ -14,8 +14,8 @@
 #include <gmock/gmock.h>
 namespace {
 
+using look::Button;
 using platform::Answer;
-using platform::look::Button;
 using test_support::lines;
 using test_support::page;
 using test_support::Window;
@@ -64,7 +64,7 @@ TEST_F(Window, OpensOnTheFirstPageWithEverythingInPlace) {
     EXPECT_FALSE(bench.control<QWidget>("cover")->isVisible());
     const QImage shown = bench.window.grab().toImage();
     for (const QPoint ruled : {QPoint(400, 63), QPoint(208, 30), QPoint(416, 30)})
-        EXPECT_EQ(shown.pixel(ruled), platform::look::kRule) << ruled.x();
+        EXPECT_EQ(shown.pixel(ruled), look::kRule) << ruled.x();
     EXPECT_EQ(bench.window.windowTitle(), QStringLiteral("Orvalente - KAROPE"));
 }
 
@@ -230,7 +230,7 @@ TEST_F(Window, PagesLeaveNothingBehind) {
         page(5, QStringLiteral("##OBJILLUS\r\nIci¶\r\n##OBJTIT\r\nAutre¶\r\n##TITBARX\r\n"));
     auto* illustration = bench.control<QWidget>("PICTUREILLUS");
     const auto text = [&](const char* name) {
-        return static_cast<viewer::PictureBox*>(bench.control<QWidget>(name))
+        return static_cast<look::PictureBox*>(bench.control<QWidget>(name))
             ->readableText()
             .trimmed();
     };
@@ -255,7 +255,7 @@ TEST_F(Window, LongTitlesStayWithinTheBand) {
         const auto& operations = bench.window.recording().operations();
         double right = 0;
         for (const auto& operation : operations)
-            if (const auto* text = std::get_if<platform::TextOperation>(&operation)) {
+            if (const auto* text = std::get_if<page::TextOperation>(&operation)) {
                 right = std::max(right, text->x + text->width);
                 EXPECT_GE(text->font.points, 13 * 0.75) << "still readable";
             }

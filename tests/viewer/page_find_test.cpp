@@ -1,4 +1,4 @@
-#include "platform/surface.h"
+#include "page/surface.h"
 #include "support/fixed_metrics.h"
 #include "support/printing.h"
 #include "viewer/page_find.h"
@@ -7,7 +7,7 @@
 
 namespace {
 
-using platform::SurfaceId;
+using page::SurfaceId;
 using testing::ElementsAre;
 using viewer::FoundWords;
 using viewer::PageFind;
@@ -34,9 +34,9 @@ protected:
     }
     QStringList find(const QString& typed) const { return find(viewer::typedWords(typed)); }
 
-    platform::Recording recording;
+    page::Recording recording;
     test_support::FixedMetrics metrics;
-    platform::Surface page{SurfaceId::PictureTexte, 9000, metrics, recording};
+    page::Surface page{SurfaceId::PictureTexte, 9000, metrics, recording};
 };
 
 TEST_F(Occurrences, RunOverThePiecesOfALineInReadingOrder) {
@@ -81,7 +81,7 @@ TEST_F(Occurrences, ThatOverlapAreOneAndThoseSideBySideTwo) {
 }
 
 TEST_F(Occurrences, LeaveOutWhatWasWipedButNotTheLinks) {
-    platform::LinkOperation link;
+    page::LinkOperation link;
     link.x = 500;
     link.y = 300;
     link.caption = u"mot\r\nun mot"_qs;
@@ -102,7 +102,7 @@ TEST_F(Occurrences, OfAHostilePageAreBounded) {
 }
 
 TEST_F(Occurrences, AreWalkedFromAPlaceRoundAllParts) {
-    platform::Surface beside(SurfaceId::PictureIllus, 2280, metrics, recording);
+    page::Surface beside(SurfaceId::PictureIllus, 2280, metrics, recording);
     for (const double y : {0, 300, 600, 5000}) // the last is below what can be seen
         print(0, y, u"mot"_qs);
     beside.print(u"mot"_qs);

@@ -1,5 +1,6 @@
+#include "coursedata/page_index.h"
+#include "shell/shared_state.h"
 #include "viewer/course.h"
-#include "viewer/page_index.h"
 
 #include <gmock/gmock.h>
 
@@ -7,7 +8,7 @@
 
 namespace {
 
-using platform::FieldValue;
+using coursedata::FieldValue;
 using test_support::MemoryRecordset;
 using testing::ElementsAre;
 
@@ -20,7 +21,7 @@ MemoryRecordset numbered(const QList<FieldValue>& numbers) {
 
 std::vector<std::int16_t> byNumber(const QList<FieldValue>& numbers) {
     shell::SharedState state;
-    viewer::buildPageIndex(numbered(numbers), state);
+    coursedata::buildPageIndex(numbered(numbers), state);
     return *state.PageByNumber;
 }
 
@@ -30,21 +31,21 @@ TEST(PageIndex, HoldsPositionsWithOneSlotMoreThanTheHighestNumber) {
 
 TEST(PageIndex, TheTableByReadingOrderEndsWithTheHighestIndex) {
     shell::SharedState state;
-    viewer::buildPageIndex(
+    coursedata::buildPageIndex(
         MemoryRecordset({{{QStringLiteral("Numeropage"), 1.0}, {QStringLiteral("Index"), 2.0}},
                          {{QStringLiteral("Numeropage"), 2.0}, {QStringLiteral("Index"), 3.0}}}),
         state);
     EXPECT_THAT(*state.PageByOrder, ElementsAre(0, 0, 0, 1));
     for (const auto& [number, code, print, order] :
          {std::tuple{-1, -1, -1, -1}, {1, 0, 0, 0}, {2, 1, 1, 0}, {3, -1, 0, 1}, {4, -1, -1, -1}}) {
-        EXPECT_EQ(viewer::positionOfCode(state, number).value_or(-1), code) << number;
-        EXPECT_EQ(viewer::positionInPrint(state, number).value_or(-1), print) << number;
-        EXPECT_EQ(viewer::positionByOrder(state, number).value_or(-1), order) << number;
+        EXPECT_EQ(coursedata::positionOfCode(state, number).value_or(-1), code) << number;
+        EXPECT_EQ(coursedata::positionInPrint(state, number).value_or(-1), print) << number;
+        EXPECT_EQ(coursedata::positionByOrder(state, number).value_or(-1), order) << number;
     }
 }
 
 TEST(PageIndex, PassesOverNumbersThatNoCodeCanReach) {
-    EXPECT_THAT(byNumber({-1.0, FieldValue{}, 1.0, 4e9, viewer::kMaxIndexedNumber + 1.0}),
+    EXPECT_THAT(byNumber({-1.0, FieldValue{}, 1.0, 4e9, coursedata::kMaxIndexedNumber + 1.0}),
                 ElementsAre(0, 2, 0));
     EXPECT_THAT(byNumber({}), ElementsAre());
 }
@@ -68,7 +69,7 @@ TEST(PageIndex, KeepsPositionsWithin16Bits) {
 TEST(PageIndex, LetsMessagesRunOverALargeTable) {
     shell::SharedState state;
     int looks = 0;
-    viewer::buildPageIndex(numbered(QList<FieldValue>(25'000, 1.0)), state, [&] { ++looks; });
+    coursedata::buildPageIndex(numbered(QList<FieldValue>(25'000, 1.0)), state, [&] { ++looks; });
     EXPECT_EQ(looks, 2);
 }
 

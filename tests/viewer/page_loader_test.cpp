@@ -5,7 +5,7 @@
 
 namespace {
 
-using platform::FieldValue;
+using coursedata::FieldValue;
 using test_support::page;
 using testing::ElementsAre;
 

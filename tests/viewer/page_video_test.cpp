@@ -84,7 +84,7 @@ protected:
     markup::DrawingState drawing;
     test_support::FakePrompter prompter;
     test_support::FakeBeeper beeper;
-    shell::DataLocation location{state, *this, prompter, beeper};
+    coursedata::DataLocation location{state, *this, prompter, beeper};
     QStringList log;
     FakeDevice* device = nullptr;
     int devices = 0;

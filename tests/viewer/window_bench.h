@@ -1,7 +1,8 @@
 #pragma once
 
+#include "coursedata/page_index.h"
 #include "markup/renderer.h"
-#include "platform/qt/font_book.h"
+#include "page/faces/font_book.h"
 #include "support/fake_pictures.h"
 #include "support/fake_prompter.h"
 #include "support/fake_screen.h"
@@ -10,7 +11,6 @@
 #include "viewer/fakes.h"
 #include "viewer/main_commands.h"
 #include "viewer/multim.h"
-#include "viewer/page_index.h"
 #include "viewer/page_loader.h"
 
 #include <QPushButton>
@@ -55,10 +55,10 @@ public:
     std::function<bool()> whileStarting;
     bool started = false;
 
-    platform::FontBook fonts;
+    page::FontBook fonts;
     shell::SharedState state;
     markup::DrawingState drawing;
-    viewer::BoundRecord bound;
+    coursedata::BoundRecord bound;
     viewer::Multim window{state, fonts, screen};
     FakePictures pictures;
     markup::Renderer renderer{drawing, window, pictures, window.recording()};

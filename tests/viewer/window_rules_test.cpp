@@ -1,6 +1,6 @@
+#include "look/scroll_geometry.h"
 #include "support/fake_screen.h"
 #include "viewer/key_map.h"
-#include "viewer/scroll_geometry.h"
 #include "viewer/window_size_rule.h"
 
 #include <gtest/gtest.h>
@@ -33,14 +33,14 @@ TEST(KeyMap, KnowsTheKeysOfThePage) {
 }
 
 TEST(ScrollGeometry, RunsFromZeroDownToWhatThePageIsTaller) {
-    const viewer::ScrollGeometry tall{6000, 15000};
+    const look::ScrollGeometry tall{6000, 15000};
     EXPECT_TRUE(tall.isNeeded());
     EXPECT_EQ(tall.maximum(), -9000);
     EXPECT_EQ(tall.largeChange(), 5985);
     EXPECT_EQ(tall.held(-20000), -9000);
     EXPECT_EQ(tall.held(5), 0);
-    EXPECT_FALSE((viewer::ScrollGeometry{6000, 6000}).isNeeded());
-    EXPECT_EQ((viewer::ScrollGeometry{6000, 100}).held(-50), 0);
+    EXPECT_FALSE((look::ScrollGeometry{6000, 6000}).isNeeded());
+    EXPECT_EQ((look::ScrollGeometry{6000, 100}).held(-50), 0);
 }
 
 class WindowSizes : public testing::Test {

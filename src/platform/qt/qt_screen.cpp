@@ -16,7 +16,7 @@ QSize logicalSize() {
 
 /// Whole pixels: Qt has rounded the smaller length, and the rounding must not decide a threshold.
 double unscaledTwips(int logicalPixels, double scale) {
-    return std::round(logicalPixels * scale) * kTwipsPerPixel;
+    return std::round(logicalPixels * scale) * page::kTwipsPerPixel;
 }
 
 } // namespace

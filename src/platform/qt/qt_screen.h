@@ -12,8 +12,8 @@ public:
 
     double widthTwips() const override;
     double heightTwips() const override;
-    double twipsPerPixelX() const override { return kTwipsPerPixel; }
-    double twipsPerPixelY() const override { return kTwipsPerPixel; }
+    double twipsPerPixelX() const override { return page::kTwipsPerPixel; }
+    double twipsPerPixelY() const override { return page::kTwipsPerPixel; }
     double scale() const override { return scale_; }
 
 private:

@@ -1,0 +1,36 @@
+#include "coursedata/bound_record.h"
+
+namespace coursedata {
+
+namespace {
+
+void bind(const coursedata::Recordset& records, const QString& field, QString& text) {
+    const auto value = records.field(field);
+    if (value || !records.hasField(field))
+        text = coursedata::shownText(value);
+}
+
+void bind(const coursedata::Recordset& records, const QString& field, bool& checked) {
+    const auto value = records.field(field);
+    if (value || !records.hasField(field))
+        checked = coursedata::isChecked(value);
+}
+
+} // namespace
+
+void BoundRecord::read(const coursedata::Recordset& records) {
+    if (records.absolutePosition() < 0)
+        return;
+    bind(records, QStringLiteral("Numeropage"), TextID);
+    bind(records, QStringLiteral("Index"), TextIndex);
+    bind(records, QStringLiteral("titre"), Textitre);
+    bind(records, QStringLiteral("precedent"), Checkpre);
+    bind(records, QStringLiteral("suite"), Checksui);
+    bind(records, QStringLiteral("imprimable"), Checkimp);
+    bind(records, QStringLiteral("moteur"), Checkmot);
+    bind(records, QStringLiteral("debutimp"), debimp);
+    bind(records, QStringLiteral("finimp"), finimp);
+    bind(records, QStringLiteral("fpc"), code);
+}
+
+} // namespace coursedata

@@ -1,0 +1,146 @@
+#include "look/picture_box.h"
+
+#include "look/palette.h"
+#include "look/picture_accessible.h"
+#include "look/pixels.h"
+#include "page/readable_text.h"
+#include "page/twips.h"
+
+#include <QPaintEvent>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace look {
+
+PictureBox::PictureBox(page::SurfaceId id, int widthPx, QRgb ground, const page::FontBook& fonts,
+                       page::Recording& recording, QWidget* parent)
+    : QWidget(parent), recording_(recording),
+      surface_(id, widthPx * page::kTwipsPerPixel, fonts, recording),
+      raster_(id, widthPx, fonts, ground) {
+    setObjectName(page::surfaceName(id));
+    PictureAccessible::install();
+}
+
+PictureBox::~PictureBox() {
+    delete rim_;
+}
+
+void PictureBox::empty() {
+    raster_.reset();
+    surface_.clear();
+    surface_.setHeightPx(0);
+    controlsFoot_ = 0;
+    marks_ = {};
+    update();
+    updateMargin();
+}
+
+void PictureBox::showDrawing() {
+    const double ratio = devicePixelRatioF();
+    if (ratio != raster_.devicePixelRatio())
+        raster_.setDevicePixelRatio(ratio);
+    raster_.play(recording_);
+    update();
+    updateMargin();
+}
+
+void PictureBox::updateMargin() {
+    if (rim_)
+        rim_->update();
+}
+
+void PictureBox::paintMargin(QPainter& painter, const QRect& exposed) const {
+    raster_.paintMargin(painter, recording_, height() - 2 * inset_,
+                        exposed.translated(-inset_, -inset_));
+}
+
+int PictureBox::pageHeightPx() const {
+    return surface_.heightPx() > 0 ? qCeil(surface_.heightPx())
+                                   : std::max(raster_.drawnHeightPx(), controlsFoot_);
+}
+
+QRect PictureBox::shownArea() const {
+    const int below = followsPage_ ? pageHeightPx() : height();
+    return QRect(0, 0, width(), below).adjusted(inset_, inset_, -inset_, -inset_);
+}
+
+void PictureBox::moveToSurface(QPainter& painter, QPoint place) const {
+    painter.translate(QPoint(inset_, inset_) - place);
+    const double ratio = painter.device()->devicePixelRatioF();
+    const QTransform now = painter.deviceTransform();
+    painter.translate((std::round(now.dx()) - now.dx()) / ratio,
+                      (std::round(now.dy()) - now.dy()) / ratio);
+}
+
+QString PictureBox::readableText() const {
+    return page::readableText(recording_, surface_.id());
+}
+
+void PictureBox::setMarks(Marks marks) {
+    marks_ = std::move(marks);
+    update();
+}
+
+/// The tints are multiplied with what is drawn: letters stay as dark as they are. A frame tells the
+/// current mark from the others for who does not see the tints apart.
+void PictureBox::paintMarks(QPainter& painter, const QRect& exposed) const {
+    using namespace look;
+    const double ratio = painter.device()->devicePixelRatioF();
+    const auto devicePixels = [ratio](const QRectF& mark) {
+        return QRectF(mark.topLeft() * ratio, mark.size() * ratio).toAlignedRect();
+    };
+    // As a region, marks on lines that stand close are one tint where they overlap.
+    QRegion others;
+    for (const QRectF& mark : marks_.others)
+        if (mark.intersects(exposed))
+            others += devicePixels(mark);
+    // The frame is around the mark; at the edge of the surface it is on it.
+    const int edge = qRound(crisp(painter) * ratio);
+    const QRect frame =
+        marks_.current.isNull()
+            ? QRect()
+            : devicePixels(marks_.current).adjusted(-edge, -edge, edge, edge) &
+                  devicePixels(QRectF(QPointF(), size() - 2 * QSize(inset_, inset_)));
+    const QRect current = frame.adjusted(edge, edge, -edge, -edge);
+
+    painter.save();
+    painter.scale(1 / ratio, 1 / ratio);
+    painter.setCompositionMode(QPainter::CompositionMode_Multiply);
+    const auto tint = [&painter](const QRegion& area, QRgb colour) {
+        for (const QRect& part : area)
+            painter.fillRect(part, QColor::fromRgb(colour));
+    };
+    tint(others - frame, kMarkTint);
+    tint(current, kCurrentMarkTint);
+    tint(QRegion(frame) - current, kInk);
+    painter.restore();
+}
+
+void PictureBox::paintEvent(QPaintEvent* event) {
+    // The window may have come to a screen of another density.
+    if (devicePixelRatioF() != raster_.devicePixelRatio())
+        showDrawing();
+    if (inset_ > 0 && isBlank())
+        return;
+    QPainter painter(this);
+    if (inset_ > 0) {
+        drawFrame(painter, rect(), 0, kRule, QColor::fromRgb(kPaper));
+        painter.setClipRect(rect().adjusted(inset_, inset_, -inset_, -inset_));
+    }
+    moveToSurface(painter);
+    const QRect exposed = event->rect().translated(-inset_, -inset_);
+    raster_.paint(painter, exposed);
+    if (inset_ > 0) {
+        // What rises above a first line goes over the rule.
+        painter.save();
+        painter.setClipping(false);
+        painter.scale(1 / raster_.devicePixelRatio(), 1 / raster_.devicePixelRatio());
+        paintMargin(painter, event->rect());
+        painter.restore();
+    }
+    paintMarks(painter, exposed.adjusted(-1, -1, 1, 1));
+}
+
+} // namespace look

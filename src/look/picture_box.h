@@ -1,0 +1,101 @@
+#pragma once
+
+#include "output/raster/raster_surface.h"
+#include "page/faces/font_book.h"
+#include "page/recording.h"
+#include "page/surface.h"
+
+#include <QPointer>
+#include <QRectF>
+#include <QWidget>
+
+#include <vector>
+
+namespace look {
+
+/// A picture surface of the main window: pages draw into its recording, it shows the drawing at
+/// the density of the screen, and screen readers get the text that stands on it. The control is
+/// named after the surface.
+class PictureBox : public QWidget {
+public:
+    /// `widthPx` is the width to draw on; the control itself may be larger, see setInset().
+    PictureBox(page::SurfaceId id, int widthPx, QRgb ground, const page::FontBook& fonts,
+               page::Recording& recording, QWidget* parent);
+    ~PictureBox() override;
+
+    page::Surface& surface() { return surface_; }
+    page::SurfaceId surfaceId() const { return surface_.id(); }
+
+    /// Leaves a border of `pixels` around the drawing, for a fine rule. While nothing is drawn the
+    /// control shows neither, but the window below.
+    void setInset(int pixels) { inset_ = pixels; }
+
+    /// Says that the control is given the height of its page.
+    void setFollowsPage() { followsPage_ = true; }
+
+    /// Says how far down controls stand on the surface, in its pixels: they belong to the page as
+    /// what is drawn does. 0 when there are none.
+    void setControlsFoot(int pixels) { controlsFoot_ = pixels; }
+
+    /// The part of the control where something on the surface shows, at the height the control will
+    /// have for the page as it stands.
+    QRect shownArea() const;
+
+    /// Moves the painter of a control that stands at `place` on this one to the top left corner of
+    /// the surface, and to a whole device pixel: where a screen has one and a half pixels to a
+    /// logical one, a scrolled page would be blurred otherwise.
+    void moveToSurface(QPainter& painter, QPoint place = {}) const;
+
+    /// Logical pixels between the corners of the control and of the surface.
+    int inset() const { return inset_; }
+
+    /// Wipes the picture, for a new page. The recording must have been emptied before.
+    void empty();
+
+    /// Shows what was drawn up to now; it appears at the next repaint.
+    void showDrawing();
+
+    /// Words that were found, in logical pixels of the surface.
+    struct Marks {
+        std::vector<QRectF> others;
+        QRectF current; ///< null for none
+    };
+    /// Shows marks over the drawing, below the links, until empty() or the next call. They belong
+    /// to the window alone: no recording and no paper has them.
+    void setMarks(Marks marks);
+
+    /// The control that shows paintMargin() around this one, and goes with it.
+    void setRim(QWidget* rim) { rim_ = rim; }
+    /// Has it painted anew.
+    void updateMargin();
+    /// Draws what leans out of the surface, as tall as the control is. `painter` is as for
+    /// RasterSurface::paintMargin(); `exposed` is what shows, in pixels of the control.
+    void paintMargin(QPainter& painter, const QRect& exposed) const;
+
+    /// Whether nothing was drawn, as far as it was shown, and no controls stand there.
+    bool isBlank() const { return raster_.isBlank() && controlsFoot_ == 0; }
+
+    /// Height of the page on it, in pixels: what the surface was set to; a page that left it
+    /// without setting one is as tall as what stands on it.
+    int pageHeightPx() const;
+
+    /// The text on the surface, line by line.
+    QString readableText() const;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void paintMarks(QPainter& painter, const QRect& exposed) const;
+
+    page::Recording& recording_;
+    page::Surface surface_;
+    output::RasterSurface raster_;
+    int inset_ = 0;
+    int controlsFoot_ = 0;
+    bool followsPage_ = false;
+    Marks marks_;
+    QPointer<QWidget> rim_;
+};
+
+} // namespace look

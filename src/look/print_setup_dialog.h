@@ -1,0 +1,57 @@
+#pragma once
+
+#include "platform/message_box.h"
+
+#include <QDialog>
+#include <QPageLayout>
+
+#include <array>
+
+class QComboBox;
+class QGridLayout;
+class QLabel;
+class QLineEdit;
+class QSpinBox;
+
+namespace look {
+
+class OptionButton;
+
+/// What can be set up where pages are printed into a PDF file.
+struct PrintSettings {
+    QPageLayout layout;
+    QString file;
+};
+
+/// Size and orientation of the paper, margins, and the file. It confirms only a file that can be
+/// written, and one that is there already after a question.
+class PrintSetupDialog : public QDialog {
+public:
+    /// `prompter` must outlive the dialog.
+    PrintSetupDialog(const PrintSettings& settings, platform::Prompter& prompter, QWidget* parent);
+
+    /// As the controls have it.
+    PrintSettings settings() const;
+
+    void accept() override;
+
+private:
+    void addRow(const QString& caption, QWidget* field, QLayout* row);
+    QLayout* fileRow(const QString& file);
+    QLayout* orientationRow(QPageLayout::Orientation orientation);
+    QLayout* marginRow(const QMarginsF& margins);
+    QLayout* buttonRow();
+    void chooseSize(const QPageSize& size);
+    void browse();
+    void refuse(const QString& sentence);
+
+    platform::Prompter& prompter_;
+    QGridLayout* rows_;
+    QLineEdit* file_;
+    QComboBox* size_;
+    OptionButton* portrait_ = nullptr;
+    OptionButton* landscape_ = nullptr;
+    std::array<QSpinBox*, 4> margins_{}; ///< left, top, right, bottom; millimetres
+};
+
+} // namespace look

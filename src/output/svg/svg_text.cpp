@@ -1,0 +1,109 @@
+#include "output/svg/svg_text.h"
+
+#include "page/printable_text.h"
+#include "page/sign_faces.h"
+#include "page/twips.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+
+namespace output::svg {
+
+namespace {
+
+/// Whether XML 1.0 allows a unit of UTF-16, pairs of surrogates apart.
+bool isAllowed(QChar unit) {
+    return unit.unicode() >= 0x20 && !unit.isSurrogate() && unit.unicode() < 0xFFFE;
+}
+
+void appendUnit(QChar unit, QByteArray& out) {
+    switch (unit.unicode()) {
+    case '&':
+        out += "&amp;";
+        return;
+    case '<':
+        out += "&lt;";
+        return;
+    case '>':
+        out += "&gt;";
+        return;
+    case '"':
+        out += "&quot;";
+        return;
+    default:
+        if (page::showsNothing(unit.unicode()))
+            return;
+        if (page::showsABlank(unit.unicode())) {
+            out += ' ';
+            return;
+        }
+        out += QString(isAllowed(unit) ? unit : QChar(QChar::ReplacementCharacter)).toUtf8();
+    }
+}
+
+} // namespace
+
+void appendEscaped(QStringView text, QByteArray& out) {
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const bool pair =
+            text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate();
+        if (!pair) {
+            appendUnit(text[i], out);
+            continue;
+        }
+        out += text.sliced(i, 2).toUtf8();
+        ++i;
+    }
+}
+
+QByteArray pixels(double twips) {
+    std::array<char, 32> text{};
+    // Rounded first: "-0.0001" must not become "-0".
+    const double value = std::round(twips / page::kTwipsPerPixel * 1000) / 1000 + 0.0;
+    char* end =
+        std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed, 3)
+            .ptr;
+    while (end[-1] == '0')
+        --end;
+    if (end[-1] == '.')
+        --end;
+    return {text.data(), end - text.data()};
+}
+
+QByteArray colour(QRgb ink) {
+    return '#' + QByteArray::number(ink & 0xffffff, 16).rightJustified(6, '0');
+}
+
+QString shownText(const QString& face, const QString& text) {
+    const page::SignFace signs = page::signFace(face);
+    if (signs == page::SignFace::None)
+        return text;
+    QString shown;
+    for (const QChar character : text) {
+        const int code = page::signCode(character);
+        if (code < 0)
+            shown += character;
+        else if (const char32_t sign = page::drawnSignCharacter(signs, code))
+            shown += QString::fromUcs4(&sign, 1);
+    }
+    return shown;
+}
+
+QByteArray families(const QString& face) {
+    if (face.compare(u"Times new roman", Qt::CaseInsensitive) == 0)
+        return "Liberation Serif,Times New Roman,DejaVu Sans,Symbola,serif";
+    if (face.compare(u"Comic Sans MS", Qt::CaseInsensitive) == 0)
+        return "Comic Neue,Comic Sans MS,DejaVu Sans,Symbola,cursive";
+    switch (page::signFace(face)) {
+    case page::SignFace::Symbol:
+        return "Liberation Serif,Times New Roman,DejaVu Sans,Symbola,serif";
+    case page::SignFace::Wingdings:
+        return "Symbola,Segoe UI Symbol,DejaVu Sans,sans-serif";
+    case page::SignFace::None:
+        break;
+    }
+    return "Liberation Sans,Arial,DejaVu Sans,Symbola,sans-serif";
+}
+
+} // namespace output::svg

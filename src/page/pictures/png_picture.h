@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QByteArray>
+#include <QImage>
+
+namespace page {
+
+/// Reads a PNG file that is held in memory: Format_ARGB32, or Format_RGB32 where all is opaque; of
+/// samples of 16 bits eight are left. Null when the file is damaged or has more pixels than
+/// pictures may have (isPictureSize). Qt's own reader lets libpng write its complaints to standard
+/// error.
+QImage readPng(const QByteArray& bytes);
+
+} // namespace page

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "page/field_view.h"
+#include "page/recording.h"
+#include "page/text_metrics.h"
+
+#include <QString>
+
+#include <vector>
+
+namespace page {
+
+// A page as files show it: what stands at its end, on a sheet with room for each of its surfaces.
+
+/// Where a surface stands on the sheet, in twips; what reaches beyond is cut.
+struct PlacedSurface {
+    SurfaceId surface;
+    double x, y, width, height;
+};
+
+/// A place of the sheet that leads elsewhere, in twips of its surface.
+struct LinkArea {
+    SurfaceId surface;
+    double x, y, width, height;
+    QString tag;
+    QString tooltip;
+    QString caption = {}; ///< what the place says, on one line; empty for pictures
+};
+
+struct Sheet {
+    double width, height; ///< twips
+    QString title;        ///< the page's title
+    int number = 0;       ///< its fixed number, 0 when it has none
+    std::vector<PlacedSurface> surfaces;
+    /// Only texts, lines, fills and pictures, in drawing order.
+    std::vector<Operation> operations;
+    std::vector<LinkArea> links;
+};
+
+/// Fills `operations` and `links` of a sheet: what was wiped is gone; links have become their
+/// captions and pictures, answer controls what shows them, on top of the drawing as the controls
+/// are on screen.
+void putOnSheet(const Recording& recording, const TextMetrics& metrics, Sheet& sheet,
+                const FieldPictures& fields = {});
+
+/// The surface that an operation of a sheet draws on.
+SurfaceId surfaceOf(const Operation& operation);
+
+/// Foot of the lowest operation on a surface, in twips; 0 when nothing stands there.
+double drawnHeight(const std::vector<Operation>& operations, SurfaceId surface,
+                   const TextMetrics& metrics);
+
+} // namespace page

@@ -1,8 +1,0 @@
-#pragma once
-
-namespace platform {
-
-/// Twips in a pixel at 96 dots per inch, the resolution that all windows are laid out for.
-inline constexpr double kTwipsPerPixel = 15;
-
-} // namespace platform
