@@ -165,7 +165,7 @@ private:
         const double end = start + room_;
         const double least = start + kLeastFilled * room_;
         const double gentle = cutAbove(end, &Layout::isWhole);
-        const double beforeHeading = cutAbove(headingAbove(gentle), &Layout::isWhole);
+        const double beforeHeading = cutAbove(aboveHeadings(gentle), &Layout::isWhole);
         const double rough = cutAbove(end, &Layout::isText);
         for (const double candidate : {beforeHeading, gentle, rough})
             if (candidate >= least)
@@ -180,6 +180,14 @@ private:
     bool isWhole(const Extent& e) const {
         const double height = e.bottom - e.top;
         return isText(e) || height <= (e.kind == Extent::Kind::Drawing ? room_ : room_ / 2);
+    }
+
+    /// The place, or that above the headings which stand there one below the other: a chapter's, a
+    /// table's, and the table's first row. More than three in a row are no headings.
+    double aboveHeadings(double end) const {
+        for (int i = 0; i < 3; ++i)
+            end = headingAbove(end);
+        return end;
     }
 
     /// Top of the last line above a place when it is a heading, which is all in bold and goes with

@@ -100,6 +100,12 @@ TEST_F(PaperLayout, whereAPageIsCut) {
         {"a heading goes with what follows",
          [&] { line(9000, "a"), line(9500, "t", true), line(9900, "b"), line(12500, "fin"); },
          {{"a 9000"}, {"t 0", "b 400", "fin 3000", "pied 10100"}}},
+        {"so does a heading above the bold first row of a table",
+         [&] {
+             line(9000, "a"), line(9300, "t", true), line(9600, "r", true), line(9900, "b");
+             line(12500, "fin");
+         },
+         {{"a 9000"}, {"t 0", "r 300", "b 600", "fin 3200", "pied 10100"}}},
         {"bold words in a line are no heading",
          [&] { line(9500, "a"), line(9500, "t", true), line(9900, "b"), line(12500, "fin"); },
          {{"a 9500", "t 9500"}, {"b 0", "fin 2600", "pied 10100"}}},
