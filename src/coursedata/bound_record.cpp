@@ -4,21 +4,21 @@ namespace coursedata {
 
 namespace {
 
-void bind(const coursedata::Recordset& records, const QString& field, QString& text) {
+void bind(const Recordset& records, const QString& field, QString& text) {
     const auto value = records.field(field);
     if (value || !records.hasField(field))
-        text = coursedata::shownText(value);
+        text = shownText(value);
 }
 
-void bind(const coursedata::Recordset& records, const QString& field, bool& checked) {
+void bind(const Recordset& records, const QString& field, bool& checked) {
     const auto value = records.field(field);
     if (value || !records.hasField(field))
-        checked = coursedata::isChecked(value);
+        checked = isChecked(value);
 }
 
 } // namespace
 
-void BoundRecord::read(const coursedata::Recordset& records) {
+void BoundRecord::read(const Recordset& records) {
     if (records.absolutePosition() < 0)
         return;
     bind(records, QStringLiteral("Numeropage"), TextID);

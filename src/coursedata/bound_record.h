@@ -21,7 +21,7 @@ struct BoundRecord {
 
     /// Takes over the fields of the current record. A field of it that cannot be read leaves what
     /// its control held; NULL and a field that the table does not have show as empty or unchecked.
-    void read(const coursedata::Recordset& records);
+    void read(const Recordset& records);
 };
 
 } // namespace coursedata

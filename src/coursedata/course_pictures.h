@@ -11,7 +11,7 @@ namespace coursedata {
 /// of the image list.
 class CoursePictures : public markup::PictureShelf {
 public:
-    CoursePictures(coursedata::DataLocation& location, ImageList& symbols)
+    CoursePictures(DataLocation& location, ImageList& symbols)
         : location_(location), symbols_(symbols) {}
 
     QString locatePicture(const QString& name) override { return location_.locatePicture(name); }
@@ -24,7 +24,7 @@ private:
     /// As many as a rich page has.
     static constexpr std::size_t kMostHeld = 32;
 
-    coursedata::DataLocation& location_;
+    DataLocation& location_;
     ImageList& symbols_;
     HeldPictures files_{kMostHeld};
 };

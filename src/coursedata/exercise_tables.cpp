@@ -7,22 +7,22 @@ namespace coursedata {
 
 namespace {
 
-bool isNull(const std::optional<coursedata::FieldValue>& value) {
+bool isNull(const std::optional<FieldValue>& value) {
     return !value || std::holds_alternative<std::monostate>(*value);
 }
 
 /// A field stored into a 16-bit number; nothing for NULL and for what does not fit.
-std::optional<std::int16_t> int16Of(const std::optional<coursedata::FieldValue>& value) {
-    return isNull(value) ? std::nullopt : text::toInt16(coursedata::fieldNumber(value));
+std::optional<std::int16_t> int16Of(const std::optional<FieldValue>& value) {
+    return isNull(value) ? std::nullopt : text::toInt16(fieldNumber(value));
 }
 
-bool equals(const coursedata::FieldValue& value, std::int32_t number) {
-    return !isNull(value) && coursedata::fieldNumber(value) == number;
+bool equals(const FieldValue& value, std::int32_t number) {
+    return !isNull(value) && fieldNumber(value) == number;
 }
 
-std::unique_ptr<coursedata::Recordset> open(const QString& path, const QString& table,
-                                            coursedata::Access access, QStringList& failures) {
-    auto opened = coursedata::openRecordset(path, table, access);
+std::unique_ptr<Recordset> open(const QString& path, const QString& table, Access access,
+                                QStringList& failures) {
+    auto opened = openRecordset(path, table, access);
     if (opened)
         return std::move(*opened);
     failures += QString::fromStdString(opened.error().sentence);
@@ -31,7 +31,7 @@ std::unique_ptr<coursedata::Recordset> open(const QString& path, const QString& 
 
 } // namespace
 
-ExerciseTables openExerciseTables(const QString& installDirectory, coursedata::Access access) {
+ExerciseTables openExerciseTables(const QString& installDirectory, Access access) {
     ExerciseTables tables;
     const auto path = platform::findWithoutCase(installDirectory, kExerciseDatabaseName);
     if (!path) {
@@ -45,15 +45,15 @@ ExerciseTables openExerciseTables(const QString& installDirectory, coursedata::A
     return tables;
 }
 
-TestDescription describeTest(const coursedata::Recordset& description, std::int16_t chapter) {
+TestDescription describeTest(const Recordset& description, std::int16_t chapter) {
     TestDescription found;
     description.forEach(
         {QStringLiteral("Chapitre"), QStringLiteral("Titre"), QStringLiteral("Nbquest")},
-        [&](int, std::span<const coursedata::FieldValue> fields) {
+        [&](int, std::span<const FieldValue> fields) {
             if (!equals(fields[0], chapter))
                 return;
             if (!isNull(fields[1]))
-                found.title = coursedata::shownText(fields[1]);
+                found.title = shownText(fields[1]);
             if (const auto count = int16Of(fields[2]))
                 found.count = count;
         });
@@ -70,7 +70,7 @@ void QuestionRecord::moveTo(std::int32_t reference) {
     std::optional<int> first;
     int last = -1;
     contenu_->forEach({QStringLiteral("REFERENCE")},
-                      [&](int position, std::span<const coursedata::FieldValue> fields) {
+                      [&](int position, std::span<const FieldValue> fields) {
                           if (!first && equals(fields[0], reference))
                               first = position;
                           last = position;
@@ -78,7 +78,7 @@ void QuestionRecord::moveTo(std::int32_t reference) {
     contenu_->setAbsolutePosition(first.value_or(last));
 }
 
-std::optional<coursedata::FieldValue> QuestionRecord::field(const QString& name) const {
+std::optional<FieldValue> QuestionRecord::field(const QString& name) const {
     return contenu_ ? contenu_->field(name) : std::nullopt;
 }
 
@@ -88,11 +88,11 @@ int QuestionRecord::type() const {
 
 std::optional<QString> QuestionRecord::solution() const {
     const auto value = field(QStringLiteral("solution"));
-    return isNull(value) ? std::nullopt : std::optional(coursedata::shownText(value));
+    return isNull(value) ? std::nullopt : std::optional(shownText(value));
 }
 
 QString QuestionRecord::question() const {
-    return coursedata::shownText(field(QStringLiteral("question")));
+    return shownText(field(QStringLiteral("question")));
 }
 
 std::optional<QString> QuestionRecord::setQuestion(const QString& source) {
@@ -102,7 +102,7 @@ std::optional<QString> QuestionRecord::setQuestion(const QString& source) {
 }
 
 QString QuestionRecord::siFaux() const {
-    return coursedata::shownText(field(QStringLiteral("SiFaux")));
+    return shownText(field(QStringLiteral("SiFaux")));
 }
 
 } // namespace coursedata

@@ -17,15 +17,15 @@ inline const QString kExerciseDatabaseName = QStringLiteral("qekx.mdb");
 
 /// The two tables of the exercise database; null for one that could not be opened.
 struct ExerciseTables {
-    std::unique_ptr<coursedata::Recordset> description; ///< "DESCRIPTION": one record a test
-    std::unique_ptr<coursedata::Recordset> contenu;     ///< "Contenu": one record a question
+    std::unique_ptr<Recordset> description; ///< "DESCRIPTION": one record a test
+    std::unique_ptr<Recordset> contenu;     ///< "Contenu": one record a question
     QStringList failures; ///< what could not be opened, and why; a sentence each, not for pupils
 };
 
 /// Opens both tables of the course in `installDirectory`. Opened Writable, `contenu` takes the
 /// changes of authors.
 ExerciseTables openExerciseTables(const QString& installDirectory,
-                                  coursedata::Access access = coursedata::Access::ReadOnly);
+                                  Access access = Access::ReadOnly);
 
 /// What "DESCRIPTION" says of a chapter; absent what it does not say.
 struct TestDescription {
@@ -35,7 +35,7 @@ struct TestDescription {
 
 /// The description of a chapter's test. Of several records the last one that says it counts; empty
 /// when there is no record.
-TestDescription describeTest(const coursedata::Recordset& description, std::int16_t chapter);
+TestDescription describeTest(const Recordset& description, std::int16_t chapter);
 
 /// What tells a question: chapter times 100 plus question number. A question above 100 has the
 /// number of one of the following chapter, and shows that one.
@@ -45,7 +45,7 @@ std::int32_t questionReference(std::int16_t chapter, std::int16_t question);
 class QuestionRecord {
 public:
     /// `contenu` may be null, a table without records; it must outlive this.
-    explicit QuestionRecord(coursedata::Recordset* contenu) : contenu_(contenu) {}
+    explicit QuestionRecord(Recordset* contenu) : contenu_(contenu) {}
 
     /// Makes the first record with this "REFERENCE" current; the last of the table when none has.
     void moveTo(std::int32_t reference);
@@ -60,9 +60,9 @@ public:
     QString siFaux() const; ///< page source of the comment; empty for NULL
 
 private:
-    std::optional<coursedata::FieldValue> field(const QString& name) const;
+    std::optional<FieldValue> field(const QString& name) const;
 
-    coursedata::Recordset* contenu_;
+    Recordset* contenu_;
 };
 
 } // namespace coursedata

@@ -2,6 +2,7 @@
 
 #include "jet/database.h"
 #include "jet/editor.h"
+#include "platform/file_names.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -168,7 +169,7 @@ private:
 
 jet::Result<std::unique_ptr<Recordset>> openRecordset(const QString& path, const QString& table,
                                                       Access access) {
-    TablePlace place{std::filesystem::path(path.toStdU16String()), table.toStdU16String()};
+    TablePlace place{platform::standardPath(path), table.toStdU16String()};
     auto opened = place.open();
     if (!opened)
         return opened.error();

@@ -15,17 +15,17 @@ constexpr int kRecordsAtATime = 10'000;
 
 using Table = std::vector<std::int16_t>;
 
-std::optional<std::int32_t> pageNumber(const coursedata::FieldValue& field) {
+std::optional<std::int32_t> pageNumber(const FieldValue& field) {
     // Nearly every database holds numbers here; the short way counts over 100,000 records.
     if (const double* number = std::get_if<double>(&field))
         return text::toInt32(*number);
     if (std::holds_alternative<std::monostate>(field))
         return std::nullopt;
-    return text::toInt32(coursedata::fieldNumber(field));
+    return text::toInt32(fieldNumber(field));
 }
 
 /// `after`: slots that the table has above its highest number.
-void enter(Table& table, const coursedata::FieldValue& field, int position, std::size_t after) {
+void enter(Table& table, const FieldValue& field, int position, std::size_t after) {
     const auto number = pageNumber(field);
     if (!number || *number < 0 || *number > kMaxIndexedNumber)
         return;
@@ -44,12 +44,12 @@ std::optional<std::int16_t> entry(const std::optional<Table>& table, std::int32_
 
 } // namespace
 
-void buildPageIndex(const coursedata::Recordset& cours, PageIndex& index,
+void buildPageIndex(const Recordset& cours, PageIndex& index,
                     const std::function<void()>& letMessagesRun) {
     Table byNumber;
     Table byOrder;
     cours.forEach({QStringLiteral("Numeropage"), QStringLiteral("Index")},
-                  [&](int position, std::span<const coursedata::FieldValue> fields) {
+                  [&](int position, std::span<const FieldValue> fields) {
                       // Codes reach only numbers below the upper bound, so it has to be one more.
                       enter(byNumber, fields[0], position, 1);
                       enter(byOrder, fields[1], position, 0);

@@ -27,7 +27,7 @@ struct PageIndex {
 /// numbers beyond kMaxIndexedNumber and NULL are not entered; a position beyond 32767 does not fit
 /// its 16-bit entry, which keeps its value. `letMessagesRun` is called now and then, so that a
 /// window stays alive over a large table.
-void buildPageIndex(const coursedata::Recordset& cours, PageIndex& index,
+void buildPageIndex(const Recordset& cours, PageIndex& index,
                     const std::function<void()>& letMessagesRun = {});
 
 // Where a table leads: 0 for a number within its bounds that no page has, which is meant so;

@@ -7,8 +7,7 @@ namespace files {
 // A course is whatever somebody put together; its links could lead to anything that the person may
 // read. So what it names is read only when it stands in its own directory in the end.
 
-/// Whether `file` is a regular file and, followed to its end, lies in `directory`. `file` starts
-/// with `directory` as it is given here.
+/// Whether `file` is a regular file and, followed to its end, lies in `directory`.
 bool isFileWithin(const std::filesystem::path& file, const std::filesystem::path& directory);
 
 /// The same for a directory.

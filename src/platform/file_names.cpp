@@ -3,6 +3,7 @@
 #include "files/within.h"
 
 #include <QDir>
+#include <QFile>
 
 #include <algorithm>
 
@@ -20,8 +21,8 @@ using IsWithin = bool (*)(const std::filesystem::path& entry,
 
 std::optional<QString> findEntry(const QString& directory, const QString& name, QDir::Filter kind,
                                  IsWithin isWithin, const QString& bounds) {
-    const std::filesystem::path top = bounds.toStdU16String();
-    const auto isThere = [&](const QString& path) { return isWithin(path.toStdU16String(), top); };
+    const std::filesystem::path top = standardPath(bounds);
+    const auto isThere = [&](const QString& path) { return isWithin(standardPath(path), top); };
     // An empty directory would mean the current one, which is nobody's choice.
     if (directory.isEmpty() || name.isEmpty() || lastComponent(name) != name)
         return std::nullopt;
@@ -55,6 +56,14 @@ QString lastComponent(const QString& name) {
     return rest;
 }
 
+std::filesystem::path standardPath(const QString& path) {
+#ifdef Q_OS_WIN
+    return path.toStdWString();
+#else
+    return QFile::encodeName(path).toStdString();
+#endif
+}
+
 std::optional<QString> findWithoutCase(const QString& directory, const QString& name,
                                        const QString& bounds) {
     return findEntry(directory, name, QDir::Files, &files::isFileWithin,
@@ -63,15 +72,6 @@ std::optional<QString> findWithoutCase(const QString& directory, const QString& 
 
 std::optional<QString> findFolderWithoutCase(const QString& directory, const QString& name) {
     return findEntry(directory, name, QDir::Dirs, &files::isDirectoryWithin, directory);
-}
-
-bool staysInside(const QString& directory, const QString& path) {
-    QString inside = QFileInfo(directory).canonicalFilePath();
-    if (inside.isEmpty())
-        return false;
-    if (!inside.endsWith(u'/'))
-        inside += u'/';
-    return QFileInfo(path).canonicalFilePath().startsWith(inside);
 }
 
 } // namespace platform

@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <filesystem>
 #include <optional>
 
 namespace platform {
@@ -12,6 +13,11 @@ namespace platform {
 /// it is looked up.
 QString lastComponent(const QString& name);
 
+/// The path for the standard library. A text that is no name of a file, such as half a character
+/// out of a damaged page, becomes a name that no file has; the library's own conversion would
+/// throw.
+std::filesystem::path standardPath(const QString& path);
+
 /// Path of the file `name` in `directory`: the exact name when there is one, otherwise the first,
 /// in code point order, that differs only in letter case. Hidden files count, directories and
 /// devices do not, nor do links that lead out of `bounds` (the directory itself unless another is
@@ -20,10 +26,6 @@ QString lastComponent(const QString& name);
 /// file name.
 std::optional<QString> findWithoutCase(const QString& directory, const QString& name,
                                        const QString& bounds = {});
-
-/// Whether the file at `path`, followed through all links to its end, stands in `directory` or in a
-/// directory below. False when there is no such file.
-bool staysInside(const QString& directory, const QString& path);
 
 /// The same as findWithoutCase() for a directory, within the one it is looked up in.
 std::optional<QString> findFolderWithoutCase(const QString& directory, const QString& name);

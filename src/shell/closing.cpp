@@ -1,5 +1,6 @@
 #include "shell/closing.h"
 
+#include "files/within.h"
 #include "platform/file_names.h"
 #include "shell/status_place.h"
 #include "shell/title_fragments.h"
@@ -64,7 +65,9 @@ bool Closing::mayQuit(const platform::WindowOwner& owner, bool isHelp) const {
         return false;
     if (isHelp)
         return isHelpViewer(owner.program);
-    return wasStartedHere(owner.pid) || platform::staysInside(state_.InstallDir, owner.program);
+    return wasStartedHere(owner.pid) ||
+           files::isFileWithin(platform::standardPath(owner.program),
+                               platform::standardPath(state_.InstallDir));
 }
 
 bool Closing::wasStartedHere(qint64 pid) const {

@@ -2,6 +2,7 @@
 
 #include "coursedata/course_directory.h"
 #include "files/publication.h"
+#include "platform/file_names.h"
 #include "shell/status_file.h"
 #include "shell/status_place.h"
 
@@ -68,7 +69,7 @@ void StartUp::clearSharedState() {
 /// False when there is no database file. One that cannot be opened is not noticed here.
 bool StartUp::bindDatabase() {
     // A build that was cut short leaves new pages that want their pictures.
-    files::finishPublication(state_.InstallDir.toStdU16String());
+    files::finishPublication(platform::standardPath(state_.InstallDir));
     const std::optional<QString> path = coursedata::findCourseDatabase(state_.InstallDir);
     if (!path)
         return false;

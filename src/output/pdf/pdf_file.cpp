@@ -5,6 +5,7 @@
 #include "output/pdf/cairo_faces.h"
 #include "output/pdf/cairo_pictures.h"
 #include "output/pdf/sheet_player.h"
+#include "platform/file_names.h"
 
 #include <QRectF>
 
@@ -55,7 +56,7 @@ QByteArray numbers(std::initializer_list<double> values) {
 class PdfFile::Writer {
 public:
     Writer(const QString& path, const page::FontBook& fonts, PdfDocument document)
-        : file_(path.toStdU16String()), document_(std::move(document)),
+        : file_(platform::standardPath(path)), document_(std::move(document)),
           player_(fonts, faces_, pictures_) {
         if (file_.error())
             error_ = failure(QStringLiteral("le fichier ne peut pas être créé"), file_.error());

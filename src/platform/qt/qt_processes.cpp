@@ -1,5 +1,6 @@
 #include "platform/qt/qt_processes.h"
 
+#include "files/within.h"
 #include "platform/file_names.h"
 #include "platform/program_kind.h"
 
@@ -32,7 +33,7 @@ ProgramFile findProgram(const QString& program) {
     if (!QFileInfo(path).isFile())
         return {};
     // A course folder could name any program of the person's otherwise.
-    if (!staysInside(directory, path))
+    if (!files::isFileWithin(standardPath(path), standardPath(directory)))
         return {{}, StartFailure::LeadsOut};
     return {path};
 }
