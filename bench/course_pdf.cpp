@@ -7,7 +7,6 @@
 #include "process_memory.h"
 #include "rich_page.h"
 #include "viewer/page_sheet.h"
-#include "viewer/page_title.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -72,9 +71,8 @@ bool writePdf(int count, const QString& directory) {
                          [](const QString& tag) { return tag.mid(3).toInt(); }});
     const QString title = QStringLiteral("La réfraction de la lumière");
     for (int number = 0; number < count; ++number) {
-        page.draw(bench::coursePageSource(number, count));
-        viewer::drawPageTitle(page.title, page.fonts, title);
-        page::Sheet sheet = viewer::pageSheet(page.recording, page.fonts, page.state.hauteurPage);
+        page.draw(bench::coursePageSource(number, count), title);
+        page::Sheet sheet = viewer::pageSheet(page.drawn, page.fonts);
         sheet.title = title;
         sheet.number = number + 1;
         pdf.addSheet(sheet);

@@ -1,9 +1,8 @@
 // Source to recording for pages of 1,000, 10,000 and 100,000 lines: ten times the lines may take at
 // most thirteen times the time.
 
-#include "coursetool/offscreen_page.h"
+#include "bench_page.h"
 #include "no_pictures.h"
-#include "page/faces/font_book.h"
 #include "rich_page.h"
 
 #include <QGuiApplication>
@@ -32,12 +31,12 @@ QString sourceOf(int lines) {
     return source;
 }
 
-double medianMilliseconds(int lines, const page::FontBook& fonts) {
+double medianMilliseconds(int lines) {
     const QString source = sourceOf(lines);
     NoPictures pictures;
+    bench::Page page(pictures);
     std::vector<double> times;
     for (int i = 0; i < 9; ++i) {
-        coursetool::OffscreenPage page(fonts, pictures);
         const auto start = Clock::now();
         page.draw(source);
         times.push_back(std::chrono::duration<double, std::milli>(Clock::now() - start).count());
@@ -51,10 +50,9 @@ double medianMilliseconds(int lines, const page::FontBook& fonts) {
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
-    const page::FontBook fonts;
     double before = 0;
     for (const int lines : {1000, 10'000, 100'000}) {
-        const double time = medianMilliseconds(lines, fonts);
+        const double time = medianMilliseconds(lines);
         std::printf("%7d lines: %8.2f ms", lines, time);
         if (before > 0)
             std::printf(", %.1f times the line above (limit 13)", time / before);

@@ -1,11 +1,10 @@
 // Rich pages, from their source to PNG files in memory: the time of the pixels and of the encoding
 // apart, beside zlib's fastest level on the same rows. png_bench [PAGES]
 
-#include "coursetool/offscreen_page.h"
+#include "bench_page.h"
 #include "no_pictures.h"
 #include "output/png/png_file.h"
 #include "output/raster/sheet_raster.h"
-#include "page/twips.h"
 #include "rich_page.h"
 #include "viewer/page_sheet.h"
 
@@ -51,12 +50,9 @@ std::vector<Bytef> rowsOf(const QImage& image) {
     return rows;
 }
 
-page::Sheet sheetOf(const QString& source, const page::FontBook& fonts) {
-    NoPictures pictures;
-    coursetool::OffscreenPage page(fonts, pictures);
+page::Sheet sheetOf(const QString& source, bench::Page& page) {
     page.draw(source);
-    return viewer::pageSheet(page.recording(), fonts,
-                             page.pictureTexte().heightPx() * page::kTwipsPerPixel);
+    return viewer::pageSheet(page.drawn, page.fonts);
 }
 
 } // namespace
@@ -65,8 +61,9 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const int pages = argc > 1 ? std::atoi(argv[1]) : 600;
     QGuiApplication application(argc, argv);
-    const page::FontBook fonts;
-    output::SheetRaster raster(fonts, 1);
+    NoPictures pictures;
+    bench::Page drawer(pictures);
+    output::SheetRaster raster(drawer.fonts, 1);
 
     Stopwatch drawing;
     Stopwatch encoding;
@@ -79,7 +76,7 @@ int main(int argc, char** argv) {
         QSize size;
         const QImage* band = nullptr;
         drawing.time([&] {
-            const page::Sheet sheet = sheetOf(source, fonts);
+            const page::Sheet sheet = sheetOf(source, drawer);
             size = raster.size(sheet);
             band = &raster.band(sheet, 0);
         });

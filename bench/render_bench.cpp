@@ -1,7 +1,6 @@
 // Page source to pixels, beside the bare cost of the same drawing calls and beside QTextDocument.
 
 #include "bench_page.h"
-#include "markup/renderer.h"
 #include "no_pictures.h"
 #include "output/raster/raster_surface.h"
 #include "page/faces/font_book.h"
@@ -26,7 +25,7 @@ void pageSourceToPixels(benchmark::State& loop) {
     for (auto _ : loop) {
         raster.reset();
         page.draw(source);
-        raster.play(page.recording);
+        raster.play(page.drawn.recording);
         benchmark::DoNotOptimize(raster.drawnHeightPx());
     }
 }
@@ -44,7 +43,7 @@ void bareDrawingCalls(benchmark::State& loop) {
     bench::Page page(pictures);
     page.draw(bench::richPageSource());
     std::vector<Call> calls;
-    for (const page::Operation& operation : page.recording.operations()) {
+    for (const page::Operation& operation : page.drawn.recording.operations()) {
         const auto& text = std::get<page::TextOperation>(operation);
         QFont font(QStringLiteral("Liberation Sans"));
         font.setPixelSize(page::fontPixels(text.font.points));

@@ -33,6 +33,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         QString::fromUtf8(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
     test_support::drawAnyWay(source.replace(QLatin1String("\n"), QLatin1String("\r\n")), bench);
     raster.reset();
-    raster.play(bench.recording);
+    raster.play(bench.page.recording);
     return 0;
 }

@@ -2,7 +2,6 @@
 
 #include "coursedata/jet_recordset.h"
 #include "platform/terminal.h"
-#include "viewer/page_loader.h"
 
 namespace app {
 
@@ -14,7 +13,7 @@ void CourseData::bind(const QString& path) {
         return;
     }
     cours_ = std::move(*opened);
-    pages_.bindTo(*cours_);
+    record_.bindTo(*cours_);
 }
 
 } // namespace app

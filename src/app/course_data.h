@@ -1,25 +1,21 @@
 #pragma once
 
-#include "coursedata/recordset.h"
+#include "coursedata/bound_record.h"
 #include "shell/start_up.h"
 
 #include <memory>
 
-namespace viewer {
-class PageLoader;
-}
-
 namespace app {
 
-/// The course database of the installation directory: opened by start-up, shown by the page loader.
+/// The course database of the installation directory: opened by start-up.
 class CourseData : public shell::CourseBinding {
 public:
-    explicit CourseData(viewer::PageLoader& pages) : pages_(pages) {}
+    explicit CourseData(coursedata::BoundRecord& record) : record_(record) {}
 
     void bind(const QString& path) override;
 
 private:
-    viewer::PageLoader& pages_;
+    coursedata::BoundRecord& record_;
     std::unique_ptr<coursedata::Recordset> cours_;
 };
 

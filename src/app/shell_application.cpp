@@ -13,7 +13,6 @@
 #include "help/help_opener.h"
 #include "look/message_dialog.h"
 #include "look/print_setup.h"
-#include "markup/renderer.h"
 #include "output/paper/escape_watch.h"
 #include "output/paper/qt_printer.h"
 #include "page/faces/font_book.h"
@@ -131,22 +130,21 @@ struct ShellApplication::Parts {
     Parts(const CommandLine& commandLine, double scale)
         : screen(scale), window(state, fonts, screen),
           launcher(state, prompter, processes, activator, window), modules(launcher),
-          links(window, fonts, drawing.links),
+          links(window, fonts, window.shownPage().links),
           orderForm({printerSetup, printer, fonts}, prompter, window),
           installation(state, processes, prompter, window), search(state, window),
           drives(courseDirectory(commandLine), commandLine.drives),
           symbols(courseDirectory(commandLine)),
           exercise(window, {state, drawing, pictures, fonts, screen, prompter, calculator,
                             commandLine.author}),
-          renderer(drawing, window, pictures, window.recording()),
-          pages(state, bound, window, window, renderer, video),
+          pages(state, record, window, tools, window.shownPage(), video),
           actions(state, pages, window, modules, exercise, orderForm),
           neighbours{video,  links,      printing, modules,      exercise,  orderForm,
                      search, calculator, help,     installation, exitScreen},
-          commands(state, actions, window, neighbours, prompter), course(pages),
+          commands(state, actions, window, neighbours, prompter), course(record),
           startUp(state, courseDirectory(commandLine),
                   {screen, prompter, window, course, warning}) {
-        window.attach({commands, actions, pages, renderer, neighbours,
+        window.attach({commands, actions, pages, neighbours,
                        [this] { return startUp.run() == shell::StartUp::Outcome::GoOn; }});
     }
 
@@ -160,7 +158,7 @@ struct ShellApplication::Parts {
 
     shell::SharedState state;
     markup::DrawingState drawing;
-    coursedata::BoundRecord bound;
+    coursedata::BoundRecord record;
     page::FontBook fonts;
     platform::QtScreen screen;
     look::DialogPrompter prompter;
@@ -183,19 +181,19 @@ struct ShellApplication::Parts {
     platform::MountedDrives drives;
     platform::QtBeeper beeper;
     coursedata::DataLocation location{state, drives, prompter, beeper};
-    viewer::PageVideo video{state, drawing, location, window, &loadVideoDevice};
+    viewer::PageVideo video{state, window.shownPage(), location, window, &loadVideoDevice};
     coursedata::ImageList symbols;
     coursedata::CoursePictures pictures{location, symbols};
     exercises::ExoOpener exercise;
-    markup::Renderer renderer;
+    markup::DrawingTools tools{drawing, pictures, fonts, &window};
     viewer::PageLoader pages;
     output::QtPrinter printer{fonts, &loadPdfPrinter};
     look::QtPrinterSetup printerSetup{printer, prompter};
     platform::SystemHelpViewer helpViewer{otherWindows};
     Help help{state, helpViewer, {printerSetup, printer, prompter}};
     output::EscapeWatch escape{window};
-    viewer::PagePrinter pagePrinter{{state, bound, pages, window, drawing, window, window, pictures,
-                                     fonts, printer, [this] { return escape.isAsked(); }}};
+    viewer::PagePrinter pagePrinter{
+        {state, record, tools, printer, [this] { return escape.isAsked(); }}};
     viewer::PrintCommand printing{printerSetup, pagePrinter, prompter};
     viewer::ActionDispatcher actions;
     viewer::Neighbours neighbours;

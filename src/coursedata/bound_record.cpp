@@ -18,9 +18,15 @@ void bind(const Recordset& records, const QString& field, bool& checked) {
 
 } // namespace
 
-void BoundRecord::read(const Recordset& records) {
-    if (records.absolutePosition() < 0)
+void BoundRecord::bindTo(Recordset& table) {
+    records_ = &table;
+    moveTo(0);
+}
+
+void BoundRecord::moveTo(int position) {
+    if (!records_ || !records_->setAbsolutePosition(position))
         return;
+    const Recordset& records = *records_;
     bind(records, QStringLiteral("Numeropage"), TextID);
     bind(records, QStringLiteral("Index"), TextIndex);
     bind(records, QStringLiteral("titre"), Textitre);

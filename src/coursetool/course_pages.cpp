@@ -1,13 +1,10 @@
 #include "coursetool/course_pages.h"
 
 #include "coursedata/page_index.h"
-#include "page/twips.h"
+#include "markup/draw_page.h"
 #include "text/rounding.h"
 #include "viewer/page_code.h"
-#include "viewer/page_loader.h"
 #include "viewer/page_sheet.h"
-
-#include <cmath>
 
 namespace coursetool {
 
@@ -50,14 +47,11 @@ std::optional<int> CoursePages::positionShown(const QString& tag) const {
     return position && *position < count() ? position : std::nullopt;
 }
 
-coursedata::BoundRecord CoursePages::draw(int position, OffscreenPage& page) {
-    coursedata::BoundRecord bound;
-    viewer::PageLoader loader(state_, bound, page, page, page.renderer(), page);
-    loader.bindTo(*pages_.records);
-    loader.moveTo(position);
-    loader.takeOverOrderIndex();
-    loader.showCurrentRecord();
-    return bound;
+coursedata::BoundRecord CoursePages::record(int position) {
+    coursedata::BoundRecord record;
+    record.bindTo(*pages_.records);
+    record.moveTo(position);
+    return record;
 }
 
 SourcePlace CoursePages::place(int position) const {
@@ -67,11 +61,13 @@ SourcePlace CoursePages::place(int position) const {
 
 page::Sheet CoursePages::sheet(int position, const page::TextMetrics& metrics,
                                markup::PictureShelf& pictures, Report& report) {
-    OffscreenPage page(metrics, pictures);
-    const coursedata::BoundRecord bound = draw(position, page);
-    reportLost(page, place(position), report);
-    page::Sheet sheet = viewer::pageSheet(page.recording(), metrics, page.columnHeight());
-    sheet.title = bound.Textitre.simplified();
+    const coursedata::BoundRecord shown = record(position);
+    const markup::PageText text{shown.code, markup::DrawnAs::CoursePage, shown.Textitre};
+    markup::DrawingState state;
+    const markup::DrawnPage page = markup::drawPage(text, {state, pictures, metrics});
+    reportLost(text, page, metrics, place(position), report);
+    page::Sheet sheet = viewer::pageSheet(page, metrics);
+    sheet.title = shown.Textitre.simplified();
     sheet.number = number(position).value_or(0);
     return sheet;
 }

@@ -3,8 +3,9 @@
 #include "coursedata/bound_record.h"
 #include "coursetool/course_records.h"
 #include "coursetool/lost_text.h"
-#include "coursetool/offscreen_page.h"
+#include "markup/picture_shelf.h"
 #include "page/sheet.h"
+#include "page/text_metrics.h"
 #include "shell/shared_state.h"
 
 #include <optional>
@@ -33,8 +34,9 @@ public:
     /// The same for a link's tag; nothing when the tag leads to no page.
     std::optional<int> positionShown(const QString& tag) const;
 
-    /// Draws the page at a position on a fresh `page`; gives its fields.
-    coursedata::BoundRecord draw(int position, OffscreenPage& page);
+    /// The fields of the page at a position as the shell shows them, where the first page was
+    /// current before any other: what of a damaged record cannot be read is as it was there.
+    coursedata::BoundRecord record(int position);
 
     /// The sheet of the page at a position. Every page starts anew: what the page before it left
     /// does not show. Warns of what of its source nobody sees.

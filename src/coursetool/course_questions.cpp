@@ -1,8 +1,10 @@
 #include "coursetool/course_questions.h"
 
+#include "markup/draw_page.h"
 #include "page/numbers.h"
 #include "text/rounding.h"
 #include "viewer/page_code.h"
+#include "viewer/page_sheet.h"
 
 #include <algorithm>
 
@@ -53,9 +55,9 @@ std::optional<int> CourseQuestions::position(int reference) const {
     return static_cast<int>(found - references_.begin());
 }
 
-void CourseQuestions::draw(int position, OffscreenQuestion& question) {
+QString CourseQuestions::source(int position) {
     questions_.records->setAbsolutePosition(position);
-    question.draw(coursedata::shownText(questions_.records->field(QStringLiteral("question"))));
+    return coursedata::shownText(questions_.records->field(QStringLiteral("question")));
 }
 
 SourcePlace CourseQuestions::place(int position) const {
@@ -66,10 +68,11 @@ SourcePlace CourseQuestions::place(int position) const {
 page::Sheet CourseQuestions::sheet(int position, const page::TextMetrics& metrics,
                                    markup::PictureShelf& pictures,
                                    const page::FieldPictures& fields, Report& report) {
-    OffscreenQuestion question(metrics, pictures);
-    draw(position, question);
-    reportUnended(question.code().text(), place(position), report);
-    page::Sheet sheet = question.sheet(fields);
+    const markup::PageText text{source(position), markup::DrawnAs::Question};
+    markup::DrawingState state;
+    const markup::DrawnPage question = markup::drawPage(text, {state, pictures, metrics});
+    reportLost(text, question, metrics, place(position), report);
+    page::Sheet sheet = viewer::questionSheet(question, metrics, fields);
     sheet.title = title(position);
     for (page::LinkArea& link : sheet.links) {
         // The tag is a bare page number; the main window makes a page code of it.

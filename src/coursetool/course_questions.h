@@ -2,7 +2,9 @@
 
 #include "coursetool/course_records.h"
 #include "coursetool/lost_text.h"
-#include "coursetool/offscreen_question.h"
+#include "markup/picture_shelf.h"
+#include "page/sheet.h"
+#include "page/text_metrics.h"
 
 #include <map>
 #include <optional>
@@ -27,8 +29,8 @@ public:
     /// Position of the first question with this reference, where the test window finds it.
     std::optional<int> position(int reference) const;
 
-    /// Draws the question at a position on a fresh `question`.
-    void draw(int position, OffscreenQuestion& question);
+    /// The source of the question at a position.
+    QString source(int position);
 
     /// The sheet of the question at a position; the tags of its links are page codes. Warns of
     /// what of its source nobody sees.

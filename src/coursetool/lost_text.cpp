@@ -1,9 +1,12 @@
 #include "coursetool/lost_text.h"
 
 #include "page/ink_area.h"
-#include "page/sheet.h"
+#include "page/link_view.h"
+#include "viewer/page_sheet.h"
 
 #include <QStringList>
+
+#include <algorithm>
 
 namespace coursetool {
 
@@ -32,20 +35,42 @@ void warn(const SourcePlace& place, int line, const std::string& sentence, Repor
     report.warning({place.file}, place.name + ", ligne " + std::to_string(line) + " : " + sentence);
 }
 
-/// The words that stand below the foot of the text column, a run each.
-QStringList wordsBelow(const OffscreenPage& page) {
-    page::Sheet sheet{};
-    page::putOnSheet(page.recording(), page.metrics(), sheet);
-    const double foot = page.columnHeight();
-    QStringList words;
-    for (const page::Operation& operation : sheet.operations)
-        if (const auto* text = std::get_if<page::TextOperation>(&operation))
-            if (text->surface == page::SurfaceId::PictureTexte && page::isBelow(*text, foot))
-                words.append(text->text);
-    return words;
+/// Where a line of a drawn page begins in its source; lines are counted from 1 and end with CR LF.
+qsizetype startOfLine(QStringView source, int line) {
+    qsizetype start = 0;
+    for (; line > 1; --line)
+        start = source.indexOf(kLineEnd, start) + kLineEnd.size();
+    return start;
 }
 
-} // namespace
+/// The words that stand below the foot of the text column, a run each, and where the first is
+/// written.
+struct WordsBelow {
+    QStringList words;
+    int line = 0;
+};
+
+WordsBelow wordsBelow(const markup::DrawnPage& page, const page::TextMetrics& metrics) {
+    const double foot = viewer::columnHeight(page, metrics);
+    WordsBelow below;
+    const auto look = [&](const page::TextOperation& text, std::size_t operation) {
+        if (text.surface != page::SurfaceId::PictureTexte || !page::isBelow(text, foot))
+            return;
+        if (below.words.isEmpty())
+            below.line = page.lineOf(operation);
+        below.words.append(text.text);
+    };
+    const auto links = page::standingLinks(page.recording);
+    const auto& operations = page.recording.operations();
+    for (std::size_t i = 0; i < operations.size(); ++i)
+        if (const auto* text = std::get_if<page::TextOperation>(&operations[i]))
+            look(*text, i);
+        else if (const auto* link = std::get_if<page::LinkOperation>(&operations[i]))
+            if (std::find(links.begin(), links.end(), link) != links.end())
+                for (const page::TextOperation& line : page::captionLines(*link, metrics))
+                    look(line, i);
+    return below;
+}
 
 void reportUnended(const QString& source, const SourcePlace& place, Report& report) {
     const qsizetype lastEnd = source.lastIndexOf(kLineEnd);
@@ -57,15 +82,18 @@ void reportUnended(const QString& source, const SourcePlace& place, Report& repo
          quoted(rest) + " ne compte pas : il manque une fin de ligne (CR LF) après", report);
 }
 
-void reportLost(OffscreenPage& page, const SourcePlace& place, Report& report) {
-    const QString& source = page.code().text();
-    if (const QStringList words = wordsBelow(page); !words.isEmpty()) {
-        const qsizetype found = source.lastIndexOf(words.first());
-        warn(place, lineAt(source, qMax(qsizetype(0), found)),
-             quoted(words.join(u' ')) +
+} // namespace
+
+void reportLost(const markup::PageText& text, const markup::DrawnPage& page,
+                const page::TextMetrics& metrics, const SourcePlace& place, Report& report) {
+    const QString& source = text.source;
+    if (text.as == markup::DrawnAs::Question)
+        return reportUnended(source, place, report);
+    if (const WordsBelow below = wordsBelow(page, metrics); !below.words.isEmpty())
+        warn(place, lineAt(source, startOfLine(source, below.line)),
+             quoted(below.words.join(u' ')) +
                  " ne se voit pas : la page s’arrête au-dessus ; finir la ligne par « ¶ »",
              report);
-    }
     reportUnended(source, place, report);
 }
 

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "coursetool/offscreen_page.h"
 #include "coursetool/report.h"
+#include "markup/draw_page.h"
+#include "page/text_metrics.h"
 
 #include <QString>
 
@@ -15,11 +16,10 @@ struct SourcePlace {
     std::string name = {}; ///< of the page in a database ("page 12"); empty for a file of its own
 };
 
-/// Warns of what stands after the last CR LF of a source: neither shown nor run.
-void reportUnended(const QString& source, const SourcePlace& place, Report& report);
-
-/// Warns of that, and of text that stands below the foot of the drawn page: it has a line, but
-/// nothing after it took the pen below that line, as "¶" does.
-void reportLost(OffscreenPage& page, const SourcePlace& place, Report& report);
+/// Warns of what stands after the last CR LF of a source, neither shown nor run; and of text that
+/// stands below the foot of a course page: it has a line, but nothing after it took the pen below
+/// that line, as "¶" does. The area of a question has room for such text.
+void reportLost(const markup::PageText& text, const markup::DrawnPage& page,
+                const page::TextMetrics& metrics, const SourcePlace& place, Report& report);
 
 } // namespace coursetool

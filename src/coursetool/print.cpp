@@ -3,10 +3,9 @@
 #include "coursedata/bound_record.h"
 #include "coursedata/page_index.h"
 #include "coursetool/course_records.h"
-#include "coursetool/offscreen_page.h"
 #include "coursetool/paths.h"
+#include "markup/draw_page.h"
 #include "output/pdf/pdf_printer.h"
-#include "viewer/page_loader.h"
 #include "viewer/page_printer.h"
 
 namespace coursetool {
@@ -18,22 +17,23 @@ void print(const PrintRequest& request, const page::FontBook& fonts, markup::Pic
         return;
     shell::SharedState state;
     coursedata::buildPageIndex(*course->records, state);
-    OffscreenPage page(fonts, pictures);
-    coursedata::BoundRecord bound;
-    viewer::PageLoader loader(state, bound, page, page, page.renderer(), page);
-    loader.bindTo(*course->records);
+    coursedata::BoundRecord record;
+    record.bindTo(*course->records);
     if (const auto position = coursedata::positionOfCode(state, request.page))
-        loader.moveTo(*position);
-    if (bound.TextID != QString::number(request.page)) {
+        record.moveTo(*position);
+    if (record.TextID != QString::number(request.page)) {
         report.fault({course->file},
                      "aucune page ne porte le numéro " + std::to_string(request.page));
         return;
     }
-    loader.showCurrentRecord();
+    // In the shell the page is on the screen when it is printed: what that leaves of fractions and
+    // rows goes on on paper.
+    markup::DrawingState drawing;
+    const markup::DrawingTools tools{drawing, pictures, fonts};
+    markup::drawPage({record.code, markup::DrawnAs::CoursePage, record.Textitre}, tools);
 
     output::PdfPrinter printer(QString::fromStdString(shown(request.output)), fonts);
-    viewer::PagePrinter pages(
-        {state, bound, loader, page, page.state(), page, page, pictures, fonts, printer, {}});
+    viewer::PagePrinter pages({state, record, tools, printer, {}});
     if (pages.imprimepage().wanted == 0)
         report.fault({course->file}, "la page " + std::to_string(request.page) +
                                          " n’a rien à imprimer : debutimp dépasse finimp");

@@ -2,11 +2,12 @@
 
 #include "coursetool/course_pages.h"
 #include "coursetool/course_questions.h"
-#include "coursetool/offscreen_page.h"
-#include "coursetool/offscreen_question.h"
+#include "coursetool/lost_text.h"
 #include "coursetool/page_source.h"
 #include "coursetool/paths.h"
 #include "coursetool/sheet_files.h"
+#include "markup/draw_page.h"
+#include "viewer/page_sheet.h"
 
 #include <QHash>
 
@@ -88,16 +89,14 @@ public:
         const auto source = readPageSource(request_.source, report_);
         if (!source)
             return;
-        if (request_.source.extension() == kQuestionEnding) {
-            OffscreenQuestion question(fonts_, pictures_);
-            question.draw(*source);
-            reportUnended(*source, {shown(request_.source)}, report_);
-            return writeOne(question.sheet(fields_));
-        }
-        OffscreenPage page(fonts_, pictures_);
-        page.draw(*source);
-        reportLost(page, {shown(request_.source)}, report_);
-        writeOne(page.bareSheet());
+        const bool isQuestion = request_.source.extension() == kQuestionEnding;
+        const markup::PageText text{*source, isQuestion ? markup::DrawnAs::Question
+                                                        : markup::DrawnAs::CoursePage};
+        markup::DrawingState state;
+        const markup::DrawnPage page = markup::drawPage(text, {state, pictures_, fonts_});
+        reportLost(text, page, fonts_, {shown(request_.source)}, report_);
+        writeOne(isQuestion ? viewer::questionSheet(page, fonts_, fields_)
+                            : viewer::bareSheet(page, fonts_));
     }
 
 private:

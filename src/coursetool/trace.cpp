@@ -2,11 +2,11 @@
 
 #include "coursetool/course_pages.h"
 #include "coursetool/course_questions.h"
-#include "coursetool/offscreen_page.h"
-#include "coursetool/offscreen_question.h"
+#include "coursetool/lost_text.h"
 #include "coursetool/page_source.h"
 #include "coursetool/paths.h"
 #include "coursetool/trace_lines.h"
+#include "markup/draw_page.h"
 
 namespace coursetool {
 
@@ -22,14 +22,13 @@ public:
         auto pages = CoursePages::open(request_.course, report_);
         if (!pages)
             return;
-        OffscreenPage page(metrics_, pictures_);
-        const coursedata::BoundRecord shown = pages->draw(pages->positionShown(number), page);
-        if (shown.TextID != QString::number(number))
+        const int position = pages->positionShown(number);
+        const coursedata::BoundRecord record = pages->record(position);
+        if (record.TextID != QString::number(number))
             report_.warning({coursetool::shown(request_.course)},
                             "aucune page ne porte le numéro " + std::to_string(number) +
                                 " : voici celle que le programme montre à sa place");
-        reportLost(page, pages->place(pages->positionShown(number)), report_);
-        write(page.recording(), page.state());
+        write({record.code, markup::DrawnAs::CoursePage, record.Textitre}, pages->place(position));
     }
 
     void traceQuestion(int reference) {
@@ -41,30 +40,25 @@ public:
             report_.warning({questions->file()},
                             "aucune question ne porte la référence " + std::to_string(reference) +
                                 " : voici celle que le programme montre à sa place");
-        OffscreenQuestion question(metrics_, pictures_);
-        const int drawn = position.value_or(questions->count() - 1);
-        questions->draw(drawn, question);
-        reportUnended(question.code().text(), questions->place(drawn), report_);
-        write(question.recording(), question.state());
+        const int shown = position.value_or(questions->count() - 1);
+        write({questions->source(shown), markup::DrawnAs::Question}, questions->place(shown));
     }
 
     void traceSource() {
-        const auto source = readPageSource(request_.source, report_);
-        if (!source)
-            return;
-        OffscreenPage page(metrics_, pictures_);
-        page.draw(*source);
-        reportLost(page, {coursetool::shown(request_.source)}, report_);
-        write(page.recording(), page.state());
+        if (const auto source = readPageSource(request_.source, report_))
+            write({*source}, {coursetool::shown(request_.source)});
     }
 
 private:
-    void write(const page::Recording& recording, const markup::DrawingState& state) {
-        for (const page::Operation& operation : recording.operations()) {
+    void write(const markup::PageText& text, const SourcePlace& place) {
+        markup::DrawingState state;
+        const markup::DrawnPage page = markup::drawPage(text, {state, pictures_, metrics_});
+        reportLost(text, page, metrics_, place, report_);
+        for (const page::Operation& operation : page.recording.operations()) {
             appendTraceLine(operation, out_.text());
             out_.lineDone();
         }
-        appendTraceEnd(state, out_.text());
+        appendTraceEnd(page, state, out_.text());
         if (!out_.flush())
             report_.outputFailure(out_.error());
     }

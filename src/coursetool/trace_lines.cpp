@@ -3,6 +3,7 @@
 #include "coursetool/json_number.h"
 #include "coursetool/json_string.h"
 #include "jet/unicode.h"
+#include "markup/control_names.h"
 #include "page/twips.h"
 
 namespace coursetool {
@@ -48,7 +49,7 @@ public:
     Line& colour(std::string_view name, QRgb value) {
         return text(name, QStringLiteral("#%1").arg(value & 0xffffff, 6, 16, QLatin1Char('0')));
     }
-    Line& surface(page::SurfaceId id) { return text("surface", page::surfaceName(id)); }
+    Line& surface(page::SurfaceId id) { return text("surface", markup::surfaceName(id)); }
     Line& font(const page::Font& font) {
         return text("font", font.face)
             .number("size", font.points)
@@ -113,7 +114,7 @@ struct Describe {
     void operator()(const page::LinkOperation& link) const {
         Line("link", out)
             .surface(link.surface)
-            .text("control", page::linkControlName(link.control))
+            .text("control", markup::controlName(link.control))
             .number("index", link.index)
             .number("x", link.x)
             .number("y", link.y)
@@ -134,7 +135,7 @@ struct Describe {
     void operator()(const page::FieldOperation& field) const {
         Line("field", out)
             .surface(field.surface)
-            .text("control", page::fieldControlName(field.control))
+            .text("control", markup::controlName(field.control))
             .number("index", field.index)
             .number("x", field.x)
             .number("y", field.y)
@@ -147,7 +148,7 @@ struct Describe {
         Line("video", out).text("name", video.name);
     }
     void operator()(const page::SwitchOperation& change) const {
-        Line("surface", out).text("name", page::surfaceName(change.surface));
+        Line("surface", out).text("name", markup::surfaceName(change.surface));
     }
     void operator()(const page::ClearOperation&) const {}
     void operator()(const page::CaptionOperation& caption) const {
@@ -167,20 +168,21 @@ void appendTraceLine(const page::Operation& operation, std::string& out) {
     std::visit(Describe{out}, operation);
 }
 
-void appendTraceEnd(const markup::DrawingState& state, std::string& out) {
-    const page::Surface& surface = *state.surfaceDessin;
+void appendTraceEnd(const markup::DrawnPage& page, const markup::DrawingState& state,
+                    std::string& out) {
+    const markup::DrawnPage::Pen& pen = page.end;
     Line("end", out)
-        .surface(surface.id())
-        .number("x", surface.penX())
-        .number("y", surface.penY())
-        .number("height", surface.heightPx() * page::kTwipsPerPixel)
-        .number("hauteurPage", state.hauteurPage)
+        .surface(pen.surface)
+        .number("x", pen.place.x())
+        .number("y", pen.place.y())
+        .number("height", page.heightPx(pen.surface) * page::kTwipsPerPixel)
+        .number("hauteurPage", page.hauteurPage)
         .number("alignement", state.alignement)
         .number("margeGauche", state.margeGauche)
         .number("margeDroite", state.margeDroite)
         .number("interligne", state.interligne)
-        .font(surface.font())
-        .colour("ink", surface.ink());
+        .font(pen.font)
+        .colour("ink", pen.ink);
 }
 
 } // namespace coursetool

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "markup/drawing_state.h"
+#include "markup/drawn_page.h"
 #include "page/recording.h"
 
 #include <string>
@@ -11,7 +12,8 @@ namespace coursetool {
 /// nothing and change nothing a trace tells of append nothing.
 void appendTraceLine(const page::Operation& operation, std::string& out);
 
-/// Appends the last line of a trace: the drawing state as the page left it.
-void appendTraceEnd(const markup::DrawingState& state, std::string& out);
+/// Appends the last line of a trace: the pen and the drawing state as the page left them.
+void appendTraceEnd(const markup::DrawnPage& page, const markup::DrawingState& state,
+                    std::string& out);
 
 } // namespace coursetool

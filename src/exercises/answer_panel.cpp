@@ -36,8 +36,8 @@ QString nameOf(const char* array, int index) {
 } // namespace
 
 AnswerPanel::AnswerPanel(look::PictureBox& Picture2, const page::FontBook& fonts,
-                         page::Recording& recording)
-    : Picture2_(Picture2), recording_(recording), Text1_(new look::TextField(&Picture2)),
+                         markup::DrawnPage& question)
+    : Picture2_(Picture2), question_(question), Text1_(new look::TextField(&Picture2)),
       Labelien_(new LinkCaption(fonts, &Picture2)),
       Image1_(new LinkIcon(QStringLiteral("link"), &Picture2)),
       Icovideo_(new LinkIcon(QStringLiteral("video"), &Picture2)) {
@@ -76,7 +76,6 @@ std::vector<QWidget*> AnswerPanel::all() const {
 }
 
 void AnswerPanel::reset() {
-    fields_ = {};
     words_.clear();
     for (QWidget* control : all())
         control->hide();
@@ -107,7 +106,7 @@ void AnswerPanel::placeChoices(ChoiceArray array) {
         QAbstractButton* const button = control(array, i);
         const QPoint corner = placeOf(choice.place);
         button->move(corner - QPoint(look::kChoiceSignMargin, look::kChoiceSignMargin));
-        const BesideText beside = textRightOf(choice.place, fields_, recording_);
+        const BesideText beside = textRightOf(choice.place, question_.fields, question_.recording);
         button->setAccessibleName(beside.text.isEmpty() ? QStringLiteral("Choix %1").arg(i + 1)
                                                         : beside.text);
         const int middle = corner.y() + look::kChoiceSignPx / 2;
@@ -122,33 +121,35 @@ void AnswerPanel::placeChoices(ChoiceArray array) {
 }
 
 void AnswerPanel::placeText() {
-    if (!fields_.Text1.visible)
+    if (!question_.fields.Text1.visible)
         return;
     const int width = static_cast<int>(AnswerFields::kTextBoxWidth / page::kTwipsPerPixel);
-    QRect place(placeOf(fields_.Text1.place), QSize(width, kTextHeightPx));
+    QRect place(placeOf(question_.fields.Text1.place), QSize(width, kTextHeightPx));
     // On the first line the box begins above the question: what would be cut there is left out.
     if (place.top() < 0 && place.bottom() >= 0)
         place.setTop(0);
     Text1_->setGeometry(place);
-    const QString asked = textLeftOf(fields_.Text1.place, fields_, recording_).text;
+    const QString asked =
+        textLeftOf(question_.fields.Text1.place, question_.fields, question_.recording).text;
     Text1_->setAccessibleName(asked.isEmpty() ? QStringLiteral("Votre réponse") : asked);
-    Text1_->setAccessibleDescription(textRightOf(fields_.Text1.place, fields_, recording_).text);
+    Text1_->setAccessibleDescription(
+        textRightOf(question_.fields.Text1.place, question_.fields, question_.recording).text);
     Text1_->show();
 }
 
 void AnswerPanel::placeLinks() {
-    if (fields_.Labelien.visible)
-        Labelien_->show(fields_.Labelien.place);
-    if (fields_.Image1.visible) {
+    if (question_.fields.Labelien.visible)
+        Labelien_->show(question_.fields.Labelien.place);
+    if (question_.fields.Image1.visible) {
         // On the middle of the label's line, which is lower than the drawing is tall.
-        Image1_->show(fields_.Image1.place);
-        if (fields_.Labelien.visible)
+        Image1_->show(question_.fields.Image1.place);
+        if (question_.fields.Labelien.visible)
             Image1_->move(Image1_->x(), Labelien_->geometry().center().y() - Image1_->height() / 2);
         Image1_->setAccessibleName(Labelien_->accessibleName());
     }
-    if (fields_.Icovideo.visible) {
-        Icovideo_->show(fields_.Icovideo.place);
-        const QString words = fields_.Icovideo.place.tooltip;
+    if (question_.fields.Icovideo.visible) {
+        Icovideo_->show(question_.fields.Icovideo.place);
+        const QString words = question_.fields.Icovideo.place.tooltip;
         Icovideo_->setAccessibleName(words.isEmpty() ? QStringLiteral("Vidéo") : words);
     }
 }
@@ -189,7 +190,8 @@ QAbstractButton* AnswerPanel::control(ChoiceArray array, int index) const {
 }
 
 const AnswerFields::Field* AnswerPanel::field(ChoiceArray array, int index) const {
-    return (array == ChoiceArray::Check1 ? fields_.Check1 : fields_.Option1).slot(index);
+    return (array == ChoiceArray::Check1 ? question_.fields.Check1 : question_.fields.Option1)
+        .slot(index);
 }
 
 bool AnswerPanel::isVisible(ChoiceArray array, int index) const {
@@ -214,13 +216,10 @@ void AnswerPanel::disable(ChoiceArray array, int index) {
 
 void AnswerPanel::paintMark(ChoiceArray array, int index, Mark mark) {
     const page::FieldOperation& place = field(array, index)->place;
-    page::Surface& surface = Picture2_.surface();
-    const QPointF pen = surface.pen();
-    if (surface.setPenX(place.x - kMarkLeftOfControlTwips) &&
-        surface.setPenY(place.y - kMarkAboveControlTwips))
-        surface.paint(markPicture(mark), kMarkTwips, kMarkTwips, markName(mark), true);
-    surface.setPenX(pen.x());
-    surface.setPenY(pen.y());
+    question_.recording.add(
+        page::PictureOperation{page::SurfaceId::Picture2, place.x - kMarkLeftOfControlTwips,
+                               place.y - kMarkAboveControlTwips, kMarkTwips, kMarkTwips,
+                               markPicture(mark), markName(mark), true});
     Picture2_.showDrawing();
     control(array, index)
         ->setAccessibleDescription(mark == Mark::InSolution ? QStringLiteral("à choisir")

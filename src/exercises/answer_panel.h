@@ -1,9 +1,8 @@
 #pragma once
 
 #include "exercises/test_view.h"
-#include "markup/answer_fields.h"
+#include "markup/drawn_page.h"
 #include "page/faces/font_book.h"
-#include "page/recording.h"
 
 #include <QAbstractButton>
 #include <QObject>
@@ -24,19 +23,17 @@ class LinkCaption;
 class LinkIcon;
 class QuestionLink;
 
-/// The answer controls and links of a question, on the question area. A question places them by
-/// filling fields(); place() then shows them there.
+/// The answer controls and links of a question, on the question area: place() shows those that the
+/// drawing of the question has placed.
 class AnswerPanel : public QObject, public AnswerControls {
 public:
-    /// `Picture2` draws into `recording`; all must outlive the panel's use.
+    /// `Picture2` shows `question`; all must outlive the panel's use.
     AnswerPanel(look::PictureBox& Picture2, const page::FontBook& fonts,
-                page::Recording& recording);
-
-    markup::AnswerFields& fields() { return fields_; }
+                markup::DrawnPage& question);
 
     /// Hides all controls and makes them as they were before any question.
     void reset();
-    /// Shows what the fields say.
+    /// Shows what the fields of the question say.
     void place();
 
     /// Called with the tag of a link that is followed.
@@ -73,8 +70,7 @@ private:
     std::vector<QWidget*> all() const;
 
     look::PictureBox& Picture2_;
-    page::Recording& recording_;
-    markup::AnswerFields fields_;
+    markup::DrawnPage& question_;
     Buttons Option1_{};
     Buttons Check1_{};
     look::TextField* Text1_;

@@ -13,8 +13,8 @@
 #include "look/palette.h"
 #include "look/picture_box.h"
 #include "look/scroll_bar.h"
-#include "look/surface_widths.h"
 #include "look/tool_tip.h"
+#include "page/surface_widths.h"
 #include "platform/terminal.h"
 
 #include <QLabel>
@@ -67,8 +67,7 @@ void addWords(const char* name, Button& button) {
 Exo::Exo(const Parts& parts, QWidget& mainWindow)
     : QWidget(&mainWindow, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                                Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint),
-      parts_(parts), mainWindow_(mainWindow), page_(parts.page, *this),
-      blinkInterval_(RightAnswerBlink::kIntervalMs) {
+      parts_(parts), mainWindow_(mainWindow), blinkInterval_(RightAnswerBlink::kIntervalMs) {
     setObjectName(QStringLiteral("exo"));
     setWindowTitle(QStringLiteral("Exercices"));
     setWindowModality(Qt::WindowModal);
@@ -83,7 +82,6 @@ Exo::Exo(const Parts& parts, QWidget& mainWindow)
     addQuestionArea();
     addButtons();
     addStrip();
-    renderer_.emplace(parts_.drawing, page_, parts_.pictures, recording_);
     session_.emplace(parts_.shared, parts_.test, *this, *answers_, parts_.course, parts_.prompter);
     if (parts_.author)
         addAuthoringSwitch();
@@ -92,13 +90,7 @@ Exo::Exo(const Parts& parts, QWidget& mainWindow)
     setFocus(); // no control is chosen from the start; the Tab key leads to the first
 }
 
-Exo::~Exo() {
-    // Nobody draws on a window that is gone.
-    if (parts_.drawing.fenetreSource == this)
-        parts_.drawing.fenetreSource = nullptr;
-    if (parts_.drawing.surfaceDessin == &Picture2_->surface())
-        parts_.drawing.surfaceDessin = nullptr;
-}
+Exo::~Exo() = default;
 
 void Exo::addLabels() {
     (new TitleBandView(body_))->setGeometry(kTito);
@@ -116,11 +108,11 @@ void Exo::addQuestionArea() {
     frame1_->VScroll1().setAccessibleName(QStringLiteral("Défilement de la question"));
     frame1_->setGeometry(kFrame1);
     frame1_->setPanelHeight(kFrame1.height(), kViewHeight);
-    Picture2_ = new look::PictureBox(page::SurfaceId::Picture2, look::kPageWidthPx, look::kPaper,
-                                     parts_.fonts, recording_, frame1_);
+    Picture2_ = new look::PictureBox(page::SurfaceId::Picture2, page::kPageWidthPx, look::kPaper,
+                                     parts_.fonts, question_.recording, frame1_);
+    Picture2_->setObjectName(QStringLiteral("Picture2"));
     frame1_->setPage(Picture2_);
-    page_.setArea(Picture2_);
-    answers_ = std::make_unique<AnswerPanel>(*Picture2_, parts_.fonts, recording_);
+    answers_ = std::make_unique<AnswerPanel>(*Picture2_, parts_.fonts, question_);
 }
 
 void Exo::addButtons() {

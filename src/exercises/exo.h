@@ -3,17 +3,11 @@
 #include "coursedata/exercise_tables.h"
 #include "exercises/calculator_beside.h"
 #include "exercises/question_edit.h"
-#include "exercises/question_page.h"
 #include "exercises/test_session.h"
 #include "exercises/test_state.h"
 #include "exercises/test_view.h"
-#include "markup/drawing_state.h"
-#include "markup/picture_shelf.h"
-#include "markup/renderer.h"
-#include "markup/windows.h"
+#include "markup/draw_page.h"
 #include "page/faces/font_book.h"
-#include "page/recording.h"
-#include "page/rich_text_holder.h"
 #include "platform/message_box.h"
 #include "platform/screen.h"
 #include "shell/shared_state.h"
@@ -45,14 +39,13 @@ class Strip;
 /// `exo`: the window of the test, modal to the main window only, so that a calculator stays usable
 /// beside it. It shows what its session tells it to and hands on what its controls are asked for;
 /// the controls have the names of the handlers.
-class Exo : public QWidget, public TestView, public markup::SourceWindow {
+class Exo : public QWidget, public TestView, public markup::DrawingWatcher {
 public:
     /// What the window works with; all of it outlives the window.
     struct Parts {
         shell::SharedState& shared;
         TestState& test;
         markup::DrawingState& drawing;
-        markup::PageWindow& page; ///< the main window, for what questions draw there
         markup::PictureShelf& pictures;
         const page::FontBook& fonts;
         const platform::Screen& screen;
@@ -89,9 +82,9 @@ public:
     void drawQuestion(const QString& source) override;
     void showRightAnswer() override;
 
-    // markup::SourceWindow
-    page::RichTextHolder& code() override { return code_; }
-    markup::AnswerFields* answerFields() override;
+    // markup::DrawingWatcher
+    void setBusy(bool busy) override;
+    void refresh(page::SurfaceId surface) override;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -140,12 +133,9 @@ private:
 
     Parts parts_;
     QWidget& mainWindow_;
-    page::Recording recording_;
-    page::RichTextHolder code_;
-    QuestionPage page_;
+    markup::DrawnPage question_; ///< as shown
     coursedata::ExerciseTables tables_;
     std::unique_ptr<AnswerPanel> answers_;
-    std::optional<markup::Renderer> renderer_;
     std::optional<TestSession> session_;
     std::optional<QuestionEdit> edit_;
     QEventLoop loop_;

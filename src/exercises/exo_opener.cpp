@@ -10,8 +10,8 @@ void ExoOpener::open() {
     if (isOpen_)
         return;
     const QScopedValueRollback<bool> open(isOpen_, true);
-    Exo exo({parts_.shared, test_, parts_.drawing, window_, parts_.pictures, parts_.fonts,
-             parts_.screen, parts_.prompter, *this, parts_.calculator, parts_.author},
+    Exo exo({parts_.shared, test_, parts_.drawing, parts_.pictures, parts_.fonts, parts_.screen,
+             parts_.prompter, *this, parts_.calculator, parts_.author},
             window_);
     exo.run();
 }

@@ -1,4 +1,4 @@
-// The test's window as its session sees it.
+// The test's window as its session, and a question while it is drawn, see it.
 
 #include "exercises/answer_panel.h"
 #include "exercises/cjuste.h"
@@ -10,19 +10,20 @@
 #include "look/picture_box.h"
 #include "look/text_field.h"
 #include "look/tool_tip.h"
+#include "page/sheet.h"
+#include "page/surface.h"
 #include "page/twips.h"
 
 #include <QAccessible>
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QWindow>
 
 #include <algorithm>
 
 namespace exercises {
 
 namespace {
-
-constexpr double kQuestionAreaPx = kQuestionAreaTwips / page::kTwipsPerPixel;
 
 /// Space below a control that is the lowest thing of a question.
 constexpr int kFootPx = 4;
@@ -32,17 +33,20 @@ void tellNewName(QWidget& widget, const QString& name) {
         widget.setAccessibleName(name); // this tells screen readers too
 }
 
-/// Height, in twips, down to the lowest text, line or picture on the surface. A ground is drawn for
-/// what stands on it and does not count.
-double drawnFoot(const page::Recording& recording, const page::Surface& surface) {
+/// Height, in twips, down to the lowest text, line or picture of the question area. A ground is
+/// drawn for what stands on it and does not count.
+double drawnFoot(const page::Recording& recording, const page::TextMetrics& metrics) {
     double foot = 0;
-    for (const page::Operation& operation : recording.operations())
+    for (const page::Operation& operation : recording.operations()) {
+        if (page::surfaceOf(operation) != page::SurfaceId::Picture2)
+            continue;
         if (const auto* text = std::get_if<page::TextOperation>(&operation))
-            foot = std::max(foot, text->y + surface.metrics().height(text->font));
+            foot = std::max(foot, text->y + metrics.height(text->font));
         else if (const auto* line = std::get_if<page::LineOperation>(&operation))
             foot = std::max({foot, line->y1, line->y2});
         else if (const auto* picture = std::get_if<page::PictureOperation>(&operation))
             foot = std::max(foot, picture->y + picture->height);
+    }
     return foot;
 }
 
@@ -120,25 +124,14 @@ void Exo::misanet() {
         focus && (focus == Picture2_ || Picture2_->isAncestorOf(focus) || focus == command5_);
     if (questionHadFocus_)
         setFocus();
-    recording_.clear();
+    question_ = {};
     Picture2_->empty();
-    Picture2_->surface().setHeightPx(kQuestionAreaPx);
     answers_->reset();
 }
 
-markup::AnswerFields* Exo::answerFields() {
-    return &answers_->fields();
-}
-
 void Exo::drawQuestion(const QString& source) {
-    markup::DrawingState& drawing = parts_.drawing;
-    drawing.fenetreSource = this;
-    drawing.surfaceDessin = &Picture2_->surface();
-    drawing.enImpression = false;
-    drawing.hauteurPage = 0;
-    code_.setText(source);
-    renderer_->affichepage();
-
+    markup::drawPage({source, markup::DrawnAs::Question},
+                     {parts_.drawing, parts_.pictures, parts_.fonts, this}, question_);
     answers_->place();
     Picture2_->showDrawing();
     fitQuestion();
@@ -151,12 +144,12 @@ void Exo::drawQuestion(const QString& source) {
 /// Makes the area as tall as the view, so that a coloured ground fills it, or as all that stands on
 /// it: the renderer only knows where the pen ended.
 void Exo::fitQuestion() {
-    page::Surface& surface = Picture2_->surface();
-    const double drawn = drawnFoot(recording_, surface) / page::kTwipsPerPixel;
+    const double drawn = drawnFoot(question_.recording, parts_.fonts) / page::kTwipsPerPixel;
     const int foot = answers_->footPx();
     const double view = frame1_->framekx().height();
-    surface.setHeightPx(std::max(
-        {view, surface.heightPx(), drawn, foot > 0 ? static_cast<double>(foot + kFootPx) : 0}));
+    const double tallest = std::max({view, question_.heightPx(page::SurfaceId::Picture2), drawn,
+                                     foot > 0 ? static_cast<double>(foot + kFootPx) : 0});
+    Picture2_->setPageHeightPx(std::min(tallest, page::kMaxSurfaceHeightPx));
     frame1_->fitPage();
 }
 
@@ -196,6 +189,22 @@ void Exo::nameQuestion() {
                                                        : QStringLiteral(", réponse juste");
     tellNewName(*Picture2_, name);
     tellNewName(*noa_, name);
+}
+
+void Exo::setBusy(bool busy) {
+    // Before the window is on the screen no pointer can be over it.
+    if (busy && windowHandle() && windowHandle()->isExposed())
+        setCursor(Qt::WaitCursor);
+    else if (!busy)
+        unsetCursor();
+}
+
+/// What a question draws elsewhere, nobody sees.
+void Exo::refresh(page::SurfaceId surface) {
+    if (surface != page::SurfaceId::Picture2)
+        return;
+    Picture2_->showDrawing();
+    Picture2_->repaint();
 }
 
 void Exo::showRightAnswer() {

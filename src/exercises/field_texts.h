@@ -1,6 +1,6 @@
 #pragma once
 
-#include "markup/answer_fields.h"
+#include "markup/drawn_page.h"
 #include "page/recording.h"
 
 #include <QString>

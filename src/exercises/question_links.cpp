@@ -3,7 +3,7 @@
 #include "look/palette.h"
 #include "look/pixels.h"
 #include "look/tool_tip.h"
-#include "markup/answer_fields.h"
+#include "markup/drawn_page.h"
 #include "output/raster/raster_surface.h"
 #include "page/link_view.h"
 #include "page/surface.h"

@@ -49,9 +49,8 @@ public:
     virtual void repaintStrip() = 0; ///< `Picture1`, from the state of the test
     virtual void focusStrip() = 0;
 
-    /// Empties the question area (`Picture2`), gives it kQuestionAreaTwips of height, and hides and
-    /// resets everything on it: choices unselected and enabled, the typed text empty and enabled,
-    /// link and video icon gone.
+    /// Empties the question area (`Picture2`), and hides and resets everything on it: choices
+    /// unselected and enabled, the typed text empty and enabled, link and video icon gone.
     virtual void misanet() = 0;
     /// Draws a page source onto the emptied question area, which shows the controls it asks for.
     virtual void drawQuestion(const QString& source) = 0;
@@ -59,9 +58,6 @@ public:
     /// Shows the popup after a right answer (`Cjuste`) and returns once it has gone.
     virtual void showRightAnswer() = 0;
 };
-
-/// Height of the question area before a question is drawn.
-inline constexpr int kQuestionAreaTwips = 4575;
 
 /// The main window as the test knows it.
 class CourseWindow {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "look/scroll_geometry.h"
-#include "look/surface_widths.h"
+#include "page/surface_widths.h"
 
 #include <QWidget>
 
@@ -18,7 +18,7 @@ class PictureBox;
 class PagePanel : public QWidget {
 public:
     /// Width of the page, in pixels.
-    static constexpr int kPageWidth = kPageWidthPx;
+    static constexpr int kPageWidth = page::kPageWidthPx;
 
     explicit PagePanel(QWidget* parent);
 

@@ -15,11 +15,8 @@
 namespace look {
 
 PictureBox::PictureBox(page::SurfaceId id, int widthPx, QRgb ground, const page::FontBook& fonts,
-                       page::Recording& recording, QWidget* parent)
-    : QWidget(parent), recording_(recording),
-      surface_(id, widthPx * page::kTwipsPerPixel, fonts, recording),
-      raster_(id, widthPx, fonts, ground) {
-    setObjectName(page::surfaceName(id));
+                       const page::Recording& recording, QWidget* parent)
+    : QWidget(parent), recording_(recording), id_(id), raster_(id, widthPx, fonts, ground) {
     PictureAccessible::install();
 }
 
@@ -29,8 +26,7 @@ PictureBox::~PictureBox() {
 
 void PictureBox::empty() {
     raster_.reset();
-    surface_.clear();
-    surface_.setHeightPx(0);
+    heightPx_ = 0;
     controlsFoot_ = 0;
     marks_ = {};
     update();
@@ -57,8 +53,7 @@ void PictureBox::paintMargin(QPainter& painter, const QRect& exposed) const {
 }
 
 int PictureBox::pageHeightPx() const {
-    return surface_.heightPx() > 0 ? qCeil(surface_.heightPx())
-                                   : std::max(raster_.drawnHeightPx(), controlsFoot_);
+    return heightPx_ > 0 ? qCeil(heightPx_) : std::max(raster_.drawnHeightPx(), controlsFoot_);
 }
 
 QRect PictureBox::shownArea() const {
@@ -75,7 +70,7 @@ void PictureBox::moveToSurface(QPainter& painter, QPoint place) const {
 }
 
 QString PictureBox::readableText() const {
-    return page::readableText(recording_, surface_.id());
+    return page::readableText(recording_, id_);
 }
 
 void PictureBox::setMarks(Marks marks) {

@@ -3,7 +3,6 @@
 #include "output/raster/raster_surface.h"
 #include "page/faces/font_book.h"
 #include "page/recording.h"
-#include "page/surface.h"
 
 #include <QPointer>
 #include <QRectF>
@@ -13,18 +12,16 @@
 
 namespace look {
 
-/// A picture surface of the main window: pages draw into its recording, it shows the drawing at
-/// the density of the screen, and screen readers get the text that stands on it. The control is
-/// named after the surface.
+/// Shows what a recording has on one surface, at the density of the screen; screen readers get the
+/// text that stands there.
 class PictureBox : public QWidget {
 public:
     /// `widthPx` is the width to draw on; the control itself may be larger, see setInset().
     PictureBox(page::SurfaceId id, int widthPx, QRgb ground, const page::FontBook& fonts,
-               page::Recording& recording, QWidget* parent);
+               const page::Recording& recording, QWidget* parent);
     ~PictureBox() override;
 
-    page::Surface& surface() { return surface_; }
-    page::SurfaceId surfaceId() const { return surface_.id(); }
+    page::SurfaceId surfaceId() const { return id_; }
 
     /// Leaves a border of `pixels` around the drawing, for a fine rule. While nothing is drawn the
     /// control shows neither, but the window below.
@@ -52,6 +49,10 @@ public:
     /// Wipes the picture, for a new page. The recording must have been emptied before.
     void empty();
 
+    /// Gives the page its height, in pixels from 0 to page::kMaxSurfaceHeightPx; with 0 it is as
+    /// tall as what stands on it.
+    void setPageHeightPx(double pixels) { heightPx_ = pixels; }
+
     /// Shows what was drawn up to now; it appears at the next repaint.
     void showDrawing();
 
@@ -75,8 +76,7 @@ public:
     /// Whether nothing was drawn, as far as it was shown, and no controls stand there.
     bool isBlank() const { return raster_.isBlank() && controlsFoot_ == 0; }
 
-    /// Height of the page on it, in pixels: what the surface was set to; a page that left it
-    /// without setting one is as tall as what stands on it.
+    /// Height of the page on it, in pixels.
     int pageHeightPx() const;
 
     /// The text on the surface, line by line.
@@ -88,8 +88,9 @@ protected:
 private:
     void paintMarks(QPainter& painter, const QRect& exposed) const;
 
-    page::Recording& recording_;
-    page::Surface surface_;
+    const page::Recording& recording_;
+    page::SurfaceId id_;
+    double heightPx_ = 0;
     output::RasterSurface raster_;
     int inset_ = 0;
     int controlsFoot_ = 0;

@@ -1,5 +1,3 @@
-#include "markup/answer_fields.h"
-
 #include "markup/arguments.h"
 #include "markup/directives.h"
 #include "markup/renderer.h"
@@ -57,24 +55,24 @@ void showNext(Renderer& renderer, AnswerFields::Choices& choices, page::FieldCon
 // Questions only: a course page has no answer controls.
 
 void optionField(Renderer& renderer, QStringView) {
-    if (AnswerFields* fields = renderer.state().fenetreSource->answerFields())
+    if (AnswerFields* fields = renderer.answerFields())
         showNext(renderer, fields->Option1, page::FieldControl::Option1, kOptionDrop);
 }
 
 void checkField(Renderer& renderer, QStringView) {
-    if (AnswerFields* fields = renderer.state().fenetreSource->answerFields())
+    if (AnswerFields* fields = renderer.answerFields())
         showNext(renderer, fields->Check1, page::FieldControl::Check1, kCheckDrop);
 }
 
 void textField(Renderer& renderer, QStringView) {
-    if (AnswerFields* fields = renderer.state().fenetreSource->answerFields())
+    if (AnswerFields* fields = renderer.answerFields())
         show(renderer, fields->Text1,
              fieldAtPen(renderer, page::FieldControl::Text1, -kTextRise,
                         AnswerFields::kTextBoxWidth));
 }
 
 void questionLink(Renderer& renderer, QStringView d) {
-    AnswerFields* fields = renderer.state().fenetreSource->answerFields();
+    AnswerFields* fields = renderer.answerFields();
     const auto argument = splitAtLastSharp(d, kKeywordLength);
     if (!fields || !argument)
         return;
@@ -98,7 +96,7 @@ void questionLink(Renderer& renderer, QStringView d) {
 }
 
 void questionVideo(Renderer& renderer, QStringView d) {
-    AnswerFields* fields = renderer.state().fenetreSource->answerFields();
+    AnswerFields* fields = renderer.answerFields();
     const auto argument = splitAtLastSharp(d, kKeywordLength);
     if (!fields || !argument)
         return;
@@ -114,9 +112,8 @@ void pageVideo(Renderer& renderer, QStringView d) {
     if (!renderer.onCoursePage())
         return;
     const QString name = d.sliced(kKeywordLength).toString();
-    renderer.state().videoPage = name;
+    renderer.page().videoPage = name;
     renderer.recording().add(page::VideoOperation{name});
-    renderer.window().showVideoFrame();
 }
 
 } // namespace markup

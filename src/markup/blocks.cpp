@@ -61,7 +61,7 @@ void fonddegrade(Surface& surface, double top, double width, QRgb tint) {
 void backgroundGradient(Renderer& renderer, QStringView d) {
     const int style = text::toInt16(lastNumber(d, 1)).value_or(0);
     if (const auto tint = pageTint(style))
-        fonddegrade(renderer.surface(), renderer.state().hauteurPage, renderer.fullWidth(), *tint);
+        fonddegrade(renderer.surface(), renderer.page().hauteurPage, renderer.fullWidth(), *tint);
 }
 
 void frameWidth(Renderer& renderer, QStringView d) {

@@ -1,30 +1,22 @@
 #pragma once
 
-#include "markup/link_table.h"
-#include "markup/qb_color.h"
-#include "page/surface.h"
 #include "text/bounded_array.h"
 
 #include <QPointF>
+#include <QRgb>
 #include <QString>
 
 #include <cstdint>
 
 namespace markup {
 
-class SourceWindow;
-
 /// Edges of a table row whose colours a page can choose; indices of `couleursBord`.
 enum BorderEdge { TopEdge = 1, BottomEdge, LeftEdge, InnerEdge, RightEdge };
 
 /// What the drawing of a page depends on, beside the surface's own pen, font, ink and line width.
-/// There is one for the whole program: it outlives a page, and only what `initecran` resets starts
-/// anew. Lengths are twips.
+/// There is one for the whole program: it outlives a page, whether that was a course page, a
+/// question or one on paper, and only what `initecran` resets starts anew. Lengths are twips.
 struct DrawingState {
-    page::Surface* surfaceDessin = nullptr; ///< set by the caller of a rendering
-    SourceWindow* fenetreSource = nullptr;  ///< set by the caller of a rendering
-    bool enImpression = false;              ///< set by the caller of a rendering
-
     std::int16_t alignement = 0; ///< 0 left, 1 centre, 2 right
     std::int16_t margeGauche = 0;
     std::int16_t margeDroite = 0;
@@ -34,14 +26,11 @@ struct DrawingState {
     std::int16_t reliefCouleur = 0;  ///< index of the 16-colour palette
     bool dansTableau = false;
     text::BoundedArray<QRgb, TopEdge, RightEdge> couleursBord;
-    QString lienEnAttente; ///< first line of the next link's caption, with its line end
-    LinkTable links;
-    std::int16_t menuCourant = 0; ///< the floating menu that entries are added to
-    std::int32_t hauteurPage = 0;
-    QString videoPage;
+    QString lienEnAttente;         ///< first line of the next link's caption, with its line end
+    std::int16_t largeurCadre = 0; ///< width of the next frame; 0: the whole column
 
-    // Nothing resets these: a page that ends a fraction, a root or a row which it never began goes
-    // on from the last one drawn, meant so.
+    // Nothing resets these: a page that ends a fraction, a root or a row which it never began, or
+    // adds to a menu that it has not, goes on from the last one drawn, meant so.
     std::int16_t fracDebutX = 0;      ///< where the numerator began
     std::int16_t fracFinX = 0;        ///< right end of the longer part of the fraction
     QPointF debutRacine;              ///< pen at the start of the square root
@@ -49,8 +38,7 @@ struct DrawingState {
     std::int32_t basRangee = 0;       ///< lowest pen in the row's cells so far
     std::int16_t colonneCourante = 0; ///< number of the last cell opened
     text::BoundedArray<std::int16_t, 0, 30> bordsColonne; ///< left edge of each cell
-
-    std::int16_t largeurCadre = 0; ///< width of the next frame; 0: the whole column
+    std::int16_t menuCourant = 0; ///< the floating menu that entries are added to
 };
 
 /// Where the left edge of something `width` wide stands between the margins: in the middle, at the

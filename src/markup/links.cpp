@@ -115,7 +115,7 @@ std::optional<int> placePicture(Renderer& renderer, QStringView key, const QStri
 
     std::optional<int> index;
     if (renderer.onCoursePage())
-        index = placeControl(renderer, renderer.state().links.Imagelien, link);
+        index = placeControl(renderer, renderer.page().links.Imagelien, link);
     else
         printPicture(renderer, link);
     renderer.surface().setPenX(link.x + link.width);
@@ -144,7 +144,7 @@ void textLink(Renderer& renderer, QStringView d) {
     link.width = extent.width;
     link.height = extent.height;
     if (renderer.onCoursePage())
-        placeControl(renderer, renderer.state().links.Labelien, link);
+        placeControl(renderer, renderer.page().links.Labelien, link);
     else
         printCaption(renderer, link);
     surface.setPenX(link.x + link.width);
@@ -180,7 +180,7 @@ void menuEntry(Renderer& renderer, QStringView d) {
     const QString caption = takeCaption(state, argument->before);
     if (!renderer.onCoursePage())
         return;
-    LinkTable::Menu* menu = state.links.menusFlottants.slot(state.menuCourant);
+    LinkTable::Menu* menu = renderer.page().links.menusFlottants.slot(state.menuCourant);
     if (!renderer.check(menu != nullptr, u"il y a plus de 21 menus flottants"))
         return;
     const int entry = freeEntry(*menu);

@@ -1,12 +1,17 @@
 #include "markup/renderer.h"
 
 #include "markup/directive_table.h"
+#include "markup/qb_color.h"
 #include "page/printable_text.h"
+#include "page/surface_widths.h"
+#include "page/twips.h"
 #include "text/rounding.h"
 
 namespace markup {
 
 namespace {
+
+using page::SurfaceId;
 
 constexpr QStringView kLineEnd = u"\r\n";
 constexpr QStringView kDirectiveMark = u"##";
@@ -15,35 +20,58 @@ constexpr QChar kParagraphEnd = u'\u00B6';
 /// Width of the text column on paper, in pixels of the screen.
 constexpr double kPaperColumnPx = 600;
 
+page::Surface surfaceOf(SurfaceId id, int widthPx, const DrawingTools& tools,
+                        page::Recording& recording) {
+    return {id, widthPx * page::kTwipsPerPixel, tools.metrics, recording};
+}
+
+/// Where a text begins.
+SurfaceId areaOf(DrawnAs as) {
+    switch (as) {
+    case DrawnAs::Question:
+        return SurfaceId::Picture2;
+    case DrawnAs::Paper:
+        return SurfaceId::Printer;
+    case DrawnAs::CoursePage:
+        break;
+    }
+    return SurfaceId::PictureTexte;
+}
+
 } // namespace
 
-Renderer::Renderer(DrawingState& state, PageWindow& window, PictureShelf& pictures,
-                   page::Recording& recording, double screenTwipsPerPixel)
-    : state_(state), window_(window), pictures_(pictures), recording_(recording),
-      twipsPerPixel_(screenTwipsPerPixel) {}
-
-bool Renderer::onCoursePage() const {
-    return !state_.enImpression && !state_.fenetreSource->answerFields();
+Renderer::Renderer(const PageText& text, const DrawingTools& tools, DrawnPage& page)
+    : text_(text), tools_(tools), page_(page),
+      surfaces_{
+          surfaceOf(SurfaceId::PictureTexte, page::kPageWidthPx, tools, page.recording),
+          surfaceOf(SurfaceId::PictureIllus, page::kIllustrationWidthPx, tools, page.recording),
+          surfaceOf(SurfaceId::Titre, page::kTitleWidthPx, tools, page.recording),
+          surfaceOf(SurfaceId::Picture2, page::kPageWidthPx, tools, page.recording),
+          surfaceOf(SurfaceId::Printer, page::kPageWidthPx, tools, page.recording)},
+      nowhere_(surfaceOf(SurfaceId::Printer, page::kPageWidthPx, tools, discarded_)),
+      area_(surface(areaOf(text.as))), surfaceDessin_(&area_) {
+    page_.hauteurPage = text.hauteurPage;
+    if (text.as == DrawnAs::Question)
+        area_.setHeightPx(kQuestionAreaTwips / page::kTwipsPerPixel);
 }
 
-void Renderer::drawOnPaper() {
-    state_.surfaceDessin = paper_;
+void Renderer::setBusy(bool busy) {
+    if (tools_.watcher)
+        tools_.watcher->setBusy(busy);
 }
 
-void Renderer::drawNowhere() {
-    discarded_.clear();
-    nowhere_.emplace(paper_->id(), paper_->scaleWidth(), paper_->metrics(), discarded_);
-    state_.surfaceDessin = &*nowhere_;
+void Renderer::refresh() {
+    if (tools_.watcher)
+        tools_.watcher->refresh(surface().id());
 }
 
 double Renderer::fullWidth() const {
-    return state_.enImpression ? kPaperColumnPx * twipsPerPixel_
-                               : state_.surfaceDessin->scaleWidth();
+    return enImpression() ? kPaperColumnPx * page::kTwipsPerPixel : surfaceDessin_->scaleWidth();
 }
 
 bool Renderer::check(bool done, const char16_t* reason) {
     if (!done)
-        recording_.add(
+        recording().add(
             page::FailedOperation{lineNumber_, directive_.toString(), QString::fromUtf16(reason)});
     return done;
 }
@@ -60,7 +88,8 @@ void Renderer::movePenYBy(double twips) {
 }
 
 void Renderer::initecran() {
-    state_.lienEnAttente.clear();
+    DrawingState& state = tools_.state;
+    state.lienEnAttente.clear();
 
     page::Surface& target = surface();
     target.setFontPoints(10);
@@ -72,54 +101,42 @@ void Renderer::initecran() {
     target.setPenX(0);
     target.setPenY(0);
 
-    state_.reliefDecalage = 0;
-    state_.alignement = 0;
-    state_.dansTableau = false;
+    state.reliefDecalage = 0;
+    state.alignement = 0;
+    state.dansTableau = false;
     for (int edge = TopEdge; edge <= RightEdge; ++edge)
-        state_.couleursBord.store(edge, *qbColor(kLightBlueIndex));
-    state_.interligne = 1;
-    state_.decalageUnique = 0;
-    state_.margeGauche = 0;
-    state_.largeurCadre = 0;
-    store(state_.margeDroite, fullWidth());
+        state.couleursBord.store(edge, *qbColor(kLightBlueIndex));
+    state.interligne = 1;
+    state.decalageUnique = 0;
+    state.margeGauche = 0;
+    state.largeurCadre = 0;
+    store(state.margeDroite, fullWidth());
 
     target.setLineWidth(1);
-    if (state_.enImpression)
-        window_.preparePrinter();
-    window_.setBusy(true);
-    state_.fenetreSource->code().setSelectionStart(0);
+    // Paper asks for no preparation: its surface, too, counts in twips and prints text without a
+    // ground.
+    setBusy(true);
 
     // An empty line printed at the pen ends with the pen at the left; the drawing then goes on
     // below what stands already.
     target.setPenX(0);
-    target.setPenY(state_.hauteurPage);
+    target.setPenY(page_.hauteurPage);
 }
 
 void Renderer::affichepage() {
-    if (!state_.surfaceDessin || !state_.fenetreSource)
-        return;
-    lineNumber_ = 0;
-    directive_ = {};
-    paper_ = state_.surfaceDessin;
+    page_.lines.assign(recording().size(), 0);
     initecran();
-
-    page::RichTextHolder& code = state_.fenetreSource->code();
-    for (;;) {
-        const qsizetype debut = code.selectionStart();
-        const qsizetype end = code.find(kLineEnd, debut, code.text().size());
-        if (end < 0)
-            break; // what follows the last line end is never drawn
+    const QStringView code = text_.source;
+    qsizetype debut = 0;
+    // What follows the last line end is never drawn.
+    for (qsizetype end; (end = code.indexOf(kLineEnd, debut)) >= 0; debut = end + kLineEnd.size()) {
         ++lineNumber_;
-        code.setSelectionLength(end - debut);
-        drawLine(code.selectedText());
-        code.setSelectionStart(end + kLineEnd.size());
+        drawLine(code.sliced(debut, end - debut));
+        page_.lines.resize(recording().size(), lineNumber_);
     }
     directive_ = {};
     finish();
-    // A page that ended nowhere leaves the paper to whoever writes the footer.
-    if (state_.enImpression)
-        drawOnPaper();
-    discarded_.clear();
+    page_.lines.resize(recording().size(), lineNumber_);
 }
 
 void Renderer::drawLine(QStringView ligne) {
@@ -148,35 +165,35 @@ void Renderer::printTextLine(const QString& texte, bool finParagraphe) {
     page::Surface& target = surface();
     align(texte);
     // A shift is taken back after the line, unless the pen could not follow it.
-    const std::int16_t shift = state_.decalageUnique;
+    const std::int16_t shift = state().decalageUnique;
     if (shift != 0)
         target.setPenY(target.penY() + shift);
-    if (state_.reliefDecalage != 0)
+    if (state().reliefDecalage != 0)
         printShadow(texte);
     target.print(texte);
     if (shift != 0) {
         target.setPenY(target.penY() - shift);
-        state_.decalageUnique = 0;
+        state().decalageUnique = 0;
     }
     if (finParagraphe) {
-        movePenYBy(static_cast<double>(state_.interligne) * target.textHeight());
-        target.setPenX(state_.margeGauche);
+        movePenYBy(static_cast<double>(state().interligne) * target.textHeight());
+        target.setPenX(state().margeGauche);
     }
 }
 
 void Renderer::align(const QString& texte) {
-    if (state_.alignement != 0)
-        surface().setPenX(alignedX(state_, surface().textWidth(texte), surface().penX()));
+    if (state().alignement != 0)
+        surface().setPenX(alignedX(state(), surface().textWidth(texte), surface().penX()));
 }
 
 void Renderer::printShadow(const QString& texte) {
     page::Surface& target = surface();
     const QRgb ink = target.ink();
     const QPointF pen = target.pen();
-    const auto shadow = qbColor(state_.reliefCouleur);
+    const auto shadow = qbColor(state().reliefCouleur);
     if (check(shadow.has_value(), u"la couleur du relief n’est pas dans la palette"))
         target.setInk(*shadow);
-    const double offset = state_.reliefDecalage * page::kTwipsPerPixel;
+    const double offset = state().reliefDecalage * page::kTwipsPerPixel;
     target.setPenX(pen.x() + offset);
     target.setPenY(pen.y() + offset);
     target.print(texte);
@@ -186,16 +203,25 @@ void Renderer::printShadow(const QString& texte) {
 }
 
 void Renderer::finish() {
-    if (state_.enImpression) {
-        state_.hauteurPage = 0;
+    if (enImpression()) {
+        page_.hauteurPage = 0;
+        // A page that ended nowhere leaves the paper to whoever writes the footer.
+        drawOn(area_);
         return;
     }
     const auto height = text::toInt32(surface().penY());
     check(height.has_value(), u"la page est trop haute");
-    state_.hauteurPage = height.value_or(state_.hauteurPage);
-    check(surface().setHeightPx(surface().penY() / twipsPerPixel_),
+    page_.hauteurPage = height.value_or(page_.hauteurPage);
+    check(surface().setHeightPx(surface().penY() / page::kTwipsPerPixel),
           u"la surface refuse cette hauteur");
-    window_.setBusy(false);
+    setBusy(false);
+}
+
+void Renderer::tellEnd() const {
+    for (std::size_t i = 0; i < surfaces_.size(); ++i)
+        page_.heightsPx[i] = surfaces_[i].heightPx();
+    page_.end = {surfaceDessin_->id(), surfaceDessin_->pen(), surfaceDessin_->font(),
+                 surfaceDessin_->ink()};
 }
 
 } // namespace markup

@@ -1,54 +1,58 @@
 #pragma once
 
-#include "markup/drawing_state.h"
-#include "markup/picture_shelf.h"
-#include "markup/windows.h"
+#include "markup/draw_page.h"
 #include "page/recording.h"
-#include "page/twips.h"
+#include "page/surface.h"
 
 #include <QStringView>
 
-#include <optional>
+#include <array>
+#include <cstddef>
 
 namespace markup {
 
-/// Draws the source of a page, line by line, onto the surface of the drawing state. A statement
-/// that fails is recorded, abandoned, and the next one runs: bad content never stops a page.
+/// Draws the source of a page, line by line, onto its surfaces. A statement that fails is recorded,
+/// abandoned, and the next one runs: bad content never stops a page. Used by drawPage() alone, for
+/// one text; the directives see the drawing through it.
 class Renderer {
 public:
-    /// `screenTwipsPerPixel` is the vertical one. All references must outlive the renderer.
-    Renderer(DrawingState& state, PageWindow& window, PictureShelf& pictures,
-             page::Recording& recording, double screenTwipsPerPixel = page::kTwipsPerPixel);
+    /// All references must outlive the renderer.
+    Renderer(const PageText& text, const DrawingTools& tools, DrawnPage& page);
 
-    /// Draws the whole source of `fenetreSource`. Callers set `surfaceDessin`, `fenetreSource` and
-    /// `enImpression` first, load the source, and set `hauteurPage` to 0 unless the drawing is to
-    /// continue below the previous one. Leaves the height drawn in `hauteurPage` and on the
-    /// surface.
+    /// Draws the whole source, from `hauteurPage` of the page on, and leaves the height drawn there
+    /// and on the surface.
     void affichepage();
+
+    /// Leaves in the page what is known at the end: the heights of the surfaces, and the pen.
+    void tellEnd() const;
+
+    // For the directives.
 
     /// Resets the drawing state and puts the pen at the top left corner (below what stands already,
     /// when `hauteurPage` is not 0).
     void initecran();
 
-    /// Runs one directive line, given with its leading "##".
-    void tradcode(QStringView ligne);
+    DrawingState& state() { return tools_.state; }
+    DrawnPage& page() { return page_; }
+    PictureShelf& pictures() { return tools_.pictures; }
+    page::Recording& recording() { return page_.recording; }
 
-    // For the directives.
+    /// `surfaceDessin`: where drawing goes now.
+    page::Surface& surface() { return *surfaceDessin_; }
+    page::Surface& surface(page::SurfaceId id) { return surfaces_[static_cast<std::size_t>(id)]; }
+    void drawOn(page::Surface& surface) { surfaceDessin_ = &surface; }
+    /// Where "OBJ" directives lead while printing when it is not back to the paper.
+    page::Surface& nowhere() { return nowhere_; }
 
-    DrawingState& state() { return state_; }
-    PageWindow& window() { return window_; }
-    PictureShelf& pictures() { return pictures_; }
-    page::Recording& recording() { return recording_; }
-    page::Surface& surface() { return *state_.surfaceDessin; }
-    double twipsPerPixel() const { return twipsPerPixel_; }
-
+    bool enImpression() const { return text_.as == DrawnAs::Paper; }
     /// Whether the page at hand is a course page on screen: the only kind that places links and
     /// has a title bar and a video.
-    bool onCoursePage() const;
+    bool onCoursePage() const { return text_.as == DrawnAs::CoursePage; }
+    /// The answer controls that the page can place; null when it is no question.
+    AnswerFields* answerFields() { return text_.as == DrawnAs::Question ? &page_.fields : nullptr; }
 
-    /// Where "OBJ" directives lead while printing: back to the paper, or nowhere.
-    void drawOnPaper();
-    void drawNowhere();
+    /// Shows what was drawn so far, to who waits for it.
+    void refresh();
 
     /// Width of the text column when nothing narrows it.
     double fullWidth() const;
@@ -65,19 +69,21 @@ public:
 
 private:
     void drawLine(QStringView ligne);
+    void tradcode(QStringView ligne);
     void printTextLine(const QString& texte, bool finParagraphe);
     void align(const QString& texte);
     void printShadow(const QString& texte);
     void finish();
+    void setBusy(bool busy);
 
-    DrawingState& state_;
-    PageWindow& window_;
-    PictureShelf& pictures_;
-    page::Recording& recording_;
-    double twipsPerPixel_;
-    page::Surface* paper_ = nullptr;
+    const PageText& text_;
+    DrawingTools tools_;
+    DrawnPage& page_;
+    std::array<page::Surface, page::kSurfaces> surfaces_; ///< in the order of SurfaceId
     page::Recording discarded_;
-    std::optional<page::Surface> nowhere_;
+    page::Surface nowhere_;
+    page::Surface& area_; ///< where the text begins
+    page::Surface* surfaceDessin_;
     int lineNumber_ = 0;
     QStringView directive_;
 };

@@ -1,6 +1,7 @@
 #include "markup/arguments.h"
 #include "markup/directives.h"
 #include "markup/renderer.h"
+#include "page/twips.h"
 
 namespace markup {
 
@@ -11,52 +12,51 @@ constexpr char16_t kHeightRefused[] = u"la surface refuse cette hauteur";
 /// How much a "PLOUF" adds to the surface, in pixels.
 constexpr double kGrowthPx = 1000;
 
-void drawOn(Renderer& renderer, page::Surface& surface) {
-    renderer.state().surfaceDessin = &surface;
-    renderer.recording().add(page::SwitchOperation{surface.id()});
+void drawOn(Renderer& renderer, page::SurfaceId surface) {
+    renderer.drawOn(renderer.surface(surface));
+    renderer.recording().add(page::SwitchOperation{surface});
 }
 
 /// What a name after "OBJ" leads to on screen.
 void chooseOnScreen(Renderer& renderer, QStringView name) {
     if (name == u"TIT") {
-        drawOn(renderer, renderer.window().titre());
+        drawOn(renderer, page::SurfaceId::Titre);
         // The title stands there already; a page that draws its own wants an empty band.
         renderer.surface().clear();
     } else if (name == u"ILLUS") {
-        drawOn(renderer, renderer.window().pictureIllus());
+        drawOn(renderer, page::SurfaceId::PictureIllus);
     } else if (name == u"PRINCIPAL") {
-        drawOn(renderer, renderer.window().pictureTexte());
+        drawOn(renderer, page::SurfaceId::PictureTexte);
     }
 }
 
 /// Paper shows the text column only.
 void chooseOnPaper(Renderer& renderer, QStringView name) {
     if (name == u"PRINCIPAL")
-        renderer.drawOnPaper();
+        renderer.drawOn(renderer.surface(page::SurfaceId::Printer));
     else if (name == u"TIT" || name == u"ILLUS")
-        renderer.drawNowhere();
+        renderer.drawOn(renderer.nowhere());
 }
 
 } // namespace
 
 void refreshAndGrow(Renderer& renderer, QStringView) {
-    if (renderer.state().enImpression)
+    if (renderer.enImpression())
         return;
     page::Surface& surface = renderer.surface();
-    renderer.window().refresh(surface);
+    renderer.refresh();
     renderer.check(surface.setHeightPx(surface.heightPx() + kGrowthPx), kHeightRefused);
 }
 
 void chooseSurface(Renderer& renderer, QStringView d) {
     const QStringView name = charactersFrom(d, 4);
-    if (renderer.state().enImpression)
+    if (renderer.enImpression())
         chooseOnPaper(renderer, name);
     else
         chooseOnScreen(renderer, name);
     if (name == u"TAILLE") {
         page::Surface& surface = renderer.surface();
-        renderer.check(surface.setHeightPx(surface.penY() / renderer.twipsPerPixel()),
-                       kHeightRefused);
+        renderer.check(surface.setHeightPx(surface.penY() / page::kTwipsPerPixel), kHeightRefused);
     }
     renderer.initecran();
 }
@@ -68,7 +68,7 @@ void windowCaption(Renderer& renderer, QStringView d) {
     const QString caption =
         QStringLiteral("Orvalente - KAROPE                  ") + charactersFrom(d, 7).toString();
     renderer.recording().add(page::CaptionOperation{caption});
-    renderer.window().setCaption(caption);
+    renderer.page().caption = caption;
 }
 
 } // namespace markup

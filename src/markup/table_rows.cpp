@@ -1,5 +1,6 @@
 #include "markup/arguments.h"
 #include "markup/directives.h"
+#include "markup/qb_color.h"
 #include "markup/renderer.h"
 #include "page/twips.h"
 #include "text/rounding.h"

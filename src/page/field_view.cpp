@@ -82,9 +82,14 @@ void drawField(const FieldOperation& field, const FieldPictures& pictures,
             operations.emplace_back(std::move(line));
     } else if (const auto& picture = pictureOf(field.control, pictures)) {
         const QSize pixels = picture->size();
-        operations.emplace_back(PictureOperation{
-            field.surface, field.x, field.y, pixels.width() * kTwipsPerPixel,
-            pixels.height() * kTwipsPerPixel, picture, fieldControlName(field.control), true});
+        operations.emplace_back(PictureOperation{field.surface,
+                                                 field.x,
+                                                 field.y,
+                                                 pixels.width() * kTwipsPerPixel,
+                                                 pixels.height() * kTwipsPerPixel,
+                                                 picture,
+                                                 {},
+                                                 true});
     } else {
         drawFrame({field.surface, field.x, field.y, kPlaceholderSide, kPlaceholderSide,
                    kTextBoxEdge, FillMode::Copy},

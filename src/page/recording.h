@@ -15,10 +15,7 @@ namespace page {
 
 /// The places a page can be drawn on.
 enum class SurfaceId { PictureTexte, PictureIllus, Titre, Picture2, Printer };
-
-/// Name of the surface as the control that shows it is called ("PictureTEXTE", "PICTUREILLUS",
-/// "titre", "Picture2"), or "printer".
-QString surfaceName(SurfaceId id);
+inline constexpr std::size_t kSurfaces = 5;
 
 // What was drawn, in drawing order. Lengths and positions are twips from the surface's top left
 // corner; x and y of a text are the pen before printing (the top of the line, not its foot).
@@ -63,9 +60,6 @@ struct PictureOperation {
 /// The arrays of link controls.
 enum class LinkControl { Labelien, Imagelien };
 
-/// "Labelien" or "Imagelien".
-QString linkControlName(LinkControl control);
-
 /// A link was placed. On screen it is a control that can be clicked; files and paper show its
 /// caption or picture. An element that is placed again is no longer where it was before.
 struct LinkOperation {
@@ -94,9 +88,6 @@ struct MenuOperation {
 
 /// The controls of the test window that a question can place.
 enum class FieldControl { Option1, Check1, Text1, Labelien, Image1, Icovideo };
-
-/// The control's name as in the enumeration.
-QString fieldControlName(FieldControl control);
 
 /// An answer control, or a link of a question, was placed.
 struct FieldOperation {

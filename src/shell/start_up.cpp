@@ -55,7 +55,6 @@ StartUp::Outcome StartUp::run() {
 }
 
 void StartUp::prepareWindow() {
-    parts_.window.shareLinkCursor();
     parts_.window.setWidth(kWindowWidthPixels *
                            platform::knownTwipsPerPixel(parts_.screen.twipsPerPixelX()));
 }

@@ -16,8 +16,6 @@ class StartUpWindow {
 public:
     virtual ~StartUpWindow() = default;
 
-    /// Gives all link controls the cursor of the first one.
-    virtual void shareLinkCursor() = 0;
     virtual void setWidth(double twips) = 0;
     virtual void place(const Placement& placement) = 0;
     /// Handles the window messages that are waiting, and returns.

@@ -34,13 +34,13 @@ void ActionDispatcher::runAction(QString& code) {
 void ActionDispatcher::showPageByNumber(double number) {
     const auto n = text::toInt16(number);
     if (const auto position = n ? coursedata::positionOfCode(state_, *n) : std::nullopt)
-        loader_.moveTo(*position);
+        loader_.record().moveTo(*position);
     show();
 }
 
 void ActionDispatcher::showPageByOrder(std::int32_t index) {
     if (const auto position = coursedata::positionByOrder(state_, index))
-        loader_.moveTo(*position);
+        loader_.record().moveTo(*position);
     show();
 }
 

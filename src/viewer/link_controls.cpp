@@ -65,11 +65,6 @@ std::vector<LinkWidget*> LinkControls::made() const {
     return all;
 }
 
-void LinkControls::shareCursor() {
-    for (LinkWidget* link : made())
-        link->setCursor(kPointer);
-}
-
 void LinkControls::reset() {
     if (menuflot_)
         menuflot_->close();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "markup/link_table.h"
+#include "markup/drawn_page.h"
 #include "page/faces/font_book.h"
 #include "viewer/neighbours.h"
 
@@ -29,7 +29,6 @@ public:
     ~LinkControls() override;
 
     // PageLinks
-    void shareCursor() override;
     void reset() override;
     void show() override;
     void resetHighlight(int kept) override;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "markup/link_table.h"
+#include "markup/drawn_page.h"
 
 namespace viewer {
 

@@ -8,7 +8,7 @@
 #include "look/palette.h"
 #include "look/picture_box.h"
 #include "look/program_icon.h"
-#include "look/surface_widths.h"
+#include "page/surface_widths.h"
 #include "page/twips.h"
 #include "platform/file_names.h"
 #include "viewer/chapter_bar.h"
@@ -71,15 +71,17 @@ void Multim::addControls() {
     toolbar_ = new Toolbar(body_);
     toolbar_->setGeometry(kToolbar);
 
-    titre_ = new look::PictureBox(SurfaceId::Titre, look::kTitleWidthPx, look::kIvory, fonts_,
-                                  recording_, body_);
+    titre_ = new look::PictureBox(SurfaceId::Titre, page::kTitleWidthPx, look::kIvory, fonts_,
+                                  shown_.recording, body_);
+    titre_->setObjectName(QStringLiteral("titre"));
     titre_->setGeometry(kTitle);
     new look::InkRim(*titre_, body_);
 
     panel_ = new look::PagePanel(body_);
     panel_->setGeometry(kPanel);
-    PictureTEXTE_ = new look::PictureBox(SurfaceId::PictureTexte, look::kPageWidthPx, look::kPaper,
-                                         fonts_, recording_, panel_);
+    PictureTEXTE_ = new look::PictureBox(SurfaceId::PictureTexte, page::kPageWidthPx, look::kPaper,
+                                         fonts_, shown_.recording, panel_);
+    PictureTEXTE_->setObjectName(QStringLiteral("PictureTEXTE"));
     panel_->setPage(PictureTEXTE_);
     // A click in the page gives it the keyboard, also below a page that is shorter than the view.
     PictureTEXTE_->setFocusPolicy(Qt::StrongFocus);
@@ -89,8 +91,9 @@ void Multim::addControls() {
     videoFrame_ = new VideoFrame(body_);
 
     rail_ = new Rail(body_);
-    PICTUREILLUS_ = new look::PictureBox(SurfaceId::PictureIllus, look::kIllustrationWidthPx,
-                                         look::kPaper, fonts_, recording_, rail_);
+    PICTUREILLUS_ = new look::PictureBox(SurfaceId::PictureIllus, page::kIllustrationWidthPx,
+                                         look::kPaper, fonts_, shown_.recording, rail_);
+    PICTUREILLUS_->setObjectName(QStringLiteral("PICTUREILLUS"));
     PICTUREILLUS_->setAccessibleName(QStringLiteral("Illustration de la page"));
     rail_->setIllustration(PICTUREILLUS_);
 
@@ -99,7 +102,7 @@ void Multim::addControls() {
     cover_->hide();
 
     finder_ = std::make_unique<PageFinder>(PageFinder::Stage{
-        *findBar, *panel_, {PictureTEXTE_, PICTUREILLUS_, titre_}, recording_, fonts_});
+        *findBar, *panel_, {PictureTEXTE_, PICTUREILLUS_, titre_}, shown_.recording, fonts_});
     layOut();
     button("Command2").setLastingMnemonic(u'S');
     setPrintable(false);
@@ -127,7 +130,6 @@ bool Multim::Form_Load() {
         return false;
     prepareAreas();
     showCover();
-    setUpRenderer();
     if (!buildIndex())
         return false;
     cover_->hide();
@@ -155,19 +157,13 @@ void Multim::showCover() {
         show();
 }
 
-void Multim::setUpRenderer() {
-    markup::DrawingState& drawing = parts_->renderer.state();
-    drawing.surfaceDessin = &pictureTexte();
-    drawing.fenetreSource = this;
-    parts_->renderer.initecran();
-}
-
 /// False when the window was closed meanwhile.
 bool Multim::buildIndex() {
     showHourglass();
     pumpPendingMessages();
-    if (!closeRequested_ && parts_->pages.records())
-        buildPageIndex(*parts_->pages.records(), state_, [this] { pumpPendingMessages(); });
+    const coursedata::Recordset* records = parts_->pages.record().records();
+    if (!closeRequested_ && records)
+        buildPageIndex(*records, state_, [this] { pumpPendingMessages(); });
     restorePointer();
     return !closeRequested_;
 }
@@ -177,10 +173,6 @@ void Multim::showFirstPage() {
     setPageVisible(true);
     // Only the window manager shows it, and reading it takes as long as a page: after the page.
     QTimer::singleShot(0, this, [this] { setWindowIcon(look::programIcon()); });
-}
-
-void Multim::shareLinkCursor() {
-    parts_->neighbours.links.shareCursor();
 }
 
 void Multim::setWidth(double twips) {

@@ -1,10 +1,8 @@
 #pragma once
 
-#include "markup/renderer.h"
-#include "markup/windows.h"
+#include "markup/draw_page.h"
 #include "page/faces/font_book.h"
 #include "page/recording.h"
-#include "page/rich_text_holder.h"
 #include "platform/screen.h"
 #include "shell/report_sink.h"
 #include "shell/shared_state.h"
@@ -48,8 +46,7 @@ class VideoFrame;
 class Multim : public QWidget,
                public PageView,
                public VideoView,
-               public markup::PageWindow,
-               public markup::SourceWindow,
+               public markup::DrawingWatcher,
                public shell::StartUpWindow,
                public shell::ReportSink {
 public:
@@ -61,7 +58,6 @@ public:
         MainCommands& commands;
         ActionDispatcher& actions;
         PageLoader& pages;
-        markup::Renderer& renderer;
         Neighbours neighbours;
         /// Start-up before the window sets itself up; false to end the program.
         std::function<bool()> startUp;
@@ -73,8 +69,8 @@ public:
     /// was closed meanwhile.
     bool Form_Load();
 
-    /// The drawing of the page that is shown.
-    page::Recording& recording() { return recording_; }
+    /// The page that is shown, for who draws it.
+    markup::DrawnPage& shownPage() { return shown_; }
 
     /// The frame of the video buttons, and where the video's picture goes.
     enum class VideoLayout { None, Closed, Open };
@@ -94,8 +90,9 @@ public:
     void resetLinks() override;
     void hideScrollBarAndVideoFrame() override;
     void clearPictures() override;
-    void setCaption(const QString& caption) override; // of markup::PageWindow too
+    void setCaption(const QString& caption) override;
     void setTitle(const QString& title) override;
+    void showVideoFrame() override;
     void setBackEnabled(bool enabled) override;
     void setForwardEnabled(bool enabled) override;
     void fitPage() override;
@@ -107,18 +104,11 @@ public:
     void showHourglass() override;
     void restorePointer() override;
 
-    // markup::PageWindow, markup::SourceWindow
-    page::Surface& pictureTexte() override;
-    page::Surface& pictureIllus() override;
-    page::Surface& titre() override;
+    // markup::DrawingWatcher
     void setBusy(bool busy) override;
-    void refresh(page::Surface& surface) override;
-    void preparePrinter() override;
-    void showVideoFrame() override;
-    page::RichTextHolder& code() override { return code_; }
+    void refresh(page::SurfaceId surface) override;
 
     // shell::StartUpWindow
-    void shareLinkCursor() override;
     void setWidth(double twips) override;
     void place(const shell::Placement& placement) override;
     void pumpPendingMessages() override; // of VideoView too
@@ -150,7 +140,6 @@ private:
     // Form_Load, step by step.
     void prepareAreas();
     void showCover();
-    void setUpRenderer();
     bool buildIndex();
     void showFirstPage();
 
@@ -190,8 +179,7 @@ private:
     shell::SharedState& state_;
     const page::FontBook& fonts_;
     const platform::Screen& screen_;
-    page::Recording recording_;
-    page::RichTextHolder code_;
+    markup::DrawnPage shown_;
     std::optional<Parts> parts_;
     WindowSizeRule sizeRule_;
     QTimer sizeSettled_;

@@ -1,4 +1,4 @@
-// The main window as the page loader and the renderer see it.
+// The main window as the page loader, and the page while it is drawn, see it.
 
 #include "look/button.h"
 #include "look/page_panel.h"
@@ -8,7 +8,6 @@
 #include "viewer/chapter_bar.h"
 #include "viewer/multim.h"
 #include "viewer/page_finder.h"
-#include "viewer/page_title.h"
 #include "viewer/rail.h"
 #include "viewer/video_frame.h"
 
@@ -48,7 +47,7 @@ void Multim::hideScrollBarAndVideoFrame() {
 
 void Multim::clearPictures() {
     finder_->pageGoes();
-    recording_.clear();
+    shown_ = {};
     for (look::PictureBox* box : {PictureTEXTE_, PICTUREILLUS_, titre_})
         box->empty();
     Framebase_->clearStatus();
@@ -64,8 +63,7 @@ void Multim::setTitle(const QString& title) {
     const QString words = title.simplified();
     PictureTEXTE_->setAccessibleName(words.isEmpty() ? QStringLiteral("Page du cours") : words);
     titre_->setAccessibleName(words);
-    const QString shown = drawPageTitle(titre_->surface(), fonts_, words);
-    look::setToolTip(*titre_, shown == words ? QString() : words);
+    look::setToolTip(*titre_, shown_.title == words ? QString() : words);
 }
 
 void Multim::setBackEnabled(bool enabled) {
@@ -77,8 +75,10 @@ void Multim::setForwardEnabled(bool enabled) {
 }
 
 void Multim::fitPage() {
-    for (look::PictureBox* box : {PictureTEXTE_, PICTUREILLUS_, titre_})
+    for (look::PictureBox* box : {PictureTEXTE_, PICTUREILLUS_, titre_}) {
+        box->setPageHeightPx(shown_.heightPx(box->surfaceId()));
         box->showDrawing();
+    }
     parts_->neighbours.links.show();
     panel_->fitPage();
     finder_->pageStands();
@@ -135,26 +135,12 @@ void Multim::setBusy(bool busy) {
     busy ? showHourglass() : restorePointer();
 }
 
-page::Surface& Multim::pictureTexte() {
-    return PictureTEXTE_->surface();
-}
-
-page::Surface& Multim::pictureIllus() {
-    return PICTUREILLUS_->surface();
-}
-
-page::Surface& Multim::titre() {
-    return titre_->surface();
-}
-
-void Multim::refresh(page::Surface& surface) {
-    for (look::PictureBox* box : {PictureTEXTE_, PICTUREILLUS_, titre_})
-        if (&box->surface() == &surface) {
-            box->showDrawing();
-            if (box->isVisible())
-                parts_->neighbours.links.show();
-            box->repaint();
-        }
+void Multim::refresh(page::SurfaceId surface) {
+    look::PictureBox& area = box(surface);
+    area.showDrawing();
+    if (area.isVisible())
+        parts_->neighbours.links.show();
+    area.repaint();
 }
 
 look::PictureBox& Multim::box(page::SurfaceId surface) {
@@ -170,10 +156,6 @@ look::PictureBox& Multim::box(page::SurfaceId surface) {
 
 void Multim::reveal(const QRect& part) {
     panel_->reveal(part);
-}
-
-void Multim::preparePrinter() {
-    parts_->neighbours.printing.prepare();
 }
 
 } // namespace viewer

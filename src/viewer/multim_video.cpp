@@ -55,7 +55,7 @@ void Multim::showVideoFrame() {
 }
 
 bool Multim::hasVideoMenu() const {
-    return parts_ && !videoMenuCaptions(parts_->renderer.state().videoPage).isEmpty();
+    return !videoMenuCaptions(shown_.videoPage.value_or(QString())).isEmpty();
 }
 
 void Multim::setPictureVisible(bool visible) {
@@ -99,7 +99,7 @@ void Multim::projo_Click() {
     MVideo->setAccessibleName(QStringLiteral("Vidéos"));
     MVideo->setStyle(new look::MenuStyle(MVideo));
     MVideo->setFont(look::interfaceFont(look::kLabelPx));
-    for (const QString& caption : videoMenuCaptions(parts_->renderer.state().videoPage))
+    for (const QString& caption : videoMenuCaptions(shown_.videoPage.value_or(QString())))
         connect(MVideo->addAction(caption), &QAction::triggered, this,
                 [this, caption] { chooseVideo(caption); });
     connect(MVideo, &QMenu::aboutToHide, MVideo, &QObject::deleteLater);
@@ -110,7 +110,8 @@ void Multim::projo_Click() {
 void Multim::chooseVideo(const QString& caption) {
     work([this, caption] {
         parts_->neighbours.video.close();
-        if (const auto target = videoMenuTarget(caption, parts_->pages.records(), summaryCode_))
+        if (const auto target =
+                videoMenuTarget(caption, parts_->pages.record().records(), summaryCode_))
             parts_->commands.runCode(*target);
     });
 }

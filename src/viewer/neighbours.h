@@ -37,8 +37,6 @@ public:
     virtual ~PagePrinting() = default;
     /// Prints what the page belongs to, after the print dialog.
     virtual void print() = 0;
-    /// Called when a rendering that goes to the printer starts or is reset.
-    virtual void prepare() = 0;
 };
 
 /// The links that the page has placed on the main window.
@@ -48,8 +46,6 @@ public:
     static constexpr int kNone = -1;
 
     virtual ~PageLinks() = default;
-    /// Gives all links the pointer of the first one.
-    virtual void shareCursor() = 0;
     /// Hides every link and empties its tag and tooltip.
     virtual void reset() = 0;
     /// Shows the links that the page has placed up to now, each on its surface.

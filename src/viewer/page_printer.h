@@ -1,11 +1,9 @@
 #pragma once
 
 #include "coursedata/bound_record.h"
-#include "markup/renderer.h"
+#include "markup/draw_page.h"
 #include "platform/printer.h"
 #include "shell/shared_state.h"
-#include "viewer/page_loader.h"
-#include "viewer/page_view.h"
 
 #include <cstdint>
 #include <functional>
@@ -31,14 +29,8 @@ class PagePrinter {
 public:
     struct Parts {
         shell::SharedState& state;
-        coursedata::BoundRecord& bound;
-        PageLoader& pages;
-        PageView& view;
-        markup::DrawingState& drawing;
-        markup::PageWindow& window;
-        markup::SourceWindow& source;
-        markup::PictureShelf& pictures;
-        const page::TextMetrics& metrics;
+        coursedata::BoundRecord& record;
+        markup::DrawingTools tools;
         platform::Printer& printer;
         /// Whether no further sheet is wanted; asked after each. May be empty.
         std::function<bool()> isStopped;
@@ -58,10 +50,8 @@ private:
     };
     Range range() const;
 
-    void makeCurrent(int position);
+    void setBusy(bool busy);
     void makeCurrentByNumber(std::int64_t number);
-    /// Draws the current record.
-    page::Font drawOnPaper(page::Recording& drawing);
     /// The sheets of the current record; false when one of them is missing. `isStopped` is set when
     /// no more are to follow.
     bool printPage(const QString& footer, bool& isStopped);

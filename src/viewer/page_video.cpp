@@ -6,9 +6,9 @@ namespace viewer {
 
 using Command = platform::Video::Command;
 
-PageVideo::PageVideo(shell::SharedState& state, const markup::DrawingState& drawing,
+PageVideo::PageVideo(shell::SharedState& state, const markup::DrawnPage& page,
                      coursedata::DataLocation& location, VideoView& view, DeviceMaker makeDevice)
-    : state_(state), drawing_(drawing), location_(location), view_(view),
+    : state_(state), page_(page), location_(location), view_(view),
       makeDevice_(std::move(makeDevice)) {}
 
 void PageVideo::close() {
@@ -20,7 +20,7 @@ void PageVideo::close() {
 
 void PageVideo::openVideo() {
     close();
-    const QString path = locate(drawing_.videoPage);
+    const QString path = locate(page_.videoPage.value_or(QString()));
     if (path.isEmpty() || !haveDevice())
         return;
     MMControl1_->setScreen(&view_);

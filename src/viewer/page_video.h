@@ -1,7 +1,7 @@
 #pragma once
 
 #include "coursedata/data_location.h"
-#include "markup/drawing_state.h"
+#include "markup/drawn_page.h"
 #include "platform/video.h"
 #include "shell/shared_state.h"
 #include "viewer/neighbours.h"
@@ -25,8 +25,8 @@ public:
     /// Makes the device; null when there is none. Not asked again before the next opening.
     using DeviceMaker = std::function<std::unique_ptr<platform::Video>()>;
 
-    /// The page's video is the one that `drawing` names.
-    PageVideo(shell::SharedState& state, const markup::DrawingState& drawing,
+    /// The video is the one that `page` names, the page shown.
+    PageVideo(shell::SharedState& state, const markup::DrawnPage& page,
               coursedata::DataLocation& location, VideoView& view, DeviceMaker makeDevice);
 
     // VideoDevice
@@ -48,7 +48,7 @@ private:
     void playEnded() override;
 
     shell::SharedState& state_;
-    const markup::DrawingState& drawing_;
+    const markup::DrawnPage& page_;
     coursedata::DataLocation& location_;
     VideoView& view_;
     DeviceMaker makeDevice_;

@@ -20,18 +20,21 @@ public:
     /// Hides the scroll bar and the frame of the video buttons.
     virtual void hideScrollBarAndVideoFrame() = 0;
 
-    /// Empties the page area, the illustration area and the title band.
+    /// Empties the drawn page, and with it the page area, the illustration area and the title band.
     virtual void clearPictures() = 0;
 
     virtual void setCaption(const QString& caption) = 0;
 
-    /// Writes the page's title into the emptied title band.
+    /// Tells the page's whole title, of which the drawn title band shows what fits.
     virtual void setTitle(const QString& title) = 0;
+
+    /// Shows the frame of the video buttons: the drawn page has a video.
+    virtual void showVideoFrame() = 0;
 
     virtual void setBackEnabled(bool enabled) = 0;
     virtual void setForwardEnabled(bool enabled) = 0;
 
-    /// Shows the page's drawing from its top and sets the scroll bar up for its height.
+    /// Shows the drawn page from its top and sets the scroll bar up for its height.
     virtual void fitPage() = 0;
 
     /// Shows or hides the buttons to the neighbours in the chapter.

@@ -1,7 +1,7 @@
 #include "viewer/paper_layout.h"
 
-#include "look/surface_widths.h"
 #include "page/surface.h"
+#include "page/surface_widths.h"
 #include "page/twips.h"
 
 #include <algorithm>
@@ -16,7 +16,7 @@ namespace {
 
 using page::kTwipsPerPixel;
 
-constexpr double kColumn = look::kPageWidthPx * kTwipsPerPixel;
+constexpr double kColumn = page::kPageWidthPx * kTwipsPerPixel;
 
 /// The lowest place that is printed, as on screen: a few characters of source reach any height.
 constexpr double kLowest = page::kMaxSurfaceHeightPx * kTwipsPerPixel;

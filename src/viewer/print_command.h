@@ -18,10 +18,6 @@ public:
     /// the person is told.
     void print() override;
 
-    /// Nothing: a recorded surface counts in twips, its texts have no ground, and the renderer has
-    /// set the width of its lines.
-    void prepare() override {}
-
 private:
     platform::PrinterSetup& setup_;
     PagePrinter& pages_;

@@ -35,8 +35,8 @@ protected:
 
     /// Opens the window on what write() has written.
     Exo& openWindow(bool author = false) {
-        exo.emplace(Exo::Parts{shared, state, bench.drawing, bench.window, bench.pictures,
-                               bench.fonts, bench.screen, prompter, window, calculator, author},
+        exo.emplace(Exo::Parts{shared, state, bench.drawing, bench.pictures, bench.fonts,
+                               bench.screen, prompter, window, calculator, author},
                     bench.window);
         exo->setBlinkInterval(1);
         exo->start();

@@ -303,7 +303,6 @@ TEST_F(Opened, TheMainWindowWaitsAndOthersDoNot) {
     bench.commands.runCode(QStringLiteral("EXO003"));
     EXPECT_TRUE(besideActs);
     EXPECT_EQ(bench.neighbours.log, QStringList{"exercise"}); // and no calculator
-    EXPECT_EQ(bench.drawing.fenetreSource, nullptr);
 }
 
 using QuestionLinks = ExoCase;

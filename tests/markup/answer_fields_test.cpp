@@ -11,7 +11,7 @@ class AnswerFields : public testing::TestWithParam<Row> {};
 
 TEST_P(AnswerFields, draws) {
     PageBench bench;
-    bench.isQuestion = true;
+    bench.as = markup::DrawnAs::Question;
     EXPECT_EQ(test_support::lines(bench.draw(QString::fromUtf16(GetParam().source))),
               test_support::lines(GetParam().expected));
 }
@@ -47,10 +47,10 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(AnswerFieldsState, ofTwoTypedAnswersTheLastPlaceCounts) {
     PageBench bench;
-    bench.isQuestion = true;
+    bench.as = markup::DrawnAs::Question;
     bench.draw("##EXOTX\n¶\n##EXOTX\n");
-    EXPECT_TRUE(bench.fields.Text1.visible);
-    EXPECT_EQ(bench.fields.Text1.place.y, 170);
+    EXPECT_TRUE(bench.page.fields.Text1.visible);
+    EXPECT_EQ(bench.page.fields.Text1.place.y, 170);
 }
 
 TEST(AnswerFieldsState, aCoursePageHasNone) {

@@ -9,16 +9,11 @@ namespace test_support {
 inline std::size_t drawAnyWay(const QString& source, PageBench& bench) {
     bench.pictures.anyName = true;
     std::size_t operations = 0;
-    for (const auto& [question, paper] :
-         {std::pair(false, false), std::pair(true, false), std::pair(false, true)}) {
-        bench.isQuestion = question;
-        bench.state.enImpression = paper;
-        bench.state.surfaceDessin = paper ? &bench.printer : &bench.texte;
-        bench.state.hauteurPage = 0;
-        bench.recording.clear();
-        bench.holder.setText(source);
-        bench.renderer.affichepage();
-        operations += bench.recording.size();
+    for (const auto as :
+         {markup::DrawnAs::CoursePage, markup::DrawnAs::Question, markup::DrawnAs::Paper}) {
+        markup::drawPage({source, as}, {bench.state, bench.pictures, bench.metrics, &bench},
+                         bench.page);
+        operations += bench.page.recording.size();
     }
     return operations;
 }

@@ -42,7 +42,7 @@ TEST(Frames, aWidthDoesNotReachTheNextPage) {
 
 TEST(Gradients, fadeToWhiteFromWhereTheDrawingStarts) {
     test_support::PageBench bench;
-    bench.state.hauteurPage = 300;
+    bench.startsAt = 300;
     const QStringList drawn = bench.draw("##PIY010\n##DGFOND4\nx\n");
     ASSERT_EQ(drawn.size(), 54);
     EXPECT_EQ(drawn[0], "fill 0,300 9000,120 mask #dce6ff");
@@ -53,8 +53,7 @@ TEST(Gradients, fadeToWhiteFromWhereTheDrawingStarts) {
 
 TEST(Gradients, areAsWideAsTheColumnOfPaper) {
     test_support::PageBench bench;
-    bench.state.enImpression = true;
-    bench.state.surfaceDessin = &bench.printer;
+    bench.as = markup::DrawnAs::Paper;
     const QStringList drawn = bench.draw("¶\n##DGFOND4\n");
     ASSERT_EQ(drawn.size(), 53);
     EXPECT_EQ(drawn.first(), "fill 0,0 9000,120 mask #dce6ff");

@@ -38,7 +38,7 @@ TEST(DirectiveTable, whatFollowsMakesNoDifferenceWhereABeginningIsEnough) {
     for (const char* source : sources) {
         const auto drawn = [&](const QString& more) {
             test_support::PageBench bench;
-            bench.isQuestion = true;
+            bench.as = markup::DrawnAs::Question;
             return bench.draw(QString::fromUtf8(source).replace("%1", more));
         };
         EXPECT_EQ(drawn(" et plus"), drawn({})) << source;

@@ -76,7 +76,6 @@ TEST(FractionEnd, isThatOfTheLastDenominator) {
     EXPECT_EQ(bench.draw("##NUMERATEUR\nab\n##FINFRAC\n¶\n"),
               QStringList({"print 0,-100 \"ab\" Arial 10", "line 0,-100 200,-100"}));
     bench.draw("##POX100\n##NUMERATEUR\n##DENOMINATEUR\n##FINFRAC\n");
-    bench.state.hauteurPage = 0;
     EXPECT_EQ(bench.draw("##NUMERATEUR\nab\n##FINFRAC\nx¶\n"),
               QStringList({"print 0,-100 \"ab\" Arial 10", "line 0,-100 1500,-100",
                            "print 1500,-200 \"x\" Arial 10"}));
@@ -86,7 +85,6 @@ TEST(FractionEnd, isThatOfTheLastDenominator) {
 TEST(FractionStart, survivesAPage) {
     test_support::PageBench bench;
     bench.draw("##POX010\n##NUMERATEUR\n##DENOMINATEUR\n##FINFRAC\n");
-    bench.state.hauteurPage = 0;
     EXPECT_EQ(bench.draw("##PIY010\nabc\n##FINFRAC\nd\n"),
               QStringList({"print 0,150 \"abc\" Arial 10", "line 150,150 300,150",
                            "print 300,50 \"d\" Arial 10"}));

@@ -1,6 +1,7 @@
 #include "markup/any_page.h"
 #include "markup/directive_table.h"
 #include "markup/gallery.h"
+#include "page/surface.h"
 
 #include <gtest/gtest.h>
 
@@ -33,7 +34,8 @@ TEST(Gallery, showsEveryDirectiveAndDrawsWithoutAFault) {
     for (const auto& [name, source] : sources) {
         PageBench bench;
         bench.pictures.anyName = true;
-        bench.isQuestion = name.endsWith(u".question");
+        if (name.endsWith(u".question"))
+            bench.as = markup::DrawnAs::Question;
         const QStringList drawn = bench.draw(source);
         EXPECT_FALSE(drawn.isEmpty()) << name.toStdString();
         EXPECT_TRUE(drawn.filter(QStringLiteral("failed")).isEmpty())
@@ -105,8 +107,9 @@ TEST(AnySource, isDrawnWithinBounds) {
         const auto lines = static_cast<std::size_t>(source.count(u'\n'));
         ASSERT_LE(test_support::drawAnyWay(source, bench), 3 * kMostPerLine * lines)
             << source.toStdString();
-        for (page::Surface* surface : {&bench.texte, &bench.illus, &bench.title})
-            ASSERT_LE(surface->heightPx(), page::kMaxSurfaceHeightPx) << source.toStdString();
+        for (const double height : bench.page.heightsPx)
+            ASSERT_LE(height, page::kMaxSurfaceHeightPx) << source.toStdString();
+        ASSERT_EQ(bench.page.lines.size(), bench.page.recording.size()) << source.toStdString();
     }
 }
 

@@ -71,7 +71,7 @@ std::vector<std::pair<double, double>> points(const char* source) {
     test_support::PageBench bench;
     bench.draw(QString::fromLatin1(source));
     std::vector<std::pair<double, double>> found;
-    for (const page::Operation& operation : bench.recording.operations()) {
+    for (const page::Operation& operation : bench.page.recording.operations()) {
         const auto& line = std::get<page::LineOperation>(operation);
         found.emplace_back(qRound(line.x1), qRound(line.y1));
         found.emplace_back(qRound(line.x2), qRound(line.y2));

@@ -18,9 +18,9 @@ public:
             std::make_shared<test_support::PlainPicture>(QSize(40, 30));
     }
 
-    QString captionOf(int index) { return state.links.Labelien.slot(index)->link.caption; }
+    QString captionOf(int index) { return page.links.Labelien.slot(index)->link.caption; }
     const markup::LinkTable::MenuEntry& entry(int menu, int index) {
-        return *state.links.menusFlottants.slot(menu)->slot(index);
+        return *page.links.menusFlottants.slot(menu)->slot(index);
     }
 };
 
@@ -85,7 +85,7 @@ TEST(LinkTable, theFirstElementIsReusedWhenAllAreTaken) {
     bench.draw(source);
     EXPECT_EQ(bench.captionOf(0), "100") << "meant so: the last link of a crowded page counts";
     EXPECT_EQ(bench.captionOf(1), "1");
-    const auto standing = page::standingLinks(bench.recording);
+    const auto standing = page::standingLinks(bench.page.recording);
     EXPECT_EQ(standing.size(), 100u);
     EXPECT_EQ(standing.back()->caption, "100");
 }
@@ -108,7 +108,7 @@ TEST(LinkTable, menusBeyondTheTableStoreNothing) {
         source += "##LIERILKPAG001\n";
     bench.draw(source + "##LIERFLK\n##ADMENperdu#PAG002\n");
     EXPECT_EQ(bench.state.menuCourant, 21);
-    EXPECT_EQ(test_support::describe(bench.recording).last(), "failed 23 ##ADMENperdu#PAG002");
+    EXPECT_EQ(test_support::describe(bench.page.recording).last(), "failed 23 ##ADMENperdu#PAG002");
     EXPECT_EQ(bench.entry(20, 0).caption, "");
 }
 
@@ -116,35 +116,31 @@ TEST(LinkTable, aKeyWithoutASymbolShowsTheSignOfALink) {
     LinkBench bench;
     bench.draw("##LIERI??PAG012\n##LIERILKPAG012\n");
     const auto picture = [&](int index) {
-        return bench.state.links.Imagelien.slot(index)->link.picture;
+        return bench.page.links.Imagelien.slot(index)->link.picture;
     };
     EXPECT_NE(picture(0), nullptr);
     EXPECT_EQ(picture(0), picture(1));
 }
 
-TEST(PlainLinks, onPaperAreTextAndLeaveTheControlsAlone) {
+TEST(PlainLinks, onPaperAreText) {
     LinkBench bench;
-    bench.draw("##LIERTécran#PAG001\n##LIERFLK\n##ADMENun#PAG002\n");
-    bench.state.enImpression = true;
-    bench.state.surfaceDessin = &bench.printer;
+    bench.as = markup::DrawnAs::Paper;
     EXPECT_EQ(bench.draw("##UND1\n##LIER1un\n##LIERTdeux#PAG012\n##UND0\nb\n##LIERILKPAG001\n"
                          "##LIERFLK\n##LIER1x\n##ADMENy#PAG003\n##LIERTz#PAG004\n"),
               QStringList({"print 0,0 \"un\" Arial 10", "print 0,200 \"deux\" Arial 10",
                            "print 400,0 \"b\" Arial 10", "symbol 500,0 360,360 LK",
                            "symbol 860,0 360,360 LK", "print 1220,0 \"z\" Arial 10"}));
-    EXPECT_EQ(bench.captionOf(0), u"écran"_qs);
-    EXPECT_EQ(bench.entry(0, 0).caption, "un");
-    EXPECT_EQ(bench.entry(0, 1).caption, "");
+    EXPECT_EQ(bench.captionOf(0), "");
+    EXPECT_EQ(bench.entry(0, 0).caption, "");
 }
 
 TEST(PlainLinks, inAQuestionAreText) {
     LinkBench bench;
-    bench.isQuestion = true;
+    bench.as = markup::DrawnAs::Question;
     EXPECT_EQ(bench.draw("##LIERTvoir#PAG012\n##ADMENx#y\n##VIDEOa.avi\n##TITBARt\nb\n"),
               QStringList({"print 0,0 \"voir\" Arial 10", "print 400,0 \"b\" Arial 10"}));
-    EXPECT_EQ(bench.caption, "");
-    EXPECT_EQ(bench.videoFrames, 0);
-    EXPECT_EQ(bench.state.videoPage, "");
+    EXPECT_FALSE(bench.page.caption);
+    EXPECT_FALSE(bench.page.videoPage);
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "markup/page_bench.h"
+#include "page/surface.h"
 
 #include <gtest/gtest.h>
 
@@ -72,9 +73,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(MainLoopState, aLoneLineFeedOrReturnEndsNoLine) {
     test_support::PageBench bench;
-    bench.holder.setText(QStringLiteral("a\nb\rc¶\n\r\nd\r\ne\r"));
-    bench.renderer.affichepage();
-    EXPECT_EQ(test_support::describe(bench.recording),
+    EXPECT_EQ(bench.drawAsItIs(QStringLiteral("a\nb\rc¶\n\r\nd\r\ne\r")),
               QStringList({"print 0,0 \"a\nb\rc¶\n\" Arial 10", "print 700,0 \"d\" Arial 10"}));
 }
 
@@ -83,7 +82,7 @@ TEST(MainLoopState, fileNamesAndHugeLinesAreLeftWhole) {
     test_support::PageBench bench;
     bench.draw(QStringLiteral("##IXAe\u0301.bmp\n##VIDEOe\u0301.avi\n"));
     EXPECT_EQ(bench.pictures.asked, QStringList(QStringLiteral("e\u0301.bmp")));
-    EXPECT_EQ(bench.state.videoPage, QStringLiteral("e\u0301.avi"));
+    EXPECT_EQ(bench.page.videoPage, QStringLiteral("e\u0301.avi"));
     const QStringList drawn = bench.draw(QStringLiteral("e\u0301").repeated(500'000) + "¶\n");
     EXPECT_EQ(drawn.value(0).count(u'é'), 500'000);
 }
@@ -91,24 +90,26 @@ TEST(MainLoopState, fileNamesAndHugeLinesAreLeftWhole) {
 TEST(MainLoopState, leavesTheHeightDrawn) {
     test_support::PageBench bench;
     bench.draw("un¶\n##PIY001\n");
-    EXPECT_EQ(bench.state.hauteurPage, 215);
-    EXPECT_DOUBLE_EQ(bench.texte.heightPx(), 215 / 15.);
+    EXPECT_EQ(bench.page.hauteurPage, 215);
+    EXPECT_DOUBLE_EQ(bench.heightPx(page::SurfaceId::PictureTexte), 215 / 15.);
     EXPECT_EQ(bench.busy, QList<bool>({true, false}));
 }
 
 TEST(MainLoopState, aHeightThatIsNoneIsRefused) {
     test_support::PageBench bench;
-    bench.draw("un¶\n");
-    EXPECT_EQ(bench.draw("##DECLIG-5\n").last(), "failed 1 ");
-    EXPECT_EQ(bench.state.hauteurPage, 200 - 1000);
-    EXPECT_DOUBLE_EQ(bench.texte.heightPx(), 200 / 15.) << "the surface keeps the one it had";
+    EXPECT_EQ(bench.draw("un¶\n##OBJTAILLE\n##DECLIG-5\n").last(), "failed 3 ");
+    EXPECT_EQ(bench.page.hauteurPage, -1000);
+    EXPECT_DOUBLE_EQ(bench.heightPx(page::SurfaceId::PictureTexte), 200 / 15.)
+        << "the surface keeps the one it had";
 }
 
-TEST(MainLoopState, goesOnBelowWhatStandsWhenTheHeightIsKept) {
+TEST(MainLoopState, goesOnBelowWhatStandsWhenAsked) {
     test_support::PageBench bench;
     bench.draw("un¶\n");
+    bench.startsAt = bench.page.hauteurPage;
     EXPECT_EQ(bench.draw("deux¶\n"), QStringList({"print 0,200 \"deux\" Arial 10"}));
-    bench.state.hauteurPage = 0;
+    EXPECT_EQ(bench.page.hauteurPage, 400);
+    bench.startsAt = 0;
     EXPECT_EQ(bench.draw("trois¶\n"), QStringList({"print 0,0 \"trois\" Arial 10"}));
 }
 
@@ -116,7 +117,6 @@ TEST(MainLoopState, stylesDoNotReachTheNextPage) {
     test_support::PageBench bench;
     bench.draw("##SI20\n##BOL1\n##ITA1\n##UND1\n##C005\n##ALDR\n##INTER3.00\n##RELIEF2 01\n"
                "##FONT01\n##DECABAS\n");
-    bench.state.hauteurPage = 0;
     EXPECT_EQ(bench.draw("un¶\ndeux¶\n"),
               QStringList({"print 0,0 \"un\" Arial 10", "print 0,200 \"deux\" Arial 10"}));
 }
@@ -124,8 +124,6 @@ TEST(MainLoopState, stylesDoNotReachTheNextPage) {
 TEST(MainLoopState, neitherAnOpenRowNorHalfALinkReachesTheNextPage) {
     test_support::PageBench bench;
     bench.draw("##TCH04\n##PIY020\n##TAB010200 1\n¶\n¶\n##LIER1perdu\n");
-    bench.state.hauteurPage = 0;
-    bench.state.links = {};
     EXPECT_EQ(bench.draw("##LIERTseul#X\n¶\n##TAB010020 1\n¶\n##FINTAB\n"),
               QStringList({"link Labelien(0) 0,0 400,200 \"seul\" X",
                            "line 150,200 300,200 #0000ff", "line 150,400 300,400 #0000ff",
@@ -134,14 +132,12 @@ TEST(MainLoopState, neitherAnOpenRowNorHalfALinkReachesTheNextPage) {
 
 TEST(MainLoopState, paperHasAColumnOfItsOwnAndKeepsThePointer) {
     test_support::PageBench bench;
-    bench.state.enImpression = true;
-    bench.state.surfaceDessin = &bench.printer;
+    bench.as = markup::DrawnAs::Paper;
     EXPECT_EQ(bench.draw("##ALDR\nab¶\n##PLOUF\n"), QStringList({"print 8800,0 \"ab\" Arial 10"}));
-    EXPECT_EQ(bench.state.hauteurPage, 0);
-    EXPECT_EQ(bench.preparations, 1);
+    EXPECT_EQ(bench.page.hauteurPage, 0);
     EXPECT_EQ(bench.busy, QList<bool>({true}));
-    EXPECT_EQ(bench.printer.heightPx(), 0);
-    EXPECT_EQ(bench.refreshed, nullptr);
+    EXPECT_EQ(bench.heightPx(page::SurfaceId::Printer), 0);
+    EXPECT_TRUE(bench.refreshed.isEmpty());
 }
 
 TEST(MainLoopState, aHostileHeightIsBounded) {
@@ -150,8 +146,33 @@ TEST(MainLoopState, aHostileHeightIsBounded) {
     for (int i = 0; i < 5000; ++i)
         source += "##PLOUF\n";
     bench.draw(source);
-    EXPECT_EQ(bench.texte.heightPx(), page::kMaxSurfaceHeightPx);
-    EXPECT_EQ(bench.state.hauteurPage, 0) << "a height beyond 32 bits is not stored";
+    EXPECT_EQ(bench.heightPx(page::SurfaceId::PictureTexte), page::kMaxSurfaceHeightPx);
+    EXPECT_EQ(bench.page.hauteurPage, 0) << "a height beyond 32 bits is not stored";
+}
+
+TEST(MainLoopState, everyOperationHasItsLine) {
+    test_support::PageBench bench;
+    bench.title = u"Titre"_qs;
+    bench.draw("un¶\n¶\n##RELIEF1 08\ndeux\n##POX9E9\n##OBJILLUS\n##LIERTx#PAG001\n##DECLIG-9\n");
+    EXPECT_EQ(bench.page.lines, (std::vector<std::int32_t>{0, 1, 4, 4, 5, 6, 7, 8}));
+    EXPECT_EQ(bench.page.lineOf(4), 5);
+    EXPECT_EQ(bench.page.lineOf(8), 0) << "nothing of the page";
+    // What is thrown away on paper counts for nothing.
+    bench.as = markup::DrawnAs::Paper;
+    bench.draw("un¶\n##OBJILLUS\nperdu¶\n##OBJPRINCIPAL\ndeux\n");
+    EXPECT_EQ(bench.page.lines, (std::vector<std::int32_t>{1, 5}));
+}
+
+TEST(MainLoopState, aQuestionStartsOnAnAreaOfItsOwn) {
+    test_support::PageBench bench;
+    bench.as = markup::DrawnAs::Question;
+    bench.title = u"Titre"_qs;
+    EXPECT_EQ(bench.draw("a¶\n##OBJTIT\nb\n"),
+              QStringList({"print 0,0 \"a\" Arial 10", "surface titre", "clear titre",
+                           "print 0,0 \"b\" Arial 10"}));
+    EXPECT_EQ(bench.heightPx(page::SurfaceId::Picture2), 305) << "it ended on another";
+    bench.draw("a¶\n");
+    EXPECT_DOUBLE_EQ(bench.heightPx(page::SurfaceId::Picture2), 200 / 15.);
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "markup/renderer.h"
+#include "markup/draw_page.h"
 #include "support/fake_pictures.h"
 #include "support/fixed_metrics.h"
 #include "support/recording_text.h"
@@ -27,55 +27,37 @@ inline std::string lines(const QStringList& operations) {
     return operations.join(u'\n').toStdString();
 }
 
-/// A main window without a window: everything that a page can be drawn on, and what became of it.
-class PageBench : public markup::PageWindow, public markup::SourceWindow {
+/// Draws sources one after the other, as the program does, in letters whose widths are plain.
+class PageBench : public markup::DrawingWatcher {
 public:
-    PageBench() {
-        state.surfaceDessin = &texte;
-        state.fenetreSource = this;
-    }
-
     /// Draws a source whose lines are given with "\n" and gives the operations, a line each.
     QStringList draw(QString source) {
-        recording.clear();
-        holder.setText(source.replace(QLatin1String("\n"), QLatin1String("\r\n")));
-        renderer.affichepage();
-        return describe(recording);
+        return drawAsItIs(source.replace(QLatin1String("\n"), QLatin1String("\r\n")));
+    }
+    QStringList drawAsItIs(const QString& source) {
+        markup::drawPage({source, as, title, startsAt}, {state, pictures, metrics, this}, page);
+        return describe(page.recording);
     }
 
-    page::RichTextHolder& code() override { return holder; }
-    page::Surface& pictureTexte() override { return texte; }
-    page::Surface& pictureIllus() override { return illus; }
-    page::Surface& titre() override { return title; }
-    void setCaption(const QString& text) override { caption = text; }
+    double heightPx(page::SurfaceId surface) const { return page.heightPx(surface); }
+
     void setBusy(bool on) override { busy.append(on); }
-    void refresh(page::Surface& surface) override {
-        refreshedAt.append(static_cast<int>(recording.size()));
-        refreshed = &surface;
+    void refresh(page::SurfaceId surface) override {
+        refreshedAt.append(static_cast<int>(page.recording.size()));
+        refreshed.append(surface);
     }
-    void preparePrinter() override { ++preparations; }
-    void showVideoFrame() override { ++videoFrames; }
-    markup::AnswerFields* answerFields() override { return isQuestion ? &fields : nullptr; }
 
     FixedMetrics metrics;
-    page::Recording recording;
-    page::Surface texte{page::SurfaceId::PictureTexte, 9000, metrics, recording};
-    page::Surface illus{page::SurfaceId::PictureIllus, 2250, metrics, recording};
-    page::Surface title{page::SurfaceId::Titre, 9000, metrics, recording};
-    page::Surface printer{page::SurfaceId::Printer, 11000, metrics, recording};
-    page::RichTextHolder holder;
     FakePictures pictures;
-    markup::AnswerFields fields;
-    bool isQuestion = false;
     markup::DrawingState state;
-    markup::Renderer renderer{state, *this, pictures, recording};
+    markup::DrawnAs as = markup::DrawnAs::CoursePage;
+    QString title;
+    std::int32_t startsAt = 0;
+    markup::DrawnPage page;
 
-    QString caption;
     QList<bool> busy;
-    QList<int> refreshedAt;
-    page::Surface* refreshed = nullptr;
-    int preparations = 0;
-    int videoFrames = 0;
+    QList<int> refreshedAt; ///< numbers of operations
+    QList<page::SurfaceId> refreshed;
 };
 
 /// Cases that draw a source and compare the operations.

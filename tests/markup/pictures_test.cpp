@@ -62,23 +62,24 @@ INSTANTIATE_TEST_SUITE_P(Symbols, Pictures,
 
 TEST(PagesOnPaper, leaveTheOtherSurfacesAlone) {
     PictureBench bench;
-    bench.state.enImpression = true;
-    bench.state.surfaceDessin = &bench.printer;
+    bench.as = markup::DrawnAs::Paper;
     EXPECT_EQ(bench.draw("un\n##OBJTIT\n##IMAa.bmp\nperdu\n##OBJILLUS\nperdu\n##OBJTAILLE\n"
                          "##OBJPRINCIPAL\ndeux\n##TITBARtitre\n##VIDEOa.avi\n##OBJILLUS\n"),
               QStringList({"print 0,0 \"un\" Arial 10", "print 0,0 \"deux\" Arial 10"}));
-    EXPECT_EQ(bench.state.surfaceDessin, &bench.printer);
-    EXPECT_EQ(bench.preparations, 6) << "the first reset and one for each \"OBJ\"";
-    EXPECT_EQ(bench.caption, "");
-    EXPECT_EQ(bench.videoFrames, 0);
-    EXPECT_EQ(bench.illus.heightPx(), 0);
+    EXPECT_EQ(bench.page.end.surface, page::SurfaceId::Printer);
+    EXPECT_FALSE(bench.page.caption);
+    EXPECT_FALSE(bench.page.videoPage);
+    EXPECT_EQ(bench.heightPx(page::SurfaceId::PictureIllus), 0);
 }
 
-TEST(PageVideo, isNamedAndItsFrameShows) {
+TEST(PageVideo, isNamedByThePageAndByNoOther) {
     PageBench bench;
     EXPECT_EQ(bench.draw("##VIDEOchute.avi\n"), QStringList({"video chute.avi"}));
-    EXPECT_EQ(bench.state.videoPage, "chute.avi");
-    EXPECT_EQ(bench.videoFrames, 1);
+    EXPECT_EQ(bench.page.videoPage, u"chute.avi"_qs);
+    bench.draw("##VIDEO\n");
+    EXPECT_EQ(bench.page.videoPage, QString()) << "a video without a name is one all the same";
+    bench.draw("x\n");
+    EXPECT_EQ(bench.page.videoPage, std::nullopt);
 }
 
 } // namespace

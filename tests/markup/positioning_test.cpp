@@ -81,9 +81,9 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(Surfaces, sizeFollowsThePen) {
     test_support::PageBench bench;
     bench.draw("a¶\nb¶\n##OBJTAILLE\n##OBJILLUS\nc¶\n");
-    EXPECT_DOUBLE_EQ(bench.texte.heightPx(), 400 / 15.);
-    EXPECT_DOUBLE_EQ(bench.illus.heightPx(), 200 / 15.);
-    EXPECT_EQ(bench.state.surfaceDessin, &bench.illus);
+    EXPECT_DOUBLE_EQ(bench.heightPx(page::SurfaceId::PictureTexte), 400 / 15.);
+    EXPECT_DOUBLE_EQ(bench.heightPx(page::SurfaceId::PictureIllus), 200 / 15.);
+    EXPECT_EQ(bench.page.end.surface, page::SurfaceId::PictureIllus);
 }
 
 TEST(Surfaces, refreshShowsWhatWasDrawnSoFarAndGrows) {
@@ -91,14 +91,14 @@ TEST(Surfaces, refreshShowsWhatWasDrawnSoFarAndGrows) {
     // The surface that a page ends on is cut to what was drawn, the others keep their height.
     bench.draw("a¶\n##PLOUF\nb¶\n##PLOUFX\n##PLOUF\n##OBJILLUS\n");
     EXPECT_EQ(bench.refreshedAt, QList<int>({1, 2}));
-    EXPECT_EQ(bench.refreshed, &bench.texte);
-    EXPECT_EQ(bench.texte.heightPx(), 2000);
+    EXPECT_EQ(bench.refreshed, QList<page::SurfaceId>(2, page::SurfaceId::PictureTexte));
+    EXPECT_EQ(bench.heightPx(page::SurfaceId::PictureTexte), 2000);
 }
 
 TEST(Surfaces, captionKeepsItsEighteenBlanks) {
     test_support::PageBench bench;
     bench.draw("##TITBARLa lumière\n");
-    EXPECT_EQ(bench.caption, "Orvalente - KAROPE" + QString(18, u' ') + "La lumière");
+    EXPECT_EQ(bench.page.caption, "Orvalente - KAROPE" + QString(18, u' ') + "La lumière");
 }
 
 } // namespace

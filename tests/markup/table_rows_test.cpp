@@ -93,8 +93,7 @@ TEST(RowBorders, cell31HasNone) {
 
 TEST(Rows, giveTheColumnOfPaperBack) {
     test_support::PageBench bench;
-    bench.state.enImpression = true;
-    bench.state.surfaceDessin = &bench.printer;
+    bench.as = markup::DrawnAs::Paper;
     EXPECT_EQ(bench.draw("##TAB010020 1\n¶\n##FINITAB\n##ALDR\nx\n"),
               QStringList("print 8900,200 \"x\" Arial 10"));
 }

@@ -43,9 +43,8 @@ protected:
     }
 
     viewer::PagePrinter pages(platform::Printer& device, std::function<bool()> isStopped = {}) {
-        return viewer::PagePrinter({bench->state, bench->bound, bench->pages, bench->window,
-                                    bench->drawing, bench->window, bench->window, bench->pictures,
-                                    bench->fonts, device, std::move(isStopped)});
+        return viewer::PagePrinter(
+            {bench->state, bench->bound, bench->tools, device, std::move(isStopped)});
     }
 
     /// Opens the course at its first record.

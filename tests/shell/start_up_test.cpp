@@ -47,7 +47,6 @@ protected:
             state_.SiblingProcessIds.store(slot, 77);
     }
 
-    void shareLinkCursor() override { steps_ << "cursor"; }
     void setWidth(double twips) override { steps_ << QString("width %1").arg(twips); }
     void place(const shell::Placement& at) override {
         steps_
@@ -85,8 +84,8 @@ protected:
 TEST_F(StartUpTest, runsItsStepsInOrder) {
     EXPECT_EQ(run(), StartUp::Outcome::GoOn);
     EXPECT_EQ(steps_,
-              (QStringList{"cursor", "width 12000", "bind /ZEKX.MDB", "pump",
-                           "place 1680 1260 12000 9000", "pump, file there", "pump, file there"}));
+              (QStringList{"width 12000", "bind /ZEKX.MDB", "pump", "place 1680 1260 12000 9000",
+                           "pump, file there", "pump, file there"}));
     EXPECT_TRUE(prompter_.messages.empty());
     EXPECT_EQ(startUp_.coverPath(), directory_.path() + "/couverture.jpg");
 }
@@ -195,7 +194,7 @@ TEST_F(StartUpTest, endsOnAScreenTooNarrowBeforeAnythingIsLookedFor) {
         prompter_.messages,
         (std::vector{Message{"Exécution impossible", "La configyaration d'écran est inadaptée",
                              Message::Icon::Critical, Message::Buttons::Ok}}));
-    EXPECT_EQ(steps_, (QStringList{"cursor", "width 12000"}));
+    EXPECT_EQ(steps_, (QStringList{"width 12000"}));
     EXPECT_FALSE(QFile::exists(directory_.filePath(raw_status_file::kName)));
     EXPECT_EQ(*state_.SiblingProcessIds.slot(1), 77);
 }
@@ -206,7 +205,7 @@ TEST_F(StartUpTest, endsWithoutADatabaseAndWithoutTouchingTheStatusFile) {
     EXPECT_EQ(prompter_.messages,
               (std::vector{Message{"Exécution impossible", "Base de données absente",
                                    Message::Icon::Critical, Message::Buttons::Ok}}));
-    EXPECT_EQ(steps_, (QStringList{"cursor", "width 12000"}));
+    EXPECT_EQ(steps_, (QStringList{"width 12000"}));
     EXPECT_FALSE(QFile::exists(directory_.filePath(raw_status_file::kName)));
 }
 
@@ -222,7 +221,7 @@ TEST_F(StartUpTest, placesTheWindowOnlyOnAWiderScreen) {
 TEST_F(StartUpTest, warnsAsLongAsTheScreenHasBecomeTooNarrow) {
     widthAfterBinding_ = 500; // 600 after the first warning, and 700 is enough
     EXPECT_EQ(run(), StartUp::Outcome::GoOn);
-    EXPECT_EQ(steps_.mid(2), (QStringList{"bind /ZEKX.MDB", "pump", "warning 1", "warning 1",
+    EXPECT_EQ(steps_.mid(1), (QStringList{"bind /ZEKX.MDB", "pump", "warning 1", "warning 1",
                                           "pump, file there", "pump, file there"}));
     EXPECT_EQ(state_.DisplayWarningMode, 1);
 }

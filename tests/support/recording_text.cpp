@@ -1,5 +1,7 @@
 #include "support/recording_text.h"
 
+#include "markup/control_names.h"
+
 namespace test_support {
 
 namespace {
@@ -51,7 +53,7 @@ struct Describe {
     }
     QString operator()(const page::LinkOperation& link) const {
         QString line = QStringLiteral("link %1(%2) %3 %4 \"%5\" %6")
-                           .arg(page::linkControlName(link.control))
+                           .arg(markup::controlName(link.control))
                            .arg(link.index)
                            .arg(point(link.x, link.y), point(link.width, link.height),
                                 link.caption + link.key, link.tag);
@@ -67,7 +69,7 @@ struct Describe {
     }
     QString operator()(const page::FieldOperation& field) const {
         QString line = QStringLiteral("field %1(%2) %3 %4")
-                           .arg(page::fieldControlName(field.control))
+                           .arg(markup::controlName(field.control))
                            .arg(field.index)
                            .arg(point(field.x, field.y))
                            .arg(field.width);
@@ -83,10 +85,10 @@ struct Describe {
         return QStringLiteral("video ") + video.name;
     }
     QString operator()(const page::SwitchOperation& change) const {
-        return QStringLiteral("surface ") + page::surfaceName(change.surface);
+        return QStringLiteral("surface ") + markup::surfaceName(change.surface);
     }
     QString operator()(const page::ClearOperation& clear) const {
-        return QStringLiteral("clear ") + page::surfaceName(clear.surface);
+        return QStringLiteral("clear ") + markup::surfaceName(clear.surface);
     }
     QString operator()(const page::CaptionOperation& caption) const {
         return QStringLiteral("caption ") + caption.text;

@@ -41,7 +41,6 @@ struct FakeNeighbours {
 
     struct Links : viewer::PageLinks {
         explicit Links(QStringList& calls) : log(calls) {}
-        void shareCursor() override { log.append(QStringLiteral("share cursor")); }
         void reset() override {
             log.append(QStringLiteral("free links"));
             if (whileResetting)
@@ -61,7 +60,6 @@ struct FakeNeighbours {
     struct Printing : viewer::PagePrinting {
         explicit Printing(QStringList& calls) : log(calls) {}
         void print() override { log.append(QStringLiteral("print")); }
-        void prepare() override { log.append(QStringLiteral("prepare printer")); }
         QStringList& log;
     };
 

@@ -21,11 +21,10 @@ protected:
             {bench.commands,
              bench.actions,
              bench.pages,
-             bench.renderer,
              {rest.video, links, rest.printing, rest.updateCheck, rest.exercise, rest.orderForm,
               rest.search, rest.calculator, rest.help, rest.installation, rest.exitScreen},
              [this] {
-                 bench.pages.bindTo(bench.cours);
+                 bench.bound.bindTo(bench.cours);
                  return true;
              }});
         bench.start();
@@ -52,7 +51,7 @@ protected:
     QImage picture(const char* area) { return bench.control<QWidget>(area)->grab().toImage(); }
 
     WindowBench bench{pages(30)};
-    viewer::LinkControls links{bench.window, bench.fonts, bench.drawing.links};
+    viewer::LinkControls links{bench.window, bench.fonts, bench.window.shownPage().links};
 };
 
 } // namespace test_support

@@ -139,7 +139,7 @@ TEST_F(Links, NobodyReachesALinkThatCannotBeSeen) {
             link.x = across ? far : 0;
             link.y = across ? 0 : far;
             link.index = index++;
-            *bench.drawing.links.Labelien.slot(link.index) = {link, true};
+            *bench.window.shownPage().links.Labelien.slot(link.index) = {link, true};
         }
     links.show();
     EXPECT_TRUE(this->link("Labelien(0)")->isVisible());

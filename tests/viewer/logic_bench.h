@@ -22,6 +22,7 @@ public:
     void clearPictures() override { note(u"clear pictures"_qs); }
     void setCaption(const QString& text) override { note(u"caption "_qs + text); }
     void setTitle(const QString& text) override { note(u"title "_qs + text); }
+    void showVideoFrame() override { note(u"video frame"_qs); }
     void setBackEnabled(bool on) override {
         back = on;
         note(u"back "_qs + QString::number(on));
@@ -62,7 +63,7 @@ class LogicBench {
 public:
     explicit LogicBench(QList<test_support::MemoryRecordset::Record> course)
         : cours(std::move(course)) {
-        pages.bindTo(cours);
+        bound.bindTo(cours);
         coursedata::buildPageIndex(cours, state);
     }
 
@@ -81,10 +82,13 @@ public:
     FakeNeighbours neighbours;
     test_support::FakePrompter prompter;
     LoggingView view{neighbours.log};
-    PageBench window;
+    PageBench drawing;
     shell::SharedState state;
     coursedata::BoundRecord bound;
-    viewer::PageLoader pages{state, bound, view, window, window.renderer, neighbours.video};
+    markup::DrawnPage& drawn = drawing.page;
+    viewer::PageLoader pages{state, bound,
+                             view,  {drawing.state, drawing.pictures, drawing.metrics, &drawing},
+                             drawn, neighbours.video};
     viewer::ActionDispatcher actions{
         state, pages, view, neighbours.modules, neighbours.exercise, neighbours.orderForm};
     viewer::MainCommands commands{state, actions, view, neighbours.all(), prompter};

@@ -132,7 +132,7 @@ TEST_F(Find, WordsOfTheSearchWindowAreMarkedUntilAnotherPageComes) {
     EXPECT_GT(scrolled(), 0);
     EXPECT_GT(pixels(kCurrentMarkTint), 0);
     EXPECT_EQ(pixels(kMarkTint), 0);
-    const std::size_t drawn = bench.window.recording().size();
+    const std::size_t drawn = bench.window.shownPage().recording.size();
     // The bar opens on what is marked, and does not cover it.
     const int reached = scrolled();
     press(Qt::Key_F, Qt::ControlModifier);
@@ -145,7 +145,7 @@ TEST_F(Find, WordsOfTheSearchWindowAreMarkedUntilAnotherPageComes) {
     EXPECT_EQ(scrolled(), 0);
     pressThere(Qt::Key_Escape);
     EXPECT_FALSE(isMarked());
-    EXPECT_EQ(bench.window.recording().size(), drawn);
+    EXPECT_EQ(bench.window.shownPage().recording.size(), drawn);
 
     click("command4");
     EXPECT_TRUE(isMarked());

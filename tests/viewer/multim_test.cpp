@@ -252,7 +252,7 @@ TEST_F(Window, LongTitlesStayWithinTheBand) {
         const QString title = QStringLiteral("La réfraction ").repeated(words).trimmed();
         bench.cours.records[4] = page(5, {}, {{QStringLiteral("titre"), title}});
         show(5);
-        const auto& operations = bench.window.recording().operations();
+        const auto& operations = bench.window.shownPage().recording.operations();
         double right = 0;
         for (const auto& operation : operations)
             if (const auto* text = std::get_if<page::TextOperation>(&operation)) {

@@ -16,51 +16,52 @@ TEST(PageLoader, ShowsARecordInAFixedOrder) {
     bench.pages.showCurrentRecord();
     EXPECT_THAT(bench.neighbours.log,
                 ElementsAre(u"hide page"_qs, u"free links"_qs, u"hide bar"_qs, u"clear pictures"_qs,
-                            u"close video"_qs, u"caption Orvalente - KAROPE"_qs, u"title Page 4"_qs,
-                            u"forward 0"_qs, u"back 0"_qs, u"fit page"_qs, u"chapter 10"_qs,
+                            u"close video"_qs, u"caption Orvalente - KAROPE"_qs, u"forward 0"_qs,
+                            u"back 0"_qs, u"title Page 4"_qs, u"fit page"_qs, u"chapter 10"_qs,
                             u"printable 1"_qs, u"summary PAG028 Sommaire"_qs, u"show page"_qs));
-    EXPECT_THAT(test_support::describe(bench.window.recording),
-                ElementsAre(QStringLiteral("print 0,0 \"Bonjour\" Arial 10")));
+    EXPECT_THAT(test_support::describe(bench.drawn.recording),
+                ElementsAre(u"print 0,117 \"Page 4\" Arial 14.25 bold"_qs,
+                            u"print 0,0 \"Bonjour\" Arial 10"_qs));
+}
+
+TEST(PageLoader, HandsOnWhatThePageAsksOfTheWindow) {
+    test_support::LogicBench bench({page(1, u"##TITBARtitre\r\n##VIDEO\r\n"_qs), page(2)});
+    bench.pages.showCurrentRecord();
+    const QString caption = u"caption Orvalente - KAROPE"_qs;
+    EXPECT_TRUE(bench.neighbours.log.contains(caption + QString(18, u' ') + u"titre"_qs));
+    EXPECT_TRUE(bench.neighbours.log.contains(u"video frame"_qs)) << "even without a name";
+    bench.neighbours.log.clear();
+    bench.actions.run(u"PAG002"_qs);
+    EXPECT_EQ(bench.neighbours.log.filter(u"caption"_qs), QStringList(caption));
+    EXPECT_FALSE(bench.neighbours.log.contains(u"video frame"_qs));
 }
 
 TEST(PageLoader, StartsEachPageFromTheSameState) {
-    test_support::LogicBench bench({page(1, QStringLiteral("a¶\r\n##OBJILLUS\r\nb¶\r\n"))});
-    markup::DrawingState& drawing = bench.window.state;
-    for (int visit = 0; visit < 2; ++visit) {
-        bench.window.recording.clear();
-        bench.pages.showCurrentRecord();
-        EXPECT_EQ(drawing.surfaceDessin, &bench.window.illus);
-        EXPECT_EQ(test_support::describe(bench.window.recording).first(),
-                  QStringLiteral("print 0,0 \"a\" Arial 10"));
-        // What printing, the test or a page with a video may leave behind.
-        drawing.hauteurPage = 5000;
-        drawing.surfaceDessin = &bench.window.printer;
-        drawing.fenetreSource = nullptr;
-        drawing.enImpression = true;
-        drawing.videoPage = QStringLiteral("film.avi");
-    }
+    test_support::LogicBench bench(
+        {page(1, u"a¶\r\n##SI20\r\n##DECLIG9\r\n##OBJILLUS\r\nb¶\r\n"_qs)});
     bench.pages.showCurrentRecord();
-    EXPECT_FALSE(drawing.enImpression);
-    EXPECT_TRUE(drawing.videoPage.isEmpty());
-    EXPECT_EQ(drawing.fenetreSource, &bench.window);
+    const QStringList drawn = test_support::describe(bench.drawn.recording);
+    EXPECT_EQ(drawn.value(1), u"print 0,0 \"a\" Arial 10"_qs);
+    bench.pages.showCurrentRecord();
+    EXPECT_EQ(test_support::describe(bench.drawn.recording), drawn);
 }
 
 TEST(PageLoader, LinksMenusAndHalfACaptionEndWithTheirPage) {
     test_support::LogicBench bench(
         {page(1, u"##LIERTa#PAG002\r\n##LIERFzz\r\n##ADMENb#PAG002\r\n##LIER1c\r\n"_qs), page(2)});
-    markup::DrawingState& drawing = bench.window.state;
-    const auto* entries = drawing.links.menusFlottants.slot(0);
+    const markup::LinkTable& links = bench.drawn.links;
+    const auto* entries = links.menusFlottants.slot(0);
     for (int visit = 0; visit < 3; ++visit) {
         bench.actions.run(u"PAG001"_qs);
-        EXPECT_TRUE(drawing.links.Labelien.slot(0)->visible);
+        EXPECT_TRUE(links.Labelien.slot(0)->visible);
         EXPECT_EQ(entries->slot(0)->caption, u"b"_qs);
         EXPECT_TRUE(entries->slot(1)->caption.isEmpty());
     }
     bench.actions.run(u"PAG002"_qs);
-    EXPECT_FALSE(drawing.links.Labelien.slot(0)->visible);
-    EXPECT_TRUE(drawing.links.Imagelien.slot(0)->link.tag.isEmpty());
+    EXPECT_FALSE(links.Labelien.slot(0)->visible);
+    EXPECT_TRUE(links.Imagelien.slot(0)->link.tag.isEmpty());
     EXPECT_TRUE(entries->slot(0)->caption.isEmpty());
-    EXPECT_TRUE(drawing.lienEnAttente.isEmpty());
+    EXPECT_TRUE(bench.drawing.state.lienEnAttente.isEmpty());
 }
 
 TEST(PageLoader, ReadsTheSummaryAsANumber) {
@@ -89,16 +90,16 @@ TEST(PageLoader, ShowsAPageWithWhateverFieldsItHas) {
     poor.pages.showCurrentRecord();
     EXPECT_TRUE(poor.neighbours.log.contains(u"chapter 00"_qs));
     EXPECT_TRUE(poor.neighbours.log.contains(u"title "_qs));
-    EXPECT_EQ(poor.window.recording.size(), 1U);
+    EXPECT_EQ(poor.drawn.recording.size(), 1U);
     EXPECT_EQ(poor.history(), QList<int>{3});
 
     // A field that cannot be read leaves what its control held.
     test_support::LogicBench damaged({page(1, u"un¶\r\n"_qs), page(2, u"deux¶\r\n"_qs)});
     damaged.cours.unreadable = QStringList{u"fpc"_qs};
-    damaged.pages.moveTo(1);
+    damaged.bound.moveTo(1);
     damaged.pages.showCurrentRecord();
     EXPECT_EQ(damaged.bound.TextID, u"2"_qs);
-    EXPECT_EQ(test_support::describe(damaged.window.recording).first(),
+    EXPECT_EQ(test_support::describe(damaged.drawn.recording).last(),
               u"print 0,0 \"un\" Arial 10"_qs);
 }
 
@@ -107,7 +108,7 @@ TEST(PageLoader, WithoutDatabaseShowsAnEmptyPage) {
     bench.actions.run(u"PAG001"_qs);
     EXPECT_EQ(bench.neighbours.log.last(), u"normal pointer"_qs);
     EXPECT_TRUE(bench.neighbours.log.contains(u"show page"_qs));
-    EXPECT_EQ(bench.window.recording.size(), 0U);
+    EXPECT_EQ(bench.drawn.recording.size(), 0U);
 }
 
 } // namespace

@@ -50,7 +50,7 @@ protected:
         QDir(work.path()).mkpath(u"course"_qs);
         QDir(work.path()).mkpath(u"e/ZEKXV"_qs);
         state.InstallDir = work.path() + u"/course/"_qs;
-        drawing.videoPage = u"film.avi"_qs;
+        shown.videoPage = u"film.avi"_qs;
     }
 
     void put(const QString& file) { test_support::writeFile(work.filePath(file), "x"); }
@@ -81,7 +81,7 @@ protected:
 
     QTemporaryDir work;
     shell::SharedState state;
-    markup::DrawingState drawing;
+    markup::DrawnPage shown;
     test_support::FakePrompter prompter;
     test_support::FakeBeeper beeper;
     coursedata::DataLocation location{state, *this, prompter, beeper};
@@ -92,7 +92,7 @@ protected:
     bool pictureShows = false;
     double marker = 0;
     QString status;
-    viewer::PageVideo video{state, drawing, location, *this, [this] {
+    viewer::PageVideo video{state, shown, location, *this, [this] {
                                 auto made = std::make_unique<FakeDevice>(log);
                                 made->opens = opens;
                                 device = made.get();
@@ -132,10 +132,10 @@ TEST_F(PageVideo, EachButtonHasItsCommands) {
 
 TEST_F(PageVideo, LooksInTheCourseThenOnTheLastDiscThenEverywhere) {
     put(u"e/ZEKXV/film.avi"_qs);
-    drawing.videoPage = u"D:\\autre\\film.avi"_qs;
+    shown.videoPage = u"D:\\autre\\film.avi"_qs;
     EXPECT_THAT(press(2), testing::Contains(u"file e/ZEKXV/film.avi"_qs));
     EXPECT_EQ(state.VideoDataDir, u"E:\\ZEKXV\\"_qs);
-    EXPECT_EQ(drawing.videoPage, u"D:\\autre\\film.avi"_qs);
+    EXPECT_EQ(shown.videoPage, u"D:\\autre\\film.avi"_qs);
     ASSERT_TRUE(QDir(work.path()).mkpath(u"z/ZEKXV"_qs));
     put(u"z/ZEKXV/film.avi"_qs); // a later letter, but not the last disc
     video.close();
@@ -151,10 +151,10 @@ TEST_F(PageVideo, WhatDoesNotOpenLeavesTheDisplay) {
     EXPECT_EQ(prompter.messages.size(), 2u);
     EXPECT_EQ(devices + beeper.beeps, 1);
 
-    drawing.videoPage.clear();
+    shown.videoPage.reset();
     EXPECT_THAT(press(0), ElementsAre(u"hide"_qs));
 
-    drawing.videoPage = u"film.avi"_qs;
+    shown.videoPage = u"film.avi"_qs;
     put(u"course/film.avi"_qs);
     opens = false;
     EXPECT_EQ(press(0).last(), u"Open"_qs);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "coursedata/page_index.h"
-#include "markup/renderer.h"
+#include "markup/draw_page.h"
 #include "page/faces/font_book.h"
 #include "support/fake_pictures.h"
 #include "support/fake_prompter.h"
@@ -22,8 +22,8 @@ class WindowBench {
 public:
     explicit WindowBench(QList<test_support::MemoryRecordset::Record> course)
         : cours(std::move(course)) {
-        window.attach({commands, actions, pages, renderer, neighbours.all(), [this] {
-                           pages.bindTo(cours);
+        window.attach({commands, actions, pages, neighbours.all(), [this] {
+                           bound.bindTo(cours);
                            return !whileStarting || whileStarting();
                        }});
     }
@@ -61,8 +61,8 @@ public:
     coursedata::BoundRecord bound;
     viewer::Multim window{state, fonts, screen};
     FakePictures pictures;
-    markup::Renderer renderer{drawing, window, pictures, window.recording()};
-    viewer::PageLoader pages{state, bound, window, window, renderer, neighbours.video};
+    markup::DrawingTools tools{drawing, pictures, fonts, &window};
+    viewer::PageLoader pages{state, bound, window, tools, window.shownPage(), neighbours.video};
     viewer::ActionDispatcher actions{
         state, pages, window, neighbours.modules, neighbours.exercise, neighbours.orderForm};
     viewer::MainCommands commands{state, actions, window, neighbours.all(), prompter};

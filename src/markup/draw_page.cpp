@@ -1,8 +1,9 @@
-#include "viewer/page_title.h"
+#include "markup/draw_page.h"
 
+#include "markup/renderer.h"
 #include "page/twips.h"
 
-namespace viewer {
+namespace markup {
 
 namespace {
 
@@ -19,9 +20,9 @@ constexpr double kPointsPerPixel = 0.75;
 /// again.
 constexpr qsizetype kMostCharacters = 300;
 
-} // namespace
-
-QString drawPageTitle(page::Surface& band, const page::TextMetrics& metrics, const QString& title) {
+/// Writes a title into its band, in letters as large as fit; what is too long for any is cut. Gives
+/// the words that stand there.
+QString drawTitle(page::Surface& band, const QString& title) {
     band.setFace(QStringLiteral("Arial"));
     band.setBold(true);
     band.setItalic(false);
@@ -35,9 +36,21 @@ QString drawPageTitle(page::Surface& band, const page::TextMetrics& metrics, con
     while (!shown.isEmpty() && band.textWidth(shown) > band.scaleWidth())
         shown = title.first(shown.size() - (shown == title ? 1 : 2)).trimmed() + u'…';
     band.setPenX(0);
-    band.setPenY(kTitleFootPx * page::kTwipsPerPixel - metrics.ascent(band.font()));
+    band.setPenY(kTitleFootPx * page::kTwipsPerPixel - band.metrics().ascent(band.font()));
     band.print(shown);
     return shown;
 }
 
-} // namespace viewer
+} // namespace
+
+void drawPage(const PageText& text, const DrawingTools& tools, DrawnPage& page) {
+    page = {};
+    Renderer renderer(text, tools, page);
+    // The renderer resets the pen and the letters of each surface that it comes to.
+    if (text.as == DrawnAs::CoursePage)
+        page.title = drawTitle(renderer.surface(page::SurfaceId::Titre), text.title.simplified());
+    renderer.affichepage();
+    renderer.tellEnd();
+}
+
+} // namespace markup
