@@ -1,5 +1,6 @@
 #pragma once
 
+#include "look/screen_filling.h"
 #include "markup/renderer.h"
 #include "markup/windows.h"
 #include "page/faces/font_book.h"
@@ -28,6 +29,7 @@ namespace look {
 class Button;
 class PagePanel;
 class PictureBox;
+class Zoom;
 } // namespace look
 
 namespace viewer {
@@ -46,6 +48,7 @@ class VideoFrame;
 /// no effect: neither can start anew in the middle. Closed meanwhile, it closes when the work is at
 /// the next point where it can end.
 class Multim : public QWidget,
+               public look::ScreenFilling,
                public PageView,
                public VideoView,
                public markup::PageWindow,
@@ -63,6 +66,7 @@ public:
         PageLoader& pages;
         markup::Renderer& renderer;
         Neighbours neighbours;
+        look::Zoom& zoom;
         /// Start-up before the window sets itself up; false to end the program.
         std::function<bool()> startUp;
     };
@@ -88,6 +92,12 @@ public:
 
     /// Runs the tag of a link or of a menu entry; without effect while other work is under way.
     void followLink(const QString& tag);
+
+    /// Where it belongs while it does not fill the screen, in its pixels.
+    QRect ownPlace() const;
+
+    // look::ScreenFilling
+    void setFillsScreen(bool fills) override;
 
     // PageView
     void setPageVisible(bool visible) override;
@@ -202,7 +212,6 @@ private:
     look::PagePanel* panel_ = nullptr;
     VideoFrame* videoFrame_ = nullptr;
     VideoLayout videoLayout_ = VideoLayout::None;
-    int rowsLacking_ = 0; ///< of the window, in pixels, 0 to kMostRowsLacking
     ChapterBar* Framebase_ = nullptr;
     Cover* cover_ = nullptr;
     look::PictureBox* PictureTEXTE_ = nullptr;

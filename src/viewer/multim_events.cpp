@@ -5,6 +5,7 @@
 #include "look/page_panel.h"
 #include "look/picture_box.h"
 #include "look/scroll_bar.h"
+#include "look/zoom.h"
 #include "page/twips.h"
 #include "shell/display_check.h"
 #include "viewer/chapter_bar.h"
@@ -28,6 +29,12 @@ namespace {
 /// What a wheel reports for one notch, and how far the page then moves.
 constexpr double kWheelNotch = 120;
 constexpr double kLinesPerNotch = 3;
+
+QRect inPixels(const shell::Placement& placement) {
+    const auto pixels = [](double twips) { return qRound(twips / page::kTwipsPerPixel); };
+    return {pixels(placement.left), pixels(placement.top), pixels(placement.width),
+            pixels(placement.height)};
+}
 
 } // namespace
 
@@ -180,6 +187,8 @@ void Multim::perform(KeyCommand command) {
     case KeyCommand::FindPrevious:
         return work([this] { finder_->previous(); });
     case KeyCommand::LeaveFind:
+        if (!finder_->isOpen() && parts_ && parts_->zoom.leaveFilledScreen())
+            return;
         return work([this] { finder_->close(); });
     }
 }
@@ -237,11 +246,31 @@ WindowSizeRule::Window Multim::present() const {
 }
 
 void Multim::Form_Resize() {
-    // Not while start-up gives the window its size, and not for the rule's own resizing.
-    if (!startUpDone_ || resizing_)
+    // Not while start-up gives the window its size, and not for the rule's own resizing; who had
+    // it fill the screen will have it back.
+    if (!startUpDone_ || resizing_ || isFullScreen())
         return;
     carryOut(sizeRule_.resized(present()));
     sizeSettled_.start();
+}
+
+QRect Multim::ownPlace() const {
+    if (!shell::isWideEnoughToCentre(screen_))
+        return QRect(pos(), kWindowSize);
+    return inPixels(shell::centredWindow(screen_));
+}
+
+void Multim::setFillsScreen(bool fills) {
+    const QScopedValueRollback<bool> own(resizing_, true);
+    if (fills) {
+        setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+        showFullScreen();
+    } else {
+        showNormal();
+        resize(kWindowSize);
+        if (shell::isWideEnoughToCentre(screen_))
+            place(shell::centredWindow(screen_));
+    }
 }
 
 void Multim::carryOut(const WindowSizeRule::Orders& orders) {
@@ -252,6 +281,14 @@ void Multim::carryOut(const WindowSizeRule::Orders& orders) {
         resize(kWindowSize);
     if (orders.centre)
         place(shell::centredWindow(screen_));
+}
+
+void Multim::place(const shell::Placement& placement) {
+    const QRect pixels = inPixels(placement);
+    // The window manager then offers neither to resize nor to maximise it.
+    setFixedSize(pixels.size());
+    resize(pixels.size());
+    move(pixels.topLeft());
 }
 
 } // namespace viewer

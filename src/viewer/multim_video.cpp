@@ -38,9 +38,9 @@ Heights heightsBeside(Multim::VideoLayout layout) {
 void Multim::setVideoLayout(VideoLayout layout) {
     videoLayout_ = layout;
     const Heights heights = heightsBeside(layout);
-    panel_->setPanelHeight(heights.panel - rowsLacking_, heights.view - rowsLacking_);
+    panel_->setPanelHeight(heights.panel, heights.view);
     const bool open = layout == VideoLayout::Open;
-    videoFrame_->setGeometry((open ? kVideoOpen : kVideoClosed).translated(0, -rowsLacking_));
+    videoFrame_->setGeometry(open ? kVideoOpen : kVideoClosed);
     videoFrame_->setOpen(open);
     videoFrame_->setVisible(layout != VideoLayout::None);
 }

@@ -24,6 +24,7 @@ protected:
              bench.renderer,
              {rest.video, links, rest.printing, rest.updateCheck, rest.exercise, rest.orderForm,
               rest.search, rest.calculator, rest.help, rest.installation, rest.exitScreen},
+             bench.zoom,
              [this] {
                  bench.pages.bindTo(bench.cours);
                  return true;
