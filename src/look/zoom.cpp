@@ -11,6 +11,7 @@
 #include <QWheelEvent>
 #include <QWindow>
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 #include <vector>
@@ -25,7 +26,7 @@ constexpr int kWheelNotch = 120;
 struct PlacedWindow {
     QWidget* window;
     QSize size;
-    QPoint place;
+    QPoint place; ///< of its frame
 };
 
 std::vector<PlacedWindow> visibleWindows() {
@@ -33,8 +34,19 @@ std::vector<PlacedWindow> visibleWindows() {
     const QWidgetList all = QApplication::topLevelWidgets();
     for (QWidget* window : all)
         if (window->isVisible() && window->windowHandle())
-            windows.push_back({window, window->size(), window->geometry().topLeft()});
+            windows.push_back({window, window->size(), window->pos()});
     return windows;
+}
+
+/// The nearest place with the whole window on the screen, its upper left corner rather than the
+/// lower right one.
+QRect shiftedInto(const QScreen& screen, QRect window) {
+    const QRect room = screen.availableGeometry();
+    window.moveRight(std::min(window.right(), room.right()));
+    window.moveBottom(std::min(window.bottom(), room.bottom()));
+    window.moveLeft(std::max(window.left(), room.left()));
+    window.moveTop(std::max(window.top(), room.top()));
+    return window;
 }
 
 /// The drawing behind a window has so many pixels as the scale was; it is told to look again.
@@ -101,7 +113,7 @@ void Zoom::setScale(double scale) {
     if (screenScale_ == 0)
         screenScale_ = platform::screenFactor(screen, programScale_);
     const std::vector<PlacedWindow> windows = visibleWindows();
-    const QPoint origin = main_->geometry().topLeft();
+    const QPoint origin = main_->pos();
     platform::setScreenFactor(screen, screenScale_ * scale / programScale_);
     scale_ = scale;
     if (hooks_.changed)
@@ -109,9 +121,10 @@ void Zoom::setScale(double scale) {
     const QRect place = hooks_.place && !filled_ ? hooks_.place() : QRect(QPoint(), main_->size());
     for (const PlacedWindow& each : windows) {
         const bool fills = filled_ && each.window->isFullScreen();
-        platform::placeInItsPixels(*each.window->windowHandle(),
-                                   fills ? screen.geometry()
-                                         : QRect(place.topLeft() + each.place - origin, each.size));
+        const QRect placed =
+            fills ? screen.geometry()
+                  : shiftedInto(screen, QRect(place.topLeft() + each.place - origin, each.size));
+        platform::placeInItsPixels(*each.window->windowHandle(), placed.topLeft(), placed.size());
         repaintWhole(*each.window);
     }
 }
@@ -134,6 +147,7 @@ bool Zoom::leaveFilledScreen() {
 }
 
 void Zoom::setFilled(bool filled) {
+    QWidget* active = QApplication::activeWindow();
     if (filled) {
         scaleBeforeFilling_ = scale_;
         const QSizeF screen = screenPixels();
@@ -148,6 +162,8 @@ void Zoom::setFilled(bool filled) {
         if (auto* filling = dynamic_cast<ScreenFilling*>(window);
             filling && (window->isVisible() || window == main_))
             filling->setFillsScreen(filled);
+    if (active)
+        active->activateWindow();
 }
 
 /// The keys reach it before any window, so that they work in all of them. What they do comes after

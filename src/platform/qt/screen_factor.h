@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QRect>
+#include <QPoint>
+#include <QSize>
 
 class QScreen;
 class QWindow;
@@ -18,8 +19,8 @@ void setScreenFactor(QScreen& screen, double factor);
 /// The factor of `screen` without that of QT_SCALE_FACTOR, which is `programScale`.
 double screenFactor(const QScreen& screen, double programScale);
 
-/// Gives a window that exists a place and a size in its own pixels as they are now, even when it
-/// believes that it has them already.
-void placeInItsPixels(QWindow& window, const QRect& geometry);
+/// Gives a window that exists a place, of its frame, and a size in its own pixels as they are now,
+/// even when it believes that it has them already.
+void placeInItsPixels(QWindow& window, QPoint frame, QSize size);
 
 } // namespace platform
