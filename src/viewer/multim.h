@@ -109,6 +109,8 @@ public:
     void setBackEnabled(bool enabled) override;
     void setForwardEnabled(bool enabled) override;
     void fitPage() override;
+    int scrolled() const override;
+    void scrollTo(int twips) override;
     void setChapterButtons(bool previous, bool next) override;
     void setPrintable(bool printable) override;
     void setSummary(const QString& code, const QString& caption) override;
@@ -148,6 +150,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

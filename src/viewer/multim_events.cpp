@@ -190,7 +190,26 @@ void Multim::perform(KeyCommand command) {
         if (!finder_->isOpen() && parts_ && parts_->zoom.leaveFilledScreen())
             return;
         return work([this] { finder_->close(); });
+    case KeyCommand::Home:
+        return work([this] { parts_->commands.runCode(QStringLiteral("PAG001")); });
+    case KeyCommand::Search:
+        return button("command4").click();
+    case KeyCommand::Print:
+        return button("CommandIMPRIME").click();
+    case KeyCommand::Help:
+        return button("Command10").click();
+    case KeyCommand::Quit:
+        return button("Command14").click();
     }
+}
+
+void Multim::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::BackButton)
+        perform(KeyCommand::HistoryBack);
+    else if (event->button() == Qt::ForwardButton)
+        perform(KeyCommand::HistoryForward);
+    else
+        QWidget::mousePressEvent(event);
 }
 
 void Multim::wheelEvent(QWheelEvent* event) {
