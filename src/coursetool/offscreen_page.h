@@ -66,6 +66,10 @@ public:
     void restorePointer() override {}
     void close() override {}
     void press(int) override {}
+    int scrolled() const override { return 0; }
+    void scrollTo(int) override {}
+    void seek(double) override {}
+    void refresh() override {}
 
 private:
     double drawnHeight(page::SurfaceId surface) const;

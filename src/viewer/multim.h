@@ -140,7 +140,7 @@ public:
     QSize pictureSize() const override;
     void showPicture(const QImage& picture) override;
     void setMarkerWidth(double twips) override;
-    void setVideoStatus(const QString& words, bool playing) override;
+    void setVideoStatus(const QString& words, bool playing, bool atEnd) override;
 
     // shell::ReportSink
     void report(const QString& line) override;

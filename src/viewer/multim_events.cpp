@@ -70,6 +70,14 @@ void Multim::connectHandlers() {
                 [this, click = row.click] { (this->*click)(); });
     videoFrame_->onImage4_Click([this](int index) { Image4_Click(index); });
     videoFrame_->projo().onClick([this] { projo_Click(); });
+    videoFrame_->projo().onResized([this] {
+        if (parts_)
+            parts_->neighbours.video.refresh();
+    });
+    videoFrame_->onSought([this](double share) {
+        if (!hasVideoMenu())
+            work([this, share] { parts_->neighbours.video.seek(share); });
+    });
 }
 
 void Multim::work(const std::function<void()>& task) {
