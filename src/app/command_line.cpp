@@ -1,6 +1,6 @@
 #include "app/command_line.h"
 
-#include "app/scale.h"
+#include "look/scale.h"
 #include "platform/qt/mounted_drives.h"
 
 namespace app {
@@ -62,7 +62,7 @@ void readScale(CommandLine& line, const QString& value) {
     }
     bool isNumber = false;
     const double scale = QString(value).replace(u',', u'.').toDouble(&isNumber);
-    if (!isNumber || scale < kSmallestScale || scale > kLargestScale)
+    if (!isNumber || scale < look::kSmallestScale || scale > look::kLargestScale)
         refuse(line,
                QStringLiteral("l’échelle va de 1 à 4, ou « auto » (et non « %1 »)").arg(value));
     else

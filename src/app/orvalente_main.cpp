@@ -1,7 +1,7 @@
 #include "app/command_line.h"
-#include "app/scale.h"
 #include "app/shell_application.h"
 #include "look/held_keys.h"
+#include "look/scale.h"
 #include "page/faces/font_book.h"
 #include "platform/terminal.h"
 
@@ -33,8 +33,8 @@ double chooseScale(const app::CommandLine& line, int argc, char** argv) {
         return 1; // the usual case looks at no screen
     const QSizeF screen = screenPixels(argc, argv);
     if (line.scaleAuto)
-        return app::automaticScale(screen.width(), screen.height());
-    const double scale = app::fittingScale(line.scale, screen.width(), screen.height());
+        return look::automaticScale(screen.width(), screen.height());
+    const double scale = look::fittingScale(line.scale, screen.width(), screen.height());
     if (scale < line.scale)
         platform::tellOnTerminal(
             QStringLiteral("l’échelle %1 ne tient pas sur l’écran ; %2 à la place.")

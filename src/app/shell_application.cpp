@@ -13,6 +13,7 @@
 #include "help/help_opener.h"
 #include "look/message_dialog.h"
 #include "look/print_setup.h"
+#include "look/zoom.h"
 #include "output/paper/escape_watch.h"
 #include "output/paper/qt_printer.h"
 #include "page/faces/font_book.h"
@@ -128,7 +129,7 @@ private:
 /// Everything there is, in the order in which one needs the other.
 struct ShellApplication::Parts {
     Parts(const CommandLine& commandLine, double scale)
-        : screen(scale), window(state, fonts, screen),
+        : screen(scale), zoom(scale), window(state, fonts, screen),
           launcher(state, prompter, processes, activator, window), modules(launcher),
           links(window, fonts, window.shownPage().links),
           orderForm({printerSetup, printer, fonts}, prompter, window),
@@ -144,7 +145,9 @@ struct ShellApplication::Parts {
           commands(state, actions, window, neighbours, prompter), course(record),
           startUp(state, courseDirectory(commandLine),
                   {screen, prompter, window, course, warning}) {
-        window.attach({commands, actions, pages, neighbours,
+        zoom.setWindow(window, {[this](double now) { screen.setScale(now); },
+                                [this] { return window.ownPlace(); }});
+        window.attach({commands, actions, pages, neighbours, zoom,
                        [this] { return startUp.run() == shell::StartUp::Outcome::GoOn; }});
     }
 
@@ -161,6 +164,7 @@ struct ShellApplication::Parts {
     coursedata::BoundRecord record;
     page::FontBook fonts;
     platform::QtScreen screen;
+    look::Zoom zoom;
     look::DialogPrompter prompter;
     platform::QtProcesses processes;
     OtherWindows otherWindows;

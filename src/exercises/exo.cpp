@@ -181,9 +181,13 @@ void Exo::run() {
 /// so far.
 void Exo::start() {
     Form_Load();
-    place();
     session_->activate();
-    show();
+    if (mainWindow_.isFullScreen()) {
+        setFillsScreen(true);
+    } else {
+        place();
+        show();
+    }
     activateWindow();
 }
 
@@ -206,6 +210,17 @@ void Exo::makeWritable() {
     writable_ = true;
     session_->reopen(fresh.contenu.get());
     tables_ = std::move(fresh);
+}
+
+void Exo::setFillsScreen(bool fills) {
+    if (fills) {
+        setMinimumSize(kSize);
+        setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+        showFullScreen();
+    } else {
+        showNormal();
+        place();
+    }
 }
 
 void Exo::place() {

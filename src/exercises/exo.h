@@ -6,6 +6,7 @@
 #include "exercises/test_session.h"
 #include "exercises/test_state.h"
 #include "exercises/test_view.h"
+#include "look/screen_filling.h"
 #include "markup/draw_page.h"
 #include "page/faces/font_book.h"
 #include "platform/message_box.h"
@@ -39,7 +40,10 @@ class Strip;
 /// `exo`: the window of the test, modal to the main window only, so that a calculator stays usable
 /// beside it. It shows what its session tells it to and hands on what its controls are asked for;
 /// the controls have the names of the handlers.
-class Exo : public QWidget, public TestView, public markup::DrawingWatcher {
+class Exo : public QWidget,
+            public look::ScreenFilling,
+            public TestView,
+            public markup::DrawingWatcher {
 public:
     /// What the window works with; all of it outlives the window.
     struct Parts {
@@ -65,6 +69,9 @@ public:
 
     /// Milliseconds between two pictures of the popup after a right answer.
     void setBlinkInterval(int milliseconds) { blinkInterval_ = milliseconds; }
+
+    // look::ScreenFilling
+    void setFillsScreen(bool fills) override;
 
     // TestView
     void setTitle(const QString& title) override;

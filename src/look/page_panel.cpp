@@ -120,6 +120,14 @@ void PagePanel::scrollToBottom() {
     VScroll1_->setValue(VScroll1_->minimum());
 }
 
+int PagePanel::scrolled() const {
+    return -VScroll1_->value();
+}
+
+void PagePanel::scrollTo(int twips) {
+    VScroll1_->setValue(-twips);
+}
+
 int PagePanel::viewTopPx() const {
     return -page_->y();
 }

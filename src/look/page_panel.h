@@ -46,6 +46,9 @@ public:
     void scrollScreens(int count);
     void scrollToTop();
     void scrollToBottom();
+    /// Down from the top, in twips; as far as the page reaches.
+    int scrolled() const;
+    void scrollTo(int twips);
 
     /// What shows of the page, in its pixels.
     int viewTopPx() const;

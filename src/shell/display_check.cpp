@@ -10,9 +10,10 @@ bool isWideEnoughToCentre(const platform::Screen& screen) {
     return platform::widthPixels(screen) > kCentringScreenPixels;
 }
 
-bool isTooLowForAFrame(const platform::Screen& screen) {
-    return screen.heightTwips() / screen.scale() <=
-           kWindowHeightPixels * platform::knownTwipsPerPixel(screen.twipsPerPixelY());
+bool hasNoRoomForAFrame(const platform::Screen& screen) {
+    return screen.heightTwips() / screen.scale() <
+           (kWindowHeightPixels + kFrameHeightPixels) *
+               platform::knownTwipsPerPixel(screen.twipsPerPixelY());
 }
 
 Placement centredWindow(const platform::Screen& screen) {

@@ -19,8 +19,12 @@ bool isTooNarrow(const platform::Screen& screen);
 /// Whether the main window is centred on the screen.
 bool isWideEnoughToCentre(const platform::Screen& screen);
 
-/// Whether the screen is no higher than the main window without its frame.
-bool isTooLowForAFrame(const platform::Screen& screen);
+/// What the frame of a window takes of the height of a screen at most, in pixels: a title bar
+/// above, and the same below, as the contents are in the middle.
+inline constexpr double kFrameHeightPixels = 60;
+
+/// Whether the main window with its frame is higher than the screen.
+bool hasNoRoomForAFrame(const platform::Screen& screen);
 
 /// Where a window goes, in twips of the window's own scale, measured from the screen's corner.
 struct Placement {

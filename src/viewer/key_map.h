@@ -20,6 +20,11 @@ enum class KeyCommand {
     FindNext,
     FindPrevious,
     LeaveFind,
+    Home,
+    Search,
+    Print,
+    Help,
+    Quit,
 };
 
 /// The command of a key press; nothing for a key without one.

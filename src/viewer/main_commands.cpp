@@ -11,7 +11,17 @@ MainCommands::MainCommands(shell::SharedState& state, ActionDispatcher& actions,
     : state_(state), actions_(actions), view_(view), neighbours_(neighbours), prompter_(prompter),
       history_(state) {}
 
+void MainCommands::runCode(const QString& code) {
+    keepPlace();
+    actions_.run(code);
+}
+
+void MainCommands::keepPlace() {
+    places_[state_.HistoryPages.valueOr(state_.HistoryPos, 0)] = view_.scrolled();
+}
+
 void MainCommands::followLink(const QString& tag) {
+    keepPlace();
     QString code = tag;
     actions_.runAction(code);
     if (code != tag)
@@ -19,12 +29,14 @@ void MainCommands::followLink(const QString& tag) {
 }
 
 void MainCommands::back() {
+    keepPlace();
     const History::Pause unrecorded(state_);
     showVisited(history_.stepBack());
     view_.setForwardEnabled(true);
 }
 
 void MainCommands::forward() {
+    keepPlace();
     const History::Pause unrecorded(state_);
     showVisited(history_.stepForward());
     view_.setBackEnabled(true);
@@ -35,8 +47,12 @@ void MainCommands::forward() {
 /// A step out of the table shows nothing, but has been made: going back from there leads to the
 /// page of slot 100 first. An empty slot shows page 0. Both are meant so.
 void MainCommands::showVisited(std::optional<std::int16_t> page) {
-    if (page)
-        runCode(pageCode(*page));
+    if (!page)
+        return;
+    actions_.run(pageCode(*page));
+    // Where it was left is what who comes back looks for.
+    if (const auto place = places_.find(*page); place != places_.end())
+        view_.scrollTo(place->second);
 }
 
 void MainCommands::nextInChapter() {
@@ -51,6 +67,7 @@ void MainCommands::showNeighbour(int distance) {
     const auto index = std::int64_t{state_.CurrentOrderIndex} + distance;
     if (!std::in_range<std::int32_t>(index))
         return;
+    keepPlace();
     view_.showHourglass();
     actions_.showPageByOrder(static_cast<std::int32_t>(index));
     view_.restorePointer();

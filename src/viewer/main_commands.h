@@ -10,6 +10,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <map>
 #include <optional>
 
 namespace viewer {
@@ -21,7 +22,7 @@ public:
                  const Neighbours& neighbours, platform::Prompter& prompter);
 
     /// Runs a page code.
-    void runCode(const QString& code) { actions_.run(code); }
+    void runCode(const QString& code);
 
     /// Runs the tag of a link or of a menu entry. When that opens the test and a page is to follow
     /// it, that page is shown; the link goes on leading to the test.
@@ -44,6 +45,7 @@ public:
     bool leave();
 
 private:
+    void keepPlace();
     void showVisited(std::optional<std::int16_t> page);
     void showNeighbour(int distance);
 
@@ -53,6 +55,7 @@ private:
     Neighbours neighbours_;
     platform::Prompter& prompter_;
     History history_;
+    std::map<std::int16_t, int> places_; ///< how far pages were scrolled when they were left, twips
 };
 
 } // namespace viewer

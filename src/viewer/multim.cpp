@@ -8,6 +8,7 @@
 #include "look/palette.h"
 #include "look/picture_box.h"
 #include "look/program_icon.h"
+#include "look/zoom.h"
 #include "page/surface_widths.h"
 #include "page/twips.h"
 #include "platform/file_names.h"
@@ -44,7 +45,7 @@ Multim::Multim(shell::SharedState& state, const page::FontBook& fonts,
     setObjectName(QStringLiteral("multim"));
     setWindowTitle(QStringLiteral("Orvalente - KAROPE"));
     resize(kWindowSize);
-    setMinimumSize(kWindowSize - QSize(0, kMostRowsLacking));
+    setMinimumSize(kWindowSize);
     QPalette colours = palette();
     colours.setColor(QPalette::Window, QColor::fromRgb(look::kIvory));
     setPalette(colours);
@@ -91,6 +92,7 @@ void Multim::addControls() {
     videoFrame_ = new VideoFrame(body_);
 
     rail_ = new Rail(body_);
+    rail_->setGeometry(kRail);
     PICTUREILLUS_ = new look::PictureBox(SurfaceId::PictureIllus, page::kIllustrationWidthPx,
                                          look::kPaper, fonts_, shown_.recording, rail_);
     PICTUREILLUS_->setObjectName(QStringLiteral("PICTUREILLUS"));
@@ -98,28 +100,23 @@ void Multim::addControls() {
     rail_->setIllustration(PICTUREILLUS_);
 
     Framebase_ = new ChapterBar(body_);
+    Framebase_->setGeometry(kFramebase);
     cover_ = new Cover(body_);
+    cover_->setGeometry(kPanel);
     cover_->hide();
 
     finder_ = std::make_unique<PageFinder>(PageFinder::Stage{
         *findBar, *panel_, {PictureTEXTE_, PICTUREILLUS_, titre_}, shown_.recording, fonts_});
-    layOut();
+    setVideoLayout(videoLayout_);
+    panel_->fitView();
     button("Command2").setLastingMnemonic(u'S');
     setPrintable(false);
 }
 
-/// Where the window is larger than its contents they stand in its middle; rows that it lacks are
-/// taken from the page's view and from the illustration area.
+/// Where the window is larger than its contents they stand in its middle.
 void Multim::layOut() {
-    rowsLacking_ = qBound(0, kWindowSize.height() - height(), kMostRowsLacking);
-    const QSize size = kWindowSize - QSize(0, rowsLacking_);
-    body_->setGeometry(qMax(0, (width() - size.width()) / 2),
-                       qMax(0, (height() - size.height()) / 2), size.width(), size.height());
-    rail_->place(kRail.adjusted(0, 0, 0, -rowsLacking_));
-    Framebase_->setGeometry(kFramebase.translated(0, -rowsLacking_));
-    cover_->setGeometry(kPanel.adjusted(0, 0, 0, -rowsLacking_));
-    setVideoLayout(videoLayout_);
-    panel_->fitView();
+    body_->move(qMax(0, (width() - kWindowSize.width()) / 2),
+                qMax(0, (height() - kWindowSize.height()) / 2));
 }
 
 bool Multim::Form_Load() {
@@ -150,9 +147,8 @@ void Multim::showCover() {
     cover_->show();
     // What sized the window so far was start-up itself: from here on a resize counts.
     startUpDone_ = true;
-    // With its frame it would reach beyond a screen no higher than itself.
-    if (shell::isTooLowForAFrame(screen_) && !shell::isWideEnoughToCentre(screen_))
-        showMaximized();
+    if (shell::hasNoRoomForAFrame(screen_))
+        parts_->zoom.fillScreenForGood();
     else
         show();
 }
@@ -177,15 +173,6 @@ void Multim::showFirstPage() {
 
 void Multim::setWidth(double twips) {
     resize(qRound(twips / page::kTwipsPerPixel), height());
-}
-
-void Multim::place(const shell::Placement& placement) {
-    const auto pixels = [](double twips) { return qRound(twips / page::kTwipsPerPixel); };
-    const QSize size(pixels(placement.width), pixels(placement.height));
-    // The window manager then offers neither to resize nor to maximise it.
-    setFixedSize(size);
-    resize(size);
-    move(pixels(placement.left), pixels(placement.top));
 }
 
 void Multim::pumpPendingMessages() {

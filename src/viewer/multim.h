@@ -1,5 +1,6 @@
 #pragma once
 
+#include "look/screen_filling.h"
 #include "markup/draw_page.h"
 #include "page/faces/font_book.h"
 #include "page/recording.h"
@@ -26,6 +27,7 @@ namespace look {
 class Button;
 class PagePanel;
 class PictureBox;
+class Zoom;
 } // namespace look
 
 namespace viewer {
@@ -44,6 +46,7 @@ class VideoFrame;
 /// no effect: neither can start anew in the middle. Closed meanwhile, it closes when the work is at
 /// the next point where it can end.
 class Multim : public QWidget,
+               public look::ScreenFilling,
                public PageView,
                public VideoView,
                public markup::DrawingWatcher,
@@ -59,6 +62,7 @@ public:
         ActionDispatcher& actions;
         PageLoader& pages;
         Neighbours neighbours;
+        look::Zoom& zoom;
         /// Start-up before the window sets itself up; false to end the program.
         std::function<bool()> startUp;
     };
@@ -85,6 +89,12 @@ public:
     /// Runs the tag of a link or of a menu entry; without effect while other work is under way.
     void followLink(const QString& tag);
 
+    /// Where it belongs while it does not fill the screen, in its pixels.
+    QRect ownPlace() const;
+
+    // look::ScreenFilling
+    void setFillsScreen(bool fills) override;
+
     // PageView
     void setPageVisible(bool visible) override;
     void resetLinks() override;
@@ -96,6 +106,8 @@ public:
     void setBackEnabled(bool enabled) override;
     void setForwardEnabled(bool enabled) override;
     void fitPage() override;
+    int scrolled() const override;
+    void scrollTo(int twips) override;
     void setChapterButtons(bool previous, bool next) override;
     void setPrintable(bool printable) override;
     void setSummary(const QString& code, const QString& caption) override;
@@ -118,7 +130,7 @@ public:
     QSize pictureSize() const override;
     void showPicture(const QImage& picture) override;
     void setMarkerWidth(double twips) override;
-    void setVideoStatus(const QString& words, bool playing) override;
+    void setVideoStatus(const QString& words, bool playing, bool atEnd) override;
 
     // shell::ReportSink
     void report(const QString& line) override;
@@ -128,6 +140,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -190,7 +203,6 @@ private:
     look::PagePanel* panel_ = nullptr;
     VideoFrame* videoFrame_ = nullptr;
     VideoLayout videoLayout_ = VideoLayout::None;
-    int rowsLacking_ = 0; ///< of the window, in pixels, 0 to kMostRowsLacking
     ChapterBar* Framebase_ = nullptr;
     Cover* cover_ = nullptr;
     look::PictureBox* PictureTEXTE_ = nullptr;

@@ -5,6 +5,7 @@
 #include "look/page_panel.h"
 #include "look/picture_box.h"
 #include "look/scroll_bar.h"
+#include "look/zoom.h"
 #include "page/twips.h"
 #include "shell/display_check.h"
 #include "viewer/chapter_bar.h"
@@ -28,6 +29,12 @@ namespace {
 /// What a wheel reports for one notch, and how far the page then moves.
 constexpr double kWheelNotch = 120;
 constexpr double kLinesPerNotch = 3;
+
+QRect inPixels(const shell::Placement& placement) {
+    const auto pixels = [](double twips) { return qRound(twips / page::kTwipsPerPixel); };
+    return {pixels(placement.left), pixels(placement.top), pixels(placement.width),
+            pixels(placement.height)};
+}
 
 } // namespace
 
@@ -63,6 +70,14 @@ void Multim::connectHandlers() {
                 [this, click = row.click] { (this->*click)(); });
     videoFrame_->onImage4_Click([this](int index) { Image4_Click(index); });
     videoFrame_->projo().onClick([this] { projo_Click(); });
+    videoFrame_->projo().onResized([this] {
+        if (parts_)
+            parts_->neighbours.video.refresh();
+    });
+    videoFrame_->onSought([this](double share) {
+        if (!hasVideoMenu())
+            work([this, share] { parts_->neighbours.video.seek(share); });
+    });
 }
 
 void Multim::work(const std::function<void()>& task) {
@@ -180,8 +195,29 @@ void Multim::perform(KeyCommand command) {
     case KeyCommand::FindPrevious:
         return work([this] { finder_->previous(); });
     case KeyCommand::LeaveFind:
+        if (!finder_->isOpen() && parts_ && parts_->zoom.leaveFilledScreen())
+            return;
         return work([this] { finder_->close(); });
+    case KeyCommand::Home:
+        return work([this] { parts_->commands.runCode(QStringLiteral("PAG001")); });
+    case KeyCommand::Search:
+        return button("command4").click();
+    case KeyCommand::Print:
+        return button("CommandIMPRIME").click();
+    case KeyCommand::Help:
+        return button("Command10").click();
+    case KeyCommand::Quit:
+        return button("Command14").click();
     }
+}
+
+void Multim::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::BackButton)
+        perform(KeyCommand::HistoryBack);
+    else if (event->button() == Qt::ForwardButton)
+        perform(KeyCommand::HistoryForward);
+    else
+        QWidget::mousePressEvent(event);
 }
 
 void Multim::wheelEvent(QWheelEvent* event) {
@@ -237,11 +273,31 @@ WindowSizeRule::Window Multim::present() const {
 }
 
 void Multim::Form_Resize() {
-    // Not while start-up gives the window its size, and not for the rule's own resizing.
-    if (!startUpDone_ || resizing_)
+    // Not while start-up gives the window its size, and not for the rule's own resizing; who had
+    // it fill the screen will have it back.
+    if (!startUpDone_ || resizing_ || isFullScreen())
         return;
     carryOut(sizeRule_.resized(present()));
     sizeSettled_.start();
+}
+
+QRect Multim::ownPlace() const {
+    if (!shell::isWideEnoughToCentre(screen_))
+        return QRect(pos(), kWindowSize);
+    return inPixels(shell::centredWindow(screen_));
+}
+
+void Multim::setFillsScreen(bool fills) {
+    const QScopedValueRollback<bool> own(resizing_, true);
+    if (fills) {
+        setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+        showFullScreen();
+    } else {
+        showNormal();
+        resize(kWindowSize);
+        if (shell::isWideEnoughToCentre(screen_))
+            place(shell::centredWindow(screen_));
+    }
 }
 
 void Multim::carryOut(const WindowSizeRule::Orders& orders) {
@@ -252,6 +308,14 @@ void Multim::carryOut(const WindowSizeRule::Orders& orders) {
         resize(kWindowSize);
     if (orders.centre)
         place(shell::centredWindow(screen_));
+}
+
+void Multim::place(const shell::Placement& placement) {
+    const QRect pixels = inPixels(placement);
+    // The window manager then offers neither to resize nor to maximise it.
+    setFixedSize(pixels.size());
+    resize(pixels.size());
+    move(pixels.topLeft());
 }
 
 } // namespace viewer

@@ -74,6 +74,14 @@ void Multim::setForwardEnabled(bool enabled) {
     button("apres").setEnabled(enabled);
 }
 
+int Multim::scrolled() const {
+    return panel_->scrolled();
+}
+
+void Multim::scrollTo(int twips) {
+    panel_->scrollTo(twips);
+}
+
 void Multim::fitPage() {
     for (look::PictureBox* box : {PictureTEXTE_, PICTUREILLUS_, titre_}) {
         box->setPageHeightPx(shown_.heightPx(box->surfaceId()));

@@ -38,9 +38,9 @@ Heights heightsBeside(Multim::VideoLayout layout) {
 void Multim::setVideoLayout(VideoLayout layout) {
     videoLayout_ = layout;
     const Heights heights = heightsBeside(layout);
-    panel_->setPanelHeight(heights.panel - rowsLacking_, heights.view - rowsLacking_);
+    panel_->setPanelHeight(heights.panel, heights.view);
     const bool open = layout == VideoLayout::Open;
-    videoFrame_->setGeometry((open ? kVideoOpen : kVideoClosed).translated(0, -rowsLacking_));
+    videoFrame_->setGeometry(open ? kVideoOpen : kVideoClosed);
     videoFrame_->setOpen(open);
     videoFrame_->setVisible(layout != VideoLayout::None);
 }
@@ -48,7 +48,7 @@ void Multim::setVideoLayout(VideoLayout layout) {
 void Multim::showVideoFrame() {
     const bool menu = hasVideoMenu();
     videoFrame_->setMarkerWidth(0);
-    videoFrame_->setStatus({}, false);
+    videoFrame_->setStatus({}, false, false);
     videoFrame_->projo().showWords(menu ? QStringLiteral("Choisir une vidéo…") : QString());
     // The menu belongs to the picture, which shows before there is a video.
     setVideoLayout(menu ? VideoLayout::Open : VideoLayout::Closed);
@@ -79,8 +79,8 @@ void Multim::setMarkerWidth(double twips) {
     videoFrame_->setMarkerWidth(twips);
 }
 
-void Multim::setVideoStatus(const QString& words, bool playing) {
-    videoFrame_->setStatus(words, playing);
+void Multim::setVideoStatus(const QString& words, bool playing, bool atEnd) {
+    videoFrame_->setStatus(words, playing, atEnd);
 }
 
 void Multim::Image4_Click(int index) {
@@ -90,9 +90,11 @@ void Multim::Image4_Click(int index) {
         work([this, index] { parts_->neighbours.video.press(index); });
 }
 
-/// Where the picture has a menu, that comes up.
+/// Where the picture has a menu, that comes up; a video plays and pauses.
 void Multim::projo_Click() {
-    if (working_ || !hasVideoMenu())
+    if (!hasVideoMenu())
+        return videoFrame_->playOrPause();
+    if (working_)
         return;
     auto* MVideo = new QMenu(this);
     MVideo->setObjectName(QStringLiteral("MVideo"));

@@ -15,6 +15,11 @@ public:
     /// Carries out the video button `index`: 0 play, 1 one frame forward, 2 pause, 3 stop,
     /// 4 one frame back, 5 to the end, 6 to the start.
     virtual void press(int index) = 0;
+    /// Goes to a place of the video, 0 at its first frame to 1 at its last; what plays goes on from
+    /// there.
+    virtual void seek(double share) = 0;
+    /// Shows the frame anew that stands, for a picture of another size.
+    virtual void refresh() = 0;
 };
 
 /// A window shown modally: open() returns once it is closed.

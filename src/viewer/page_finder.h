@@ -47,8 +47,9 @@ public:
     /// Another page stands: while the bar is open, it is searched anew.
     void pageStands();
 
-private:
     bool isOpen() const;
+
+private:
     void typed();
     void search(const FoundWords& words, const PageFind::Place& from);
     bool isCurrentInView() const;

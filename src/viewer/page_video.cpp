@@ -50,12 +50,8 @@ bool PageVideo::haveDevice() {
 }
 
 void PageVideo::press(int index) {
-    if (!state_.VideoOpen) {
-        openVideo();
-        if (!state_.VideoOpen)
-            return;
-        rewind();
-    }
+    if (!isReady())
+        return;
     switch (index) {
     case 0:
         return play();
@@ -75,6 +71,30 @@ void PageVideo::press(int index) {
     default:
         return;
     }
+}
+
+/// Opens the page's video at the first use.
+bool PageVideo::isReady() {
+    if (!state_.VideoOpen) {
+        openVideo();
+        if (state_.VideoOpen)
+            rewind();
+    }
+    return state_.VideoOpen;
+}
+
+void PageVideo::seek(double share) {
+    if (!isReady())
+        return;
+    const bool goesOn = MMControl1_->isPlaying();
+    showFrom(qRound(qBound(0.0, share, 1.0) * MMControl1_->length()));
+    if (goesOn)
+        send(Command::Play);
+}
+
+void PageVideo::refresh() {
+    if (state_.VideoOpen && !MMControl1_->isPlaying())
+        showFrom(MMControl1_->position());
 }
 
 void PageVideo::play() {
@@ -110,7 +130,7 @@ void PageVideo::statusUpdated() {
                          : position == 0 ? QStringLiteral("Au début")
                          : atEnd()       ? QStringLiteral("À la fin")
                                          : QStringLiteral("En pause"),
-                         playing);
+                         playing, length != 0 && position == length);
 }
 
 void PageVideo::playEnded() {

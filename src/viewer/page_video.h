@@ -32,9 +32,12 @@ public:
     // VideoDevice
     void close() override;
     void press(int index) override;
+    void seek(double share) override;
+    void refresh() override;
 
 private:
     void openVideo();
+    bool isReady();
     QString locate(const QString& name);
     bool haveDevice();
     void send(platform::Video::Command command) { MMControl1_->send(command); }

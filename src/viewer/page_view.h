@@ -37,6 +37,10 @@ public:
     /// Shows the drawn page from its top and sets the scroll bar up for its height.
     virtual void fitPage() = 0;
 
+    /// How far the page is scrolled down, in twips; setting it keeps within the page.
+    virtual int scrolled() const = 0;
+    virtual void scrollTo(int twips) = 0;
+
     /// Shows or hides the buttons to the neighbours in the chapter.
     virtual void setChapterButtons(bool previous, bool next) = 0;
 

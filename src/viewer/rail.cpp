@@ -48,6 +48,7 @@ Rail::Rail(QWidget* parent) : QWidget(parent) {
                              this);
     btexo->setObjectName(QStringLiteral("btexo"));
     btexo_ = btexo;
+    btexo_->setGeometry(kReturnToTest);
     // The button paints the words, so that they follow its states; the label lies over them, and
     // what is clicked on it reaches the button.
     auto* Label16 = new QLabel(btexo);
@@ -58,31 +59,23 @@ Rail::Rail(QWidget* parent) : QWidget(parent) {
     Label16_->setGeometry(kReturnWords);
     setReturnToTestVisible(false);
 
-    avant_ =
-        addHistoryButton(QStringLiteral("avant"), QStringLiteral("&Précédent"),
-                         QStringLiteral("Page précédente"), QStringLiteral("previous-page"), this);
-    apres_ = addHistoryButton(QStringLiteral("apres"), QStringLiteral("S&uivant"),
-                              QStringLiteral("Page suivante"), QStringLiteral("next-page"), this);
+    addHistoryButton(QStringLiteral("avant"), QStringLiteral("&Précédent"),
+                     QStringLiteral("Page précédente"), QStringLiteral("previous-page"), this)
+        ->setGeometry(kBack);
+    addHistoryButton(QStringLiteral("apres"), QStringLiteral("S&uivant"),
+                     QStringLiteral("Page suivante"), QStringLiteral("next-page"), this)
+        ->setGeometry(kForward);
 }
 
 void Rail::setIllustration(look::PictureBox* illustration) {
     illustration->setParent(this);
     illustration->setInset(1);
-    illustration_ = illustration;
+    illustration->setGeometry(kIllustration);
 }
 
 void Rail::setReturnToTestVisible(bool visible) {
     btexo_->setVisible(visible);
     Label16_->setVisible(visible);
-}
-
-void Rail::place(const QRect& rectangle) {
-    setGeometry(rectangle);
-    const int lower = height() - kHeight; // than usual, so rarely anything but 0
-    illustration_->setGeometry(kIllustration.adjusted(0, 0, 0, lower));
-    btexo_->setGeometry(kReturnToTest.translated(0, lower));
-    avant_->setGeometry(kBack.translated(0, lower));
-    apres_->setGeometry(kForward.translated(0, lower));
 }
 
 void Rail::paintEvent(QPaintEvent*) {

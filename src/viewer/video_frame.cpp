@@ -9,6 +9,7 @@
 
 #include <QCursor>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 
 #include <array>
@@ -28,6 +29,8 @@ constexpr int kButtonsLeft = 399;
 constexpr int kButtonsAbove = 56;
 constexpr int kMarkerAbove = 16;
 constexpr QSizeF kMarker(217, 8);
+/// Around the track, where a click is meant for it.
+constexpr double kReach = 8;
 
 // Sign and words, from the left: beside the picture, or at the left end when it is closed.
 constexpr double kWordsLeftOpen = 344;
@@ -95,10 +98,11 @@ void VideoFrame::setMarkerWidth(double twips) {
     update();
 }
 
-void VideoFrame::setStatus(const QString& status, bool playing) {
+void VideoFrame::setStatus(const QString& status, bool playing, bool atEnd) {
     playing_ = playing;
-    if (status == status_)
+    if (status == status_ && atEnd == atEnd_)
         return;
+    atEnd_ = atEnd;
     status_ = status;
     setAccessibleDescription(status);
     update();
@@ -117,8 +121,36 @@ void VideoFrame::press(int index) {
         pressed_(index);
 }
 
-void VideoFrame::mousePressEvent(QMouseEvent*) {
+void VideoFrame::playOrPause() {
+    press(playing_ ? 2 : 0);
+}
+
+QRectF VideoFrame::track() const {
+    return {QPointF(kButtonsLeft, height() - kMarkerAbove), kMarker};
+}
+
+void VideoFrame::mousePressEvent(QMouseEvent* event) {
     setFocus(Qt::MouseFocusReason);
+    seeking_ = event->button() == Qt::LeftButton &&
+               track().adjusted(-kReach, -kReach, kReach, kReach).contains(event->position());
+    if (seeking_)
+        seekTo(event->position().x());
+    else
+        QWidget::mousePressEvent(event);
+}
+
+void VideoFrame::mouseMoveEvent(QMouseEvent* event) {
+    if (seeking_)
+        seekTo(event->position().x());
+}
+
+void VideoFrame::mouseReleaseEvent(QMouseEvent*) {
+    seeking_ = false;
+}
+
+void VideoFrame::seekTo(double x) {
+    if (sought_)
+        sought_(qBound(0.0, (x - track().left()) / track().width(), 1.0));
 }
 
 bool VideoFrame::pressForKey(int key) {
@@ -146,7 +178,7 @@ void VideoFrame::keyPressEvent(QKeyEvent* event) {
     if (event->modifiers() & ~Qt::KeyboardModifiers(Qt::KeypadModifier))
         QWidget::keyPressEvent(event);
     else if (event->key() == Qt::Key_Space)
-        press(playing_ ? 2 : 0);
+        playOrPause();
     else if (!pressForKey(event->key()))
         QWidget::keyPressEvent(event);
 }
@@ -188,12 +220,14 @@ void VideoFrame::paintEvent(QPaintEvent*) {
 
 void VideoFrame::paintMarker(QPainter& painter) const {
     using namespace look;
-    QRectF marker(QPointF(kButtonsLeft, height() - kMarkerAbove), kMarker);
+    QRectF marker = track();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor::fromRgb(kVideoTrack));
     painter.drawRoundedRect(marker, 2, 2);
-    marker.setWidth(markerPx_);
+    // The marker is not told of the last frame: the bar is full all the same.
+    if (!atEnd_)
+        marker.setWidth(markerPx_);
     painter.setBrush(QColor::fromRgb(kBlue));
     painter.drawRoundedRect(marker, 2, 2);
 }

@@ -12,7 +12,8 @@ namespace viewer {
 /// The frame of the page's video: the buttons `Image4`, the marker of how far it has come, and,
 /// while a video is open, its picture `projo`. With the keyboard on it, or on one of its buttons,
 /// the arrows go from frame to frame, Home and End to the first and the last; Space plays and
-/// pauses. It takes the keyboard when it is clicked.
+/// pauses. It takes the keyboard when it is clicked. A click or a drag on the marker's track leads
+/// to that place of the video.
 class VideoFrame : public QWidget {
 public:
     explicit VideoFrame(QWidget* parent);
@@ -27,24 +28,36 @@ public:
     /// Lays the frame out with or without the picture.
     void setOpen(bool open);
 
+    /// `sought` gets the place in the video that was chosen on the marker's track, 0 to 1.
+    void onSought(std::function<void(double)> sought) { sought_ = std::move(sought); }
+
+    /// The same as the button for what the video does not do now.
+    void playOrPause();
+
     /// How far the video has come, in twips: 0 to PageVideo::kMarkerTwips.
     void setMarkerWidth(double twips);
-    /// A word on what the video does, and whether it plays.
-    void setStatus(const QString& status, bool playing);
+    /// A word on what the video does, whether it plays, and whether its last frame stands.
+    void setStatus(const QString& status, bool playing, bool atEnd);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void addButtons();
     void press(int index);
     bool pressForKey(int key);
+    QRectF track() const;
+    void seekTo(double x);
     void paintMarker(QPainter& painter) const;
 
     std::function<void(int)> pressed_;
+    std::function<void(double)> sought_;
+    bool seeking_ = false;
     look::Icon sign_{QStringLiteral("video")};
     VideoPicture* projo_;
     QWidget* buttons_;
@@ -52,6 +65,7 @@ private:
     double markerPx_ = 0;
     QString status_;
     bool playing_ = false;
+    bool atEnd_ = false;
 };
 
 } // namespace viewer

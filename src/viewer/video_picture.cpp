@@ -43,6 +43,10 @@ void VideoPicture::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     if (!picture_.isNull()) {
         painter.drawImage(rect(), picture_);
+        if (picture_.size() != pictureSize() && asked_ != pictureSize() && resized_) {
+            asked_ = pictureSize();
+            QMetaObject::invokeMethod(this, resized_, Qt::QueuedConnection);
+        }
         return;
     }
     painter.fillRect(rect(), QColor::fromRgb(kGround));

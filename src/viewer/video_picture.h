@@ -14,6 +14,9 @@ public:
 
     void onClick(std::function<void()> clicked) { clicked_ = std::move(clicked); }
 
+    /// `resized` is called when the picture shown has not the size that it is asked to have.
+    void onResized(std::function<void()> resized) { resized_ = std::move(resized); }
+
     /// In the pixels of the screen.
     QSize pictureSize() const;
     void showPicture(const QImage& picture);
@@ -28,6 +31,8 @@ private:
     QImage picture_;
     QString words_;
     std::function<void()> clicked_;
+    std::function<void()> resized_;
+    QSize asked_; ///< the size that it was asked to have last
 };
 
 } // namespace viewer

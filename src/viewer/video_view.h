@@ -13,8 +13,8 @@ public:
     virtual void setPictureVisible(bool visible) = 0;
     /// Width of the marker in twips, 0 to PageVideo::kMarkerTwips.
     virtual void setMarkerWidth(double twips) = 0;
-    /// A word on what the video does, and whether it plays.
-    virtual void setVideoStatus(const QString& words, bool playing) = 0;
+    /// A word on what the video does, whether it plays, and whether its last frame stands.
+    virtual void setVideoStatus(const QString& words, bool playing, bool atEnd) = 0;
     virtual void pumpPendingMessages() = 0;
 };
 

@@ -10,10 +10,6 @@ namespace viewer {
 /// Of the main window's contents, in pixels; its frame is the window manager's.
 inline constexpr QSize kWindowSize(800, 600);
 
-/// Rows that the contents can give up where the window is maximised on a screen no higher than
-/// themselves: for its title bar, and for the bar of a desktop.
-inline constexpr int kMostRowsLacking = 80;
-
 /// Keeps the main window at its size. On a screen wide enough to centre it, the window can be
 /// neither resized nor maximised; on a narrower one it can be maximised, and has its fixed size in
 /// its normal state.

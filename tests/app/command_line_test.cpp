@@ -1,5 +1,5 @@
 #include "app/command_line.h"
-#include "app/scale.h"
+#include "look/scale.h"
 
 #include <gtest/gtest.h>
 
@@ -38,14 +38,14 @@ TEST(CommandLine, wrongCallsAreExplained) {
 }
 
 TEST(Scale, fitsTheScreen) {
-    EXPECT_EQ(app::automaticScale(1024, 768), 1);
-    EXPECT_EQ(app::automaticScale(1920, 1080), 1.5);
-    EXPECT_EQ(app::automaticScale(3840, 2160), 3);
-    EXPECT_EQ(app::automaticScale(640, 480), 1);
-    EXPECT_EQ(app::automaticScale(20000, 20000), app::kLargestScale);
-    EXPECT_EQ(app::fittingScale(2, 1920, 1080), 1.8);
-    EXPECT_EQ(app::fittingScale(1.5, 1920, 1080), 1.5);
-    EXPECT_EQ(app::fittingScale(3, 800, 600), 1);
+    EXPECT_EQ(look::automaticScale(1024, 768), 1);
+    EXPECT_EQ(look::automaticScale(1920, 1080), 1.5);
+    EXPECT_EQ(look::automaticScale(3840, 2160), 3);
+    EXPECT_EQ(look::automaticScale(640, 480), 1);
+    EXPECT_EQ(look::automaticScale(20000, 20000), look::kLargestScale);
+    EXPECT_EQ(look::fittingScale(2, 1920, 1080), 1.8);
+    EXPECT_EQ(look::fittingScale(1.5, 1920, 1080), 1.5);
+    EXPECT_EQ(look::fittingScale(3, 800, 600), 1);
 }
 
 } // namespace

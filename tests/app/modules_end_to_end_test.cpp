@@ -120,23 +120,5 @@ TEST_F(Leaving, GoesWithTheModuleThatTheInternetButtonStarted) {
     }
 }
 
-/// A screen that has no room for the window with its frame.
-class LowScreen : public EndToEnd {
-protected:
-    LowScreen() : EndToEnd({800, 600}) {}
-};
-
-TEST_F(LowScreen, ShowsTheWholeWindow) {
-    start();
-    ASSERT_TRUE(eventually([&] {
-        return session_.xprop({"-id", window(), "_NET_WM_STATE"}).contains("MAXIMIZED_VERT");
-    }));
-    const auto bottom = [&] { return place().top() + place().height(); };
-    ASSERT_TRUE(eventually([&] { return bottom() <= 600 && place().top() > 0; })) << bottom();
-    const QString first = title();
-    click(716, place().height() - 24); // "suite", at the bottom
-    EXPECT_TRUE(eventually([&] { return title() != first; }));
-}
-
 } // namespace
 } // namespace app::test

@@ -22,11 +22,11 @@ TEST(DisplayCheck, hasTwoThresholds) {
 }
 
 TEST(DisplayCheck, knowsAScreenWithoutRoomForAFrame) {
-    EXPECT_TRUE(shell::isTooLowForAFrame(FakeScreen(800, 600)));
-    EXPECT_FALSE(shell::isTooLowForAFrame(FakeScreen(800, 601)));
-    FakeScreen enlarged(1600, 1200);
+    EXPECT_TRUE(shell::hasNoRoomForAFrame(FakeScreen(1024, 659)));
+    EXPECT_FALSE(shell::hasNoRoomForAFrame(FakeScreen(800, 660)));
+    FakeScreen enlarged(1600, 1319);
     enlarged.factor = 2;
-    EXPECT_TRUE(shell::isTooLowForAFrame(enlarged));
+    EXPECT_TRUE(shell::hasNoRoomForAFrame(enlarged));
 }
 
 TEST(DisplayCheck, centresAWindowOfFixedSize) {

@@ -36,6 +36,8 @@ struct FakeNeighbours {
         explicit Video(QStringList& calls) : log(calls) {}
         void close() override { log.append(QStringLiteral("close video")); }
         void press(int index) override { log.append(QStringLiteral("video %1").arg(index)); }
+        void seek(double share) override { log.append(QStringLiteral("seek %1").arg(share)); }
+        void refresh() override { log.append(QStringLiteral("refresh video")); }
         QStringList& log;
     };
 

@@ -23,6 +23,7 @@ protected:
              bench.pages,
              {rest.video, links, rest.printing, rest.updateCheck, rest.exercise, rest.orderForm,
               rest.search, rest.calculator, rest.help, rest.installation, rest.exitScreen},
+             bench.zoom,
              [this] {
                  bench.bound.bindTo(bench.cours);
                  return true;

@@ -32,6 +32,8 @@ public:
         note(u"forward "_qs + QString::number(on));
     }
     void fitPage() override { note(u"fit page"_qs); }
+    int scrolled() const override { return 0; }
+    void scrollTo(int) override {}
     void setChapterButtons(bool previous, bool next) override {
         note(u"chapter %1%2"_qs.arg(previous).arg(next));
     }

@@ -62,6 +62,44 @@ TEST_F(Window, KeysWalkTheHistory) {
     EXPECT_EQ(shown(), QStringLiteral("1"));
 }
 
+TEST_F(Window, ComesBackToWhereAPageWasLeft) {
+    press(Qt::Key_PageDown);
+    press(Qt::Key_Down);
+    const int left = scrolled();
+    ASSERT_GT(left, 0);
+    show(2);
+    EXPECT_EQ(scrolled(), 0);
+    QTest::mouseClick(bench.control<QWidget>("PictureTEXTE"), Qt::BackButton);
+    EXPECT_EQ(shown(), u"1"_qs);
+    EXPECT_EQ(scrolled(), left);
+    press(Qt::Key_Home);
+    QTest::mouseClick(bench.control<QWidget>("PICTUREILLUS"), Qt::ForwardButton);
+    EXPECT_EQ(shown(), u"2"_qs);
+    press(Qt::Key_Left, Qt::AltModifier);
+    EXPECT_EQ(scrolled(), 0);
+    press(Qt::Key_PageDown);
+    show(1); // called up anew, it is shown from its top
+    EXPECT_EQ(scrolled(), 0);
+}
+
+TEST_F(Window, KeysThatEveryoneTries) {
+    show(2);
+    bench.prompter.answers = {Answer::Cancel};
+    bench.neighbours.log.clear();
+    press(Qt::Key_L, Qt::ControlModifier);
+    press(Qt::Key_P, Qt::ControlModifier);
+    press(Qt::Key_F1);
+    press(Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_THAT(bench.neighbours.log, ElementsAre(QStringLiteral("search"), QStringLiteral("print"),
+                                                  QStringLiteral("help")));
+    EXPECT_EQ(bench.prompter.messages.size(), 1u);
+    press(Qt::Key_Home, Qt::AltModifier);
+    EXPECT_EQ(shown(), u"1"_qs);
+    bench.neighbours.log.clear();
+    press(Qt::Key_P, Qt::ControlModifier); // may not be printed
+    EXPECT_FALSE(bench.neighbours.log.contains(QStringLiteral("print")));
+}
+
 TEST_F(Window, KeysWheelAndBarScrollATallPage) {
     auto* bar = bench.control<look::ScrollBar>("VScroll1");
     const int height = bench.control<QWidget>("PictureTEXTE")->height();

@@ -53,30 +53,13 @@ TEST_F(Window, GivesInToAManagerThatRefusesItsSize) {
     EXPECT_EQ(shown(), u"30"_qs);
 }
 
-TEST(WindowStart, IsMaximisedWhereItsFrameHasNoRoom) {
-    for (const int height : {600, 601}) {
+TEST(WindowStart, FillsAScreenThatHasNoRoomForItsFrame) {
+    for (const int height : {659, 660}) {
         test_support::WindowBench bench(test_support::course());
-        bench.screen = test_support::FakeScreen(800, height);
+        bench.screen = test_support::FakeScreen(1024, height);
         bench.start();
-        EXPECT_EQ(bench.window.isMaximized(), height == 600) << height;
-    }
-}
-
-TEST(WindowStart, GivesUpRowsOfThePageInALowWindow) {
-    test_support::WindowBench bench(test_support::course());
-    bench.window.show(); // before start-up, it has any size that it is given
-    const auto bottomOf = [&](const char* name) {
-        const auto* control = bench.control<QWidget>(name);
-        return control->mapTo(&bench.window, QPoint(0, control->height())).y();
-    };
-    for (const int lacking : {0, 24, 80, 0}) {
-        bench.window.resize(800, 600 - lacking);
-        QApplication::processEvents();
-        EXPECT_EQ(bottomOf("suite"), 592 - lacking);
-        EXPECT_EQ(bottomOf("apres"), 592 - lacking);
-        EXPECT_EQ(bottomOf("PICTUREILLUS"), 472 - lacking);
-        EXPECT_EQ(bottomOf("framekx"), 544 - lacking);
-        EXPECT_EQ(bottomOf("VScroll1"), 544 - lacking);
+        EXPECT_EQ(bench.window.isFullScreen(), height == 659) << height;
+        EXPECT_FALSE(bench.zoom.leaveFilledScreen()); // it was not asked for, or must stay
     }
 }
 

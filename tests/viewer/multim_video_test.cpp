@@ -37,9 +37,9 @@ TEST_F(VideoWindow, KeysWorkOnTheFrameAndItsButtons) {
     click("Image4_0"); // leads the keyboard here
     ASSERT_TRUE(frame()->hasFocus());
     const int before = scrolled();
-    bench.window.setVideoStatus(u"Lecture en cours"_qs, true);
+    bench.window.setVideoStatus(u"Lecture en cours"_qs, true, false);
     QTest::keyClick(frame(), Qt::Key_Space);
-    bench.window.setVideoStatus(u"En pause"_qs, false);
+    bench.window.setVideoStatus(u"En pause"_qs, false, false);
     for (const int key : {Qt::Key_Space, Qt::Key_Right, Qt::Key_Left, Qt::Key_Home, Qt::Key_End})
         QTest::keyClick(frame(), Qt::Key(key));
     bench.control("Image4_3")->setFocus(Qt::TabFocusReason);
@@ -53,6 +53,34 @@ TEST_F(VideoWindow, KeysWorkOnTheFrameAndItsButtons) {
     EXPECT_EQ(shown(), u"1"_qs);
     EXPECT_TRUE(bench.control<QWidget>("PictureTEXTE")->hasFocus())
         << "the video goes with its page, the keyboard stays with the next one";
+}
+
+TEST_F(VideoWindow, PointerPlaysAndSeeks) {
+    show(5);
+    bench.window.setPictureVisible(true);
+    bench.window.showPicture(QImage(320, 240, QImage::Format_RGB32));
+    click("projo");
+    bench.window.setVideoStatus(u"Lecture en cours"_qs, true, false);
+    click("projo");
+    const QPoint track(399, frame()->height() - 12);                        // its left end
+    QTest::mousePress(frame(), Qt::LeftButton, {}, track + QPoint(217, 8)); // a little below
+    QTest::mouseMove(frame(), track - QPoint(50, 30));
+    QTest::mouseRelease(frame(), Qt::LeftButton, {}, track - QPoint(50, 30));
+    QTest::mouseMove(frame(), track + QPoint(50, 0));
+    QTest::mouseClick(frame(), Qt::LeftButton, {}, track - QPoint(20, 0)); // beside it
+    EXPECT_EQ(bench.neighbours.log.filter(u"e"_qs).join(u' '), u"video 0 video 2 seek 1 seek 0"_qs);
+}
+
+TEST_F(VideoWindow, BarIsFullOnTheLastFrame) {
+    show(5);
+    bench.window.setMarkerWidth(3000);
+    const auto lastColumn = [&] {
+        return frame()->grab().toImage().pixelColor(399 + 214, frame()->height() - 12);
+    };
+    bench.window.setVideoStatus(u"En pause"_qs, false, false);
+    const QColor empty = lastColumn();
+    bench.window.setVideoStatus(u"À la fin"_qs, false, true);
+    EXPECT_NE(lastColumn(), empty);
 }
 
 TEST_F(VideoWindow, PictureComesAndGoesUnderTheSamePage) {

@@ -73,7 +73,7 @@ protected:
         log.append(visible ? u"show"_qs : u"hide"_qs);
     }
     void setMarkerWidth(double twips) override { marker = twips; }
-    void setVideoStatus(const QString& words, bool) override { status = words; }
+    void setVideoStatus(const QString& words, bool, bool) override { status = words; }
     void pumpPendingMessages() override { log.append(u"messages"_qs); }
     std::map<QChar, QString> letters() const override {
         return {{u'E', work.filePath(u"e"_qs)}, {u'Z', work.filePath(u"z"_qs)}};
@@ -128,6 +128,25 @@ TEST_F(PageVideo, EachButtonHasItsCommands) {
     EXPECT_THAT(press(6), ElementsAre(u"Prev"_qs));
     device->at = 9; // the last frame stays until Play
     EXPECT_THAT(press(0), ElementsAre(u"from 0"_qs, u"Play"_qs, u"Stop"_qs, u"Play"_qs));
+}
+
+TEST_F(PageVideo, GoesToAnyPlaceAndPlaysOnFromThere) {
+    put(u"course/film.avi"_qs);
+    video.refresh();
+    EXPECT_EQ(devices, 0) << "nothing is open";
+    video.seek(1. / 3); // opens it
+    EXPECT_THAT(log.mid(log.size() - 3), ElementsAre(u"from 3"_qs, u"Play"_qs, u"Stop"_qs));
+    const auto after = [&](auto action) {
+        log.clear();
+        action();
+        return log.join(u' ');
+    };
+    device->playing = true;
+    EXPECT_EQ(after([&] { video.seek(7); }), u"from 9 Play Stop Play"_qs);
+    EXPECT_EQ(after([&] { video.refresh(); }), QString());
+    device->playing = false;
+    device->at = 4;
+    EXPECT_EQ(after([&] { video.refresh(); }), u"from 4 Play Stop"_qs);
 }
 
 TEST_F(PageVideo, LooksInTheCourseThenOnTheLastDiscThenEverywhere) {

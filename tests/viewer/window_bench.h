@@ -1,6 +1,7 @@
 #pragma once
 
 #include "coursedata/page_index.h"
+#include "look/zoom.h"
 #include "markup/draw_page.h"
 #include "page/faces/font_book.h"
 #include "support/fake_pictures.h"
@@ -22,7 +23,8 @@ class WindowBench {
 public:
     explicit WindowBench(QList<test_support::MemoryRecordset::Record> course)
         : cours(std::move(course)) {
-        window.attach({commands, actions, pages, neighbours.all(), [this] {
+        zoom.setWindow(window, {{}, [this] { return window.ownPlace(); }});
+        window.attach({commands, actions, pages, neighbours.all(), zoom, [this] {
                            bound.bindTo(cours);
                            return !whileStarting || whileStarting();
                        }});
@@ -59,6 +61,7 @@ public:
     shell::SharedState state;
     markup::DrawingState drawing;
     coursedata::BoundRecord bound;
+    look::Zoom zoom;
     viewer::Multim window{state, fonts, screen};
     FakePictures pictures;
     markup::DrawingTools tools{drawing, pictures, fonts, &window};

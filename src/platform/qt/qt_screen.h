@@ -15,6 +15,7 @@ public:
     double twipsPerPixelX() const override { return page::kTwipsPerPixel; }
     double twipsPerPixelY() const override { return page::kTwipsPerPixel; }
     double scale() const override { return scale_; }
+    void setScale(double scale) { scale_ = scale; }
 
 private:
     double scale_;
