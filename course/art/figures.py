@@ -1,0 +1,27 @@
+#!/usr/bin/env python3
+"""Draws the figures of the lessons, every one or those named.
+
+    art/figures.py files [NAME ...]
+
+needs nothing but Python and the face Liberation Sans. What a figure shows is computed where it is
+drawn: figures_*.py, one a chapter, the numbers first.
+"""
+
+import sys
+from pathlib import Path
+
+import figures_measures
+
+CHAPTERS = [figures_measures]
+
+
+def main(directory, *names):
+    figures = {name: draw for chapter in CHAPTERS for name, draw in chapter.FIGURES.items()}
+    for name in names or figures:
+        (Path(directory) / f"{name}.svg").write_text(figures[name]().svg(), encoding="utf-8")
+
+
+if __name__ == "__main__":
+    if len(sys.argv) < 2:
+        sys.exit("usage: figures.py DIRECTORY [NAME ...]")
+    main(*sys.argv[1:])
