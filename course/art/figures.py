@@ -11,8 +11,9 @@ import sys
 from pathlib import Path
 
 import figures_measures
+import figures_motion
 
-CHAPTERS = [figures_measures]
+CHAPTERS = [figures_measures, figures_motion]
 
 
 def main(directory, *names):
