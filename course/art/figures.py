@@ -12,8 +12,10 @@ from pathlib import Path
 
 import figures_measures
 import figures_motion
+import figures_forces
+import figures_inertia
 
-CHAPTERS = [figures_measures, figures_motion]
+CHAPTERS = [figures_measures, figures_motion, figures_forces, figures_inertia]
 
 
 def main(directory, *names):

@@ -64,7 +64,7 @@ class Fall:
 
     name, seconds = "chute.avi", 8.0
     release, all_shown = 2.0, 4.5  # seconds
-    top, scale, ball, x = 20, 102, 3.8, 176  # units; units a metre; 3.7 cm; units
+    top, scale, ball, x = 20, 102, 3.8, 168  # units; units a metre; 3.7 cm; units
     depth = 1.80  # metres, to the sand
 
     def frame(self, seconds):
