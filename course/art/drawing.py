@@ -81,7 +81,7 @@ class Drawing:
     def __init__(self, wide, high, title):
         self.parts = [f'<svg xmlns="http://www.w3.org/2000/svg" width="{wide}" height="{high}" '
                       f'viewBox="0 0 {wide} {high}">', f"<title>{escape(title, quote=False)}</title>"]
-        self.high = high
+        self.wide, self.high = wide, high
 
     def svg(self):
         return "\n".join([*self.parts, "</svg>", ""])
@@ -155,10 +155,12 @@ class Drawing:
 
     def text(self, x, y, words, size=TEXT, ink=INK, anchor="start", bold=False):
         """Words with the letters of physics: *italic*, ~under the arrow of a vector~, _{index},
-        ^{exponent}."""
+        ^{exponent}. Words that would be cut at an edge of the figure are an error."""
         runs = list(pieces(words, size))
         whole = sum(width(part, part_size, bold, italic) for part, part_size, _, italic, _ in runs)
         x -= {"start": 0, "middle": whole / 2, "end": whole}[anchor]
+        if x < 0 or x + whole > self.wide or y < 0.75 * size or y > self.high - 0.2 * size:
+            raise ValueError(f"cut: {words!r} at {x:.0f} to {x + whole:.0f}, {y:.0f}")
         over = None  # where the arrow of a vector starts
         for part, part_size, rise, italic, vector in runs:
             if vector != (over is not None):

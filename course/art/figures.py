@@ -10,12 +10,16 @@ drawn: figures_*.py, one a chapter, the numbers first.
 import sys
 from pathlib import Path
 
-import figures_measures
-import figures_motion
 import figures_forces
 import figures_inertia
+import figures_measures
+import figures_mixtures
+import figures_motion
+import figures_solutions
+import figures_species
 
-CHAPTERS = [figures_measures, figures_motion, figures_forces, figures_inertia]
+CHAPTERS = [figures_measures, figures_motion, figures_forces, figures_inertia, figures_mixtures,
+            figures_species, figures_solutions]
 
 
 def main(directory, *names):

@@ -2,8 +2,8 @@
 
 import math
 
-from drawing import (BALL, BLUE, EDGE, FORCE, GREEN, GREEN_TINT, GROUND, INK, IVORY, LENGTH, LINE, MUTED, ORANGE, PALE,
-                     RED, RULE, SMALL, SPEED, WHITE, Drawing, Plot, french)
+from drawing import (BALL, BLUE, EDGE, FORCE, GREEN, GROUND, INK, IVORY, LINE, MUTED, PALE, RED,
+                     RULE, SMALL, WHITE, Drawing, Plot, french)
 
 GRAVITY = 6.674e-11  # N·m²·kg⁻²
 EARTH, EARTH_RADIUS = 5.972e24, 6.371e6  # kg, m

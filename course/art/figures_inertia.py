@@ -2,8 +2,8 @@
 
 import math
 
-from drawing import (BALL, BLUE, EDGE, FORCE, GREEN, GROUND, INK, IVORY, LINE, MUTED, ORANGE, PALE, RED, RULE, SMALL,
-                     SPEED, WHITE, Drawing, Plot, french)
+from drawing import (BALL, BLUE, EDGE, FORCE, GREEN, GROUND, INK, IVORY, LINE, MUTED, RULE, SMALL,
+                     SPEED, Drawing, Plot)
 
 G = 9.81  # N/kg
 

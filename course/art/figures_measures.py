@@ -4,7 +4,7 @@ import math
 import random
 from statistics import mean, stdev
 
-from drawing import (BALL, BLUE, EDGE, GREEN, GREEN_TINT, IVORY, MUTED, ORANGE, RED, RULE, SMALL, VIOLET,
+from drawing import (BALL, BLUE, EDGE, GREEN, GREEN_TINT, IVORY, MUTED, ORANGE, RED, RULE, SMALL,
                      WHITE, Drawing, Plot, french)
 
 # Twenty measurements of ten swings of a pendulum of 1,000 m, seconds.

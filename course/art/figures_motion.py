@@ -2,8 +2,8 @@
 
 import math
 
-from drawing import (BALL, BLUE, EDGE, GREEN, GROUND, INK, IVORY, LINE, MUTED, ORANGE, PALE, RED, RULE, SMALL,
-                     SPEED, WHITE, Drawing, Plot, french)
+from drawing import (BALL, BLUE, EDGE, GREEN, GROUND, INK, IVORY, LINE, MUTED, ORANGE, RED, RULE,
+                     SMALL, SPEED, Drawing, Plot, french)
 
 G = 9.81  # N/kg
 WHEEL = 0.35  # radius of a bicycle's wheel, metres
@@ -141,7 +141,7 @@ def velocity():
     d.dot(x, y, INK, 3)
     d.line(x, y, *place(6.5), EDGE, 1, "4 3")
     d.text(x + 44, y - 88, f"*R* = {french(TRACK, 2)} m", ink=MUTED, anchor="end")
-    d.lines(434, 60, ["Deux images se suivent", f"de Δ*t* = {french(STEP, 2)} s."], SMALL, MUTED, step=16)
+    d.lines(426, 60, ["Deux images se suivent", f"de Δ*t* = {french(STEP, 2)} s."], SMALL, MUTED, step=16)
     d.span(448, 206, 448 + arrow / 0.9, 206, SPEED)
     d.text(448, 224, "1 m/s", SMALL, SPEED)
     d.span(448, 168, 448 + 0.2 * scale, 168, GREEN)
