@@ -16,10 +16,11 @@ import figures_measures
 import figures_mixtures
 import figures_motion
 import figures_solutions
+import figures_sound
 import figures_species
 
 CHAPTERS = [figures_measures, figures_motion, figures_forces, figures_inertia, figures_mixtures,
-            figures_species, figures_solutions]
+            figures_species, figures_solutions, figures_sound]
 
 
 def main(directory, *names):
