@@ -10,6 +10,7 @@ drawn: figures_*.py, one a chapter, the numbers first.
 import sys
 from pathlib import Path
 
+import figures_atoms
 import figures_forces
 import figures_inertia
 import figures_measures
@@ -20,7 +21,7 @@ import figures_sound
 import figures_species
 
 CHAPTERS = [figures_measures, figures_motion, figures_forces, figures_inertia, figures_mixtures,
-            figures_species, figures_solutions, figures_sound]
+            figures_species, figures_solutions, figures_sound, figures_atoms]
 
 
 def main(directory, *names):
