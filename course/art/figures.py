@@ -11,6 +11,7 @@ import sys
 from pathlib import Path
 
 import figures_atoms
+import figures_changes
 import figures_forces
 import figures_inertia
 import figures_measures
@@ -21,7 +22,7 @@ import figures_sound
 import figures_species
 
 CHAPTERS = [figures_measures, figures_motion, figures_forces, figures_inertia, figures_mixtures,
-            figures_species, figures_solutions, figures_sound, figures_atoms]
+            figures_species, figures_solutions, figures_sound, figures_atoms, figures_changes]
 
 
 def main(directory, *names):

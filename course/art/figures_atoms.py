@@ -3,8 +3,8 @@
 import math
 import random
 
-from drawing import (BALL, BLUE, EDGE, GREEN, GREEN_TINT, GROUND, INK, IVORY, LINE, MUTED, ORANGE, PALE, RED, RULE, SMALL,
-                     VIOLET, WHITE, Drawing, french)
+from drawing import (BLUE, EDGE, GREEN, GREEN_TINT, INK, IVORY, LINE, MUTED, ORANGE, PALE, RED,
+                     RULE, SMALL, WHITE, Drawing)
 
 SYMBOLS = "H He Li Be B C N O F Ne Na Mg Al Si P S Cl Ar".split()
 ROOM = [("1s", 2), ("2s", 2), ("2p", 6), ("3s", 2), ("3p", 6)]  # electrons that a subshell takes

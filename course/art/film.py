@@ -47,6 +47,6 @@ def render(film, directory):
     # A key frame each second keeps steps back quick.
     subprocess.run(["ffmpeg", "-loglevel", "error", "-y", "-f", "image2pipe", "-c:v", "png",
                     "-framerate", str(RATE), "-i", "-", "-c:v", "mpeg4", "-vtag", "XVID", "-bf", "0",
-                    "-g", str(RATE), "-qscale:v", "6", "-mbd", "rd", "-trellis", "2", "-cmp",
+                    "-g", str(RATE), "-qscale:v", str(getattr(film, "coarseness", 6)), "-mbd", "rd", "-trellis", "2", "-cmp",
                     "2", "-subcmp", "2", "-pix_fmt", "yuv420p", "-bitexact",
                     str(directory / film.name)], input=frames, check=True)

@@ -11,13 +11,14 @@ from pathlib import Path
 
 from film import render
 from film_gases import Balloon, Diffusion
+from film_melting import Melting
 from film_motion import Fall, Valve
 from film_solutions import Dilution
 from film_sound import Sound
 
 
 def main(directory, *names):
-    for film in (Diffusion, Balloon, Valve, Fall, Dilution, Sound):
+    for film in (Diffusion, Balloon, Valve, Fall, Dilution, Sound, Melting):
         if not names or film.name in names:
             render(film(), Path(directory))
 
