@@ -182,7 +182,8 @@ class Drawing:
 
     def over(self, start, end, y, ink):
         """The arrow above the letters of a vector."""
-        start, end = start + 1, max(end + 1, start + 11)
+        spare = max(0, 10 - (end - start)) / 2  # a narrow letter has an arrow wider than itself
+        start, end = start + 1 - spare, end + 1 + spare
         self.path(f"M{number(start)} {number(y)}H{number(end)}M{number(end - 3)} {number(y - 2)}"
                   f"L{number(end)} {number(y)}L{number(end - 3)} {number(y + 2)}", ink, 1)
 

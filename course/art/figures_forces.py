@@ -164,8 +164,8 @@ def gravitation_curve():
                           "distance au centre double")
     plot = Plot(d, 56, 36, 400, 180, (0, 6), (0, 12))
     d.rect(56, 36, 400 / 6, 180, PALE)
-    d.text(56 + 200 / 6, 130, "Terre", ink=BLUE, anchor="middle")
     plot.axes(1, 2, "distance au centre de la Terre, en rayons terrestres", "*F* (N), pour 1,00 kg")
+    d.text(56 + 200 / 6, 146, "Terre", ink=BLUE, anchor="middle")
     plot.curve(attraction, FORCE, 1, 6)
     for radii in (1, 2, 3, 4):
         x, y = plot.at(radii, attraction(radii))
@@ -173,7 +173,7 @@ def gravitation_curve():
             d.line(56, y, x, y, GREEN, 1, "4 3")
         d.dot(x, y, FORCE, 4)
         d.text(x + 8, y - 6, f"{french(attraction(radii), 2)} N", ink=FORCE)
-    d.lines(290, 76, ["distance × 2 : force ÷ 4", "distance × 3 : force ÷ 9"], ink=GREEN)
+    d.lines(290, 86, ["distance × 2 : force ÷ 4", "distance × 3 : force ÷ 9"], ink=GREEN, step=30)
     return d
 
 

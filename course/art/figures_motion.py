@@ -63,7 +63,7 @@ def frames_of_a_wheel():
     d = Drawing(575, 232, "La valve d’une roue de vélo décrit un cercle dans le référentiel du vélo, et une suite "
                           "d’arches dans le référentiel de la route")
     radius, ground = 44, 150
-    here, start = 96, 236
+    here, start = 88, 236
     far = start + 2 * math.pi * radius  # without slipping, one turn takes the wheel this far
     d.text(here, 20, "dans le référentiel du vélo", ink=BLUE, anchor="middle", bold=True)
     wheel(d, here, ground - radius, radius, 0)
@@ -72,10 +72,10 @@ def frames_of_a_wheel():
         d.dot(*valve(here, ground - radius, radius, math.pi * step / 6), RED, 3.6)
     d.arrow(here + 57, 82, here + 57, 132, RED, LINE)
     d.text(here, 186, "trajectoire : un cercle", ink=RED, anchor="middle")
-    d.line(190, 10, 190, 192, RULE, 1)
+    d.line(178, 10, 178, 192, RULE, 1)
     d.text((start + far) / 2, 20, "dans le référentiel de la route", ink=BLUE, anchor="middle", bold=True)
-    d.rect(204, ground, 366, 10, GROUND)
-    d.line(204, ground, 570, ground, EDGE, LINE)
+    d.rect(190, ground, 380, 10, GROUND)
+    d.line(190, ground, 570, ground, EDGE, LINE)
     wheel(d, start, ground - radius, radius, 0)
     wheel(d, far, ground - radius, radius, 0)
     arches = [valve(start + radius * a, ground - radius, radius, a) for a in (0.05 * i for i in range(-28, 155))]
