@@ -12,8 +12,10 @@ from pathlib import Path
 
 import figures_atoms
 import figures_changes
+import figures_circuits
 import figures_forces
 import figures_inertia
+import figures_light
 import figures_measures
 import figures_mixtures
 import figures_motion
@@ -22,7 +24,8 @@ import figures_sound
 import figures_species
 
 CHAPTERS = [figures_measures, figures_motion, figures_forces, figures_inertia, figures_mixtures,
-            figures_species, figures_solutions, figures_sound, figures_atoms, figures_changes]
+            figures_species, figures_solutions, figures_sound, figures_atoms, figures_changes,
+            figures_light, figures_circuits]
 
 
 def main(directory, *names):

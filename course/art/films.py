@@ -10,6 +10,7 @@ import sys
 from pathlib import Path
 
 from film import render
+from film_eye import Accommodation
 from film_gases import Balloon, Diffusion
 from film_melting import Melting
 from film_motion import Fall, Valve
@@ -18,7 +19,7 @@ from film_sound import Sound
 
 
 def main(directory, *names):
-    for film in (Diffusion, Balloon, Valve, Fall, Dilution, Sound, Melting):
+    for film in (Diffusion, Balloon, Valve, Fall, Dilution, Sound, Melting, Accommodation):
         if not names or film.name in names:
             render(film(), Path(directory))
 
