@@ -1,6 +1,6 @@
 """Figures of the lessons on changes of state and of what reactions leave and give."""
 
-from drawing import (BALL, BLUE, EDGE, GREEN, INK, IVORY, LINE, MUTED, ORANGE, RED, RULE, SMALL,
+from drawing import (BALL, BLUE, EDGE, GREEN, GROUND, INK, IVORY, LINE, MUTED, ORANGE, RED, RULE, SMALL,
                      WATER, WHITE, Drawing, Plot, french)
 
 ICE, LIQUID, STEAM = 2.06, 4.18, 1.87  # J·g⁻¹·K⁻¹
@@ -113,7 +113,67 @@ def heat():
     return d
 
 
-FIGURES = {"changements-etat-noms": changes_of_state, "energies-eau": energies, "reactif-limitant": limiting, "exo-endo": heat}
+IRON = 9.27e-23  # grams, one atom
+NAIL = 5.6  # grams
+
+
+def count_by_mass():
+    d = Drawing(575, 176, "Compter en pesant : la masse d’un clou de fer divisée par la masse d’un atome donne le nombre d’atomes, six fois dix puissance vingt-deux")
+    d.rect(44, 66, 96, 9, "#9aa7b2", EDGE, 1.2)
+    d.rect(36, 56, 10, 29, "#9aa7b2", EDGE, 1.2, 2)
+    d.area([(140, 66), (160, 70.5), (140, 75)], "#9aa7b2", EDGE, 1.2)
+    d.text(96, 30, "un clou", ink=BLUE, anchor="middle", bold=True)
+    d.text(96, 118, f"{french(NAIL, 1)} g", 16, INK, "middle")
+    d.text(208, 78, "÷", 26, MUTED, "middle")
+    d.text(288, 30, "un atome de fer", ink=BLUE, anchor="middle", bold=True)
+    d.circle(288, 70, 13, "#9aa7b2", EDGE, 1.4)
+    d.text(288, 118, "9,27 × 10^{−23} g", 16, INK, "middle")
+    d.text(370, 78, "=", 26, MUTED, "middle")
+    d.text(472, 30, "nombre d’atomes", ink=BLUE, anchor="middle", bold=True)
+    for row in range(4):
+        for column in range(9):
+            d.circle(424 + 12 * column + 6 * (row % 2), 54 + 11 * row, 5, "#9aa7b2", EDGE, 0.8)
+    d.text(472, 118, "6,0 × 10^{22}", 16, RED, "middle", True)
+    d.text(287, 160, "Les deux masses dans la même unité : on compte sans voir.", SMALL, MUTED, "middle")
+    return d
+
+
+def reflux():
+    d = Drawing(560, 352, "Montage à reflux : un ballon chauffé par un chauffe-ballon, surmonté d’un réfrigérant à eau ouvert en haut, sur un support élévateur")
+    x = 220
+    d.rect(x - 70, 316, 140, 8, GROUND, EDGE, 1.2)
+    d.path(f"M{x - 56} 316L{x + 56} 296M{x + 56} 316L{x - 56} 296", EDGE, 2)
+    d.rect(x - 64, 288, 128, 8, GROUND, EDGE, 1.2)
+    d.path(f"M{x - 54} 288V244Q{x - 54} 236 {x - 46} 236H{x + 46}Q{x + 54} 236 {x + 54} 244V288Z", EDGE, 1.6, IVORY)
+    d.path(f"M{x - 37.5} 250A40 40 0 0 0 {x + 37.5} 250Z", "none", 0, "#f3dd8f")
+    d.path(f"M{x - 9} 178V197A40 40 0 1 0 {x + 9} 197V178", EDGE, 2)
+    for dx, dy in ((-14, 262), (6, 268), (16, 258)):
+        d.area([(x + dx, dy), (x + dx + 5, dy - 3), (x + dx + 8, dy + 3), (x + dx + 2, dy + 5)], MUTED)
+    d.rect(x - 11, 168, 22, 14, WHITE, EDGE, 1.4)
+    d.rect(x - 22, 46, 44, 118, WATER, BLUE, 1.6, 8)
+    d.path(f"M{x - 7} 168V28M{x + 7} 168V28", EDGE, 1.8)
+    d.path(f"M{x + 22} 146H{x + 50}", BLUE, 5)
+    d.path(f"M{x - 22} 62H{x - 50}", BLUE, 5)
+    d.arrow(x + 78, 146, x + 54, 146, BLUE, LINE)
+    d.arrow(x - 54, 62, x - 78, 62, BLUE, LINE)
+    d.text(x + 84, 151, "arrivée d’eau froide, en bas", ink=BLUE)
+    d.text(x - 84, 67, "sortie d’eau", ink=BLUE, anchor="end")
+    d.line(x + 8, 34, x + 82, 34, RULE, 1)
+    d.text(x + 86, 39, "ouvert en haut : jamais bouché")
+    d.line(x + 24, 100, x + 82, 100, RULE, 1)
+    d.lines(x + 86, 97, ["réfrigérant : les vapeurs", "se liquéfient et retombent"], step=16)
+    d.line(x + 36, 214, x + 82, 206, RULE, 1)
+    d.text(x + 86, 210, "ballon, pierre ponce dans le mélange")
+    d.line(x + 56, 262, x + 82, 262, RULE, 1)
+    d.text(x + 86, 267, "chauffe-ballon")
+    d.line(x + 70, 306, x + 82, 306, RULE, 1)
+    d.text(x + 86, 311, "support élévateur")
+    d.text(280, 344, "Chauffer accélère ; le reflux garde réactifs, produits et solvant.", SMALL, MUTED, "middle")
+    return d
+
+
+FIGURES = {"changements-etat-noms": changes_of_state, "energies-eau": energies, "reactif-limitant": limiting, "exo-endo": heat,
+           "compter-entites": count_by_mass, "montage-reflux": reflux}
 
 if __name__ == "__main__":
     print(end_of(START), 20 * ICE, 100 * LIQUID)

@@ -138,8 +138,30 @@ def significant_figures():
     return d
 
 
+# How far a spring stretches: grams, centimetres; the slope of the line through the origin that is nearest to them.
+SPRING = [(50, 2.4), (100, 5.1), (150, 7.4), (200, 10.1), (250, 12.4), (300, 15.2)]
+SLOPE = sum(mass * length for mass, length in SPRING) / sum(mass * mass for mass, _ in SPRING)
+
+
+def graph_and_model():
+    d = Drawing(520, 278, "Allongement d’un ressort en fonction de la masse suspendue : six points, et la droite qui passe par l’origine au plus près d’eux")
+    plot = Plot(d, 56, 40, 390, 184, (0, 350), (0, 20))
+    plot.axes(50, 5, "*m* (g)", "*a* (cm)")
+    plot.curve(lambda mass: SLOPE * mass, BLUE, 0, 350, 2)
+    for mass, length in SPRING:
+        d.cross(*plot.at(mass, length), RED, 5)
+    low, high = plot.at(100, SLOPE * 100), plot.at(300, SLOPE * 300)
+    d.line(*low, high[0], low[1], GREEN, 1.4, "4 3")
+    d.line(high[0], low[1], *high, GREEN, 1.4, "4 3")
+    d.text((low[0] + high[0]) / 2, low[1] + 17, "200 g", ink=GREEN, anchor="middle")
+    d.text(high[0] + 8, (low[1] + high[1]) / 2 + 8, f"{french(200 * SLOPE, 1)} cm", ink=GREEN)
+    d.text(80, 76, f"modèle : *a* = {french(SLOPE, 3)} × *m*", 15, BLUE)
+    return d
+
+
 FIGURES = {"mesures-histogramme": histogram, "mesures-cibles": targets, "mesures-regle": ruler_reading,
-           "resultat-intervalles": intervals, "chiffres-significatifs": significant_figures}
+           "resultat-intervalles": intervals, "chiffres-significatifs": significant_figures,
+           "graphique-modele": graph_and_model}
 
 if __name__ == "__main__":
-    print(f"{MEAN=} {SPREAD=} {UNCERTAINTY=} {REFERENCE=}")
+    print(f"{MEAN=} {SPREAD=} {UNCERTAINTY=} {REFERENCE=} {SLOPE=}")

@@ -51,6 +51,6 @@ class Accommodation:
         d.path(f"M{x - 6} {y - 70}C{x + 50} {y - 96} {self.screen + 4} {y - 60} {self.screen} {y}"
                f"C{self.screen + 4} {y + 60} {x + 50} {y + 96} {x - 6} {y + 70}", EDGE, 2)
         d.path(f"M{self.screen} {y - 34}V{y + 34}", RED, 3.6)
-        d.text(self.screen - 8, y + 50, "rétine", SMALL, RED, "end")
+        d.text(self.screen - 14, y + 50, "rétine", SMALL, RED, "end")
         d.text(x - 14, y + 82, "iris", SMALL, ORANGE, "end")
         d.text(x + 10, y - 46, "cristallin", SMALL, BLUE)
