@@ -78,6 +78,8 @@ class Fall:
                 if number >= 7 or number in (0, 4):
                     d.text(self.x + 10, self.top + y * self.scale + 4, str(number), SMALL, MUTED)
         self.draw_ball(d, fallen)
+        y = self.top + fallen * self.scale
+        d.parts.append(f'<path d="M150 {y:.3f}H{self.x}" stroke="{RED}" stroke-width="0.8"/>')  # to read by
         if 0 <= image <= 15:
             d.text(222, 100, f"image {image}", 15, RED, bold=True)
             d.text(222, 122, f"*t* = {french(image * INTERVAL, 2)} s", 15)
@@ -100,12 +102,11 @@ class Fall:
         d.rect(0, bottom, 320, 12, SAND)
         d.line(0, bottom, 320, bottom, EDGE, 1)
         d.rect(112, 8, 46, bottom - 4, WHITE, EDGE, 1, 2)
-        for mark in range(91):
-            y = self.top + mark * 0.02 * self.scale
-            long = 12 if mark % 5 == 0 else 6
-            d.parts.append(f'<path d="M158 {y:.3f}h-{long}" stroke="{INK}" stroke-width="{0.9 if mark % 5 == 0 else 0.5}"/>')
-            if mark % 10 == 0:
-                d.text(141, y + 4, str(2 * mark), SMALL, INK, "end")
+        for mark in range(37):  # every 5 cm: closer ones would run together in a small window
+            y = self.top + mark * 0.05 * self.scale
+            d.parts.append(f'<path d="M158 {y:.3f}h-{12 if mark % 2 == 0 else 7}" stroke="{INK}" stroke-width="0.9"/>')
+            if mark % 4 == 0:
+                d.text(141, y + 4, str(5 * mark), SMALL, INK, "end")
         d.text(108, 24, "cm", SMALL, MUTED, "end")
         d.span(82, self.top, 82, self.top + self.scale, GREEN)
         d.text(74, self.top + self.scale / 2 + 4, "1,00 m", SMALL, GREEN, "end")
