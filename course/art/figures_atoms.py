@@ -4,7 +4,7 @@ import math
 import random
 
 from drawing import (BLUE, EDGE, GREEN, GREEN_TINT, INK, IVORY, LINE, MUTED, ORANGE, PALE, RED,
-                     RULE, SMALL, WHITE, Drawing)
+                     RULE, SMALL, WHITE, Drawing, width)
 
 SYMBOLS = "H He Li Be B C N O F Ne Na Mg Al Si P S Cl Ar".split()
 ROOM = [("1s", 2), ("2s", 2), ("2p", 6), ("3s", 2), ("3p", 6)]  # electrons that a subshell takes
@@ -191,6 +191,13 @@ def isotopes():
     return d
 
 
+def room(term):
+    """Of a term of a nuclear equation: pixels before its symbol, and from there on."""
+    if isinstance(term, tuple):  # its numbers, its symbol
+        return max(width(str(part), 11) for part in term[:2]) + 2, width(term[2], 17) + 5
+    return (0, 38) if term == "→" else (0, width(term, 16) + 7)
+
+
 def fission_and_fusion():
     d = Drawing(575, 342, "En haut la fission : un neutron casse un noyau d’uranium 235 en strontium 94, xénon 140 et deux neutrons ; en bas la fusion : "
                           "deutérium et tritium donnent hélium 4 et un neutron")
@@ -198,17 +205,17 @@ def fission_and_fusion():
         d.circle(x, y, 5, NEUTRON, EDGE, 0.9)
     def equation(y, terms):
         """Terms are nuclides or signs, in a row round the middle."""
-        x = 287 - sum(56 if isinstance(term, tuple) else 22 if term != "→" else 34 for term in terms) / 2
+        x = 287 - sum(sum(room(term)) for term in terms) / 2
         for term in terms:
+            before, after = room(term)
+            x += before
             if isinstance(term, tuple):
-                nuclide(d, x + 28, y, *term, 17)
-                x += 56
+                nuclide(d, x, y, *term, 17)
             elif term == "→":
-                d.arrow(x + 4, y - 6, x + 30, y - 6, INK, LINE)
-                x += 34
+                d.arrow(x + 2, y - 6, x + 30, y - 6, INK, LINE)
             else:
-                d.text(x + 11, y, term, 16, anchor="middle")
-                x += 22
+                d.text(x, y, term, 16)
+            x += after
     d.text(14, 20, "fission", 15, BLUE, bold=True)
     neutron(64, 76)
     d.arrow(74, 76, 112, 76, INK, LINE)
