@@ -75,12 +75,22 @@ def french(value, decimals=0):
     return f"{value:,.{decimals}f}".replace(",", " ").replace(".", ",").replace("-", "−")
 
 
+UNITS = "m|cm|mm|km|nm|s|ms|min|g|kg|mg|mol|L|mL|N|kN|K|°C|V|A|mA|Ω|kΩ|Hz|kHz|dB|J|W|%|m/s|g/L|mg/L|g/mL|N/kg"
+
+
+def typeset(words):
+    """With the no-break spaces that French wants: before tall signs, inside quotation marks, between a
+    number and its unit, and around the signs of a formula."""
+    words = re.sub(r" (?=[:;!?»=×÷<>→])|(?<=[«=×÷<>→]) |(?<=[\d*}~]) (?=[+−])|(?<=[+−]) (?=[\d*~])", "\u00a0", words)
+    return re.sub(rf"(?<=\d) (?=(?:{UNITS})(?![\w/]))|(?<=\d) (?=\d{{3}}\b)", "\u00a0", words)
+
+
 class Drawing:
     """A figure that is being drawn."""
 
     def __init__(self, wide, high, title):
         self.parts = [f'<svg xmlns="http://www.w3.org/2000/svg" width="{wide}" height="{high}" '
-                      f'viewBox="0 0 {wide} {high}">', f"<title>{escape(title, quote=False)}</title>"]
+                      f'viewBox="0 0 {wide} {high}">', f"<title>{escape(typeset(title), quote=False)}</title>"]
         self.wide, self.high = wide, high
 
     def svg(self):
@@ -156,7 +166,7 @@ class Drawing:
     def text(self, x, y, words, size=TEXT, ink=INK, anchor="start", bold=False):
         """Words with the letters of physics: *italic*, ~under the arrow of a vector~, _{index},
         ^{exponent}. Words that would be cut at an edge of the figure are an error."""
-        runs = list(pieces(words, size))
+        runs = list(pieces(typeset(words), size))
         whole = sum(width(part, part_size, bold, italic) for part, part_size, _, italic, _ in runs)
         x -= {"start": 0, "middle": whole / 2, "end": whole}[anchor]
         if x < 0 or x + whole > self.wide or y < 0.75 * size or y > self.high - 0.2 * size:
@@ -169,7 +179,7 @@ class Drawing:
                 else:
                     self.over(over, x, y - 0.86 * size, ink)
                     over = None
-            shown = part.lstrip(" ")
+            shown = part.lstrip(" \u00a0")
             start = x + width(part[:len(part) - len(shown)], part_size, bold, italic)
             style = (' font-weight="bold"' if bold else "") + (' font-style="italic"' if italic else "")
             if shown:
