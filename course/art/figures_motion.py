@@ -192,8 +192,8 @@ def fall_graphs():
         plot.curve((lambda t: 0.5 * G * t * t) if limit == 2 else (lambda t: G * t), BLUE, 0, 0.6, 60)
         for i, value in values:
             d.cross(*plot.at(i * INTERVAL, value), RED, 4)
-    d.text(60, 70, "parabole", ink=BLUE)
-    d.text(362, 70, "droite : *v* = *g* × *t*", ink=BLUE)
+    d.text(60, 56, "parabole", ink=BLUE)
+    d.text(362, 56, "droite : *v* = *g* × *t*", ink=BLUE)
     d.text(44, 252, "croix : relevées sur le film ; traits : le modèle, *g* = 9,81 N/kg", SMALL, MUTED)
     return d
 

@@ -99,7 +99,7 @@ def oscillogram():
     d.text(start + 2 * period, 22, "4 périodes : 9,1 divisions", ink=RED, anchor="middle")
     d.span(left, top + 4 * cell + 14, left + cell, top + 4 * cell + 14, GREEN)
     d.text(left + cell + 10, top + 4 * cell + 18, "1 division : 1,0 ms", ink=GREEN)
-    d.text(60, 254, "4 *T* = 9,1 ms     *T* = 2,3 ms     *f* = 4 / 0,0091 s = 440 Hz", 15)
+    d.text(60, 254, "4 *T* = 9,1 ms     *T* = 2,3 ms     *f* = 4 / 0,0091 s = 4,4 × 10^{2} Hz", 15)
     d.span(left + 10 * cell + 14, top + 2 * cell, left + 10 * cell + 14, top + 0.5 * cell, VIOLET)
     d.text(left + 10 * cell + 24, top + 1.35 * cell, "amplitude", ink=VIOLET)
     return d
