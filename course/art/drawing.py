@@ -81,7 +81,8 @@ UNITS = "m|cm|mm|km|nm|s|ms|min|g|kg|mg|mol|L|mL|N|kN|K|°C|V|A|mA|Ω|kΩ|Hz|kHz
 def typeset(words):
     """With the no-break spaces that French wants: before tall signs, inside quotation marks, between a
     number and its unit, and around the signs of a formula."""
-    words = re.sub(r" (?=[:;!?»=×÷<>→])|(?<=[«=×÷<>→]) |(?<=[\d*}~]) (?=[+−])|(?<=[+−]) (?=[\d*~])", "\u00a0", words)
+    words = re.sub(r" (?=[:;!?»=×÷<>→])|(?<=[«=×÷<>→]) |(?<=[\d*}~]) (?=[+−])|(?<=[+−]) (?=[\d*~])",
+                   "\u00a0", words)
     return re.sub(rf"(?<=\d) (?=(?:{UNITS})(?![\w/]))|(?<=\d) (?=\d{{3}}\b)", "\u00a0", words)
 
 
@@ -90,7 +91,8 @@ class Drawing:
 
     def __init__(self, wide, high, title):
         self.parts = [f'<svg xmlns="http://www.w3.org/2000/svg" width="{wide}" height="{high}" '
-                      f'viewBox="0 0 {wide} {high}">', f"<title>{escape(typeset(title), quote=False)}</title>"]
+                      f'viewBox="0 0 {wide} {high}">',
+                      f"<title>{escape(typeset(title), quote=False)}</title>"]
         self.wide, self.high = wide, high
 
     def svg(self):
@@ -181,9 +183,11 @@ class Drawing:
                     over = None
             shown = part.lstrip(" \u00a0")
             start = x + width(part[:len(part) - len(shown)], part_size, bold, italic)
-            style = (' font-weight="bold"' if bold else "") + (' font-style="italic"' if italic else "")
+            style = (' font-weight="bold"' if bold else "") + (' font-style="italic"' if italic else
+                                                               "")
             if shown:
-                self.parts.append(f'<text x="{number(start)}" y="{number(y - rise)}" font-family="Arial" '
+                self.parts.append(f'<text x="{number(start)}" y="{number(y - rise)}" '
+                                  'font-family="Arial" '
                                   f'font-size="{part_size}" fill="{ink}"{style}>'
                                   f"{escape(shown, quote=False)}</text>")
             x += width(part, part_size, bold, italic)

@@ -30,10 +30,13 @@ def outer(electrons):
 
 
 def configurations():
-    d = Drawing(575, 244, "Configurations électroniques de l’hydrogène, du carbone, de l’oxygène, du néon et du sodium, électron par électron dans les sous-couches 1s, 2s, 2p, 3s")
+    d = Drawing(575, 244, "Configurations électroniques de l’hydrogène, du carbone, de l’oxygène, "
+                          "du néon et du sodium, électron par électron dans les sous-couches 1s, "
+                          "2s, 2p, 3s")
     lefts = {"1s": 150, "2s": 214, "2p": 278, "3s": 406}
     for name, left in lefts.items():
-        d.text(left + {"1s": 23, "2s": 23, "2p": 57, "3s": 23}[name], 20, name, 14, BLUE, "middle", True)
+        d.text(left + {"1s": 23, "2s": 23, "2p": 57, "3s": 23}[name], 20, name, 14, BLUE, "middle",
+               True)
     d.text(472, 20, "on écrit", SMALL, MUTED)
     for index, symbol in enumerate(("H", "C", "O", "Ne", "Na")):
         number, y = SYMBOLS.index(symbol) + 1, 34 + 42 * index
@@ -46,7 +49,8 @@ def configurations():
             taken = dict(filled).get(name, 0)
             last = int(name[0]) == shells and taken
             wide = 114 if name == "2p" else 46
-            d.rect(left, y, wide, 30, GREEN_TINT if last else WHITE, GREEN if last else RULE, 1.4 if last else 1, 4)
+            d.rect(left, y, wide, 30, GREEN_TINT if last else WHITE, GREEN if last else RULE, 1.4 if last
+                   else 1, 4)
             for place in range(places):
                 x = left + wide * (place + 0.5) / places
                 d.circle(x, y + 15, 5.5, *((BLUE, None) if place < taken else (WHITE, RULE)))
@@ -55,7 +59,8 @@ def configurations():
 
 
 def table():
-    d = Drawing(575, 250, "Les dix-huit premiers éléments du tableau périodique en trois lignes ; sous chaque symbole ses électrons de valence ; même "
+    d = Drawing(575, 250, "Les dix-huit premiers éléments du tableau périodique en trois lignes ; "
+                          "sous chaque symbole ses électrons de valence ; même "
                           "colonne, même nombre")
     left, top, wide, high = 34, 48, 66, 58
     columns = [1, 2, 13, 14, 15, 16, 17, 18]
@@ -76,8 +81,10 @@ def table():
     for row in range(3):
         d.text(22, top + high * row + 33, str(row + 1), SMALL, MUTED, "middle")
     d.text(left, 16, "colonne (famille)", SMALL, MUTED)
-    d.text(287, 242, "Les points bleus : les électrons de valence. De 13 à 18, le chiffre des unités les donne (sauf He, qui en a 2).", SMALL, MUTED, "middle")
-    for x, words, fill in ((102, "alcalins", families[1]), (232, "halogènes", families[17]), (372, "gaz nobles", families[18])):
+    d.text(287, 242, "Les points bleus : les électrons de valence. De 13 à 18, le chiffre des "
+                     "unités les donne (sauf He, qui en a 2).", SMALL, MUTED, "middle")
+    for x, words, fill in ((102, "alcalins", families[1]), (232, "halogènes", families[17]),
+                           (372, "gaz nobles", families[18])):
         d.rect(x + 30, 54, 14, 12, fill, EDGE, 0.8)
         d.text(x + 50, 65, words, SMALL)
     return d
@@ -89,18 +96,21 @@ def bond(d, x1, y1, x2, y2, count=1, gap=10):
     ux, uy = (x2 - x1) / length, (y2 - y1) / length
     for line in range(count):
         off = 4.5 * (line - (count - 1) / 2)
-        d.line(x1 + gap * ux - off * uy, y1 + gap * uy + off * ux, x2 - gap * ux - off * uy, y2 - gap * uy + off * ux, INK, LINE)
+        d.line(x1 + gap * ux - off * uy, y1 + gap * uy + off * ux, x2 - gap * ux - off * uy, y2 - gap * uy
+               + off * ux, INK, LINE)
 
 
 def pair(d, x, y, angle):
     """A free pair beside a symbol; degrees, from the right, anticlockwise."""
     a = math.radians(angle)
     px, py = x + 12 * math.cos(a), y - 12 * math.sin(a)
-    d.line(px - 7 * math.sin(a), py - 7 * math.cos(a), px + 7 * math.sin(a), py + 7 * math.cos(a), BLUE, 2)
+    d.line(px - 7 * math.sin(a), py - 7 * math.cos(a), px + 7 * math.sin(a), py + 7 * math.cos(a),
+           BLUE, 2)
 
 
 def lewis():
-    d = Drawing(575, 236, "Schémas de Lewis du dihydrogène, de l’eau, de l’ammoniac, du méthane, du dioxygène, du diazote et du dioxyde de carbone ; "
+    d = Drawing(575, 236, "Schémas de Lewis du dihydrogène, de l’eau, de l’ammoniac, du méthane, "
+                          "du dioxygène, du diazote et du dioxyde de carbone ; "
                           "les doublets non liants sont bleus")
     def atom(x, y, symbol):
         d.text(x, y + 6, symbol, 17, INK, "middle", True)
@@ -168,7 +178,8 @@ def nuclide(d, x, y, mass, charge, symbol, size=20, ink=INK):
 
 
 def isotopes():
-    d = Drawing(575, 222, "À gauche la notation : A nucléons, Z protons ; à droite les trois isotopes de l’hydrogène, un proton et zéro, un ou deux "
+    d = Drawing(575, 222, "À gauche la notation : A nucléons, Z protons ; à droite les trois "
+                          "isotopes de l’hydrogène, un proton et zéro, un ou deux "
                           "neutrons")
     nuclide(d, 110, 92, 14, 6, "C", 46)
     d.lines(128, 138, ["6 protons,", "14 − 6 = 8 neutrons"], ink=INK, anchor="middle")
@@ -178,7 +189,9 @@ def isotopes():
     d.arrow(40, 174, 78, 114, RED, LINE)
     d.line(228, 14, 228, 206, RULE, 1)
     d.text(400, 24, "trois isotopes de l’hydrogène", ink=BLUE, anchor="middle", bold=True)
-    for index, (neutrons, name, share) in enumerate(((0, "hydrogène", "99,99 %"), (1, "deutérium", "0,01 %"), (2, "tritium", "radioactif"))):
+    for index, (neutrons, name, share) in enumerate(((0, "hydrogène", "99,99 %"),
+                                                     (1, "deutérium", "0,01 %"),
+                                                     (2, "tritium", "radioactif"))):
         x = 290 + 112 * index
         nucleus(d, x, 78, 1, neutrons, 12)
         nuclide(d, x, 142, 1 + neutrons, 1, "H", 22)
@@ -199,7 +212,8 @@ def room(term):
 
 
 def fission_and_fusion():
-    d = Drawing(575, 342, "En haut la fission : un neutron casse un noyau d’uranium 235 en strontium 94, xénon 140 et deux neutrons ; en bas la fusion : "
+    d = Drawing(575, 342, "En haut la fission : un neutron casse un noyau d’uranium 235 en "
+                          "strontium 94, xénon 140 et deux neutrons ; en bas la fusion : "
                           "deutérium et tritium donnent hélium 4 et un neutron")
     def neutron(x, y):
         d.circle(x, y, 5, NEUTRON, EDGE, 0.9)
@@ -227,7 +241,8 @@ def fission_and_fusion():
         neutron(x, y)
         d.arrow(x + 8, y + (ty - y) * 0.2, tx, ty, INK, LINE)
     d.lines(478, 66, ["+ beaucoup", "d’énergie"], ink=RED)
-    equation(180, [(1, 0, "n"), "+", (235, 92, "U"), "→", (94, 38, "Sr"), "+", (140, 54, "Xe"), "+", "2", (1, 0, "n")])
+    equation(180, [(1, 0, "n"), "+", (235, 92, "U"), "→", (94, 38, "Sr"), "+", (140, 54, "Xe"), "+",
+                   "2", (1, 0, "n")])
     d.line(14, 202, 560, 202, RULE, 1)
     d.text(14, 226, "fusion", 15, BLUE, bold=True)
     nucleus(d, 110, 264, 1, 1, 9)
@@ -243,7 +258,8 @@ def fission_and_fusion():
 
 
 def power_station():
-    d = Drawing(575, 236, "Schéma d’une centrale nucléaire : le cœur chauffe l’eau du circuit primaire, le générateur de vapeur fait tourner la turbine et "
+    d = Drawing(575, 236, "Schéma d’une centrale nucléaire : le cœur chauffe l’eau du circuit "
+                          "primaire, le générateur de vapeur fait tourner la turbine et "
                           "l’alternateur, le condenseur est refroidi par un fleuve")
     hot, warm, cold = "#d9695f", "#e0a84a", "#7fa3c7"
     d.path("M16 212V64A104 54 0 0 1 224 64V212Z", EDGE, 1.6, IVORY)

@@ -1,6 +1,7 @@
 """Figures of the lessons on changes of state and of what reactions leave and give."""
 
-from drawing import (BALL, BLUE, EDGE, GREEN, GROUND, INK, IVORY, LINE, MUTED, ORANGE, RED, RULE, SMALL,
+from drawing import (BALL, BLUE, EDGE, GREEN, GROUND, INK, IVORY, LINE, MUTED, ORANGE, RED, RULE,
+                     SMALL,
                      WATER, WHITE, Drawing, Plot, french)
 
 ICE, LIQUID, STEAM = 2.06, 4.18, 1.87  # J·g⁻¹·K⁻¹
@@ -11,10 +12,12 @@ START = [("CH_{4}", 2.0, -1), ("O_{2}", 3.0, -2), ("CO_{2}", 0.0, 1), ("H_{2}O",
 
 
 def changes_of_state():
-    d = Drawing(560, 236, "Triangle des états : fusion et solidification, vaporisation et liquéfaction, sublimation et condensation")
+    d = Drawing(560, 236, "Triangle des états : fusion et solidification, vaporisation et "
+                          "liquéfaction, sublimation et condensation")
     places = {"solide": (110, 190), "liquide": (450, 190), "gaz": (280, 36)}
     for name, (x, y) in places.items():
-        d.rect(x - 52, y - 19, 104, 38, BALL if name == "solide" else WATER if name == "liquide" else IVORY, BLUE, LINE, 8)
+        d.rect(x - 52, y - 19, 104, 38, BALL if name == "solide" else WATER if name == "liquide"
+               else IVORY, BLUE, LINE, 8)
         d.text(x, y + 6, name, 16, BLUE, "middle", True)
     d.arrow(166, 182, 394, 182, RED)
     d.arrow(394, 200, 166, 200, BLUE)
@@ -34,9 +37,11 @@ def changes_of_state():
 
 
 def energies():
-    d = Drawing(575, 226, "Énergie reçue par un gramme d’eau, de la glace à moins 20 degrés à la vapeur à 100 degrés : 41 joules pour réchauffer la glace, 334 "
+    d = Drawing(575, 226, "Énergie reçue par un gramme d’eau, de la glace à moins 20 degrés à la "
+                          "vapeur à 100 degrés : 41 joules pour réchauffer la glace, 334 "
                           "pour la fondre, 418 pour chauffer l’eau, 2257 pour la vaporiser")
-    parts = [("glace", 20 * ICE, "#7fa3c7"), ("fusion", FUSION, "#3f6fa8"), ("eau de 0 à 100 °C", 100 * LIQUID, "#e9b25a"),
+    parts = [("glace", 20 * ICE, "#7fa3c7"), ("fusion", FUSION, "#3f6fa8"),
+             ("eau de 0 à 100 °C", 100 * LIQUID, "#e9b25a"),
              ("vaporisation", BOILING, "#c8502e")]
     left, scale, x = 20, 535 / sum(part for _, part, _ in parts), 20.0
     for index, (name, part, fill) in enumerate(parts):
@@ -47,7 +52,8 @@ def energies():
         else:
             level = (196, 160, 124)[index]
             d.path(f"M{x + wide / 2:.1f} 96V{level - 5}H{x + wide / 2 + 10:.1f}", EDGE, 1)
-            d.text(x + wide / 2 + 15, level, {"glace": "glace, de −20 à 0 °C : "}.get(name, f"{name} : ") + f"{french(part)} J", ink=INK)
+            d.text(x + wide / 2 + 15, level, {"glace": "glace, de −20 à 0 °C : "}.get(name,
+                   f"{name} : ") + f"{french(part)} J", ink=INK)
         x += wide
     d.text(left, 26, "Pour un gramme d’eau, de −20 °C à la vapeur à 100 °C", ink=BLUE, bold=True)
     d.span(350, 150, 350 + 500 * scale, 150, GREEN)
@@ -62,9 +68,11 @@ def end_of(start):
 
 
 def limiting():
-    d = Drawing(575, 258, "Quantités avant et après la combustion de 2 moles de méthane dans 3 moles de dioxygène : le dioxygène est épuisé, il reste une "
+    d = Drawing(575, 258, "Quantités avant et après la combustion de 2 moles de méthane dans 3 "
+                          "moles de dioxygène : le dioxygène est épuisé, il reste une "
                           "demi-mole de méthane")
-    for left, name, amounts in ((52, "avant", [(name, amount) for name, amount, _ in START]), (338, "après", end_of(START))):
+    for left, name, amounts in ((52, "avant", [(name, amount) for name, amount, _ in START]),
+                                (338, "après", end_of(START))):
         plot = Plot(d, left, 40, 214, 150, (0, 4), (0, 3))
         for value in range(4):
             y = plot.at(0, value)[1]
@@ -74,8 +82,10 @@ def limiting():
         for index, (species, amount) in enumerate(amounts):
             x, y = plot.at(index + 0.22, amount)
             if amount:
-                d.rect(x, y, 30, 190 - y, BALL if index < 2 else "#f3dd8f", BLUE if index < 2 else ORANGE, 1.4)
-            d.text(x + 15, y - 6, french(amount, 1) if amount else "0", SMALL, RED if amount == 0 and name == "après" else INK, "middle", amount == 0 and name == "après")
+                d.rect(x, y, 30, 190 - y, BALL if index < 2 else "#f3dd8f", BLUE if index < 2 else ORANGE,
+                       1.4)
+            d.text(x + 15, y - 6, french(amount, 1) if amount else "0", SMALL, RED if amount == 0
+                   and name == "après" else INK, "middle", amount == 0 and name == "après")
             d.text(x + 15, 208, species, anchor="middle")
         d.line(left, 190, left + 214, 190, INK, LINE)
     d.text(28, 18, "*n* (mol)", SMALL, MUTED, "middle")
@@ -86,10 +96,13 @@ def limiting():
 
 
 def heat():
-    d = Drawing(575, 254, "Deux béchers : l’acide et la soude se réchauffent, la réaction est exothermique ; le bicarbonate et l’acide se refroidissent, la réaction "
+    d = Drawing(575, 254, "Deux béchers : l’acide et la soude se réchauffent, la réaction est "
+                          "exothermique ; le bicarbonate et l’acide se refroidissent, la réaction "
                           "est endothermique")
-    cases = [("exothermique", "soude + acide chlorhydrique", 20.0, 26.5, RED, "la température monte"),
-             ("endothermique", "bicarbonate + acide citrique", 20.0, 14.5, BLUE, "la température baisse")]
+    cases = [("exothermique", "soude + acide chlorhydrique", 20.0, 26.5, RED,
+              "la température monte"),
+             ("endothermique", "bicarbonate + acide citrique", 20.0, 14.5, BLUE,
+              "la température baisse")]
     for index, (kind, what, before, after, ink, words) in enumerate(cases):
         x = 150 + 285 * index
         d.text(x, 20, kind, 15, ink, "middle", True)
@@ -118,7 +131,8 @@ NAIL = 5.6  # grams
 
 
 def count_by_mass():
-    d = Drawing(575, 176, "Compter en pesant : la masse d’un clou de fer divisée par la masse d’un atome donne le nombre d’atomes, six fois dix puissance vingt-deux")
+    d = Drawing(575, 176, "Compter en pesant : la masse d’un clou de fer divisée par la masse d’un "
+                          "atome donne le nombre d’atomes, six fois dix puissance vingt-deux")
     d.rect(44, 66, 96, 9, "#9aa7b2", EDGE, 1.2)
     d.rect(36, 56, 10, 29, "#9aa7b2", EDGE, 1.2, 2)
     d.area([(140, 66), (160, 70.5), (140, 75)], "#9aa7b2", EDGE, 1.2)
@@ -134,21 +148,25 @@ def count_by_mass():
         for column in range(9):
             d.circle(424 + 12 * column + 6 * (row % 2), 54 + 11 * row, 5, "#9aa7b2", EDGE, 0.8)
     d.text(472, 118, "6,0 × 10^{22}", 16, RED, "middle", True)
-    d.text(287, 160, "Les deux masses dans la même unité : on compte sans voir.", SMALL, MUTED, "middle")
+    d.text(287, 160, "Les deux masses dans la même unité : on compte sans voir.", SMALL, MUTED,
+           "middle")
     return d
 
 
 def reflux():
-    d = Drawing(560, 352, "Montage à reflux : un ballon chauffé par un chauffe-ballon, surmonté d’un réfrigérant à eau ouvert en haut, sur un support élévateur")
+    d = Drawing(560, 352, "Montage à reflux : un ballon chauffé par un chauffe-ballon, surmonté "
+                          "d’un réfrigérant à eau ouvert en haut, sur un support élévateur")
     x = 220
     d.rect(x - 70, 316, 140, 8, GROUND, EDGE, 1.2)
     d.path(f"M{x - 56} 316L{x + 56} 296M{x + 56} 316L{x - 56} 296", EDGE, 2)
     d.rect(x - 64, 288, 128, 8, GROUND, EDGE, 1.2)
-    d.path(f"M{x - 54} 288V244Q{x - 54} 236 {x - 46} 236H{x + 46}Q{x + 54} 236 {x + 54} 244V288Z", EDGE, 1.6, IVORY)
+    d.path(f"M{x - 54} 288V244Q{x - 54} 236 {x - 46} 236H{x + 46}Q{x + 54} 236 {x + 54} 244V288Z",
+           EDGE, 1.6, IVORY)
     d.path(f"M{x - 37.5} 250A40 40 0 0 0 {x + 37.5} 250Z", "none", 0, "#f3dd8f")
     d.path(f"M{x - 9} 178V197A40 40 0 1 0 {x + 9} 197V178", EDGE, 2)
     for dx, dy in ((-14, 262), (6, 268), (16, 258)):
-        d.area([(x + dx, dy), (x + dx + 5, dy - 3), (x + dx + 8, dy + 3), (x + dx + 2, dy + 5)], MUTED)
+        d.area([(x + dx, dy), (x + dx + 5, dy - 3), (x + dx + 8, dy + 3), (x + dx + 2, dy + 5)],
+               MUTED)
     d.rect(x - 11, 168, 22, 14, WHITE, EDGE, 1.4)
     d.rect(x - 22, 46, 44, 118, WATER, BLUE, 1.6, 8)
     d.path(f"M{x - 7} 168V28M{x + 7} 168V28", EDGE, 1.8)
@@ -168,11 +186,13 @@ def reflux():
     d.text(x + 86, 267, "chauffe-ballon")
     d.line(x + 70, 306, x + 82, 306, RULE, 1)
     d.text(x + 86, 311, "support élévateur")
-    d.text(280, 344, "Chauffer accélère ; le reflux garde réactifs, produits et solvant.", SMALL, MUTED, "middle")
+    d.text(280, 344, "Chauffer accélère ; le reflux garde réactifs, produits et solvant.", SMALL,
+           MUTED, "middle")
     return d
 
 
-FIGURES = {"changements-etat-noms": changes_of_state, "energies-eau": energies, "reactif-limitant": limiting, "exo-endo": heat,
+FIGURES = {"changements-etat-noms": changes_of_state, "energies-eau": energies, "reactif-limitant": limiting,
+           "exo-endo": heat,
            "compter-entites": count_by_mass, "montage-reflux": reflux}
 
 if __name__ == "__main__":

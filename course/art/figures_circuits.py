@@ -27,12 +27,14 @@ def resistor(d, x, y, name, upright=False):
 def current(d, x, y, way, name, dx, dy):
     """An arrowhead on a wire; `way` is its direction in degrees, anticlockwise from the right."""
     a = math.radians(way)
-    d.arrow(x - 7 * math.cos(a), y + 7 * math.sin(a), x + 7 * math.cos(a), y - 7 * math.sin(a), RED, 2, head=13)
+    d.arrow(x - 7 * math.cos(a), y + 7 * math.sin(a), x + 7 * math.cos(a), y - 7 * math.sin(a), RED,
+            2, head=13)
     d.text(x + dx, y + dy, name, 15, RED, bold=True)
 
 
 def nodes_and_loops():
-    d = Drawing(560, 274, "Un générateur de 6,0 volts et deux conducteurs en dérivation entre les nœuds A et B : I égale I1 plus I2 ; dans chaque maille la somme des "
+    d = Drawing(560, 274, "Un générateur de 6,0 volts et deux conducteurs en dérivation entre les "
+                          "nœuds A et B : I égale I1 plus I2 ; dans chaque maille la somme des "
                           "tensions est nulle")
     wire(d, "M70 220V50H390V220Z")
     wire(d, "M250 50V220")
@@ -57,7 +59,8 @@ def nodes_and_loops():
     d.text(356, 130, "*U*_{2}", 15, BLUE, "end")
     d.lines(434, 84, ["nœud A :", "*I* = *I*_{1} + *I*_{2}"], ink=RED, step=22)
     d.lines(434, 152, ["mailles :", "*U* = *U*_{1} = *U*_{2}"], ink=BLUE, step=22)
-    d.text(280, 268, "Un nœud relie au moins trois fils ; une maille est un chemin fermé.", SMALL, MUTED, "middle")
+    d.text(280, 268, "Un nœud relie au moins trois fils ; une maille est un chemin fermé.", SMALL,
+           MUTED, "middle")
     return d
 
 
@@ -67,12 +70,15 @@ def led(volts):
 
 
 def characteristics():
-    d = Drawing(575, 260, "Trois caractéristiques : conducteur ohmique, une droite ; lampe, une courbe qui se couche ; DEL, rien avant 1,8 volt, puis une montée raide")
-    cases = [("conducteur ohmique", (0, 6), 2, (0, 150), 50, "*U* = 47 Ω × *I*"), ("lampe", (0, 6), 2, (0, 250), 50, "*U* et *I* non proportionnels"),
+    d = Drawing(575, 260, "Trois caractéristiques : conducteur ohmique, une droite ; lampe, une "
+                          "courbe qui se couche ; DEL, rien avant 1,8 volt, puis une montée raide")
+    cases = [("conducteur ohmique", (0, 6), 2, (0, 150), 50, "*U* = 47 Ω × *I*"), ("lampe", (0, 6),
+             2, (0, 250), 50, "*U* et *I* non proportionnels"),
              ("DEL rouge", (0, 2.5), 0.5, (0, 30), 10, "seuil vers 1,8 V")]
     for index, (name, xs, x_step, ys, y_step, words) in enumerate(cases):
         plot = Plot(d, 44 + 190 * index, 52, 118, 130, xs, ys)
-        plot.axes(x_step, y_step, "*U* (V)", "*I* (mA)", 1 if index == 2 else 0, labels=(2 if index == 2 else 1, 1))
+        plot.axes(x_step, y_step, "*U* (V)", "*I* (mA)", 1 if index == 2 else 0, labels=(2 if index == 2
+                  else 1, 1))
         if index == 0:
             plot.curve(lambda volts: 1000 * volts / RESISTOR, BLUE, 0, 6, 2)
             for volts in (1.5, 3.0, 4.5, 6.0):
@@ -94,7 +100,8 @@ def thermistor(celsius):
 
 
 def sensor():
-    d = Drawing(560, 276, "Courbe d’étalonnage d’une thermistance : sa résistance diminue quand la température augmente ; 6,5 kilohms se lisent 35 degrés")
+    d = Drawing(560, 276, "Courbe d’étalonnage d’une thermistance : sa résistance diminue quand la "
+                          "température augmente ; 6,5 kilohms se lisent 35 degrés")
     plot = Plot(d, 60, 36, 400, 188, (0, 60), (0, 35))
     plot.axes(10, 5, "*θ* (°C)", "*R* (kΩ)")
     plot.curve(lambda celsius: thermistor(celsius) / 1000, BLUE, 0, 60)

@@ -11,7 +11,8 @@ G = 9.81  # N/kg
 
 
 def bubble(d, x, y, words, fill=WHITE, ink=EDGE):
-    d.parts.append(f'<ellipse cx="{x}" cy="{y}" rx="52" ry="22" fill="{fill}" stroke="{ink}" stroke-width="1.6"/>')
+    d.parts.append(f'<ellipse cx="{x}" cy="{y}" rx="52" ry="22" fill="{fill}" stroke="{ink}" '
+                   'stroke-width="1.6"/>')
     d.text(x, y + 5, words, ink=INK, anchor="middle", bold=ink == BLUE)
 
 
@@ -22,7 +23,8 @@ def both_ways(d, x1, y1, x2, y2, dash=None):
 
 
 def interactions():
-    d = Drawing(560, 216, "Un livre sur une table et son diagramme : le livre est en interaction à distance avec la Terre et "
+    d = Drawing(560, 216, "Un livre sur une table et son diagramme : le livre est en interaction à "
+                          "distance avec la Terre et "
                           "en interaction de contact avec la table")
     d.rect(40, 110, 170, 10, "#e9d8b8", EDGE, 1.2)
     d.rect(56, 120, 9, 60, "#e9d8b8", EDGE, 1.2)
@@ -45,24 +47,28 @@ def interactions():
 
 
 def force():
-    d = Drawing(560, 176, "Une force de 60 newtons sur un ballon, ses quatre caractères : point d’application, direction, sens et "
+    d = Drawing(560, 176, "Une force de 60 newtons sur un ballon, ses quatre caractères : point "
+                          "d’application, direction, sens et "
                           "valeur, à l’échelle de 1 centimètre pour 20 newtons")
     unit, angle = 38, math.radians(30)  # pixels for 20 N
     x, y = 168, 122
     d.rect(20, 156, 520, 10, GROUND)
     d.line(20, 156, 540, 156, EDGE, LINE)
     d.circle(x + 30, y, 34, WHITE, EDGE, LINE)
-    d.path(f"M{x + 30} {y - 13}l12 9l-5 14h-14l-5 -14ZM{x + 30} {y - 13}v-21M{x + 42} {y - 4}l20 -7M{x + 37} {y + 10}l12 17"
+    d.path(f"M{x + 30} {y - 13}l12 9l-5 14h-14l-5 -14ZM{x + 30} {y - 13}v-21M{x + 42} {y - 4}l20 "
+           f"-7M{x + 37} {y + 10}l12 17"
            f"M{x + 23} {y + 10}l-12 17M{x + 18} {y - 4}l-20 -7", EDGE, 1.2)
     ax, ay = x + 30 - 34 * math.cos(angle), y + 34 * math.sin(angle)  # where the foot touches
     tip = ax + 3 * unit * math.cos(angle), ay - 3 * unit * math.sin(angle)
     far = 1.95
-    d.line(ax, ay, ax + far * 3 * unit * math.cos(angle), ay - far * 3 * unit * math.sin(angle), EDGE, 1, "5 4")
+    d.line(ax, ay, ax + far * 3 * unit * math.cos(angle), ay - far * 3 * unit * math.sin(angle),
+           EDGE, 1, "5 4")
     d.arrow(ax, ay, *tip, FORCE, 2.6, head=12)
     d.dot(ax, ay, INK, 4)
     d.text(tip[0] - 4, tip[1] - 12, "~*F*~", 16, FORCE, "end")
     d.lines(ax - 12, ay - 34, ["point", "d’application"], SMALL, INK, "end", 15)
-    d.text(ax + far * 3 * unit * math.cos(angle) + 6, ay - far * 3 * unit * math.sin(angle) + 4, "direction", SMALL, MUTED)
+    d.text(ax + far * 3 * unit * math.cos(angle) + 6, ay - far * 3 * unit * math.sin(angle) + 4,
+           "direction", SMALL, MUTED)
     d.text(tip[0] + 12, tip[1] + 20, "sens", SMALL, FORCE)
     d.lines(410, 76, ["valeur :", "3 × 20 = 60 N"], ink=FORCE)
     d.span(410, 124, 410 + unit, 124, GREEN)
@@ -82,7 +88,8 @@ def magnet(d, x, y, left, right, name):
 
 
 def reciprocal():
-    d = Drawing(560, 164, "Deux aimants sur des chariots s’attirent : la force de A sur B et la force de B sur A ont la même droite "
+    d = Drawing(560, 164, "Deux aimants sur des chariots s’attirent : la force de A sur B et la "
+                          "force de B sur A ont la même droite "
                           "d’action, la même valeur et des sens opposés")
     y = 108
     d.line(40, y + 24, 520, y + 24, EDGE, LINE)
@@ -118,7 +125,8 @@ def spring_scale(d, x, y, reading, limit, way, name):
 
 
 def spring_scales():
-    d = Drawing(560, 132, "Deux dynamomètres accrochés l’un à l’autre indiquent la même valeur, 3,0 newtons")
+    d = Drawing(560, 132,
+                "Deux dynamomètres accrochés l’un à l’autre indiquent la même valeur, 3,0 newtons")
     spring_scale(d, 148, 66, 3, 5, 1, "A : 3,0 N")
     spring_scale(d, 412, 66, 3, 5, -1, "B : 3,0 N")
     d.path("M252 66q12 -12 24 0t32 0", EDGE, 2)
@@ -126,12 +134,14 @@ def spring_scales():
     d.arrow(512, 66, 548, 66, INK, LINE)
     d.text(39, 34, "mur", SMALL, MUTED, "middle")
     d.text(530, 52, "on tire", SMALL, MUTED, "middle")
-    d.text(280, 22, "Au bout de chacun, la même force : les actions sont réciproques.", SMALL, MUTED, "middle")
+    d.text(280, 22, "Au bout de chacun, la même force : les actions sont réciproques.", SMALL,
+           MUTED, "middle")
     return d
 
 
 def gravitation():
-    d = Drawing(560, 190, "Deux astres A et B de centres distants de d : chacun attire l’autre, les deux forces sont opposées et de "
+    d = Drawing(560, 190, "Deux astres A et B de centres distants de d : chacun attire l’autre, "
+                          "les deux forces sont opposées et de "
                           "même valeur")
     y = 92
     d.line(110, y, 450, y, RULE, 1.2, "5 4")
@@ -160,7 +170,8 @@ def attraction(radii):
 
 
 def gravitation_curve():
-    d = Drawing(520, 268, "Courbe de la force par laquelle la Terre attire un kilogramme : elle est divisée par quatre quand la "
+    d = Drawing(520, 268, "Courbe de la force par laquelle la Terre attire un kilogramme : elle "
+                          "est divisée par quatre quand la "
                           "distance au centre double")
     plot = Plot(d, 56, 36, 400, 180, (0, 6), (0, 12))
     d.rect(56, 36, 400 / 6, 180, PALE)
@@ -178,7 +189,8 @@ def gravitation_curve():
 
 
 def support_and_thread():
-    d = Drawing(560, 226, "Un livre posé sur une table : poids et réaction du support opposés ; une lampe pendue à un fil : poids et tension "
+    d = Drawing(560, 226, "Un livre posé sur une table : poids et réaction du support opposés ; "
+                          "une lampe pendue à un fil : poids et tension "
                           "du fil opposés")
     long = 62  # pixels of both forces of a pair
     d.rect(50, 130, 180, 12, "#e9d8b8", EDGE, 1.2)
@@ -198,13 +210,15 @@ def support_and_thread():
     d.dot(410, 108, INK, 3)
     d.text(420, 166, "~*P*~", 16, FORCE)
     d.text(420, 46, "~*T*~", 16, FORCE)
-    d.lines(330, 196, ["Le fil tire, dans sa direction,", "vers son autre bout."], SMALL, MUTED, step=16)
+    d.lines(330, 196, ["Le fil tire, dans sa direction,", "vers son autre bout."], SMALL, MUTED,
+            step=16)
     return d
 
 
 def slope():
     angle, weight = math.radians(30), 110  # pixels for the weight of 5.0 N
-    d = Drawing(560, 262, "Un chariot retenu par un fil sur un plan incliné de 30 degrés sans frottement : poids 5,0 newtons, réaction du "
+    d = Drawing(560, 262, "Un chariot retenu par un fil sur un plan incliné de 30 degrés sans "
+                          "frottement : poids 5,0 newtons, réaction du "
                           "support 4,3 newtons, tension du fil 2,5 newtons")
     x0, y0, length = 60, 232, 380  # the foot of the slope
     up = math.cos(angle), -math.sin(angle)

@@ -32,7 +32,8 @@ def jump(step=0.001):
 
 
 def puck():
-    d = Drawing(560, 194, "Un palet glisse sur la glace : photographié à intervalles égaux, il parcourt des distances égales ; son poids et "
+    d = Drawing(560, 194, "Un palet glisse sur la glace : photographié à intervalles égaux, il "
+                          "parcourt des distances égales ; son poids et "
                           "la réaction de la glace se compensent, sa vitesse ne change pas")
     y = 112
     d.rect(20, y + 10, 520, 16, "#e8f1fa")
@@ -57,7 +58,8 @@ def puck():
 
 
 def change_of_speed():
-    d = Drawing(575, 226, "Trois mouvements où le vecteur vitesse change : chute, freinage, virage ; chaque fois le changement de la vitesse a la "
+    d = Drawing(575, 226, "Trois mouvements où le vecteur vitesse change : chute, freinage, virage "
+                          "; chaque fois le changement de la vitesse a la "
                           "direction et le sens de la force qui n’est pas compensée")
     for x, name in ((96, "chute"), (287, "freinage"), (478, "virage")):
         d.text(x, 20, name, ink=BLUE, anchor="middle", bold=True)
@@ -83,7 +85,8 @@ def change_of_speed():
     d.text(306, 152, "frottement ~*f*~", ink=FORCE, anchor="middle")
     # a ball on a thread: the speed turns towards the thread
     x, y, radius = 452, 152, 78
-    d.path(f"M{x + radius * math.cos(2.5):.1f} {y - radius * math.sin(2.5):.1f}A{radius} {radius} 0 0 1 {x + radius} {y}", RULE, 1.6, dash="5 4")
+    d.path(f"M{x + radius * math.cos(2.5):.1f} {y - radius * math.sin(2.5):.1f}A{radius} {radius} "
+           f"0 0 1 {x + radius} {y}", RULE, 1.6, dash="5 4")
     d.dot(x, y, INK, 3)
     for angle, mark in ((1.9, 1), (0.75, 2)):
         bx, by = x + radius * math.cos(angle), y - radius * math.sin(angle)
@@ -96,20 +99,25 @@ def change_of_speed():
         d.arrow(bx, by, *tip, SPEED)
         d.circle(bx, by, 7, BALL, BLUE)
         d.text(tip[0] + 6, tip[1] + (2 if mark == 1 else 12), f"~*v*~_{{{mark}}}", 15, SPEED)
-    d.text(287, 206, "La vitesse change (de valeur ou de direction) : les forces ne se compensent pas.", anchor="middle")
+    d.text(287, 206,
+           "La vitesse change (de valeur ou de direction) : les forces ne se compensent pas.",
+           anchor="middle")
     return d
 
 
 def parachutist():
-    d = Drawing(575, 342, "Vitesse d’un parachutiste au cours du temps : elle augmente jusqu’à 50 mètres par seconde, reste constante, chute à "
-                          "l’ouverture du parachute, puis reste à 5 mètres par seconde ; en haut, le poids et le frottement à quatre instants")
+    d = Drawing(575, 342, "Vitesse d’un parachutiste au cours du temps : elle augmente jusqu’à 50 "
+                          "mètres par seconde, reste constante, chute à "
+                          "l’ouverture du parachute, puis reste à 5 mètres par seconde ; en haut, "
+                          "le poids et le frottement à quatre instants")
     rows = jump()
     at = {round(seconds, 1): (speed, force) for seconds, speed, force in rows}
     plot = Plot(d, 56, 150, 440, 132, (0, END), (0, 60))
     plot.axes(5, 10, "*t* (s)", "*v* (m/s)")
     d.curve([plot.at(seconds, speed) for seconds, speed, _ in rows], SPEED, 2.2)
     scale = 27 / (MASS * G)  # pixels a newton
-    for moment, words in ((3.0, "*v* augmente"), (20.0, "*v* constante"), (25.5, "*v* diminue"), (36.0, "*v* constante")):
+    for moment, words in ((3.0, "*v* augmente"), (20.0, "*v* constante"), (25.5, "*v* diminue"),
+                          (36.0, "*v* constante")):
         speed, force = at[moment]
         x, y = plot.at(moment, speed)
         top = {3.0: 116, 20.0: 260, 25.5: 352, 36.0: 460}[moment]
@@ -127,7 +135,8 @@ def parachutist():
 
 
 def crate():
-    d = Drawing(560, 202, "Une caisse tirée à vitesse constante sur le sol : la force de traction compense le frottement, la réaction du sol compense "
+    d = Drawing(560, 202, "Une caisse tirée à vitesse constante sur le sol : la force de traction "
+                          "compense le frottement, la réaction du sol compense "
                           "le poids")
     x, y, unit = 250, 110, 0.2  # pixels a newton
     weight, pull = 40 * G * unit, 150 * unit
@@ -157,4 +166,5 @@ FIGURES = {"palet-glace": puck, "vitesse-change": change_of_speed, "caisse": cra
 
 if __name__ == "__main__":
     rows = jump()
-    print([(round(t, 1), round(v, 1), round(f)) for t, v, f in rows if round(t * 10) in (30, 100, 200, 240, 250, 251, 255, 260, 270, 280, 300, 360)], max(f for _, _, f in rows))
+    print([(round(t, 1), round(v, 1), round(f)) for t, v, f in rows if round(t * 10) in (30, 100,
+           200, 240, 250, 251, 255, 260, 270, 280, 300, 360)], max(f for _, _, f in rows))

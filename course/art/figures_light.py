@@ -6,21 +6,25 @@ from drawing import (BALL, BLUE, EDGE, GREEN, INK, IVORY, LINE, MUTED, ORANGE, R
                      WATER, Drawing, french)
 
 # Lines seen in the light of gases, nanometres.
-LINES = {"hydrogène": [410.2, 434.0, 486.1, 656.3], "sodium": [589.3], "mercure": [404.7, 435.8, 546.1, 578.0]}
+LINES = {"hydrogène": [410.2, 434.0, 486.1, 656.3], "sodium": [589.3], "mercure": [404.7, 435.8,
+         546.1, 578.0]}
 
 # A lens of 20 cm, an object at 30 cm, of 6.0 cm.
 FOCAL, OBJECT, TALL = 20, 30, 6.0  # cm
 
 # Where a colour of the spectrum is purest, nanometres, and its red, green and blue.
-HUES = [(390, (70, 0, 100)), (420, (100, 0, 190)), (450, (30, 40, 235)), (480, (0, 150, 240)), (510, (0, 200, 60)),
-        (560, (170, 215, 0)), (585, (250, 200, 0)), (610, (255, 110, 0)), (645, (235, 20, 10)), (700, (120, 0, 0))]
+HUES = [(390, (70, 0, 100)), (420, (100, 0, 190)), (450, (30, 40, 235)), (480, (0, 150, 240)),
+        (510, (0, 200, 60)),
+        (560, (170, 215, 0)), (585, (250, 200, 0)), (610, (255, 110, 0)), (645, (235, 20, 10)),
+        (700, (120, 0, 0))]
 
 
 def colour(nanometres, bright=1.0):
     for (start, one), (end, two) in zip(HUES, HUES[1:]):
         if start <= nanometres <= end:
             share = (nanometres - start) / (end - start)
-            return "#" + "".join(f"{round(bright * (a + share * (b - a))):02x}" for a, b in zip(one, two))
+            return "#" + "".join(f"{round(bright * (a + share * (b - a))):02x}" for a, b in zip(one,
+                                 two))
     return "#000000"
 
 
@@ -30,7 +34,8 @@ def glow(nanometres, kelvin):
 
 
 def spectra():
-    d = Drawing(575, 296, "Cinq spectres de 400 à 700 nanomètres : deux filaments, l’un à 2 000, l’autre à 3 000 kelvins, spectres continus ; hydrogène, sodium et "
+    d = Drawing(575, 296, "Cinq spectres de 400 à 700 nanomètres : deux filaments, l’un à 2 000, "
+                          "l’autre à 3 000 kelvins, spectres continus ; hydrogène, sodium et "
                           "mercure, spectres de raies")
     left, wide = 130, 420
     place = lambda nanometres: left + wide * (nanometres - 400) / 300
@@ -44,7 +49,8 @@ def spectra():
             for step in range(140):
                 nanometres = 400 + 300 * (step + 0.5) / 140
                 bright = min(1.0, (glow(nanometres, what) / most) ** 0.45)
-                d.rect(left + wide * step / 140, y, wide / 140 + 0.4, 32, colour(nanometres, bright))
+                d.rect(left + wide * step / 140, y, wide / 140 + 0.4, 32, colour(nanometres,
+                       bright))
         else:
             for nanometres in what:
                 d.rect(place(nanometres) - 1.5, y, 3, 32, colour(nanometres, 1.0))
@@ -64,7 +70,9 @@ def lens(d, x, y, half):
 def magnification():
     image = 1 / (1 / FOCAL - 1 / OBJECT)
     ratio = -image / OBJECT
-    d = Drawing(575, 266, "Une lentille de distance focale 20 centimètres ; un objet de 6,0 centimètres à 30 centimètres donne à 60 centimètres une image renversée de "
+    d = Drawing(575, 266, "Une lentille de distance focale 20 centimètres ; un objet de 6,0 "
+                          "centimètres à 30 centimètres donne à 60 centimètres une image renversée "
+                          "de "
                           "12 centimètres")
     scale, up = 5.2, 8  # pixels a centimetre, along and across
     x, y = 196, 110
@@ -78,7 +86,8 @@ def magnification():
     d.line(*b, *b2, RED, LINE)
     d.line(*b, *place(0, TALL), GREEN, LINE)
     d.line(*place(0, TALL), *b2, GREEN, LINE)
-    for words, point, dx, dy in (("A", a, -6, 18), ("B", b, -6, -6), ("A′", a2, -4, -8), ("B′", b2, 10, 6), ("O", (x, y), 6, -8)):
+    for words, point, dx, dy in (("A", a, -6, 18), ("B", b, -6, -6), ("A′", a2, -4, -8),
+                                 ("B′", b2, 10, 6), ("O", (x, y), 6, -8)):
         d.text(point[0] + dx, point[1] + dy, words, bold=True)
     focus = place(FOCAL, 0)
     d.line(focus[0], y - 5, focus[0], y + 5, INK, LINE)
@@ -93,11 +102,13 @@ def magnification():
 
 
 def eye():
-    d = Drawing(575, 236, "L’œil et son modèle, l’œil réduit : le diaphragme pour l’iris, la lentille pour la cornée et le cristallin, l’écran pour la rétine")
+    d = Drawing(575, 236, "L’œil et son modèle, l’œil réduit : le diaphragme pour l’iris, la "
+                          "lentille pour la cornée et le cristallin, l’écran pour la rétine")
     x, y = 140, 104
     d.circle(x, y, 74, IVORY, EDGE, 2)
     d.path(f"M{x - 66} {y - 34}Q{x - 102} {y} {x - 66} {y + 34}", BLUE, 2, WATER)
-    d.parts.append(f'<ellipse cx="{x - 50}" cy="{y}" rx="10" ry="25" fill="{BALL}" stroke="{BLUE}" stroke-width="1.6"/>')
+    d.parts.append(f'<ellipse cx="{x - 50}" cy="{y}" rx="10" ry="25" fill="{BALL}" stroke="{BLUE}" '
+                   'stroke-width="1.6"/>')
     d.line(x - 62, y - 38, x - 62, y - 13, ORANGE, 4)
     d.line(x - 62, y + 13, x - 62, y + 38, ORANGE, 4)
     d.path(f"M{x + 30} {y - 60}A68 68 0 0 1 {x + 30} {y + 60}", RED, 4)

@@ -16,7 +16,8 @@ REFERENCE = 2 * math.pi * math.sqrt(1.000 / 9.81)  # of one swing, seconds
 
 
 def histogram():
-    d = Drawing(520, 254, "Histogramme de 20 mesures de la durée de dix oscillations : elles se groupent "
+    d = Drawing(520, 254,
+                "Histogramme de 20 mesures de la durée de dix oscillations : elles se groupent "
                           "autour de la moyenne, 20,07 s, avec un écart-type de 0,18 s")
     plot = Plot(d, 52, 48, 400, 160, (19.6, 20.5), (0, 6))
     low, high = plot.at(MEAN - SPREAD, 0)[0], plot.at(MEAN + SPREAD, 0)[0]
@@ -43,10 +44,13 @@ def histogram():
 
 
 def targets():
-    d = Drawing(560, 176, "Quatre cibles : des tirs groupés au centre, groupés à côté, dispersés autour du "
+    d = Drawing(560, 176,
+                "Quatre cibles : des tirs groupés au centre, groupés à côté, dispersés autour du "
                           "centre, dispersés à côté")
-    cases = [("fidèle et juste", "centrées, serrées", 0, 5), ("fidèle, pas juste", "décalées, serrées", 24, 5),
-             ("juste, peu fidèle", "centrées, dispersées", 0, 17), ("ni l’un ni l’autre", "décalées, dispersées", 24, 15)]
+    cases = [("fidèle et juste", "centrées, serrées", 0, 5),
+             ("fidèle, pas juste", "décalées, serrées", 24, 5),
+             ("juste, peu fidèle", "centrées, dispersées", 0, 17),
+             ("ni l’un ni l’autre", "décalées, dispersées", 24, 15)]
     for index, (name, words, shift, spread) in enumerate(cases):
         lot, x, y = random.Random(5), 70 + 140 * index, 66
         for radius, fill in ((54, IVORY), (36, WHITE), (18, IVORY)):
@@ -64,7 +68,8 @@ def targets():
 
 
 def ruler_reading():
-    d = Drawing(520, 128, "Une règle graduée en millimètres devant une tige : son extrémité se lit 3,4 cm à un "
+    d = Drawing(520, 128, "Une règle graduée en millimètres devant une tige : son extrémité se lit "
+                          "3,4 cm à un "
                           "demi-millimètre près")
     left, scale = 40, 84  # pixels; pixels a centimetre
     end = left + 3.42 * scale
@@ -86,12 +91,14 @@ def ruler_reading():
 
 
 def intervals():
-    d = Drawing(540, 190, "Deux résultats et la valeur de référence sur un axe : 2,007 s à 0,004 s près la "
+    d = Drawing(540, 190,
+                "Deux résultats et la valeur de référence sur un axe : 2,007 s à 0,004 s près la "
                           "contient, 2,040 s à 0,010 s près en est loin")
     left, scale = 40, 460 / 0.06
     place = lambda value: left + (value - 1.995) * scale
     d.line(place(REFERENCE), 30, place(REFERENCE), 150, GREEN, 1.6, "5 3")
-    d.text(place(REFERENCE), 20, f"référence {french(REFERENCE, 3)} s", ink=GREEN, anchor="middle", bold=True)
+    d.text(place(REFERENCE), 20, f"référence {french(REFERENCE, 3)} s", ink=GREEN, anchor="middle",
+           bold=True)
     d.arrow(left - 20, 150, 528, 150, "#23211c", 1.6, head=10)
     for index in range(7):
         x = place(1.995 + 0.01 * index + 0.005) if index < 6 else None
@@ -99,8 +106,10 @@ def intervals():
             d.line(x, 150, x, 156, "#23211c", 1.4)
             d.text(x, 171, french(2.0 + 0.01 * index, 2), SMALL, MUTED, "middle")
     d.text(528, 187, "période *T* (s)", anchor="end")
-    for y, value, error, name, ink in ((62, 2.007, 0.004, "groupe A", BLUE), (112, 2.040, 0.010, "groupe B", ORANGE)):
-        d.rect(place(value - error), y - 9, 2 * error * scale, 18, BALL if ink == BLUE else "#f6ead9", ink, 1.4, 2)
+    for y, value, error, name, ink in ((62, 2.007, 0.004, "groupe A", BLUE),
+                                       (112, 2.040, 0.010, "groupe B", ORANGE)):
+        d.rect(place(value - error), y - 9, 2 * error * scale, 18, BALL if ink == BLUE else
+               "#f6ead9", ink, 1.4, 2)
         d.line(place(value), y - 9, place(value), y + 9, ink, 2.2)
         at = place(value + error) + 12
         words = f"*T* = {french(value, 3)} s ; *u* = {french(error, 3)} s"
@@ -114,27 +123,32 @@ def intervals():
 
 
 def significant_figures():
-    d = Drawing(560, 168, "Dans 0,00340 les zéros de gauche ne comptent pas, le 3, le 4 et le dernier zéro sont "
-                          "trois chiffres significatifs : on écrit 3,40 fois dix puissance moins trois")
+    d = Drawing(560, 168, "Dans 0,00340 les zéros de gauche ne comptent pas, le 3, le 4 et le "
+                          "dernier zéro sont "
+                          "trois chiffres significatifs : on écrit 3,40 fois dix puissance moins "
+                          "trois")
     x, cell = 84, 30
     for index, sign in enumerate("0,00340"):
         wide = cell if sign != "," else 14
         counts = index >= 4
         if sign != ",":
-            d.rect(x, 22, wide - 4, 40, GREEN_TINT if counts else "#f1eddf", GREEN if counts else RULE, 1.4, 3)
+            d.rect(x, 22, wide - 4, 40, GREEN_TINT if counts else "#f1eddf", GREEN if counts else RULE,
+                   1.4, 3)
         d.text(x + wide / 2 - 2, 51, sign, 24, GREEN if counts else MUTED, "middle", counts)
         if index == 4:
             first = x
         x += wide
     d.text(x + 6, 51, "m", 20)
     d.span(84, 76, first - 4, 76, MUTED)
-    d.lines(first - 8, 97, ["placent la virgule :", "ne comptent pas"], ink=MUTED, anchor="end", step=17)
+    d.lines(first - 8, 97, ["placent la virgule :", "ne comptent pas"], ink=MUTED, anchor="end",
+            step=17)
     d.span(first, 76, x - 4, 76, GREEN)
     d.text(first, 97, "3 chiffres significatifs", ink=GREEN, bold=True)
     d.text(first, 114, "le dernier zéro aussi", ink=GREEN)
     d.arrow(x + 40, 42, x + 92, 42, "#23211c", 1.6, head=10)
     d.text(x + 112, 51, "3,40 × 10^{−3} m", 20, GREEN, bold=True)
-    d.text(280, 152, "Un zéro écrit à droite dit que ce chiffre a été mesuré : 3,40 n’est pas 3,4.", anchor="middle")
+    d.text(280, 152, "Un zéro écrit à droite dit que ce chiffre a été mesuré : 3,40 n’est pas 3,4.",
+           anchor="middle")
     return d
 
 
@@ -144,7 +158,8 @@ SLOPE = sum(mass * length for mass, length in SPRING) / sum(mass * mass for mass
 
 
 def graph_and_model():
-    d = Drawing(520, 278, "Allongement d’un ressort en fonction de la masse suspendue : six points, et la droite qui passe par l’origine au plus près d’eux")
+    d = Drawing(520, 278, "Allongement d’un ressort en fonction de la masse suspendue : six "
+                          "points, et la droite qui passe par l’origine au plus près d’eux")
     plot = Plot(d, 56, 40, 390, 184, (0, 350), (0, 20))
     plot.axes(50, 5, "*m* (g)", "*a* (cm)")
     plot.curve(lambda mass: SLOPE * mass, BLUE, 0, 350, 2)

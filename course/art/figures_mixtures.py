@@ -18,7 +18,8 @@ POINTS = [("dioxygène", -219, -183), ("éthanol", -114, 78), ("acétone", -95, 
           ("cyclohexane", 6.5, 81), ("naphtalène", 80, 218)]
 
 # Air without its vapour: shares of volume in percent, molar masses in g/mol.
-AIR = [("diazote N_{2}", 78.1, 28.0, BALL), ("dioxygène O_{2}", 20.9, 32.0, "#e08a80"), ("argon et autres", 1.0, 39.9, "#c9b6e0")]
+AIR = [("diazote N_{2}", 78.1, 28.0, BALL), ("dioxygène O_{2}", 20.9, 32.0, "#e08a80"),
+       ("argon et autres", 1.0, 39.9, "#c9b6e0")]
 
 FRONT, SPOTS = 8.0, (2.4, 4.8, 6.4)  # cm, above the start; of the plate
 
@@ -28,17 +29,20 @@ def beaker(d, x, y, wide, high):
 
 
 def mixtures():
-    d = Drawing(575, 230, "Quatre béchers et leurs molécules : eau distillée, corps pur ; eau sucrée, mélange homogène ; eau et huile, eau et "
+    d = Drawing(575, 230, "Quatre béchers et leurs molécules : eau distillée, corps pur ; eau "
+                          "sucrée, mélange homogène ; eau et huile, eau et "
                           "sable, mélanges hétérogènes")
     cases = [("eau distillée", "corps pur", GREEN), ("eau sucrée", "mélange homogène", BLUE),
-             ("eau et huile", "mélange hétérogène", ORANGE), ("eau et sable", "mélange hétérogène", ORANGE)]
+             ("eau et huile", "mélange hétérogène", ORANGE),
+             ("eau et sable", "mélange hétérogène", ORANGE)]
     for index, (name, kind, ink) in enumerate(cases):
         lot, x = random.Random(11 + index), 72 + 144 * index
         d.rect(x - 36, 26, 72, 54, WATER)
         if index == 2:
             d.rect(x - 36, 26, 72, 18, OIL)
         if index == 3:
-            d.area([(x - 36, 80), (x - 36, 66), (x - 10, 62), (x + 20, 66), (x + 36, 63), (x + 36, 80)], SAND)
+            d.area([(x - 36, 80), (x - 36, 66), (x - 10, 62), (x + 20, 66), (x + 36, 63),
+                    (x + 36, 80)], SAND)
         beaker(d, x - 36, 10, 72, 70)
         d.line(x, (58, 58, 44, 65)[index], x, 98, EDGE, 1)
         d.circle(x, 140, 42, WHITE, EDGE, 1.4)
@@ -64,11 +68,13 @@ def mixtures():
 
 
 def mass_and_volume():
-    d = Drawing(520, 286, "Masse de liquides en fonction de leur volume : des droites qui passent par l’origine ; celle du liquide inconnu est "
+    d = Drawing(520, 286, "Masse de liquides en fonction de leur volume : des droites qui passent "
+                          "par l’origine ; celle du liquide inconnu est "
                           "sous celle de l’eau")
     plot = Plot(d, 56, 36, 380, 200, (0, 100), (0, 120))
     plot.axes(20, 20, "*V* (mL)", "*m* (g)")
-    for name, density, ink in (("glycérol", 1.26, MUTED), ("eau", 1.00, BLUE), ("inconnu", 0.789, RED)):
+    for name, density, ink in (("glycérol", 1.26, MUTED), ("eau", 1.00, BLUE),
+                               ("inconnu", 0.789, RED)):
         end = min(100, 120 / density)
         plot.curve(lambda volume: density * volume, ink, 0, end, 2)
         x, y = plot.at(end, density * end)
@@ -83,7 +89,8 @@ def mass_and_volume():
 
 
 def layers():
-    d = Drawing(560, 262, "Une éprouvette où l’huile flotte sur l’eau et l’eau sur le miel : un bouchon flotte sur l’huile, le polyéthylène sur "
+    d = Drawing(560, 262, "Une éprouvette où l’huile flotte sur l’eau et l’eau sur le miel : un "
+                          "bouchon flotte sur l’huile, le polyéthylène sur "
                           "l’eau, le PVC sur le miel, la bille d’acier coule")
     x, wide = 210, 110
     layers = [("huile", 0.92, 60, OIL), ("eau", 1.00, 56, WATER), ("miel", 1.42, 66, "#e0a84a")]
@@ -94,12 +101,15 @@ def layers():
         d.text(x - 18, y + high / 2 + 5, f"{name} : {french(density, 2)}", ink=INK, anchor="end")
         tops.append(y)
         y += high
-    d.path(f"M{x} 16V{y - 8}Q{x} {y} {x + 8} {y}H{x + wide - 8}Q{x + wide} {y} {x + wide} {y - 8}V16", GLASS, 2.2)
+    d.path(f"M{x} 16V{y - 8}Q{x} {y} {x + 8} {y}H{x + wide - 8}Q{x + wide} {y} {x + wide} "
+           f"{y - 8}V16", GLASS, 2.2)
     d.rect(x - 14, y, wide + 28, 8, GROUND, EDGE, 1.2)
     # each floats so deep that it weighs as much as the liquids whose place it takes
     side = 26
-    for index, (name, density, fill, at) in enumerate((("liège", 0.24, "#d0a878", 34), ("polyéthylène", 0.95, WHITE, 66),
-                                                        ("PVC", 1.38, "#9aa7b2", 34), ("acier", 7.80, "#6b6454", 70))):
+    for index, (name, density, fill, at) in enumerate((("liège", 0.24, "#d0a878", 34),
+                                                       ("polyéthylène", 0.95, WHITE, 66),
+                                                        ("PVC", 1.38, "#9aa7b2", 34),
+                                                       ("acier", 7.80, "#6b6454", 70))):
         if index < 3:
             over = [0, *[layer[1] for layer in layers]][index]
             share = (density - over) / (layers[index][1] - over)
@@ -141,8 +151,10 @@ def heated_brine():
 
 
 def melting_curves():
-    d = Drawing(575, 258, "Température de la glace que l’on chauffe : un palier à 0 degré pour l’eau pure, pas de palier pour l’eau salée")
-    for left, name, rows, ink in ((52, "eau pure", heated_ice(), BLUE), (350, "eau salée", heated_brine(), ORANGE)):
+    d = Drawing(575, 258, "Température de la glace que l’on chauffe : un palier à 0 degré pour "
+                          "l’eau pure, pas de palier pour l’eau salée")
+    for left, name, rows, ink in ((52, "eau pure", heated_ice(), BLUE),
+                                  (350, "eau salée", heated_brine(), ORANGE)):
         plot = Plot(d, left, 44, 176, 160, (0, 16), (-20, 20))
         plot.axes(4, 10, "*t* (min)", "*θ* (°C)")
         zero = plot.at(0, 0)[1]
@@ -161,15 +173,18 @@ def melting_curves():
 
 
 def state_ranges():
-    d = Drawing(575, 240, "États de six espèces selon la température : températures de fusion et d’ébullition, et état à 20 degrés")
+    d = Drawing(575, 240, "États de six espèces selon la température : températures de fusion et "
+                          "d’ébullition, et état à 20 degrés")
     left, wide, low, high = 104, 440, -275, 250
     place = lambda degrees: left + wide * (degrees - low) / (high - low)
     for index, (name, melting, boiling) in enumerate(POINTS):
         y = 32 + 28 * index
         d.text(left - 10, y + 14, name, anchor="end", ink=BLUE, bold=True)
-        for start, end, fill in ((low, melting, COLD), (melting, boiling, WATER), (boiling, high, "#fbe9d3")):
+        for start, end, fill in ((low, melting, COLD), (melting, boiling, WATER),
+                                 (boiling, high, "#fbe9d3")):
             d.rect(place(start), y, place(end) - place(start), 18, fill)
-        d.text(place(melting) - 5, y + 14, french(melting, 1 if melting == 6.5 else 0), SMALL, INK, "end")
+        d.text(place(melting) - 5, y + 14, french(melting, 1 if melting == 6.5 else 0), SMALL, INK,
+               "end")
         d.text(place(boiling) + 5, y + 14, french(boiling), SMALL)
     d.line(place(20), 26, place(20), 202, RED, 1.6, "5 3")
     d.text(place(20), 20, "20 °C", ink=RED, anchor="middle", bold=True)
@@ -190,13 +205,16 @@ def pie(d, x, y, radius, parts):
     turned = 0.0
     for share, fill in parts:
         start, end = turned, turned + 2 * math.pi * share
-        d.path(f"M{x} {y}L{x + radius * math.sin(start):.2f} {y - radius * math.cos(start):.2f}A{radius} {radius} 0 "
-               f"{int(share > 0.5)} 1 {x + radius * math.sin(end):.2f} {y - radius * math.cos(end):.2f}Z", EDGE, 1, fill)
+        d.path(f"M{x} {y}L{x + radius * math.sin(start):.2f} "
+               f"{y - radius * math.cos(start):.2f}A{radius} {radius} 0 "
+               f"{int(share > 0.5)} 1 {x + radius * math.sin(end):.2f} "
+               f"{y - radius * math.cos(end):.2f}Z", EDGE, 1, fill)
         turned = end
 
 
 def air():
-    d = Drawing(560, 236, "Composition de l’air sec : en volume, 78 pour cent de diazote, 21 de dioxygène, 1 d’argon et autres gaz ; en masse, 76, "
+    d = Drawing(560, 236, "Composition de l’air sec : en volume, 78 pour cent de diazote, 21 de "
+                          "dioxygène, 1 d’argon et autres gaz ; en masse, 76, "
                           "23 et 1")
     whole = sum(share * molar for _, share, molar, _ in AIR)
     masses = [100 * share * molar / whole for _, share, molar, _ in AIR]
@@ -223,7 +241,8 @@ def air():
 
 
 def coin():
-    d = Drawing(560, 132, "Composition en masse de l’alliage des pièces de 10, 20 et 50 centimes : 89 pour cent de cuivre, 5 d’aluminium, 5 de zinc, "
+    d = Drawing(560, 132, "Composition en masse de l’alliage des pièces de 10, 20 et 50 centimes : "
+                          "89 pour cent de cuivre, 5 d’aluminium, 5 de zinc, "
                           "1 d’étain")
     left, wide = 30, 400
     d.text(left, 18, "100 g de l’alliage des pièces de 10, 20 et 50 centimes", ink=BLUE, bold=True)
@@ -241,9 +260,11 @@ def coin():
     return d
 
 
-FIGURES = {"melanges": mixtures, "masse-volume": mass_and_volume, "densites": layers, "fusion-courbes": melting_curves,
+FIGURES = {"melanges": mixtures, "masse-volume": mass_and_volume, "densites": layers,
+           "fusion-courbes": melting_curves,
            "changements-etat": state_ranges, "air-composition": air, "piece-alliage": coin}
 
 if __name__ == "__main__":
     whole = sum(share * molar for _, share, molar, _ in AIR)
-    print(heated_ice(), heated_brine()[-1], FREEZING * 2 * SALT / 58.44 * 10, [share * molar / whole for _, share, molar, _ in AIR])
+    print(heated_ice(), heated_brine()[-1], FREEZING * 2 * SALT / 58.44 * 10,
+          [share * molar / whole for _, share, molar, _ in AIR])

@@ -20,7 +20,8 @@ CHORD = 2 * TRACK * math.sin(TRAIN * STEP / TRACK / 2)
 
 
 def scales():
-    d = Drawing(575, 210, "Axe des longueurs en puissances de dix, du noyau d’un atome, 10 puissance −15 mètre, "
+    d = Drawing(575, 210, "Axe des longueurs en puissances de dix, du noyau d’un atome, 10 "
+                          "puissance −15 mètre, "
                           "à la Galaxie, 10 puissance 21 mètres")
     left, step = 28, 14.4  # pixels; pixels a power of ten
     place = lambda metres: left + (math.log10(metres) + 15) * step
@@ -39,10 +40,12 @@ def scales():
         d.dot(x, 116, BLUE, 4)
         anchor = "end" if metres > 1e19 else "start" if metres < 1e-13 else "middle"
         d.text(x + {"end": 10, "start": -10, "middle": 0}[anchor], y, name, ink=BLUE, anchor=anchor)
-    for start, end, name in ((1e-15, 1e-8, "microscopique"), (1e-5, 1e5, "à notre échelle"), (1e6, 1e21, "astronomique")):
+    for start, end, name in ((1e-15, 1e-8, "microscopique"), (1e-5, 1e5, "à notre échelle"),
+                             (1e6, 1e21, "astronomique")):
         d.span(place(start), 162, place(end), 162, GREEN)
         d.text((place(start) + place(end)) / 2, 182, name, ink=GREEN, anchor="middle")
-    d.text(287, 204, "D’une graduation à la suivante, la longueur est dix fois plus grande.", SMALL, MUTED, "middle")
+    d.text(287, 204, "D’une graduation à la suivante, la longueur est dix fois plus grande.", SMALL,
+           MUTED, "middle")
     return d
 
 
@@ -51,7 +54,8 @@ def wheel(d, x, y, radius, angle):
     d.circle(x, y, radius, "none", EDGE, 3)
     for spoke in range(0, 360, 45):
         turned = math.radians(spoke + angle)
-        d.line(x, y, x - 0.94 * radius * math.sin(turned), y + 0.94 * radius * math.cos(turned), RULE, 1)
+        d.line(x, y, x - 0.94 * radius * math.sin(turned), y + 0.94 * radius * math.cos(turned),
+               RULE, 1)
     d.dot(x, y, EDGE, 4)
 
 
@@ -60,7 +64,8 @@ def valve(x, y, radius, angle):
 
 
 def frames_of_a_wheel():
-    d = Drawing(575, 232, "La valve d’une roue de vélo décrit un cercle dans le référentiel du vélo, et une suite "
+    d = Drawing(575, 232, "La valve d’une roue de vélo décrit un cercle dans le référentiel du "
+                          "vélo, et une suite "
                           "d’arches dans le référentiel de la route")
     radius, ground = 44, 150
     here, start = 88, 236
@@ -78,19 +83,23 @@ def frames_of_a_wheel():
     d.line(190, ground, 570, ground, EDGE, LINE)
     wheel(d, start, ground - radius, radius, 0)
     wheel(d, far, ground - radius, radius, 0)
-    arches = [valve(start + radius * a, ground - radius, radius, a) for a in (0.05 * i for i in range(-28, 155))]
+    arches = [valve(start + radius * a, ground - radius, radius, a) for a in (0.05 * i for i in range(-28,
+              155))]
     d.curve(arches, RED, 2)
     for step in range(-2, 15):
         turned = math.pi * step / 6
         d.dot(*valve(start + radius * turned, ground - radius, radius, turned), RED, 3.6)
     d.span(start, 172, far, 172, GREEN)
-    d.text((start + far) / 2, 191, f"un tour : 2π*R* = {french(2 * math.pi * WHEEL, 1)} m", ink=GREEN, anchor="middle")
-    d.text(287, 224, f"Roue de rayon *R* = {french(100 * WHEEL)} cm ; la valve, un douzième de tour après l’autre.", SMALL, MUTED, "middle")
+    d.text((start + far) / 2, 191, f"un tour : 2π*R* = {french(2 * math.pi * WHEEL, 1)} m", ink=GREEN,
+           anchor="middle")
+    d.text(287, 224, f"Roue de rayon *R* = {french(100 * WHEEL)} cm ; la valve, un douzième de "
+                     "tour après l’autre.", SMALL, MUTED, "middle")
     return d
 
 
 def displacement():
-    d = Drawing(560, 234, "Dans des rues à angle droit, une élève parcourt 700 mètres de A à B ; le vecteur déplacement "
+    d = Drawing(560, 234, "Dans des rues à angle droit, une élève parcourt 700 mètres de A à B ; "
+                          "le vecteur déplacement "
                           "AB, en ligne droite, mesure 500 mètres")
     left, bottom, scale = 96, 206, 0.56  # pixels; pixels a metre
     place = lambda x, y: (left + scale * x, bottom - scale * y)
@@ -117,8 +126,10 @@ def displacement():
 
 
 def velocity():
-    d = Drawing(560, 252, "Un petit train sur une voie circulaire, photographié toutes les 0,20 s : entre deux positions le "
-                          "vecteur déplacement, et deux vecteurs vitesse de même longueur et de directions différentes")
+    d = Drawing(560, 252, "Un petit train sur une voie circulaire, photographié toutes les 0,20 s "
+                          ": entre deux positions le "
+                          "vecteur déplacement, et deux vecteurs vitesse de même longueur et de "
+                          "directions différentes")
     x, y, scale = 222, 232, 300  # the centre, pixels; pixels a metre
     arrow = 90  # pixels for 0.90 m/s
     angle = lambda i: math.pi - 0.17 - i * TRAIN * STEP / TRACK
@@ -141,7 +152,8 @@ def velocity():
     d.dot(x, y, INK, 3)
     d.line(x, y, *place(6.5), EDGE, 1, "4 3")
     d.text(x + 44, y - 88, f"*R* = {french(TRACK, 2)} m", ink=MUTED, anchor="end")
-    d.lines(426, 60, ["Deux images se suivent", f"de Δ*t* = {french(STEP, 2)} s."], SMALL, MUTED, step=16)
+    d.lines(426, 60, ["Deux images se suivent", f"de Δ*t* = {french(STEP, 2)} s."], SMALL, MUTED,
+            step=16)
     d.span(448, 206, 448 + arrow / 0.9, 206, SPEED)
     d.text(448, 224, "1 m/s", SMALL, SPEED)
     d.span(448, 168, 448 + 0.2 * scale, 168, GREEN)
@@ -150,7 +162,8 @@ def velocity():
 
 
 def tracking():
-    d = Drawing(560, 352, "Pointage de la bille sur les images du film : origine au centre de la bille lâchée, axe vers le bas, "
+    d = Drawing(560, 352, "Pointage de la bille sur les images du film : origine au centre de la "
+                          "bille lâchée, axe vers le bas, "
                           "étalon de 1,00 m sur la règle, positions de plus en plus écartées")
     left, top, scale = 116, 24, 166  # pixels a metre
     d.rect(left - 8, top - 8, 42, 1.8 * scale + 16, IVORY, EDGE, 1, 2)
@@ -173,7 +186,8 @@ def tracking():
     rows = [("1.", "Repérer l’instant du départ :", "c’est l’image 0, *t* = 0."),
             ("2.", "Donner l’échelle : deux points", "de la règle distants de 1,00 m."),
             ("3.", "Choisir l’origine O et l’axe *y*,", "ici vertical, vers le bas."),
-            ("4.", "Avancer d’une image, *t* augmente", f"de {french(INTERVAL, 3)} s ; pointer le centre.")]
+            ("4.", "Avancer d’une image, *t* augmente",
+             f"de {french(INTERVAL, 3)} s ; pointer le centre.")]
     for index, (mark, first, second) in enumerate(rows):
         y = 62 + 62 * index
         d.text(318, y, mark, ink=BLUE, bold=True)
@@ -183,18 +197,23 @@ def tracking():
 
 
 def fall_graphs():
-    d = Drawing(575, 256, "Deux graphiques de la chute relevée sur le film : la distance parcourue croît de plus en plus "
+    d = Drawing(575, 256, "Deux graphiques de la chute relevée sur le film : la distance parcourue "
+                          "croît de plus en plus "
                           "vite, la vitesse croît proportionnellement au temps")
     for left, limit, step, name, values, decimals in (
-            (44, 2.0, 0.5, "*y* (m)", list(enumerate(READ)), 1), (346, 6, 1, "*v* (m/s)", list(enumerate(SPEEDS, 1)), 0)):
+            (44, 2.0, 0.5, "*y* (m)", list(enumerate(READ)), 1),
+                                                      (346, 6, 1, "*v* (m/s)", list(enumerate(SPEEDS,
+                                                       1)), 0)):
         plot = Plot(d, left, 36, 190, 160, (0, 0.6), (0, limit))
         plot.axes(0.1, step, "*t* (s)", name, 1, decimals)
-        plot.curve((lambda t: 0.5 * G * t * t) if limit == 2 else (lambda t: G * t), BLUE, 0, 0.6, 60)
+        plot.curve((lambda t: 0.5 * G * t * t) if limit == 2 else (lambda t: G * t), BLUE, 0, 0.6,
+                   60)
         for i, value in values:
             d.cross(*plot.at(i * INTERVAL, value), RED, 4)
     d.text(60, 56, "parabole", ink=BLUE)
     d.text(362, 56, "droite : *v* = *g* × *t*", ink=BLUE)
-    d.text(44, 252, "croix : relevées sur le film ; traits : le modèle, *g* = 9,81 N/kg", SMALL, MUTED)
+    d.text(44, 252, "croix : relevées sur le film ; traits : le modèle, *g* = 9,81 N/kg", SMALL,
+           MUTED)
     return d
 
 

@@ -10,12 +10,14 @@ SPEED = 340  # m/s, in air at 15 °C
 GAP = 1.70  # metres between two microphones
 TONE = 440  # Hz
 
-LEVELS = [(0, "seuil d’audibilité"), (30, "chambre calme"), (60, "conversation"), (85, "cantine bruyante"),
+LEVELS = [(0, "seuil d’audibilité"), (30, "chambre calme"), (60, "conversation"),
+          (85, "cantine bruyante"),
           (105, "concert"), (130, "avion au décollage")]  # dB
 
 
 def wave():
-    d = Drawing(575, 236, "Un son dans l’air à un instant : zones comprimées et zones détendues, et la courbe de la pression ; une longueur "
+    d = Drawing(575, 236, "Un son dans l’air à un instant : zones comprimées et zones détendues, "
+                          "et la courbe de la pression ; une longueur "
                           "d’onde sépare deux compressions")
     lot, left, right, length, swing = random.Random(9), 70, 545, 150, 17
     middle = lambda x: swing * math.sin(2 * math.pi * (x - left) / length)
@@ -30,7 +32,8 @@ def wave():
     d.rect(14, 30, 18, 56, EDGE, None, round=2)
     d.path("M32 48L62 24V92L32 68Z", BLUE, 1.4, BALL)
     d.line(left, 150, right, 150, EDGE, 1)
-    points = [(x, 150 - 28 * math.cos(2 * math.pi * (x - left) / length + math.pi)) for x in range(left, right + 1)]
+    points = [(x, 150 - 28 * math.cos(2 * math.pi * (x - left) / length + math.pi)) for x in range(left,
+              right + 1)]
     d.curve(points, GREEN, 2)
     d.text(62, 154, "pression", SMALL, GREEN, "end")
     first, second = left + length / 2, left + 1.5 * length
@@ -46,10 +49,12 @@ def wave():
 
 
 def two_microphones():
-    d = Drawing(575, 264, "Deux microphones distants de 1,70 mètre reçoivent un clap à 5,0 millisecondes d’intervalle")
+    d = Drawing(575, 264, "Deux microphones distants de 1,70 mètre reçoivent un clap à 5,0 "
+                          "millisecondes d’intervalle")
     d.circle(36, 52, 5, INK, None)
     for radius in (14, 24, 34):
-        d.path(f"M{36 + radius * 0.7:.1f} {52 - radius * 0.7:.1f}A{radius} {radius} 0 0 1 {36 + radius * 0.7:.1f} {52 + radius * 0.7:.1f}", EDGE, 1.4)
+        d.path(f"M{36 + radius * 0.7:.1f} {52 - radius * 0.7:.1f}A{radius} {radius} 0 0 1 "
+               f"{36 + radius * 0.7:.1f} {52 + radius * 0.7:.1f}", EDGE, 1.4)
     d.text(36, 100, "clap", SMALL, MUTED, "middle")
     for x, name in ((130, "M_{1}"), (480, "M_{2}")):
         d.circle(x, 52, 9, BALL, BLUE, 1.4)
@@ -82,16 +87,19 @@ def two_microphones():
 
 
 def oscillogram():
-    d = Drawing(560, 276, "Oscillogramme d’un la : dix divisions d’une milliseconde ; quatre périodes couvrent 9,1 divisions")
+    d = Drawing(560, 276, "Oscillogramme d’un la : dix divisions d’une milliseconde ; quatre "
+                          "périodes couvrent 9,1 divisions")
     left, top, cell = 60, 44, 40
     for column in range(11):
         d.line(left + cell * column, top, left + cell * column, top + 4 * cell, RULE, 1)
     for row in range(5):
-        d.line(left, top + cell * row, left + 10 * cell, top + cell * row, EDGE if row == 2 else RULE, 1)
+        d.line(left, top + cell * row, left + 10 * cell, top + cell * row, EDGE if row == 2 else RULE,
+               1)
     d.rect(left, top, 10 * cell, 4 * cell, "none", EDGE, 1.6)
     period = 1000 / TONE * cell
     start = left + 0.45 * cell
-    points = [(left + x / 2, top + 2 * cell - 1.5 * cell * math.sin(2 * math.pi * (left + x / 2 - start) / period)) for x in range(20 * cell + 1)]
+    points = [(left + x / 2, top + 2 * cell - 1.5 * cell * math.sin(2 * math.pi * (left + x / 2 - start) / period))
+              for x in range(20 * cell + 1)]
     d.curve(points, BLUE, 2.2)
     for x in (start, start + 4 * period):
         d.line(x, 30, x, top + 2 * cell, RED, 1.2, "4 3")
@@ -106,11 +114,13 @@ def oscillogram():
 
 
 def three_differences():
-    d = Drawing(575, 268, "Trois paires de signaux sur la même durée : plus aigu, la fréquence double ; plus fort, l’amplitude double ; un autre timbre, "
+    d = Drawing(575, 268, "Trois paires de signaux sur la même durée : plus aigu, la fréquence "
+                          "double ; plus fort, l’amplitude double ; un autre timbre, "
                           "une autre forme à la même fréquence")
     sine = lambda amount, count: lambda s: amount * math.sin(2 * math.pi * count * s)
     strings = lambda s: 17 * (math.sin(6 * math.pi * s) + 0.5 * math.sin(12 * math.pi * s + 0.6) + 0.35 * math.sin(18 * math.pi * s))
-    cases = [("hauteur", "grave", sine(20, 3), "aigu", sine(20, 6)), ("intensité", "faible", sine(12, 3), "fort", sine(24, 3)),
+    cases = [("hauteur", "grave", sine(20, 3), "aigu", sine(20, 6)),
+             ("intensité", "faible", sine(12, 3), "fort", sine(24, 3)),
              ("timbre", "diapason", sine(20, 3), "violon", strings)]
     for index, (name, first, one, second, two) in enumerate(cases):
         left, wide = 22 + 188 * index, 155
@@ -120,12 +130,14 @@ def three_differences():
             d.line(left, y, left + wide, y, RULE, 1)
             d.curve([(left + wide * i / 200, y - function(i / 200)) for i in range(201)], ink, 2)
             d.text(left + wide / 2, y + 53, words, ink=ink, anchor="middle")
-    d.text(287, 260, "Chaque cadre montre la même durée, à la même échelle.", SMALL, MUTED, "middle")
+    d.text(287, 260, "Chaque cadre montre la même durée, à la même échelle.", SMALL, MUTED,
+           "middle")
     return d
 
 
 def decibels():
-    d = Drawing(575, 198, "Échelle des niveaux d’intensité sonore, de 0 à 140 décibels : danger à partir de 85 décibels, douleur à partir de 120")
+    d = Drawing(575, 198, "Échelle des niveaux d’intensité sonore, de 0 à 140 décibels : danger à "
+                          "partir de 85 décibels, douleur à partir de 120")
     left, step, y = 36, 3.6, 92  # pixels a decibel
     for start, end, fill in ((0, 85, GREEN_TINT), (85, 120, "#fbeccf"), (120, 140, "#f6cfca")):
         d.rect(left + start * step, y, (end - start) * step, 22, fill)
@@ -140,9 +152,11 @@ def decibels():
         d.line(x, row + 6, x, y, EDGE, 1)
         d.dot(x, y, BLUE, 4)
         d.text(x, row, name, SMALL, BLUE, "start" if level == 0 else "middle")
-    for x, words, ink in ((42, "peu de risque", GREEN), (102, "danger", ORANGE), (130, "douleur", RED)):
+    for x, words, ink in ((42, "peu de risque", GREEN), (102, "danger", ORANGE),
+                          (130, "douleur", RED)):
         d.text(left + x * step, y + 16, words, SMALL, ink, "middle", True)
-    d.text(left, 190, "+ 10 dB : dix fois plus de puissance sonore. + 3 dB : deux fois plus.", SMALL, MUTED)
+    d.text(left, 190, "+ 10 dB : dix fois plus de puissance sonore. + 3 dB : deux fois plus.",
+           SMALL, MUTED)
     return d
 
 

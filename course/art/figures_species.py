@@ -11,17 +11,21 @@ SPOTS = {2.4: "#e0a11c", 4.8: "#b3261e", 6.4: "#2f6fd0"}
 def tube(d, x, y, high=96, mouth_down=False):
     """A test tube of 34 pixels, its middle at x; y is the upper end."""
     if mouth_down:
-        d.path(f"M{x - 17} {y + high}V{y + 17}A17 17 0 0 1 {x + 17} {y + 17}V{y + high}", GLASS, 1.8)
+        d.path(f"M{x - 17} {y + high}V{y + 17}A17 17 0 0 1 {x + 17} {y + 17}V{y + high}", GLASS,
+               1.8)
         d.line(x - 21, y + high, x + 21, y + high, GLASS, 1.8)
     else:
-        d.path(f"M{x - 17} {y}V{y + high - 17}A17 17 0 0 0 {x + 17} {y + high - 17}V{y}", GLASS, 1.8)
+        d.path(f"M{x - 17} {y}V{y + high - 17}A17 17 0 0 0 {x + 17} {y + high - 17}V{y}", GLASS,
+               1.8)
         d.line(x - 21, y, x + 21, y, GLASS, 1.8)
 
 
 def flame(d, x, y, size=1.0):
     """Its foot at x, y."""
-    way = lambda s: (f"M{x} {y - 30 * s:.1f}C{x + 3 * s:.1f} {y - 20 * s:.1f} {x + 9 * s:.1f} {y - 14 * s:.1f} {x + 8 * s:.1f} {y - 6 * s:.1f}"
-                     f"A8 8 0 0 1 {x - 8 * s:.1f} {y - 6 * s:.1f}C{x - 9 * s:.1f} {y - 14 * s:.1f} {x - 3 * s:.1f} {y - 20 * s:.1f} {x} {y - 30 * s:.1f}Z")
+    way = lambda s: (f"M{x} {y - 30 * s:.1f}C{x + 3 * s:.1f} {y - 20 * s:.1f} {x + 9 * s:.1f} "
+                     f"{y - 14 * s:.1f} {x + 8 * s:.1f} {y - 6 * s:.1f}"
+                     f"A8 8 0 0 1 {x - 8 * s:.1f} {y - 6 * s:.1f}C{x - 9 * s:.1f} {y - 14 * s:.1f} "
+                     f"{x - 3 * s:.1f} {y - 20 * s:.1f} {x} {y - 30 * s:.1f}Z")
     d.path(way(size), "none", 0, "#f0962e")
     d.path(way(0.55 * size), "none", 0, "#ffe28a")
 
@@ -31,8 +35,10 @@ def splint(d, x1, y1, x2, y2):
 
 
 def tests():
-    d = Drawing(575, 262, "Quatre tests : l’eau bleuit le sulfate de cuivre anhydre blanc ; le dihydrogène détone près d’une flamme ; le "
-                          "dioxygène ranime une bûchette incandescente ; le dioxyde de carbone trouble l’eau de chaux")
+    d = Drawing(575, 262, "Quatre tests : l’eau bleuit le sulfate de cuivre anhydre blanc ; le "
+                          "dihydrogène détone près d’une flamme ; le "
+                          "dioxygène ranime une bûchette incandescente ; le dioxyde de carbone "
+                          "trouble l’eau de chaux")
     places = [72 + 144 * index for index in range(4)]
     for index, (name, formula, first, second) in enumerate((
             ("eau", "H_{2}O", "sulfate de cuivre", "blanc → bleu"),
@@ -48,7 +54,8 @@ def tests():
     x = places[0]  # a dish with the white powder, half of it blue
     d.area([(x - 44, 152), (x - 26, 136), (x, 130), (x, 152)], "#f5f5f2", EDGE, 1)
     d.area([(x, 152), (x, 130), (x + 26, 136), (x + 44, 152)], "#3f86d8", EDGE, 1)
-    d.path(f"M{x - 56} 144Q{x - 50} 158 {x - 36} 158H{x + 36}Q{x + 50} 158 {x + 56} 144", GLASS, 2.2)
+    d.path(f"M{x - 56} 144Q{x - 50} 158 {x - 36} 158H{x + 36}Q{x + 50} 158 {x + 56} 144", GLASS,
+           2.2)
     d.path(f"M{x + 14} 46V78L{x + 18} 92L{x + 22} 78V46Z", GLASS, 1.6, WATER)
     d.path(f"M{x + 18} 98q5 8 0 11q-5 -3 0 -11Z", BLUE, 1, WATER)
     d.rect(x + 11, 26, 14, 20, "#c9543f", None, round=6)
@@ -68,7 +75,8 @@ def tests():
     d.rect(x - 16, 104, 32, 46, "#e9e9e4")
     d.path(f"M{x - 16} 148H{x + 16}A16 16 0 0 1 {x - 16} 148Z", "none", 0, "#e9e9e4")
     tube(d, x, 72, 98)
-    for dx, dy in ((-9, 120), (4, 114), (10, 132), (-4, 140), (6, 150), (-10, 150), (1, 128), (11, 144), (-6, 158)):
+    for dx, dy in ((-9, 120), (4, 114), (10, 132), (-4, 140), (6, 150), (-10, 150), (1, 128),
+                   (11, 144), (-6, 158)):
         d.circle(x + dx, dy, 2.2, WHITE, "#b9b3a2", 0.7)
     d.path(f"M{x - 46} 30H{x - 10}Q{x} 30 {x} 40V150", EDGE, 3)
     d.path(f"M{x - 46} 30H{x - 10}Q{x} 30 {x} 40V150", WHITE, 1.2)
@@ -79,7 +87,8 @@ def tests():
 
 
 def chromatography():
-    d = Drawing(575, 262, "Chromatographie : à gauche, la plaque dans la cuve où l’éluant monte ; à droite, la plaque révélée, le front à 8,0 "
+    d = Drawing(575, 262, "Chromatographie : à gauche, la plaque dans la cuve où l’éluant monte ; "
+                          "à droite, la plaque révélée, le front à 8,0 "
                           "centimètres, les taches de A à la hauteur de celles de B et de D")
     # the tank
     d.rect(40, 54, 130, 158, WHITE, GLASS, 2, 6)
@@ -106,7 +115,8 @@ def chromatography():
         d.path(f"M{x - 3} {start}h6M{x} {start - 3}v6", MUTED, 1.2)
         d.text(x, start + 15, name, SMALL, INK, "middle", True)
         for high in heights:
-            d.parts.append(f'<ellipse cx="{x}" cy="{start - high * scale:.1f}" rx="8" ry="6" fill="{SPOTS[high]}"/>')
+            d.parts.append(f'<ellipse cx="{x}" cy="{start - high * scale:.1f}" rx="8" ry="6" '
+                           f'fill="{SPOTS[high]}"/>')
     d.span(left + 172, start, left + 172, front, BLUE)
     d.text(left + 180, front + 22, f"*H* = {french(FRONT, 1)} cm", ink=BLUE)
     d.span(left + 192, start, left + 192, start - 2.4 * scale, GREEN)

@@ -26,26 +26,33 @@ class Accommodation:
         tip = self.lens - distance, self.axis - self.tall
         d.arrow(tip[0], self.axis, *tip, BLUE, 2.4)
         end = self.lens + image, self.axis + self.tall * image / distance
-        for height, ink in ((self.axis - self.tall, GREEN), (self.axis, RED), (self.axis + 22, ORANGE)):
+        for height, ink in ((self.axis - self.tall, GREEN), (self.axis, RED),
+                            (self.axis + 22, ORANGE)):
             d.line(*tip, self.lens, height, ink, 1.2)
             share = (self.screen - self.lens) / image
             d.line(self.lens, height, self.screen, height + share * (end[1] - height), ink, 1.2)
             if image > self.screen - self.lens + 0.3:
                 d.line(self.screen, height + share * (end[1] - height), min(end[0], 316),
-                       height + (min(end[0], 316) - self.lens) / image * (end[1] - height), ink, 0.8, "2 3")
+                       height + (min(end[0], 316) - self.lens) / image * (end[1] - height), ink,
+                       0.8, "2 3")
         d.text(8, 20, "œil réduit, agrandi", SMALL, MUTED)
         if seconds >= self.adapting[0]:
-            d.text(312, 20, "la distance focale diminue" if seconds < self.adapting[1] else "distance focale plus petite",
+            d.text(312, 20, "la distance focale diminue" if seconds < self.adapting[1] else
+                   "distance focale plus petite",
                    SMALL, BLUE, "end")
         return picture(*d.parts[2:], caption(seconds, [
-            (0, "L’image se forme sur la rétine : c’est net"), (self.coming[0], "L’objet s’approche"),
-            (4.6, "L’image est derrière la rétine : c’est flou"), (self.adapting[0], "Le cristallin se bombe : il accommode"),
+            (0, "L’image se forme sur la rétine : c’est net"),
+                                                       (self.coming[0], "L’objet s’approche"),
+            (4.6, "L’image est derrière la rétine : c’est flou"),
+                                                       (self.adapting[0],
+                                                        "Le cristallin se bombe : il accommode"),
             (9.8, "L’image est revenue sur la rétine : c’est net")]))
 
     def eye(self, d, focal):
         bulge = 4 + 12 * (self.focal(self.far) - focal) / (self.focal(self.far) - self.focal(self.near))
         x, y = self.lens, self.axis
-        d.path(f"M{x} {y - 44}Q{x + bulge:.2f} {y} {x} {y + 44}Q{x - bulge:.2f} {y} {x} {y - 44}Z", BLUE, 1.4, BALL)
+        d.path(f"M{x} {y - 44}Q{x + bulge:.2f} {y} {x} {y + 44}Q{x - bulge:.2f} {y} {x} {y - 44}Z",
+               BLUE, 1.4, BALL)
         d.line(x - 10, y - 66, x - 10, y - 36, ORANGE, 4)
         d.line(x - 10, y + 36, x - 10, y + 66, ORANGE, 4)
         d.path(f"M{x - 6} {y - 70}C{x + 50} {y - 96} {self.screen + 4} {y - 60} {self.screen} {y}"

@@ -88,7 +88,8 @@ class Diffusion:
                        for x, y, _, gas in self.molecules)
         shift = drawn / 96 * (right - left)
         return (f'<rect x="{left}" y="{top}" width="{right - left}" height="{bottom - top}" '
-                f'fill="#fff" stroke="{RULE}"/>{dots}<path d="M{left + shift:.1f} {middle}H{right}" '
+                f'fill="#fff" stroke="{RULE}"/>{dots}<path d="M{left + shift:.1f} '
+                f'{middle}H{right}" '
                 f'stroke="#5f7d92" stroke-width="4"/>')
 
 
@@ -113,7 +114,8 @@ class Balloon:
             f'<circle cx="{x:.0f}" cy="{192 - 26 * ((seconds * 1.3 + phase) % 1):.1f}" r="2.4" '
             f'fill="none" stroke="{GAS}"/>' for x, phase in self.bubbles)
         return (f'<path d="{outline}Z" fill="{GAS}" fill-opacity="{brown:.3f}"/>'
-                f'<path d="M29 166L22 186Q18 200 32 200H100Q114 200 110 186L103 166Z" fill="{ACID}"/>'
+                '<path d="M29 166L22 186Q18 200 32 200H100Q114 200 110 186L103 166Z" '
+                f'fill="{ACID}"/>'
                 f'<path d="M40 197l8-5 9 5 8-6 9 6 9-5 8 5Z" fill="{COPPER}"/>{rising}'
                 f'<path d="{outline}" fill="none" stroke="{GLASS}" stroke-width="3"/>'
                 f'<rect x="50" y="54" width="32" height="14" rx="3" fill="#6b6454"/>')
@@ -121,11 +123,14 @@ class Balloon:
     def flask(self, seconds):
         level = 222 - 208 * ease(seconds, self.filling, self.full)
         leaving = "".join(
-            f'<path d="M{x} {30 - 14 * ((seconds + shift) % 1):.1f}v-9m-3.5 4 3.5-4 3.5 4" fill="none" '
+            f'<path d="M{x} {30 - 14 * ((seconds + shift) % 1):.1f}v-9m-3.5 4 3.5-4 3.5 4" '
+            'fill="none" '
             f'stroke="{INK}" stroke-width="1.5"/>' for x, shift in ((242, 0), (256, 0.5)))
         outline = "M218 30V82A62 62 0 1 0 248 82V30"
-        return (f'<linearGradient id="f" gradientUnits="userSpaceOnUse" x1="0" y1="{level - 16:.1f}" '
-                f'x2="0" y2="{level + 16:.1f}"><stop offset="0" stop-color="{GAS}" stop-opacity="0"/>'
+        return ('<linearGradient id="f" gradientUnits="userSpaceOnUse" x1="0" '
+                f'y1="{level - 16:.1f}" '
+                f'x2="0" y2="{level + 16:.1f}"><stop offset="0" stop-color="{GAS}" '
+                'stop-opacity="0"/>'
                 f'<stop offset="1" stop-color="{GAS}" stop-opacity="0.78"/></linearGradient>'
                 f'<path d="{outline}Z" fill="url(#f)"/>'
                 f'<path d="{outline}" fill="none" stroke="{GLASS}" stroke-width="3"/>'

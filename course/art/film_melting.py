@@ -29,7 +29,8 @@ class Melting:
         start = (self.wide - side * (self.columns - 0.5)) / 2
         self.places = [[start + side * (column + 0.5 * (row % 2)), 0.6 + side * 0.866 * row]
                        for row in range(self.rows) for column in range(self.columns)]
-        self.speeds = [[lot.gauss(0, math.sqrt(self.cold)), lot.gauss(0, math.sqrt(self.cold))] for _ in self.places]
+        self.speeds = [[lot.gauss(0, math.sqrt(self.cold)), lot.gauss(0, math.sqrt(self.cold))] for _
+                       in self.places]
         self.pushes = self.forces()
 
     def forces(self):
@@ -78,9 +79,13 @@ class Melting:
         d.rect(self.left, self.bottom - high, self.wide * self.scale, high, WHITE)
         for number, (x, y) in enumerate(self.places):
             fill = RED if number in (19, 36) else INK
-            d.parts.append(f'<circle cx="{self.left + x * self.scale:.2f}" cy="{self.bottom - y * self.scale:.2f}" r="9.4" fill="{fill}"/>')
-        d.path(f"M{self.left} {self.bottom - high}V{self.bottom}H{right}V{self.bottom - high}", GLASS, 3)
+            d.parts.append(f'<circle cx="{self.left + x * self.scale:.2f}" '
+                           f'cy="{self.bottom - y * self.scale:.2f}" r="9.4" fill="{fill}"/>')
+        d.path(f"M{self.left} {self.bottom - high}V{self.bottom}H{right}V{self.bottom - high}",
+               GLASS, 3)
         d.text(312, 18, "deux molécules sont marquées", SMALL, MUTED, "end")
         return picture(*d.parts[2:], caption(seconds, [
-            (0, "Solide : elles vibrent sur place"), (start, "On chauffe : elles vibrent plus fort"),
+            (0, "Solide : elles vibrent sur place"),
+                                                       (start,
+                                                        "On chauffe : elles vibrent plus fort"),
             (5.8, "Le solide fond"), (end + 0.4, "Liquide : proches, mais libres de glisser")]))

@@ -25,7 +25,8 @@ class Valve:
         d.text(312, 18, f"*t* = {french(turned / 2 / math.pi * self.turn, 2)} s", ink=MUTED, anchor="end")
         self.ground(d, self.road, 0)
         self.wheel(d, self.first + way, self.road, turned)
-        self.trace(d, turned, lambda a: valve(self.first + self.radius * a, self.road - self.radius, self.radius, a))
+        self.trace(d, turned, lambda a: valve(self.first + self.radius * a, self.road - self.radius,
+                                              self.radius, a))
         d.line(0, 116, 320, 116, EDGE, 1)
         d.text(8, 134, "Référentiel du vélo", ink=INK, bold=True)
         self.ground(d, self.bike, way)
@@ -53,7 +54,8 @@ class Valve:
         d.dot(x, y, INK, 2.6)
 
     def trace(self, d, turned, place):
-        d.curve([place(0.04 * i) for i in range(int(turned / 0.04) + 1)] + [place(turned)], RED, 1.2)
+        d.curve([place(0.04 * i) for i in range(int(turned / 0.04) + 1)] + [place(turned)], RED,
+                1.2)
         for step in range(int(turned * 6 / math.pi + 1e-6) + 1):
             d.dot(*place(math.pi * step / 6), RED, 2)
         d.circle(*place(turned), 3.4, RED, None)
@@ -93,8 +95,10 @@ class Fall:
     def draw_ball(self, d, fallen, opacity=1.0):
         y = self.top + fallen * self.scale
         d.parts.append(f'<g opacity="{opacity}">')
-        d.parts.append(f'<circle cx="{self.x}" cy="{y:.3f}" r="{self.ball}" fill="{BALL}" stroke="{INK}"/>')
-        d.parts.append(f'<path d="M{self.x - 3.8} {y:.3f}h7.6" stroke="{INK}" stroke-width="0.6"/></g>')
+        d.parts.append(f'<circle cx="{self.x}" cy="{y:.3f}" r="{self.ball}" fill="{BALL}" '
+                       f'stroke="{INK}"/>')
+        d.parts.append(f'<path d="M{self.x - 3.8} {y:.3f}h7.6" stroke="{INK}" '
+                       'stroke-width="0.6"/></g>')
 
     def surroundings(self, d):
         d.rect(self.x - 9, 4, 18, self.top - self.ball - 4, EDGE, None, round=2)  # the magnet
@@ -104,7 +108,8 @@ class Fall:
         d.rect(112, 8, 46, bottom - 4, WHITE, EDGE, 1, 2)
         for mark in range(37):  # every 5 cm: closer ones would run together in a small window
             y = self.top + mark * 0.05 * self.scale
-            d.parts.append(f'<path d="M158 {y:.3f}h-{12 if mark % 2 == 0 else 7}" stroke="{INK}" stroke-width="0.9"/>')
+            d.parts.append(f'<path d="M158 {y:.3f}h-{12 if mark % 2 == 0 else 7}" stroke="{INK}" '
+                           'stroke-width="0.9"/>')
             if mark % 4 == 0:
                 d.text(141, y + 4, str(5 * mark), SMALL, INK, "end")
         d.text(108, 24, "cm", SMALL, MUTED, "end")

@@ -22,7 +22,8 @@ class Dilution:
     bulb, centre, neck, mark, rim = 36, (222, 168), 6, 98, 74  # units; the flask
     beaker = (60, 148, 120, 204)  # left, top, right, bottom
     stages = [(0, "Solution mère"), (1, "On prélève 10,0 mL à la pipette jaugée"),
-              (4, "On les verse dans une fiole de 100,0 mL"), (6.2, "On ajoute de l’eau distillée, aux deux tiers"),
+              (4, "On les verse dans une fiole de 100,0 mL"),
+              (6.2, "On ajoute de l’eau distillée, aux deux tiers"),
               (8.2, "On bouche et on agite"), (9.8, "On complète jusqu’au trait de jauge"),
               (11.4, "Même quantité de soluté, volume × 10")]
 
@@ -37,7 +38,8 @@ class Dilution:
             low, high = self.mark, bottom
             for _ in range(40):
                 middle = (low + high) / 2
-                low, high = (middle, high) if self.filled(middle) > self.whole * tenth / 1000 else (low, middle)
+                low, high = (middle, high) if self.filled(middle) > self.whole * tenth / 1000 else (low,
+                                                                                                    middle)
             self.levels[tenth] = (low + high) / 2
 
     def filled(self, level):
@@ -61,7 +63,8 @@ class Dilution:
     def draw_beaker(self, d, taken):
         left, top, right, bottom = self.beaker
         level = top + 14 + 0.5 * taken
-        d.parts.append(f'<rect x="{left}" y="{level:.2f}" width="{right - left}" height="{bottom - level:.2f}" '
+        d.parts.append(f'<rect x="{left}" y="{level:.2f}" width="{right - left}" '
+                       f'height="{bottom - level:.2f}" '
                        f'fill="{BLUE}" fill-opacity="{opacity(1, 60):.3f}"/>')
         d.path(f"M{left} {top}V{bottom}H{right}V{top}", GLASS, 2.4)
         d.lines(left - 8, 176, ["solution", "mère"], SMALL, MUTED, "end", step=15)
@@ -94,37 +97,51 @@ class Dilution:
         bottom = y + self.bulb
         share = min(1, max(0, (bottom - solute) / (bottom - level)))
         d.parts.append(
-            f'<linearGradient id="l" gradientUnits="userSpaceOnUse" x1="0" x2="0" y1="{bottom}" y2="{level:.2f}">'
-            f'<stop offset="{max(0, share - 0.05):.3f}" stop-color="{BLUE}" stop-opacity="{below:.3f}"/>'
-            f'<stop offset="{min(1, share + 0.05):.3f}" stop-color="{BLUE}" stop-opacity="{max(above, 0.04):.3f}"/>'
-            f'</linearGradient><clipPath id="c"><path d="M{x - self.neck} {self.rim}V{self.neck_top:.2f}'
-            f'A{self.bulb} {self.bulb} 0 1 0 {x + self.neck} {self.neck_top:.2f}V{self.rim}Z"/></clipPath>'
-            f'<rect x="{x - 40}" y="{level:.2f}" width="80" height="{bottom - level:.2f}" fill="url(#l)" '
+            f'<linearGradient id="l" gradientUnits="userSpaceOnUse" x1="0" x2="0" y1="{bottom}" '
+            f'y2="{level:.2f}">'
+            f'<stop offset="{max(0, share - 0.05):.3f}" stop-color="{BLUE}" '
+            f'stop-opacity="{below:.3f}"/>'
+            f'<stop offset="{min(1, share + 0.05):.3f}" stop-color="{BLUE}" '
+            f'stop-opacity="{max(above, 0.04):.3f}"/>'
+            f'</linearGradient><clipPath id="c"><path d="M{x - self.neck} '
+            f'{self.rim}V{self.neck_top:.2f}'
+            f'A{self.bulb} {self.bulb} 0 1 0 {x + self.neck} '
+            f'{self.neck_top:.2f}V{self.rim}Z"/></clipPath>'
+            f'<rect x="{x - 40}" y="{level:.2f}" width="80" height="{bottom - level:.2f}" '
+            'fill="url(#l)" '
             f'clip-path="url(#c)"/>')
         for across, share in self.grains[:round(24 * poured / 10)]:
             around = share * (poured + mixed * (volume - poured))  # what is below the grain
             height = min(max(self.levels[round(10 * around)], level + 3), bottom - 3)
             half = math.sqrt(max(0, self.bulb ** 2 - (y - height) ** 2)) - 4
-            d.dot(x + (half if height > self.neck_top else self.neck - 3) * (2 * across - 1), height, GRAIN, 1.9)
+            d.dot(x + (half if height > self.neck_top else self.neck - 3) * (2 * across - 1),
+                  height, GRAIN, 1.9)
 
     def pipette(self, d, seconds, inside):
         left, top, right, bottom = self.beaker
         across = ease(seconds, 3.5, 4.4)
         gone = ease(seconds, 6.1, 6.5)
         x = (left + right) / 2 + across * (self.centre[0] - (left + right) / 2)
-        tip = 92 + 100 * ease(seconds, 1.2, 1.9) - 124 * ease(seconds, 3.0, 3.5) + 16 * ease(seconds, 4.4, 4.7)
+        tip = 92 + 100 * ease(seconds, 1.2, 1.9) - 124 * ease(seconds, 3.0, 3.5) + 16 * ease(seconds,
+                                                                                             4.4,
+                                                                                             4.7)
         if gone >= 1:
             return
         tip -= 90 * gone
-        outline = (f"M{x - 1.5:.2f} {tip:.2f}V{tip - 24:.2f}Q{x - 6:.2f} {tip - 28:.2f} {x - 6:.2f} {tip - 33:.2f}"
-                   f"V{tip - 47:.2f}Q{x - 6:.2f} {tip - 52:.2f} {x - 1.5:.2f} {tip - 56:.2f}V{tip - 84:.2f}"
-                   f"H{x + 1.5:.2f}V{tip - 56:.2f}Q{x + 6:.2f} {tip - 52:.2f} {x + 6:.2f} {tip - 47:.2f}"
-                   f"V{tip - 33:.2f}Q{x + 6:.2f} {tip - 28:.2f} {x + 1.5:.2f} {tip - 24:.2f}V{tip:.2f}Z")
+        outline = (f"M{x - 1.5:.2f} {tip:.2f}V{tip - 24:.2f}Q{x - 6:.2f} {tip - 28:.2f} "
+                   f"{x - 6:.2f} {tip - 33:.2f}"
+                   f"V{tip - 47:.2f}Q{x - 6:.2f} {tip - 52:.2f} {x - 1.5:.2f} "
+                   f"{tip - 56:.2f}V{tip - 84:.2f}"
+                   f"H{x + 1.5:.2f}V{tip - 56:.2f}Q{x + 6:.2f} {tip - 52:.2f} {x + 6:.2f} "
+                   f"{tip - 47:.2f}"
+                   f"V{tip - 33:.2f}Q{x + 6:.2f} {tip - 28:.2f} {x + 1.5:.2f} "
+                   f"{tip - 24:.2f}V{tip:.2f}Z")
         d.path(outline, "none", 0, WHITE)
         if inside > 0.02:
             high = 66 * inside / 10
             d.parts.append(f'<clipPath id="p"><path d="{outline}"/></clipPath>'
-                           f'<rect x="{x - 8:.2f}" y="{tip - high:.2f}" width="16" height="{high:.2f}" fill="{BLUE}" '
+                           f'<rect x="{x - 8:.2f}" y="{tip - high:.2f}" width="16" '
+                           f'height="{high:.2f}" fill="{BLUE}" '
                            f'fill-opacity="{opacity(1, 40):.3f}" clip-path="url(#p)"/>')
         d.path(outline, GLASS, 1.4)
         d.rect(x - 4.5, tip - 97, 9, 14, EDGE, None, round=3)
@@ -138,7 +155,8 @@ class Dilution:
         x = self.centre[0]
         d.parts.append(f'<g transform="translate({shift:.2f} 0)">')
         d.path(f"M{x + 50} 62Q{x + 50} 42 {x + 26} 44Q{x + 6} 46 {x} 62", GLASS, 2.4)
-        d.path(f"M{x + 38} 64h24v-6h-24ZM{x + 34} 66h32v52q0 4 -4 4h-24q-4 0 -4 -4Z", GLASS, 1.6, WHITE)
+        d.path(f"M{x + 38} 64h24v-6h-24ZM{x + 34} 66h32v52q0 4 -4 4h-24q-4 0 -4 -4Z", GLASS, 1.6,
+               WHITE)
         d.rect(x + 36, 84, 28, 36, "#dbe9f8", None)
         d.text(x + 50, 104, "eau", SMALL, MUTED, "middle")
         d.parts.append("</g>")

@@ -22,7 +22,8 @@ class Sound:
 
     def __init__(self):
         lot = random.Random(2)
-        self.air = [(self.speaker + 4 + 5.2 * column + lot.uniform(-2, 2), self.top + 6 + 8.5 * (row + lot.uniform(-0.4, 0.4)))
+        self.air = [(self.speaker + 4 + 5.2 * column + lot.uniform(-2, 2), self.top + 6 + 8.5 * (row
+                     + lot.uniform(-0.4, 0.4)))
                     for column in range(52) for row in range(10)]
 
     def moved(self, x, seconds):
@@ -52,7 +53,9 @@ class Sound:
         d.text(8, 20, "ralenti mille fois", SMALL, MUTED)
         return picture(*d.parts[2:], caption(seconds, [
             (0, "L’air est au repos"), (self.start, "La membrane vibre : 500 fois par seconde"),
-            (4.2, "Le son avance, l’air reste sur place"), (7.2, "Suivez une compression sur la règle")]))
+            (4.2, "Le son avance, l’air reste sur place"),
+                                                       (7.2,
+                                                        "Suivez une compression sur la règle")]))
 
     def draw_speaker(self, d, moved):
         d.rect(6, 44, 16, 64, EDGE, None, round=2)
