@@ -1,7 +1,7 @@
 #pragma once
 
-#include "coursedata/exercise_tables.h"
 #include "exercises/calculator_beside.h"
+#include "exercises/database_records.h"
 #include "exercises/question_edit.h"
 #include "exercises/question_page.h"
 #include "exercises/test_session.h"
@@ -74,8 +74,8 @@ public:
     void setBlinkInterval(int milliseconds) { blinkInterval_ = milliseconds; }
 
     // TestView
-    void setTitle(const QString& title) override;
-    void setCaption(const QString& caption) override;
+    void setTitle(const std::u16string& title) override;
+    void setCaption(const std::u16string& caption) override;
     void setPreviousVisible(bool visible) override;
     void setNextVisible(bool visible) override;
     void setValidateVisible(bool visible) override;
@@ -86,8 +86,10 @@ public:
     void repaintStrip() override;
     void focusStrip() override;
     void misanet() override;
-    void drawQuestion(const QString& source) override;
+    void drawQuestion(const std::u16string& source) override;
     void showRightAnswer() override;
+    void tell(const Message& message) override;
+    bool ask(const Message& question) override;
 
     // markup::SourceWindow
     page::RichTextHolder& code() override { return code_; }
@@ -143,7 +145,7 @@ private:
     page::Recording recording_;
     page::RichTextHolder code_;
     QuestionPage page_;
-    coursedata::ExerciseTables tables_;
+    DatabaseRecords records_;
     std::unique_ptr<AnswerPanel> answers_;
     std::optional<markup::Renderer> renderer_;
     std::optional<TestSession> session_;

@@ -48,8 +48,8 @@ double drawnFoot(const page::Recording& recording, const page::Surface& surface)
 
 } // namespace
 
-void Exo::setTitle(const QString& title) {
-    const QString words = title.simplified();
+void Exo::setTitle(const std::u16string& title) {
+    const QString words = QString::fromStdU16String(title).simplified();
     const QString shown =
         Label2_->fontMetrics().elidedText(words, Qt::ElideRight, Label2_->width());
     Label2_->setText(shown);
@@ -57,8 +57,8 @@ void Exo::setTitle(const QString& title) {
     Label2_->setAccessibleName(words);
 }
 
-void Exo::setCaption(const QString& caption) {
-    noa_->setText(caption);
+void Exo::setCaption(const std::u16string& caption) {
+    noa_->setText(QString::fromStdU16String(caption));
 }
 
 /// A button that goes leaves the keyboard to the question, not to some other button: the same key
@@ -130,13 +130,13 @@ markup::AnswerFields* Exo::answerFields() {
     return &answers_->fields();
 }
 
-void Exo::drawQuestion(const QString& source) {
+void Exo::drawQuestion(const std::u16string& source) {
     markup::DrawingState& drawing = parts_.drawing;
     drawing.fenetreSource = this;
     drawing.surfaceDessin = &Picture2_->surface();
     drawing.enImpression = false;
     drawing.hauteurPage = 0;
-    code_.setText(source);
+    code_.setText(QString::fromStdU16String(source));
     renderer_->affichepage();
 
     answers_->place();
@@ -196,6 +196,19 @@ void Exo::nameQuestion() {
                                                        : QStringLiteral(", réponse juste");
     tellNewName(*Picture2_, name);
     tellNewName(*noa_, name);
+}
+
+void Exo::tell(const Message& message) {
+    parts_.prompter.ask({.title = QString::fromStdU16String(message.title),
+                         .text = QString::fromStdU16String(message.text)});
+}
+
+bool Exo::ask(const Message& question) {
+    return parts_.prompter.ask({.title = QString::fromStdU16String(question.title),
+                                .text = QString::fromStdU16String(question.text),
+                                .icon = platform::Message::Icon::Question,
+                                .buttons = platform::Message::Buttons::YesNo}) ==
+           platform::Answer::Yes;
 }
 
 void Exo::showRightAnswer() {
