@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <limits>
 #include <random>
 #include <set>
 
@@ -124,6 +125,24 @@ INSTANTIATE_TEST_SUITE_P(Samples, Corruption,
                          testing::Values("testV1997", "test2V1997", "test2V2000",
                                          "overflowTestV2000", "testUnicodeCompV2003"),
                          [](const auto& test) { return std::string(test.param); });
+
+TEST(MemorySource, givesNothingBeyondItsBytes) {
+    const jet::MemorySource source({1, 2, 3});
+    constexpr std::uint64_t kFar = std::numeric_limits<std::uint64_t>::max();
+    const struct {
+        std::uint64_t offset;
+        std::size_t count;
+        bool given;
+    } rows[] = {{0, 3, true},  {1, 2, true},  {3, 0, true},     {0, 4, false},
+                {2, 2, false}, {3, 1, false}, {kFar, 1, false}, {kFar - 1, 3, false}};
+    for (const auto& row : rows) {
+        FileBytes bytes(row.count);
+        EXPECT_EQ(source.read(row.offset, bytes), row.given) << row.offset << ", " << row.count;
+        if (row.given && row.count > 0) {
+            EXPECT_EQ(bytes.front(), row.offset + 1);
+        }
+    }
+}
 
 TEST(OpeningAFile, thatIsNoDatabase) {
     const ScratchFolder scratch;
