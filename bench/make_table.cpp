@@ -1,6 +1,6 @@
 // Writes a course database with any number of pages of 1.6 KB: make_table FILE ROWS
 
-#include "jet/writer.h"
+#include "jet/database_file.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -46,7 +46,7 @@ int main(int argc, char** argv) {
     if (argc != 3)
         return 2;
     const int rows = std::atoi(argv[2]);
-    auto writer = jet::DatabaseWriter::create(argv[1]);
+    auto writer = jet::createDatabase(argv[1]);
     if (!writer)
         return fail(writer.error());
     auto table = writer->addTable(u"cours", columns());

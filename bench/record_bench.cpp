@@ -1,6 +1,6 @@
 // One record by position, warm, and the index of all pages: record_bench FILE
 
-#include "jet/database.h"
+#include "jet/database_file.h"
 
 #include <algorithm>
 #include <chrono>
@@ -25,7 +25,7 @@ double medianOf(std::vector<double> values) {
 int main(int argc, char** argv) {
     if (argc != 2)
         return 2;
-    auto database = jet::Database::open(argv[1]);
+    auto database = jet::openDatabase(argv[1]);
     auto table = database->table(u"cours");
     const std::size_t count = table->recordCount();
     const std::size_t fpc = *table->columnIndex(u"fpc");
@@ -47,7 +47,7 @@ int main(int argc, char** argv) {
     for (int i = 0; i < 9; ++i) {
         std::size_t seen = 0;
         const auto start = Clock::now();
-        auto fresh = jet::Database::open(argv[1])->table(u"cours");
+        auto fresh = jet::openDatabase(argv[1])->table(u"cours");
         fresh->scan(columns, [&](std::size_t, std::span<const jet::Value>) { return ++seen > 0; });
         scans.push_back(microsecondsSince(start) / 1000);
         if (seen != count)

@@ -2,10 +2,10 @@
 //   search_bench text FILE OUT       writes the page sources as UTF-8, for peers that read text
 //   search_bench time FILE WORD...   medians in milliseconds
 
-#include "jet/database.h"
-#include "jet/unicode.h"
+#include "jet/database_file.h"
 #include "search/course_pages.h"
 #include "search/page_search.h"
+#include "text/utf8.h"
 
 #include <sqlite3.h>
 
@@ -45,13 +45,13 @@ struct Page {
 /// What is searched: all pages but the first.
 std::vector<Page> pagesOf(const char* file) {
     std::vector<Page> pages;
-    auto table = jet::Database::open(file)->table(u"cours");
+    auto table = jet::openDatabase(file)->table(u"cours");
     const std::size_t titre = *table->columnIndex(u"titre");
     const std::size_t fpc = *table->columnIndex(u"fpc");
     table->visit(
         [&](jet::RecordView& record) {
             const auto text = [&](std::size_t column) {
-                return jet::toUtf8(*record.value(column)->text());
+                return text::toUtf8(*record.value(column)->text());
             };
             pages.push_back({text(titre), text(fpc)});
             return true;
@@ -129,12 +129,12 @@ int timeSearches(const char* file, std::span<char* const> words) {
     std::string typed;
     for (const char* word : words)
         typed += std::string(word) + ' ';
-    search::Query query{search::queryWords(jet::toUtf16(typed))};
+    search::Query query{search::queryWords(text::toUtf16(typed))};
     std::size_t hits = 0;
     // As a window opens and its first search runs; its closing is not part of that.
     std::optional<search::CoursePages> pages;
     const auto openAndSearch = [&] {
-        pages.emplace(*search::CoursePages::open(file));
+        pages.emplace(*search::CoursePages::open(*jet::openDatabase(file)));
         hits = search(*pages, query);
     };
     const auto close = [&] { pages.reset(); };

@@ -6,9 +6,9 @@ add_library(orvalente_flags INTERFACE)
 target_compile_features(orvalente_flags INTERFACE cxx_std_20)
 target_compile_definitions(orvalente_flags INTERFACE QT_NO_KEYWORDS QT_NO_FOREACH
                            QT_NO_CAST_FROM_BYTEARRAY QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+set(ORVALENTE_WARNINGS -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
 if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
-    target_compile_options(orvalente_flags INTERFACE
-        -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
+    target_compile_options(orvalente_flags INTERFACE ${ORVALENTE_WARNINGS})
 endif()
 if(ORVALENTE_SANITIZE)
     target_compile_options(orvalente_flags INTERFACE
@@ -28,10 +28,37 @@ target_include_directories(orvalente_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
 # A folder of src/ as a static library. It links only what it names: a stray use of a higher layer
 # fails to link.
 #   orvalente_library(markup SOURCES a.cpp b.cpp LINKS text platform)
+# WEB: it needs nothing but the standard library, no files and no Qt, so that browsers can have it
+# too. It links libraries of its kind only, and scripts/web compiles it for wasm32.
 function(orvalente_library name)
-    cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+    cmake_parse_arguments(ARG "WEB" "" "SOURCES;LINKS" ${ARGN})
     add_library(${name} STATIC ${ARG_SOURCES})
     target_link_libraries(${name} PUBLIC orvalente_options ${ARG_LINKS})
+    if(ARG_WEB)
+        foreach(link IN LISTS ARG_LINKS)
+            get_target_property(web ${link} ORVALENTE_WEB)
+            if(NOT web)
+                message(FATAL_ERROR "${name} is for browsers too, but ${link}, which it links, is not")
+            endif()
+        endforeach()
+        set_target_properties(${name} PROPERTIES ORVALENTE_WEB ON)
+        list(TRANSFORM ARG_SOURCES PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
+        set_property(GLOBAL APPEND PROPERTY ORVALENTE_WEB_SOURCES ${ARG_SOURCES})
+    endif()
+endfunction()
+
+# Writes down what scripts/web is to compile, and with which warnings; to be called when all
+# libraries are there.
+function(orvalente_web_test)
+    get_property(sources GLOBAL PROPERTY ORVALENTE_WEB_SOURCES)
+    list(APPEND sources ${CMAKE_SOURCE_DIR}/tests/web/numbers.cpp)
+    list(JOIN sources "\n" sources)
+    file(WRITE ${CMAKE_BINARY_DIR}/web/sources "${sources}\n")
+    list(JOIN ORVALENTE_WARNINGS " " warnings)
+    file(WRITE ${CMAKE_BINARY_DIR}/web/warnings "${warnings}\n")
+    add_test(NAME web.worksInBrowsers
+             COMMAND ${CMAKE_SOURCE_DIR}/scripts/web ${CMAKE_BINARY_DIR}/web)
+    set_tests_properties(web.worksInBrowsers PROPERTIES SKIP_RETURN_CODE 77 TIMEOUT 600)
 endfunction()
 
 # The tests of one folder, as one GoogleTest binary whose cases CTest lists one by one.

@@ -1,8 +1,8 @@
 #include "calculator/calc_command.h"
 
 #include "calculator/evaluator.h"
-#include "jet/unicode.h"
 #include "text/line_reader.h"
+#include "text/utf8.h"
 
 #include <istream>
 #include <ostream>
@@ -17,17 +17,17 @@ struct Answer {
 };
 
 Answer failure(ErrorCode error) {
-    return {error, jet::toUtf8(message(error))};
+    return {error, text::toUtf8(message(error))};
 }
 
 Answer answerTo(const std::string& expression, const CalcOptions& options, Hooks hooks = {}) {
     const Evaluation found =
-        Evaluator(std::move(hooks)).evaluer(jet::toUtf16(expression), options.angles);
+        Evaluator(std::move(hooks)).evaluer(text::toUtf16(expression), options.angles);
     if (found.error != ErrorCode::None)
         return failure(found.error);
     if (const auto line = resultLine(found.text, options.format))
-        return {ErrorCode::None, jet::toUtf8(*line)};
-    return {ErrorCode::Impossible, jet::toUtf8(kOverflowMessage)};
+        return {ErrorCode::None, text::toUtf8(*line)};
+    return {ErrorCode::Impossible, text::toUtf8(kOverflowMessage)};
 }
 
 void runBatch(const CalcOptions& options, std::streambuf& in, std::ostream& out) {
@@ -54,7 +54,7 @@ int runCalc(const CalcOptions& options, std::istream& in, std::ostream& out, std
     Hooks hooks;
     if (options.trace)
         hooks.trace = [&out](const char* step, TextView text) {
-            out << step << '\t' << jet::toUtf8(text) << '\n';
+            out << step << '\t' << text::toUtf8(text) << '\n';
         };
     const Answer answer = answerTo(options.expression, options, std::move(hooks));
     (answer.error == ErrorCode::None ? out : err) << answer.line << '\n';

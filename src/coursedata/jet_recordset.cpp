@@ -1,7 +1,8 @@
 #include "coursedata/jet_recordset.h"
 
-#include "jet/database.h"
+#include "jet/database_file.h"
 #include "jet/editor.h"
+#include "page/utf16.h"
 #include "platform/file_names.h"
 
 #include <algorithm>
@@ -16,10 +17,6 @@
 namespace coursedata {
 
 namespace {
-
-std::u16string_view view(const QString& text) {
-    return {reinterpret_cast<const char16_t*>(text.utf16()), static_cast<std::size_t>(text.size())};
-}
 
 /// Shows a cell as the forms know it.
 struct AsField {
@@ -65,7 +62,7 @@ struct TablePlace {
     std::u16string name;
 
     jet::Result<jet::Table> open() const {
-        auto database = jet::Database::open(path);
+        auto database = jet::openDatabase(path);
         if (!database)
             return database.error();
         return database->table(name);
@@ -97,11 +94,11 @@ public:
     }
 
     bool hasField(const QString& name) const override {
-        return table_.columnIndex(view(name)).has_value();
+        return table_.columnIndex(page::utf16(name)).has_value();
     }
 
     std::optional<FieldValue> field(const QString& name) const override {
-        const auto column = table_.columnIndex(view(name));
+        const auto column = table_.columnIndex(page::utf16(name));
         if (!column || position_ < 0)
             return std::nullopt;
         const auto value = table_.value(static_cast<std::size_t>(position_), *column);
@@ -119,7 +116,7 @@ public:
         if (!editor)
             return sentence(editor.error());
         const auto changed = editor->changeText(place_.name, static_cast<std::size_t>(position_),
-                                                view(name), view(text));
+                                                page::utf16(name), page::utf16(text));
         if (!changed)
             return sentence(changed.error());
         // Pages read before are old; a record keeps its position when it changes.
@@ -138,7 +135,7 @@ public:
         std::vector<std::size_t> columns;
         std::vector<std::size_t> places;
         for (qsizetype i = 0; i < fields.size(); ++i) {
-            if (const auto column = table_.columnIndex(view(fields[i]))) {
+            if (const auto column = table_.columnIndex(page::utf16(fields[i]))) {
                 columns.push_back(*column);
                 places.push_back(static_cast<std::size_t>(i));
             }

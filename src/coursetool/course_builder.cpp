@@ -4,7 +4,7 @@
 #include "coursetool/source_text.h"
 #include "coursetool/tables.h"
 #include "files/cause.h"
-#include "jet/unicode.h"
+#include "text/utf8.h"
 
 namespace coursetool {
 
@@ -42,7 +42,7 @@ std::vector<fs::path> sourcesIn(const fs::path& folder, const fs::path& top,
 jet::Value memo(std::optional<std::string_view> sourceText) {
     if (!sourceText)
         return {};
-    return jet::toUtf16(toDatabaseText(*sourceText));
+    return text::toUtf16(toDatabaseText(*sourceText));
 }
 
 Place placeOf(const Fields& fields, const fs::path& file) {

@@ -3,8 +3,9 @@
 #include "coursetool/json_number.h"
 #include "coursetool/json_string.h"
 #include "coursetool/paths.h"
-#include "jet/unicode.h"
+#include "jet/database_file.h"
 #include "jet/value_text.h"
+#include "text/utf8.h"
 
 #include <charconv>
 #include <limits>
@@ -37,7 +38,7 @@ void appendContent(double number, std::string& out) {
     appendJsonNumber(number, out);
 }
 void appendContent(const std::u16string& text, std::string& out) {
-    append(jet::toUtf8(text), out);
+    append(text::toUtf8(text), out);
 }
 void appendContent(const jet::Binary& bytes, std::string& out) {
     append(jet::toHex(bytes), out);
@@ -69,7 +70,7 @@ public:
     RowWriter(jet::Table& table, OutputBuffer& out) : table_(table), out_(out) {
         for (const jet::Column& column : table.columns()) {
             std::string key = keys_.empty() ? "{" : ",";
-            append(jet::toUtf8(column.name), key);
+            append(text::toUtf8(column.name), key);
             keys_.push_back(key + ':');
         }
     }
@@ -130,7 +131,7 @@ private:
 
 void appendColumn(const jet::Column& column, std::string& out) {
     out += "{\"name\":";
-    append(jet::toUtf8(column.name), out);
+    append(text::toUtf8(column.name), out);
     out += ",\"type\":";
     append(jet::typeName(column.type), out);
     if (column.type == jet::ColumnType::Text || column.type == jet::ColumnType::Binary)
@@ -141,7 +142,7 @@ void appendColumn(const jet::Column& column, std::string& out) {
 void writeTable(const jet::Table& table, OutputBuffer& out) {
     std::string& line = out.text();
     line += "{\"table\":";
-    append(jet::toUtf8(table.name()), line);
+    append(text::toUtf8(table.name()), line);
     line += ",\"columns\":[";
     for (const jet::Column& column : table.columns()) {
         if (line.back() == '}')
@@ -164,7 +165,7 @@ void dumpTables(const jet::Database& database, const std::filesystem::path& file
 
 ExitCode dumpTable(const jet::Database& database, const std::string& name,
                    const std::filesystem::path& file, OutputBuffer& out, Report& report) {
-    auto table = database.table(jet::toUtf16(name));
+    auto table = database.table(text::toUtf16(name));
     if (!table) {
         report.fault({shown(file)}, table.error().sentence);
         return table.error().kind == jet::Failure::Kind::NotFound ? ExitCode::WrongCall
@@ -190,7 +191,7 @@ void reportProblems(const jet::Problems& problems, const std::filesystem::path& 
 
 ExitCode dump(const std::filesystem::path& file, const std::string& tableName, OutputBuffer& out,
               Report& report) {
-    const auto database = jet::Database::open(file);
+    const auto database = jet::openDatabase(file);
     if (!database) {
         report.fault({shown(file)}, database.error().sentence);
         return ExitCode::Faults;

@@ -9,7 +9,9 @@
 #include "coursetool/tables.h"
 #include "files/cause.h"
 #include "files/publication.h"
-#include "jet/unicode.h"
+#include "jet/database_file.h"
+#include "jet/names.h"
+#include "text/utf8.h"
 
 #include <unordered_map>
 #include <unordered_set>
@@ -92,7 +94,7 @@ private:
     }
 
     std::optional<jet::Database> open(const fs::path& file) {
-        auto database = jet::Database::open(file);
+        auto database = jet::openDatabase(file);
         if (!database) {
             report_.fault({shown(file)}, database.error().sentence);
             return std::nullopt;
@@ -105,11 +107,11 @@ private:
                          std::initializer_list<std::string_view> known) {
         for (const jet::TableInfo& info : database.tables()) {
             const auto same = [&](std::string_view name) {
-                return jet::sameName(info.name, jet::toUtf16(name));
+                return jet::sameName(info.name, text::toUtf16(name));
             };
             if (std::none_of(known.begin(), known.end(), same))
                 report_.fault({shown(file)},
-                              "table " + inQuotes(jet::toUtf8(info.name)) +
+                              "table " + inQuotes(text::toUtf8(info.name)) +
                                   " non reprise : les sources n’en ont pas la place");
         }
     }

@@ -3,8 +3,8 @@
 #include "coursetool/field_value.h"
 #include "coursetool/json_number.h"
 #include "coursetool/toml_text.h"
-#include "jet/unicode.h"
 #include "jet/value_text.h"
+#include "text/utf8.h"
 
 #include <cmath>
 
@@ -57,7 +57,7 @@ FieldText numberText(const FieldRule& rule, double number) {
 }
 
 FieldText textAsNumber(const FieldRule& rule, const std::u16string& text) {
-    const std::string utf8 = jet::toUtf8(text);
+    const std::string utf8 = text::toUtf8(text);
     if (const auto number = wholeNumber(utf8))
         return numberText(rule, *number);
     return {tomlString(utf8), "le texte " + tomlString(utf8) +
@@ -94,7 +94,7 @@ FieldText toText(const jet::Value& value) {
             return {std::nullopt, "la valeur n’est pas un texte, elle n’est pas reprise"};
         return {tomlString(std::to_string(*whole)), {}};
     }
-    FieldText result{tomlString(jet::toUtf8(*text)), {}};
+    FieldText result{tomlString(text::toUtf8(*text)), {}};
     if (!hasOnlyCharacters(*text))
         result.complaint = "un code qui n’est pas un caractère est remplacé par U+FFFD";
     else if (text->size() > kMaxTextLength)

@@ -2,7 +2,7 @@
 
 #include "coursetool/report.h"
 #include "coursetool/toml_text.h"
-#include "jet/unicode.h"
+#include "text/utf8.h"
 
 #include <charconv>
 #include <cmath>
@@ -64,7 +64,7 @@ FieldResult toText(const FieldRule& rule, const SourceValue& given) {
         return refuse(rule, "un texte entre guillemets",
                       number ? tomlString(std::to_string(*number)) : std::string(rule.example));
     }
-    std::u16string units = jet::toUtf16(*text);
+    std::u16string units = text::toUtf16(*text);
     if (units.size() > kMaxTextLength)
         return {{},
                 inQuotes(rule.name) + " a " + std::to_string(units.size()) +

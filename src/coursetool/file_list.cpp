@@ -3,7 +3,8 @@
 #include "coursetool/paths.h"
 #include "files/cause.h"
 #include "files/within.h"
-#include "jet/unicode.h"
+#include "jet/names.h"
+#include "text/utf8.h"
 
 #include <algorithm>
 
@@ -110,10 +111,10 @@ std::optional<fs::path> NameTable::find(const fs::path& name) const {
     const auto& candidates = found->second;
     if (std::find(candidates.begin(), candidates.end(), name) != candidates.end())
         return name;
-    const std::u16string wanted = jet::toUtf16(shown(name));
+    const std::u16string wanted = text::toUtf16(shown(name));
     const auto same =
         std::find_if(candidates.begin(), candidates.end(), [&](const fs::path& other) {
-            return jet::sameName(jet::toUtf16(shown(other)), wanted);
+            return jet::sameName(text::toUtf16(shown(other)), wanted);
         });
     return same != candidates.end() ? std::optional(*same) : std::nullopt;
 }

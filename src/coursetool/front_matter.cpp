@@ -2,7 +2,8 @@
 
 #include "coursetool/field_value.h"
 #include "coursetool/front_matter_check.h"
-#include "jet/unicode.h"
+#include "jet/names.h"
+#include "text/utf8.h"
 
 // Syntax errors are expected in sources: they come back as values.
 #define TOML_EXCEPTIONS 0
@@ -158,7 +159,7 @@ private:
     void tellUnknown(const toml::key& key) {
         std::string names;
         for (const FieldRule& rule : rules_) {
-            if (jet::sameName(jet::toUtf16(rule.name), jet::toUtf16(key.str()))) {
+            if (jet::sameName(text::toUtf16(rule.name), text::toUtf16(key.str()))) {
                 report_.fault(place(key.source().begin), "champ inconnu " +
                                                              inQuotes(shortened(key.str())) +
                                                              " : écrire " + inQuotes(rule.name));

@@ -1,7 +1,7 @@
 #include "coursetool/json_string.h"
 
 #include "coursetool/plain_run.h"
-#include "jet/unicode.h"
+#include "text/utf8.h"
 
 #include <utility>
 
@@ -83,15 +83,15 @@ void JsonString::endPair() {
     if (std::exchange(high_, u'\0') == 0)
         return;
     char buffer[kLongest];
-    out_.append(buffer, jet::encodeUtf8(kReplacement, buffer));
+    out_.append(buffer, text::encodeUtf8(kReplacement, buffer));
 }
 
 char* JsonString::put(char16_t unit, char* to) {
     if (high_ != 0) {
         const char16_t high = std::exchange(high_, u'\0');
         if (isLow(unit))
-            return jet::encodeUtf8(0x10000u + ((high - 0xD800u) << 10) + (unit - 0xDC00u), to);
-        to = jet::encodeUtf8(kReplacement, to);
+            return text::encodeUtf8(0x10000u + ((high - 0xD800u) << 10) + (unit - 0xDC00u), to);
+        to = text::encodeUtf8(kReplacement, to);
     }
     if (unit < kWrittenLatin.size())
         return putLatin(static_cast<unsigned char>(unit), to);
@@ -99,7 +99,7 @@ char* JsonString::put(char16_t unit, char* to) {
         high_ = unit;
         return to;
     }
-    return jet::encodeUtf8(isLow(unit) ? kReplacement : char32_t{unit}, to);
+    return text::encodeUtf8(isLow(unit) ? kReplacement : char32_t{unit}, to);
 }
 
 /// Gives the end of what it wrote; a byte left over is dropped.

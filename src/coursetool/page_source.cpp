@@ -2,7 +2,7 @@
 
 #include "coursetool/paths.h"
 #include "coursetool/source_text.h"
-#include "jet/unicode.h"
+#include "text/utf8.h"
 
 namespace coursetool {
 
@@ -11,7 +11,7 @@ std::optional<QString> readPageSource(const std::filesystem::path& file, Report&
     if (!bytes)
         return std::nullopt;
     checkUtf8(*bytes, shown(file), report);
-    const std::u16string source = jet::toUtf16(*bytes);
+    const std::u16string source = text::toUtf16(*bytes);
     return QString::fromUtf16(source.data(), static_cast<qsizetype>(source.size()));
 }
 

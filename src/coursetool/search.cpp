@@ -5,7 +5,7 @@
 #include "coursetool/paths.h"
 #include "coursetool/tables.h"
 #include "files/within.h"
-#include "jet/unicode.h"
+#include "jet/database_file.h"
 #include "search/course_pages.h"
 #include "search/page_search.h"
 #include "text/utf8.h"
@@ -32,7 +32,7 @@ std::optional<fs::path> courseDatabase(const fs::path& course, Report& report) {
 }
 
 void appendLine(const search::FoundPage& page, std::string& out) {
-    std::string title = jet::toUtf8(page.title);
+    std::string title = text::toUtf8(page.title);
     for (char& c : title)
         if (c == '\t' || c == '\r' || c == '\n')
             c = ' ';
@@ -45,12 +45,17 @@ void searchPages(const SearchRequest& request, OutputBuffer& out, Report& report
     const auto file = courseDatabase(request.course, report);
     if (!file)
         return;
-    auto pages = search::CoursePages::open(*file, 0);
+    const auto database = jet::openDatabase(*file);
+    if (!database) {
+        report.fault({shown(*file)}, database.error().sentence);
+        return;
+    }
+    auto pages = search::CoursePages::open(*database, 0);
     if (!pages) {
         report.fault({shown(*file)}, pages.error().sentence);
         return;
     }
-    const search::Query query{search::queryWords(jet::toUtf16(request.words)), request.allWords,
+    const search::Query query{search::queryWords(text::toUtf16(request.words)), request.allWords,
                               request.ignoreAccents};
     if (query.words.empty())
         report.warning({shown(*file)},

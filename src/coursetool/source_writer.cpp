@@ -5,7 +5,7 @@
 #include "coursetool/source_text.h"
 #include "files/cause.h"
 #include "files/whole_file.h"
-#include "jet/unicode.h"
+#include "text/utf8.h"
 
 namespace coursetool {
 
@@ -75,7 +75,7 @@ std::optional<std::string> SourceWriter::body(const SourceRecord& record, const 
     if (!hasOnlyCharacters(*text))
         tell(record, field, "un code qui n’est pas un caractère est remplacé par U+FFFD");
     bool clean = true;
-    std::string source = toSourceText(jet::toUtf8(*text), clean);
+    std::string source = toSourceText(text::toUtf8(*text), clean);
     if (!clean)
         tell(record, field, "un retour chariot ou un saut de ligne isolé devient une fin de ligne");
     return source;

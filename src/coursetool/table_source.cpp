@@ -3,7 +3,7 @@
 #include "coursetool/dump.h"
 #include "coursetool/field_text.h"
 #include "coursetool/paths.h"
-#include "jet/unicode.h"
+#include "text/utf8.h"
 
 #include <algorithm>
 
@@ -12,7 +12,7 @@ namespace coursetool {
 TableSource::TableSource(const jet::Database& database, const std::filesystem::path& file,
                          const TableRule& rule, Report& report)
     : file_(file), rule_(rule), report_(report) {
-    auto table = database.table(jet::toUtf16(rule.name));
+    auto table = database.table(text::toUtf16(rule.name));
     if (!table) {
         report.fault({shown(file)}, table.error().sentence);
         return;
@@ -23,10 +23,10 @@ TableSource::TableSource(const jet::Database& database, const std::filesystem::p
 
 void TableSource::matchColumns() {
     for (const FieldRule& field : rule_.fields)
-        columns_.push_back(table_->columnIndex(jet::toUtf16(field.name)));
+        columns_.push_back(table_->columnIndex(text::toUtf16(field.name)));
     const auto tell = [&](const jet::Column& column, std::string_view sentence) {
         report_.fault({shown(file_) + ": " + std::string(rule_.name)},
-                      "champ " + inQuotes(jet::toUtf8(column.name)) + std::string(sentence));
+                      "champ " + inQuotes(text::toUtf8(column.name)) + std::string(sentence));
     };
     for (std::size_t i = 0; i < table_->columns().size(); ++i) {
         const jet::Column& column = table_->columns()[i];

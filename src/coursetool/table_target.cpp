@@ -1,6 +1,7 @@
 #include "coursetool/table_target.h"
 
-#include "jet/unicode.h"
+#include "jet/database_file.h"
+#include "text/utf8.h"
 
 namespace coursetool {
 
@@ -18,7 +19,7 @@ void tellAt(const Place& place, const jet::Failure& failure, Report& report) {
 
 DatabaseTarget::DatabaseTarget(std::filesystem::path path, std::string shownAs, Report& report)
     : shownAs_(std::move(shownAs)), report_(report) {
-    auto writer = jet::DatabaseWriter::create(path);
+    auto writer = jet::createDatabase(path);
     if (writer)
         writer_ = *std::move(writer);
     else
@@ -28,7 +29,7 @@ DatabaseTarget::DatabaseTarget(std::filesystem::path path, std::string shownAs, 
 std::optional<jet::TableWriter> DatabaseTarget::addTable(const TableRule& rule) {
     if (!writer_)
         return std::nullopt;
-    auto table = writer_->addTable(jet::toUtf16(rule.name), columnsOf(rule));
+    auto table = writer_->addTable(text::toUtf16(rule.name), columnsOf(rule));
     if (table)
         return *table;
     tell(table.error());

@@ -1,6 +1,6 @@
 #include "coursetool/tables.h"
 
-#include "jet/unicode.h"
+#include "text/utf8.h"
 
 #include <algorithm>
 
@@ -58,7 +58,7 @@ std::vector<jet::Column> columnsOf(const TableRule& table) {
     std::vector<jet::Column> columns;
     for (const FieldRule& rule : table.fields) {
         jet::Column column;
-        column.name = jet::toUtf16(rule.name);
+        column.name = text::toUtf16(rule.name);
         column.type = rule.type;
         column.length = rule.type == Text ? kMaxTextLength : 0;
         columns.push_back(std::move(column));

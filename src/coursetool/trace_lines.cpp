@@ -2,9 +2,10 @@
 
 #include "coursetool/json_number.h"
 #include "coursetool/json_string.h"
-#include "jet/unicode.h"
 #include "markup/control_names.h"
 #include "page/twips.h"
+#include "page/utf16.h"
+#include "text/utf8.h"
 
 namespace coursetool {
 
@@ -12,7 +13,7 @@ namespace {
 
 void appendString(QStringView text, std::string& out) {
     std::string utf8;
-    jet::appendUtf8({text.utf16(), static_cast<std::size_t>(text.size())}, utf8);
+    text::appendUtf8(page::utf16(text), utf8);
     appendJsonString(utf8, out);
 }
 

@@ -1,8 +1,8 @@
 #include "exercises/answer_command.h"
 
 #include "exercises/answer_check.h"
-#include "jet/unicode.h"
 #include "text/line_reader.h"
+#include "text/utf8.h"
 
 #include <istream>
 #include <ostream>
@@ -13,7 +13,7 @@ namespace exercises {
 namespace {
 
 bool isRight(std::string_view solution, std::string_view text) {
-    return castexte(jet::toUtf16(solution), jet::toUtf16(text));
+    return castexte(text::toUtf16(solution), text::toUtf16(text));
 }
 
 const char* verdict(bool right) {

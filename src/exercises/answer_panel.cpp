@@ -226,12 +226,12 @@ void AnswerPanel::paintMark(ChoiceArray array, int index, Mark mark) {
                                                             : QStringLiteral("à ne pas choisir"));
 }
 
-QString AnswerPanel::typedText() const {
-    return Text1_->text();
+std::u16string AnswerPanel::typedText() const {
+    return Text1_->text().toStdU16String();
 }
 
-void AnswerPanel::setTypedText(const QString& text) {
-    Text1_->setText(text);
+void AnswerPanel::setTypedText(const std::u16string& text) {
+    Text1_->setText(QString::fromStdU16String(text));
 }
 
 void AnswerPanel::disableTypedText() {
@@ -256,8 +256,10 @@ bool AnswerPanel::eventFilter(QObject* watched, QEvent* event) {
     }
     if (watched == Text1_ && event->type() == QEvent::KeyPress) {
         const QString typed = static_cast<QKeyEvent*>(event)->text();
-        if (typed.size() == 1 && TestSession::typedCharacter(typed.front()) != typed.front()) {
-            Text1_->insert(TestSession::typedCharacter(typed.front()));
+        const QChar become =
+            typed.size() == 1 ? TestSession::typedCharacter(typed.front().unicode()) : QChar();
+        if (typed.size() == 1 && become != typed.front()) {
+            Text1_->insert(become);
             return true;
         }
     }

@@ -51,8 +51,8 @@ public:
     void setSelected(ChoiceArray array, int index, bool selected) override;
     void disable(ChoiceArray array, int index) override;
     void paintMark(ChoiceArray array, int index, Mark mark) override;
-    QString typedText() const override;
-    void setTypedText(const QString& text) override;
+    std::u16string typedText() const override;
+    void setTypedText(const std::u16string& text) override;
     void disableTypedText() override;
 
 protected:

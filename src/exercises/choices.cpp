@@ -2,21 +2,31 @@
 
 namespace exercises {
 
-QString choiceCode(const Selection& selection) {
-    QString code;
+namespace {
+
+/// What a code has at `index`; neither "0" nor "1" beyond its end.
+char16_t codeAt(std::u16string_view code, int index) {
+    const auto at = static_cast<std::size_t>(index);
+    return at < code.size() ? code[at] : u'\0';
+}
+
+} // namespace
+
+std::u16string choiceCode(const Selection& selection) {
+    std::u16string code;
     for (const bool selected : selection)
-        code += QLatin1Char(selected ? '1' : '0');
+        code += selected ? u'1' : u'0';
     return code;
 }
 
-bool isSelectedIn(const QString& code, int index) {
-    return code.mid(index, 1) == u"1";
+bool isSelectedIn(std::u16string_view code, int index) {
+    return codeAt(code, index) == u'1';
 }
 
-std::optional<Mark> markOf(const std::optional<QString>& solution, int index) {
+std::optional<Mark> markOf(const std::optional<std::u16string>& solution, int index) {
     if (!solution)
         return std::nullopt;
-    return solution->mid(index, 1) == u"0" ? Mark::NotInSolution : Mark::InSolution;
+    return codeAt(*solution, index) == u'0' ? Mark::NotInSolution : Mark::InSolution;
 }
 
 } // namespace exercises

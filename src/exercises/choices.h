@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QString>
-
 #include <array>
 #include <optional>
+#include <string>
+#include <string_view>
 
 namespace exercises {
 
@@ -13,10 +13,10 @@ inline constexpr int kChoices = 5;
 using Selection = std::array<bool, kChoices>;
 
 /// "1" for each selected control, "0" for each other, in control order.
-QString choiceCode(const Selection& selection);
+std::u16string choiceCode(const Selection& selection);
 
 /// Whether a given choice code has control `index` selected; false for a code that is too short.
-bool isSelectedIn(const QString& code, int index);
+bool isSelectedIn(std::u16string_view code, int index);
 
 /// What is painted beside a choice in a correction.
 enum class Mark { InSolution, NotInSolution };
@@ -27,6 +27,6 @@ inline constexpr double kMarkAboveControlTwips = 15;
 
 /// The mark of choice `index`. Only "0" leaves a choice out: another character, or none in a
 /// solution that is too short, does not. A question without a solution has no marks.
-std::optional<Mark> markOf(const std::optional<QString>& solution, int index);
+std::optional<Mark> markOf(const std::optional<std::u16string>& solution, int index);
 
 } // namespace exercises

@@ -82,7 +82,9 @@ Exo::Exo(const Parts& parts, QWidget& mainWindow)
     addQuestionArea();
     addButtons();
     addStrip();
-    session_.emplace(parts_.shared, parts_.test, *this, *answers_, parts_.course, parts_.prompter);
+    session_.emplace(
+        SharedWithCourse{parts_.shared.PendingExerciseChapter, parts_.shared.ExerciseReturnPage},
+        parts_.test, records_, *this, *answers_, parts_.course);
     if (parts_.author)
         addAuthoringSwitch();
     connectHandlers();
@@ -168,7 +170,7 @@ void Exo::addAuthoringSwitch() {
     source_->setContextMenuPolicy(Qt::NoContextMenu); // Qt's own menu is not in French
     source_->setGeometry(kFrame1);
     source_->hide();
-    edit_.emplace(*session_, parts_.prompter);
+    edit_.emplace(records_.record(), parts_.prompter);
 }
 
 void Exo::run() {
@@ -192,11 +194,12 @@ void Exo::start() {
 }
 
 void Exo::Form_Load() {
-    tables_ = coursedata::openExerciseTables(parts_.shared.InstallDir);
+    coursedata::ExerciseTables tables = coursedata::openExerciseTables(parts_.shared.InstallDir);
     // The window stays usable; who looks for the reason finds it here.
-    for (const QString& failure : std::as_const(tables_.failures))
+    for (const QString& failure : std::as_const(tables.failures))
         platform::tellOnTerminal(failure);
-    session_->load(tables_.description.get(), tables_.contenu.get());
+    records_.read(std::move(tables));
+    session_->load();
 }
 
 /// Opens the tables again, to be written; read-only ones stay where that cannot be.
@@ -208,8 +211,8 @@ void Exo::makeWritable() {
     if (!fresh.description || !fresh.contenu)
         return;
     writable_ = true;
-    session_->reopen(fresh.contenu.get());
-    tables_ = std::move(fresh);
+    records_.read(std::move(fresh));
+    session_->findRecord();
 }
 
 void Exo::setFillsScreen(bool fills) {

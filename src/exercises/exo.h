@@ -1,7 +1,7 @@
 #pragma once
 
-#include "coursedata/exercise_tables.h"
 #include "exercises/calculator_beside.h"
+#include "exercises/database_records.h"
 #include "exercises/question_edit.h"
 #include "exercises/test_session.h"
 #include "exercises/test_state.h"
@@ -74,8 +74,8 @@ public:
     void setFillsScreen(bool fills) override;
 
     // TestView
-    void setTitle(const QString& title) override;
-    void setCaption(const QString& caption) override;
+    void setTitle(const std::u16string& title) override;
+    void setCaption(const std::u16string& caption) override;
     void setPreviousVisible(bool visible) override;
     void setNextVisible(bool visible) override;
     void setValidateVisible(bool visible) override;
@@ -86,8 +86,10 @@ public:
     void repaintStrip() override;
     void focusStrip() override;
     void misanet() override;
-    void drawQuestion(const QString& source) override;
+    void drawQuestion(const std::u16string& source) override;
     void showRightAnswer() override;
+    void tell(const Message& message) override;
+    bool ask(const Message& question) override;
 
     // markup::DrawingWatcher
     void setBusy(bool busy) override;
@@ -141,7 +143,7 @@ private:
     Parts parts_;
     QWidget& mainWindow_;
     markup::DrawnPage question_; ///< as shown
-    coursedata::ExerciseTables tables_;
+    DatabaseRecords records_;
     std::unique_ptr<AnswerPanel> answers_;
     std::optional<TestSession> session_;
     std::optional<QuestionEdit> edit_;

@@ -92,7 +92,7 @@ void Exo::Command7_Click() {
 
 /// `Labelien_Click`, and that of `Image1` and `Icovideo`.
 void Exo::Labelien_Click(const QString& tag) {
-    session_->leaveFor(tag);
+    session_->leaveFor(tag.toStdU16String());
     leaving_ = true;
     close();
 }
@@ -115,7 +115,7 @@ void Exo::Command1_Click() {
 
 /// Shows the field "question" of the current record to the author.
 void Exo::showSource() {
-    source_->setPlainText(session_->record().question());
+    source_->setPlainText(records_.record().question());
     source_->document()->setModified(false);
 }
 

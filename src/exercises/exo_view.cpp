@@ -52,8 +52,8 @@ double drawnFoot(const page::Recording& recording, const page::TextMetrics& metr
 
 } // namespace
 
-void Exo::setTitle(const QString& title) {
-    const QString words = title.simplified();
+void Exo::setTitle(const std::u16string& title) {
+    const QString words = QString::fromStdU16String(title).simplified();
     const QString shown =
         Label2_->fontMetrics().elidedText(words, Qt::ElideRight, Label2_->width());
     Label2_->setText(shown);
@@ -61,8 +61,8 @@ void Exo::setTitle(const QString& title) {
     Label2_->setAccessibleName(words);
 }
 
-void Exo::setCaption(const QString& caption) {
-    noa_->setText(caption);
+void Exo::setCaption(const std::u16string& caption) {
+    noa_->setText(QString::fromStdU16String(caption));
 }
 
 /// A button that goes leaves the keyboard to the question, not to some other button: the same key
@@ -129,8 +129,8 @@ void Exo::misanet() {
     answers_->reset();
 }
 
-void Exo::drawQuestion(const QString& source) {
-    markup::drawPage({source, markup::DrawnAs::Question},
+void Exo::drawQuestion(const std::u16string& source) {
+    markup::drawPage({QString::fromStdU16String(source), markup::DrawnAs::Question},
                      {parts_.drawing, parts_.pictures, parts_.fonts, this}, question_);
     answers_->place();
     Picture2_->showDrawing();
@@ -205,6 +205,19 @@ void Exo::refresh(page::SurfaceId surface) {
         return;
     Picture2_->showDrawing();
     Picture2_->repaint();
+}
+
+void Exo::tell(const Message& message) {
+    parts_.prompter.ask({.title = QString::fromStdU16String(message.title),
+                         .text = QString::fromStdU16String(message.text)});
+}
+
+bool Exo::ask(const Message& question) {
+    return parts_.prompter.ask({.title = QString::fromStdU16String(question.title),
+                                .text = QString::fromStdU16String(question.text),
+                                .icon = platform::Message::Icon::Question,
+                                .buttons = platform::Message::Buttons::YesNo}) ==
+           platform::Answer::Yes;
 }
 
 void Exo::showRightAnswer() {

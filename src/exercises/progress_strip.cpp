@@ -1,6 +1,6 @@
 #include "exercises/progress_strip.h"
 
-#include "markup/qb_color.h"
+#include "text/number_text.h"
 #include "text/rounding.h"
 
 #include <algorithm>
@@ -16,7 +16,7 @@ constexpr int kDarkGrey = 8;
 /// Units left free below a band.
 constexpr float kGap = 2;
 
-QRgb palette(int index) {
+markup::Rgb palette(int index) {
     return markup::qbColor(index).value_or(markup::kBlack);
 }
 
@@ -25,23 +25,26 @@ QRgb palette(int index) {
 BandInks bandInks(int state) {
     switch (state) {
     case 1:
-        return {qRgb(0, 255, 230), palette(kGreen), qRgb(0, 220, 180), palette(kGreen)};
+        return {markup::rgb(0, 255, 230), palette(kGreen), markup::rgb(0, 220, 180),
+                palette(kGreen)};
     case -1:
-        return {qRgb(255, 150, 150), palette(kDarkRed), qRgb(255, 50, 50), palette(kDarkRed)};
+        return {markup::rgb(255, 150, 150), palette(kDarkRed), markup::rgb(255, 50, 50),
+                palette(kDarkRed)};
     default:
-        return {qRgb(255, 205, 150), palette(kDarkGrey), qRgb(255, 175, 100), markup::kBlack};
+        return {markup::rgb(255, 205, 150), palette(kDarkGrey), markup::rgb(255, 175, 100),
+                markup::kBlack};
     }
 }
 
-QString bandCaption(int question) {
-    return QStringLiteral("Question %1").arg(question);
+std::u16string bandCaption(int question) {
+    return u"Question " + text::trimmedNumberText(question);
 }
 
-QString bandName(int question, int state) {
-    const QString verdict = state == 1    ? QStringLiteral("juste")
-                            : state == -1 ? QStringLiteral("fausse")
-                                          : QStringLiteral("sans réponse");
-    return bandCaption(question) + QStringLiteral(", ") + verdict;
+std::u16string bandName(int question, int state) {
+    const char16_t* const verdict = state == 1    ? u", juste"
+                                    : state == -1 ? u", fausse"
+                                                  : u", sans réponse";
+    return bandCaption(question) + verdict;
 }
 
 std::optional<Band> bandOf(int question, int count, double height) {

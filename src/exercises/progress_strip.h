@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QRgb>
-#include <QString>
+#include "markup/qb_color.h"
 
 #include <cstdint>
 #include <optional>
+#include <string>
 
 namespace exercises {
 
@@ -15,10 +15,10 @@ namespace exercises {
 /// Fills of a band, from the outside inwards: all of it, a frame one unit inside its top left
 /// corner, the middle one unit inside that; and the ink of its caption.
 struct BandInks {
-    QRgb light;
-    QRgb frame;
-    QRgb middle;
-    QRgb caption;
+    markup::Rgb light;
+    markup::Rgb frame;
+    markup::Rgb middle;
+    markup::Rgb caption;
 
     bool operator==(const BandInks&) const = default;
 };
@@ -27,10 +27,10 @@ struct BandInks {
 BandInks bandInks(int state);
 
 /// "Question 7".
-QString bandCaption(int question);
+std::u16string bandCaption(int question);
 
 /// What a screen reader says of a band: "Question 3, juste".
-QString bandName(int question, int state);
+std::u16string bandName(int question, int state);
 
 /// Where a band begins and ends; two units are left free up to the next one.
 struct Band {

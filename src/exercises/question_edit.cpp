@@ -23,7 +23,7 @@ QString withLastLineEnded(const QString& source) {
 
 /// Why `typed` is not in the database; nothing when it is.
 std::optional<QString> QuestionEdit::write(const std::optional<QString>& typed) {
-    return typed ? session_.record().setQuestion(withLastLineEnded(*typed)) : std::nullopt;
+    return typed ? record_.setQuestion(withLastLineEnded(*typed)) : std::nullopt;
 }
 
 bool QuestionEdit::commit(const std::optional<QString>& typed) {

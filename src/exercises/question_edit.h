@@ -1,6 +1,6 @@
 #pragma once
 
-#include "exercises/test_session.h"
+#include "coursedata/exercise_tables.h"
 #include "platform/message_box.h"
 
 #include <QString>
@@ -13,8 +13,8 @@ namespace exercises {
 /// that and nothing else, so never what a wrong answer adds to it.
 class QuestionEdit {
 public:
-    QuestionEdit(TestSession& session, platform::Prompter& prompter)
-        : session_(session), prompter_(prompter) {}
+    QuestionEdit(coursedata::QuestionRecord& record, platform::Prompter& prompter)
+        : record_(record), prompter_(prompter) {}
 
     /// Writes `typed`, its last line ended; absent when the author has typed nothing. False when it
     /// could not be written: the author has been told, and it must stay in sight.
@@ -31,7 +31,7 @@ public:
 private:
     std::optional<QString> write(const std::optional<QString>& typed);
 
-    TestSession& session_;
+    coursedata::QuestionRecord& record_;
     platform::Prompter& prompter_;
 };
 

@@ -19,20 +19,14 @@ std::optional<int> percentage(const Counts& counts) {
     return text::toInt16(counts.right * 100.0 / counts.answered);
 }
 
-QString spacedNumber(int number) {
-    return QString::fromStdU16String(text::numberText(number));
-}
-
-platform::Message scoreMessage(const Counts& counts, int questionCount) {
+Message scoreMessage(const Counts& counts, int questionCount) {
+    using text::numberText;
     const auto percent = percentage(counts);
     if (!percent) // "avza" has always been written so, and is kept
-        return {.title = QStringLiteral("Test"),
-                .text = QStringLiteral("Vous n'avza répondu à aucune question.")};
-    return {.title = counts.answered == questionCount ? QStringLiteral("Test terminé")
-                                                      : QStringLiteral("Actuellement..."),
-            .text = spacedNumber(counts.right) + QStringLiteral(" /") +
-                    spacedNumber(counts.answered) + QStringLiteral(" soit") +
-                    spacedNumber(*percent) + QStringLiteral(" % de bonnes réponses.")};
+        return {u"Test", u"Vous n'avza répondu à aucune question."};
+    return {counts.answered == questionCount ? u"Test terminé" : u"Actuellement...",
+            numberText(counts.right) + u" /" + numberText(counts.answered) + u" soit" +
+                numberText(*percent) + u" % de bonnes réponses."};
 }
 
 } // namespace exercises

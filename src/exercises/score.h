@@ -1,9 +1,7 @@
 #pragma once
 
 #include "exercises/test_state.h"
-#include "platform/message_box.h"
-
-#include <QString>
+#include "exercises/test_view.h"
 
 #include <optional>
 
@@ -21,9 +19,6 @@ std::optional<int> smileLevel(const Counts& counts);
 std::optional<int> percentage(const Counts& counts);
 
 /// What the score label tells, in a test of `questionCount` questions.
-platform::Message scoreMessage(const Counts& counts, int questionCount);
-
-/// A number as captions and messages have it: with one leading space.
-QString spacedNumber(int number);
+Message scoreMessage(const Counts& counts, int questionCount);
 
 } // namespace exercises

@@ -47,6 +47,10 @@ Strip::Strip(const TestState& test, QWidget* parent)
     setFocusPolicy(Qt::TabFocus);
 }
 
+QString Strip::nameOf(int question) const {
+    return QString::fromStdU16String(bandName(question, test_.QuestionState.valueOr(question, 0)));
+}
+
 QRect Strip::bandRect(int question) const {
     const auto band = bandOf(question, test_.QuestionCount, height());
     return band ? QRect(0, band->top, width(), band->bottom - band->top) : QRect();
@@ -79,7 +83,7 @@ void Strip::paintBand(QPainter& painter, int question) const {
         paintMark(painter, band, state);
     if (band.height() < kCaptionHeight)
         return; // it would be cut; the tool tip and the screen reader still tell
-    const QString caption = bandCaption(question);
+    const QString caption = QString::fromStdU16String(bandCaption(question));
     const double x = (width() - QFontMetricsF(font()).horizontalAdvance(caption)) / 2;
     const double middle = band.top() + band.height() / 2.0;
     painter.setPen(QColor::fromRgb(inks.caption));
@@ -153,8 +157,7 @@ bool Strip::event(QEvent* event) {
         return QWidget::event(event);
     const auto* help = static_cast<QHelpEvent*>(event);
     if (const auto question = questionAt(help->pos().y(), test_.QuestionCount, height()))
-        look::showToolTip(help->globalPos(),
-                          bandName(*question, test_.QuestionState.valueOr(*question, 0)), *this);
+        look::showToolTip(help->globalPos(), nameOf(*question), *this);
     return true;
 }
 

@@ -23,6 +23,8 @@ public:
     void refresh();
 
     const TestState& test() const { return test_; }
+    /// What its band is called: "Question 3, juste".
+    QString nameOf(int question) const;
     /// Place of a question's band, empty when there is none.
     QRect bandRect(int question) const;
 

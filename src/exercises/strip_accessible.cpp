@@ -34,7 +34,7 @@ public:
     QString text(QAccessible::Text kind) const override {
         if (kind != QAccessible::Name || !isValid())
             return {};
-        return bandName(question_, strip_->test().QuestionState.valueOr(question_, 0));
+        return strip_->nameOf(question_);
     }
     void setText(QAccessible::Text, const QString&) override {}
 

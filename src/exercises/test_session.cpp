@@ -1,7 +1,10 @@
 #include "exercises/test_session.h"
 
+#include "exercises/answer_check.h"
 #include "exercises/progress_strip.h"
-#include "page/numbers.h"
+#include "exercises/score.h"
+#include "text/number_text.h"
+#include "text/numeric_reader.h"
 #include "text/rounding.h"
 
 namespace exercises {
@@ -11,21 +14,21 @@ namespace {
 /// How many bands a strip without questions is painted with.
 constexpr std::int16_t kCountOfAnEmptyStrip = 2;
 
+constexpr std::int16_t kRight = 1;
+constexpr std::int16_t kWrong = -1;
+
 } // namespace
 
-TestSession::TestSession(shell::SharedState& shared, TestState& test, TestView& view,
-                         AnswerControls& controls, CourseWindow& course,
-                         platform::Prompter& prompter)
-    : shared_(shared), test_(test), view_(view), controls_(controls), course_(course),
-      prompter_(prompter) {}
+TestSession::TestSession(SharedWithCourse shared, TestState& test, TestRecords& records,
+                         TestView& view, AnswerControls& controls, CourseWindow& course)
+    : shared_(shared), test_(test), records_(records), view_(view), controls_(controls),
+      course_(course) {}
 
-void TestSession::load(const coursedata::Recordset* description, coursedata::Recordset* contenu) {
+void TestSession::load() {
     open_ = true;
     shared_.ExerciseReturnPage = 0;
     view_.setScoreVisible(false);
-    const coursedata::TestDescription found =
-        description ? coursedata::describeTest(*description, shared_.PendingExerciseChapter)
-                    : coursedata::TestDescription();
+    const TestDescription found = records_.describe(shared_.PendingExerciseChapter);
     if (found.title)
         view_.setTitle(*found.title);
     if (found.count)
@@ -34,7 +37,6 @@ void TestSession::load(const coursedata::Recordset* description, coursedata::Rec
         test_.CurrentQuestion = 1;
     // A test that was left shows the face of its answers again.
     view_.setFace(smileLevel(counts(test_)).value_or(kNeutralFace));
-    record_ = coursedata::QuestionRecord(contenu);
 }
 
 void TestSession::activate() {
@@ -49,28 +51,22 @@ void TestSession::tritexte() {
         view_.placeMarker(question, count);
     view_.setPreviousVisible(question != 1);
     view_.setNextVisible(question != count);
-    view_.setCaption(QStringLiteral("Question") + spacedNumber(question) + QStringLiteral(" /") +
-                     spacedNumber(count) + QStringLiteral(" :"));
+    view_.setCaption(u"Question" + text::numberText(question) + u" /" + text::numberText(count) +
+                     u" :");
     findRecord();
     majquest();
 }
 
 void TestSession::findRecord() {
-    record_.moveTo(
-        coursedata::questionReference(shared_.PendingExerciseChapter, test_.CurrentQuestion));
-}
-
-void TestSession::reopen(coursedata::Recordset* contenu) {
-    record_ = coursedata::QuestionRecord(contenu);
-    findRecord();
+    records_.moveTo(shared_.PendingExerciseChapter, test_.CurrentQuestion);
 }
 
 void TestSession::majquest() {
     const int question = test_.CurrentQuestion;
     view_.misanet();
-    QString source = record_.question();
+    std::u16string source = records_.question();
     if (isAnsweredWrong(test_, question))
-        source += record_.siFaux();
+        source += records_.siFaux();
     view_.drawQuestion(source);
     setValidateVisible(!isAnswered(test_, question));
     if (isAnswered(test_, question))
@@ -78,7 +74,7 @@ void TestSession::majquest() {
 }
 
 void TestSession::dejarepondu() {
-    switch (record_.type()) {
+    switch (records_.type()) {
     case 1:
         return correctChoices(ChoiceArray::Check1);
     case 2:
@@ -90,8 +86,8 @@ void TestSession::dejarepondu() {
 }
 
 void TestSession::correctChoices(ChoiceArray array) {
-    const auto solution = record_.solution();
-    const QString given = test_.GivenAnswers.valueOr(test_.CurrentQuestion, {});
+    const auto solution = records_.solution();
+    const std::u16string given = test_.GivenAnswers.valueOr(test_.CurrentQuestion, {});
     for (int i = 0; i < kChoices; ++i) {
         controls_.disable(array, i);
         const auto mark = markOf(solution, i);
@@ -133,12 +129,7 @@ bool TestSession::close() {
     if (!open_)
         return true;
     const bool complete = counts(test_).answered == test_.QuestionCount;
-    const platform::Message question{.title = QStringLiteral("Fermer"),
-                                     .text =
-                                         QStringLiteral("Voulez-vous vraiment abandonner le test?"),
-                                     .icon = platform::Message::Icon::Question,
-                                     .buttons = platform::Message::Buttons::YesNo};
-    if (!complete && prompter_.ask(question) != platform::Answer::Yes)
+    if (!complete && !view_.ask({u"Fermer", u"Voulez-vous vraiment abandonner le test?"}))
         return false;
     open_ = false;
     shared_.PendingExerciseChapter = 0;
@@ -148,9 +139,9 @@ bool TestSession::close() {
     return true;
 }
 
-void TestSession::leaveFor(const QString& tag) {
+void TestSession::leaveFor(std::u16string_view tag) {
     open_ = false;
-    shared_.ExerciseReturnPage = text::toInt16(page::leadingNumber(tag)).value_or(0);
+    shared_.ExerciseReturnPage = text::toInt16(text::leadingNumber(tag)).value_or(0);
 }
 
 void TestSession::refreshStrip() {
@@ -164,6 +155,86 @@ void TestSession::refreshStrip() {
 void TestSession::setValidateVisible(bool visible) {
     validateVisible_ = visible;
     view_.setValidateVisible(visible);
+}
+
+void TestSession::validate() {
+    if (!validateVisible_)
+        return;
+    view_.setScoreVisible(true);
+    setValidateVisible(false);
+    if (verdict())
+        showRight();
+    else
+        showWrong();
+}
+
+bool TestSession::verdict() {
+    switch (records_.type()) {
+    case 1:
+        return choiceVerdict(ChoiceArray::Check1);
+    case 2:
+        return choiceVerdict(ChoiceArray::Option1);
+    case 3: {
+        const std::u16string typed = controls_.typedText();
+        test_.GivenAnswers.store(test_.CurrentQuestion, typed);
+        return castexte(records_.solution().value_or(u""), typed);
+    }
+    default: // nothing fits a question of no known type
+        return false;
+    }
+}
+
+bool TestSession::choiceVerdict(ChoiceArray array) {
+    Selection selection{};
+    for (int i = 0; i < kChoices; ++i)
+        selection[static_cast<std::size_t>(i)] = controls_.isSelected(array, i);
+    const std::u16string code = choiceCode(selection);
+    test_.GivenAnswers.store(test_.CurrentQuestion, code);
+    return code == records_.solution();
+}
+
+void TestSession::showRight() {
+    test_.QuestionState.store(test_.CurrentQuestion, kRight);
+    refreshStrip();
+    popUpRightAnswer();
+    if (open_)
+        affsmile();
+    if (open_)
+        prochainval();
+}
+
+void TestSession::showWrong() {
+    test_.QuestionState.store(test_.CurrentQuestion, kWrong);
+    refreshStrip();
+    affsmile();
+    if (open_)
+        majquest();
+}
+
+void TestSession::popUpRightAnswer() {
+    view_.setMarkerVisible(false);
+    view_.showRightAnswer();
+    view_.setMarkerVisible(true);
+}
+
+void TestSession::affsmile() {
+    const Counts found = counts(test_);
+    const auto face = smileLevel(found);
+    if (!face)
+        return;
+    view_.setFace(*face);
+    if (found.answered == test_.QuestionCount)
+        showScore();
+}
+
+void TestSession::repbon() {
+    affsmile();
+    popUpRightAnswer();
+    view_.focusStrip();
+}
+
+void TestSession::showScore() {
+    view_.tell(scoreMessage(counts(test_), test_.QuestionCount));
 }
 
 } // namespace exercises

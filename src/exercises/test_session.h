@@ -1,15 +1,10 @@
 #pragma once
 
-#include "coursedata/exercise_tables.h"
-#include "coursedata/recordset.h"
-#include "exercises/score.h"
+#include "exercises/test_records.h"
 #include "exercises/test_state.h"
 #include "exercises/test_view.h"
-#include "platform/message_box.h"
-#include "shell/shared_state.h"
 
-#include <QChar>
-#include <QString>
+#include <string_view>
 
 namespace exercises {
 
@@ -23,18 +18,14 @@ public:
     /// The face of the marker until the first answer of the test.
     static constexpr int kNeutralFace = 4;
 
-    TestSession(shell::SharedState& shared, TestState& test, TestView& view,
-                AnswerControls& controls, CourseWindow& course, platform::Prompter& prompter);
+    TestSession(SharedWithCourse shared, TestState& test, TestRecords& records, TestView& view,
+                AnswerControls& controls, CourseWindow& course);
 
-    /// Opens the test of `PendingExerciseChapter` over its two tables, null for one that could not
-    /// be opened; they must outlive the session. A chapter without a test leaves title and count as
-    /// they were.
-    void load(const coursedata::Recordset* description, coursedata::Recordset* contenu);
-    /// Goes on over another recordset of "Contenu", opened anew; null for one that could not be
-    /// opened. The test stays where it is.
-    void reopen(coursedata::Recordset* contenu);
-    /// The record of the question shown.
-    coursedata::QuestionRecord& record() { return record_; }
+    /// Opens the test of `PendingExerciseChapter`. A chapter without a test leaves title and count
+    /// as they were.
+    void load();
+    /// Goes on where the test is after the records were opened anew.
+    void findRecord();
     /// The window has come up: shows the current question. Once a showing: drawing it again would
     /// take away what has been ticked or typed.
     void activate();
@@ -55,7 +46,7 @@ public:
     /// question has been validated. A click on the picture, and Enter in the answer box.
     void validate();
     /// What a character typed into the answer box becomes: "." is the decimal comma.
-    static QChar typedCharacter(QChar c) { return c == u'.' ? QChar(u',') : c; }
+    static char16_t typedCharacter(char16_t c) { return c == u'.' ? u',' : c; }
 
     void affsmile(); ///< the face for the answers so far; when all are given, the score too
     void repbon();   ///< the face and the popup of a right answer
@@ -66,10 +57,9 @@ public:
     bool close();
     /// Leaves the test for the course page in a link's tag; the window is to close then. A tag that
     /// reads 0, or as no 16-bit number, leads to no page.
-    void leaveFor(const QString& tag);
+    void leaveFor(std::u16string_view tag);
 
 private:
-    void findRecord();
     bool verdict();
     bool choiceVerdict(ChoiceArray array);
     void showRight();
@@ -80,13 +70,12 @@ private:
     void refreshStrip();
     void setValidateVisible(bool visible);
 
-    shell::SharedState& shared_;
+    SharedWithCourse shared_;
     TestState& test_;
+    TestRecords& records_;
     TestView& view_;
     AnswerControls& controls_;
     CourseWindow& course_;
-    platform::Prompter& prompter_;
-    coursedata::QuestionRecord record_{nullptr};
     bool validateVisible_ = false;
     bool open_ = false;
 };

@@ -2,16 +2,20 @@
 
 #include "text/bounded_array.h"
 
-#include <QString>
-
 #include <cstdint>
 #include <optional>
+#include <string>
 
 namespace exercises {
 
-/// Where the test in progress stands, beside its chapter (`PendingExerciseChapter`, 0 for no test)
-/// and the page to show afterwards (`ExerciseReturnPage`), which other windows share. One for the
-/// whole program: it outlives the window, so that a test which was left for a course page goes on.
+/// What the test shares with the other windows, which keep it.
+struct SharedWithCourse {
+    std::int16_t& PendingExerciseChapter; ///< the test's chapter; 0 for no test
+    std::int16_t& ExerciseReturnPage;     ///< page to show afterwards; 0 for none
+};
+
+/// Where the test in progress stands beside that. One for the whole program: it outlives the
+/// window, so that a test which was left for a course page goes on.
 struct TestState {
     std::int16_t CurrentQuestion = 0; ///< number, from 1, of the question shown; 0 before any test
     /// As the database has it: nothing keeps it from being 0, negative or above 100.
@@ -20,7 +24,7 @@ struct TestState {
     /// 100 have no slot: they can be answered, but nothing is kept of it.
     text::BoundedArray<std::int16_t, 0, 100> QuestionState;
     /// By question number: the choice code or the typed text, as it stood at validation.
-    text::BoundedArray<QString, 0, 100> GivenAnswers;
+    text::BoundedArray<std::u16string, 0, 100> GivenAnswers;
 };
 
 // A question without a slot is neither answered nor unanswered: what compares its state is

@@ -2,7 +2,7 @@
 
 #include "exercises/choices.h"
 
-#include <QString>
+#include <string>
 
 namespace exercises {
 
@@ -23,9 +23,17 @@ public:
     /// Paints a mark on the question beside the control.
     virtual void paintMark(ChoiceArray array, int index, Mark mark) = 0;
 
-    virtual QString typedText() const = 0; ///< of `Text1`
-    virtual void setTypedText(const QString& text) = 0;
+    virtual std::u16string typedText() const = 0; ///< of `Text1`
+    virtual void setTypedText(const std::u16string& text) = 0;
     virtual void disableTypedText() = 0;
+};
+
+/// What a box says.
+struct Message {
+    std::u16string title;
+    std::u16string text;
+
+    bool operator==(const Message&) const = default;
 };
 
 /// The test's window as its session knows it.
@@ -33,12 +41,12 @@ class TestView {
 public:
     virtual ~TestView() = default;
 
-    virtual void setTitle(const QString& title) = 0;     ///< `Label2`
-    virtual void setCaption(const QString& caption) = 0; ///< `noa`
-    virtual void setPreviousVisible(bool visible) = 0;   ///< `Command3`
-    virtual void setNextVisible(bool visible) = 0;       ///< `command4`
-    virtual void setValidateVisible(bool visible) = 0;   ///< `command5` and `Label3`
-    virtual void setScoreVisible(bool visible) = 0;      ///< `command6` and `Label5`
+    virtual void setTitle(const std::u16string& title) = 0;     ///< `Label2`
+    virtual void setCaption(const std::u16string& caption) = 0; ///< `noa`
+    virtual void setPreviousVisible(bool visible) = 0;          ///< `Command3`
+    virtual void setNextVisible(bool visible) = 0;              ///< `command4`
+    virtual void setValidateVisible(bool visible) = 0;          ///< `command5` and `Label3`
+    virtual void setScoreVisible(bool visible) = 0;             ///< `command6` and `Label5`
 
     /// Puts the marker (`Image4`) to the middle of a question's band; `count` is at least 1.
     virtual void placeMarker(int question, int count) = 0;
@@ -53,10 +61,15 @@ public:
     /// unselected and enabled, the typed text empty and enabled, link and video icon gone.
     virtual void misanet() = 0;
     /// Draws a page source onto the emptied question area, which shows the controls it asks for.
-    virtual void drawQuestion(const QString& source) = 0;
+    virtual void drawQuestion(const std::u16string& source) = 0;
 
     /// Shows the popup after a right answer (`Cjuste`) and returns once it has gone.
     virtual void showRightAnswer() = 0;
+
+    /// Shows a message and returns once it has been read.
+    virtual void tell(const Message& message) = 0;
+    /// Asks a question and returns whether the answer was yes; a box closed without one says no.
+    virtual bool ask(const Message& question) = 0;
 };
 
 /// The main window as the test knows it.

@@ -1,7 +1,8 @@
 #include "jet/catalog.h"
 
+#include "jet/names.h"
 #include "jet/table_reader.h"
-#include "jet/unicode.h"
+#include "text/utf8.h"
 
 #include <array>
 #include <string>
@@ -40,7 +41,8 @@ public:
         }
         const TableInfo table{*name, static_cast<std::uint32_t>(*id) & kPageOfId};
         if (const char* fault = whyNot(table))
-            catalog_.problems.add("catalogue : table « " + toUtf8(*name) + " » passée, " + fault);
+            catalog_.problems.add("catalogue : table « " + text::toUtf8(*name) + " » passée, " +
+                                  fault);
         else
             catalog_.tables.push_back(table);
     }
@@ -87,7 +89,7 @@ Result<Catalog> readCatalog(const std::shared_ptr<PageSource>& source) {
         const auto index = (*reader)->columnIndex(names[i]);
         if (!index)
             return Failure{Failure::Kind::Damaged,
-                           "catalogue : il n’a pas de colonne « " + toUtf8(names[i]) + " »"};
+                           "catalogue : il n’a pas de colonne « " + text::toUtf8(names[i]) + " »"};
         columns[i] = *index;
     }
     CatalogReader entries(*source);

@@ -1,7 +1,7 @@
 #include "jet/changed_cell.h"
 
 #include "jet/cell_encoder.h"
-#include "jet/unicode.h"
+#include "text/utf8.h"
 
 #include <utility>
 
@@ -33,7 +33,8 @@ Result<ChangedCell> encodeChangedCell(const TableDefinition& definition, const T
                                       std::size_t column, const Value& value) {
     const Column& declared = definition.columns[column];
     const auto refused = [&](const char* why) {
-        return Failure{Failure::Kind::Refused, "colonne « " + toUtf8(declared.name) + " », " + why};
+        return Failure{Failure::Kind::Refused,
+                       "colonne « " + text::toUtf8(declared.name) + " », " + why};
     };
     ChangedCell cell;
     cell.column = column;

@@ -1,9 +1,10 @@
 #include "jet/database.h"
 
 #include "jet/catalog.h"
+#include "jet/names.h"
 #include "jet/page_source.h"
 #include "jet/table_reader.h"
-#include "jet/unicode.h"
+#include "text/utf8.h"
 
 #include <algorithm>
 #include <utility>
@@ -15,14 +16,14 @@ struct Database::State {
     Catalog catalog;
 };
 
-Result<Database> Database::open(const std::filesystem::path& path) {
-    auto source = PageSource::open(path);
-    if (!source)
-        return source.error();
-    auto catalog = readCatalog(*source);
+Result<Database> Database::open(std::unique_ptr<ByteSource> source, std::string_view name) {
+    auto pages = PageSource::open(std::move(source), name);
+    if (!pages)
+        return pages.error();
+    auto catalog = readCatalog(*pages);
     if (!catalog)
         return catalog.error();
-    return Database(std::make_unique<State>(State{std::move(*source), std::move(*catalog)}));
+    return Database(std::make_unique<State>(State{std::move(*pages), std::move(*catalog)}));
 }
 
 Database::Database(std::unique_ptr<State> state) : state_(std::move(state)) {}
@@ -43,7 +44,7 @@ Result<Table> Database::table(std::u16string_view name) const {
         return sameName(table.name, name);
     });
     if (found == tables().end())
-        return Failure{Failure::Kind::NotFound, "pas de table « " + toUtf8(name) + " »"};
+        return Failure{Failure::Kind::NotFound, "pas de table « " + text::toUtf8(name) + " »"};
     auto reader = TableReader::open(state_->source, found->definitionPage, found->name);
     if (!reader)
         return reader.error();

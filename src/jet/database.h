@@ -1,11 +1,11 @@
 #pragma once
 
+#include "jet/byte_source.h"
 #include "jet/problems.h"
 #include "jet/result.h"
 #include "jet/table.h"
 
 #include <cstdint>
-#include <filesystem>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -20,10 +20,11 @@ struct TableInfo {
     std::uint32_t definitionPage = 0;
 };
 
-/// A database file opened for reading. Opening reads the header and the catalog, nothing else.
+/// A database opened for reading. Opening reads the header and the catalog, nothing else.
 class Database {
 public:
-    static Result<Database> open(const std::filesystem::path& path);
+    /// `name`, UTF-8, is what failures call it. For files see database_file.h.
+    static Result<Database> open(std::unique_ptr<ByteSource> source, std::string_view name);
 
     Database(Database&&) noexcept;
     Database& operator=(Database&&) noexcept;

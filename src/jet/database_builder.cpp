@@ -1,8 +1,9 @@
 #include "jet/database_builder.h"
 
+#include "jet/names.h"
 #include "jet/schema_check.h"
 #include "jet/system_tables.h"
-#include "jet/unicode.h"
+#include "text/utf8.h"
 
 #include <algorithm>
 #include <utility>
@@ -52,7 +53,7 @@ Result<TableBuilder*> DatabaseBuilder::addTable(std::u16string_view name,
     for (const Table& other : tables_)
         if (sameName(other.builder->name(), name))
             return Failure{Failure::Kind::Refused,
-                           "table « " + toUtf8(name) + " » : une autre table a le même nom"};
+                           "table « " + text::toUtf8(name) + " » : une autre table a le même nom"};
     Table table;
     table.maps = std::make_unique<MapPages>(*file_);
     table.builder = std::make_unique<TableBuilder>(userTable(name, columns), *file_, *table.maps);

@@ -5,7 +5,6 @@
 #include "jet/result.h"
 #include "jet/table_builder.h"
 
-#include <filesystem>
 #include <memory>
 #include <span>
 #include <string_view>

@@ -1,12 +1,14 @@
 #include "jet/editor.h"
 
 #include "jet/catalog.h"
+#include "jet/database_file.h"
+#include "jet/names.h"
 #include "jet/page_changes.h"
 #include "jet/page_file.h"
 #include "jet/row_change.h"
 #include "jet/table_rows.h"
 #include "jet/table_tidier.h"
-#include "jet/unicode.h"
+#include "text/utf8.h"
 
 #include <algorithm>
 #include <optional>
@@ -42,7 +44,7 @@ struct OpenTable {
 };
 
 Result<OpenTable> openTable(const std::filesystem::path& path, std::u16string_view name) {
-    auto source = PageSource::open(path);
+    auto source = openPages(path);
     if (!source)
         return source.error();
     const auto catalog = readCatalog(*source);
@@ -51,8 +53,8 @@ Result<OpenTable> openTable(const std::filesystem::path& path, std::u16string_vi
     const auto found = std::find_if(catalog->tables.begin(), catalog->tables.end(),
                                     [&](const TableInfo& t) { return sameName(t.name, name); });
     if (found == catalog->tables.end())
-        return Failure{Failure::Kind::NotFound, "pas de table « " + toUtf8(name) + " »"};
-    OpenTable table{*source, "table « " + toUtf8(found->name) + " »", {}, {}};
+        return Failure{Failure::Kind::NotFound, "pas de table « " + text::toUtf8(name) + " »"};
+    OpenTable table{*source, "table « " + text::toUtf8(found->name) + " »", {}, {}};
     auto definition = readTableDefinition(**source, found->definitionPage);
     if (!definition)
         return table.failure(definition.error());
@@ -72,7 +74,7 @@ Result<std::vector<ChangedCell>> encode(const OpenTable& table, std::span<const 
             return sameName(column.name, cell.column);
         });
         const auto index = static_cast<std::size_t>(found - columns.begin());
-        const std::string name = "colonne « " + toUtf8(cell.column) + " »";
+        const std::string name = "colonne « " + text::toUtf8(cell.column) + " »";
         if (found == columns.end())
             return Failure{Failure::Kind::NotFound, "pas de " + name};
         if (std::any_of(encoded.begin(), encoded.end(),
@@ -149,7 +151,7 @@ public:
 
     /// After commit(): gives back what the row had and has no more, as far as that is possible.
     void tidy(const std::filesystem::path& path, PageSink& sink) {
-        const auto source = PageSource::open(path);
+        const auto source = openPages(path);
         if (!source)
             return;
         PageChanges changes(**source);
@@ -177,7 +179,7 @@ Result<DatabaseEditor> DatabaseEditor::open(const std::filesystem::path& path,
     if (hasLockFile(path))
         return fileFailure(Failure::Kind::System, path,
                            "un autre programme l’a ouverte (fichier .ldb)");
-    const auto source = PageSource::open(path);
+    const auto source = openPages(path);
     if (!source)
         return source.error();
     if (!(*source)->format().wideText && (*source)->header().codePage != kWindows1252)

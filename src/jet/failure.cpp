@@ -1,19 +1,9 @@
 #include "jet/failure.h"
 
-#include "files/cause.h"
-
 namespace jet {
 
-Failure fileFailure(Failure::Kind kind, const std::filesystem::path& path, const char* what) {
-    const std::u8string name = path.filename().u8string();
-    return {kind, "base de données « " + std::string(name.begin(), name.end()) + " » : " + what};
-}
-
-Failure fileFailure(const std::filesystem::path& path, const char* what, std::error_code error) {
-    Failure failure = fileFailure(Failure::Kind::System, path, what);
-    if (error)
-        failure.sentence += " : " + files::causeOf(error);
-    return failure;
+Failure databaseFailure(Failure::Kind kind, std::string_view name, const char* what) {
+    return {kind, "base de données « " + std::string(name) + " » : " + what};
 }
 
 } // namespace jet

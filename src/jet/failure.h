@@ -1,8 +1,7 @@
 #pragma once
 
-#include <filesystem>
 #include <string>
-#include <system_error>
+#include <string_view>
 
 namespace jet {
 
@@ -21,11 +20,7 @@ struct Failure {
     std::string sentence;
 };
 
-/// « base de données « nom » : », then what happened to the file.
-Failure fileFailure(Failure::Kind kind, const std::filesystem::path& path, const char* what);
-
-/// The same for what the system refused, with its cause behind a colon; without one when `error`
-/// is none.
-Failure fileFailure(const std::filesystem::path& path, const char* what, std::error_code error);
+/// "base de données « name » : ", then what is the matter with it; the name is UTF-8.
+Failure databaseFailure(Failure::Kind kind, std::string_view name, const char* what);
 
 } // namespace jet

@@ -11,13 +11,6 @@ constexpr std::size_t kPiece = 64 * 1024;
 
 } // namespace
 
-Result<std::unique_ptr<OutputFile>> OutputFile::create(const std::filesystem::path& target) {
-    std::unique_ptr<OutputFile> output(new OutputFile(target));
-    if (const std::error_code error = output->file_.error())
-        return fileFailure(target, "le fichier ne peut pas être créé", error);
-    return output;
-}
-
 void OutputFile::write(std::uint32_t number, Bytes page) {
     const std::uint64_t at = std::uint64_t{number} * page.size();
     if (at != waitingAt_ + waiting_.size() || waiting_.size() >= kPiece) {
@@ -27,17 +20,16 @@ void OutputFile::write(std::uint32_t number, Bytes page) {
     waiting_.insert(waiting_.end(), page.data(), page.data() + page.size());
 }
 
-bool OutputFile::writeWaiting() {
-    const bool written = file_.writeAt(waitingAt_, waiting_);
+void OutputFile::writeWaiting() {
+    sink_->writeAt(waitingAt_, waiting_);
     waiting_.clear();
-    return written;
 }
 
 Result<void> OutputFile::state() const {
     if (closed_)
         return Failure{Failure::Kind::Refused, "la base est déjà terminée"};
-    if (const std::error_code error = file_.error())
-        return fileFailure(target_, "l’écriture a échoué", error);
+    if (auto fine = sink_->state(); !fine)
+        return fine;
     if (pageCount_ > kJet4.maxPages)
         return Failure{Failure::Kind::Refused, "la base dépasserait 2 Go"};
     return {};
@@ -48,9 +40,7 @@ Result<void> OutputFile::putInPlace() {
     if (const auto fine = state(); !fine)
         return fine;
     closed_ = true;
-    if (!file_.putInPlace())
-        return fileFailure(target_, "le fichier ne peut pas être mis en place", file_.error());
-    return {};
+    return sink_->putInPlace();
 }
 
 } // namespace jet

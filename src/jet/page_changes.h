@@ -1,7 +1,7 @@
 #pragma once
 
 #include "jet/byte_writer.h"
-#include "jet/page_file.h"
+#include "jet/page_sink.h"
 #include "jet/page_source.h"
 #include "jet/result.h"
 

@@ -1,6 +1,7 @@
 #include "jet/page_file.h"
 
 #include "files/cause.h"
+#include "jet/database_file.h"
 
 #include <limits>
 #include <system_error>

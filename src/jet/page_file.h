@@ -1,7 +1,6 @@
 #pragma once
 
-#include "jet/bytes.h"
-#include "jet/result.h"
+#include "jet/page_sink.h"
 
 #include <cstdint>
 #include <cstdio>
@@ -9,18 +8,6 @@
 #include <memory>
 
 namespace jet {
-
-/// Where the changed pages of a database go, one after the other.
-class PageSink {
-public:
-    virtual ~PageSink() = default;
-    /// Puts one whole page in its place; a number just past the end of the file adds it.
-    virtual Result<void> write(std::uint32_t number, Bytes page) = 0;
-    /// Returns when all that was written is on the disk.
-    virtual Result<void> sync() = 0;
-    /// Gives the file back the length, in bytes, it had when it was opened.
-    virtual void cutBack() = 0;
-};
 
 /// A file that is there already, opened for changing pages in it. No other PageFile can have the
 /// same file open meanwhile; readers can.

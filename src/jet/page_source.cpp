@@ -52,29 +52,26 @@ ParsedHeader parseHeader(std::array<std::uint8_t, kHeaderBytes>& stored) {
 
 } // namespace
 
-Result<std::shared_ptr<PageSource>> PageSource::open(const std::filesystem::path& path) {
-    std::error_code error;
-    auto file = files::InputFile::open(path, error);
-    if (!file)
-        return fileFailure(path, "le fichier ne peut pas être ouvert", error);
-
+Result<std::shared_ptr<PageSource>> PageSource::open(std::unique_ptr<ByteSource> source,
+                                                     std::string_view name) {
     std::array<std::uint8_t, kHeaderBytes> stored{};
-    if (!file->read(0, stored, error))
-        return fileFailure(Failure::Kind::NotADatabase, path,
-                           "le fichier est plus court qu’un en-tête");
+    if (!source->read(0, stored))
+        return databaseFailure(Failure::Kind::NotADatabase, name,
+                               "le fichier est plus court qu’un en-tête");
     const ParsedHeader parsed = parseHeader(stored);
     if (parsed.fault)
-        return fileFailure(parsed.kind, path, parsed.fault);
-    if (file->size() / parsed.header.format->pageSize <= kCatalogPage)
-        return fileFailure(Failure::Kind::Damaged, path, "le fichier s’arrête avant son catalogue");
-    return std::shared_ptr<PageSource>(new PageSource(*std::move(file), parsed.header));
+        return databaseFailure(parsed.kind, name, parsed.fault);
+    if (source->size() / parsed.header.format->pageSize <= kCatalogPage)
+        return databaseFailure(Failure::Kind::Damaged, name,
+                               "le fichier s’arrête avant son catalogue");
+    return std::shared_ptr<PageSource>(new PageSource(std::move(source), parsed.header));
 }
 
-PageSource::PageSource(files::InputFile file, const Header& header)
-    : file_(std::move(file)), header_(header),
+PageSource::PageSource(std::unique_ptr<ByteSource> source, const Header& header)
+    : source_(std::move(source)), header_(header),
       // Row pointers give a page 24 bits.
       pageCount_(static_cast<std::uint32_t>(
-          std::min<std::uint64_t>(file_.size() / header.format->pageSize, 1u << 24))) {}
+          std::min<std::uint64_t>(source_->size() / header.format->pageSize, 1u << 24))) {}
 
 std::optional<Page> PageSource::page(std::uint32_t number) {
     if (number >= pageCount_)
@@ -130,8 +127,7 @@ bool PageSource::fill(Block& block, std::uint32_t first, std::uint32_t count) {
     if (!block.bytes || block.bytes.use_count() > 1) // somebody still reads its pages
         block.bytes = std::make_shared_for_overwrite<std::uint8_t[]>(kBlockBytes);
 
-    std::error_code error;
-    if (!file_.read(std::uint64_t{first} * pageSize, {block.bytes.get(), count * pageSize}, error))
+    if (!source_->read(std::uint64_t{first} * pageSize, {block.bytes.get(), count * pageSize}))
         return false;
     if (header_.pageKey != 0) {
         for (std::uint32_t i = first == 0 ? 1 : 0; i < count; ++i)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "files/input_file.h"
+#include "jet/byte_source.h"
 #include "jet/bytes.h"
 #include "jet/format.h"
 #include "jet/result.h"
@@ -8,13 +8,13 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <filesystem>
 #include <memory>
 #include <optional>
+#include <string_view>
 
 namespace jet {
 
-/// One page of the file. Its bytes stay readable as long as the object lives.
+/// One page of a database. Its bytes stay readable as long as the object lives.
 struct Page {
     std::shared_ptr<const std::uint8_t[]> block;
     Bytes bytes;
@@ -24,9 +24,9 @@ struct Page {
     std::uint32_t owner() const { return bytes.u32(kPageOwnerAt); }
 };
 
-/// Hands out the pages of a file, keeping the latest ones. Pages asked for one after the other are
-/// read in larger and larger blocks, others one by one, so that neither a walk through the whole
-/// file nor a few scattered pages cost more than they must.
+/// Hands out the pages of a database, keeping the latest ones. Pages asked for one after the other
+/// are read in larger and larger blocks, others one by one, so that neither a walk through the
+/// whole file nor a few scattered pages cost more than they must.
 class PageSource {
 public:
     /// What the header page says of the file.
@@ -36,7 +36,9 @@ public:
         std::uint16_t codePage = 0;
     };
 
-    static Result<std::shared_ptr<PageSource>> open(const std::filesystem::path& path);
+    /// `name`, UTF-8, is what failures call the database.
+    static Result<std::shared_ptr<PageSource>> open(std::unique_ptr<ByteSource> source,
+                                                    std::string_view name);
 
     const Format& format() const { return *header_.format; }
     const Header& header() const { return header_; }
@@ -66,7 +68,7 @@ private:
         }
     };
 
-    PageSource(files::InputFile file, const Header& header);
+    PageSource(std::unique_ptr<ByteSource> source, const Header& header);
     const Block* cached(std::uint32_t number) const;
     std::uint32_t pagesToRead(std::uint32_t number) const;
     std::uint32_t largestBlock() const;
@@ -74,7 +76,7 @@ private:
     bool fill(Block& block, std::uint32_t first, std::uint32_t count);
     Page pageOf(const Block& block, std::uint32_t number) const;
 
-    files::InputFile file_;
+    std::unique_ptr<ByteSource> source_;
     Header header_;
     std::uint32_t pageCount_;
     std::uint64_t clock_ = 0;

@@ -2,7 +2,8 @@
 
 #include "jet/format.h"
 #include "jet/index_builder.h"
-#include "jet/unicode.h"
+#include "jet/names.h"
+#include "text/utf8.h"
 
 #include <algorithm>
 #include <string>
@@ -15,7 +16,7 @@ constexpr std::size_t kLongestName = 64;
 constexpr std::u16string_view kSystemPrefix = u"MSys";
 
 Failure refused(std::u16string_view table, const std::string& what) {
-    return {Failure::Kind::Refused, "table « " + toUtf8(table) + " » : " + what};
+    return {Failure::Kind::Refused, "table « " + text::toUtf8(table) + " » : " + what};
 }
 
 bool isControl(char16_t c) {
@@ -93,7 +94,7 @@ Result<void> checkSchema(std::u16string_view table, std::span<const Column> colu
         if (!fault && isRepeated(columns, i))
             fault = "une autre colonne a le même nom";
         if (fault)
-            return refused(table, "colonne « " + toUtf8(columns[i].name) + " » : " + fault);
+            return refused(table, "colonne « " + text::toUtf8(columns[i].name) + " » : " + fault);
     }
     return {};
 }

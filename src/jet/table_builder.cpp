@@ -1,7 +1,7 @@
 #include "jet/table_builder.h"
 
 #include "jet/cell_encoder.h"
-#include "jet/unicode.h"
+#include "text/utf8.h"
 
 #include <algorithm>
 #include <numeric>
@@ -111,7 +111,7 @@ Result<void> TableBuilder::encodeCells(std::span<const Value> values) {
             continue;
         EncodedCell cell = encodeCell(values[i], definition_.columns[i]);
         if (cell.fault)
-            return refused("colonne « " + toUtf8(definition_.columns[i].name) + " », " +
+            return refused("colonne « " + text::toUtf8(definition_.columns[i].name) + " », " +
                            cell.fault);
         cells_[i] = std::move(cell.bytes);
     }
@@ -189,7 +189,7 @@ void TableBuilder::writeDefinition() {
 }
 
 Failure TableBuilder::refused(const std::string& what) const {
-    return {Failure::Kind::Refused, "table « " + toUtf8(name_) + " », enregistrement " +
+    return {Failure::Kind::Refused, "table « " + text::toUtf8(name_) + " », enregistrement " +
                                         std::to_string(definition_.rowCount + 1) + " : " + what};
 }
 

@@ -1,7 +1,8 @@
 #include "jet/table_reader.h"
 
 #include "jet/cell_decoder.h"
-#include "jet/unicode.h"
+#include "jet/names.h"
+#include "text/utf8.h"
 
 #include <utility>
 
@@ -64,7 +65,7 @@ Result<std::unique_ptr<TableReader>> TableReader::open(std::shared_ptr<PageSourc
     auto definition = readTableDefinition(*source, page);
     if (!definition)
         return Failure{definition.error().kind,
-                       "table « " + toUtf8(name) + " » : " + definition.error().sentence};
+                       "table « " + text::toUtf8(name) + " » : " + definition.error().sentence};
     return std::unique_ptr<TableReader>(
         new TableReader(std::move(source), std::move(*definition), std::move(name)));
 }
@@ -75,7 +76,7 @@ TableReader::TableReader(std::shared_ptr<PageSource> source, TableDefinition def
       rows_(*source_, definition_, label()), longValues_(*source_) {}
 
 std::string TableReader::label() const {
-    return "table « " + toUtf8(name_) + " »";
+    return "table « " + text::toUtf8(name_) + " »";
 }
 
 std::optional<std::size_t> TableReader::columnIndex(std::u16string_view name) const {
@@ -250,8 +251,8 @@ Result<bool> TableReader::decodeCellText(const LiveRow& live, std::size_t column
 
 Failure TableReader::cellFailure(const LiveRow& live, std::size_t column,
                                  const Failure& failure) const {
-    return {failure.kind, label() + ", colonne « " + toUtf8(columns()[column].name) + " », page " +
-                              std::to_string(live.place.page) + ", ligne " +
+    return {failure.kind, label() + ", colonne « " + text::toUtf8(columns()[column].name) +
+                              " », page " + std::to_string(live.place.page) + ", ligne " +
                               std::to_string(live.place.row) + " : " + failure.sentence};
 }
 

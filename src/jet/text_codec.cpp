@@ -1,6 +1,7 @@
 #include "jet/text_codec.h"
 
-#include <array>
+#include "text/windows_1252.h"
+
 #include <cstddef>
 #include <cstring>
 #include <iterator>
@@ -16,24 +17,11 @@ constexpr char16_t kByteOrderMark = 0xFEFF;
 constexpr std::size_t kShortestCompressed = 3;
 constexpr std::size_t kLongestCompressed = 1024;
 
+/// Stands for a code that Windows-1252 leaves open.
 constexpr char16_t kUndefined = 0xFFFD;
-/// Windows-1252 from 0x80 to 0x9F; kUndefined where it defines nothing. The rest is Latin-1.
-constexpr std::array<char16_t, 32> kWindows1252High{
-    0x20AC, 0xFFFD, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-    0x2039, 0x0152, 0xFFFD, 0x017D, 0xFFFD, 0xFFFD, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0xFFFD, 0x017E, 0x0178};
 
 char16_t fromWindows1252(std::uint8_t byte) {
-    return byte >= 0x80 && byte < 0xA0 ? kWindows1252High[byte - 0x80u] : char16_t{byte};
-}
-
-std::optional<std::uint8_t> toWindows1252(char16_t unit) {
-    if (unit < 0x80 || (unit >= 0xA0 && unit <= 0xFF))
-        return static_cast<std::uint8_t>(unit);
-    for (std::size_t i = 0; i < kWindows1252High.size(); ++i)
-        if (kWindows1252High[i] == unit && unit != kUndefined)
-            return static_cast<std::uint8_t>(0x80 + i);
-    return std::nullopt;
+    return text::fromWindows1252(byte).value_or(kUndefined);
 }
 
 bool isCompressed(Bytes bytes) {
@@ -182,7 +170,7 @@ std::optional<std::vector<std::uint8_t>> encodeWindows1252(std::u16string_view t
     std::vector<std::uint8_t> bytes;
     bytes.reserve(text.size());
     for (const char16_t unit : text) {
-        const auto byte = toWindows1252(unit);
+        const auto byte = text::toWindows1252(unit);
         if (!byte)
             return std::nullopt;
         bytes.push_back(*byte);

@@ -13,11 +13,9 @@ Result<void> TableWriter::append(std::span<const Value> values) {
     return {};
 }
 
-Result<DatabaseWriter> DatabaseWriter::create(const std::filesystem::path& path) {
-    auto file = OutputFile::create(path);
-    if (!file)
-        return file.error();
-    return DatabaseWriter(std::make_unique<DatabaseBuilder>(std::move(*file)));
+DatabaseWriter DatabaseWriter::create(std::unique_ptr<ByteSink> sink) {
+    return DatabaseWriter(
+        std::make_unique<DatabaseBuilder>(std::make_unique<OutputFile>(std::move(sink))));
 }
 
 DatabaseWriter::DatabaseWriter(std::unique_ptr<DatabaseBuilder> builder)

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "jet/byte_sink.h"
 #include "jet/column.h"
 #include "jet/result.h"
 #include "jet/value.h"
 
-#include <filesystem>
 #include <memory>
 #include <span>
 #include <string_view>
@@ -30,13 +30,12 @@ private:
     TableBuilder* table_;
 };
 
-/// Writes a new Jet 4 database. All goes to a temporary file next to the target, which takes the
-/// target's place in finish() only: until then, and after any failure, a file that was there before
-/// is as it was. Dropped without finish(), it leaves nothing behind. Memory does not grow with the
-/// rows.
+/// Writes a new Jet 4 database, which is one when finish() has succeeded. Memory does not grow with
+/// the rows.
 class DatabaseWriter {
 public:
-    static Result<DatabaseWriter> create(const std::filesystem::path& path);
+    /// For files see database_file.h.
+    static DatabaseWriter create(std::unique_ptr<ByteSink> sink);
 
     DatabaseWriter(DatabaseWriter&&) noexcept;
     DatabaseWriter& operator=(DatabaseWriter&&) noexcept;

@@ -1,14 +1,13 @@
 #pragma once
 
+#include "page/utf16.h"
 #include "text/numeric_reader.h"
-
-#include <QStringView>
 
 namespace page {
 
 /// text::leadingNumber for Qt's texts.
 inline double leadingNumber(QStringView input) {
-    return text::leadingNumber({input.utf16(), static_cast<std::size_t>(input.size())});
+    return text::leadingNumber(utf16(input));
 }
 
 } // namespace page

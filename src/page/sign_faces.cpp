@@ -1,5 +1,7 @@
 #include "page/sign_faces.h"
 
+#include "text/windows_1252.h"
+
 #include <QFile>
 
 #include <algorithm>
@@ -77,13 +79,8 @@ int signCode(QChar character) {
         return unit;
     if (unit >= 0xF020 && unit <= 0xF0FF)
         return unit & 0xFF;
-    // Windows-1252, 0x80 to 0x9F; the five holes stand for themselves.
-    static constexpr char16_t kHigh[] = u"€\u0081‚ƒ„…†‡ˆ‰Š‹Œ\u008DŽ\u008F"
-                                        u"\u0090‘’“”•–—˜™š›œ\u009DžŸ";
-    for (int i = 0; i < 32; ++i)
-        if (kHigh[i] == unit)
-            return 0x80 + i;
-    return -1;
+    const auto code = text::toWindows1252(unit);
+    return code ? *code : -1;
 }
 
 char32_t signCharacter(SignFace face, int code) {

@@ -1,5 +1,6 @@
 #include "search/coordon.h"
 
+#include "jet/database_file.h"
 #include "look/button.h"
 #include "look/check_box.h"
 #include "look/enter_once.h"
@@ -59,7 +60,10 @@ std::optional<CoursePages> coursePages(const QString& installDir) {
     const auto file = platform::findWithoutCase(installDir, QStringLiteral("Zekx.mdb"));
     if (!file)
         return std::nullopt;
-    auto pages = CoursePages::open(std::filesystem::path(file->toStdU16String()));
+    const auto database = jet::openDatabase(platform::standardPath(*file));
+    if (!database)
+        return std::nullopt;
+    auto pages = CoursePages::open(*database);
     return pages ? std::optional(std::move(*pages)) : std::nullopt;
 }
 

@@ -6,8 +6,7 @@
 
 namespace search {
 
-jet::Result<CoursePages> CoursePages::open(const std::filesystem::path& database,
-                                           std::size_t mostBytes) {
+jet::Result<CoursePages> CoursePages::open(const jet::Database& database, std::size_t mostBytes) {
     auto reader = SliceReader::open(database);
     if (!reader)
         return reader.error();

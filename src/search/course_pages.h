@@ -1,10 +1,10 @@
 #pragma once
 
+#include "jet/database.h"
 #include "jet/problems.h"
 #include "jet/result.h"
 
 #include <cstddef>
-#include <filesystem>
 #include <memory>
 
 namespace search {
@@ -19,10 +19,11 @@ inline constexpr std::size_t kFoldedCopyBytes = 256 * 1024 * 1024;
 /// the copy goes with it. Not to be used from two threads at once.
 class CoursePages {
 public:
-    /// Opens a course database; nothing but the table's definition is read. The failure, a French
-    /// sentence, says that there is no such file, table or column ("fpc", "moteur"), or what of it
-    /// is damaged. With `mostBytes` 0 no copy is kept, which is for a single search.
-    static jet::Result<CoursePages> open(const std::filesystem::path& database,
+    /// Opens the table of a course's database, which need not be kept; nothing but the table's
+    /// definition is read. The failure, a French sentence, says that there is no such table or
+    /// column ("fpc", "moteur"), or what of it is damaged. With `mostBytes` 0 no copy is kept,
+    /// which is for a single search.
+    static jet::Result<CoursePages> open(const jet::Database& database,
                                          std::size_t mostBytes = kFoldedCopyBytes);
 
     CoursePages(CoursePages&&) noexcept;

@@ -1,6 +1,5 @@
 #include "search/slice_reader.h"
 
-#include "jet/database.h"
 #include "jet/text_sink.h"
 #include "text/numeric_reader.h"
 #include "text/rounding.h"
@@ -53,11 +52,8 @@ jet::Failure noColumn(const char* name) {
 
 } // namespace
 
-jet::Result<SliceReader> SliceReader::open(const std::filesystem::path& database) {
-    const auto opened = jet::Database::open(database);
-    if (!opened)
-        return opened.error();
-    auto table = opened->table(u"cours");
+jet::Result<SliceReader> SliceReader::open(const jet::Database& database) {
+    auto table = database.table(u"cours");
     if (!table)
         return table.error();
     const auto fpc = table->columnIndex(u"fpc");

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "jet/database.h"
 #include "jet/result.h"
 #include "jet/table.h"
 #include "search/page_slice.h"
 
 #include <cstddef>
-#include <filesystem>
 #include <optional>
 
 namespace search {
@@ -14,7 +14,7 @@ namespace search {
 class SliceReader {
 public:
     /// See CoursePages::open.
-    static jet::Result<SliceReader> open(const std::filesystem::path& database);
+    static jet::Result<SliceReader> open(const jet::Database& database);
 
     std::size_t recordCount() { return table_.recordCount(); }
 

@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstdint>
+#include <cstdio>
 #include <cstdlib>
 #include <string_view>
 #include <system_error>
@@ -28,12 +29,23 @@ struct Decimal {
     int exponent;
 };
 
+/// Writes "d.dddddddddddddde+xx" and gives its end.
+const char* writeScientific(double magnitude, std::array<char, 32>& buffer) {
+#ifdef __cpp_lib_to_chars
+    return std::to_chars(buffer.data(), buffer.data() + buffer.size(), magnitude,
+                         std::chars_format::scientific, kSignificantDigits - 1)
+        .ptr;
+#else
+    // In browsers: no locale gives another point there, and to_chars would bring 100 KB of tables.
+    return buffer.data() +
+           std::snprintf(buffer.data(), buffer.size(), "%.*e", kSignificantDigits - 1, magnitude);
+#endif
+}
+
 Decimal rounded(double magnitude) {
     std::array<char, 32> buffer;
-    const char* const end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), magnitude,
-                                          std::chars_format::scientific, kSignificantDigits - 1)
-                                .ptr;
-    // "d.dddddddddddddde+xx": the point and the letter stand at fixed places.
+    const char* const end = writeScientific(magnitude, buffer);
+    // The point and the letter stand at fixed places.
     Decimal decimal{};
     decimal.digits[0] = buffer[0];
     for (std::size_t i = 1; i < kSignificantDigits; ++i)

@@ -1,6 +1,7 @@
 #include "text/numeric_reader.h"
 
 #include <charconv>
+#include <cstdlib>
 #include <limits>
 #include <string>
 
@@ -62,6 +63,29 @@ void takeExponent(Cursor cursor, std::string& number) {
         number += exponent;
 }
 
+#ifdef __cpp_lib_to_chars
+
+double valueOf(const std::string& number) {
+    double value = 0;
+    const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), value);
+    if (error == std::errc::result_out_of_range) {
+        // from_chars does not say which end of the range was left; the exponent's sign does.
+        value =
+            number.find("e-") != std::string::npos ? 0 : std::numeric_limits<double>::infinity();
+    }
+    return value;
+}
+
+#else
+
+/// libc++ has no from_chars for numbers with a point. In browsers there is no locale that would
+/// give strtod another point.
+double valueOf(const std::string& number) {
+    return std::strtod(number.c_str(), nullptr);
+}
+
+#endif
+
 } // namespace
 
 double leadingNumber(std::u16string_view input) {
@@ -81,13 +105,7 @@ double leadingNumber(std::u16string_view input) {
         return 0;
     takeExponent(cursor, number);
 
-    double value = 0;
-    const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), value);
-    if (error == std::errc::result_out_of_range) {
-        // from_chars does not say which end of the range was left; the exponent's sign does.
-        value =
-            number.find("e-") != std::string::npos ? 0 : std::numeric_limits<double>::infinity();
-    }
+    const double value = valueOf(number);
     return negative ? -value : value;
 }
 

@@ -11,6 +11,15 @@ namespace text {
 /// half of a UTF-16 pair, or a code beyond U+10FFFF.
 std::size_t utf8CharacterLength(std::string_view utf8);
 
+/// UTF-16 to UTF-8; unpaired surrogates become U+FFFD.
+std::string toUtf8(std::u16string_view text);
+void appendUtf8(std::u16string_view text, std::string& out);
+/// Writes one character, at most four bytes, and gives the end.
+char* encodeUtf8(char32_t character, char* to);
+
+/// UTF-8 to UTF-16; each byte that is part of no character becomes U+FFFD.
+std::u16string toUtf16(std::string_view utf8);
+
 /// The text as one line that a terminal can be trusted with, whoever wrote it: U+FFFD stands for
 /// control characters (U+0000 to U+001F, U+007F to U+009F), for line and paragraph separators, for
 /// what changes the direction of writing (U+200E, U+200F, U+202A to U+202E, U+2066 to U+2069), and

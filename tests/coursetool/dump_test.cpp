@@ -3,7 +3,7 @@
 #include "coursetool/json_string.h"
 #include "coursetool/workspace.h"
 #include "jet/text_codec.h"
-#include "jet/unicode.h"
+#include "text/utf8.h"
 
 #include <gmock/gmock.h>
 
@@ -105,7 +105,7 @@ TEST(JsonStrings, areTheSameFromUtf16AsFromUtf8) {
         const auto stored = jet::encodeText(text, i % 3 != 0);
         ASSERT_TRUE(stored);
         std::string expected;
-        coursetool::appendJsonString(jet::toUtf8(text), expected);
+        coursetool::appendJsonString(text::toUtf8(text), expected);
         ASSERT_EQ(fromStored(*stored, jet::TextForm::Compressible), expected);
     }
 }

@@ -1,6 +1,7 @@
 #include "coursetool/workspace.h"
 
 #include "coursetool/dump.h"
+#include "jet/database_file.h"
 
 #include <algorithm>
 #include <fstream>
@@ -66,7 +67,7 @@ std::vector<std::string> Workspace::rows(const std::string& database,
 }
 
 void writeDatabase(const fs::path& path, const std::vector<NewTable>& tables) {
-    auto database = jet::DatabaseWriter::create(path);
+    auto database = jet::createDatabase(path);
     ASSERT_TRUE(database) << database.error().sentence;
     for (const NewTable& table : tables) {
         auto writer = database->addTable(table.name, table.columns);

@@ -1,6 +1,6 @@
 #include "exercises/answer_check.h"
-#include "jet/unicode.h"
 #include "text/letters.h"
+#include "text/utf8.h"
 
 #include <QChar>
 
@@ -20,13 +20,13 @@ struct Row {
 
 void expectFolded(std::initializer_list<Row> rows) {
     for (const Row& row : rows)
-        EXPECT_EQ(foldedAnswer(row.typed), row.expected) << jet::toUtf8(row.typed);
+        EXPECT_EQ(foldedAnswer(row.typed), row.expected) << text::toUtf8(row.typed);
 }
 
 void expectVerdict(bool right, std::initializer_list<Row> rows) {
     for (const Row& row : rows)
         EXPECT_EQ(castexte(row.expected, row.typed), right)
-            << jet::toUtf8(row.expected) << " <- " << jet::toUtf8(row.typed);
+            << text::toUtf8(row.expected) << " <- " << text::toUtf8(row.typed);
 }
 
 TEST(FoldedAnswer, hasPlainLettersAndSpaces) {
@@ -166,10 +166,10 @@ TEST(CastexteAnywhere, agreesWithThePlainestWay) {
     for (int i = 0; i < 20'000; ++i) {
         const std::u16string typed = anything(random, 24);
         const std::u16string solution = anything(random, 3);
-        ASSERT_EQ(foldedAnswer(typed), foldLiterally(typed)) << jet::toUtf8(typed);
+        ASSERT_EQ(foldedAnswer(typed), foldLiterally(typed)) << text::toUtf8(typed);
         const bool expected = checkLiterally(solution, typed);
         ASSERT_EQ(castexte(solution, typed), expected)
-            << jet::toUtf8(solution) << " <- " << jet::toUtf8(typed);
+            << text::toUtf8(solution) << " <- " << text::toUtf8(typed);
         right += expected;
     }
     EXPECT_GT(right, 500); // the rows do reach both verdicts

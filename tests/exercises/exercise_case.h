@@ -1,15 +1,17 @@
 #pragma once
 
 #include "coursetool/tables.h"
+#include "exercises/database_records.h"
 #include "exercises/test_session.h"
-#include "jet/unicode.h"
-#include "jet/writer.h"
-#include "support/fake_prompter.h"
+#include "jet/database_file.h"
+#include "shell/shared_state.h"
+#include "text/utf8.h"
 
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
+#include <deque>
 #include <functional>
 #include <map>
 #include <optional>
@@ -31,8 +33,8 @@ public:
     Choice& check(int index) { return at(ChoiceArray::Check1, index); }
     Choice& option(int index) { return at(ChoiceArray::Option1, index); }
 
-    void setTitle(const QString& text) override { title = text; }
-    void setCaption(const QString& text) override { caption = text; }
+    void setTitle(const std::u16string& text) override { title = text; }
+    void setCaption(const std::u16string& text) override { caption = text; }
     void setPreviousVisible(bool visible) override { previous = visible; }
     void setNextVisible(bool visible) override { next = visible; }
     void setValidateVisible(bool visible) override { validate = visible; }
@@ -48,14 +50,15 @@ public:
         choices = {};
         typed.clear();
         typedEnabled = true;
-        source = QStringLiteral("(empty)");
+        source = u"(empty)";
     }
 
-    void drawQuestion(const QString& text) override {
+    void drawQuestion(const std::u16string& text) override {
         source = text;
+        const auto shown = QString::fromStdU16String(text);
         for (int i = 0; i < kChoices; ++i) {
-            check(i).visible = i < text.count(QStringLiteral("##EXOCK"));
-            option(i).visible = i < text.count(QStringLiteral("##EXOOP"));
+            check(i).visible = i < shown.count(QStringLiteral("##EXOCK"));
+            option(i).visible = i < shown.count(QStringLiteral("##EXOOP"));
         }
     }
 
@@ -66,6 +69,16 @@ public:
             duringPopup();
     }
 
+    void tell(const Message& message) override { messages.push_back(message); }
+    bool ask(const Message& question) override {
+        messages.push_back(question);
+        EXPECT_FALSE(answers.empty()) << "unexpected question";
+        const bool answer = !answers.empty() && answers.front();
+        if (!answers.empty())
+            answers.pop_front();
+        return answer;
+    }
+
     bool isVisible(ChoiceArray array, int i) const override { return at(array, i).visible; }
     bool isSelected(ChoiceArray array, int i) const override { return at(array, i).selected; }
     void setSelected(ChoiceArray array, int i, bool selected) override {
@@ -73,22 +86,24 @@ public:
     }
     void disable(ChoiceArray array, int i) override { at(array, i).enabled = false; }
     void paintMark(ChoiceArray array, int i, Mark mark) override { at(array, i).mark = mark; }
-    QString typedText() const override { return typed; }
-    void setTypedText(const QString& text) override { typed = text; }
+    std::u16string typedText() const override { return typed; }
+    void setTypedText(const std::u16string& text) override { typed = text; }
     void disableTypedText() override { typedEnabled = false; }
 
     /// The marks of an array from the first control: "+" in the solution, "-" not, " " none.
-    QString marks(ChoiceArray array) const {
-        QString all;
+    std::u16string marks(ChoiceArray array) const {
+        std::u16string all;
         for (int i = 0; i < kChoices; ++i) {
             const auto mark = at(array, i).mark;
-            all += QLatin1Char(!mark ? ' ' : *mark == Mark::InSolution ? '+' : '-');
+            all += !mark ? u' ' : *mark == Mark::InSolution ? u'+' : u'-';
         }
         return all;
     }
 
     mutable std::map<std::pair<ChoiceArray, int>, Choice> choices;
-    QString title, caption, source, typed;
+    std::u16string title, caption, source, typed;
+    std::vector<Message> messages;
+    std::deque<bool> answers; ///< to the questions, in turn
     std::pair<int, int> marker;
     bool previous = false, next = false, validate = false, score = true;
     bool markerVisible = true, typedEnabled = true;
@@ -118,8 +133,8 @@ protected:
     ExerciseCase() { shared.PendingExerciseChapter = 3; }
 
     void write(const Rows& descriptions, const Rows& questions) {
-        tables = {};
-        auto file = jet::DatabaseWriter::create(folder.filePath("QEKX.mdb").toStdString());
+        records.read({});
+        auto file = jet::createDatabase(folder.filePath("QEKX.mdb").toStdString());
         ASSERT_TRUE(file) << file.error().sentence;
         fill(*file, coursetool::descriptionTable(), descriptions);
         fill(*file, coursetool::contenuTable(), questions);
@@ -136,10 +151,12 @@ protected:
 
     /// Opens the window, as a page does with the code of a test.
     void open() {
-        tables = coursedata::openExerciseTables(folder.path());
+        auto tables = coursedata::openExerciseTables(folder.path());
         EXPECT_EQ(tables.failures, QStringList());
-        session.emplace(shared, state, window, window, window, prompter);
-        session->load(tables.description.get(), tables.contenu.get());
+        records.read(std::move(tables));
+        session.emplace(SharedWithCourse{shared.PendingExerciseChapter, shared.ExerciseReturnPage},
+                        state, records, window, window, window);
+        session->load();
         session->activate();
     }
 
@@ -150,20 +167,19 @@ protected:
     }
 
     int verdict(int question) const { return state.QuestionState.valueOr(question, 0); }
-    QString given(int question) const { return state.GivenAnswers.valueOr(question, {}); }
+    std::u16string given(int question) const { return state.GivenAnswers.valueOr(question, {}); }
 
     QTemporaryDir folder;
-    coursedata::ExerciseTables tables;
+    DatabaseRecords records;
     shell::SharedState shared;
     TestState state;
     FakeWindow window;
-    test_support::FakePrompter prompter;
     std::optional<TestSession> session;
 
 private:
     static void fill(jet::DatabaseWriter& file, const coursetool::TableRule& rule,
                      const Rows& rows) {
-        auto table = file.addTable(jet::toUtf16(rule.name), coursetool::columnsOf(rule));
+        auto table = file.addTable(text::toUtf16(rule.name), coursetool::columnsOf(rule));
         ASSERT_TRUE(table) << table.error().sentence;
         for (const auto& row : rows) {
             const auto done = table->append(row);

@@ -4,6 +4,7 @@
 #include "exercises/exo.h"
 #include "look/picture_box.h"
 #include "platform/file_names.h"
+#include "support/fake_prompter.h"
 #include "viewer/window_bench.h"
 
 #include <QAbstractButton>
@@ -77,6 +78,7 @@ protected:
     }
 
     test_support::WindowBench bench{test_support::pages(2)};
+    test_support::FakePrompter prompter;
     FakeCalculator calculator;
     std::optional<Exo> exo;
 };

@@ -4,6 +4,7 @@
 #include "exercises/exo_case.h"
 #include "exercises/exo_opener.h"
 #include "exercises/progress_strip.h"
+#include "exercises/score.h"
 #include "exercises/strip.h"
 
 #include <QLabel>

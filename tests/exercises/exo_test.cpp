@@ -222,6 +222,10 @@ TEST_F(Test, ClosingAsksAndEndsTheTest) {
     QTest::keyClick(&*exo, Qt::Key_Escape);
     EXPECT_TRUE(exo->isVisible());
     EXPECT_EQ(shared.PendingExerciseChapter, 3);
+    const platform::Message question{
+        QStringLiteral("Fermer"), QStringLiteral("Voulez-vous vraiment abandonner le test?"),
+        platform::Message::Icon::Question, platform::Message::Buttons::YesNo};
+    EXPECT_EQ(prompter.messages, std::vector({question}));
     prompter.answers = {platform::Answer::Yes};
     click("Image2");
     EXPECT_FALSE(exo->isVisible());

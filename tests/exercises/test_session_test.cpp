@@ -1,7 +1,5 @@
 #include "exercises/exercise_case.h"
 
-using platform::Answer;
-
 namespace exercises::test {
 namespace {
 
@@ -56,14 +54,15 @@ TEST_F(Opening, nullsAreFailuresOfTheirStatementOnly) {
     open();
     EXPECT_EQ(window.caption, u"Question 1 / 4 :");
 
-    session->load(nullptr, nullptr); // as when there is no database at all
+    records.read({}); // as when there is no database at all
+    session->load();
     session->next();
     session->validate();
     EXPECT_EQ(verdict(2), -1);
 }
 
 TEST_F(Opening, aMissingDatabaseIsTold) {
-    tables = coursedata::openExerciseTables(folder.path());
+    const auto tables = coursedata::openExerciseTables(folder.path());
     EXPECT_FALSE(tables.description || tables.contenu);
     EXPECT_EQ(tables.failures.size(), 1);
 }
@@ -150,13 +149,13 @@ TEST_F(Answering, aTypedAnswerIsKeptAsItStands) {
           {question(301, 3, u"masse", u"##EXOTX\r\n", u"Non\r\n"),
            question(302, 3, u"force", u"##EXOTX\r\n", u"Non\r\n")});
     open();
-    window.typed = QStringLiteral("La Force");
+    window.typed = u"La Force";
     session->validate();
     EXPECT_EQ(window.typed, u"La Force");
     EXPECT_FALSE(window.typedEnabled);
     session->next();
-    EXPECT_TRUE(window.typed.isEmpty() && window.typedEnabled);
-    window.typed = QStringLiteral("La Force");
+    EXPECT_TRUE(window.typed.empty() && window.typedEnabled);
+    window.typed = u"La Force";
     session->validate();
     EXPECT_EQ(verdict(1), -1);
     EXPECT_EQ(verdict(2), 1);
@@ -186,7 +185,7 @@ TEST_F(Answering, solutionsThatFitNoAnswer) {
         open();
         answer(true);
         EXPECT_EQ(verdict(1), -1);
-        EXPECT_EQ(given(1).isEmpty(), row.type != 1);
+        EXPECT_EQ(given(1).empty(), row.type != 1);
         EXPECT_EQ(window.marks(ChoiceArray::Check1), row.marks) << row.type;
         EXPECT_FALSE(window.validate);
     }
@@ -196,27 +195,27 @@ TEST_F(Answering, theLastAnswerShowsTheScore) {
     for (const bool last : {true, false}) {
         writeBoxes(2);
         state = {};
-        prompter.messages.clear();
-        window.duringPopup = [&] { EXPECT_TRUE(prompter.messages.empty()); };
+        window.messages.clear();
+        window.duringPopup = [&] { EXPECT_TRUE(window.messages.empty()); };
         open();
         answer(true);
         answer(last);
-        ASSERT_EQ(prompter.messages.size(), 1u);
-        EXPECT_EQ(prompter.messages[0].title, u"Test terminé");
+        ASSERT_EQ(window.messages.size(), 1u);
+        EXPECT_EQ(window.messages[0].title, u"Test terminé");
         EXPECT_EQ(window.caption, u"Question 2 / 2 :");
         EXPECT_EQ(window.marks(ChoiceArray::Check1), last ? u"     " : u"+    ");
         EXPECT_FALSE(window.validate);
         EXPECT_TRUE(session->close()); // nothing left to ask about
-        EXPECT_EQ(prompter.messages.size(), 1u);
+        EXPECT_EQ(window.messages.size(), 1u);
     }
 }
 
 TEST_F(Answering, aTestLeftFromThePopupShowsNothingMore) {
     writeBoxes(1);
     open();
-    window.duringPopup = [&] { session->leaveFor(QStringLiteral("5")); };
+    window.duringPopup = [&] { session->leaveFor(u"5"); };
     answer(true);
-    EXPECT_TRUE(prompter.messages.empty());
+    EXPECT_TRUE(window.messages.empty());
     EXPECT_EQ(window.face, TestSession::kNeutralFace);
 }
 
@@ -242,7 +241,7 @@ TEST_F(Answering, anyNumberOfQuestionsLeavesTheWindowUsable) {
         session->prochainval();
         session->showScore();
         EXPECT_GE(state.CurrentQuestion, 1) << count;
-        prompter.answers = {Answer::Yes};
+        window.answers = {true};
         EXPECT_TRUE(session->close());
     }
 }
@@ -261,7 +260,7 @@ TEST_F(Answering, nothingIsKeptOfAQuestionAboveAHundred) {
     session->tritexte();
     EXPECT_TRUE(session->canValidate());
     EXPECT_EQ(counts(state).answered, 100);
-    EXPECT_TRUE(prompter.messages.empty()); // so the test never counts as complete
+    EXPECT_TRUE(window.messages.empty()); // so the test never counts as complete
 }
 
 using Closing = ExerciseCase;
@@ -270,16 +269,14 @@ TEST_F(Closing, asksWhileQuestionsAreLeft) {
     writeBoxes(2);
     open();
     answer(false);
-    prompter.answers = {Answer::No, Answer::Yes};
+    window.answers = {false, true};
     EXPECT_FALSE(session->close());
     shared.ExerciseReturnPage = 5;
     EXPECT_EQ(verdict(1), -1);
     EXPECT_TRUE(window.returnToTest);
     EXPECT_TRUE(session->close());
-    const platform::Message question{
-        QStringLiteral("Fermer"), QStringLiteral("Voulez-vous vraiment abandonner le test?"),
-        platform::Message::Icon::Question, platform::Message::Buttons::YesNo};
-    EXPECT_EQ(prompter.messages, std::vector({question, question}));
+    const Message question{u"Fermer", u"Voulez-vous vraiment abandonner le test?"};
+    EXPECT_EQ(window.messages, std::vector({question, question}));
     EXPECT_EQ(shared.PendingExerciseChapter, 0);
     EXPECT_EQ(shared.ExerciseReturnPage, 0);
     EXPECT_EQ(state.CurrentQuestion, 1);
@@ -292,10 +289,10 @@ TEST_F(Closing, aTestLeftForAPageGoesOnThere) {
     open();
     answer(false);
     session->next();
-    session->leaveFor(QStringLiteral("012"));
+    session->leaveFor(u"012");
     EXPECT_EQ(shared.ExerciseReturnPage, 12);
     EXPECT_TRUE(session->close()); // the window goes, the test does not
-    EXPECT_TRUE(prompter.messages.empty() && window.returnToTest);
+    EXPECT_TRUE(window.messages.empty() && window.returnToTest);
 
     window = {};
     open();
@@ -308,12 +305,12 @@ TEST_F(Closing, aTestLeftForAPageGoesOnThere) {
 
 TEST_F(Closing, aTagThatIsNoPageLeadsNowhere) {
     writeBoxes(1);
-    const std::pair<const char*, int> rows[] = {{"0", 0},     {"", 0},          {"page", 0},
-                                                {"99999", 0}, {"32767", 32767}, {"-5", -5}};
+    const std::pair<const char16_t*, int> rows[] = {{u"0", 0},     {u"", 0},          {u"page", 0},
+                                                    {u"99999", 0}, {u"32767", 32767}, {u"-5", -5}};
     for (const auto& [tag, page] : rows) {
         open();
-        session->leaveFor(QString::fromLatin1(tag));
-        EXPECT_EQ(shared.ExerciseReturnPage, page) << tag;
+        session->leaveFor(tag);
+        EXPECT_EQ(shared.ExerciseReturnPage, page) << text::toUtf8(tag);
     }
 }
 

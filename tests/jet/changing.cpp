@@ -2,7 +2,7 @@
 
 #include "jet/csv_dump.h"
 #include "jet/data_page.h"
-#include "jet/database.h"
+#include "jet/database_file.h"
 #include "jet/record_follower.h"
 #include "jet/table_rows.h"
 #include "jet/table_tail.h"
@@ -44,7 +44,7 @@ void CutSink::cutBack() {
 
 Snapshot snapshot(const std::filesystem::path& path) {
     Snapshot all;
-    const auto database = jet::Database::open(path);
+    const auto database = jet::openDatabase(path);
     if (!database)
         return all;
     for (const jet::TableInfo& info : database->tables()) {
@@ -69,8 +69,7 @@ namespace {
 class MapCheck {
 public:
     explicit MapCheck(const std::filesystem::path& path)
-        : source_(*jet::PageSource::open(path)),
-          free_(pages(jet::kGlobalMap, jet::kGlobalMapOwner)) {}
+        : source_(*jet::openPages(path)), free_(pages(jet::kGlobalMap, jet::kGlobalMapOwner)) {}
 
     void table(const jet::TableInfo& info) {
         const auto definition = *jet::readTableDefinition(*source_, info.definitionPage);
@@ -139,7 +138,7 @@ private:
 } // namespace
 
 void expectSoundMaps(const std::filesystem::path& path) {
-    const auto database = jet::Database::open(path);
+    const auto database = jet::openDatabase(path);
     ASSERT_TRUE(database);
     MapCheck check(path);
     for (const jet::TableInfo& info : database->tables())

@@ -1,12 +1,15 @@
 #include "jet/byte_writer.h"
 #include "jet/csv_dump.h"
+#include "jet/database_file.h"
 #include "jet/files.h"
-#include "jet/unicode.h"
 #include "jet/writing.h"
+#include "support/memory_database.h"
+#include "text/utf8.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <limits>
 #include <random>
 #include <set>
 
@@ -42,9 +45,9 @@ void harvestTable(const jet::Database& database, const jet::TableInfo& info, Har
     EXPECT_EQ(static_cast<bool>(table->record(table->recordCount())), false);
 }
 
-Harvest harvest(const std::filesystem::path& path) {
+Harvest harvest(FileBytes bytes) {
     Harvest harvest;
-    const auto database = jet::Database::open(path);
+    const auto database = test_support::openInMemory(std::move(bytes));
     harvest.opened = static_cast<bool>(database);
     if (!database) {
         harvest.mute = database.error().sentence.empty();
@@ -57,19 +60,30 @@ Harvest harvest(const std::filesystem::path& path) {
 
 class Corruption : public testing::TestWithParam<const char*> {
 protected:
-    ScratchFolder scratch_;
+    std::size_t pageSize() const { return sound_[0x14] == 0 ? 2048 : 4096; }
+    /// What is left of the file when it ends after `length` bytes.
+    FileBytes cut(std::size_t length) const {
+        return FileBytes(sound_.begin(), sound_.begin() + static_cast<std::ptrdiff_t>(length));
+    }
+
     FileBytes sound_ = readBytes(samplePath(GetParam()));
 };
 
 /// A file cut off anywhere gives what is still there, and nothing that was not.
 TEST_P(Corruption, truncation) {
-    const Harvest whole = harvest(samplePath(GetParam()));
+    const Harvest whole = harvest(sound_);
     ASSERT_TRUE(whole.opened);
     std::size_t shorter = 0;
-    for (std::size_t length = 0; length < sound_.size(); length += length < 300 ? 37 : 3001) {
-        writeBytes(scratch_ / "cut.mdb",
-                   FileBytes(sound_.begin(), sound_.begin() + static_cast<std::ptrdiff_t>(length)));
-        const Harvest left = harvest(scratch_ / "cut.mdb");
+    // At every length of the header, and around every end of a page: what is there of a page that
+    // is not whole counts for nothing.
+    std::set<std::size_t> lengths;
+    for (std::size_t length = 0; length < 300; ++length)
+        lengths.insert(length);
+    for (std::size_t end = pageSize(); end <= sound_.size(); end += pageSize())
+        lengths.insert({end - 1, end, std::min(end + 1, sound_.size())});
+    lengths.erase(sound_.size());
+    for (const std::size_t length : lengths) {
+        const Harvest left = harvest(cut(length));
         EXPECT_FALSE(left.mute) << length;
         EXPECT_LE(left.rows.size(), whole.rows.size()) << length;
         shorter += left.rows.size() < whole.rows.size() ? 1 : 0;
@@ -86,12 +100,12 @@ TEST_P(Corruption, changedBytes) {
     constexpr int kFiles = 150;
     constexpr std::size_t kStructureBytes = 256;
     std::mt19937 random(20240229); // fixed, so that a failure can be looked at
-    const std::size_t pageSize = sound_[0x14] == 0 ? 2048 : 4096;
+    const std::size_t pageSize = this->pageSize();
     const auto below = [&](std::size_t limit) {
         return std::uniform_int_distribution<std::size_t>(0, limit - 1)(random);
     };
     int affected = 0;
-    const Harvest whole = harvest(samplePath(GetParam()));
+    const Harvest whole = harvest(sound_);
     for (int file = 0; file < kFiles; ++file) {
         FileBytes bytes = sound_;
         for (std::size_t i = 0; i < 1 + static_cast<std::size_t>(file) % 40; ++i) {
@@ -99,8 +113,7 @@ TEST_P(Corruption, changedBytes) {
             const std::size_t at = below(3) != 0 ? below(kStructureBytes) : below(pageSize);
             bytes[page * pageSize + at] = static_cast<std::uint8_t>(below(256));
         }
-        writeBytes(scratch_ / "changed.mdb", bytes);
-        const Harvest left = harvest(scratch_ / "changed.mdb");
+        const Harvest left = harvest(bytes);
         EXPECT_FALSE(left.mute) << file;
         EXPECT_LE(left.bytes, 300 * bytes.size()) << file;
         affected += left.rows != whole.rows ? 1 : 0;
@@ -113,15 +126,35 @@ INSTANTIATE_TEST_SUITE_P(Samples, Corruption,
                                          "overflowTestV2000", "testUnicodeCompV2003"),
                          [](const auto& test) { return std::string(test.param); });
 
+TEST(MemorySource, givesNothingBeyondItsBytes) {
+    const jet::MemorySource source({1, 2, 3});
+    constexpr std::uint64_t kFar = std::numeric_limits<std::uint64_t>::max();
+    const struct {
+        std::uint64_t offset;
+        std::size_t count;
+        bool given;
+    } rows[] = {{0, 3, true},  {1, 2, true},  {3, 0, true},     {0, 4, false},
+                {2, 2, false}, {3, 1, false}, {kFar, 1, false}, {kFar - 1, 3, false}};
+    for (const auto& row : rows) {
+        FileBytes bytes(row.count);
+        EXPECT_EQ(source.read(row.offset, bytes), row.given) << row.offset << ", " << row.count;
+        if (row.given && row.count > 0) {
+            EXPECT_EQ(bytes.front(), row.offset + 1);
+        }
+    }
+}
+
 TEST(OpeningAFile, thatIsNoDatabase) {
     const ScratchFolder scratch;
     using Kind = jet::Failure::Kind;
-    EXPECT_EQ(jet::Database::open(scratch / "absent.mdb").error().kind, Kind::System);
-    EXPECT_EQ(jet::Database::open(scratch.path()).error().kind, Kind::System);
+    const auto absent = jet::openDatabase(scratch / "absent.mdb");
+    EXPECT_EQ(absent.error().kind, Kind::System);
+    EXPECT_EQ(absent.error().sentence.find("base de données « absent.mdb » : "), 0u);
+    EXPECT_EQ(jet::openDatabase(scratch.path()).error().kind, Kind::System);
     writeBytes(scratch / "empty.mdb", {});
-    EXPECT_EQ(jet::Database::open(scratch / "empty.mdb").error().kind, Kind::NotADatabase);
+    EXPECT_EQ(jet::openDatabase(scratch / "empty.mdb").error().kind, Kind::NotADatabase);
     writeBytes(scratch / "text.mdb", FileBytes(5000, 'x'));
-    EXPECT_EQ(jet::Database::open(scratch / "text.mdb").error().kind, Kind::NotADatabase);
+    EXPECT_EQ(jet::openDatabase(scratch / "text.mdb").error().kind, Kind::NotADatabase);
 }
 
 /// All the memos of a record lead to one chain of nearly the whole file.
@@ -130,7 +163,7 @@ TEST(DamagedRecords, giveOutNoMoreForOneRecordThanTheyHave) {
     NewTable table{u"T", {{.name = u"n", .type = jet::ColumnType::Long}}, {{1}}};
     for (int i = 0; i < 40; ++i) {
         table.columns.push_back(
-            {.name = jet::toUtf16("m" + std::to_string(i)), .type = jet::ColumnType::Memo});
+            {.name = text::toUtf16("m" + std::to_string(i)), .type = jet::ColumnType::Memo});
         table.rows[0].push_back(std::u16string(i == 0 ? 400000 : 1500, u'c'));
     }
     writeDatabase(scratch / "t.mdb", {table});
@@ -144,8 +177,7 @@ TEST(DamagedRecords, giveOutNoMoreForOneRecordThanTheyHave) {
     std::copy_n(chain, 8, longest.begin());
     for (int i = 0; i < 40; ++i)
         std::copy_n(longest.begin(), 8, chain + 12 * i);
-    writeBytes(scratch / "t.mdb", bytes);
-    auto database = jet::Database::open(scratch / "t.mdb");
+    auto database = test_support::openInMemory(bytes);
     auto read = database->table(u"T");
     std::size_t total = 0;
     std::size_t given = 0;

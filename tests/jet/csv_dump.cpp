@@ -1,7 +1,7 @@
 #include "jet/csv_dump.h"
 
-#include "jet/unicode.h"
 #include "jet/value_text.h"
+#include "text/utf8.h"
 
 #include <cstdlib>
 
@@ -56,7 +56,7 @@ DumpCell dumpCell(const jet::Value& value) {
     if (const auto whole = value.integer())
         return std::to_string(*whole);
     if (const auto* text = value.text())
-        return jet::toUtf8(*text);
+        return text::toUtf8(*text);
     if (const auto* currency = value.as<jet::Currency>())
         return toText(*currency);
     if (const auto* decimal = value.as<jet::Decimal>())

@@ -1,4 +1,5 @@
 #include "jet/byte_writer.h"
+#include "jet/database_file.h"
 #include "jet/files.h"
 #include "jet/format.h"
 #include "jet/utf16_text.h"
@@ -132,7 +133,7 @@ TEST_P(DamagedFile, losesNoMoreThanItMust) {
     FileBytes bytes = soundFile();
     GetParam().doIt(bytes);
     writeBytes(scratch / "t.mdb", bytes);
-    expectOutcome(GetParam(), jet::Database::open(scratch / "t.mdb"));
+    expectOutcome(GetParam(), jet::openDatabase(scratch / "t.mdb"));
 }
 
 std::string nameOf(const testing::TestParamInfo<Damage>& test) {
@@ -347,7 +348,7 @@ TEST(DamagedCatalog, entriesOfOnePageOrOneName) {
     ASSERT_EQ(bytes[nameOfC], 'C');
     bytes[nameOfC] = 'a';
     writeBytes(scratch / "t.mdb", bytes);
-    const auto database = jet::Database::open(scratch / "t.mdb");
+    const auto database = jet::openDatabase(scratch / "t.mdb");
     ASSERT_TRUE(database);
     ASSERT_EQ(database->tables().size(), 1u);
     EXPECT_EQ(database->tables()[0].name, u"A");
@@ -376,7 +377,7 @@ TEST(DamagedFiles, giveOutNoMoreThanTheyCanHold) {
         }
     }
     writeBytes(scratch / "t.mdb", bytes);
-    auto database = jet::Database::open(scratch / "t.mdb");
+    auto database = jet::openDatabase(scratch / "t.mdb");
     auto read = database->table(u"T");
     // In one go, and taken up again and again.
     for (const std::size_t atATime : {std::size_t{3000}, std::size_t{7}}) {

@@ -2,9 +2,10 @@
 
 #include "jet/changing.h"
 #include "jet/csv_dump.h"
+#include "jet/database_file.h"
 #include "jet/files.h"
-#include "jet/unicode.h"
 #include "jet/writing.h"
+#include "text/utf8.h"
 
 #include <gtest/gtest.h>
 
@@ -50,7 +51,7 @@ protected:
     /// what was asked and what came of it. Does not wait for the disk.
     template <class Callback>
     void changeCells(std::span<const std::size_t> lengths, std::size_t rows, Callback callback) {
-        const auto database = jet::Database::open(path_);
+        const auto database = jet::openDatabase(path_);
         if (!database)
             return;
         for (const jet::TableInfo& info : database->tables()) {
@@ -149,7 +150,7 @@ std::multiset<std::vector<std::string>> cellsShown(const std::filesystem::path& 
                                                    std::span<const std::size_t> columns) {
     std::multiset<std::vector<std::string>> rows;
     const std::string output =
-        run("mdb-export -b hex '" + path.string() + "' '" + jet::toUtf8(name) + "'").output;
+        run("mdb-export -b hex '" + path.string() + "' '" + text::toUtf8(name) + "'").output;
     for (const DumpRow& row : parseDump(output)) {
         std::vector<std::string> texts;
         for (const std::size_t column : columns)
@@ -175,14 +176,14 @@ TEST_P(SampleEditor, changesCells) {
     EXPECT_EQ(snapshot(path_), expected);
     expectSoundMaps(path_);
 
-    const auto database = jet::Database::open(path_);
+    const auto database = jet::openDatabase(path_);
     for (const jet::TableInfo& info : database->tables()) {
         auto table = database->table(info.name);
         const std::vector<std::size_t> columns = longColumns(*table);
         std::multiset<std::vector<std::string>> ours;
         std::vector<std::string> names;
         for (const std::size_t column : columns)
-            names.push_back(lowerCase(jet::toUtf8(table->columns()[column].name)));
+            names.push_back(lowerCase(text::toUtf8(table->columns()[column].name)));
         ours.insert(names);
         for (std::size_t row = 0; row < table->recordCount(); ++row) {
             std::vector<std::string> texts;

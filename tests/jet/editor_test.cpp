@@ -1,10 +1,10 @@
 #include "jet/byte_writer.h"
 #include "jet/changing.h"
+#include "jet/database_file.h"
 #include "jet/files.h"
 #include "jet/format.h"
-#include "jet/page_source.h"
-#include "jet/unicode.h"
 #include "jet/writing.h"
+#include "text/utf8.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -160,7 +160,7 @@ TEST_F(CutEditor, leavesTheOldMemoOrTheNew) {
             ASSERT_NO_FATAL_FAILURE(expectWholeAtEachCut(3, {u"memo", kMemos[to]}))
                 << from << " to " << to;
         }
-    EXPECT_THAT(shown("mdb-json"), HasSubstr(jet::toUtf8(text(12000))));
+    EXPECT_THAT(shown("mdb-json"), HasSubstr(text::toUtf8(text(12000))));
 }
 
 /// Rows fill their page: a longer name makes its row move, later from there to elsewhere and, once
@@ -187,7 +187,7 @@ TEST_F(CutEditor, survivesTheMapsOutgrowingTheirRow) {
     // Pages that are free but were never emptied are not trusted, so the file grows behind them.
     std::filesystem::resize_file(path_, (kPagesOfARow - 2) * 4096);
     const auto isByReference = [&](jet::RowPointer map) {
-        const auto source = *jet::PageSource::open(path_);
+        const auto source = *jet::openPages(path_);
         return source->page(map.page)->bytes.u8(4096 - 69) == 1; // all map rows have 69 bytes
     };
     EXPECT_FALSE(isByReference(jet::kGlobalMap));

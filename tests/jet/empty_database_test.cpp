@@ -1,5 +1,5 @@
+#include "jet/database_file.h"
 #include "jet/files.h"
-#include "jet/writer.h"
 
 #include <gtest/gtest.h>
 
@@ -21,7 +21,7 @@ const std::set<std::size_t> kLeftovers{
 
 TEST(EmptyDatabase, isTheEnginesOwnButForLeftovers) {
     const ScratchFolder scratch;
-    auto writer = jet::DatabaseWriter::create(scratch / "empty.mdb");
+    auto writer = jet::createDatabase(scratch / "empty.mdb");
     ASSERT_TRUE(writer) << writer.error().sentence;
     const auto finished = writer->finish();
     ASSERT_TRUE(finished) << finished.error().sentence;

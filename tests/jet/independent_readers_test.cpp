@@ -2,9 +2,9 @@
 #include "jet/csv_dump.h"
 #include "jet/editor.h"
 #include "jet/files.h"
-#include "jet/unicode.h"
 #include "jet/value_text.h"
 #include "jet/writing.h"
+#include "text/utf8.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -54,7 +54,7 @@ void expectShown(const NewTable& table, const std::string& output, Shown isShown
     const std::vector<DumpRow> rows = parseDump(output);
     ASSERT_EQ(rows.size(), table.rows.size() + 1) << output.substr(0, 300);
     for (std::size_t i = 0; i < table.columns.size(); ++i)
-        EXPECT_EQ(rows[0][i], jet::toUtf8(table.columns[i].name));
+        EXPECT_EQ(rows[0][i], text::toUtf8(table.columns[i].name));
     for (std::size_t i = 0; i < table.rows.size(); ++i) {
         ASSERT_EQ(rows[i + 1].size(), table.columns.size());
         for (std::size_t j = 0; j < table.columns.size(); ++j)
@@ -95,7 +95,7 @@ protected:
 
     std::string exported(const std::string& file, const std::u16string& table) const {
         return run("mdb-export -b hex -T '%Y-%m-%d %H:%M:%S' -D '%Y-%m-%d %H:%M:%S' '" +
-                   (scratch_ / file).string() + "' '" + jet::toUtf8(table) + "'")
+                   (scratch_ / file).string() + "' '" + text::toUtf8(table) + "'")
             .output;
     }
 
@@ -207,7 +207,7 @@ protected:
         const std::string script = std::string(JET_TESTS) + "/mdb_reader.mjs";
         const ProgramRun printed =
             run("node '" + script + "' '" + package_.string() + "' '" +
-                (scratch_ / "t.mdb").string() + "' '" + jet::toUtf8(table.name) + "'");
+                (scratch_ / "t.mdb").string() + "' '" + text::toUtf8(table.name) + "'");
         EXPECT_EQ(printed.status, 0);
         expectShown(table, printed.output, isShownAs);
     }

@@ -1,8 +1,8 @@
 #include "jet/csv_dump.h"
-#include "jet/database.h"
+#include "jet/database_file.h"
 #include "jet/files.h"
-#include "jet/unicode.h"
 #include "jet/utf16_text.h"
+#include "text/utf8.h"
 
 #include <gtest/gtest.h>
 
@@ -38,16 +38,16 @@ constexpr Sample kFiles[] = {{"testV1997", jet::Engine::Jet3, 4},
 class SampleFile : public testing::TestWithParam<Sample> {
 protected:
     void SetUp() override {
-        auto opened = jet::Database::open(kSamples / (std::string(GetParam().name) + ".mdb"));
+        auto opened = jet::openDatabase(kSamples / (std::string(GetParam().name) + ".mdb"));
         ASSERT_TRUE(opened) << opened.error().sentence;
         database_.emplace(std::move(*opened));
     }
 
     std::vector<DumpRow> expected(const jet::TableInfo& table) const {
         std::ifstream file(
-            kSamples / (std::string(GetParam().name) + "." + jet::toUtf8(table.name) + ".csv"),
+            kSamples / (std::string(GetParam().name) + "." + text::toUtf8(table.name) + ".csv"),
             std::ios::binary);
-        EXPECT_TRUE(file) << "no dump of table " << jet::toUtf8(table.name);
+        EXPECT_TRUE(file) << "no dump of table " << text::toUtf8(table.name);
         return parseDump(std::string(std::istreambuf_iterator<char>(file), {}));
     }
 
@@ -70,14 +70,14 @@ TEST_P(SampleFile, listsItsUserTables) {
 
 TEST_P(SampleFile, holdsTheExpectedRows) {
     for (const jet::TableInfo& info : database_->tables()) {
-        SCOPED_TRACE(jet::toUtf8(info.name));
+        SCOPED_TRACE(text::toUtf8(info.name));
         auto table = database_->table(info.name);
         ASSERT_TRUE(table) << table.error().sentence;
         const std::vector<DumpRow> dump = expected(info);
         ASSERT_FALSE(dump.empty());
         ASSERT_EQ(table->columns().size(), dump[0].size());
         for (std::size_t i = 0; i < dump[0].size(); ++i)
-            EXPECT_EQ(jet::toUtf8(table->columns()[i].name), dump[0][i]);
+            EXPECT_EQ(text::toUtf8(table->columns()[i].name), dump[0][i]);
         ASSERT_EQ(table->recordCount(), dump.size() - 1);
         for (std::size_t i = 1; i < dump.size(); ++i) {
             SCOPED_TRACE("row " + std::to_string(i));
@@ -144,7 +144,7 @@ TEST(SampleFiles, ofAnotherCodePageSaySo) {
     FileBytes bytes = readBytes(samplePath("testV1997"));
     bytes[0x3C] ^= 1252 ^ 1251; // under the mask, a change stays a change
     writeBytes(scratch / "t.mdb", bytes);
-    const auto database = jet::Database::open(scratch / "t.mdb");
+    const auto database = jet::openDatabase(scratch / "t.mdb");
     ASSERT_TRUE(database);
     ASSERT_EQ(database->problems().count(), 1u);
     EXPECT_NE(database->problems().sentences()[0].find("1251"), std::string::npos);

@@ -5,8 +5,9 @@
 #include "jet/files.h"
 #include "jet/format.h"
 #include "jet/index_builder.h"
-#include "jet/unicode.h"
 #include "jet/writing.h"
+#include "support/memory_database.h"
+#include "text/utf8.h"
 
 #include <gtest/gtest.h>
 
@@ -26,7 +27,7 @@ FileBytes manyTables() {
     const ScratchFolder scratch;
     std::vector<NewTable> tables;
     for (std::size_t i = 0; i < kTables; ++i)
-        tables.push_back({jet::toUtf16("Une table assez longue_" + std::to_string(i)),
+        tables.push_back({text::toUtf16("Une table assez longue_" + std::to_string(i)),
                           {{.name = u"n", .type = ColumnType::Long}},
                           {{1}}});
     writeDatabase(scratch / "t.mdb", tables);
@@ -155,17 +156,16 @@ TEST_F(Structure, freePagesAreThosePastTheEnd) {
 /// 226 entries of 16 bytes leave no room on their page; one more needs two leaves and a root.
 TEST(IndexPages, areFilledToTheLastByte) {
     for (const auto& [entries, pages] : {std::pair(225, 1u), {226, 1u}, {227, 3u}}) {
-        const ScratchFolder scratch;
-        auto file = *jet::OutputFile::create(scratch / "index");
-        const std::uint32_t root = file->allocate();
+        FileBytes written;
+        jet::OutputFile file(std::make_unique<test_support::MemorySink>(written));
+        const std::uint32_t root = file.allocate();
         jet::IndexBuilder index;
         for (int i = 0; i < entries; ++i)
             index.add(jet::IndexKey().add(std::u16string_view(u"NEUF CARS")),
                       jet::RowPointer(static_cast<std::uint32_t>(i), 0));
-        index.write(root, 2, *file);
-        EXPECT_EQ(file->pageCount(), pages) << entries;
-        ASSERT_TRUE(file->putInPlace());
-        const FileBytes written = readBytes(scratch / "index");
+        index.write(root, 2, file);
+        EXPECT_EQ(file.pageCount(), pages) << entries;
+        ASSERT_TRUE(file.putInPlace());
         const Bytes first = Bytes(written).part(0, kPage);
         EXPECT_EQ(first.u8(0), pages == 1 ? 4 : 3) << entries;
         if (pages == 1) {

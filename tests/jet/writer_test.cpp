@@ -1,6 +1,7 @@
+#include "jet/database_file.h"
 #include "jet/files.h"
-#include "jet/unicode.h"
 #include "jet/writing.h"
+#include "text/utf8.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -31,7 +32,7 @@ TEST(RoundTrip, columnsAreDeclaredAsTheyWere) {
     const ScratchFolder scratch;
     const NewTable table = everyType();
     writeDatabase(scratch / "t.mdb", {table});
-    const auto database = jet::Database::open(scratch / "t.mdb");
+    const auto database = jet::openDatabase(scratch / "t.mdb");
     ASSERT_TRUE(database);
     auto read = database->table(u"EVERY TYPE_1");
     ASSERT_TRUE(read) << read.error().sentence;
@@ -61,7 +62,7 @@ TEST(RoundTrip, theLargestTable) {
                                 : i % 5 == 2 ? ColumnType::Long
                                 : i % 5 == 3 ? ColumnType::Text
                                              : ColumnType::Byte;
-        std::u16string name = jet::toUtf16("colonne " + std::to_string(i));
+        std::u16string name = text::toUtf16("colonne " + std::to_string(i));
         name.resize(64, u'_');
         table.columns.push_back({.name = name, .type = type, .length = 255});
         row.push_back(i % 5 == 0   ? Value(i % 2 == 0)
@@ -81,7 +82,7 @@ TEST(RoundTrip, rowsOfEverySizeOverManyPages) {
     const ScratchFolder scratch;
     NewTable table{u"T", {{.name = u"n", .type = ColumnType::Long}}, {}};
     for (int i = 0; i < 8; ++i)
-        table.columns.push_back({.name = jet::toUtf16("t" + std::to_string(i)),
+        table.columns.push_back({.name = text::toUtf16("t" + std::to_string(i)),
                                  .type = ColumnType::Text,
                                  .length = 255,
                                  .compressible = false});
@@ -95,7 +96,7 @@ TEST(RoundTrip, rowsOfEverySizeOverManyPages) {
     writeDatabase(scratch / "t.mdb", {table});
     EXPECT_EQ(readTable(scratch / "t.mdb", u"T"), table.rows);
 
-    const auto database = jet::Database::open(scratch / "t.mdb");
+    const auto database = jet::openDatabase(scratch / "t.mdb");
     auto read = database->table(u"t");
     for (std::size_t i = 0; i < 2000; i += 77) {
         const std::size_t position = 1999 - i;
@@ -111,12 +112,12 @@ TEST(RoundTrip, manyTables) {
     const ScratchFolder scratch;
     std::vector<NewTable> tables;
     for (int i = 0; i < 300; ++i)
-        tables.push_back({jet::toUtf16("Table_" + std::to_string(i) + " of many"),
+        tables.push_back({text::toUtf16("Table_" + std::to_string(i) + " of many"),
                           {{.name = u"n", .type = ColumnType::Long},
                            {.name = u"memo", .type = ColumnType::Memo}},
                           {{i, std::u16string(100, u'm')}}});
     writeDatabase(scratch / "t.mdb", tables);
-    const auto database = jet::Database::open(scratch / "t.mdb");
+    const auto database = jet::openDatabase(scratch / "t.mdb");
     ASSERT_TRUE(database) << database.error().sentence;
     EXPECT_TRUE(database->problems().empty());
     ASSERT_EQ(database->tables().size(), tables.size());
@@ -128,13 +129,13 @@ TEST(RoundTrip, manyTables) {
 TEST(RoundTrip, aRowThatIsFull) {
     NewTable table{u"T", {}, {{}}};
     for (int i = 0; i < 7; ++i) {
-        table.columns.push_back({.name = jet::toUtf16("t" + std::to_string(i)),
+        table.columns.push_back({.name = text::toUtf16("t" + std::to_string(i)),
                                  .type = ColumnType::Text,
                                  .length = 255,
                                  .compressible = false});
         table.rows[0].emplace_back(std::u16string(255, u'x'));
         table.columns.push_back(
-            {.name = jet::toUtf16("m" + std::to_string(i)), .type = ColumnType::Memo});
+            {.name = text::toUtf16("m" + std::to_string(i)), .type = ColumnType::Memo});
         table.rows[0].emplace_back(std::u16string(60, u'm'));
     }
     expectReadBack(table);
@@ -146,7 +147,7 @@ TEST(RoundTrip, aTableWithoutRows) {
 
 TEST(RoundTrip, rowsOfSeveralTablesInTurns) {
     const ScratchFolder scratch;
-    auto writer = jet::DatabaseWriter::create(scratch / "t.mdb");
+    auto writer = jet::createDatabase(scratch / "t.mdb");
     ASSERT_TRUE(writer);
     const std::vector<Column> columns{{.name = u"n", .type = ColumnType::Long}};
     auto a = writer->addTable(u"A", columns);
@@ -179,7 +180,7 @@ TEST(WriterTarget, keepsItsOldContentUntilTheEnd) {
     const FileBytes old{'o', 'l', 'd'};
     writeBytes(target, old);
     {
-        auto writer = jet::DatabaseWriter::create(target);
+        auto writer = jet::createDatabase(target);
         ASSERT_TRUE(writer);
         ASSERT_TRUE(writer->addTable(u"A", everyType().columns));
         EXPECT_EQ(readBytes(target), old);
@@ -193,11 +194,11 @@ TEST(WriterTarget, keepsItsOldContentUntilTheEnd) {
 
 TEST(WriterTarget, thatCannotBeWrittenIsASystemFailure) {
     const ScratchFolder scratch;
-    EXPECT_EQ(jet::DatabaseWriter::create(scratch / "no/such/folder.mdb").error().kind,
+    EXPECT_EQ(jet::createDatabase(scratch / "no/such/folder.mdb").error().kind,
               Failure::Kind::System);
     std::filesystem::create_directory(scratch / "folder.mdb");
     writeBytes(scratch / "folder.mdb/kept", {1});
-    EXPECT_EQ(jet::DatabaseWriter::create(scratch / "folder.mdb").error().sentence,
+    EXPECT_EQ(jet::createDatabase(scratch / "folder.mdb").error().sentence,
               "base de données « folder.mdb » : le fichier ne peut pas être créé : "
               "un dossier porte ce nom");
     EXPECT_EQ(readBytes(scratch / "folder.mdb/kept"), FileBytes{1});
@@ -241,7 +242,7 @@ TEST(Refused, tablesThatCannotBeWritten) {
          {{.name = u"c", .type = ColumnType::Text, .length = 5, .autoNumber = true}},
          "Long"}};
     const ScratchFolder scratch;
-    auto writer = jet::DatabaseWriter::create(scratch / "t.mdb");
+    auto writer = jet::createDatabase(scratch / "t.mdb");
     ASSERT_TRUE(writer);
     for (const RefusedTable& row : rows) {
         const auto added = writer->addTable(row.name, row.columns);
@@ -256,7 +257,7 @@ TEST(Refused, tablesThatCannotBeWritten) {
 TEST(Refused, valuesThatDoNotFitTheirColumn) {
     const ScratchFolder scratch;
     const NewTable table = everyType();
-    auto writer = jet::DatabaseWriter::create(scratch / "t.mdb");
+    auto writer = jet::createDatabase(scratch / "t.mdb");
     auto added = writer->addTable(table.name, table.columns);
     ASSERT_TRUE(added);
     const struct {
@@ -289,7 +290,7 @@ TEST(Refused, valuesThatDoNotFitTheirColumn) {
         ASSERT_FALSE(appended) << row.column;
         EXPECT_EQ(appended.error().kind, Failure::Kind::Refused);
         EXPECT_THAT(appended.error().sentence,
-                    HasSubstr("« " + jet::toUtf8(table.columns[row.column].name) + " »"));
+                    HasSubstr("« " + text::toUtf8(table.columns[row.column].name) + " »"));
     }
     EXPECT_FALSE(added->append(std::vector<Value>{true}));
     ASSERT_TRUE(added->append(table.rows[0]));
@@ -311,13 +312,13 @@ TEST(Refused, aRowLongerThanAPage) {
     const ScratchFolder scratch;
     NewTable table{u"T", {}, {{}}};
     for (int i = 0; i < 9; ++i) {
-        table.columns.push_back({.name = jet::toUtf16("c" + std::to_string(i)),
+        table.columns.push_back({.name = text::toUtf16("c" + std::to_string(i)),
                                  .type = ColumnType::Text,
                                  .length = 255,
                                  .compressible = false});
         table.rows[0].emplace_back(std::u16string(255, u'x'));
     }
-    auto writer = jet::DatabaseWriter::create(scratch / "t.mdb");
+    auto writer = jet::createDatabase(scratch / "t.mdb");
     auto added = writer->addTable(table.name, table.columns);
     ASSERT_TRUE(added);
     const auto appended = added->append(table.rows[0]);

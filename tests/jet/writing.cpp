@@ -1,7 +1,7 @@
 #include "jet/writing.h"
 
 #include "jet/csv_dump.h"
-#include "jet/unicode.h"
+#include "jet/database_file.h"
 
 #include <gtest/gtest.h>
 
@@ -12,7 +12,7 @@ using jet::ColumnType;
 using jet::Value;
 
 void writeDatabase(const std::filesystem::path& path, const std::vector<NewTable>& tables) {
-    auto writer = jet::DatabaseWriter::create(path);
+    auto writer = jet::createDatabase(path);
     ASSERT_TRUE(writer) << writer.error().sentence;
     for (const NewTable& table : tables) {
         auto added = writer->addTable(table.name, table.columns);
@@ -28,7 +28,7 @@ void writeDatabase(const std::filesystem::path& path, const std::vector<NewTable
 
 Rows readTable(const std::filesystem::path& path, std::u16string_view name) {
     Rows rows;
-    const auto database = jet::Database::open(path);
+    const auto database = jet::openDatabase(path);
     EXPECT_TRUE(database) << database.error().sentence;
     if (!database)
         return rows;

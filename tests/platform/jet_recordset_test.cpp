@@ -1,5 +1,5 @@
 #include "coursedata/jet_recordset.h"
-#include "jet/writer.h"
+#include "jet/database_file.h"
 #include "support/printing.h"
 
 #include <QDir>
@@ -21,7 +21,7 @@ namespace {
 class JetRecordsetTest : public testing::Test {
 protected:
     void SetUp() override {
-        auto writer = jet::DatabaseWriter::create(path_.toStdU16String());
+        auto writer = jet::createDatabase(path_.toStdU16String());
         const std::vector<jet::Column> columns{{.name = u"numero", .type = jet::ColumnType::Long},
                                                {.name = u"enonce", .type = jet::ColumnType::Memo}};
         auto table = writer->addTable(u"Contenu", columns);

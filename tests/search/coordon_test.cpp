@@ -1,10 +1,10 @@
 #include "coursetool/tables.h"
-#include "jet/unicode.h"
-#include "jet/writer.h"
+#include "jet/database_file.h"
 #include "look/palette.h"
 #include "search/coordon.h"
 #include "support/files.h"
 #include "support/plain_words.h"
+#include "text/utf8.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -32,11 +32,11 @@ constexpr int kFirstNumber = 101;
 class CoordonWindow : public testing::Test {
 protected:
     void write(const std::vector<Page>& pages) {
-        auto file = jet::DatabaseWriter::create(folder_.filePath("ZEKX.MDB").toStdString());
+        auto file = jet::createDatabase(folder_.filePath("ZEKX.MDB").toStdString());
         ASSERT_TRUE(file);
         const auto& rule = coursetool::coursTable();
         const auto columns = coursetool::columnsOf(rule);
-        auto table = file->addTable(jet::toUtf16(rule.name), columns);
+        auto table = file->addTable(text::toUtf16(rule.name), columns);
         ASSERT_TRUE(table);
         for (std::size_t i = 0; i < pages.size(); ++i) {
             std::vector<jet::Value> row(columns.size());

@@ -1,36 +1,30 @@
 #include "search/course.h"
 
-#include <gtest/gtest.h>
+#include "jet/writer.h"
+#include "support/memory_database.h"
 
-#include <stdexcept>
+#include <gtest/gtest.h>
 
 namespace search {
 
-namespace fs = std::filesystem;
-
-Course::Course(const std::vector<Record>& records) {
-    std::string name = (fs::temp_directory_path() / "orvalente-XXXXXX").string();
-    if (!mkdtemp(name.data()))
-        throw std::runtime_error("no temporary directory");
-    directory_ = name;
+Course::Course(const std::vector<Record>& records, std::u16string_view tableName) {
     using jet::ColumnType;
     const jet::Column columns[] = {{u"Numeropage", ColumnType::Long},
                                    {u"titre", ColumnType::Text, 255},
                                    {u"moteur", ColumnType::Boolean},
                                    {u"fpc", ColumnType::Memo}};
-    auto writer = jet::DatabaseWriter::create(file());
-    auto table = writer->addTable(u"cours", columns);
+    auto writer = jet::DatabaseWriter::create(std::make_unique<test_support::MemorySink>(bytes));
+    auto table = writer.addTable(tableName, columns);
     for (const Record& record : records) {
         const jet::Value values[] = {record.number, record.titre, record.moteur, record.fpc};
         const auto done = table->append(values);
         EXPECT_TRUE(done) << done.error().sentence;
     }
-    EXPECT_TRUE(writer->finish());
+    EXPECT_TRUE(writer.finish());
 }
 
-Course::~Course() {
-    std::error_code ignored;
-    fs::remove_all(directory_, ignored);
+jet::Database Course::database() const {
+    return *test_support::openInMemory(bytes);
 }
 
 std::vector<Record> withSources(const std::vector<std::u16string>& sources) {

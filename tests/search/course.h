@@ -1,9 +1,9 @@
 #pragma once
 
-#include "jet/writer.h"
+#include "jet/database.h"
 #include "search/page_search.h"
 
-#include <filesystem>
+#include <cstdint>
 #include <string>
 #include <utility>
 #include <vector>
@@ -18,18 +18,13 @@ struct Record {
     jet::Value fpc;
 };
 
-/// A course database in a directory of its own, both gone with the object.
-class Course {
-public:
-    explicit Course(const std::vector<Record>& records);
-    ~Course();
-    Course(const Course&) = delete;
-    Course& operator=(const Course&) = delete;
+/// A course database, in memory.
+struct Course {
+    explicit Course(const std::vector<Record>& records, std::u16string_view table = u"cours");
 
-    std::filesystem::path file() const { return directory_ / "Zekx.mdb"; }
+    jet::Database database() const;
 
-private:
-    std::filesystem::path directory_;
+    std::vector<std::uint8_t> bytes;
 };
 
 /// Records with these sources, which take part in the search, without titles.

@@ -4,7 +4,6 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
-#include <fstream>
 
 namespace search {
 namespace {
@@ -14,7 +13,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 
 CoursePages opened(const Course& course, std::size_t mostBytes = kFoldedCopyBytes) {
-    auto pages = CoursePages::open(course.file(), mostBytes);
+    auto pages = CoursePages::open(course.database(), mostBytes);
     EXPECT_TRUE(pages) << pages.error().sentence;
     return *std::move(pages);
 }
@@ -93,15 +92,13 @@ TEST(PageSearch, OfAFewRecordsOrNoneEnds) {
 
 TEST(PageSearch, GoesOnBehindASourceThatCannotBeRead) {
     const std::u16string longOne(1500, u'x');
-    const Course course(withSources({u"", u"mot un", u"mot " + longOne, u"mot deux"}));
-    std::fstream file(course.file(), std::ios::in | std::ios::out | std::ios::binary);
-    const std::string bytes{std::istreambuf_iterator<char>(file), {}};
-    const std::size_t at = bytes.find(std::string("x\0x\0x\0", 6));
-    ASSERT_NE(at, bytes.npos);
+    Course course(withSources({u"", u"mot un", u"mot " + longOne, u"mot deux"}));
+    constexpr std::uint8_t kLetters[] = {'x', 0, 'x', 0, 'x', 0};
+    const auto letters = std::ranges::search(course.bytes, kLetters);
+    ASSERT_FALSE(letters.empty());
     constexpr std::size_t kPage = 4096;
-    file.seekp(static_cast<std::streamoff>(at / kPage * kPage));
-    file.put('\x7F'); // no page of data any more
-    file.close();
+    const auto at = static_cast<std::size_t>(letters.begin() - course.bytes.begin());
+    course.bytes[at / kPage * kPage] = 0x7F; // no page of data any more
     auto pages = opened(course);
     EXPECT_THAT(found(pages, u"mot"), ElementsAre(1, 3));
     EXPECT_EQ(pages.problems().count(), 1u);
@@ -136,12 +133,9 @@ TEST(PageSearch, KeepsNoMoreThanItMay) {
 }
 
 TEST(CoursePages, TellsWhyItCannotBeOpened) {
-    const Course course({});
-    const auto none = CoursePages::open(course.file().parent_path() / "autre.mdb");
+    const auto none = CoursePages::open(Course({}, u"autre").database());
     ASSERT_FALSE(none);
-    EXPECT_THAT(none.error().sentence, HasSubstr("autre.mdb"));
-    std::ofstream(course.file(), std::ios::binary) << "no database";
-    EXPECT_FALSE(CoursePages::open(course.file()));
+    EXPECT_THAT(none.error().sentence, HasSubstr("cours"));
 }
 
 } // namespace

@@ -90,7 +90,7 @@ TEST(PageSearch, FindsWhatALiteralSearchFinds) {
     // Without a copy, with one of the first pages only, and with one of all.
     std::vector<CoursePages> everyCopy;
     for (const std::size_t most : {std::size_t{0}, std::size_t{200'000}, kFoldedCopyBytes})
-        everyCopy.push_back(*CoursePages::open(course.file(), most));
+        everyCopy.push_back(*CoursePages::open(course.database(), most));
     std::size_t hits = 0;
     for (int i = 0; i < 40; ++i) {
         Query query;

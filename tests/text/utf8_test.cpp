@@ -1,4 +1,5 @@
 #include "text/utf8.h"
+#include "text/windows_1252.h"
 
 #include <gtest/gtest.h>
 
@@ -31,6 +32,33 @@ TEST(Utf8, knowsWhatIsACharacter) {
     };
     for (const auto& [bytes, length] : rows)
         EXPECT_EQ(text::utf8CharacterLength(bytes), length) << testing::PrintToString(bytes);
+}
+
+TEST(Utf8, comesBackAndDamageIsReplaced) {
+    const std::string text = "aé€😀\u0800\uFFFF";
+    EXPECT_EQ(text::toUtf8(text::toUtf16(text)), text);
+    EXPECT_EQ(text::toUtf8(u"a\xD83D"), "a\uFFFD") << "unpaired";
+    EXPECT_EQ(text::toUtf16("a\xC3"), u"a\uFFFD");
+    EXPECT_EQ(text::toUtf16("\xC0\x80"), u"\uFFFD\uFFFD") << "overlong";
+    EXPECT_EQ(text::toUtf16("\xED\xA0\x80"), u"\uFFFD\uFFFD\uFFFD") << "surrogate";
+    EXPECT_EQ(text::toUtf16("\xF4\x90\x80\x80").front(), u'\uFFFD') << "beyond U+10FFFF";
+}
+
+TEST(Windows1252, givesEachCodeBackButTheFiveLeftOpen) {
+    std::string open;
+    for (int code = 0; code < 256; ++code) {
+        const auto character = text::fromWindows1252(static_cast<std::uint8_t>(code));
+        if (character)
+            EXPECT_EQ(text::toWindows1252(*character), code);
+        else
+            open += static_cast<char>(code);
+    }
+    EXPECT_EQ(open, "\x81\x8D\x8F\x90\x9D");
+    EXPECT_EQ(text::fromWindows1252(0x80), u'€');
+    EXPECT_EQ(text::fromWindows1252(0x9F), u'Ÿ');
+    EXPECT_EQ(text::toWindows1252(u'é'), 0xE9);
+    for (const char16_t none : {u'\x80', u'\x81', u'Ā', u'漢'})
+        EXPECT_EQ(text::toWindows1252(none), std::nullopt);
 }
 
 TEST(PlainLine, leavesNothingThatSteersATerminal) {
