@@ -35,14 +35,15 @@ struct KeyButton::Colours {
 };
 
 KeyButton::KeyButton(const Key& key, const KeyPlace& place, QWidget* parent)
-    : Button(key.caption.toString(), {}, parent), style_(place.style),
-      icon_(key.caption.isEmpty() ? QStringLiteral("erase") : QString()) {
-    setObjectName(key.name.toString());
+    : Button(QStringView(key.caption).toString(), {}, parent), style_(place.style),
+      icon_(key.caption.empty() ? QStringLiteral("erase") : QString()) {
+    setObjectName(QStringView(key.name).toString());
     setFont(look::interfaceFont(place.captionPx, weightOf(place)));
     setGeometry(place.x, place.y, place.width, place.height);
-    look::setToolTip(*this, key.tooltip.toString());
-    if (!key.tooltip.isEmpty())
-        setAccessibleName(key.tooltip.toString());
+    const QString tooltip = QStringView(key.tooltip).toString();
+    look::setToolTip(*this, tooltip);
+    if (!tooltip.isEmpty())
+        setAccessibleName(tooltip);
 }
 
 KeyButton::Colours KeyButton::colours() const {
