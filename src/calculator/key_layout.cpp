@@ -38,13 +38,14 @@ constexpr KeyPlace kLowerKeys[] = {
 struct BlockKey {
     TextView name;
     int captionPx;
+    bool serif = false;
 };
 
 /// The keys between the memory and the digits, row by row, but for the last one.
 constexpr BlockKey kBlock[] = {
     {u"bsin", 12},    {u"Bcos", 12},      {u"Btan", 12},          {u"Bpo", 13},  {u"bpf", 13},
     {u"invsin", 11},  {u"invcos", 11},    {u"Btoncommande3", 11}, {u"pi", 13},   {u"command5", 12},
-    {u"Blog", 12},    {u"Bln", 13},       {u"Bexp", 12},          {u"B10x", 13}, {u"racine", 13},
+    {u"Blog", 12},    {u"Bln", 15, true},       {u"Bexp", 12},          {u"B10x", 13}, {u"racine", 13},
     {u"btcarre", 13}, {u"puissance", 13}, {u"demi", 12},
 };
 // clang-format on
@@ -55,23 +56,22 @@ constexpr int kCaptionPx = 12;
 constexpr std::size_t kColumns = 5;
 
 /// The next cell of the block.
-KeyPlace cell(std::size_t index, TextView name, int captionPx) {
+KeyPlace cell(std::size_t index, const BlockKey& key) {
     const int column = static_cast<int>(index % kColumns);
     const int row = static_cast<int>(index / kColumns);
-    return {name, 7 + column * 58, 140 + row * 34, 54, 30, kFunction, captionPx};
+    return {key.name, 7 + column * 58, 140 + row * 34, 54, 30, kFunction, key.captionPx, key.serif};
 }
 
 void addBlock(std::vector<KeyPlace>& places) {
     std::size_t used = 0;
     for (const BlockKey& key : kBlock)
-        places.push_back(cell(used++, key.name, key.captionPx));
+        places.push_back(cell(used++, key));
     for (const Function& function : functions())
         if (std::ranges::find(kBlock, function.key.control, &BlockKey::name) == std::end(kBlock))
-            places.push_back(cell(used++, function.key.control, kCaptionPx));
+            places.push_back(cell(used++, {function.key.control, kCaptionPx}));
     // The last one takes what is left of its row.
-    KeyPlace recall = cell(used, u"rappel", kCaptionPx);
-    recall.width =
-        cell(used / kColumns * kColumns + kColumns - 1, {}, 0).x + recall.width - recall.x;
+    KeyPlace recall = cell(used, {u"rappel", kCaptionPx});
+    recall.width = cell(used / kColumns * kColumns + kColumns - 1, {}).x + recall.width - recall.x;
     places.push_back(recall);
 }
 

@@ -19,6 +19,7 @@ struct KeyPlace {
     int height;
     KeyStyle style;
     int captionPx;
+    bool serif = false; ///< the caption in a face that tells a small "l" from a capital "I"
 };
 
 /// Places of all keys, in the order in which the Tab key visits them.
