@@ -2,6 +2,7 @@
 
 #include "coursetool/dump.h"
 #include "coursetool/file_list.h"
+#include "coursetool/installed_course.h"
 #include "coursetool/paths.h"
 #include "coursetool/question_folders.h"
 #include "coursetool/source_writer.h"
@@ -60,28 +61,18 @@ public:
 
     void run() {
         const FileTree tree = listTree(course_, course_, report_);
-        const auto courseFile = findDatabase(tree, kCourseFile);
-        const auto exerciseFile = findDatabase(tree, kExerciseFile);
-        if (!courseFile) {
-            report_.fault({shown(course_)}, "aucun cours ici : Zekx.mdb manque");
+        const auto courseFile = findDatabase(course_, kCourseFile, report_);
+        if (!courseFile || !makeDirectory(output_ / kPagesFolder))
             return;
-        }
-        if (!makeDirectory(output_ / kPagesFolder))
-            return;
-        extractPages(course_ / *courseFile);
-        if (exerciseFile)
-            extractExercises(course_ / *exerciseFile);
-        copyFiles(tree, *courseFile, exerciseFile.value_or(fs::path()));
+        extractPages(*courseFile);
+        const auto exerciseFile = coursedata::findDatabase(course_, kExerciseFile);
+        if (exerciseFile) // a course need not have tests
+            extractExercises(*exerciseFile);
+        copyFiles(tree, courseFile->filename(),
+                  exerciseFile ? exerciseFile->filename() : fs::path());
     }
 
 private:
-    static std::optional<fs::path> findDatabase(const FileTree& tree, const char* name) {
-        NameTable names;
-        for (const fs::path& file : tree.files)
-            names.add(file);
-        return names.find(name);
-    }
-
     bool makeDirectory(const fs::path& path) {
         std::error_code error;
         fs::create_directories(path, error);
