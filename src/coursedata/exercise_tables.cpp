@@ -2,6 +2,7 @@
 
 #include "coursedata/course_directory.h"
 #include "coursedata/databases.h"
+#include "coursedata/question_reference.h"
 #include "text/rounding.h"
 
 namespace coursedata {
@@ -62,7 +63,7 @@ TestDescription describeTest(const Recordset& description, std::int16_t chapter)
 }
 
 std::int32_t questionReference(std::int16_t chapter, std::int16_t question) {
-    return chapter * 100 + question;
+    return chapter * kReferencesPerChapter + question;
 }
 
 void QuestionRecord::moveTo(std::int32_t reference) {

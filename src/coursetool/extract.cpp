@@ -1,5 +1,6 @@
 #include "coursetool/extract.h"
 
+#include "coursedata/question_reference.h"
 #include "coursetool/dump.h"
 #include "coursetool/file_list.h"
 #include "coursetool/installed_course.h"
@@ -20,9 +21,6 @@ namespace coursetool {
 namespace fs = std::filesystem;
 
 namespace {
-
-/// Questions of one test are numbered from 1 to 99 after its chapter: chapter 3 has 301 to 399.
-constexpr std::int32_t kReferencesPerChapter = 100;
 
 /// `number` with leading zeros, so that names of `count` files stand in the order of their numbers.
 std::string ordinal(std::size_t number, std::size_t count) {
@@ -77,8 +75,7 @@ private:
         std::error_code error;
         fs::create_directories(path, error);
         if (error)
-            report_.failure({shown(path)},
-                            "le dossier ne peut pas être créé : " + files::causeOf(error));
+            report_.failure(path, files::kFolderNotCreated, error);
         return !error;
     }
 
@@ -165,7 +162,7 @@ private:
         const auto reference = record.values.front().integer();
         if (!reference)
             return std::nullopt;
-        const auto found = folderOfChapter_.find(*reference / kReferencesPerChapter);
+        const auto found = folderOfChapter_.find(*reference / coursedata::kReferencesPerChapter);
         return found != folderOfChapter_.end() ? std::optional(found->second) : std::nullopt;
     }
 
@@ -201,8 +198,7 @@ private:
         fs::create_directories(to.parent_path(), error);
         fs::copy_file(course_ / file, to, error);
         if (error)
-            report_.failure({shown(course_ / file)},
-                            "le fichier ne peut pas être copié : " + files::causeOf(error));
+            report_.failure(course_ / file, "le fichier ne peut pas être copié", error);
     }
 
     fs::path course_;

@@ -85,8 +85,7 @@ void SourceWriter::writeFile(const std::string& text, const std::filesystem::pat
     files::WholeFile source(file);
     source.write(text);
     if (!source.putInPlace())
-        report_.failure({shown(file)},
-                        "le fichier ne peut pas être écrit : " + files::causeOf(source.error()));
+        report_.failure(file, files::kFileNotWritten, source.error());
 }
 
 void SourceWriter::tell(const SourceRecord& record, const FieldRule& field,

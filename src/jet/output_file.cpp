@@ -1,5 +1,6 @@
 #include "jet/output_file.h"
 
+#include "files/cause.h"
 #include "jet/format.h"
 
 namespace jet {
@@ -14,7 +15,7 @@ constexpr std::size_t kPiece = 64 * 1024;
 Result<std::unique_ptr<OutputFile>> OutputFile::create(const std::filesystem::path& target) {
     std::unique_ptr<OutputFile> output(new OutputFile(target));
     if (const std::error_code error = output->file_.error())
-        return fileFailure(target, "le fichier ne peut pas être créé", error);
+        return fileFailure(target, files::kFileNotCreated, error);
     return output;
 }
 
@@ -37,7 +38,7 @@ Result<void> OutputFile::state() const {
     if (closed_)
         return Failure{Failure::Kind::Refused, "la base est déjà terminée"};
     if (const std::error_code error = file_.error())
-        return fileFailure(target_, "l’écriture a échoué", error);
+        return fileFailure(target_, files::kFileNotWritten, error);
     if (pageCount_ > kJet4.maxPages)
         return Failure{Failure::Kind::Refused, "la base dépasserait 2 Go"};
     return {};
@@ -49,7 +50,7 @@ Result<void> OutputFile::putInPlace() {
         return fine;
     closed_ = true;
     if (!file_.putInPlace())
-        return fileFailure(target_, "le fichier ne peut pas être mis en place", file_.error());
+        return fileFailure(target_, files::kFileNotPutInPlace, file_.error());
     return {};
 }
 

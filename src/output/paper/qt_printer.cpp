@@ -1,5 +1,6 @@
 #include "output/paper/qt_printer.h"
 
+#include "files/cause.h"
 #include "output/paper/paper_painter.h"
 
 #include <QPrinter>
@@ -15,7 +16,7 @@ constexpr QMarginsF kMargins{10, 10, 10, 10};
 
 QString refusal(const QPrinter& device) {
     return device.outputFormat() == QPrinter::PdfFormat
-               ? QStringLiteral("le fichier ne peut pas être créé")
+               ? QString::fromUtf8(files::kFileNotCreated)
                : QStringLiteral("l’imprimante a refusé le document");
 }
 
