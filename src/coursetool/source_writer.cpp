@@ -69,11 +69,11 @@ std::optional<std::string> SourceWriter::body(const SourceRecord& record, const 
         return std::nullopt;
     const auto* text = value.text();
     if (!text) {
-        tell(record, field, "la valeur n’est pas un texte, elle n’est pas reprise");
+        tell(record, field, kNoText);
         return std::nullopt;
     }
     if (!hasOnlyCharacters(*text))
-        tell(record, field, "un code qui n’est pas un caractère est remplacé par U+FFFD");
+        tell(record, field, kHasNoCharacters);
     bool clean = true;
     std::string source = toSourceText(jet::toUtf8(*text), clean);
     if (!clean)

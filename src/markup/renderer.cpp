@@ -1,6 +1,8 @@
 #include "markup/renderer.h"
 
 #include "markup/directive_table.h"
+#include "markup/reasons.h"
+#include "page/face_names.h"
 #include "page/printable_text.h"
 #include "text/rounding.h"
 
@@ -56,7 +58,7 @@ bool Renderer::store(std::int16_t& target, double value) {
 }
 
 void Renderer::movePenYBy(double twips) {
-    check(surface().setPenY(surface().penY() + twips), u"la position sort des limites");
+    check(surface().setPenY(surface().penY() + twips), kPenOutside);
 }
 
 void Renderer::initecran() {
@@ -64,7 +66,7 @@ void Renderer::initecran() {
 
     page::Surface& target = surface();
     target.setFontPoints(10);
-    target.setFace(QStringLiteral("Arial"));
+    target.setFace(page::kTextFace);
     target.setBold(false);
     target.setUnderline(false);
     target.setItalic(false);
@@ -193,8 +195,7 @@ void Renderer::finish() {
     const auto height = text::toInt32(surface().penY());
     check(height.has_value(), u"la page est trop haute");
     state_.hauteurPage = height.value_or(state_.hauteurPage);
-    check(surface().setHeightPx(surface().penY() / twipsPerPixel_),
-          u"la surface refuse cette hauteur");
+    check(surface().setHeightPx(surface().penY() / twipsPerPixel_), kHeightRefused);
     window_.setBusy(false);
 }
 

@@ -1,5 +1,6 @@
 #include "viewer/page_title.h"
 
+#include "page/face_names.h"
 #include "page/twips.h"
 
 namespace viewer {
@@ -22,7 +23,7 @@ constexpr qsizetype kMostCharacters = 300;
 } // namespace
 
 QString drawPageTitle(page::Surface& band, const page::TextMetrics& metrics, const QString& title) {
-    band.setFace(QStringLiteral("Arial"));
+    band.setFace(page::kTextFace);
     band.setBold(true);
     band.setItalic(false);
     band.setUnderline(false);
