@@ -128,7 +128,8 @@ const Function* startingWith(TextView text, std::size_t position) {
         return nullptr;
     for (const Function& function : kFunctions) {
         const TextView expected = function.*word;
-        if (!expected.empty() && text.compare(position, expected.size(), expected) == 0)
+        if (!expected.empty() && expected.front() == c &&
+            text.compare(position, expected.size(), expected) == 0)
             return &function;
     }
     return nullptr;
