@@ -1,28 +1,14 @@
 #include "app/checked_paths.h"
 
+#include "app/drive_option.h"
 #include "coursetool/paths.h"
 #include "coursetool/report.h"
 
 namespace app {
 
-namespace {
-
 namespace fs = std::filesystem;
 using coursetool::inQuotes;
 using coursetool::pathFrom;
-
-/// Reads "L=DIR"; false when it is not of this form.
-bool addDrive(const std::string& option, std::map<char, fs::path>& drives) {
-    if (option.size() < 3 || option[1] != '=')
-        return false;
-    const char letter = static_cast<char>(option[0] & ~('a' - 'A'));
-    if (letter < 'A' || letter > 'Z')
-        return false;
-    drives.insert_or_assign(letter, pathFrom(option.substr(2)));
-    return true;
-}
-
-} // namespace
 
 std::optional<WrongCall> notADirectory(const std::string& path, const char* what) {
     std::error_code error;
@@ -44,9 +30,12 @@ std::optional<WrongCall> notAFile(const std::string& path, const char* what) {
 
 std::optional<WrongCall> readDrives(const std::vector<std::string>& options,
                                     std::map<char, fs::path>& drives) {
+    std::map<char, std::string> named;
     for (const std::string& option : options)
-        if (!addDrive(option, drives))
-            return WrongCall{inQuotes(option) + " n’est pas de la forme L=DOSSIER"};
+        if (const auto wrong = addDrive(option, named))
+            return WrongCall{*wrong};
+    for (const auto& [letter, directory] : named)
+        drives.insert_or_assign(letter, pathFrom(directory));
     return std::nullopt;
 }
 

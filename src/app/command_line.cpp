@@ -1,7 +1,7 @@
 #include "app/command_line.h"
 
+#include "app/drive_option.h"
 #include "look/scale.h"
-#include "platform/qt/mounted_drives.h"
 
 namespace app {
 
@@ -74,10 +74,12 @@ void readValue(CommandLine& line, const QString& option, const QString& value) {
         line.course = value;
     } else if (option == u"--scale") {
         readScale(line, value);
-    } else if (const auto mapping = platform::parseDriveMapping(value)) {
-        line.drives.insert_or_assign(mapping->first, mapping->second);
     } else {
-        refuse(line, QStringLiteral("« %1 » n’est pas de la forme L=DOSSIER").arg(value));
+        std::map<char, std::string> named;
+        if (const auto wrong = addDrive(value.toStdString(), named))
+            refuse(line, QString::fromStdString(*wrong));
+        for (const auto& [letter, directory] : named)
+            line.drives.insert_or_assign(QLatin1Char(letter), QString::fromStdString(directory));
     }
 }
 

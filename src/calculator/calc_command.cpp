@@ -1,33 +1,25 @@
 #include "calculator/calc_command.h"
 
-#include "calculator/evaluator.h"
+#include "calculator/answer.h"
 #include "text/line_reader.h"
 #include "text/utf8.h"
 
 #include <istream>
 #include <ostream>
+#include <utility>
 
 namespace calculator {
 
 namespace {
 
-struct Answer {
-    ErrorCode error;
-    std::string line; ///< result line or message
-};
-
-Answer failure(ErrorCode error) {
-    return {error, text::toUtf8(message(error))};
+/// The exit status that an answer stands for: no result that could be printed is impossible.
+int statusOf(const Answer& answer) {
+    const bool tooLarge = answer.isMessage && answer.error == ErrorCode::None;
+    return static_cast<int>(tooLarge ? ErrorCode::Impossible : answer.error);
 }
 
-Answer answerTo(const std::string& expression, const CalcOptions& options, Hooks hooks = {}) {
-    const Evaluation found =
-        Evaluator(std::move(hooks)).evaluer(text::toUtf16(expression), options.angles);
-    if (found.error != ErrorCode::None)
-        return failure(found.error);
-    if (const auto line = resultLine(found.text, options.format))
-        return {ErrorCode::None, text::toUtf8(*line)};
-    return {ErrorCode::Impossible, text::toUtf8(kOverflowMessage)};
+Answer answerToLine(const std::string& line, const CalcOptions& options, Hooks hooks = {}) {
+    return answerTo(text::toUtf16(line), options.angles, options.format, std::move(hooks));
 }
 
 void runBatch(const CalcOptions& options, std::streambuf& in, std::ostream& out) {
@@ -38,9 +30,9 @@ void runBatch(const CalcOptions& options, std::streambuf& in, std::ostream& out)
         const text::Line read = text::readLine(in, line);
         if (read == text::Line::None)
             return;
-        const Answer answer =
-            read == text::Line::TooLong ? failure(ErrorCode::Impossible) : answerTo(line, options);
-        out << static_cast<int>(answer.error) << '\t' << answer.line << '\n';
+        const Answer answer = read == text::Line::TooLong ? answerWith(ErrorCode::Impossible)
+                                                          : answerToLine(line, options);
+        out << statusOf(answer) << '\t' << text::toUtf8(answer.line) << '\n';
     }
 }
 
@@ -56,9 +48,9 @@ int runCalc(const CalcOptions& options, std::istream& in, std::ostream& out, std
         hooks.trace = [&out](const char* step, TextView text) {
             out << step << '\t' << text::toUtf8(text) << '\n';
         };
-    const Answer answer = answerTo(options.expression, options, std::move(hooks));
-    (answer.error == ErrorCode::None ? out : err) << answer.line << '\n';
-    return static_cast<int>(answer.error);
+    const Answer answer = answerToLine(options.expression, options, std::move(hooks));
+    (answer.isMessage ? err : out) << text::toUtf8(answer.line) << '\n';
+    return statusOf(answer);
 }
 
 } // namespace calculator

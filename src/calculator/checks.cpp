@@ -1,5 +1,7 @@
 #include "calculator/checks.h"
 
+#include "calculator/function_table.h"
+
 #include <algorithm>
 #include <limits>
 
@@ -38,8 +40,8 @@ std::optional<Counters> compter(TextView text) {
             ++parentheses;
         else if (c == u' ')
             operators += i + 2 < text.size() && text[i + 2] == u' ' && isOperator(text[i + 1]);
-        else if (c >= u'C' && c <= u'T')
-            functions += functionAt(text, i).has_value();
+        else
+            functions += functionAt(text, i) != nullptr;
     }
     if (!fits(parentheses) || !fits(functions) || !fits(operators))
         return std::nullopt;

@@ -2,6 +2,8 @@
 
 #include "calculator/expression.h"
 
+#include <optional>
+
 namespace calculator {
 
 /// Faults that a look at the normalised text shows: "(" and ")" of different number, or one of

@@ -3,7 +3,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -20,11 +19,7 @@ enum class AngleMode : std::int16_t { Degrees = 0, Radians = 1 };
 /// The numbers are those that the course tool prints.
 enum class ErrorCode : std::int16_t { None = 0, Impossible = 1, Parentheses = 2, Operators = 3 };
 
-enum class Function { Sqr, Sin, Cos, Tan, Log, Lon, Exp, Isi, Ico, Ita };
-
-/// The function whose three letters stand at `position`; nothing elsewhere and near the end.
-std::optional<Function> functionAt(TextView text, std::size_t position);
-
+/// Letters of a function's name.
 inline constexpr std::size_t kNameLength = 3;
 
 /// What is left to be done, counted at any position of a text. 16-bit on purpose: a text with more

@@ -1,5 +1,6 @@
 #include "calculator/groups.h"
 
+#include "calculator/function_table.h"
 #include "calculator/gap_text.h"
 #include "calculator/normalise.h"
 
@@ -8,11 +9,6 @@
 namespace calculator {
 
 namespace {
-
-/// The letters of every function's name but not those of an exponent, "D" and "E".
-bool isFunctionLetter(char16_t c) {
-    return c >= u'F' && c <= u'Y';
-}
 
 bool isDigitOrPoint(char16_t c) {
     return (c >= u'0' && c <= u'9') || c == u'.';

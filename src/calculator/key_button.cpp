@@ -20,9 +20,14 @@ constexpr double kRaise = 6.5;
 /// Height of the letters' middle above their foot, in parts of the size.
 constexpr double kMiddle = 0.355;
 
-/// Symbols and digits are bold; words are not.
-look::Weight weightOf(const KeyPlace& place) {
-    return place.captionPx > look::kLabelPx ? look::Weight::Bold : look::Weight::Regular;
+/// Symbols and digits are large and bold; words are not bold.
+QFont captionFont(const KeyPlace& place) {
+    const bool bold = place.captionPx > look::kLabelPx && !place.serif;
+    QFont font =
+        look::interfaceFont(place.captionPx, bold ? look::Weight::Bold : look::Weight::Regular);
+    if (place.serif)
+        font.setFamily(QStringLiteral("Liberation Serif"));
+    return font;
 }
 
 } // namespace
@@ -35,14 +40,15 @@ struct KeyButton::Colours {
 };
 
 KeyButton::KeyButton(const Key& key, const KeyPlace& place, QWidget* parent)
-    : Button(key.caption.toString(), {}, parent), style_(place.style),
-      icon_(key.caption.isEmpty() ? QStringLiteral("erase") : QString()) {
-    setObjectName(key.name.toString());
-    setFont(look::interfaceFont(place.captionPx, weightOf(place)));
+    : Button(QStringView(key.caption).toString(), {}, parent), style_(place.style),
+      icon_(key.caption.empty() ? QStringLiteral("erase") : QString()) {
+    setObjectName(QStringView(key.name).toString());
+    setFont(captionFont(place));
     setGeometry(place.x, place.y, place.width, place.height);
-    look::setToolTip(*this, key.tooltip.toString());
-    if (!key.tooltip.isEmpty())
-        setAccessibleName(key.tooltip.toString());
+    const QString tooltip = QStringView(key.tooltip).toString();
+    look::setToolTip(*this, tooltip);
+    if (!tooltip.isEmpty())
+        setAccessibleName(tooltip);
 }
 
 KeyButton::Colours KeyButton::colours() const {

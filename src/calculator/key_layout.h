@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QStringView>
+#include "calculator/expression.h"
 
 #include <cstdint>
 #include <span>
@@ -12,16 +12,17 @@ enum class KeyStyle : std::uint8_t { Function, Digit, Operator, Main };
 
 /// Where a key stands in the window and how its caption is set, in logical pixels.
 struct KeyPlace {
-    QStringView name; ///< of the key
+    TextView name; ///< of the key
     int x;
     int y;
     int width;
     int height;
     KeyStyle style;
     int captionPx;
+    bool serif = false; ///< the caption in a face that tells a small "l" from a capital "I"
 };
 
-/// Places of all keys.
+/// Places of all keys, in the order in which the Tab key visits them.
 std::span<const KeyPlace> keyLayout();
 
 } // namespace calculator

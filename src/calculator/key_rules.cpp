@@ -1,55 +1,56 @@
 #include "calculator/key_rules.h"
 
-#include "calculator/evaluator.h"
 #include "text/number_text.h"
 #include "text/numeric_reader.h"
 
+#include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace calculator {
 
 namespace {
 
-const QString kWaiting = QStringLiteral("    Patience... Calculs en cours.     ");
+constexpr TextView kWaiting = u"    Patience... Calculs en cours.     ";
 
 /// A sign that a square root once had in the entry.
-constexpr QChar kRootSign(251);
+constexpr char16_t kRootSign = 251;
 
-QString asQString(TextView text) {
-    return QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
+/// The last character; null when there is none.
+char16_t lastOf(TextView text) {
+    return text.empty() ? u'\0' : text.back();
 }
 
-QChar lastOf(const QString& text) {
-    return text.isEmpty() ? QChar() : text.back();
+bool isOperator(char16_t c) {
+    return TextView(u"*+/-^").find(c) != TextView::npos;
 }
 
-bool isOperator(QChar c) {
-    return QStringView(u"*+/-^").contains(c);
+TextView trimmed(TextView text) {
+    text.remove_prefix(std::min(text.find_first_not_of(u' '), text.size()));
+    return text.substr(0, text.find_last_not_of(u' ') + 1);
 }
 
-/// What is left of `entry`, which ends with a space after a function's name, without that name.
-QString withoutLastWord(const QString& entry) {
-    for (qsizetype at = entry.size() - 2; at >= 0; --at) {
-        if (entry[at] == u' ' || entry[at] == u'(')
-            return entry.first(at + 1);
-    }
-    return {};
+bool isBlank(TextView text) {
+    return trimmed(text).empty();
 }
 
-QString erasedBack(const QString& entry) {
-    if (lastOf(entry) != u' ')
-        return entry.chopped(1);
-    const QChar before = entry.size() > 1 ? entry[entry.size() - 2] : QChar();
+/// Characters of `entry`, which is not empty, that one stroke backwards leaves: it takes a whole
+/// operator with its spaces, or the name of a function with the space after it.
+std::size_t leftByErasing(TextView entry) {
+    if (entry.back() != u' ')
+        return entry.size() - 1;
+    entry.remove_suffix(1);
+    const char16_t before = lastOf(entry);
     if (isOperator(before))
-        return entry.chopped(std::min<qsizetype>(3, entry.size()));
+        return entry.size() - std::min<std::size_t>(2, entry.size());
     if (before == kRootSign)
-        return entry.chopped(2);
-    return withoutLastWord(entry);
+        return entry.size() - 1;
+    return entry.find_last_of(u" (") + 1;
 }
 
 } // namespace
 
-KeyRules::KeyRules(Memory& memory, Face& face, QChar decimalPoint)
+KeyRules::KeyRules(Memory& memory, Face& face, char16_t decimalPoint)
     : memory_(memory), face_(face), decimalPoint_(decimalPoint) {}
 
 void KeyRules::press(const Key& key) {
@@ -69,7 +70,7 @@ void KeyRules::press(const Key& key) {
         answerFirst();
         return append(key.appends);
     case Rule::Pi:
-        return appendFactor(asQString(text::trimmedNumberText(4 * std::atan(1.0))));
+        return appendFactor(text::trimmedNumberText(4 * std::atan(1.0)));
     case Rule::LastAnswer:
         return lastAnswer();
     case Rule::RecallEntry:
@@ -94,69 +95,69 @@ void KeyRules::press(const Key& key) {
     }
 }
 
-bool KeyRules::type(QChar character) {
+bool KeyRules::type(char16_t character) {
     const Key* const key = keyTyped(character);
     if (key)
         press(*key);
     return key != nullptr;
 }
 
-void KeyRules::show(const QString& text) {
-    display_ = text;
-    face_.showText(text);
+void KeyRules::show(Text text) {
+    display_ = std::move(text);
+    face_.showText(display_);
 }
 
-void KeyRules::append(QStringView text) {
+void KeyRules::append(TextView text) {
     saisie_ += text;
     show(saisie_);
 }
 
-void KeyRules::appendFactor(QStringView text) {
-    const QChar last = lastOf(saisie_);
-    if (!saisie_.isEmpty() && last != u'(' && last != u'-' && last != u' ')
+void KeyRules::appendFactor(TextView text) {
+    const char16_t last = lastOf(saisie_);
+    if (!saisie_.empty() && last != u'(' && last != u'-' && last != u' ')
         saisie_ += u" * ";
     append(text);
 }
 
 void KeyRules::appendOperator(const Key& key) {
-    if (displayIsBlank())
+    if (isBlank(display_))
         return;
     answerFirst();
     const bool exponentSign = key.rule == Rule::Plus && lastOf(saisie_) == u'E';
-    append(exponentSign ? QStringView(u"+") : key.appends);
+    append(exponentSign ? TextView(u"+") : key.appends);
 }
 
 void KeyRules::answerFirst() {
-    if (saisie_.trimmed().isEmpty())
+    if (isBlank(saisie_))
         lastAnswer();
 }
 
 void KeyRules::lastAnswer() {
     if (erreur_ == ErrorCode::None)
-        saisie_ += reponse_.trimmed();
+        saisie_ += trimmed(reponse_);
     show(saisie_);
 }
 
 /// A sign at the start, after an operator, after "(" and after an exponent's letter; after another
 /// "-" a sign set apart; elsewhere the operator.
 void KeyRules::minus() {
-    const QChar last = lastOf(saisie_);
-    if (saisie_.isEmpty() || last == u'(' || last == u' ' || last == u'E')
+    const char16_t last = lastOf(saisie_);
+    if (saisie_.empty() || last == u'(' || last == u' ' || last == u'E')
         append(u"-");
     else
         append(last == u'-' ? u" -" : u" - ");
 }
 
 void KeyRules::eraseBack() {
-    if (saisie_.isEmpty())
+    if (saisie_.empty())
         return;
-    saisie_ = erasedBack(saisie_);
+    saisie_.resize(leftByErasing(saisie_));
     show(saisie_);
 }
 
 /// A sum beyond a double's range leaves the memory as it is.
 void KeyRules::addToMemory(double sign) {
-    const double sum = memory_.memoire + sign * text::leadingNumber(display_.toStdU16String());
+    const double sum = memory_.memoire + sign * text::leadingNumber(display_);
     if (std::isfinite(sum))
         memory_.memoire = sum;
 }
@@ -164,19 +165,15 @@ void KeyRules::addToMemory(double sign) {
 /// Meant so: in scientific format the separator of the user's language stays, although a "," ends
 /// the number when it is evaluated.
 void KeyRules::recallMemory() {
-    append(asQString(format_ == Format::Scientific
-                         ? scientificText(memory_.memoire, decimalPoint_.unicode())
-                         : text::trimmedNumberText(memory_.memoire)));
+    append(format_ == Format::Scientific ? scientificText(memory_.memoire, decimalPoint_)
+                                         : text::trimmedNumberText(memory_.memoire));
 }
 
 void KeyRules::setFormat(Format format) {
     format_ = format;
-    if (evaluating_ || !saisie_.isEmpty())
+    if (evaluating_ || !saisie_.empty())
         return;
-    const QString entry = saisie_;
-    takeResult(reponse_.toStdU16String());
-    show(saisie_);
-    saisie_ = entry;
+    say(answerWith(reponse_, format_));
 }
 
 void KeyRules::cancel() {
@@ -186,42 +183,31 @@ void KeyRules::cancel() {
 
 void KeyRules::evaluate() {
     derniere_ = saisie_;
-    const QString expression = saisie_;
-    const Evaluation found = evaluation();
+    const Answer found = answer();
     erreur_ = found.error;
-    if (erreur_ == ErrorCode::None) {
-        takeResult(found.text);
-    } else {
-        saisie_ = asQString(message(erreur_));
-        face_.beep();
-    }
-    show(saisie_);
-    reponse_ = saisie_;
-    saisie_ = erreur_ == ErrorCode::None ? QString() : expression;
+    say(found);
+    reponse_ = found.line;
+    saisie_ = erreur_ == ErrorCode::None ? Text() : derniere_;
 }
 
-Evaluation KeyRules::evaluation() {
-    show(kWaiting);
+Answer KeyRules::answer() {
+    show(Text(kWaiting));
     evaluating_ = true;
     Hooks hooks;
     hooks.cancelled = [this] {
         face_.breathe();
-        return displayIsBlank();
+        return isBlank(display_);
     };
-    Evaluation found = Evaluator(std::move(hooks)).evaluer(saisie_.toStdU16String(), angles_);
+    Answer found = answerTo(derniere_, angles_, format_, std::move(hooks));
     evaluating_ = false;
     return found;
 }
 
-void KeyRules::takeResult(TextView result) {
-    const auto line = resultLine(result, format_);
-    saisie_ = asQString(line ? TextView(*line) : kOverflowMessage);
-    if (!line)
+/// Shows what is to be said; a message with a beep.
+void KeyRules::say(const Answer& answer) {
+    if (answer.isMessage)
         face_.beep();
-}
-
-bool KeyRules::displayIsBlank() const {
-    return display_.trimmed().isEmpty();
+    show(answer.line);
 }
 
 } // namespace calculator

@@ -1,10 +1,7 @@
 #pragma once
 
-#include "calculator/evaluator.h"
+#include "calculator/answer.h"
 #include "calculator/keypad.h"
-#include "calculator/result_text.h"
-
-#include <QString>
 
 namespace calculator {
 
@@ -19,7 +16,7 @@ public:
     virtual ~Face() = default;
 
     /// The display's text has become `text`.
-    virtual void showText(const QString& text) = 0;
+    virtual void showText(TextView text) = 0;
     virtual void beep() = 0;
     /// Called again and again during an evaluation, between any two of its reductions: the chance
     /// to let pending input through.
@@ -32,7 +29,7 @@ class KeyRules {
 public:
     /// `decimalPoint` is that of the user's language; only the scientific recall of the memory
     /// shows it.
-    KeyRules(Memory& memory, Face& face, QChar decimalPoint);
+    KeyRules(Memory& memory, Face& face, char16_t decimalPoint);
 
     /// Empties the entry, as each loading of the window does.
     void load() { saisie_.clear(); }
@@ -40,7 +37,7 @@ public:
     /// During an evaluation no key has any effect.
     void press(const Key& key);
     /// Presses the key that a typed character stands for; false when there is none.
-    bool type(QChar character);
+    bool type(char16_t character);
 
     void setAngles(AngleMode angles) { angles_ = angles; }
     /// Right after a result the display shows it again in the new format.
@@ -51,13 +48,13 @@ public:
     void cancel();
 
     bool evaluating() const { return evaluating_; }
-    const QString& saisie() const { return saisie_; }
-    const QString& display() const { return display_; }
+    const Text& saisie() const { return saisie_; }
+    const Text& display() const { return display_; }
 
 private:
-    void show(const QString& text);
-    void append(QStringView text);
-    void appendFactor(QStringView text);
+    void show(Text text);
+    void append(TextView text);
+    void appendFactor(TextView text);
     void appendOperator(const Key& key);
     void answerFirst();
     void lastAnswer();
@@ -66,20 +63,19 @@ private:
     void addToMemory(double sign);
     void recallMemory();
     void evaluate();
-    Evaluation evaluation();
-    void takeResult(TextView result);
-    bool displayIsBlank() const;
+    Answer answer();
+    void say(const Answer& answer);
 
     Memory& memory_;
     Face& face_;
-    const QChar decimalPoint_;
+    const char16_t decimalPoint_;
 
-    QString saisie_;   ///< the expression being typed
-    QString reponse_;  ///< what the last "=" showed, result or message
-    QString derniere_; ///< the expression at the last "="
+    Text saisie_;   ///< the expression being typed
+    Text reponse_;  ///< what the last "=" showed, result or message
+    Text derniere_; ///< the expression at the last "="
     ErrorCode erreur_ = ErrorCode::None;
 
-    QString display_;
+    Text display_;
     AngleMode angles_ = AngleMode::Radians;
     Format format_ = Format::Standard;
     bool evaluating_ = false;

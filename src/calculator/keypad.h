@@ -1,14 +1,14 @@
 #pragma once
 
-#include <QChar>
-#include <QStringView>
+#include "calculator/expression.h"
 
+#include <cstdint>
 #include <span>
 
 namespace calculator {
 
 /// What a key does with the text that it appends, or what it does instead.
-enum class Rule {
+enum class Rule : std::uint8_t {
     Append,
     Times,       ///< " * " comes first where a factor stands before
     Operator,    ///< nothing on a blank display; the last answer comes first on an empty entry
@@ -28,20 +28,21 @@ enum class Rule {
 };
 
 struct Key {
-    QStringView name;    ///< of the control
-    QStringView caption; ///< on its face; "&" stands before the mnemonic
-    QStringView tooltip;
-    QStringView appends;
+    TextView name;    ///< of the control
+    TextView caption; ///< on its face; "&" stands before the mnemonic
+    TextView tooltip;
+    TextView appends;
     Rule rule;
 };
 
-/// All keys, in the order in which the Tab key visits them.
+/// All keys, those of the functions from their table. In no order: where a key stands, and when the
+/// Tab key visits it, is told by key_layout.
 std::span<const Key> keypad();
 
 /// The key of that control; there must be one.
-const Key& keyNamed(QStringView name);
+const Key& keyNamed(TextView name);
 
 /// The key that a character typed on the keyboard stands for; null for none.
-const Key* keyTyped(QChar character);
+const Key* keyTyped(char16_t character);
 
 } // namespace calculator

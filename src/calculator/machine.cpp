@@ -29,7 +29,7 @@ constexpr int kDefaultBreathingInterval = 20;
 /// The character that a key of the keyboard stands for; null for none. A "^" that waits for the
 /// next letter, as on French keyboards, counts at once; so does what AltGr types, which Windows
 /// tells as Ctrl and Alt together.
-QChar characterOf(const QKeyEvent& event) {
+char16_t characterOf(const QKeyEvent& event) {
     constexpr Qt::KeyboardModifiers kAltGr = Qt::ControlModifier | Qt::AltModifier;
     const Qt::KeyboardModifiers commands = event.modifiers() & (kAltGr | Qt::MetaModifier);
     if (commands && commands != kAltGr)
@@ -43,7 +43,7 @@ QChar characterOf(const QKeyEvent& event) {
     case Qt::Key_Dead_Circumflex:
         return u'^';
     default:
-        return event.text().size() == 1 ? event.text().front() : QChar();
+        return event.text().size() == 1 ? event.text().front().unicode() : u'\0';
     }
 }
 
@@ -60,7 +60,7 @@ void outline(QPainter& painter, QPoint first, QPoint last, Qt::GlobalColor colou
 } // namespace
 
 Machine::Machine(Memory& memory)
-    : rules_(memory, *this, QLocale().decimalPoint().front()), z1_(new Display(this)),
+    : rules_(memory, *this, QLocale().decimalPoint().front().unicode()), z1_(new Display(this)),
       breathingInterval_(kDefaultBreathingInterval) {
     setObjectName(QStringLiteral("Machine"));
     setWindowTitle(QStringLiteral("Calculatrice"));
@@ -96,13 +96,10 @@ void Machine::addOptions() {
 }
 
 void Machine::addKeys() {
-    for (const Key& key : keypad()) {
-        for (const KeyPlace& place : keyLayout()) {
-            if (place.name != key.name)
-                continue;
-            auto* const button = new KeyButton(key, place, this);
-            connect(button, &KeyButton::clicked, this, [this, &key] { press(key); });
-        }
+    for (const KeyPlace& place : keyLayout()) {
+        const Key& key = keyNamed(place.name);
+        auto* const button = new KeyButton(key, place, this);
+        connect(button, &KeyButton::clicked, this, [this, &key] { press(key); });
     }
 }
 
@@ -130,10 +127,10 @@ void Machine::closeEvent(QCloseEvent* event) {
     event->ignore();
 }
 
-void Machine::showText(const QString& text) {
+void Machine::showText(TextView text) {
     if (!rules_.evaluating())
         sinceBreath_.start();
-    z1_->showText(text);
+    z1_->showText(QStringView(text).toString());
 }
 
 void Machine::beep() {

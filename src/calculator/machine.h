@@ -33,7 +33,7 @@ private:
     void addKeys();
     void press(const Key& key);
 
-    void showText(const QString& text) override;
+    void showText(TextView text) override;
     void beep() override;
     void breathe() override;
 

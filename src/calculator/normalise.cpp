@@ -1,5 +1,7 @@
 #include "calculator/normalise.h"
 
+#include "calculator/function_table.h"
+
 #include <utility>
 #include <vector>
 
@@ -200,14 +202,15 @@ void placeSpaces(Text text, Text& out) {
         if (isBinary(c, out.back())) {
             out += {u' ', c, u' '};
             ++i;
-        } else if (const auto function = functionAt(text, i);
-                   function && *function != Function::Lon) {
-            out.append(text, i, kNameLength);
+        } else if (const Function* const named = functionAt(text, i);
+                   named && named->abbreviation.empty()) {
+            out += named->name;
             out += u' ';
             i += kNameLength;
-        } else if (c == u'L' && startsWith(text, i, u"LN")) {
-            out += u"LON ";
-            i += 2;
+        } else if (const Function* const function = abbreviatedAt(text, i)) {
+            out += function->name;
+            out += u' ';
+            i += function->abbreviation.size();
         } else if (c == u'I' && startsWith(text, i, u"INV")) {
             // "INVSIN" -> "ISI ": the letter after the next two gives way to the space.
             out += c;

@@ -3,9 +3,9 @@
 #include "text/number_text.h"
 #include "text/numeric_reader.h"
 
-#include <array>
-#include <charconv>
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <string>
 
 namespace calculator {
@@ -20,21 +20,27 @@ struct Decimal {
     int exponent = 0;
 };
 
+/// Read back from the standard text, which has every digit that counts: "12.5", ".05", "1.5E-07".
 Decimal decimalOf(double magnitude) {
-    std::array<char, 32> buffer;
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), magnitude,
-                                   std::chars_format::scientific, text::kSignificantDigits - 1)
-                         .ptr;
-    const std::string written(buffer.data(), end);
+    const Text standard = text::trimmedNumberText(magnitude);
+    const std::string written(standard.begin(), standard.end());
+    const std::string mantissa = written.substr(0, written.find('E'));
     Decimal decimal;
-    decimal.digits = written.front();
-    decimal.digits.append(written, 2, text::kSignificantDigits - 1);
-    decimal.exponent = std::stoi(written.substr(written.find('e') + 1));
+    std::ranges::remove_copy(mantissa, std::back_inserter(decimal.digits), '.');
+    decimal.exponent = static_cast<int>(std::min(mantissa.find('.'), mantissa.size())) - 1;
+    const std::size_t zeros =
+        std::min(decimal.digits.find_first_not_of('0'), decimal.digits.size() - 1);
+    decimal.digits.erase(0, zeros);
+    decimal.exponent -= static_cast<int>(zeros);
+    if (mantissa.size() < written.size())
+        decimal.exponent += std::stoi(written.substr(mantissa.size() + 1));
     return decimal;
 }
 
 /// To the digits of the pattern, halves upwards; 9.99999995 becomes 1 and the next exponent.
 void roundToPattern(Decimal& decimal) {
+    if (decimal.digits.size() <= kPatternDigits)
+        return;
     const bool up = decimal.digits[kPatternDigits] >= '5';
     decimal.digits.resize(kPatternDigits);
     if (!up)
@@ -78,20 +84,6 @@ std::optional<Text> resultLine(TextView result, Format format) {
     if (!std::isfinite(value))
         return std::nullopt;
     return format == Format::Scientific ? scientificText(value) : text::numberText(value);
-}
-
-TextView message(ErrorCode error) {
-    switch (error) {
-    case ErrorCode::None:
-        break;
-    case ErrorCode::Impossible:
-        return u"Calcul impossible";
-    case ErrorCode::Parentheses:
-        return u"Erreur saisie: revoir les parenthèses";
-    case ErrorCode::Operators:
-        return u"Erreur saisie: incompréhension sur opérateurs: ^ * / + -";
-    }
-    return {};
 }
 
 } // namespace calculator

@@ -2,6 +2,8 @@
 
 #include "calculator/expression.h"
 
+#include <optional>
+
 namespace calculator {
 
 /// How a result is shown. The numbers are the indices of the window's option buttons.
@@ -16,11 +18,5 @@ Text scientificText(double value, char16_t point = u'.');
 /// The line that shows the number which `result` starts with: in standard format with one leading
 /// space when it is not negative. Nothing when the number is beyond a double's range.
 std::optional<Text> resultLine(TextView result, Format format);
-
-/// What the display says to an error; empty for none.
-TextView message(ErrorCode error);
-
-/// What it says to a result that resultLine cannot show.
-inline constexpr TextView kOverflowMessage = u"Dépassement de capacité";
 
 } // namespace calculator

@@ -6,11 +6,9 @@
 
 namespace coursedata {
 
-/// File name of the course database, found in any letter case.
-inline const QString kCourseDatabaseName = QStringLiteral("Zekx.mdb");
-
-/// The course database in `directory`, when there is one.
+// The databases of the course in `directory`, when they are there; see findDatabase().
 std::optional<QString> findCourseDatabase(const QString& directory);
+std::optional<QString> findExerciseDatabase(const QString& directory);
 
 /// Where a course may lie.
 struct CourseCandidates {

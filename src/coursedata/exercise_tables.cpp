@@ -1,6 +1,8 @@
 #include "coursedata/exercise_tables.h"
 
-#include "platform/file_names.h"
+#include "coursedata/course_directory.h"
+#include "coursedata/databases.h"
+#include "coursedata/question_reference.h"
 #include "text/rounding.h"
 
 namespace coursedata {
@@ -33,10 +35,10 @@ std::unique_ptr<Recordset> open(const QString& path, const QString& table, Acces
 
 ExerciseTables openExerciseTables(const QString& installDirectory, Access access) {
     ExerciseTables tables;
-    const auto path = platform::findWithoutCase(installDirectory, kExerciseDatabaseName);
+    const auto path = findExerciseDatabase(installDirectory);
     if (!path) {
         tables.failures +=
-            kExerciseDatabaseName +
+            QString::fromLatin1(kExerciseFile) +
             QStringLiteral("\u00A0: absente du dossier du cours, il n’y aura pas de test");
         return tables;
     }
@@ -61,7 +63,7 @@ TestDescription describeTest(const Recordset& description, std::int16_t chapter)
 }
 
 std::int32_t questionReference(std::int16_t chapter, std::int16_t question) {
-    return chapter * 100 + question;
+    return chapter * kReferencesPerChapter + question;
 }
 
 void QuestionRecord::moveTo(std::int32_t reference) {

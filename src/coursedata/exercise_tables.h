@@ -12,9 +12,6 @@
 
 namespace coursedata {
 
-/// File name of the exercise database, found in any letter case.
-inline const QString kExerciseDatabaseName = QStringLiteral("qekx.mdb");
-
 /// The two tables of the exercise database; null for one that could not be opened.
 struct ExerciseTables {
     std::unique_ptr<Recordset> description; ///< "DESCRIPTION": one record a test

@@ -1,5 +1,6 @@
 #include "coursetool/course_questions.h"
 
+#include "coursedata/question_reference.h"
 #include "markup/draw_page.h"
 #include "page/numbers.h"
 #include "text/rounding.h"
@@ -9,12 +10,6 @@
 #include <algorithm>
 
 namespace coursetool {
-
-namespace {
-
-constexpr int kQuestionsPerChapter = 100;
-
-} // namespace
 
 std::optional<CourseQuestions> CourseQuestions::open(const std::filesystem::path& course,
                                                      Report& report) {
@@ -86,8 +81,9 @@ QString CourseQuestions::title(int position) const {
     const auto number = reference(position);
     if (!number)
         return QStringLiteral("Question");
-    const QString name = QStringLiteral("Question %1").arg(*number % kQuestionsPerChapter);
-    const auto test = testTitles_.find(*number / kQuestionsPerChapter);
+    const QString name =
+        QStringLiteral("Question %1").arg(*number % coursedata::kReferencesPerChapter);
+    const auto test = testTitles_.find(*number / coursedata::kReferencesPerChapter);
     const QString title = test == testTitles_.end() ? QString() : test->second.simplified();
     return title.isEmpty() ? name : title + QStringLiteral(" – ") + name;
 }

@@ -22,7 +22,4 @@ struct CourseRecords {
 std::optional<CourseRecords> openRecords(const std::filesystem::path& course, const char* fileName,
                                          const TableRule& table, Report& report);
 
-/// Whether the installation directory has a database of this name.
-bool hasDatabase(const std::filesystem::path& course, const char* fileName);
-
 } // namespace coursetool

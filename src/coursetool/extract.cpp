@@ -1,7 +1,9 @@
 #include "coursetool/extract.h"
 
+#include "coursedata/question_reference.h"
 #include "coursetool/dump.h"
 #include "coursetool/file_list.h"
+#include "coursetool/installed_course.h"
 #include "coursetool/paths.h"
 #include "coursetool/question_folders.h"
 #include "coursetool/source_writer.h"
@@ -21,9 +23,6 @@ namespace coursetool {
 namespace fs = std::filesystem;
 
 namespace {
-
-/// Questions of one test are numbered from 1 to 99 after its chapter: chapter 3 has 301 to 399.
-constexpr std::int32_t kReferencesPerChapter = 100;
 
 /// `number` with leading zeros, so that names of `count` files stand in the order of their numbers.
 std::string ordinal(std::size_t number, std::size_t count) {
@@ -62,34 +61,23 @@ public:
 
     void run() {
         const FileTree tree = listTree(course_, course_, report_);
-        const auto courseFile = findDatabase(tree, kCourseFile);
-        const auto exerciseFile = findDatabase(tree, kExerciseFile);
-        if (!courseFile) {
-            report_.fault({shown(course_)}, "aucun cours ici : Zekx.mdb manque");
+        const auto courseFile = findDatabase(course_, kCourseFile, report_);
+        if (!courseFile || !makeDirectory(output_ / kPagesFolder))
             return;
-        }
-        if (!makeDirectory(output_ / kPagesFolder))
-            return;
-        extractPages(course_ / *courseFile);
-        if (exerciseFile)
-            extractExercises(course_ / *exerciseFile);
-        copyFiles(tree, *courseFile, exerciseFile.value_or(fs::path()));
+        extractPages(*courseFile);
+        const auto exerciseFile = coursedata::findDatabase(course_, kExerciseFile);
+        if (exerciseFile) // a course need not have tests
+            extractExercises(*exerciseFile);
+        copyFiles(tree, courseFile->filename(),
+                  exerciseFile ? exerciseFile->filename() : fs::path());
     }
 
 private:
-    static std::optional<fs::path> findDatabase(const FileTree& tree, const char* name) {
-        NameTable names;
-        for (const fs::path& file : tree.files)
-            names.add(file);
-        return names.find(name);
-    }
-
     bool makeDirectory(const fs::path& path) {
         std::error_code error;
         fs::create_directories(path, error);
         if (error)
-            report_.failure({shown(path)},
-                            "le dossier ne peut pas être créé : " + files::causeOf(error));
+            report_.failure(path, files::kFolderNotCreated, error);
         return !error;
     }
 
@@ -176,7 +164,7 @@ private:
         const auto reference = record.values.front().integer();
         if (!reference)
             return std::nullopt;
-        const auto found = folderOfChapter_.find(*reference / kReferencesPerChapter);
+        const auto found = folderOfChapter_.find(*reference / coursedata::kReferencesPerChapter);
         return found != folderOfChapter_.end() ? std::optional(found->second) : std::nullopt;
     }
 
@@ -212,8 +200,7 @@ private:
         fs::create_directories(to.parent_path(), error);
         fs::copy_file(course_ / file, to, error);
         if (error)
-            report_.failure({shown(course_ / file)},
-                            "le fichier ne peut pas être copié : " + files::causeOf(error));
+            report_.failure(course_ / file, "le fichier ne peut pas être copié", error);
     }
 
     fs::path course_;

@@ -91,12 +91,12 @@ FieldText toText(const jet::Value& value) {
     if (!text) {
         const auto whole = value.integer();
         if (!whole)
-            return {std::nullopt, "la valeur n’est pas un texte, elle n’est pas reprise"};
+            return {std::nullopt, kNoText};
         return {tomlString(std::to_string(*whole)), {}};
     }
     FieldText result{tomlString(text::toUtf8(*text)), {}};
     if (!hasOnlyCharacters(*text))
-        result.complaint = "un code qui n’est pas un caractère est remplacé par U+FFFD";
+        result.complaint = kHasNoCharacters;
     else if (text->size() > kMaxTextLength)
         result.complaint = "le texte dépasse 255 caractères : build le refusera";
     return result;

@@ -14,6 +14,11 @@ struct FieldText {
     std::string complaint;           ///< French; empty when nothing is lost
 };
 
+// Complaints of front matters and of bodies alike.
+inline constexpr char kNoText[] = "la valeur n’est pas un texte, elle n’est pas reprise";
+inline constexpr char kHasNoCharacters[] =
+    "un code qui n’est pas un caractère est remplacé par U+FFFD";
+
 /// A front matter field. What `build` would refuse is written all the same, and told: the author,
 /// not the tool, decides what becomes of it.
 FieldText toToml(const FieldRule& rule, const jet::Value& value);

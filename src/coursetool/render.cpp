@@ -114,7 +114,7 @@ private:
     }
 
     bool addQuestions(FileNames& names, SheetFiles& files) {
-        if (!hasDatabase(request_.course, kExerciseFile))
+        if (!coursedata::findDatabase(request_.course, kExerciseFile))
             return true; // a course need not have tests
         auto questions = CourseQuestions::open(request_.course, report_);
         for (int position = 0; questions && position < questions->count(); ++position)

@@ -1,5 +1,6 @@
 #include "coursetool/report.h"
 
+#include "coursetool/paths.h"
 #include "files/cause.h"
 #include "text/utf8.h"
 
@@ -27,6 +28,10 @@ void Report::fault(const Place& place, std::string_view sentence) {
 void Report::failure(const Place& place, std::string_view sentence) {
     ++failures_;
     fault(place, sentence);
+}
+
+void Report::failure(const std::filesystem::path& path, const char* what, std::error_code cause) {
+    failure({shown(path)}, std::string(what) + " : " + files::causeOf(cause));
 }
 
 void Report::warning(const Place& place, std::string_view sentence) {

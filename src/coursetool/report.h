@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <filesystem>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -25,6 +26,8 @@ public:
     void fault(const Place& place, std::string_view sentence);
     /// What could not be written, through no fault of the course. It counts as a fault, too.
     void failure(const Place& place, std::string_view sentence);
+    /// The same with the system's cause: "le fichier ne peut pas être écrit : le disque est plein".
+    void failure(const std::filesystem::path& path, const char* what, std::error_code cause);
     void warning(const Place& place, std::string_view sentence);
     /// The failure of standard output.
     void outputFailure(std::error_code error);

@@ -1,35 +1,17 @@
 #include "coursetool/search.h"
 
 #include "coursetool/dump.h"
-#include "coursetool/file_list.h"
+#include "coursetool/installed_course.h"
 #include "coursetool/paths.h"
 #include "coursetool/tables.h"
-#include "files/within.h"
 #include "jet/database_file.h"
 #include "search/course_pages.h"
 #include "search/page_search.h"
 #include "text/utf8.h"
 
-#include <optional>
-
 namespace coursetool {
 
 namespace {
-
-namespace fs = std::filesystem;
-
-/// The course database, its name taken in any letter case.
-std::optional<fs::path> courseDatabase(const fs::path& course, Report& report) {
-    NameTable files;
-    for (const fs::directory_entry& entry : entriesOf(course, report)) {
-        if (files::isFileWithin(entry.path(), course))
-            files.add(entry.path().filename());
-    }
-    if (const auto name = files.find(kCourseFile))
-        return course / *name;
-    report.fault({shown(course)}, "aucun cours ici : Zekx.mdb manque");
-    return std::nullopt;
-}
 
 void appendLine(const search::FoundPage& page, std::string& out) {
     std::string title = text::toUtf8(page.title);
@@ -42,7 +24,7 @@ void appendLine(const search::FoundPage& page, std::string& out) {
 } // namespace
 
 void searchPages(const SearchRequest& request, OutputBuffer& out, Report& report) {
-    const auto file = courseDatabase(request.course, report);
+    const auto file = findDatabase(request.course, kCourseFile, report);
     if (!file)
         return;
     const auto database = jet::openDatabase(*file);

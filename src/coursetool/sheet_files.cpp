@@ -50,8 +50,7 @@ public:
             return true;
         const auto cause =
             file.error() ? file.error() : std::make_error_code(std::errc::not_enough_memory);
-        report_.failure({shown(path)},
-                        "le fichier ne peut pas être écrit : " + files::causeOf(cause));
+        report_.failure(path, files::kFileNotWritten, cause);
         return false;
     }
 
@@ -144,8 +143,7 @@ std::unique_ptr<SheetFiles> openSheetFiles(const RenderRequest& request,
         std::error_code error;
         fs::create_directories(request.output, error);
         if (error) {
-            report.failure({shown(request.output)},
-                           "le dossier ne peut pas être créé : " + files::causeOf(error));
+            report.failure(request.output, files::kFolderNotCreated, error);
             return nullptr;
         }
     }

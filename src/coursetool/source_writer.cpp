@@ -69,11 +69,11 @@ std::optional<std::string> SourceWriter::body(const SourceRecord& record, const 
         return std::nullopt;
     const auto* text = value.text();
     if (!text) {
-        tell(record, field, "la valeur n’est pas un texte, elle n’est pas reprise");
+        tell(record, field, kNoText);
         return std::nullopt;
     }
     if (!hasOnlyCharacters(*text))
-        tell(record, field, "un code qui n’est pas un caractère est remplacé par U+FFFD");
+        tell(record, field, kHasNoCharacters);
     bool clean = true;
     std::string source = toSourceText(text::toUtf8(*text), clean);
     if (!clean)
@@ -85,8 +85,7 @@ void SourceWriter::writeFile(const std::string& text, const std::filesystem::pat
     files::WholeFile source(file);
     source.write(text);
     if (!source.putInPlace())
-        report_.failure({shown(file)},
-                        "le fichier ne peut pas être écrit : " + files::causeOf(source.error()));
+        report_.failure(file, files::kFileNotWritten, source.error());
 }
 
 void SourceWriter::tell(const SourceRecord& record, const FieldRule& field,

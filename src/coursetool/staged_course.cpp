@@ -25,8 +25,7 @@ StagedCourse::~StagedCourse() {
 bool StagedCourse::open(Report& report) {
     std::error_code error;
     if (!makeDirectory(directory_, error)) {
-        report.failure({shown(directory_)},
-                       "le dossier ne peut pas être créé : " + files::causeOf(error));
+        report.failure(directory_, files::kFolderNotCreated, error);
         return false;
     }
     lock_.emplace(directory_);
@@ -37,8 +36,7 @@ bool StagedCourse::open(Report& report) {
     if (publication_.isPending())
         publication_.finish();
     if (!publication_.prepare()) {
-        report.failure({shown(directory_)}, "le dossier ne peut pas être écrit : " +
-                                                files::causeOf(publication_.error()));
+        report.failure(directory_, "le dossier ne peut pas être écrit", publication_.error());
         return false;
     }
     return true;
@@ -81,9 +79,8 @@ bool StagedCourse::publish(Report& report) {
         error = publication_.error();
         at = publication_.place();
     }
-    report.failure({shown(at)}, "le fichier ne peut pas être mis en place, le cours reste comme il "
-                                "était : " +
-                                    files::causeOf(error));
+    report.failure(at, "le fichier ne peut pas être mis en place, le cours reste comme il était",
+                   error);
     return false;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "coursedata/databases.h"
 #include "jet/column.h"
 
 #include <span>
@@ -11,8 +12,8 @@ namespace coursetool {
 // The tables of a course as the tool reads and writes them: names and types of their columns, in
 // the order in which they are written.
 
-inline constexpr char kCourseFile[] = "Zekx.mdb";
-inline constexpr char kExerciseFile[] = "qekx.mdb";
+using coursedata::kCourseFile;
+using coursedata::kExerciseFile;
 
 /// Folder of the disc directories, in the sources as in the course.
 inline constexpr char kDiscFolder[] = "disc";

@@ -39,12 +39,12 @@ public:
     }
     Result<void> state() const override {
         if (const std::error_code error = file_.error())
-            return fileFailure(target_, "l’écriture a échoué", error);
+            return fileFailure(target_, files::kFileNotWritten, error);
         return {};
     }
     Result<void> putInPlace() override {
         if (!file_.putInPlace())
-            return fileFailure(target_, "le fichier ne peut pas être mis en place", file_.error());
+            return fileFailure(target_, files::kFileNotPutInPlace, file_.error());
         return {};
     }
 
@@ -85,7 +85,7 @@ Result<std::shared_ptr<PageSource>> openPages(const std::filesystem::path& path)
 Result<DatabaseWriter> createDatabase(const std::filesystem::path& path) {
     auto sink = std::make_unique<FileSink>(path);
     if (const std::error_code error = sink->error())
-        return fileFailure(path, "le fichier ne peut pas être créé", error);
+        return fileFailure(path, files::kFileNotCreated, error);
     return DatabaseWriter::create(std::move(sink));
 }
 

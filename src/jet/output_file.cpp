@@ -1,5 +1,6 @@
 #include "jet/output_file.h"
 
+#include "files/cause.h"
 #include "jet/format.h"
 
 namespace jet {

@@ -1,6 +1,7 @@
 #include "markup/arguments.h"
 #include "markup/directives.h"
 #include "markup/renderer.h"
+#include "markup/tints.h"
 #include "page/twips.h"
 #include "text/rounding.h"
 
@@ -25,20 +26,12 @@ constexpr int kWhite = 255;
 /// whole page of them would be heavy.
 std::optional<QRgb> pageTint(int style) {
     switch (style) {
-    case 1:
-        return qRgb(220, 255, 230);
-    case 2:
-        return qRgb(255, 255, 220);
     case 3:
         return qRgb(255, 255, 200);
-    case 4:
-        return qRgb(220, 230, 255);
-    case 5:
-        return qRgb(255, 240, 220);
     case 6:
         return qRgb(255, 225, 225);
     default:
-        return std::nullopt;
+        return commonTint(style);
     }
 }
 

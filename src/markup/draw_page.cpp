@@ -1,6 +1,7 @@
 #include "markup/draw_page.h"
 
 #include "markup/renderer.h"
+#include "page/face_names.h"
 #include "page/twips.h"
 
 namespace markup {
@@ -23,7 +24,7 @@ constexpr qsizetype kMostCharacters = 300;
 /// Writes a title into its band, in letters as large as fit; what is too long for any is cut. Gives
 /// the words that stand there.
 QString drawTitle(page::Surface& band, const QString& title) {
-    band.setFace(QStringLiteral("Arial"));
+    band.setFace(page::kTextFace);
     band.setBold(true);
     band.setItalic(false);
     band.setUnderline(false);

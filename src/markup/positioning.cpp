@@ -1,5 +1,6 @@
 #include "markup/arguments.h"
 #include "markup/directives.h"
+#include "markup/reasons.h"
 #include "markup/renderer.h"
 #include "page/twips.h"
 #include "text/rounding.h"
@@ -7,8 +8,6 @@
 namespace markup {
 
 namespace {
-
-constexpr char16_t kPenOutside[] = u"la position sort des limites";
 
 /// A pixel count of a directive in twips. The product is a 16-bit one: nothing beyond 32767.
 std::optional<std::int16_t> pixelsToTwips(double pixels) {

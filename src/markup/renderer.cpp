@@ -2,6 +2,8 @@
 
 #include "markup/directive_table.h"
 #include "markup/qb_color.h"
+#include "markup/reasons.h"
+#include "page/face_names.h"
 #include "page/printable_text.h"
 #include "page/surface_widths.h"
 #include "page/twips.h"
@@ -84,7 +86,7 @@ bool Renderer::store(std::int16_t& target, double value) {
 }
 
 void Renderer::movePenYBy(double twips) {
-    check(surface().setPenY(surface().penY() + twips), u"la position sort des limites");
+    check(surface().setPenY(surface().penY() + twips), kPenOutside);
 }
 
 void Renderer::initecran() {
@@ -93,7 +95,7 @@ void Renderer::initecran() {
 
     page::Surface& target = surface();
     target.setFontPoints(10);
-    target.setFace(QStringLiteral("Arial"));
+    target.setFace(page::kTextFace);
     target.setBold(false);
     target.setUnderline(false);
     target.setItalic(false);
@@ -213,7 +215,7 @@ void Renderer::finish() {
     check(height.has_value(), u"la page est trop haute");
     page_.hauteurPage = height.value_or(page_.hauteurPage);
     check(surface().setHeightPx(surface().penY() / page::kTwipsPerPixel),
-          u"la surface refuse cette hauteur");
+          kHeightRefused);
     setBusy(false);
 }
 

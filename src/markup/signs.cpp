@@ -1,6 +1,8 @@
 #include "markup/arguments.h"
 #include "markup/directives.h"
+#include "markup/reasons.h"
 #include "markup/renderer.h"
+#include "page/face_names.h"
 #include "text/rounding.h"
 
 #include <algorithm>
@@ -45,7 +47,7 @@ void printShifted(Surface& surface, QStringView text, int twipsPerPoint) {
 
 void printSymbol(Surface& surface, const QString& codes) {
     const QString face = surface.font().face;
-    surface.setFace(QStringLiteral("Symbol"));
+    surface.setFace(page::kSymbolFace);
     surface.print(codes);
     surface.setFace(face);
 }
@@ -85,8 +87,7 @@ void printHat(Renderer& renderer, QStringView) {
     Surface& surface = renderer.surface();
     const double x = text::roundHalfEven(surface.penX());
     const double points = surface.font().points;
-    if (!renderer.check(surface.setFontPoints(points + kReduction),
-                        u"la taille de police est hors limites"))
+    if (!renderer.check(surface.setFontPoints(points + kReduction), kFontSizeRefused))
         return;
     const double rise = kHatRise * surface.font().points;
     surface.setPenY(surface.penY() - rise);

@@ -1,7 +1,9 @@
 #include "markup/arguments.h"
 #include "markup/directives.h"
 #include "markup/qb_color.h"
+#include "markup/reasons.h"
 #include "markup/renderer.h"
+#include "page/face_names.h"
 #include "text/rounding.h"
 
 #include <cmath>
@@ -51,15 +53,15 @@ std::optional<QRgb> pageInk(int number) {
 QString pageFace(int number) {
     switch (number) {
     case 0:
-        return QStringLiteral("Arial");
+        return page::kTextFace;
     case 1:
-        return QStringLiteral("Symbol");
+        return page::kSymbolFace;
     case 2:
-        return QStringLiteral("Times new roman");
+        return page::kBookFace;
     case 3:
-        return QStringLiteral("Wingdings");
+        return page::kWingdingsFace;
     case 4:
-        return QStringLiteral("Comic Sans MS");
+        return page::kComicFace;
     default:
         return {};
     }
@@ -69,8 +71,7 @@ QString pageFace(int number) {
 
 void fontSize(Renderer& renderer, QStringView d) {
     // Sizes are written with two digits: in "SI9" the last two characters are "I9", which is 0.
-    renderer.check(renderer.surface().setFontPoints(lastNumber(d, 2)),
-                   u"la taille de police est hors limites");
+    renderer.check(renderer.surface().setFontPoints(lastNumber(d, 2)), kFontSizeRefused);
 }
 
 void boldOn(Renderer& renderer, QStringView) {

@@ -1,13 +1,13 @@
 #include "markup/arguments.h"
 #include "markup/directives.h"
+#include "markup/reasons.h"
 #include "markup/renderer.h"
+#include "page/course_name.h"
 #include "page/twips.h"
 
 namespace markup {
 
 namespace {
-
-constexpr char16_t kHeightRefused[] = u"la surface refuse cette hauteur";
 
 /// How much a "PLOUF" adds to the surface, in pixels.
 constexpr double kGrowthPx = 1000;
@@ -65,8 +65,7 @@ void windowCaption(Renderer& renderer, QStringView d) {
     if (!renderer.onCoursePage())
         return;
     // The eighteen blanks keep the page's own words apart from the name of the course.
-    const QString caption =
-        QStringLiteral("Orvalente - KAROPE                  ") + charactersFrom(d, 7).toString();
+    const QString caption = page::kCourseName + QString(18, u' ') + charactersFrom(d, 7).toString();
     renderer.recording().add(page::CaptionOperation{caption});
     renderer.page().caption = caption;
 }

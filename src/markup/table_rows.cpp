@@ -2,6 +2,7 @@
 #include "markup/directives.h"
 #include "markup/qb_color.h"
 #include "markup/renderer.h"
+#include "markup/tints.h"
 #include "page/twips.h"
 #include "text/rounding.h"
 
@@ -99,20 +100,9 @@ void goBelowRow(Renderer& renderer) {
 }
 
 QRgb rowInk(int style) {
-    switch (style) {
-    case 1:
-        return qRgb(220, 255, 230);
-    case 2:
-        return qRgb(255, 255, 220);
-    case 4:
-        return qRgb(220, 230, 255);
-    case 5:
-        return qRgb(255, 240, 220);
-    case 6:
+    if (style == 6)
         return qRgb(255, 150, 150);
-    default:
-        return *qbColor(14);
-    }
+    return commonTint(style).value_or(*qbColor(14));
 }
 
 /// Bands of a pixel or more, contiguous, paler from top to bottom.

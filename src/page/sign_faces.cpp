@@ -1,5 +1,6 @@
 #include "page/sign_faces.h"
 
+#include "page/face_names.h"
 #include "text/windows_1252.h"
 
 #include <QFile>
@@ -66,9 +67,9 @@ constexpr char32_t kStraightPhi = U'\u03D5';
 } // namespace
 
 SignFace signFace(const QString& face) {
-    if (face.compare(u"Symbol", Qt::CaseInsensitive) == 0)
+    if (face.compare(kSymbolFace, Qt::CaseInsensitive) == 0)
         return SignFace::Symbol;
-    if (face.compare(u"Wingdings", Qt::CaseInsensitive) == 0)
+    if (face.compare(kWingdingsFace, Qt::CaseInsensitive) == 0)
         return SignFace::Wingdings;
     return SignFace::None;
 }

@@ -1,5 +1,6 @@
 #include "search/coordon.h"
 
+#include "coursedata/course_directory.h"
 #include "jet/database_file.h"
 #include "look/button.h"
 #include "look/check_box.h"
@@ -12,7 +13,6 @@
 #include "look/progress_bar.h"
 #include "look/text_field.h"
 #include "page/twips.h"
-#include "platform/file_names.h"
 
 #include <QAccessible>
 #include <QElapsedTimer>
@@ -57,7 +57,7 @@ QLabel* newLabel(const QString& caption, const QRect& place, look::Weight weight
 }
 
 std::optional<CoursePages> coursePages(const QString& installDir) {
-    const auto file = platform::findWithoutCase(installDir, QStringLiteral("Zekx.mdb"));
+    const auto file = coursedata::findCourseDatabase(installDir);
     if (!file)
         return std::nullopt;
     const auto database = jet::openDatabase(platform::standardPath(*file));

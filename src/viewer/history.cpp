@@ -6,7 +6,7 @@ namespace viewer {
 
 namespace {
 
-constexpr std::int16_t kLastSlot = 100;
+constexpr std::int16_t kLastSlot = decltype(shell::SharedState::HistoryPages)::last;
 
 } // namespace
 

@@ -9,6 +9,7 @@
 #include "look/picture_box.h"
 #include "look/program_icon.h"
 #include "look/zoom.h"
+#include "page/course_name.h"
 #include "page/surface_widths.h"
 #include "page/twips.h"
 #include "platform/file_names.h"
@@ -43,7 +44,7 @@ Multim::Multim(shell::SharedState& state, const page::FontBook& fonts,
                const platform::Screen& screen)
     : state_(state), fonts_(fonts), screen_(screen), sizeRule_(state, screen) {
     setObjectName(QStringLiteral("multim"));
-    setWindowTitle(QStringLiteral("Orvalente - KAROPE"));
+    setWindowTitle(page::kCourseName);
     resize(kWindowSize);
     setMinimumSize(kWindowSize);
     QPalette colours = palette();

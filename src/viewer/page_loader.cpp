@@ -1,5 +1,6 @@
 #include "viewer/page_loader.h"
 
+#include "page/course_name.h"
 #include "page/numbers.h"
 #include "text/rounding.h"
 #include "viewer/page_code.h"
@@ -23,7 +24,7 @@ void PageLoader::showCurrentRecord() {
     view_.hideScrollBarAndVideoFrame();
     view_.clearPictures();
     video_.close();
-    view_.setCaption(QStringLiteral("Orvalente - KAROPE"));
+    view_.setCaption(page::kCourseName);
     recordVisit();
     drawPage();
     view_.fitPage();

@@ -1,4 +1,5 @@
 #include "app/command_line.h"
+#include "app/drive_option.h"
 #include "look/scale.h"
 
 #include <gtest/gtest.h>
@@ -35,6 +36,17 @@ TEST(CommandLine, wrongCallsAreExplained) {
     }
     EXPECT_FALSE(read({"--help"}).isError);
     EXPECT_TRUE(read({"--help"}).message->contains(u"--course"));
+}
+
+TEST(DriveOption, isALetterAndADirectory) {
+    std::map<char, std::string> drives;
+    for (const char* right : {"e=/media/cours=2", "F=/été", "E=/again"})
+        EXPECT_FALSE(app::addDrive(right, drives)) << right;
+    EXPECT_EQ(drives, (std::map<char, std::string>{{'E', "/again"}, {'F', "/été"}}));
+    for (const char* wrong : {"", "E", "E=", "EE=/x", "=/x", "1=/x", "{=/x", "É=/x", "E:/x"})
+        EXPECT_EQ(app::addDrive(wrong, drives),
+                  "« " + std::string(wrong) + " » n’est pas de la forme L=DOSSIER");
+    EXPECT_EQ(drives.size(), 2u);
 }
 
 TEST(Scale, fitsTheScreen) {

@@ -2,8 +2,7 @@
 #include "calculator/evaluator.h"
 #include "calculator/normalise.h"
 #include "support/french_locale.h"
-
-#include <QString>
+#include "text/utf8.h"
 
 #include <gtest/gtest.h>
 
@@ -15,8 +14,7 @@ struct Traced {
     explicit Traced(const Text& expression, AngleMode angles = AngleMode::Degrees) {
         Hooks hooks;
         hooks.trace = [this](const char* step, TextView text) {
-            trace += std::string(step) + " [" +
-                     QString::fromStdU16String(Text(text)).toStdString() + "]\n";
+            trace += std::string(step) + " [" + text::toUtf8(text) + "]\n";
         };
         found = Evaluator(hooks).evaluer(expression, angles);
     }

@@ -1,10 +1,12 @@
 #include "calculator/key_rules.h"
-
-#include <QStringList>
+#include "text/utf8.h"
 
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <sstream>
+#include <string>
+#include <vector>
 
 namespace calculator {
 namespace {
@@ -13,7 +15,7 @@ namespace {
 /// have a key on the keyboard, by that character.
 class Keys : public testing::Test, public Face {
 protected:
-    void showText(const QString& text) override { shown << text; }
+    void showText(TextView text) override { shown.emplace_back(text); }
     void beep() override { ++beeps; }
     void breathe() override {
         if (whileBusy)
@@ -23,23 +25,25 @@ protected:
     /// The entry after the keys, "|" at its ends.
     std::string entry(const char* keys) {
         press(keys);
-        return "|" + rules.saisie().toStdString() + "|";
+        return "|" + text::toUtf8(rules.saisie()) + "|";
     }
     std::string display(const char* keys) {
         press(keys);
-        return rules.display().toStdString();
+        return text::toUtf8(rules.display());
     }
     void press(const char* keys) {
-        for (const QString& key : QString::fromUtf8(keys).split(u' ', Qt::SkipEmptyParts)) {
+        std::istringstream words(keys);
+        for (std::string word; std::getline(words, word, ' ');) {
+            const Text key = text::toUtf16(word);
             if (key.size() == 1)
                 ASSERT_TRUE(rules.type(key.front())) << keys;
-            else
+            else if (!key.empty())
                 rules.press(keyNamed(key));
         }
     }
 
     Memory memory;
-    QStringList shown;
+    std::vector<Text> shown;
     int beeps = 0;
     std::function<void()> whileBusy;
     KeyRules rules{memory, *this, u','};
@@ -158,7 +162,7 @@ TEST_F(Keys, memoryTakesWhatTheDisplayShows) {
 }
 
 TEST_F(Keys, onlyTheTableIsTyped) {
-    for (const QChar other : {u',', u'x', u' ', u'=', u'\t'})
+    for (const char16_t other : {u',', u'x', u' ', u'=', u'\t'})
         EXPECT_FALSE(rules.type(other));
     EXPECT_EQ(entry("4 ^ 2 \r"), "||");
     EXPECT_EQ(rules.display(), u" 16");
@@ -172,8 +176,9 @@ TEST_F(Keys, cancelKeepsTheExpression) {
         rules.cancel();
     };
     EXPECT_EQ(display("EXE"), "Calcul impossible");
-    EXPECT_EQ(shown.mid(shown.size() - 3),
-              QStringList({"    Patience... Calculs en cours.     ", "", "Calcul impossible"}));
+    EXPECT_EQ(
+        std::vector<Text>(shown.end() - 3, shown.end()),
+        (std::vector<Text>{u"    Patience... Calculs en cours.     ", u"", u"Calcul impossible"}));
     EXPECT_EQ(rules.saisie(), u"1 + 2 + 3 + 4");
     rules.cancel(); // nothing is under way
     EXPECT_EQ(rules.display(), u"Calcul impossible");

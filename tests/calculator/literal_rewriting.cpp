@@ -1,7 +1,7 @@
 #include "literal_rewriting.h"
 
 #include "calculator/checks.h"
-#include "calculator/functions.h"
+#include "calculator/function_table.h"
 #include "text/number_text.h"
 #include "text/numeric_reader.h"
 
@@ -127,7 +127,7 @@ struct Machine {
 
     void evaluateFunctions() {
         for (int i = 2; i < length(text) && left.nbfonctions > 0; ++i) {
-            const auto function = functionAt(text, static_cast<std::size_t>(i - 1));
+            const Function* const function = functionAt(text, static_cast<std::size_t>(i - 1));
             const char16_t first = at(text, i + 4);
             if (!function || (first != u'-' && !isDigitOrPoint(first)))
                 continue;
@@ -136,10 +136,10 @@ struct Machine {
                 if (++end > length(text))
                     throw Fault{};
             const double x = text::leadingNumber(between(text, i + 4, end + 1));
-            const auto value = std::isfinite(x) ? valueOf(*function, x, angles) : std::nullopt;
-            if (!value)
+            const double value = function->value(x, angles);
+            if (!std::isfinite(x) || !std::isfinite(value))
                 throw Fault{};
-            put(text, i, end - i, text::trimmedNumberText(*value));
+            put(text, i, end - i, text::trimmedNumberText(value));
             --left.nbfonctions;
             i = 1;
         }

@@ -9,13 +9,6 @@
 
 using Letters = std::map<QChar, QString>;
 
-TEST(DriveMapping, isALetterAndADirectory) {
-    EXPECT_EQ(platform::parseDriveMapping("e=/media/cours=2"),
-              platform::DriveMapping(u'E', "/media/cours=2"));
-    for (const char* wrong : {"", "E", "E=", "EE=/x", "=/x", "1=/x", "É=/x", "E:/x"})
-        EXPECT_FALSE(platform::parseDriveMapping(QString::fromUtf8(wrong))) << wrong;
-}
-
 TEST(Drives, volumesGetTheFreeLettersFromD) {
     EXPECT_EQ(platform::lettersFor({"/one", "/two"}, {{u'D', "/mine"}, {u'A', "/floppy"}}),
               (Letters{{u'A', "/floppy"}, {u'D', "/mine"}, {u'E', "/one"}, {u'F', "/two"}}));

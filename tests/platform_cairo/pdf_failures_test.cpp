@@ -57,8 +57,9 @@ TEST_F(PdfFailures, aFullDiscLeavesTheFormerFile) {
     const QString told = failure(QStringLiteral("pages.pdf"), 3);
     ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &former), 0);
     std::signal(SIGXFSZ, handler);
-    EXPECT_EQ(told,
-              QString("l’écriture du fichier a échoué\u00A0: le fichier deviendrait trop grand"));
+    EXPECT_EQ(
+        told,
+        QString("le fichier ne peut pas être écrit\u00A0: le fichier deviendrait trop grand"));
     EXPECT_EQ(test_support::readFile(path()), QByteArray("ancien"));
     EXPECT_EQ(QDir(directory.path()).entryList(QDir::Files | QDir::Hidden),
               QStringList{"pages.pdf"});

@@ -1,6 +1,9 @@
 #include "coursedata/course_directory.h"
+#include "coursedata/databases.h"
 #include "support/files.h"
 
+#include <QDir>
+#include <QFile>
 #include <QTemporaryDir>
 
 TEST(CourseDirectory, isTheNamedOneOrTheFirstThatHoldsACourse) {
@@ -22,4 +25,27 @@ TEST(CourseDirectory, isTheNamedOneOrTheFirstThatHoldsACourse) {
         EXPECT_EQ(coursedata::chooseCourseDirectory({row.named, row.program, row.demonstration}),
                   row.expected);
     }
+}
+
+// What stands in the place of a database and is none: a folder, a link to what is not the course's.
+TEST(CourseDirectory, hasItsDatabasesInAnyLetterCase) {
+    const QTemporaryDir course, elsewhere;
+    const auto found = [&course] {
+        const auto path = coursedata::findDatabase(course.path().toStdString(), "Zekx.mdb");
+        return path ? path->filename().string() : "none";
+    };
+    EXPECT_EQ(found(), "none");
+    test_support::writeFile(elsewhere.filePath("other.mdb"), "x");
+    QFile::link(elsewhere.filePath("other.mdb"), course.filePath("ZEKX.mdb"));
+    QDir(course.path()).mkdir("Zekx.mdb");
+    EXPECT_EQ(found(), "none");
+    for (const char* name : {"zekx.mdb", "zEKX.MDB", "ZekX.mdb"}) {
+        test_support::writeFile(course.filePath(name), "x");
+        EXPECT_EQ(found(), name); // each before the last one in the order of code points
+    }
+    QDir(course.path()).rmdir("Zekx.mdb");
+    test_support::writeFile(course.filePath("Zekx.mdb"), "x");
+    EXPECT_EQ(found(), "Zekx.mdb");
+    EXPECT_FALSE(coursedata::findDatabase({}, "Zekx.mdb"));
+    EXPECT_EQ(coursedata::findCourseDatabase(course.path() + '/'), course.filePath("Zekx.mdb"));
 }

@@ -1,5 +1,6 @@
 #include "output/paper/qt_printer.h"
 
+#include "files/cause.h"
 #include "output/paper/paper_painter.h"
 
 #include <QPrinter>
@@ -13,9 +14,13 @@ constexpr double kTwipsPerInch = 1440;
 /// What every printer can leave free, in millimetres.
 constexpr QMarginsF kMargins{10, 10, 10, 10};
 
+QString interrupted() {
+    return QStringLiteral("l’impression a été interrompue");
+}
+
 QString refusal(const QPrinter& device) {
     return device.outputFormat() == QPrinter::PdfFormat
-               ? QStringLiteral("le fichier ne peut pas être créé")
+               ? QString::fromUtf8(files::kFileNotCreated)
                : QStringLiteral("l’imprimante a refusé le document");
 }
 
@@ -102,7 +107,7 @@ bool QtPrinter::print(const page::Sheet& sheet) {
         return false;
     const bool isPrinted = pdf_ ? pdf_->print(sheet) : job_->print(sheet, paper());
     if (!isPrinted)
-        error_ = QStringLiteral("l’impression a été interrompue");
+        error_ = interrupted();
     return isPrinted;
 }
 
@@ -113,7 +118,7 @@ bool QtPrinter::end() {
     if (!isEnded && pdf_)
         error_ = pdf_->error();
     if (!isEnded && error_.isEmpty())
-        error_ = QStringLiteral("l’impression a été interrompue");
+        error_ = interrupted();
     job_.reset();
     pdf_.reset();
     return error_.isEmpty();

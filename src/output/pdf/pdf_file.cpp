@@ -35,8 +35,9 @@ cairo_status_t write(void* file, const unsigned char* bytes, unsigned int count)
                : CAIRO_STATUS_WRITE_ERROR;
 }
 
-QString failure(const QString& what, std::error_code error) {
-    return what + QStringLiteral("\u00A0: ") + QString::fromStdString(files::causeOf(error));
+QString failure(const char* what, std::error_code error) {
+    return QString::fromUtf8(what) + QStringLiteral("\u00A0: ") +
+           QString::fromStdString(files::causeOf(error));
 }
 
 QByteArray destination(int number) {
@@ -59,7 +60,7 @@ public:
         : file_(platform::standardPath(path)), document_(std::move(document)),
           player_(fonts, faces_, pictures_) {
         if (file_.error())
-            error_ = failure(QStringLiteral("le fichier ne peut pas être créé"), file_.error());
+            error_ = failure(files::kFileNotCreated, file_.error());
     }
 
     bool addSheet(const page::Sheet& sheet, double width) {
@@ -173,9 +174,7 @@ private:
         return error_.isEmpty();
     }
 
-    QString writingFailure() const {
-        return failure(QStringLiteral("l’écriture du fichier a échoué"), file_.error());
-    }
+    QString writingFailure() const { return failure(files::kFileNotWritten, file_.error()); }
 
     // Later members use earlier ones until they are gone.
     files::WholeFile file_;

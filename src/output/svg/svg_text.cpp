@@ -1,5 +1,6 @@
 #include "output/svg/svg_text.h"
 
+#include "page/face_names.h"
 #include "page/printable_text.h"
 #include "page/sign_faces.h"
 #include "page/twips.h"
@@ -91,9 +92,9 @@ QString shownText(const QString& face, const QString& text) {
 }
 
 QByteArray families(const QString& face) {
-    if (face.compare(u"Times new roman", Qt::CaseInsensitive) == 0)
+    if (face.compare(page::kBookFace, Qt::CaseInsensitive) == 0)
         return "Liberation Serif,Times New Roman,DejaVu Sans,Symbola,serif";
-    if (face.compare(u"Comic Sans MS", Qt::CaseInsensitive) == 0)
+    if (face.compare(page::kComicFace, Qt::CaseInsensitive) == 0)
         return "Comic Neue,Comic Sans MS,DejaVu Sans,Symbola,cursive";
     switch (page::signFace(face)) {
     case page::SignFace::Symbol:

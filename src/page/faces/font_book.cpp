@@ -1,5 +1,6 @@
 #include "page/faces/font_book.h"
 
+#include "page/face_names.h"
 #include "page/faces/face_file.h"
 #include "page/printable_text.h"
 #include "page/sign_faces.h"
@@ -25,23 +26,27 @@ struct DesignNumbers {
 };
 
 struct StandIn {
-    const char16_t* asked;
+    QString asked;
     QString family;
     DesignNumbers numbers;
 };
 
-const StandIn& standIn(const QString& face) {
+const std::array<StandIn, 5>& standIns() {
     static const std::array<StandIn, 5> kStandIns = {{
-        {u"Arial", QStringLiteral("Liberation Sans"), {1854, 434}},
-        {u"Times new roman", QStringLiteral("Liberation Serif"), {1825, 443}},
-        {u"Symbol", QStringLiteral("Standard Symbols PS"), {2059, 450}},
-        {u"Wingdings", QStringLiteral("Symbola"), {1841, 431}},
-        {u"Comic Sans MS", QStringLiteral("Comic Neue"), {2257, 597}},
+        {kTextFace, QStringLiteral("Liberation Sans"), {1854, 434}},
+        {kBookFace, QStringLiteral("Liberation Serif"), {1825, 443}},
+        {kSymbolFace, QStringLiteral("Standard Symbols PS"), {2059, 450}},
+        {kWingdingsFace, QStringLiteral("Symbola"), {1841, 431}},
+        {kComicFace, QStringLiteral("Comic Neue"), {2257, 597}},
     }};
-    for (const StandIn& candidate : kStandIns)
-        if (face.compare(QStringView(candidate.asked), Qt::CaseInsensitive) == 0)
+    return kStandIns;
+}
+
+const StandIn& standIn(const QString& face) {
+    for (const StandIn& candidate : standIns())
+        if (face.compare(candidate.asked, Qt::CaseInsensitive) == 0)
             return candidate;
-    return kStandIns[0];
+    return standIns().front();
 }
 
 /// Where characters that a face lacks come from, in this order.
@@ -322,12 +327,9 @@ QRawFont FontBook::deviceFont(const Font& font, int stage, double pixelSize) con
 
 QStringList FontBook::missingFamilies() {
     QStringList missing;
-    for (const char16_t* asked :
-         {u"Arial", u"Times new roman", u"Symbol", u"Wingdings", u"Comic Sans MS"}) {
-        const QString& family = standIn(QString::fromUtf16(asked)).family;
-        if (!QFontDatabase::hasFamily(family))
-            missing.append(family);
-    }
+    for (const StandIn& candidate : standIns())
+        if (!QFontDatabase::hasFamily(candidate.family))
+            missing.append(candidate.family);
     return missing;
 }
 

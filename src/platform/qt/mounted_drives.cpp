@@ -15,10 +15,6 @@ constexpr QChar kFirstVolumeLetter = u'D';
 constexpr QChar kLastLetter = u'Z';
 constexpr QChar kCourseDiscLetter = u'C';
 
-bool isLetter(QChar c) {
-    return c >= u'A' && c <= kLastLetter;
-}
-
 #if defined(Q_OS_LINUX)
 
 QStringList mountedVolumes() {
@@ -82,15 +78,6 @@ std::map<QChar, QString> withSystemDrives(std::map<QChar, QString> taken) {
 }
 
 } // namespace
-
-std::optional<DriveMapping> parseDriveMapping(const QString& option) {
-    if (option.size() < 3 || option[1] != u'=')
-        return std::nullopt;
-    const QChar letter = option[0].toUpper();
-    if (!isLetter(letter))
-        return std::nullopt;
-    return DriveMapping(letter, option.mid(2));
-}
 
 std::map<QChar, QString> lettersFor(const QStringList& volumes, std::map<QChar, QString> taken) {
     auto next = volumes.begin();

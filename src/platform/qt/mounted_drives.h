@@ -5,16 +5,7 @@
 #include <QByteArray>
 #include <QStringList>
 
-#include <optional>
-#include <utility>
-
 namespace platform {
-
-/// A letter and the directory that stands for this drive.
-using DriveMapping = std::pair<QChar, QString>;
-
-/// Reads "L=DIR" (either case of the letter). Nothing when it is not of this form.
-std::optional<DriveMapping> parseDriveMapping(const QString& option);
 
 /// Gives the mounted `volumes`, in their order, the letters from "D" that `taken` leaves free; what
 /// goes beyond "Z" gets none. The result holds `taken` as well.
