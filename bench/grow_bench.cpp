@@ -1,8 +1,9 @@
 // Source to recording for pages of 1,000, 10,000 and 100,000 lines: ten times the lines may take at
 // most thirteen times the time.
 
-#include "bench_page.h"
+#include "markup/draw_page.h"
 #include "no_pictures.h"
+#include "page/faces/font_book.h"
 #include "rich_page.h"
 
 #include <QGuiApplication>
@@ -31,14 +32,14 @@ QString sourceOf(int lines) {
     return source;
 }
 
-double medianMilliseconds(int lines) {
+double medianMilliseconds(int lines, const page::FontBook& fonts) {
     const QString source = sourceOf(lines);
     NoPictures pictures;
-    bench::Page page(pictures);
+    markup::DrawingState state;
     std::vector<double> times;
     for (int i = 0; i < 9; ++i) {
         const auto start = Clock::now();
-        page.draw(source);
+        const markup::DrawnPage page = markup::drawPage({source}, {state, pictures, fonts});
         times.push_back(std::chrono::duration<double, std::milli>(Clock::now() - start).count());
     }
     std::sort(times.begin(), times.end());
@@ -50,9 +51,10 @@ double medianMilliseconds(int lines) {
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
+    const page::FontBook fonts;
     double before = 0;
     for (const int lines : {1000, 10'000, 100'000}) {
-        const double time = medianMilliseconds(lines);
+        const double time = medianMilliseconds(lines, fonts);
         std::printf("%7d lines: %8.2f ms", lines, time);
         if (before > 0)
             std::printf(", %.1f times the line above (limit 13)", time / before);

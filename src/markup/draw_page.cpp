@@ -42,16 +42,27 @@ QString drawTitle(page::Surface& band, const QString& title) {
     return shown;
 }
 
-} // namespace
-
-void drawPage(const PageText& text, const DrawingTools& tools, DrawnPage& page) {
-    page = {};
+/// `page` is as new.
+void drawOnto(DrawnPage& page, const PageText& text, const DrawingTools& tools) {
     Renderer renderer(text, tools, page);
     // The renderer resets the pen and the letters of each surface that it comes to.
     if (text.as == DrawnAs::CoursePage)
         page.title = drawTitle(renderer.surface(page::SurfaceId::Titre), text.title.simplified());
     renderer.affichepage();
     renderer.tellEnd();
+}
+
+} // namespace
+
+void drawPage(const PageText& text, const DrawingTools& tools, DrawnPage& page) {
+    page = {};
+    drawOnto(page, text, tools);
+}
+
+DrawnPage drawPage(const PageText& text, const DrawingTools& tools) {
+    DrawnPage page;
+    drawOnto(page, text, tools);
+    return page;
 }
 
 } // namespace markup

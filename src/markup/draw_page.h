@@ -59,10 +59,6 @@ struct DrawingTools {
 void drawPage(const PageText& text, const DrawingTools& tools, DrawnPage& page);
 
 /// The same for who looks at it when it is done.
-inline DrawnPage drawPage(const PageText& text, const DrawingTools& tools) {
-    DrawnPage page;
-    drawPage(text, tools, page);
-    return page;
-}
+DrawnPage drawPage(const PageText& text, const DrawingTools& tools);
 
 } // namespace markup

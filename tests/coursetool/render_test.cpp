@@ -175,6 +175,9 @@ TEST_F(Render, aSourceIsAsTallAsInTheWindowAndWhatIsLostIsTold) {
         {"a.page", "un¶\r\ndeux\r\n \r\n", 16 + 15,
          "a.page:2: avertissement : « deux » ne se voit pas : la page s’arrête au-dessus ; finir "
          "la ligne par « ¶ »\n"},
+        // The word stands again in what draws nothing.
+        {"a.page", "un¶\r\ndeux\r\n##TITBARdeux\r\n", 16 + 15,
+         "a.page:2: avertissement : « deux » ne se voit pas"},
         {"a.page", "un¶\r\n\r\ndeux¶", 16 + 15,
          "a.page:3: avertissement : « deux¶ » ne compte pas : il manque une fin de ligne (CR LF) "
          "après\n"},

@@ -364,6 +364,25 @@ TEST_F(BadInput, LeavesTheWindowUsable) {
     }
 }
 
+TEST_F(BadInput, AQuestionThatLeavesItsAreaTouchesNoPage) {
+    auto* page = bench.control<look::PictureBox>("PictureTEXTE");
+    const auto seen = [&] {
+        page->showDrawing(); // as when the window comes to a screen of another density
+        return std::tuple(page->grab().toImage(), page->readableText(), page->pageHeightPx(),
+                          bench.window.windowTitle());
+    };
+    const auto before = seen();
+    write({{number(3), jet::Value(u"x"), number(1)}},
+          {{jet::Value(301), number(2), jet::Value(u"1"),
+            jet::Value(u"##EXOOP\r\nici¶\r\n##OBJTIT\r\nailleurs¶\r\n##OBJPRINCIPAL\r\n"
+                       u"##PLOUF\r\nailleurs¶\r\n##VIDEOa.avi\r\n##TITBARx\r\n"),
+            jet::Value()}});
+    shared.PendingExerciseChapter = 3;
+    openWindow();
+    EXPECT_EQ(area().readableText().trimmed(), u"ici"_qs);
+    EXPECT_TRUE(seen() == before);
+}
+
 TEST_F(BadInput, AMissingDatabaseShowsAnEmptyQuestion) {
     openWindow();
     EXPECT_EQ(control<QLabel>("noa").text(), u"Question 1 / 0 :");
