@@ -38,7 +38,7 @@ QStringList wordsBelow(const OffscreenPage& page) {
     page::putOnSheet(page.recording(), page.metrics(), sheet);
     const double foot = page.columnHeight();
     QStringList words;
-    for (const page::Operation& operation : sheet.operations)
+    for (const page::DrawnOperation& operation : sheet.operations)
         if (const auto* text = std::get_if<page::TextOperation>(&operation))
             if (text->surface == page::SurfaceId::PictureTexte && page::isBelow(*text, foot))
                 words.append(text->text);

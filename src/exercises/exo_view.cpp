@@ -32,19 +32,32 @@ void tellNewName(QWidget& widget, const QString& name) {
         widget.setAccessibleName(name); // this tells screen readers too
 }
 
-/// Height, in twips, down to the lowest text, line or picture on the surface. A ground is drawn for
-/// what stands on it and does not count.
-double drawnFoot(const page::Recording& recording, const page::Surface& surface) {
-    double foot = 0;
-    for (const page::Operation& operation : recording.operations())
-        if (const auto* text = std::get_if<page::TextOperation>(&operation))
-            foot = std::max(foot, text->y + surface.metrics().height(text->font));
-        else if (const auto* line = std::get_if<page::LineOperation>(&operation))
-            foot = std::max({foot, line->y1, line->y2});
-        else if (const auto* picture = std::get_if<page::PictureOperation>(&operation))
-            foot = std::max(foot, picture->y + picture->height);
-    return foot;
-}
+/// Height, in twips, down to the lowest text, line or picture. A ground is drawn for what stands on
+/// it and does not count; controls are counted as widgets.
+class DrawnFoot
+    : page::PassOver<page::FillOperation, page::LinkOperation, page::MenuOperation,
+                     page::FieldOperation, page::VideoOperation, page::SwitchOperation,
+                     page::ClearOperation, page::CaptionOperation, page::FailedOperation> {
+public:
+    explicit DrawnFoot(const page::TextMetrics& metrics) : metrics_(metrics) {}
+
+    double of(const page::Recording& recording) {
+        for (const page::Operation& operation : recording.operations())
+            std::visit(*this, operation);
+        return foot_;
+    }
+
+    using PassOver::operator();
+    void operator()(const page::TextOperation& text) { lower(text.y + metrics_.height(text.font)); }
+    void operator()(const page::LineOperation& line) { lower(std::max(line.y1, line.y2)); }
+    void operator()(const page::PictureOperation& picture) { lower(picture.y + picture.height); }
+
+private:
+    void lower(double place) { foot_ = std::max(foot_, place); }
+
+    const page::TextMetrics& metrics_;
+    double foot_ = 0;
+};
 
 } // namespace
 
@@ -152,7 +165,7 @@ void Exo::drawQuestion(const QString& source) {
 /// it: the renderer only knows where the pen ended.
 void Exo::fitQuestion() {
     page::Surface& surface = Picture2_->surface();
-    const double drawn = drawnFoot(recording_, surface) / page::kTwipsPerPixel;
+    const double drawn = DrawnFoot(surface.metrics()).of(recording_) / page::kTwipsPerPixel;
     const int foot = answers_->footPx();
     const double view = frame1_->framekx().height();
     surface.setHeightPx(std::max(

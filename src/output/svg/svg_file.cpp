@@ -129,16 +129,14 @@ public:
 
     /// `ink` and `masked` are the operation's own where mask fills multiply; `masked` may be null.
     /// What stands on no part of the surface is left out.
-    void write(const page::Operation& operation, QRgb ink, const page::Picture* masked) {
+    void write(const page::DrawnOperation& operation, QRgb ink, const page::Picture* masked) {
         ink_ = ink;
         masked_ = masked;
         std::visit(
             [this](const auto& drawn) {
-                if constexpr (requires { page::inkArea(drawn, surface_, metrics_); }) {
-                    area_ = page::inkArea(drawn, surface_, metrics_);
-                    if (!area_.isEmpty())
-                        (*this)(drawn);
-                }
+                area_ = page::inkArea(drawn, surface_, metrics_);
+                if (!area_.isEmpty())
+                    (*this)(drawn);
             },
             operation);
     }
