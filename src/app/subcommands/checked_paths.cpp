@@ -1,15 +1,10 @@
-#include "app/checked_paths.h"
-
-#include "coursetool/paths.h"
-#include "coursetool/report.h"
+#include "app/subcommands/checked_paths.h"
 
 namespace app {
 
 namespace {
 
 namespace fs = std::filesystem;
-using coursetool::inQuotes;
-using coursetool::pathFrom;
 
 /// Reads "L=DIR"; false when it is not of this form.
 bool addDrive(const std::string& option, std::map<char, fs::path>& drives) {
@@ -24,29 +19,32 @@ bool addDrive(const std::string& option, std::map<char, fs::path>& drives) {
 
 } // namespace
 
-std::optional<WrongCall> notADirectory(const std::string& path, const char* what) {
+Refusal notADirectory(const std::string& path, const char* what) {
     std::error_code error;
     if (path.empty())
-        return WrongCall{std::string("il manque ") + what};
+        return std::string("il manque ") + what;
     if (!fs::is_directory(pathFrom(path), error))
-        return WrongCall{inQuotes(path) + " n’est pas un dossier"};
+        return inQuotes(path) + " n’est pas un dossier";
     return std::nullopt;
 }
 
-std::optional<WrongCall> notAFile(const std::string& path, const char* what) {
+Refusal notACourse(const std::string& path) {
+    return notADirectory(path, "le dossier d’installation");
+}
+
+Refusal notAFile(const std::string& path, const char* what) {
     std::error_code error;
     if (path.empty())
-        return WrongCall{std::string("il manque ") + what};
+        return std::string("il manque ") + what;
     if (!fs::exists(pathFrom(path), error) || fs::is_directory(pathFrom(path), error))
-        return WrongCall{inQuotes(path) + " n’est pas un fichier"};
+        return inQuotes(path) + " n’est pas un fichier";
     return std::nullopt;
 }
 
-std::optional<WrongCall> readDrives(const std::vector<std::string>& options,
-                                    std::map<char, fs::path>& drives) {
+Refusal readDrives(const std::vector<std::string>& options, std::map<char, fs::path>& drives) {
     for (const std::string& option : options)
         if (!addDrive(option, drives))
-            return WrongCall{inQuotes(option) + " n’est pas de la forme L=DOSSIER"};
+            return inQuotes(option) + " n’est pas de la forme L=DOSSIER";
     return std::nullopt;
 }
 
