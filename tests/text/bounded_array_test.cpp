@@ -1,5 +1,4 @@
 #include "text/bounded_array.h"
-#include "text/resume_next.h"
 
 #include <gtest/gtest.h>
 
@@ -14,11 +13,4 @@ TEST(BoundedArray, onlyItsIndicesCanBeReached) {
     EXPECT_EQ(table.valueOr(3, -1), 0);
     EXPECT_EQ(table.slot(0), nullptr);
     EXPECT_EQ(table.slot(6), nullptr);
-}
-
-TEST(ResumeNext, goesOnAfterAFailedStatementOnly) {
-    EXPECT_TRUE(text::resumeNext([] {}));
-    EXPECT_FALSE(text::resumeNext([] { throw text::StatementFailure("no such picture"); }));
-    EXPECT_THROW(text::resumeNext([] { throw std::logic_error("a fault of ours"); }),
-                 std::logic_error);
 }

@@ -20,7 +20,7 @@ struct Build : Subcommand {
     }
 
     Refusal refusal() override {
-        if (const Refusal wrong = notADirectory(source, "le dossier des sources"))
+        if (Refusal wrong = notADirectory(source, "le dossier des sources"))
             return wrong;
         if (output.empty())
             return "il manque « -o DOSSIER »";

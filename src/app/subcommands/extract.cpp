@@ -19,7 +19,7 @@ struct Extract : Subcommand {
     }
 
     Refusal refusal() override {
-        if (const Refusal wrong = notACourse(course))
+        if (Refusal wrong = notACourse(course))
             return wrong;
         if (output.empty())
             return "il manque « -o DOSSIER »";

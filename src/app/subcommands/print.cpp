@@ -25,7 +25,7 @@ struct Print : Subcommand {
     }
 
     Refusal refusal() override {
-        if (const Refusal wrong = notACourse(course))
+        if (Refusal wrong = notACourse(course))
             return wrong;
         const auto number = wholeNumber(page);
         if (!number)

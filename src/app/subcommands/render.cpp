@@ -82,21 +82,21 @@ struct Render : Subcommand {
     }
 
     Refusal refusal() override {
-        if (const Refusal wrong =
+        if (Refusal wrong =
                 source.empty() ? notACourse(course) : notAFile(source, "le texte de la page"))
             return wrong;
         request.course = pathFrom(course);
         request.source = pathFrom(source);
         request.output = pathFrom(output);
-        if (const Refusal wrong = readWhat())
+        if (Refusal wrong = readWhat())
             return wrong;
         if (output.empty())
             return "il manque « -o SORTIE »";
-        if (const Refusal wrong = readFormat())
+        if (Refusal wrong = readFormat())
             return wrong;
-        if (const Refusal wrong = readScale())
+        if (Refusal wrong = readScale())
             return wrong;
-        if (const Refusal wrong = readDrives(drives, request.drives))
+        if (Refusal wrong = readDrives(drives, request.drives))
             return wrong;
         return wrongOutput();
     }

@@ -25,7 +25,7 @@ struct Search : Subcommand {
     }
 
     Refusal refusal() override {
-        if (const Refusal wrong = notACourse(course))
+        if (Refusal wrong = notACourse(course))
             return wrong;
         if (words.empty())
             return "il manque le mot à chercher";

@@ -28,14 +28,14 @@ struct Trace : Subcommand {
     Refusal refusal() override {
         request = {
             pathFrom(course), wholeNumber(page), pathFrom(source), {}, wholeNumber(question)};
-        if (const Refusal wrong = readDrives(drives, request.drives))
+        if (Refusal wrong = readDrives(drives, request.drives))
             return wrong;
         if (!source.empty()) {
             if (!course.empty() || !page.empty() || !question.empty())
                 return "« --source » va sans dossier, « --page » ni « --question »";
             return notAFile(source, "le texte de la page");
         }
-        if (const Refusal wrong = notACourse(course))
+        if (Refusal wrong = notACourse(course))
             return wrong;
         if (!page.empty() && !question.empty())
             return "« --page » ou « --question », pas les deux";
