@@ -36,13 +36,4 @@ std::optional<std::vector<Entry>> parseEntries(const QString& text) {
     return entries;
 }
 
-QStringList valuesOf(const std::vector<Entry>& entries, const QString& key) {
-    QStringList values;
-    for (const Entry& entry : entries) {
-        if (entry.key == key)
-            values.append(entry.value);
-    }
-    return values;
-}
-
 } // namespace common

@@ -25,7 +25,6 @@ public:
     }
 
     qsizetype selectionStart() const { return start_; }
-    qsizetype selectionLength() const { return length_; }
 
     /// Moves the start; the selection is empty there. Held inside the text.
     void setSelectionStart(qsizetype start) {
