@@ -41,7 +41,7 @@ std::optional<std::uint32_t> PageChanges::add() {
 
 Result<void> PageChanges::commit(PageSink& sink) {
     std::vector<std::uint32_t> written;
-    const auto done = writeAll(sink, written);
+    auto done = writeAll(sink, written);
     if (!done)
         takeBack(written, sink);
     return done;
