@@ -36,17 +36,4 @@ std::optional<std::vector<Entry>> parseEntries(const QString& text) {
     return entries;
 }
 
-QString valueOf(const std::vector<Entry>& entries, const QString& key) {
-    return valuesOf(entries, key).value(0);
-}
-
-QStringList valuesOf(const std::vector<Entry>& entries, const QString& key) {
-    QStringList values;
-    for (const Entry& entry : entries) {
-        if (entry.key == key)
-            values.append(entry.value);
-    }
-    return values;
-}
-
 } // namespace common

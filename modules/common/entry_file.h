@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
 
 #include <optional>
 #include <vector>
@@ -24,11 +23,5 @@ inline constexpr qint64 kLargestFile = 64 * 1024; ///< bytes; the longest of our
 
 std::optional<std::vector<Entry>> readEntries(const QString& path);
 std::optional<std::vector<Entry>> parseEntries(const QString& text);
-
-/// Value of the first entry with that key; empty when there is none.
-QString valueOf(const std::vector<Entry>& entries, const QString& key);
-
-/// All values of that key, in their order.
-QStringList valuesOf(const std::vector<Entry>& entries, const QString& key);
 
 } // namespace common

@@ -8,23 +8,9 @@ namespace common {
 
 FormulaLabel::FormulaLabel(const QString& formula, const QString& spoken, int pixels,
                            QWidget* parent)
-    : QWidget(parent), source_(formula), pixels_(pixels), formula_(formula, pixels), ink_(kInk) {
+    : QWidget(parent), formula_(formula, pixels) {
     setAccessibleName(spoken);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-}
-
-void FormulaLabel::setFormula(const QString& formula) {
-    if (formula == source_)
-        return;
-    source_ = formula;
-    formula_ = Formula(formula, pixels_);
-    updateGeometry();
-    update();
-}
-
-void FormulaLabel::setInk(QRgb ink) {
-    ink_ = ink;
-    update();
 }
 
 QSize FormulaLabel::sizeHint() const {
@@ -33,7 +19,7 @@ QSize FormulaLabel::sizeHint() const {
 
 void FormulaLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setPen(QColor::fromRgb(ink_));
+    painter.setPen(QColor::fromRgb(kInk));
     const double height = formula_.ascent() + formula_.descent();
     formula_.paint(painter, {0, (this->height() - height) / 2 + formula_.ascent()});
 }

@@ -13,9 +13,6 @@ public:
     FormulaLabel(const QString& formula, const QString& spoken, int pixels,
                  QWidget* parent = nullptr);
 
-    void setFormula(const QString& formula);
-    void setInk(QRgb ink);
-
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
@@ -23,10 +20,7 @@ protected:
     void paintEvent(QPaintEvent*) override;
 
 private:
-    QString source_;
-    int pixels_;
     Formula formula_;
-    QRgb ink_;
 };
 
 } // namespace common

@@ -24,7 +24,6 @@ inline constexpr QRgb kPressedTint = 0xffd3e3f6;
 inline constexpr QRgb kGreen = 0xff1c7540; ///< right, always with a sign or a word (5.7)
 inline constexpr QRgb kGreenTint = 0xffe4f3e8;
 inline constexpr QRgb kRed = 0xffb3261e; ///< wrong, always with a sign or a word (6.5)
-inline constexpr QRgb kRedTint = 0xfffbe9e7;
 
 inline constexpr int kSmallPx = 11; ///< nothing is smaller
 inline constexpr int kTextPx = 13;

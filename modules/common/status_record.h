@@ -17,7 +17,6 @@ namespace common {
 /// written is left as it is, and a record that is missing or makes no sense is the empty text.
 class StatusRecord {
 public:
-    static constexpr int kModules = 30;        ///< records 1 to 30: one a module
     static constexpr int kExerciseRecord = 31; ///< what the module that starts is to open
     static constexpr int kEditionRecord = 32;
     static constexpr int kRecordLength = 128; ///< bytes

@@ -54,10 +54,6 @@ QString metres(double value, double perPixel) {
 
 } // namespace
 
-QRgb TrajectoryPlot::inkOf(std::size_t kept) {
-    return kStrokes.at(kept % kStrokes.size()).ink;
-}
-
 TrajectoryPlot::TrajectoryPlot(Experiment& experiment, QWidget* parent)
     : QWidget(parent), experiment_(experiment) {
     setMouseTracking(true);

@@ -26,9 +26,6 @@ public:
     void setShown(const Shown& shown);
     QSize minimumSizeHint() const override { return {320, 160}; }
 
-    /// The ink of a kept flight.
-    static QRgb inkOf(std::size_t kept);
-
 protected:
     void paintEvent(QPaintEvent*) override;
     void resizeEvent(QResizeEvent*) override;

@@ -1,56 +1,12 @@
 #pragma once
 
-#include "calculator/calc_command.h"
-#include "coursetool/drawing_request.h"
-#include "coursetool/exit_code.h"
-#include "coursetool/print_request.h"
-#include "coursetool/search.h"
-#include "exercises/answer_command.h"
-
-#include <filesystem>
-#include <string>
-#include <variant>
+#include "app/subcommands/tool_run.h"
 
 namespace app {
 
-// What `orvalente-cours` was asked to do.
-
-struct BuildCall {
-    std::filesystem::path source;
-    std::filesystem::path output;
-};
-struct ExtractCall {
-    std::filesystem::path course;
-    std::filesystem::path output;
-};
-struct DumpCall {
-    std::filesystem::path file;
-    std::string table; ///< empty: the tables and their columns
-};
-using TraceCall = coursetool::TraceRequest;
-using RenderCall = coursetool::RenderRequest;
-using CalcCall = calculator::CalcOptions;
-using PrintCall = coursetool::PrintRequest;
-using SearchCall = coursetool::SearchRequest;
-using AnswerCall = exercises::AnswerOptions;
-struct SymbolsCall {
-    std::filesystem::path course; ///< empty: the symbols of the program alone
-};
-/// Help or version, for standard output.
-struct ShowText {
-    std::string text;
-};
-/// The call makes no sense; the sentence says why.
-struct WrongCall {
-    std::string sentence;
-    int status = static_cast<int>(coursetool::ExitCode::WrongCall);
-};
-
-using CoursCall = std::variant<BuildCall, ExtractCall, DumpCall, TraceCall, RenderCall, SymbolsCall,
-                               PrintCall, SearchCall, CalcCall, AnswerCall, ShowText, WrongCall>;
-
-/// Reads the command line. Directories and files that must be there are; an output directory of
-/// `extract` is empty or not there yet.
-CoursCall readCoursCommandLine(int argc, char** argv);
+/// Reads the command line of `orvalente-cours` and does what it asks for; gives the exit status.
+/// What is wrong with the call is told on standard error, faults of the course are left in the
+/// report.
+int runCoursCommandLine(ToolRun& run);
 
 } // namespace app

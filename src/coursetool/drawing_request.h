@@ -1,6 +1,7 @@
 #pragma once
 
 #include "coursetool/output_buffer.h"
+#include "coursetool/render_formats.h"
 #include "coursetool/report.h"
 
 #include <filesystem>
@@ -22,8 +23,6 @@ struct TraceRequest {
     std::optional<int> question = {};
 };
 
-enum class RenderFormat { Png, Pdf, Svg };
-
 /// Bounds of RenderRequest::scale: below, no letter has a pixel left; above, a page as wide as the
 /// window would be wider than what most programs open.
 inline constexpr double kMinScale = 0.1;
@@ -44,6 +43,14 @@ struct RenderRequest {
     bool all() const { return !page && !question && source.empty(); }
 };
 
+/// What is to be printed: the sheets that the print button gives on a page of a course.
+struct PrintRequest {
+    std::filesystem::path course;
+    int page = 0;
+    std::filesystem::path output; ///< a PDF file
+    Drives drives;
+};
+
 // What draws is a module of its own, which brings Qt along; it is loaded when it is needed, so that
 // the rest of the tool starts without waiting for it. One of its functions may be called, once.
 
@@ -54,5 +61,8 @@ inline constexpr char kTraceSymbol[] = "orvalenteTrace";
 using RenderFunction = void (*)(int& argc, char** argv, const RenderRequest& request,
                                 Report& report);
 inline constexpr char kRenderSymbol[] = "orvalenteRender";
+
+using PrintFunction = void (*)(int& argc, char** argv, const PrintRequest& request, Report& report);
+inline constexpr char kPrintSymbol[] = "orvalentePrint";
 
 } // namespace coursetool

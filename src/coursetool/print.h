@@ -1,6 +1,6 @@
 #pragma once
 
-#include "coursetool/print_request.h"
+#include "coursetool/drawing_request.h"
 #include "markup/picture_shelf.h"
 #include "page/faces/font_book.h"
 

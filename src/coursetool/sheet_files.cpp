@@ -38,12 +38,12 @@ private:
 /// One file a sheet.
 class SeparateFiles : public SheetFiles {
 public:
-    SeparateFiles(const RenderRequest& request, const char* ending, Report& report)
-        : request_(request), ending_(ending), report_(report) {}
+    SeparateFiles(const RenderRequest& request, Report& report)
+        : request_(request), report_(report) {}
 
     bool add(const page::Sheet& sheet, const QString& name) final {
         const fs::path path = request_.all()
-                                  ? request_.output / pathFrom((name + ending_).toStdString())
+                                  ? request_.output / pathFrom(fileName(name).toStdString())
                                   : request_.output;
         files::WholeFile file(path);
         if (!file.error() && write(sheet, file) && file.putInPlace())
@@ -57,8 +57,13 @@ public:
 protected:
     virtual bool write(const page::Sheet& sheet, files::WholeFile& file) = 0;
 
+    QString fileName(const QString& name) const {
+        const std::string_view ending = rowOf(request_.format).name;
+        return name + u'.' +
+               QLatin1StringView(ending.data(), static_cast<qsizetype>(ending.size()));
+    }
+
     const RenderRequest& request_;
-    const QLatin1String ending_;
 
 private:
     Report& report_;
@@ -67,7 +72,7 @@ private:
 class PngFiles : public SeparateFiles {
 public:
     PngFiles(const RenderRequest& request, const page::FontBook& fonts, Report& report)
-        : SeparateFiles(request, ".png", report), raster_(fonts, request.scale) {}
+        : SeparateFiles(request, report), raster_(fonts, request.scale) {}
 
 private:
     bool write(const page::Sheet& sheet, files::WholeFile& file) override {
@@ -88,13 +93,13 @@ class SvgFiles : public SeparateFiles {
 public:
     SvgFiles(const RenderRequest& request, const page::FontBook& fonts, SheetSet set,
              Report& report)
-        : SeparateFiles(request, ".svg", report), fonts_(fonts), set_(std::move(set)) {}
+        : SeparateFiles(request, report), fonts_(fonts), set_(std::move(set)) {}
 
 private:
     bool write(const page::Sheet& sheet, files::WholeFile& file) override {
         const auto address = [this](const QString& tag) {
             const QString name = set_.fileOfTag(tag);
-            return name.isEmpty() ? name : name + ending_;
+            return name.isEmpty() ? name : fileName(name);
         };
         const QByteArray document = output::svgDocument(sheet, fonts_, address, request_.scale);
         return file.write(
@@ -136,10 +141,7 @@ private:
 std::unique_ptr<SheetFiles> openSheetFiles(const RenderRequest& request,
                                            const page::FontBook& fonts, SheetSet set,
                                            Report& report) {
-    if (request.format == RenderFormat::Pdf)
-        return std::make_unique<PdfSheets>(
-            request, fonts, output::PdfDocument{set.title, {}, std::move(set.numberOfTag)}, report);
-    if (request.all()) {
+    if (request.all() && !rowOf(request.format).holdsAll) {
         std::error_code error;
         fs::create_directories(request.output, error);
         if (error) {
@@ -147,9 +149,16 @@ std::unique_ptr<SheetFiles> openSheetFiles(const RenderRequest& request,
             return nullptr;
         }
     }
-    if (request.format == RenderFormat::Svg)
+    switch (request.format) {
+    case RenderFormat::Png:
+        return std::make_unique<PngFiles>(request, fonts, report);
+    case RenderFormat::Pdf:
+        return std::make_unique<PdfSheets>(
+            request, fonts, output::PdfDocument{set.title, {}, std::move(set.numberOfTag)}, report);
+    case RenderFormat::Svg:
         return std::make_unique<SvgFiles>(request, fonts, std::move(set), report);
-    return std::make_unique<PngFiles>(request, fonts, report);
+    }
+    return nullptr;
 }
 
 } // namespace coursetool

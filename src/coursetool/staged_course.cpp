@@ -62,7 +62,7 @@ bool StagedCourse::makeInside(const fs::path& relative, std::error_code& error) 
 }
 
 fs::path StagedCourse::pathFor(const fs::path& relative) const {
-    const fs::path path = publication_.newFile(relative);
+    fs::path path = publication_.newFile(relative);
     std::error_code ignored; // whoever writes the file meets the failure
     fs::create_directories(path.parent_path(), ignored);
     return path;

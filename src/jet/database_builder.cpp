@@ -62,9 +62,9 @@ Result<TableBuilder*> DatabaseBuilder::addTable(std::u16string_view name,
 }
 
 Result<void> DatabaseBuilder::finish() {
-    if (const auto open = file_->state(); !open)
+    if (auto open = file_->state(); !open)
         return open;
-    if (const auto listed = listTables(); !listed)
+    if (auto listed = listTables(); !listed)
         return listed;
     writePages();
     return file_->putInPlace();
@@ -83,7 +83,7 @@ Result<void> DatabaseBuilder::listTables() {
         allRights.insert(allRights.end(), added.begin(), added.end());
     }
     for (const CatalogObject& object : all)
-        if (const auto added = addObject(objects, object); !added)
+        if (auto added = addObject(objects, object); !added)
             return added;
     return addRights(rights, allRights);
 }

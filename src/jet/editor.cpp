@@ -133,7 +133,7 @@ public:
             return table_.failure(place.error());
         changes_.emplace(*table_.source);
         row_.emplace(*changes_, table_.definition, table_.tail);
-        if (const auto planned = row_->plan(*place, std::move(*encoded)); !planned)
+        if (auto planned = row_->plan(*place, std::move(*encoded)); !planned)
             return table_.failure(
                 {planned.error().kind,
                  "enregistrement " + std::to_string(position) + " : " + planned.error().sentence});
@@ -199,17 +199,17 @@ Result<void> DatabaseEditor::change(std::u16string_view tableName, std::size_t p
     {
         // What is refused leaves the file as it is, so nothing is written before a plan stands.
         PlannedChange rehearsed;
-        if (const auto planned = rehearsed.plan(path_, tableName, position, cells); !planned)
+        if (auto planned = rehearsed.plan(path_, tableName, position, cells); !planned)
             return planned;
         // Left to the end, this would never be done where changes are cut short again and again,
         // and the file would grow with each.
-        if (const auto cleared = rehearsed.clearUp(*sink_); !cleared)
+        if (auto cleared = rehearsed.clearUp(*sink_); !cleared)
             return cleared;
     }
     PlannedChange change;
-    if (const auto planned = change.plan(path_, tableName, position, cells); !planned)
+    if (auto planned = change.plan(path_, tableName, position, cells); !planned)
         return planned;
-    if (const auto written = change.commit(*sink_); !written)
+    if (auto written = change.commit(*sink_); !written)
         return written;
     // The change stands; room that cannot be given back is lost, nothing else.
     change.tidy(path_, *sink_);

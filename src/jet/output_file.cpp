@@ -38,7 +38,7 @@ Result<void> OutputFile::state() const {
 
 Result<void> OutputFile::putInPlace() {
     writeWaiting();
-    if (const auto fine = state(); !fine)
+    if (auto fine = state(); !fine)
         return fine;
     closed_ = true;
     return sink_->putInPlace();

@@ -41,7 +41,7 @@ std::optional<std::uint32_t> PageChanges::add() {
 
 Result<void> PageChanges::commit(PageSink& sink) {
     std::vector<std::uint32_t> written;
-    const auto done = writeAll(sink, written);
+    auto done = writeAll(sink, written);
     if (!done)
         takeBack(written, sink);
     return done;
@@ -58,10 +58,10 @@ Result<void> PageChanges::writeAll(PageSink& sink, std::vector<std::uint32_t>& w
     int rank = byRank.begin()->first;
     for (const auto& [nextRank, number] : byRank) {
         if (std::exchange(rank, nextRank) != nextRank)
-            if (const auto flushed = sink.sync(); !flushed)
+            if (auto flushed = sink.sync(); !flushed)
                 return flushed;
         written.push_back(number); // even when it fails: half of it may be there
-        if (const auto done = write(number, changes_.at(number).image, sink); !done)
+        if (auto done = write(number, changes_.at(number).image, sink); !done)
             return done;
     }
     return sink.sync();

@@ -65,13 +65,13 @@ Result<void> RowChange::plan(RowPointer place, std::vector<ChangedCell> cells) {
     const auto form = chooseForm(*site);
     if (!form)
         return Failure{Failure::Kind::Refused, "l’enregistrement ne tient pas dans une page"};
-    if (const auto stored = store(form->longestInline); !stored)
+    if (auto stored = store(form->longestInline); !stored)
         return stored;
     const RowBytes bytes = assemble(form->longestInline);
     if (!isAsAsked(*row, bytes, form->longestInline))
         return damaged("la définition mêle les colonnes de l’enregistrement");
     noteLeftValues(*row);
-    if (const auto put = form->staysOnPage ? replace(*site, bytes) : moveOut(*site, bytes); !put)
+    if (auto put = form->staysOnPage ? replace(*site, bytes) : moveOut(*site, bytes); !put)
         return put;
     return markTaken();
 }
@@ -135,7 +135,7 @@ Result<void> RowChange::store(std::size_t longestInline) {
         if (!stored)
             return stored.error();
         outside_[i] = std::move(*stored);
-        if (const auto added = addToMap(maps->second.owned, pages); !added)
+        if (auto added = addToMap(maps->second.owned, pages); !added)
             return added;
     }
     return {};
@@ -161,7 +161,7 @@ Result<void> RowChange::moveOut(const PointedRow& site, Bytes row) {
         return Failure{Failure::Kind::Refused, "l’enregistrement ne tient pas dans une page"};
     changes_->put(*number, fresh.image(), kNewPages);
     for (const RowPointer map : {definition_->ownedPages, definition_->pagesWithRoom})
-        if (const auto added = addToMap(map, {&*number, 1}); !added)
+        if (auto added = addToMap(map, {&*number, 1}); !added)
             return added;
 
     ByteWriter pointer;
@@ -179,7 +179,7 @@ Result<void> RowChange::addToMap(RowPointer map, std::span<const std::uint32_t> 
     if (!editor)
         return editor.error();
     for (const std::uint32_t page : pages)
-        if (const auto inserted = editor->insert(page); !inserted)
+        if (auto inserted = editor->insert(page); !inserted)
             return inserted;
     return {};
 }
@@ -193,7 +193,7 @@ Result<void> RowChange::markTaken() {
     if (!free)
         return free.error();
     for (std::size_t i = 0; i < taker_.taken().size(); ++i)
-        if (const auto removed = free->remove(taker_.taken()[i]); !removed)
+        if (auto removed = free->remove(taker_.taken()[i]); !removed)
             return removed;
     return {};
 }

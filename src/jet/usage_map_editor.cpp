@@ -81,7 +81,7 @@ Result<void> UsageMapEditor::set(std::uint32_t page, bool bit) {
             setBit(map.subspan(kMapBitsAt), page - Bytes(map).u32(kMapFirstPageAt), bit);
             return {};
         }
-        if (const auto converted = convert(); !converted)
+        if (auto converted = convert(); !converted)
             return converted;
     }
     return setByReference(page, bit);
@@ -111,7 +111,7 @@ Result<void> UsageMapEditor::convert() {
             if (const auto bitmap = bitmapFor(page); !bitmap)
                 return bitmap.error();
     for (const std::uint32_t page : marked)
-        if (const auto done = setByReference(page, true); !done)
+        if (auto done = setByReference(page, true); !done)
             return done;
     return {};
 }

@@ -41,13 +41,6 @@ void PageSet::insert(std::uint32_t page) {
     bits_[page / 8] = static_cast<std::uint8_t>(bits_[page / 8] | 1 << (page % 8));
 }
 
-void PageSet::remove(std::uint32_t page) {
-    if (page / 8 < bits_.size())
-        bits_[page / 8] = static_cast<std::uint8_t>(bits_[page / 8] & ~(1 << (page % 8)));
-    while (!bits_.empty() && bits_.back() == 0)
-        bits_.pop_back();
-}
-
 std::vector<std::uint8_t> usageMapRow(const PageSet& pages, OutputFile& file) {
     std::vector<std::uint8_t> row(kMapRowBytes);
     const Bytes bits(pages.bits());

@@ -12,7 +12,6 @@ namespace jet {
 class PageSet {
 public:
     void insert(std::uint32_t page);
-    void remove(std::uint32_t page);
     const std::vector<std::uint8_t>& bits() const { return bits_; }
 
 private:

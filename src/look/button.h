@@ -30,7 +30,6 @@ public:
     Button(const QString& caption, const Look& look, QWidget* parent);
 
     void setIconName(const QString& name);
-    const QString& iconName() const { return icon_.name(); }
 
     /// A key that, with Alt, presses the button whatever its caption says later.
     void setLastingMnemonic(QChar key);

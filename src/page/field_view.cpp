@@ -49,7 +49,7 @@ LinkOperation asLink(const FieldOperation& label) {
     return link;
 }
 
-void drawTextBox(const FieldOperation& field, std::vector<Operation>& operations) {
+void drawTextBox(const FieldOperation& field, std::vector<DrawnOperation>& operations) {
     FillOperation box{field.surface,  field.x,        field.y,       field.width,
                       kTextBoxHeight, kTextBoxGround, FillMode::Copy};
     operations.emplace_back(box);
@@ -74,7 +74,7 @@ std::vector<const FieldOperation*> standingFields(const Recording& recording) {
 }
 
 void drawField(const FieldOperation& field, const FieldPictures& pictures,
-               const TextMetrics& metrics, std::vector<Operation>& operations) {
+               const TextMetrics& metrics, std::vector<DrawnOperation>& operations) {
     if (field.control == FieldControl::Text1) {
         drawTextBox(field, operations);
     } else if (field.control == FieldControl::Labelien) {
@@ -97,7 +97,7 @@ void drawField(const FieldOperation& field, const FieldPictures& pictures,
     }
 }
 
-void drawFrame(const FillOperation& area, std::vector<Operation>& operations) {
+void drawFrame(const FillOperation& area, std::vector<DrawnOperation>& operations) {
     const double right = area.x + area.width - kTwipsPerPixel;
     const double foot = area.y + area.height - kTwipsPerPixel;
     const auto edge = [&](double x1, double y1, double x2, double y2) {

@@ -25,10 +25,10 @@ std::vector<const FieldOperation*> standingFields(const Recording& recording);
 
 /// Appends the texts, lines, fills and pictures that show a control.
 void drawField(const FieldOperation& field, const FieldPictures& pictures,
-               const TextMetrics& metrics, std::vector<Operation>& operations);
+               const TextMetrics& metrics, std::vector<DrawnOperation>& operations);
 
 /// Appends a frame of lines of one pixel, all inside the area.
-void drawFrame(const FillOperation& area, std::vector<Operation>& operations);
+void drawFrame(const FillOperation& area, std::vector<DrawnOperation>& operations);
 
 /// Height of a control as drawField() shows it, in twips.
 double fieldHeight(const FieldOperation& field, const FieldPictures& pictures,

@@ -109,7 +109,7 @@ bool isPlaced(const QRectF& area) {
 } // namespace
 
 std::map<std::size_t, std::shared_ptr<const Picture>>
-maskedPictures(const std::vector<Operation>& operations, InkUnderMask join) {
+maskedPictures(const std::vector<DrawnOperation>& operations, InkUnderMask join) {
     std::map<std::size_t, std::shared_ptr<const Picture>> masked;
     std::vector<const FillOperation*> later;
     for (std::size_t i = operations.size(); i-- > 0;) {

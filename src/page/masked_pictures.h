@@ -18,6 +18,6 @@ using InkUnderMask = QRgb (*)(QRgb ink, QRgb cover);
 /// the screen shows where those are more, so that fills end where they do there. What shines
 /// through a picture is left to the device.
 std::map<std::size_t, std::shared_ptr<const Picture>>
-maskedPictures(const std::vector<Operation>& operations, InkUnderMask join);
+maskedPictures(const std::vector<DrawnOperation>& operations, InkUnderMask join);
 
 } // namespace page

@@ -39,10 +39,7 @@ struct InkOf {
     std::optional<Inked> operator()(const FillOperation& fill) const {
         return Inked{fill.surface, {fill.x, fill.y, fill.width, fill.height}, fill.ink};
     }
-    template <class Other>
-    std::optional<Inked> operator()(const Other&) const {
-        return std::nullopt;
-    }
+    std::optional<Inked> operator()(const PictureOperation&) const { return std::nullopt; }
 };
 
 /// Edges fall on whole pixels.
@@ -62,8 +59,8 @@ int quotient(int channel, int cover) {
 }
 
 /// The inks, each joined by `join` with the AND of the mask fills that cover it.
-std::vector<QRgb> joinedInks(const std::vector<Operation>& operations, const TextMetrics& metrics,
-                             QRgb (*join)(QRgb ink, QRgb cover)) {
+std::vector<QRgb> joinedInks(const std::vector<DrawnOperation>& operations,
+                             const TextMetrics& metrics, QRgb (*join)(QRgb ink, QRgb cover)) {
     std::vector<QRgb> inks(operations.size(), 0xff000000);
     std::deque<Inked> later;
     for (std::size_t i = operations.size(); i-- > 0;) {
@@ -96,12 +93,13 @@ QRgb maskedInk(QRgb ink, QRgb cover) {
     return (ink & cover) | 0xff000000;
 }
 
-std::vector<QRgb> multiplyInks(const std::vector<Operation>& operations,
+std::vector<QRgb> multiplyInks(const std::vector<DrawnOperation>& operations,
                                const TextMetrics& metrics) {
     return joinedInks(operations, metrics, multipliedInk);
 }
 
-std::vector<QRgb> maskedInks(const std::vector<Operation>& operations, const TextMetrics& metrics) {
+std::vector<QRgb> maskedInks(const std::vector<DrawnOperation>& operations,
+                             const TextMetrics& metrics) {
     return joinedInks(operations, metrics, maskedInk);
 }
 

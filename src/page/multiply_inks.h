@@ -21,11 +21,12 @@ QRgb maskedInk(QRgb ink, QRgb cover);
 /// part is multiplied as it is; for pictures, see masked_pictures.h.
 ///
 /// One ink for each operation, in their order; black for those that have none.
-std::vector<QRgb> multiplyInks(const std::vector<Operation>& operations,
+std::vector<QRgb> multiplyInks(const std::vector<DrawnOperation>& operations,
                                const TextMetrics& metrics);
 
 /// Inks for devices that show mask fills before all else, as paper: what lies under mask fills as a
 /// whole gets its maskedInk(). As above for the rest.
-std::vector<QRgb> maskedInks(const std::vector<Operation>& operations, const TextMetrics& metrics);
+std::vector<QRgb> maskedInks(const std::vector<DrawnOperation>& operations,
+                             const TextMetrics& metrics);
 
 } // namespace page

@@ -133,6 +133,21 @@ using Operation = std::variant<TextOperation, LineOperation, FillOperation, Pict
                                LinkOperation, MenuOperation, FieldOperation, VideoOperation,
                                SwitchOperation, ClearOperation, CaptionOperation, FailedOperation>;
 
+/// What leaves ink. Files and paper show nothing else: links and answer controls have become their
+/// captions and pictures there.
+using DrawnOperation = std::variant<TextOperation, LineOperation, FillOperation, PictureOperation>;
+
+/// Base of a visitor that has nothing to do for these kinds. Visitors name every kind, so that a
+/// new one does not compile until each of them has been asked what becomes of it.
+template <class... Kinds>
+struct PassOver : PassOver<Kinds>... {
+    using PassOver<Kinds>::operator()...;
+};
+template <class Kind>
+struct PassOver<Kind> {
+    void operator()(const Kind&) const {}
+};
+
 /// The drawing of a page as a list of positioned operations. It is made once and played on screen,
 /// paper and files, so that all show the same.
 class Recording {

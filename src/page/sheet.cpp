@@ -9,32 +9,27 @@ namespace page {
 
 namespace {
 
-/// Keeps what is drawn and drops what was wiped since.
-struct Collect {
-    std::vector<Operation>& kept;
+/// Keeps what is drawn and drops what was wiped since. Links and fields are put on top at the end.
+struct Collect : PassOver<LinkOperation, MenuOperation, FieldOperation, VideoOperation,
+                          SwitchOperation, CaptionOperation, FailedOperation> {
+    std::vector<DrawnOperation>& kept;
 
+    explicit Collect(std::vector<DrawnOperation>& operations) : kept(operations) {}
+
+    using PassOver::operator();
     void operator()(const TextOperation& text) const { kept.emplace_back(text); }
     void operator()(const LineOperation& line) const { kept.emplace_back(line); }
     void operator()(const FillOperation& fill) const { kept.emplace_back(fill); }
     void operator()(const PictureOperation& picture) const { kept.emplace_back(picture); }
     void operator()(const ClearOperation& clear) const {
-        std::erase_if(kept, [&](const Operation& operation) {
-            return std::visit(
-                [&](const auto& drawn) {
-                    if constexpr (requires { drawn.surface; })
-                        return drawn.surface == clear.surface;
-                    else
-                        return false;
-                },
-                operation);
+        std::erase_if(kept, [&](const DrawnOperation& operation) {
+            return surfaceOf(operation) == clear.surface;
         });
     }
-    template <class Other>
-    void operator()(const Other&) const {}
 };
 
 /// A picture link, or the empty frame of one whose symbol is missing.
-void drawPictureLink(const LinkOperation& link, std::vector<Operation>& operations) {
+void drawPictureLink(const LinkOperation& link, std::vector<DrawnOperation>& operations) {
     if (link.picture) {
         operations.emplace_back(PictureOperation{link.surface, link.x, link.y, link.width,
                                                  link.height, link.picture, link.key, true});
@@ -87,15 +82,32 @@ struct Foot {
     double operator()(const PictureOperation& picture) const {
         return on(picture, picture.y + picture.height);
     }
-    template <class Other>
-    double operator()(const Other&) const {
-        return 0;
-    }
 
 private:
     template <class Drawn>
     double on(const Drawn& operation, double foot) const {
         return operation.surface == surface ? foot : 0;
+    }
+};
+
+struct Move {
+    double right, down;
+
+    void operator()(TextOperation& text) const { moveCorner(text); }
+    void operator()(LineOperation& line) const {
+        line.x1 += right;
+        line.x2 += right;
+        line.y1 += down;
+        line.y2 += down;
+    }
+    void operator()(FillOperation& fill) const { moveCorner(fill); }
+    void operator()(PictureOperation& picture) const { moveCorner(picture); }
+
+private:
+    template <class Drawn>
+    void moveCorner(Drawn& drawn) const {
+        drawn.x += right;
+        drawn.y += down;
     }
 };
 
@@ -109,21 +121,19 @@ void putOnSheet(const Recording& recording, const TextMetrics& metrics, Sheet& s
     putFields(recording, metrics, fields, sheet);
 }
 
-SurfaceId surfaceOf(const Operation& operation) {
-    return std::visit(
-        [](const auto& drawn) {
-            if constexpr (requires { drawn.surface; })
-                return drawn.surface;
-            else
-                return SurfaceId::Printer; // not on sheets
-        },
-        operation);
+SurfaceId surfaceOf(const DrawnOperation& operation) {
+    return std::visit([](const auto& drawn) { return drawn.surface; }, operation);
 }
 
-double drawnHeight(const std::vector<Operation>& operations, SurfaceId surface,
+DrawnOperation moved(DrawnOperation operation, double right, double down) {
+    std::visit(Move{right, down}, operation);
+    return operation;
+}
+
+double drawnHeight(const std::vector<DrawnOperation>& operations, SurfaceId surface,
                    const TextMetrics& metrics) {
     double lowest = 0;
-    for (const Operation& operation : operations)
+    for (const DrawnOperation& operation : operations)
         lowest = std::max(lowest, std::visit(Foot{surface, metrics}, operation));
     return lowest;
 }

@@ -32,8 +32,7 @@ struct Sheet {
     QString title;        ///< the page's title
     int number = 0;       ///< its fixed number, 0 when it has none
     std::vector<PlacedSurface> surfaces;
-    /// Only texts, lines, fills and pictures, in drawing order.
-    std::vector<Operation> operations;
+    std::vector<DrawnOperation> operations; ///< in drawing order
     std::vector<LinkArea> links;
 };
 
@@ -44,10 +43,13 @@ void putOnSheet(const Recording& recording, const TextMetrics& metrics, Sheet& s
                 const FieldPictures& fields = {});
 
 /// The surface that an operation of a sheet draws on.
-SurfaceId surfaceOf(const Operation& operation);
+SurfaceId surfaceOf(const DrawnOperation& operation);
+
+/// The operation further to the right and further down, in twips.
+DrawnOperation moved(DrawnOperation operation, double right, double down);
 
 /// Foot of the lowest operation on a surface, in twips; 0 when nothing stands there.
-double drawnHeight(const std::vector<Operation>& operations, SurfaceId surface,
+double drawnHeight(const std::vector<DrawnOperation>& operations, SurfaceId surface,
                    const TextMetrics& metrics);
 
 } // namespace page

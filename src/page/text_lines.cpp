@@ -44,46 +44,59 @@ bool isApart(const TextOperation& run, double end) {
     return run.x > end + kWordGap;
 }
 
-TextLines::TextLines(const Recording& recording, SurfaceId surface, const CaptionLayout& layOut) {
-    arrange(standingRuns(recording, surface, layOut));
-}
-
-void TextLines::addCaption(const std::vector<TextOperation>& caption, Runs& runs) {
-    for (const TextOperation& line : caption)
-        runs.push_back(&captions_.emplace_back(line));
-}
-
-void TextLines::wipe(Runs& runs) const {
-    runs.clear();
-    for (const TextOperation& caption : captions_)
-        runs.push_back(&caption);
-}
-
-/// The runs in drawing order.
-TextLines::Runs TextLines::standingRuns(const Recording& recording, SurfaceId surface,
-                                        const CaptionLayout& layOut) {
-    const auto links = standingLinks(recording);
-    auto nextLink = links.begin();
-    Runs runs;
-    for (const Operation& operation : recording.operations()) {
-        if (const auto* clear = std::get_if<ClearOperation>(&operation)) {
-            if (clear->surface == surface)
-                wipe(runs);
-        } else if (const auto* text = std::get_if<TextOperation>(&operation)) {
-            if (text->surface != surface)
-                continue;
-            if (!runs.empty() && isShadow(*runs.back(), *text))
-                runs.pop_back();
-            runs.push_back(text);
-        } else if (const auto* link = std::get_if<LinkOperation>(&operation)) {
-            if (nextLink == links.end() || *nextLink != link)
-                continue;
-            ++nextLink;
-            if (link->surface == surface && link->control == LinkControl::Labelien)
-                addCaption(layOut(*link), runs);
-        }
+/// Gathers the runs that stand on a surface, in drawing order. Answer fields have no text that is
+/// read in the page.
+class TextLines::Gathering
+    : PassOver<LineOperation, FillOperation, PictureOperation, MenuOperation, FieldOperation,
+               VideoOperation, SwitchOperation, CaptionOperation, FailedOperation> {
+public:
+    /// Captions are kept in `captions`.
+    Gathering(const Recording& recording, SurfaceId surface, const CaptionLayout& layOut,
+              std::deque<TextOperation>& captions)
+        : surface_(surface), layOut_(layOut), captions_(captions), links_(standingLinks(recording)),
+          nextLink_(links_.begin()) {
+        for (const Operation& operation : recording.operations())
+            std::visit(*this, operation);
     }
-    return runs;
+
+    const Runs& runs() const { return runs_; }
+
+    using PassOver::operator();
+    void operator()(const ClearOperation& clear) {
+        if (clear.surface != surface_)
+            return;
+        runs_.clear();
+        for (const TextOperation& caption : captions_)
+            runs_.push_back(&caption);
+    }
+    void operator()(const TextOperation& text) {
+        if (text.surface != surface_)
+            return;
+        if (!runs_.empty() && isShadow(*runs_.back(), text))
+            runs_.pop_back();
+        runs_.push_back(&text);
+    }
+    void operator()(const LinkOperation& link) {
+        if (nextLink_ == links_.end() || *nextLink_ != &link)
+            return;
+        ++nextLink_;
+        if (link.surface != surface_ || link.control != LinkControl::Labelien)
+            return;
+        for (const TextOperation& line : layOut_(link))
+            runs_.push_back(&captions_.emplace_back(line));
+    }
+
+private:
+    SurfaceId surface_;
+    const CaptionLayout& layOut_;
+    std::deque<TextOperation>& captions_;
+    std::vector<const LinkOperation*> links_;
+    std::vector<const LinkOperation*>::const_iterator nextLink_;
+    Runs runs_;
+};
+
+TextLines::TextLines(const Recording& recording, SurfaceId surface, const CaptionLayout& layOut) {
+    arrange(Gathering(recording, surface, layOut, captions_).runs());
 }
 
 void TextLines::arrange(const Runs& runs) {

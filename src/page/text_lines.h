@@ -38,10 +38,8 @@ public:
 
 private:
     using Runs = std::vector<const TextOperation*>;
+    class Gathering;
 
-    Runs standingRuns(const Recording& recording, SurfaceId surface, const CaptionLayout& layOut);
-    void addCaption(const std::vector<TextOperation>& caption, Runs& runs);
-    void wipe(Runs& runs) const;
     void arrange(const Runs& runs);
 
     std::deque<TextOperation> captions_; ///< stay in place while it grows

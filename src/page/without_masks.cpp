@@ -29,7 +29,7 @@ QRectF areaOf(const FillOperation& fill) {
 
 class Rewriting {
 public:
-    Rewriting(const std::vector<Operation>& operations, const TextMetrics& metrics)
+    Rewriting(const std::vector<DrawnOperation>& operations, const TextMetrics& metrics)
         : operations_(operations), inks_(maskedInks(operations, metrics)),
           pictures_(maskedPictures(operations, maskedInk)) {
         for (std::size_t i = 0; i < operations.size(); ++i)
@@ -38,7 +38,7 @@ public:
                 masks_.push_back({i, {fill->surface, areaOf(*fill), fill->ink}});
     }
 
-    std::vector<Operation> run() {
+    std::vector<DrawnOperation> run() {
         if (masks_.empty())
             return operations_;
         for (const Mask& mask : masks_)
@@ -69,10 +69,6 @@ public:
         if (const auto masked = pictures_.find(index_); masked != pictures_.end())
             picture.picture = masked->second;
         result_.emplace_back(std::move(picture));
-    }
-    template <class Other>
-    void operator()(const Other& other) {
-        result_.emplace_back(other);
     }
 
 private:
@@ -115,19 +111,19 @@ private:
         tints_.clear();
     }
 
-    const std::vector<Operation>& operations_;
+    const std::vector<DrawnOperation>& operations_;
     std::vector<QRgb> inks_;
     std::map<std::size_t, std::shared_ptr<const Picture>> pictures_;
     std::vector<Mask> masks_;
     std::vector<Tint> tints_;
-    std::vector<Operation> result_;
+    std::vector<DrawnOperation> result_;
     std::size_t index_ = 0;
 };
 
 } // namespace
 
-std::vector<Operation> withoutMasks(const std::vector<Operation>& operations,
-                                    const TextMetrics& metrics) {
+std::vector<DrawnOperation> withoutMasks(const std::vector<DrawnOperation>& operations,
+                                         const TextMetrics& metrics) {
     return Rewriting(operations, metrics).run();
 }
 

@@ -11,7 +11,7 @@ namespace page {
 /// do: it looks the same on white paper. Where a mask fill lay, its colour stands before what it
 /// covered; texts and lines that it covered as a whole have the ink that it gave them, and pictures
 /// its colour in them. What else it covered in part keeps its ink.
-std::vector<Operation> withoutMasks(const std::vector<Operation>& operations,
-                                    const TextMetrics& metrics);
+std::vector<DrawnOperation> withoutMasks(const std::vector<DrawnOperation>& operations,
+                                         const TextMetrics& metrics);
 
 } // namespace page

@@ -76,28 +76,7 @@ struct ExtentOf {
     std::optional<Extent> operator()(const page::PictureOperation& picture) const {
         return Extent{picture.y, picture.y + picture.height, Extent::Kind::Drawing};
     }
-    template <class Other>
-    std::optional<Extent> operator()(const Other&) const {
-        return std::nullopt;
-    }
 };
-
-page::Operation moved(page::Operation operation, double right, double down) {
-    std::visit(
-        [=](auto& drawn) {
-            if constexpr (requires { drawn.x1; }) {
-                drawn.x1 += right;
-                drawn.x2 += right;
-                drawn.y1 += down;
-                drawn.y2 += down;
-            } else if constexpr (requires { drawn.x; }) {
-                drawn.x += right;
-                drawn.y += down;
-            }
-        },
-        operation);
-    return operation;
-}
 
 /// A footer wider than the paper, in the large letters that a page ended with, becomes smaller.
 Footer fitted(Footer footer, double width, const page::TextMetrics& metrics) {
@@ -119,7 +98,7 @@ public:
           footer_(fitted(footer, width_, metrics)), footerHeight_(metrics.height(footer_.font)),
           room_(height_ - std::min(2.5 * footerHeight_, kFooterShare * height_)) {
         page::putOnSheet(drawing, metrics, page_);
-        for (const page::Operation& operation : page_.operations)
+        for (const page::DrawnOperation& operation : page_.operations)
             measure(operation);
         std::sort(byTop_.begin(), byTop_.end(),
                   [](const Extent& a, const Extent& b) { return a.innerTop() > b.innerTop(); });
@@ -147,7 +126,7 @@ public:
 private:
     static constexpr double kEndless = std::numeric_limits<double>::infinity();
 
-    void measure(const page::Operation& operation) {
+    void measure(const page::DrawnOperation& operation) {
         extents_.push_back(std::visit(ExtentOf{metrics_}, operation));
         std::optional<Extent>& extent = extents_.back();
         // Neither what lies beyond the page's ends nor what has no height shows.
@@ -238,7 +217,8 @@ private:
             const auto& extent = extents_[i];
             if (!extent || extent->innerBottom() <= from || extent->innerTop() >= end)
                 continue;
-            sheet.operations.push_back(moved(page_.operations[i], (width_ - kColumn) / 2, -start));
+            sheet.operations.push_back(
+                page::moved(page_.operations[i], (width_ - kColumn) / 2, -start));
             isCutThrough = isCutThrough || extent->innerBottom() > end;
         }
         // What goes on on the next sheet does not run through the foot of this one.

@@ -133,6 +133,22 @@ TEST_F(Program, endsWithTwoForWrongCallsAndDoesNothing) {
     EXPECT_EQ(run("dump out/Zekx.mdb autre").code, 2);
 }
 
+TEST_F(Program, takesForAWordWhatLooksLikeAnOptionOrASubcommand) {
+    work.write("src/pages/2.page",
+               "+++\nNumeropage = 2\ntitre = \"Deux\"\nmoteur = true\n+++\n-38 build¶\n");
+    ASSERT_EQ(run("build src -o out").code, 0);
+    for (const char* call : {"search out -- -38", "search out --all-words -- build -38",
+                             "search -- out build", "search out build", "-- search out build"})
+        EXPECT_EQ(run(call).out, "2\tDeux\n") << call;
+    EXPECT_EQ(run("search out -- --all-words").code, 0);
+    EXPECT_EQ(run("answer calc calc").out, "juste\n");
+    EXPECT_EQ(run("calc -- -3").out, run("calc -3").out);
+    EXPECT_EQ(run("trace -- out --page 1").code, 2);
+    work.write("-x/pages/1.page", work.read("src/pages/1.page"));
+    EXPECT_EQ(run("build -o other -- -x").code, 0);
+    EXPECT_TRUE(work.has("other/Zekx.mdb"));
+}
+
 TEST_F(Program, tellsAFullDiscFromFaultsOfTheCourse) {
     ASSERT_EQ(run("build src -o out").code, 0);
     work.write("page.txt", "x¶\r\n");

@@ -69,7 +69,7 @@ protected:
     int allInk(double ratio) {
         page::Sheet wide = sheet(400);
         wide.surfaces[0] = {SurfaceId::PictureTexte, 3000, 3000, 9000, 9000};
-        for (page::Operation& operation : wide.operations)
+        for (page::DrawnOperation& operation : wide.operations)
             if (auto* text = std::get_if<page::TextOperation>(&operation)) {
                 text->x += 750;
                 text->y += 750;

@@ -13,8 +13,8 @@ using testing::ElementsAre;
 
 QStringList described(const page::Sheet& sheet) {
     page::Recording recording;
-    for (const page::Operation& operation : sheet.operations)
-        recording.add(operation);
+    for (const page::DrawnOperation& operation : sheet.operations)
+        std::visit([&](const auto& drawn) { recording.add(drawn); }, operation);
     return test_support::describe(recording);
 }
 

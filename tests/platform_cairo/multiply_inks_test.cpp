@@ -1,4 +1,5 @@
 #include "page/multiply_inks.h"
+#include "page/sheet.h"
 #include "page/surface.h"
 #include "support/fixed_metrics.h"
 
@@ -10,7 +11,11 @@ using page::FillMode;
 
 class MultiplyInks : public testing::Test {
 protected:
-    std::vector<QRgb> inks() const { return page::multiplyInks(recording.operations(), metrics); }
+    std::vector<QRgb> inks() const {
+        page::Sheet sheet{};
+        page::putOnSheet(recording, metrics, sheet);
+        return page::multiplyInks(sheet.operations, metrics);
+    }
     void text(QRgb ink, double y = 100) {
         surface.setPenX(100);
         surface.setPenY(y);

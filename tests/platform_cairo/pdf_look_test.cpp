@@ -148,16 +148,8 @@ TEST_F(PdfLook, inkLeansOutOfASurfaceAndNothingElseDoes) {
     page::Sheet free = exact;
     free.operations.resize(standing);
     free.surfaces[0] = {page::SurfaceId::PictureTexte, 0, 0, 12000, 6000};
-    for (page::Operation& operation : free.operations)
-        std::visit(
-            [](auto& drawn) {
-                if constexpr (requires { drawn.x1; }) {
-                    drawn.x1 += kLeft, drawn.x2 += kLeft, drawn.y1 += kTop, drawn.y2 += kTop;
-                } else if constexpr (requires { drawn.x; }) {
-                    drawn.x += kLeft, drawn.y += kTop;
-                }
-            },
-            operation);
+    for (page::DrawnOperation& operation : free.operations)
+        operation = page::moved(operation, kLeft, kTop);
     write({free});
     const QImage all = page();
     write({exact});

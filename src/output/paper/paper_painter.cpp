@@ -26,25 +26,24 @@ quint32 glyphOf(const QRawFont& font, char32_t character) {
 } // namespace
 
 void PaperPainter::draw(const page::Sheet& sheet) {
-    const std::vector<page::Operation> operations = page::withoutMasks(sheet.operations, fonts_);
+    const std::vector<page::DrawnOperation> operations =
+        page::withoutMasks(sheet.operations, fonts_);
     for (const page::PlacedSurface& place : sheet.surfaces) {
         painter_.save();
         painter_.translate(place.x, place.y);
         const QSizeF size(place.width, place.height);
         QRectF clip;
-        for (const page::Operation& operation : operations)
+        for (const page::DrawnOperation& operation : operations)
             std::visit(
-                [&]<class Drawing>(const Drawing& drawing) {
-                    if constexpr (Drawn<Drawing>) {
-                        if (drawing.surface != place.surface || !shapes_.span(drawing))
-                            return;
-                        const QRectF area = page::inkArea(drawing, size, fonts_);
-                        if (area.isEmpty())
-                            return;
-                        if (area != clip)
-                            painter_.setClipRect(clip = area);
-                        draw(drawing);
-                    }
+                [&](const auto& drawing) {
+                    if (drawing.surface != place.surface || !shapes_.span(drawing))
+                        return;
+                    const QRectF area = page::inkArea(drawing, size, fonts_);
+                    if (area.isEmpty())
+                        return;
+                    if (area != clip)
+                        painter_.setClipRect(clip = area);
+                    draw(drawing);
                 },
                 operation);
         painter_.restore();

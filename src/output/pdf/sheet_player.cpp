@@ -72,7 +72,7 @@ QRectF snapped(double x, double y, double width, double height, const QRectF& su
 
 /// Strips of a gradient meet at edges that need not be pixels of a reader's screen, and paper would
 /// shine through there. A strip reaches under the next one, which covers it.
-double overlap(const page::FillOperation& fill, const page::Operation* next) {
+double overlap(const page::FillOperation& fill, const page::DrawnOperation* next) {
     const auto* above = next ? std::get_if<page::FillOperation>(next) : nullptr;
     if (!above || fill.mode != page::FillMode::Copy || above->mode != page::FillMode::Copy ||
         above->surface != fill.surface || above->x != fill.x || above->width != fill.width ||
@@ -91,8 +91,9 @@ public:
           area_(0, 0, place.width, place.height) {}
 
     /// `masked` and `next` may be null.
-    void play(const page::Operation& operation, QRgb ink,
-              const std::shared_ptr<const page::Picture>& masked, const page::Operation* next) {
+    void play(const page::DrawnOperation& operation, QRgb ink,
+              const std::shared_ptr<const page::Picture>& masked,
+              const page::DrawnOperation* next) {
         if (page::surfaceOf(operation) != surface_)
             return;
         ink_ = ink;
@@ -168,28 +169,23 @@ public:
         cairo_restore(cairo_);
     }
 
-    template <class Other>
-    void operator()(const Other&) {}
-
 private:
     /// Most operations may ink all of the surface with its margin, which is clipped to already.
     template <class Drawing>
     void playWhereItMayInk(const Drawing& drawing) {
-        if constexpr (requires { page::inkArea(drawing, QSizeF(), owner_.fonts_); }) {
-            inkArea_ = page::inkArea(drawing, area_.size(), owner_.fonts_);
-            if (inkArea_.isEmpty())
-                return;
-            const bool isCut = reachesOut(drawing);
-            if (isCut) {
-                cairo_save(cairo_);
-                cairo_rectangle(cairo_, inkArea_.x(), inkArea_.y(), inkArea_.width(),
-                                inkArea_.height());
-                cairo_clip(cairo_);
-            }
-            (*this)(drawing);
-            if (isCut)
-                cairo_restore(cairo_);
+        inkArea_ = page::inkArea(drawing, area_.size(), owner_.fonts_);
+        if (inkArea_.isEmpty())
+            return;
+        const bool isCut = reachesOut(drawing);
+        if (isCut) {
+            cairo_save(cairo_);
+            cairo_rectangle(cairo_, inkArea_.x(), inkArea_.y(), inkArea_.width(),
+                            inkArea_.height());
+            cairo_clip(cairo_);
         }
+        (*this)(drawing);
+        if (isCut)
+            cairo_restore(cairo_);
     }
 
     /// Whether something would show where it may not.
@@ -303,7 +299,7 @@ private:
     QRectF inkArea_; ///< of the operation at hand
     QRgb ink_ = 0xff000000;
     std::shared_ptr<const page::Picture> masked_; ///< what stands in for the picture at hand
-    const page::Operation* next_ = nullptr;
+    const page::DrawnOperation* next_ = nullptr;
     std::string utf8_;
     std::vector<cairo_glyph_t> glyphs_;
     std::vector<cairo_text_cluster_t> clusters_;
@@ -313,7 +309,7 @@ SheetPlayer::SheetPlayer(const page::FontBook& fonts, CairoFaces& faces, CairoPi
     : fonts_(fonts), faces_(faces), pictures_(pictures) {}
 
 void SheetPlayer::play(const page::Sheet& sheet, cairo_t* cairo) {
-    const std::vector<page::Operation>& operations = sheet.operations;
+    const std::vector<page::DrawnOperation>& operations = sheet.operations;
     const std::vector<QRgb> inks = page::multiplyInks(operations, fonts_);
     const auto masked = page::maskedPictures(operations, page::multipliedInk);
     painted_.clear();

@@ -73,11 +73,4 @@ private:
     double ratio_;
 };
 
-/// What an OperationPainter draws. Links and answers are controls of their own on a window; the
-/// rest leaves nothing on a surface.
-template <class Operation>
-concept Drawn = requires(const OperationPainter& painter, const Operation& operation) {
-    painter.span(operation);
-};
-
 } // namespace output

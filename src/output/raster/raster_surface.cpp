@@ -2,7 +2,6 @@
 
 #include "output/raster/operation_painter.h"
 #include "page/ink_area.h"
-#include "page/sheet.h"
 #include "page/surface.h"
 #include "page/twips.h"
 
@@ -28,18 +27,21 @@ constexpr int kKeptRowsPx = 2000;
 
 } // namespace
 
-/// Draws operations on the image, which grows as they need it.
-class RasterSurface::Player {
+/// Draws operations on the image, which grows as they need it. Links and fields are controls of
+/// their own on a window.
+class RasterSurface::Player
+    : page::PassOver<page::LinkOperation, page::MenuOperation, page::FieldOperation,
+                     page::VideoOperation, page::SwitchOperation, page::CaptionOperation,
+                     page::FailedOperation> {
 public:
     explicit Player(RasterSurface& target)
         : target_(target), operations_(painter_, target.fonts_, target.ratio_) {}
 
-    template <class Operation>
-    void operator()(const Operation& operation) {
-        if constexpr (Drawn<Operation>)
-            draw(operation);
-    }
-
+    using PassOver::operator();
+    void operator()(const page::TextOperation& text) { draw(text); }
+    void operator()(const page::LineOperation& line) { draw(line); }
+    void operator()(const page::FillOperation& fill) { draw(fill); }
+    void operator()(const page::PictureOperation& picture) { draw(picture); }
     void operator()(const page::ClearOperation& clear) {
         if (clear.surface != target_.id_)
             return;
@@ -53,17 +55,17 @@ public:
     }
 
 private:
-    template <class Operation>
-    void draw(const Operation& operation) {
-        if (operation.surface != target_.id_)
+    template <class Drawing>
+    void draw(const Drawing& drawing) {
+        if (drawing.surface != target_.id_)
             return;
-        const auto span = operations_.span(operation);
-        const auto ink = operations_.inkSpan(operation);
+        const auto span = operations_.span(drawing);
+        const auto ink = operations_.inkSpan(drawing);
         if (!span || !room(*span, ink->bottom))
             return;
         if (!painter_.isActive())
             painter_.begin(&target_.image_);
-        operations_.draw(operation);
+        operations_.draw(drawing);
     }
 
     /// Makes the picture tall enough for something, whose ink reaches down to `inkBottom`; false
@@ -91,43 +93,53 @@ private:
     OperationPainter operations_;
 };
 
-/// Draws what leans out of a surface.
-class RasterSurface::MarginPlayer {
+/// Draws what leans out of a surface, of what was drawn since it was wiped last.
+class RasterSurface::MarginPlayer
+    : page::PassOver<page::LinkOperation, page::MenuOperation, page::FieldOperation,
+                     page::VideoOperation, page::SwitchOperation, page::ClearOperation,
+                     page::CaptionOperation, page::FailedOperation> {
 public:
-    MarginPlayer(QPainter& painter, const page::FontBook& fonts, double ratio, const QSizeF& size,
-                 const QRect& exposed)
-        : painter_(painter), fonts_(fonts), operations_(painter, fonts, ratio), ratio_(ratio),
-          size_(size), exposed_(exposed) {
+    MarginPlayer(page::SurfaceId surface, QPainter& painter, const page::FontBook& fonts,
+                 double ratio, const QSizeF& size, const QRect& exposed)
+        : surface_(surface), painter_(painter), fonts_(fonts), operations_(painter, fonts, ratio),
+          ratio_(ratio), size_(size), exposed_(exposed) {
         // The surface itself covers the pixels that it shares with its margin.
         const QRect inner(0, 0, qFloor(size.width() / page::kTwipsPerPixel * ratio),
                           qFloor(size.height() / page::kTwipsPerPixel * ratio));
         ring_ = QRegion(pixels(page::withInkMargin(size))) - inner;
     }
 
-    template <class Operation>
-    void operator()(const Operation& operation) {
-        if constexpr (Drawn<Operation>) {
-            const std::optional<OperationPainter::Span> ink = operations_.inkSpan(operation);
-            if (!ink || ink->bottom < exposed_.top() * page::kTwipsPerPixel ||
-                ink->top > (exposed_.bottom() + 1) * page::kTwipsPerPixel)
-                return;
-            const QRectF area = page::inkArea(operation, size_, fonts_);
-            if (area.isEmpty() || area == QRectF({}, size_))
-                return;
-            painter_.save();
-            painter_.setClipRegion(ring_ & pixels(area), Qt::IntersectClip);
-            operations_.draw(operation);
-            painter_.restore();
-        }
-    }
+    using PassOver::operator();
+    void operator()(const page::TextOperation& text) { draw(text); }
+    void operator()(const page::LineOperation& line) { draw(line); }
+    void operator()(const page::FillOperation& fill) { draw(fill); }
+    void operator()(const page::PictureOperation& picture) { draw(picture); }
 
 private:
+    template <class Drawing>
+    void draw(const Drawing& drawing) {
+        if (drawing.surface != surface_)
+            return;
+        const std::optional<OperationPainter::Span> ink = operations_.inkSpan(drawing);
+        if (!ink || ink->bottom < exposed_.top() * page::kTwipsPerPixel ||
+            ink->top > (exposed_.bottom() + 1) * page::kTwipsPerPixel)
+            return;
+        const QRectF area = page::inkArea(drawing, size_, fonts_);
+        if (area.isEmpty() || area == QRectF({}, size_))
+            return;
+        painter_.save();
+        painter_.setClipRegion(ring_ & pixels(area), Qt::IntersectClip);
+        operations_.draw(drawing);
+        painter_.restore();
+    }
+
     QRect pixels(const QRectF& twips) const {
         return QRectF(twips.topLeft() / page::kTwipsPerPixel * ratio_,
                       twips.size() / page::kTwipsPerPixel * ratio_)
             .toAlignedRect();
     }
 
+    page::SurfaceId surface_;
     QPainter& painter_;
     const page::FontBook& fonts_;
     OperationPainter operations_;
@@ -213,15 +225,14 @@ void RasterSurface::paint(QPainter& painter, const QRect& exposed) const {
 void RasterSurface::paintMargin(QPainter& painter, const page::Recording& recording, int heightPx,
                                 const QRect& exposed) const {
     const QSizeF size(widthPx_ * page::kTwipsPerPixel, heightPx * page::kTwipsPerPixel);
-    MarginPlayer player(painter, fonts_, ratio_, size, exposed);
+    MarginPlayer player(id_, painter, fonts_, ratio_, size, exposed);
     const auto& operations = recording.operations();
     std::size_t first = 0;
     for (std::size_t i = 0; i < operations.size(); ++i)
         if (const auto* clear = std::get_if<page::ClearOperation>(&operations[i]))
             first = clear->surface == id_ ? i + 1 : first;
     for (std::size_t i = first; i < operations.size(); ++i)
-        if (page::surfaceOf(operations[i]) == id_)
-            std::visit(player, operations[i]);
+        std::visit(player, operations[i]);
 }
 
 QImage RasterSurface::image(int heightPx) const {

@@ -35,21 +35,24 @@ public:
         clip_ = {};
     }
 
-    template <class Operation>
-    void operator()(const Operation& operation) {
-        if constexpr (Drawn<Operation>) {
-            const auto ink = operations_.inkSpan(operation);
-            if (!ink || !reaches(*ink))
-                return;
-            const QRectF area = page::inkArea(operation, size_, fonts_);
-            if (area.isEmpty())
-                return;
-            clipTo(area);
-            operations_.draw(operation);
-        }
-    }
+    void operator()(const page::TextOperation& text) { play(text); }
+    void operator()(const page::LineOperation& line) { play(line); }
+    void operator()(const page::FillOperation& fill) { play(fill); }
+    void operator()(const page::PictureOperation& picture) { play(picture); }
 
 private:
+    template <class Drawing>
+    void play(const Drawing& drawing) {
+        const auto ink = operations_.inkSpan(drawing);
+        if (!ink || !reaches(*ink))
+            return;
+        const QRectF area = page::inkArea(drawing, size_, fonts_);
+        if (area.isEmpty())
+            return;
+        clipTo(area);
+        operations_.draw(drawing);
+    }
+
     int pixel(double twips) const { return qRound(twips / page::kTwipsPerPixel * scale_); }
 
     bool reaches(const OperationPainter::Span& ink) const {
@@ -105,7 +108,7 @@ const QImage& SheetRaster::band(const page::Sheet& sheet, int top) {
     // Surfaces stand beside each other: the order of operations counts within each.
     for (const page::PlacedSurface& surface : sheet.surfaces) {
         player.enter(surface);
-        for (const page::Operation& operation : sheet.operations)
+        for (const page::DrawnOperation& operation : sheet.operations)
             if (page::surfaceOf(operation) == surface.surface)
                 std::visit(player, operation);
     }

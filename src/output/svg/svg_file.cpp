@@ -8,6 +8,7 @@
 
 #include <QBuffer>
 #include <QHash>
+#include <QXmlStreamWriter>
 
 #include <algorithm>
 #include <cmath>
@@ -16,17 +17,16 @@ namespace output {
 
 namespace {
 
-using svg::appendEscaped;
 using svg::colour;
 using svg::pixels;
+using svg::plain;
 
 /// Places further out are on no sheet, and their numbers would only be long.
 constexpr double kFarTwips = 1e6 * page::kTwipsPerPixel;
 
 /// Crisp lines and fills as on screen; text as wide as it was measured, with every blank.
-constexpr char kStyle[] =
-    "<style>text{white-space:pre;font-kerning:none;font-variant-ligatures:none}"
-    "rect,line{shape-rendering:crispEdges}.m{mix-blend-mode:multiply}</style>\n";
+constexpr char kStyle[] = "text{white-space:pre;font-kerning:none;font-variant-ligatures:none}"
+                          "rect,line{shape-rendering:crispEdges}.m{mix-blend-mode:multiply}";
 
 template <class... Values>
 bool near(Values... values) {
@@ -37,15 +37,50 @@ double wholePixels(double twips) {
     return std::round(twips / page::kTwipsPerPixel) * page::kTwipsPerPixel;
 }
 
+/// Elements with their attributes, each on a line of its own.
+class Markup {
+public:
+    explicit Markup(QByteArray& out) : xml_(&out) {}
+
+    Markup& open(const char* element) {
+        xml_.writeStartElement(QString::fromLatin1(element));
+        return *this;
+    }
+    /// An element that holds nothing.
+    Markup& empty(const char* element) {
+        xml_.writeEmptyElement(QString::fromLatin1(element));
+        return *this;
+    }
+    Markup& with(const char* name, const QString& value) {
+        xml_.writeAttribute(QString::fromLatin1(name), value);
+        return *this;
+    }
+    Markup& with(const char* name, const char* value) {
+        return with(name, QString::fromLatin1(value));
+    }
+    Markup& text(const QString& text) {
+        xml_.writeCharacters(text);
+        return *this;
+    }
+    Markup& close() {
+        xml_.writeEndElement();
+        return *this;
+    }
+    void endLine() { xml_.writeCharacters(QStringLiteral("\n")); }
+
+private:
+    QXmlStreamWriter xml_;
+};
+
 /// The pictures of a document, each stored once under a name of its own.
 class PictureStore {
 public:
     /// The name of a picture; empty for one that cannot be stored.
-    QByteArray name(const page::Picture& picture) {
+    QString name(const page::Picture& picture) {
         const auto known = names_.constFind(&picture);
         if (known != names_.constEnd())
             return *known;
-        const QByteArray name = store(picture);
+        const QString name = store(picture);
         names_.insert(&picture, name);
         return name;
     }
@@ -53,7 +88,7 @@ public:
     const QByteArray& definitions() const { return definitions_; }
 
 private:
-    QByteArray store(const page::Picture& picture) {
+    QString store(const page::Picture& picture) {
         const auto [type, bytes] = file(picture);
         if (bytes.isEmpty())
             return {};
@@ -61,11 +96,14 @@ private:
         const auto same = byContent_.constFind(bytes);
         if (same != byContent_.constEnd())
             return *same;
-        const QByteArray name = "i" + QByteArray::number(byContent_.size() + 1);
-        definitions_ +=
-            "<image id=\"" + name +
-            "\" width=\"1\" height=\"1\" preserveAspectRatio=\"none\" xlink:href=\"data:" + type +
-            ";base64," + bytes.toBase64() + "\"/>\n";
+        const QString name = QStringLiteral("i%1").arg(byContent_.size() + 1);
+        markup_.empty("image")
+            .with("id", name)
+            .with("width", "1")
+            .with("height", "1")
+            .with("preserveAspectRatio", "none")
+            .with("xlink:href", QString::fromLatin1("data:" + type + ";base64," + bytes.toBase64()))
+            .endLine();
         byContent_.insert(bytes, name);
         return name;
     }
@@ -90,29 +128,36 @@ private:
         return {"image/png", png.data()};
     }
 
-    QHash<const page::Picture*, QByteArray> names_;
-    QHash<QByteArray, QByteArray> byContent_;
+    QHash<const page::Picture*, QString> names_;
+    QHash<QByteArray, QString> byContent_;
     QByteArray definitions_;
+    Markup markup_{definitions_};
 };
 
 /// The areas that elements are cut at, each defined once.
 class ClipStore {
 public:
     /// The value of a "clip-path".
-    QByteArray reference(const QRectF& area) {
+    QString reference(const QRectF& area) {
         auto place = std::find(areas_.begin(), areas_.end(), area);
         if (place == areas_.end())
             place = areas_.insert(areas_.end(), area);
-        return "url(#c" + QByteArray::number(place - areas_.begin() + 1) + ')';
+        return QStringLiteral("url(#c%1)").arg(place - areas_.begin() + 1);
     }
 
     QByteArray definitions() const {
         QByteArray all;
+        Markup markup(all);
         for (std::size_t i = 0; i < areas_.size(); ++i)
-            all += "<clipPath id=\"c" + QByteArray::number(i + 1) + "\"><rect x=\"" +
-                   pixels(areas_[i].x()) + "\" y=\"" + pixels(areas_[i].y()) + "\" width=\"" +
-                   pixels(areas_[i].width()) + "\" height=\"" + pixels(areas_[i].height()) +
-                   "\"/></clipPath>\n";
+            markup.open("clipPath")
+                .with("id", QStringLiteral("c%1").arg(i + 1))
+                .empty("rect")
+                .with("x", pixels(areas_[i].x()))
+                .with("y", pixels(areas_[i].y()))
+                .with("width", pixels(areas_[i].width()))
+                .with("height", pixels(areas_[i].height()))
+                .close()
+                .endLine();
         return all;
     }
 
@@ -124,21 +169,19 @@ private:
 class ElementWriter {
 public:
     ElementWriter(const QSizeF& surface, const page::TextMetrics& metrics, PictureStore& pictures,
-                  ClipStore& clips, QByteArray& out)
+                  ClipStore& clips, Markup& out)
         : surface_(surface), metrics_(metrics), pictures_(pictures), clips_(clips), out_(out) {}
 
     /// `ink` and `masked` are the operation's own where mask fills multiply; `masked` may be null.
     /// What stands on no part of the surface is left out.
-    void write(const page::Operation& operation, QRgb ink, const page::Picture* masked) {
+    void write(const page::DrawnOperation& operation, QRgb ink, const page::Picture* masked) {
         ink_ = ink;
         masked_ = masked;
         std::visit(
             [this](const auto& drawn) {
-                if constexpr (requires { page::inkArea(drawn, surface_, metrics_); }) {
-                    area_ = page::inkArea(drawn, surface_, metrics_);
-                    if (!area_.isEmpty())
-                        (*this)(drawn);
-                }
+                area_ = page::inkArea(drawn, surface_, metrics_);
+                if (!area_.isEmpty())
+                    (*this)(drawn);
             },
             operation);
     }
@@ -149,11 +192,11 @@ public:
         if (em == 0 || shown.isEmpty() || !near(text.x, text.y))
             return;
         const double foot = text.y + metrics_.ascent(text.font);
-        out_ += "<text";
+        out_.open("text");
         attribute("x", pixels(text.x));
         attribute("y", pixels(foot));
         attribute("font-family", svg::families(text.font.face));
-        attribute("font-size", QByteArray::number(em));
+        attribute("font-size", QString::number(em));
         if (text.font.bold)
             attribute("font-weight", "bold");
         if (text.font.italic)
@@ -165,9 +208,7 @@ public:
         // The widths of sign faces are not those of the faces that have their signs.
         if (shown != text.text)
             attribute("lengthAdjust", "spacingAndGlyphs");
-        out_ += '>';
-        appendEscaped(shown, out_);
-        out_ += "</text>\n";
+        out_.text(plain(shown)).close().endLine();
         if (text.font.underline)
             rectangle(text.x, foot + em * page::kUnderlineDrop * page::kTwipsPerPixel, text.width,
                       std::max(1.0, std::round(em * page::kUnderlineThickness)) *
@@ -187,7 +228,7 @@ public:
             return;
         }
         const double centre = page::kTwipsPerPixel / 2;
-        out_ += "<line";
+        out_.empty("line");
         attribute("x1", pixels(line.x1 + centre));
         attribute("y1", pixels(line.y1 + centre));
         attribute("x2", pixels(line.x2 + centre));
@@ -197,7 +238,7 @@ public:
         attribute("stroke-linecap", "square");
         clip();
         attribute("style", "shape-rendering:auto");
-        out_ += "/>\n";
+        out_.endLine();
     }
 
     void operator()(const page::FillOperation& fill) const {
@@ -208,49 +249,41 @@ public:
     void operator()(const page::PictureOperation& picture) const {
         if (!picture.picture || !near(picture.x, picture.y, picture.width, picture.height))
             return;
-        const QByteArray name = pictures_.name(masked_ ? *masked_ : *picture.picture);
+        const QString name = pictures_.name(masked_ ? *masked_ : *picture.picture);
         if (name.isEmpty())
             return;
         const Place place = onScreen(picture.x, picture.y, picture.width, picture.height);
         const bool isCut =
             !QRectF({}, surface_).contains({place.x, place.y, place.width, place.height});
-        if (isCut) {
-            out_ += "<g";
-            attribute("clip-path", clips_.reference(area_));
-            out_ += '>';
-        }
-        out_ += "<use";
-        attribute("xlink:href", "#" + name);
-        attribute("transform", "translate(" + pixels(place.x) + ' ' + pixels(place.y) + ") scale(" +
-                                   pixels(place.width) + ' ' + pixels(place.height) + ')');
-        out_ += isCut ? "/></g>\n" : "/>\n";
+        if (isCut)
+            out_.open("g").with("clip-path", clips_.reference(area_));
+        out_.empty("use");
+        attribute("xlink:href", u'#' + name);
+        attribute("transform", QStringLiteral("translate(%1 %2) scale(%3 %4)")
+                                   .arg(pixels(place.x), pixels(place.y), pixels(place.width),
+                                        pixels(place.height)));
+        if (isCut)
+            out_.close();
+        out_.endLine();
     }
 
     void link(const page::LinkArea& area, const QString& address) const {
         if (!near(area.x, area.y, area.width, area.height))
             return;
-        out_ += "<a xlink:href=\"";
-        appendEscaped(address, out_);
+        out_.open("a").with("xlink:href", plain(address));
         const QString& name = area.caption.isEmpty() ? area.tooltip : area.caption;
-        if (!name.isEmpty()) {
-            out_ += "\" aria-label=\"";
-            appendEscaped(name, out_);
-        }
-        out_ += "\">";
-        if (!area.tooltip.isEmpty()) {
-            out_ += "<title>";
-            appendEscaped(area.tooltip, out_);
-            out_ += "</title>";
-        }
-        out_ += "<rect";
+        if (!name.isEmpty())
+            attribute("aria-label", plain(name));
+        if (!area.tooltip.isEmpty())
+            out_.open("title").text(plain(area.tooltip)).close();
+        out_.empty("rect");
         box(area.x, area.y, area.width, area.height);
-        out_ += " fill=\"none\" pointer-events=\"all\"/></a>\n";
+        out_.with("fill", "none").with("pointer-events", "all").close().endLine();
     }
 
 private:
-    void attribute(const char* name, const QByteArray& value) const {
-        out_.append(' ').append(name).append("=\"").append(value).append('"');
-    }
+    void attribute(const char* name, const QString& value) const { out_.with(name, value); }
+    void attribute(const char* name, const char* value) const { out_.with(name, value); }
 
     /// The whole surface with its margin is what the group is cut at.
     void clip() const {
@@ -290,19 +323,19 @@ private:
         const QRectF place = QRectF(covered.x, covered.y, covered.width, covered.height) & area_;
         if (place.isEmpty())
             return;
-        out_ += "<rect";
+        out_.empty("rect");
         box(place.x(), place.y(), place.width(), place.height());
         fillColour();
         if (className)
             attribute("class", className);
-        out_ += "/>\n";
+        out_.endLine();
     }
 
     QSizeF surface_;
     const page::TextMetrics& metrics_;
     PictureStore& pictures_;
     ClipStore& clips_;
-    QByteArray& out_;
+    Markup& out_;
     QRgb ink_ = 0;
     QRectF area_; ///< of the operation at hand
     const page::Picture* masked_ = nullptr;
@@ -325,24 +358,40 @@ public:
     }
 
 private:
+    /// Down to the definitions, which are open.
     QByteArray head(double scale) const {
-        const QByteArray width = pixels(sheet_.width);
-        const QByteArray height = pixels(sheet_.height);
-        QByteArray head = "<svg xmlns=\"http://www.w3.org/2000/svg\" "
-                          "xmlns:xlink=\"http://www.w3.org/1999/xlink\" width=\"" +
-                          pixels(sheet_.width * scale) + "\" height=\"" +
-                          pixels(sheet_.height * scale) + "\" viewBox=\"0 0 " + width + ' ' +
-                          height + "\" xml:lang=\"fr\" xml:space=\"preserve\">\n<title>";
-        appendEscaped(sheet_.title, head);
-        return head + "</title>\n" + kStyle + "<rect width=\"" + width + "\" height=\"" + height +
-               "\" fill=\"#ffffff\"/>\n<defs>\n";
+        const QString width = pixels(sheet_.width);
+        const QString height = pixels(sheet_.height);
+        QByteArray head;
+        Markup markup(head);
+        markup.open("svg")
+            .with("xmlns", "http://www.w3.org/2000/svg")
+            .with("xmlns:xlink", "http://www.w3.org/1999/xlink")
+            .with("width", pixels(sheet_.width * scale))
+            .with("height", pixels(sheet_.height * scale))
+            .with("viewBox", QStringLiteral("0 0 %1 %2").arg(width, height))
+            .with("xml:lang", "fr")
+            .with("xml:space", "preserve")
+            .endLine();
+        markup.open("title").text(plain(sheet_.title)).close().endLine();
+        markup.open("style").text(QString::fromLatin1(kStyle)).close().endLine();
+        markup.empty("rect")
+            .with("width", width)
+            .with("height", height)
+            .with("fill", "#ffffff")
+            .endLine();
+        markup.open("defs").endLine();
+        return head;
     }
 
     void writeSurface(const page::PlacedSurface& surface) {
         const QSizeF size(surface.width, surface.height);
-        body_ += "<g transform=\"translate(" + pixels(surface.x) + ' ' + pixels(surface.y) +
-                 ")\" clip-path=\"" + clips_.reference(page::withInkMargin(size)) + "\">\n";
-        ElementWriter elements(size, metrics_, pictures_, clips_, body_);
+        markup_.open("g")
+            .with("transform",
+                  QStringLiteral("translate(%1 %2)").arg(pixels(surface.x), pixels(surface.y)))
+            .with("clip-path", clips_.reference(page::withInkMargin(size)))
+            .endLine();
+        ElementWriter elements(size, metrics_, pictures_, clips_, markup_);
         for (std::size_t i = 0; i < sheet_.operations.size(); ++i) {
             if (page::surfaceOf(sheet_.operations[i]) != surface.surface)
                 continue;
@@ -354,7 +403,7 @@ private:
             if (area.surface == surface.surface)
                 if (const QString to = address_ ? address_(area.tag) : QString(); !to.isEmpty())
                     elements.link(area, to);
-        body_ += "</g>\n";
+        markup_.close().endLine();
     }
 
     const page::Sheet& sheet_;
@@ -365,6 +414,7 @@ private:
     PictureStore pictures_;
     ClipStore clips_;
     QByteArray body_;
+    Markup markup_{body_};
 };
 
 } // namespace

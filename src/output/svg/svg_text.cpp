@@ -18,47 +18,24 @@ bool isAllowed(QChar unit) {
     return unit.unicode() >= 0x20 && !unit.isSurrogate() && unit.unicode() < 0xFFFE;
 }
 
-void appendUnit(QChar unit, QByteArray& out) {
-    switch (unit.unicode()) {
-    case '&':
-        out += "&amp;";
-        return;
-    case '<':
-        out += "&lt;";
-        return;
-    case '>':
-        out += "&gt;";
-        return;
-    case '"':
-        out += "&quot;";
-        return;
-    default:
-        if (page::showsNothing(unit.unicode()))
-            return;
-        if (page::showsABlank(unit.unicode())) {
-            out += ' ';
-            return;
-        }
-        out += QString(isAllowed(unit) ? unit : QChar(QChar::ReplacementCharacter)).toUtf8();
-    }
-}
-
 } // namespace
 
-void appendEscaped(QStringView text, QByteArray& out) {
+QString plain(QStringView text) {
+    QString allowed;
+    allowed.reserve(text.size());
     for (qsizetype i = 0; i < text.size(); ++i) {
-        const bool pair =
-            text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate();
-        if (!pair) {
-            appendUnit(text[i], out);
-            continue;
-        }
-        out += text.sliced(i, 2).toUtf8();
-        ++i;
+        const QChar unit = text[i];
+        if (unit.isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate())
+            allowed.append(text.sliced(i++, 2));
+        else if (page::showsABlank(unit.unicode()) && !page::showsNothing(unit.unicode()))
+            allowed += u' ';
+        else if (!page::showsNothing(unit.unicode()))
+            allowed += isAllowed(unit) ? unit : QChar(QChar::ReplacementCharacter);
     }
+    return allowed;
 }
 
-QByteArray pixels(double twips) {
+QString pixels(double twips) {
     std::array<char, 32> text{};
     // Rounded first: "-0.0001" must not become "-0".
     const double value = std::round(twips / page::kTwipsPerPixel * 1000) / 1000 + 0.0;
@@ -69,11 +46,11 @@ QByteArray pixels(double twips) {
         --end;
     if (end[-1] == '.')
         --end;
-    return {text.data(), end - text.data()};
+    return QString::fromLatin1(text.data(), end - text.data());
 }
 
-QByteArray colour(QRgb ink) {
-    return '#' + QByteArray::number(ink & 0xffffff, 16).rightJustified(6, '0');
+QString colour(QRgb ink) {
+    return QStringLiteral("#%1").arg(ink & 0xffffff, 6, 16, QLatin1Char('0'));
 }
 
 QString shownText(const QString& face, const QString& text) {
@@ -91,20 +68,20 @@ QString shownText(const QString& face, const QString& text) {
     return shown;
 }
 
-QByteArray families(const QString& face) {
+QString families(const QString& face) {
     if (face.compare(page::kBookFace, Qt::CaseInsensitive) == 0)
-        return "Liberation Serif,Times New Roman,DejaVu Sans,Symbola,serif";
+        return QStringLiteral("Liberation Serif,Times New Roman,DejaVu Sans,Symbola,serif");
     if (face.compare(page::kComicFace, Qt::CaseInsensitive) == 0)
-        return "Comic Neue,Comic Sans MS,DejaVu Sans,Symbola,cursive";
+        return QStringLiteral("Comic Neue,Comic Sans MS,DejaVu Sans,Symbola,cursive");
     switch (page::signFace(face)) {
     case page::SignFace::Symbol:
-        return "Liberation Serif,Times New Roman,DejaVu Sans,Symbola,serif";
+        return QStringLiteral("Liberation Serif,Times New Roman,DejaVu Sans,Symbola,serif");
     case page::SignFace::Wingdings:
-        return "Symbola,Segoe UI Symbol,DejaVu Sans,sans-serif";
+        return QStringLiteral("Symbola,Segoe UI Symbol,DejaVu Sans,sans-serif");
     case page::SignFace::None:
         break;
     }
-    return "Liberation Sans,Arial,DejaVu Sans,Symbola,sans-serif";
+    return QStringLiteral("Liberation Sans,Arial,DejaVu Sans,Symbola,sans-serif");
 }
 
 } // namespace output::svg

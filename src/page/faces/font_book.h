@@ -65,7 +65,6 @@ public:
     static QStringList missingFamilies();
 
 private:
-    struct FaceKey;
     class Face;
 
     const Face& face(const Font& font) const;

@@ -1,0 +1,95 @@
+#include "app/subcommands/options.h"
+
+#include <CLI/CLI.hpp>
+
+namespace app {
+
+namespace {
+
+/// No letter that a name of an option could start with.
+constexpr char kNoOption = '\x1a';
+
+/// Binds what is read to a value, as it was typed.
+template <class Value>
+auto into(Value& value) {
+    return [&value](const std::string& read) { value = asTyped(read); };
+}
+
+} // namespace
+
+void hideFromOptions(std::string& argument) {
+    argument.insert(0, 1, kNoOption);
+}
+
+std::string asTyped(const std::string& value) {
+    return value.starts_with(kNoOption) ? value.substr(1) : value;
+}
+
+void Options::argument(const char* name, std::string& value, const char* description) {
+    command_.add_option_function<std::string>(name, into(value), description)->type_name("");
+}
+
+void Options::argument(const char* name, std::optional<std::string>& value,
+                       const char* description) {
+    command_.add_option_function<std::string>(name, into(value), description)->type_name("");
+}
+
+void Options::arguments(const char* name, std::vector<std::string>& values,
+                        const char* description) {
+    command_
+        .add_option_function<std::vector<std::string>>(
+            name,
+            [&values](const std::vector<std::string>& read) {
+                for (const std::string& value : read)
+                    values.push_back(asTyped(value));
+            },
+            description)
+        ->type_name("")
+        ->expected(0, -1);
+}
+
+void Options::option(const char* names, const char* kind, std::string& value,
+                     const std::string& description) {
+    command_.add_option_function<std::string>(names, into(value), description)->type_name(kind);
+}
+
+void Options::flag(const char* name, bool& value, const char* description) {
+    command_.add_flag(name, value, description);
+}
+
+void Options::footer(const char* text) {
+    command_.footer(text);
+}
+
+void Options::course(std::string& directory) {
+    argument("DOSSIER", directory, "Dossier d’installation");
+}
+
+void Options::page(std::string& number) {
+    option("--page", "N", number, "Numéro de la page");
+}
+
+void Options::pageOrQuestion(std::string& page, std::string& question) {
+    this->page(page);
+    option("--question", "REF", question, "Référence de la question : 307");
+}
+
+void Options::output(const char* kind, std::string& path, const char* description) {
+    option("-o,--output", kind, path, description);
+}
+
+void Options::drives(std::vector<std::string>& drives) {
+    command_
+        .add_option_function<std::vector<std::string>>(
+            "--drive",
+            [&drives](const std::vector<std::string>& read) {
+                for (const std::string& drive : read)
+                    drives.push_back(asTyped(drive));
+            },
+            "Donne la lettre de lecteur L à un dossier, plusieurs fois si besoin")
+        ->type_name("L=DOSSIER")
+        ->expected(1)
+        ->take_all();
+}
+
+} // namespace app
