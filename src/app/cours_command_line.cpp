@@ -1,5 +1,6 @@
 #include "app/cours_command_line.h"
 
+#include "app/check_words.h"
 #include "app/checked_paths.h"
 #include "app/render_words.h"
 #include "app/whole_number.h"
@@ -87,6 +88,10 @@ public:
         build_ = add("build", "Compile les sources d’un cours en un dossier d’installation");
         positional(build_, "SRC", typed_.from, "Dossier des sources");
         output(build_, "Dossier d’installation à écrire");
+
+        check_ = add("check", "Relit un cours : ce qui ne se verra pas, ne mène nulle part, "
+                              "ne peut être juste");
+        checkWords_.addTo(*check_);
 
         extract_ = add("extract", "Le chemin inverse : les sources d’un cours installé");
         positional(extract_, "DOSSIER", typed_.from, "Dossier d’installation");
@@ -240,6 +245,8 @@ private:
     CoursCall call() const {
         if (build_->parsed())
             return buildCall();
+        if (check_->parsed())
+            return checkWords_.call();
         if (extract_->parsed())
             return extractCall();
         if (dump_->parsed())
@@ -393,7 +400,9 @@ private:
 
     CLI::App app_;
     Typed typed_;
+    CheckWords checkWords_;
     CLI::App* build_ = nullptr;
+    CLI::App* check_ = nullptr;
     CLI::App* extract_ = nullptr;
     CLI::App* dump_ = nullptr;
     CLI::App* trace_ = nullptr;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "authoring/check/check_request.h"
 #include "calculator/calc_command.h"
 #include "coursetool/drawing_request.h"
 #include "coursetool/exit_code.h"
@@ -32,6 +33,7 @@ using RenderCall = coursetool::RenderRequest;
 using CalcCall = calculator::CalcOptions;
 using PrintCall = coursetool::PrintRequest;
 using SearchCall = coursetool::SearchRequest;
+using CheckCall = authoring::check::CheckRequest;
 using AnswerCall = exercises::AnswerOptions;
 struct SymbolsCall {
     std::filesystem::path course; ///< empty: the symbols of the program alone
@@ -46,8 +48,9 @@ struct WrongCall {
     int status = static_cast<int>(coursetool::ExitCode::WrongCall);
 };
 
-using CoursCall = std::variant<BuildCall, ExtractCall, DumpCall, TraceCall, RenderCall, SymbolsCall,
-                               PrintCall, SearchCall, CalcCall, AnswerCall, ShowText, WrongCall>;
+using CoursCall =
+    std::variant<BuildCall, ExtractCall, DumpCall, TraceCall, RenderCall, SymbolsCall, PrintCall,
+                 SearchCall, CheckCall, CalcCall, AnswerCall, ShowText, WrongCall>;
 
 /// Reads the command line. Directories and files that must be there are; an output directory of
 /// `extract` is empty or not there yet.

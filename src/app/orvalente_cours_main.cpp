@@ -29,8 +29,18 @@ struct Perform {
     OutputBuffer out{stdout};
 
     int operator()(const app::BuildCall& call) {
-        coursetool::build(call.source, call.output, report);
+        namespace check = authoring::check;
+        if (coursetool::build(call.source, call.output, report))
+            if (const auto warn =
+                    drawing<check::BuildWarningsFunction>(check::kBuildWarningsSymbol))
+                warn(argc, argv, call.source, report);
         return verdict();
+    }
+    int operator()(const app::CheckCall& call) {
+        namespace check = authoring::check;
+        const auto run = drawing<check::CheckFunction>(check::kCheckSymbol);
+        const bool faults = run && run(argc, argv, call, out, report);
+        return faults && !report.hasFaults() ? status(ExitCode::Faults) : verdict();
     }
     int operator()(const app::ExtractCall& call) {
         coursetool::extract(call.course, call.output, report);

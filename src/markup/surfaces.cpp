@@ -1,4 +1,5 @@
 #include "markup/arguments.h"
+#include "markup/columns.h"
 #include "markup/directives.h"
 #include "markup/renderer.h"
 
@@ -18,22 +19,22 @@ void drawOn(Renderer& renderer, page::Surface& surface) {
 
 /// What a name after "OBJ" leads to on screen.
 void chooseOnScreen(Renderer& renderer, QStringView name) {
-    if (name == u"TIT") {
+    if (name == kTitleName) {
         drawOn(renderer, renderer.window().titre());
         // The title stands there already; a page that draws its own wants an empty band.
         renderer.surface().clear();
-    } else if (name == u"ILLUS") {
+    } else if (name == kIllustrationName) {
         drawOn(renderer, renderer.window().pictureIllus());
-    } else if (name == u"PRINCIPAL") {
+    } else if (name == kColumnName) {
         drawOn(renderer, renderer.window().pictureTexte());
     }
 }
 
 /// Paper shows the text column only.
 void chooseOnPaper(Renderer& renderer, QStringView name) {
-    if (name == u"PRINCIPAL")
+    if (name == kColumnName)
         renderer.drawOnPaper();
-    else if (name == u"TIT" || name == u"ILLUS")
+    else if (name == kTitleName || name == kIllustrationName)
         renderer.drawNowhere();
 }
 
@@ -53,7 +54,7 @@ void chooseSurface(Renderer& renderer, QStringView d) {
         chooseOnPaper(renderer, name);
     else
         chooseOnScreen(renderer, name);
-    if (name == u"TAILLE") {
+    if (name == kHeightName) {
         page::Surface& surface = renderer.surface();
         renderer.check(surface.setHeightPx(surface.penY() / renderer.twipsPerPixel()),
                        kHeightRefused);
