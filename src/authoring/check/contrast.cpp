@@ -10,8 +10,6 @@ namespace authoring::check {
 namespace {
 
 constexpr QRgb kWhite = 0xffffffff;
-constexpr double kLargePoints = 18;
-constexpr double kLargeBoldPoints = 14;
 
 double channel(int value) {
     const double c = value / 255.;
@@ -34,11 +32,6 @@ double contrastOf(QRgb a, QRgb b) {
     const double first = luminance(a) + 0.05;
     const double second = luminance(b) + 0.05;
     return std::max(first, second) / std::min(first, second);
-}
-
-double leastContrast(const page::Font& font) {
-    const double large = font.bold ? kLargeBoldPoints : kLargePoints;
-    return font.points >= large ? 3 : 4.5;
 }
 
 Grounds::Grounds(const DrawnSource& drawn) : metrics_(drawn.metrics()) {

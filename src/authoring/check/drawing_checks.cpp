@@ -132,15 +132,14 @@ void faintInk(const DrawnSource& drawn, Findings& findings) {
     std::set<std::pair<const Source*, int>> told;
     for (const DrawnWords& words : drawn.words()) {
         const double ratio = grounds.contrast(words.text);
-        const double least = leastContrast(words.text.font);
-        if (ratio >= least || !told.insert({words.source, words.line}).second)
+        if (ratio >= kLeastContrast || !told.insert({words.source, words.line}).second)
             continue;
         findings.add(*words.source, words.line,
                      quoted(words.text.text) + " se lit mal : l’encre " +
                          QColor(words.text.ink).name().toStdString() + " n’a qu’un contraste de " +
                          QString::number(ratio, 'f', 1).replace(u'.', u',').toStdString() +
                          " avec son fond, il en faut " +
-                         QString::number(least, 'f', 1).replace(u'.', u',').toStdString());
+                         QString::number(kLeastContrast, 'f', 1).replace(u'.', u',').toStdString());
     }
 }
 

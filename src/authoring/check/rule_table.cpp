@@ -130,9 +130,9 @@ std::span<const Rule> ruleTable() {
          "dessous.",
          textBelowFoot},
         {"R305", "contraste-faible", Warning, "encre trop pâle",
-         "Le contraste du texte avec son fond est plus faible que ne le demandent les règles "
-         "d’accessibilité : 4,5, ou 3 à partir de 18 points (14 en gras). Les encres 008 et 009 "
-         "sont des encres de titre.",
+         "Le contraste du texte avec son fond est plus faible que 3 (de 1, invisible, à 21, noir "
+         "sur blanc) : personne ne le lit sans peine. Sur du blanc, c’est le cas des encres 007, "
+         "009, 012 et 014.",
          faintInk},
         {"R306", "directive-abandonnee", Fault, "directive abandonnée",
          "Le programme n’a pas pu faire ce que dit la ligne : une valeur sort des limites.",
