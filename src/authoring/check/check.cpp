@@ -139,6 +139,9 @@ void dropSilenced(const Course& course, const std::set<std::string>& ignored,
     });
 }
 
+/// The rule that only repeats what the renderer says.
+constexpr std::string_view kAbandoned = "directive-abandonnee";
+
 /// A statement that was abandoned says less than the rule that knows why.
 void dropExplained(std::vector<Finding>& findings) {
     const auto placeOf = [](const Finding& finding) {
@@ -146,10 +149,10 @@ void dropExplained(std::vector<Finding>& findings) {
     };
     std::set<std::tuple<std::string, std::string, int>> explained;
     for (const Finding& finding : findings)
-        if (finding.rule->code.front() == 'L')
+        if (finding.rule->name != kAbandoned)
             explained.insert(placeOf(finding));
     std::erase_if(findings, [&](const Finding& finding) {
-        return finding.rule->name == "directive-abandonnee" && explained.contains(placeOf(finding));
+        return finding.rule->name == kAbandoned && explained.contains(placeOf(finding));
     });
 }
 

@@ -54,6 +54,9 @@ bool isWellShaped(QStringView directive) {
         return isNumeral(argument, true, true);
     case Argument::Cell:
         return isCell(argument);
+    case Argument::SizedFile:
+        return argument.size() > markup::kPictureSizeLength &&
+               isNumeral(argument.last(markup::kPictureSizeLength), false, false);
     case Argument::Halves:
     case Argument::Link:
     case Argument::TippedLink:

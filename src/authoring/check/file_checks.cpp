@@ -1,5 +1,6 @@
 #include "authoring/check/file_checks.h"
 
+#include "authoring/check/directive_shape.h"
 #include "authoring/check/walk.h"
 #include "coursetool/paths.h"
 #include "markup/directives.h"
@@ -20,8 +21,7 @@ namespace {
 QStringView pictureNamed(const Line& line) {
     if (line.runs(markup::pictureOverText, markup::pictureAboveText))
         return line.argument();
-    if (line.runs(markup::pictureOfGivenSize) &&
-        line.argument().size() > markup::kPictureSizeLength)
+    if (line.runs(markup::pictureOfGivenSize) && isWellShaped(line.directive))
         return line.argument().chopped(markup::kPictureSizeLength);
     return {};
 }

@@ -196,8 +196,9 @@ void pageNobodyLeadsTo(const Course& course, Findings& findings) {
                 if (const auto number = pageIn(line))
                     reached.insert(course.page(*number));
     for (const Page& page : course.pages)
+        // A page that another one hides by having its number is that rule's business.
         if (!reached.contains(&page) &&
-            course.page(page.record.number("Numeropage").value_or(-1)) &&
+            course.page(page.record.number("Numeropage").value_or(-1)) == &page &&
             !titles.contains(page.record.text("titre").value_or(QString())))
             findings.add(page.record, "Numeropage",
                          "rien ne mène à cette page : ni lien, ni sommaire, ni page voisine");
