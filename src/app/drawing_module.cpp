@@ -59,10 +59,9 @@ extern "C" Q_DECL_EXPORT void orvalentePrint(int& argc, char** argv,
     coursetool::print(request, ground.fonts, pictures, report);
 }
 
-extern "C" Q_DECL_EXPORT bool orvalenteCheck(int& argc, char** argv,
-                                             const authoring::check::CheckRequest& request,
-                                             coursetool::OutputBuffer& out,
-                                             coursetool::Report& report) {
+extern "C" Q_DECL_EXPORT coursetool::ExitCode
+orvalenteCheck(int& argc, char** argv, const authoring::check::CheckRequest& request,
+               coursetool::OutputBuffer& out, coursetool::Report& report) {
     const Ground ground(argc, argv);
     return authoring::check::check(request, ground.fonts, out, report);
 }

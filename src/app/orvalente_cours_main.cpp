@@ -39,8 +39,8 @@ struct Perform {
     int operator()(const app::CheckCall& call) {
         namespace check = authoring::check;
         const auto run = drawing<check::CheckFunction>(check::kCheckSymbol);
-        const bool faults = run && run(argc, argv, call, out, report);
-        return faults && !report.hasFaults() ? status(ExitCode::Faults) : verdict();
+        const ExitCode code = run ? run(argc, argv, call, out, report) : ExitCode::Fine;
+        return report.hasFailures() || code == ExitCode::Fine ? verdict() : status(code);
     }
     int operator()(const app::ExtractCall& call) {
         coursetool::extract(call.course, call.output, report);

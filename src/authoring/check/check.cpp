@@ -12,6 +12,8 @@
 
 namespace authoring::check {
 
+using coursetool::ExitCode;
+
 namespace {
 
 using coursetool::Remark;
@@ -156,19 +158,21 @@ void dropExplained(std::vector<Finding>& findings) {
     });
 }
 
-/// False, for there is no course to find faults in.
-bool explain(const std::string& code, coursetool::OutputBuffer& out, coursetool::Report& report) {
+ExitCode explain(const std::string& code, coursetool::OutputBuffer& out,
+                 coursetool::Report& report) {
     const Rule* rule = findRule(code);
     if (code == kAllRules)
         out.text() += listOfRules();
     else if (rule)
         out.text() += explanationOf(*rule);
-    else
+    else {
         report.fault({code}, "aucune règle ne porte ce code : « --explain toutes » en donne la "
                              "liste");
+        return ExitCode::WrongCall;
+    }
     if (!out.flush())
         report.outputFailure(out.error());
-    return false;
+    return ExitCode::Fine;
 }
 
 bool hasFault(const std::vector<Finding>& findings) {
@@ -194,14 +198,14 @@ std::vector<Finding> findingsIn(const CheckRequest& request, const page::TextMet
     return findings;
 }
 
-bool check(const CheckRequest& request, const page::TextMetrics& metrics,
-           coursetool::OutputBuffer& out, coursetool::Report& report) {
+ExitCode check(const CheckRequest& request, const page::TextMetrics& metrics,
+               coursetool::OutputBuffer& out, coursetool::Report& report) {
     if (!request.explained.empty())
         return explain(request.explained, out, report);
     if (request.fix && isInstalledCourse(request.course)) {
         report.fault({coursetool::shown(request.course)},
                      "« --fix » corrige des sources, et ceci est un cours installé");
-        return true;
+        return ExitCode::WrongCall;
     }
     std::vector<Finding> findings = findingsIn(request, metrics);
     if (request.fix)
@@ -214,7 +218,7 @@ bool check(const CheckRequest& request, const page::TextMetrics& metrics,
     writeFindings(findings, request.format, out);
     if (!out.flush())
         report.outputFailure(out.error());
-    return hasFault(findings);
+    return hasFault(findings) ? ExitCode::Faults : ExitCode::Fine;
 }
 
 void warnOfWrongPages(const std::filesystem::path& source, const page::TextMetrics& metrics,

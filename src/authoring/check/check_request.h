@@ -1,6 +1,7 @@
 #pragma once
 
 #include "coursetool/drawing_request.h"
+#include "coursetool/exit_code.h"
 
 #include <filesystem>
 #include <set>
@@ -26,9 +27,11 @@ inline constexpr char kAllRules[] = "toutes";
 
 // Functions of the module that draws (coursetool/drawing_request.h).
 
-/// Writes the findings to `out`; true when there is a fault among them.
-using CheckFunction = bool (*)(int& argc, char** argv, const CheckRequest& request,
-                               coursetool::OutputBuffer& out, coursetool::Report& report);
+/// Writes the findings to `out`. WrongCall for a code that no rule has, and for an installed course
+/// that is to be mended.
+using CheckFunction = coursetool::ExitCode (*)(int& argc, char** argv, const CheckRequest& request,
+                                               coursetool::OutputBuffer& out,
+                                               coursetool::Report& report);
 inline constexpr char kCheckSymbol[] = "orvalenteCheck";
 
 /// Warns of what makes pages of the sources wrong and does not keep them from being built.

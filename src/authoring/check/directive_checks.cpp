@@ -12,16 +12,6 @@ namespace {
 
 using markup::Argument;
 
-/// The form that counts for exactly its keyword, which the line goes beyond; null for none.
-const markup::Directive* wholeFormAhead(const Line& line) {
-    for (const markup::Directive& form : markup::directiveTable())
-        if (form.match == markup::Match::Whole && line.directive.startsWith(form.keyword) &&
-            line.directive != form.keyword &&
-            (!line.what || line.what->keyword.size() < form.keyword.size()))
-            return &form;
-    return nullptr;
-}
-
 std::string named(const Line& line) {
     return coursetool::inQuotes("##" + line.what->keyword.toString().toStdString());
 }
@@ -38,7 +28,7 @@ bool isWordOfCapitals(QStringView text) {
 } // namespace
 
 void unknownDirective(const Source& source, const Line& line, Findings& findings) {
-    if (!line.isDirective || line.what || wholeFormAhead(line))
+    if (!line.isDirective || line.what || line.wholeAhead)
         return;
     std::string sentence = quoted(line.text) + " n’est pas une directive : rien ne se passe";
     const auto meant = suggestionFor(line.directive);
@@ -49,7 +39,7 @@ void unknownDirective(const Source& source, const Line& line, Findings& findings
 }
 
 void wholeDirectiveWithMore(const Source& source, const Line& line, Findings& findings) {
-    const markup::Directive* form = line.isDirective ? wholeFormAhead(line) : nullptr;
+    const markup::Directive* const form = line.wholeAhead;
     if (!form)
         return;
     const QString keyword = withMark(form->keyword.toString());
@@ -61,7 +51,7 @@ void wholeDirectiveWithMore(const Source& source, const Line& line, Findings& fi
 }
 
 void textAfterBareDirective(const Source& source, const Line& line, Findings& findings) {
-    if (!line.what || line.what->argument != Argument::None || wholeFormAhead(line))
+    if (!line.what || line.what->argument != Argument::None || line.wholeAhead)
         return;
     const QStringView rest = line.argument();
     if (!rest.trimmed().isEmpty())
@@ -84,7 +74,7 @@ bool isAccident(const Line& line) {
 
 bool isNumber(const Line& line) {
     return line.what && line.what->argument == Argument::Number && !isAccident(line) &&
-           !wholeFormAhead(line);
+           !line.wholeAhead;
 }
 
 bool isNumeralOf(const markup::Columns& columns, QStringView text) {
@@ -207,13 +197,13 @@ void valueWithoutEffect(const Source& source, const Line& line, Findings& findin
 }
 
 void prefixAccident(const Source& source, const Line& line, Findings& findings) {
-    if (!line.what || wholeFormAhead(line))
+    if (!line.what || line.wholeAhead)
         return;
     // Words that people write for the keyword they begin with.
     static constexpr QStringView kWords[] = {u"INDICE",  u"EXPOSANT", u"IMAGE",
                                              u"TABLEAU", u"FRACTION", u"POLYGONE"};
     const bool isWord = std::any_of(std::begin(kWords), std::end(kWords), [&](QStringView word) {
-        return line.directive.startsWith(word) &&
+        return line.directive.front() == word.front() && line.directive.startsWith(word) &&
                isWordOfCapitals(line.directive.first(word.size())) &&
                (line.directive.size() == word.size() || !line.directive[word.size()].isLower());
     });

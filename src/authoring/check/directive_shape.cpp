@@ -39,10 +39,10 @@ ReadNumber readNumber(QStringView text) {
 }
 
 bool isWellShaped(QStringView directive) {
-    const auto forms = formsOf(directive);
-    if (forms.empty())
+    const markup::Directive* const found = formOf(directive);
+    if (!found)
         return false;
-    const markup::Directive& form = *forms.front();
+    const markup::Directive& form = *found;
     const QStringView argument = directive.sliced(form.keyword.size());
     switch (form.argument) {
     case Argument::None:

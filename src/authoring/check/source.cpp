@@ -1,7 +1,5 @@
 #include "authoring/check/source.h"
 
-#include <algorithm>
-
 namespace authoring::check {
 
 namespace {
@@ -11,14 +9,17 @@ constexpr QStringView kDirectiveMark = u"##";
 constexpr QChar kParagraphEnd = u'\u00B6';
 
 Line readLine(QStringView text, int number) {
-    Line line{number, text, text.startsWith(kDirectiveMark), {}, nullptr};
-    if (line.isDirective) {
-        line.directive = text.sliced(kDirectiveMark.size());
-        for (const markup::Directive& form : markup::directiveTable())
-            if (form.matches(line.directive) &&
-                (!line.what || form.keyword.size() > line.what->keyword.size()))
-                line.what = &form;
-    }
+    Line line{number, text, text.startsWith(kDirectiveMark), {}, nullptr, nullptr};
+    if (!line.isDirective || text.size() == kDirectiveMark.size())
+        return line;
+    line.directive = text.sliced(kDirectiveMark.size());
+    line.what = formOf(line.directive);
+    for (const markup::Directive& form : markup::directiveTable())
+        if (form.match == markup::Match::Whole && form.keyword.front() == line.directive.front() &&
+            line.directive.size() > form.keyword.size() &&
+            line.directive.startsWith(form.keyword) &&
+            (!line.what || line.what->keyword.size() < form.keyword.size()))
+            line.wholeAhead = &form;
     return line;
 }
 
@@ -54,15 +55,12 @@ int Source::fileLine(int number) const {
     return index < fileLines_.size() ? fileLines_[index] : start_.line + number - 1;
 }
 
-std::vector<const markup::Directive*> formsOf(QStringView directive) {
-    std::vector<const markup::Directive*> forms;
+const markup::Directive* formOf(QStringView directive) {
+    const markup::Directive* longest = nullptr;
     for (const markup::Directive& form : markup::directiveTable())
-        if (form.matches(directive))
-            forms.push_back(&form);
-    std::stable_sort(forms.begin(), forms.end(), [](const auto* a, const auto* b) {
-        return a->keyword.size() > b->keyword.size();
-    });
-    return forms;
+        if (form.matches(directive) && (!longest || form.keyword.size() > longest->keyword.size()))
+            longest = &form;
+    return longest;
 }
 
 } // namespace authoring::check

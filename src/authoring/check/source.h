@@ -17,6 +17,9 @@ struct Line {
     bool isDirective = false;
     QStringView directive;                   ///< what follows "##"
     const markup::Directive* what = nullptr; ///< the longest form that matches; null for none
+    /// The form that counts only for exactly its keyword, which the line goes beyond, when it is
+    /// longer than what matches; null for none.
+    const markup::Directive* wholeAhead = nullptr;
 
     /// What follows the keyword; the whole directive when it is none.
     QStringView argument() const {
@@ -66,7 +69,7 @@ private:
     std::vector<int> fileLines_; ///< by line, when they do not just follow each other
 };
 
-/// The forms of directive that match, the longest keyword first.
-std::vector<const markup::Directive*> formsOf(QStringView directive);
+/// The longest form that matches a directive, given without its "##"; null for none.
+const markup::Directive* formOf(QStringView directive);
 
 } // namespace authoring::check

@@ -26,7 +26,8 @@ struct Output : testing::Test {
         coursetool::Report report;
         auto request = course.request();
         request.format = format;
-        EXPECT_TRUE(authoring::check::check(request, CheckedCourse::fonts(), out, report));
+        EXPECT_EQ(authoring::check::check(request, CheckedCourse::fonts(), out, report),
+                  coursetool::ExitCode::Faults);
         std::rewind(stream);
         std::string text;
         for (int c; (c = std::fgetc(stream)) != EOF;)
@@ -89,7 +90,8 @@ TEST_F(Output, saysSoWhenThereIsNothingToSay) {
     std::FILE* stream = std::tmpfile();
     coursetool::OutputBuffer out(stream);
     coursetool::Report report;
-    EXPECT_FALSE(authoring::check::check(course.request(), CheckedCourse::fonts(), out, report));
+    EXPECT_EQ(authoring::check::check(course.request(), CheckedCourse::fonts(), out, report),
+              coursetool::ExitCode::Fine);
     EXPECT_EQ(std::ftell(stream), static_cast<long>(std::string("rien à redire\n").size()));
     std::fclose(stream);
 }
