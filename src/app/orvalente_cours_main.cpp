@@ -30,10 +30,17 @@ struct Perform {
 
     int operator()(const app::BuildCall& call) {
         namespace check = authoring::check;
-        if (coursetool::build(call.source, call.output, report))
-            if (const auto warn =
-                    drawing<check::BuildWarningsFunction>(check::kBuildWarningsSymbol))
-                warn(argc, argv, call.source, report);
+        if (!coursetool::build(call.source, call.output, report))
+            return verdict();
+        // The course stands. That nobody could look at its pages is worth a word, no more.
+        const auto found =
+            platform::loadModuleFunction(ORVALENTE_DRAWING_MODULE, check::kBuildWarningsSymbol);
+        if (found.address)
+            reinterpret_cast<check::BuildWarningsFunction>(found.address)(argc, argv, call.source,
+                                                                          report);
+        else
+            report.warning({ORVALENTE_DRAWING_MODULE},
+                           "les pages ne sont pas relues : " + found.reason);
         return verdict();
     }
     int operator()(const app::CheckCall& call) {
