@@ -281,7 +281,7 @@ TEST_F(Program, checksMendsAndExplains) {
     EXPECT_EQ(run("check src --ignore L104,N401").code, 0);
     const Outcome mended = run("check src --fix");
     EXPECT_EQ(mended.code, 1);
-    EXPECT_THAT(mended.out, StartsWith("src/pages/1.page:7:1: faute : "));
+    EXPECT_THAT(mended.out, StartsWith("1 ligne corrigée\nsrc/pages/1.page:7:1: faute : "));
     EXPECT_THAT(work.read("src/pages/1.page"), HasSubstr("##SI09\n"));
     EXPECT_THAT(run("check --explain N401").out, StartsWith("N401 (cible-sans-page), faute : "));
     EXPECT_THAT(run("check --explain toutes").out, HasSubstr("\nQ708  "));

@@ -198,6 +198,30 @@ std::vector<Finding> findingsIn(const CheckRequest& request, const page::TextMet
     return findings;
 }
 
+namespace {
+
+/// Gives how many lines it changed; `findings` are those that are left.
+std::size_t mend(const CheckRequest& request, const page::TextMetrics& metrics,
+                 std::vector<Finding>& findings, coursetool::Report& report) {
+    std::size_t all = 0;
+    for (int round = 0; round < kMostRounds; ++round) {
+        const std::size_t mended = applySafe(findings, request.course, report);
+        if (mended == 0)
+            break;
+        all += mended;
+        findings = findingsIn(request, metrics);
+    }
+    return all;
+}
+
+void tellMended(std::size_t lines, CheckFormat format, coursetool::OutputBuffer& out) {
+    if (lines > 0 && format == CheckFormat::Text)
+        out.text() +=
+            std::to_string(lines) + (lines == 1 ? " ligne corrigée\n" : " lignes corrigées\n");
+}
+
+} // namespace
+
 ExitCode check(const CheckRequest& request, const page::TextMetrics& metrics,
                coursetool::OutputBuffer& out, coursetool::Report& report) {
     if (!request.explained.empty())
@@ -209,12 +233,7 @@ ExitCode check(const CheckRequest& request, const page::TextMetrics& metrics,
     }
     std::vector<Finding> findings = findingsIn(request, metrics);
     if (request.fix)
-        for (int round = 0; round < kMostRounds; ++round) {
-            const std::size_t mended = applySafe(findings, request.course, report);
-            if (mended == 0)
-                break;
-            findings = findingsIn(request, metrics);
-        }
+        tellMended(mend(request, metrics, findings, report), request.format, out);
     writeFindings(findings, request.format, out);
     if (!out.flush())
         report.outputFailure(out.error());
