@@ -1,3 +1,4 @@
+#include "authoring/check/check.h"
 #include "coursetool/drawing_request.h"
 #include "coursetool/print.h"
 #include "coursetool/render.h"
@@ -56,4 +57,18 @@ extern "C" Q_DECL_EXPORT void orvalentePrint(int& argc, char** argv,
     const Ground ground(argc, argv);
     coursetool::ToolPictures pictures(request.course, request.drives, report);
     coursetool::print(request, ground.fonts, pictures, report);
+}
+
+extern "C" Q_DECL_EXPORT coursetool::ExitCode
+orvalenteCheck(int& argc, char** argv, const authoring::check::CheckRequest& request,
+               coursetool::OutputBuffer& out, coursetool::Report& report) {
+    const Ground ground(argc, argv);
+    return authoring::check::check(request, ground.fonts, out, report);
+}
+
+extern "C" Q_DECL_EXPORT void orvalenteBuildWarnings(int& argc, char** argv,
+                                                     const std::filesystem::path& source,
+                                                     coursetool::Report& report) {
+    const Ground ground(argc, argv);
+    authoring::check::warnOfWrongPages(source, ground.fonts, report);
 }

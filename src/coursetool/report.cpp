@@ -22,12 +22,13 @@ std::string locate(const Place& place) {
 
 void Report::fault(const Place& place, std::string_view sentence) {
     ++faults_;
-    add(place, sentence);
+    add(Remark::Kind::Fault, place, sentence);
 }
 
 void Report::failure(const Place& place, std::string_view sentence) {
+    ++faults_;
     ++failures_;
-    fault(place, sentence);
+    add(Remark::Kind::Failure, place, sentence);
 }
 
 void Report::failure(const std::filesystem::path& path, const char* what, std::error_code cause) {
@@ -35,15 +36,17 @@ void Report::failure(const std::filesystem::path& path, const char* what, std::e
 }
 
 void Report::warning(const Place& place, std::string_view sentence) {
-    add(place, std::string("avertissement : ").append(sentence));
+    add(Remark::Kind::Warning, place, sentence);
 }
 
 void Report::outputFailure(std::error_code error) {
     failure({"sortie standard"}, "tout n’a pas pu être écrit : " + files::causeOf(error));
 }
 
-void Report::add(const Place& place, std::string_view sentence) {
-    lines_.push_back(text::plainLine(locate(place).append(sentence)));
+void Report::add(Remark::Kind kind, const Place& place, std::string_view sentence) {
+    const char* const before = kind == Remark::Kind::Warning ? "avertissement : " : "";
+    lines_.push_back(text::plainLine(locate(place).append(before).append(sentence)));
+    remarks_.push_back({kind, place, std::string(sentence)});
 }
 
 std::string inQuotes(std::string_view words) {

@@ -17,6 +17,14 @@ struct Place {
     int column = 0;
 };
 
+/// What a report says of one place.
+struct Remark {
+    enum class Kind { Warning, Fault, Failure };
+    Kind kind;
+    Place place;
+    std::string sentence;
+};
+
 /// What a subcommand has to say about a course: one line each, French, "FILE:LINE:COLUMN: sentence"
 /// (a warning has "avertissement : " before its sentence). Whatever the words come from, a line is
 /// one line, and a terminal can be trusted with it.
@@ -35,14 +43,17 @@ public:
     bool hasFaults() const { return faults_ > 0; }
     bool hasFailures() const { return failures_ > 0; }
     std::size_t faultCount() const { return faults_; }
+    /// All that was said, as it was said; lines() is what to show of it.
+    const std::vector<Remark>& remarks() const { return remarks_; }
     /// In the order in which they were found.
     const std::vector<std::string>& lines() const { return lines_; }
 
 private:
-    void add(const Place& place, std::string_view sentence);
+    void add(Remark::Kind kind, const Place& place, std::string_view sentence);
 
     std::size_t faults_ = 0;
     std::size_t failures_ = 0;
+    std::vector<Remark> remarks_;
     std::vector<std::string> lines_;
 };
 

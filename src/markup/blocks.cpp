@@ -1,4 +1,5 @@
 #include "markup/arguments.h"
+#include "markup/columns.h"
 #include "markup/directives.h"
 #include "markup/renderer.h"
 #include "markup/tints.h"
@@ -52,21 +53,21 @@ void fonddegrade(Surface& surface, double top, double width, QRgb tint) {
 } // namespace
 
 void backgroundGradient(Renderer& renderer, QStringView d) {
-    const int style = text::toInt16(lastNumber(d, 1)).value_or(0);
+    const int style = text::toInt16(lastNumber(d, kTintStyle.count)).value_or(0);
     if (const auto tint = pageTint(style))
         fonddegrade(renderer.surface(), renderer.page().hauteurPage, renderer.fullWidth(), *tint);
 }
 
 void frameWidth(Renderer& renderer, QStringView d) {
     renderer.store(renderer.state().largeurCadre,
-                   kTwipsPerPixel * lastNumber(charactersFrom(d, 8), 3));
+                   kTwipsPerPixel * lastNumber(charactersFrom(d, 8), kLengthPx.count));
 }
 
 void drawFrame(Renderer& renderer, QStringView d) {
     DrawingState& state = renderer.state();
     Surface& surface = renderer.surface();
     std::int16_t height = 0;
-    if (!renderer.store(height, kTwipsPerPixel * lastNumber(charactersFrom(d, 5), 3)))
+    if (!renderer.store(height, kTwipsPerPixel * lastNumber(charactersFrom(d, 5), kLengthPx.count)))
         return;
     const QPointF pen = surface.pen();
     const double width =

@@ -1,4 +1,5 @@
 #include "markup/arguments.h"
+#include "markup/columns.h"
 #include "markup/directives.h"
 #include "markup/renderer.h"
 #include "page/link_view.h"
@@ -9,7 +10,6 @@ namespace markup {
 namespace {
 
 constexpr qsizetype kKeywordLength = 5;
-constexpr qsizetype kKeyLength = 2;
 
 /// Tag of a picture that opens a floating menu.
 constexpr char16_t kFloating[] = u"FLOTTANT";

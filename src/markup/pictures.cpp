@@ -1,4 +1,5 @@
 #include "markup/arguments.h"
+#include "markup/columns.h"
 #include "markup/directives.h"
 #include "markup/renderer.h"
 #include "page/twips.h"
@@ -11,8 +12,6 @@ namespace {
 
 constexpr qsizetype kKeywordLength = 3;
 constexpr qsizetype kSizedKeywordLength = 5;
-/// Width and height of a sized picture: three digits each, at the directive's end.
-constexpr qsizetype kSizeLength = 6;
 
 enum class Mode { OverText, AboveText, GivenSize };
 
@@ -57,7 +56,7 @@ void chargeimage(Renderer& renderer, const QString& nom, Mode mode, Size given) 
 } // namespace
 
 void symbolInLine(Renderer& renderer, QStringView d) {
-    const QString key = lastCharacters(d, 2).toString();
+    const QString key = lastCharacters(d, kKeyLength).toString();
     const auto picture = renderer.pictures().symbol(key);
     if (!picture)
         return;
@@ -77,9 +76,10 @@ void pictureAboveText(Renderer& renderer, QStringView d) {
 
 void pictureOfGivenSize(Renderer& renderer, QStringView d) {
     const QStringView argument = d.sliced(kSizedKeywordLength);
-    const QStringView digits = lastCharacters(argument, kSizeLength);
-    const Size given{givenLength(renderer, digits.first(qMin(digits.size(), kSizeLength / 2))),
-                     givenLength(renderer, lastCharacters(digits, kSizeLength / 2))};
+    const QStringView digits = lastCharacters(argument, kPictureSizeLength);
+    const Size given{
+        givenLength(renderer, digits.first(qMin(digits.size(), kPictureSizeLength / 2))),
+        givenLength(renderer, lastCharacters(digits, kPictureSizeLength / 2))};
     chargeimage(renderer, argument.chopped(digits.size()).toString(), Mode::GivenSize, given);
 }
 

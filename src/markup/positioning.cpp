@@ -1,4 +1,5 @@
 #include "markup/arguments.h"
+#include "markup/columns.h"
 #include "markup/directives.h"
 #include "markup/reasons.h"
 #include "markup/renderer.h"
@@ -27,20 +28,20 @@ void centrePenFor(Renderer& renderer, QStringView d) {
 }
 
 void setPenX(Renderer& renderer, QStringView d) {
-    const auto twips = pixelsToTwips(lastNumber(d, 3));
+    const auto twips = pixelsToTwips(lastNumber(d, kPlacePx.count));
     if (renderer.check(twips.has_value(), kPenOutside))
         renderer.surface().setPenX(*twips);
 }
 
 void movePenX(Renderer& renderer, QStringView d) {
     page::Surface& surface = renderer.surface();
-    const auto twips = pixelsToTwips(lastNumber(d, 3));
+    const auto twips = pixelsToTwips(lastNumber(d, kPlacePx.count));
     renderer.check(twips && surface.setPenX(surface.penX() + *twips), kPenOutside);
 }
 
 void movePenY(Renderer& renderer, QStringView d) {
     page::Surface& surface = renderer.surface();
-    const auto twips = pixelsToTwips(lastNumber(d, 3));
+    const auto twips = pixelsToTwips(lastNumber(d, kPlacePx.count));
     renderer.check(twips && surface.setPenY(surface.penY() + *twips), kPenOutside);
 }
 

@@ -160,7 +160,7 @@ void Renderer::tradcode(QStringView ligne) {
     const QStringView composed = page::composedText(d, buffer);
     for (const Directive& directive : directiveTable())
         if (directive.matches(d))
-            directive.run(*this, directive.argument == Argument::File ? d : composed);
+            directive.run(*this, directive.namesAFile() ? d : composed);
 }
 
 void Renderer::printTextLine(const QString& texte, bool finParagraphe) {

@@ -1,4 +1,5 @@
 #include "markup/arguments.h"
+#include "markup/columns.h"
 #include "markup/directives.h"
 #include "markup/qb_color.h"
 #include "markup/reasons.h"
@@ -71,7 +72,8 @@ QString pageFace(int number) {
 
 void fontSize(Renderer& renderer, QStringView d) {
     // Sizes are written with two digits: in "SI9" the last two characters are "I9", which is 0.
-    renderer.check(renderer.surface().setFontPoints(lastNumber(d, 2)), kFontSizeRefused);
+    renderer.check(renderer.surface().setFontPoints(lastNumber(d, kFontSize.count)),
+                   kFontSizeRefused);
 }
 
 void boldOn(Renderer& renderer, QStringView) {
@@ -111,7 +113,7 @@ void alignRight(Renderer& renderer, QStringView) {
 }
 
 void inkColour(Renderer& renderer, QStringView d) {
-    const auto number = text::toInt16(lastNumber(d, 3));
+    const auto number = text::toInt16(lastNumber(d, kInkNumber.count));
     if (!renderer.check(number.has_value(), u"le numéro de couleur est hors limites"))
         return;
     if (const auto ink = pageInk(*number))
@@ -119,7 +121,7 @@ void inkColour(Renderer& renderer, QStringView d) {
 }
 
 void fontFace(Renderer& renderer, QStringView d) {
-    const auto number = text::toInt16(lastNumber(d, 2));
+    const auto number = text::toInt16(lastNumber(d, kFaceNumber.count));
     if (!renderer.check(number.has_value(), u"le numéro de police est hors limites"))
         return;
     const QString face = pageFace(*number);
@@ -134,12 +136,12 @@ void fontFace(Renderer& renderer, QStringView d) {
 
 void textShadow(Renderer& renderer, QStringView d) {
     DrawingState& state = renderer.state();
-    renderer.store(state.reliefDecalage, page::leadingNumber(characterAt(d, 7)));
-    renderer.store(state.reliefCouleur, lastNumber(d, 2));
+    renderer.store(state.reliefDecalage, page::leadingNumber(characterAt(d, kShadowWidthAt)));
+    renderer.store(state.reliefCouleur, lastNumber(d, kPaletteNumber.count));
 }
 
 void lineSpacing(Renderer& renderer, QStringView d) {
-    const float factor = static_cast<float>(lastNumber(d, 4));
+    const float factor = static_cast<float>(lastNumber(d, kLineFactor.count));
     if (renderer.check(std::isfinite(factor), u"l’interligne est hors limites"))
         renderer.state().interligne = factor;
 }

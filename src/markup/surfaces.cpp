@@ -1,4 +1,5 @@
 #include "markup/arguments.h"
+#include "markup/columns.h"
 #include "markup/directives.h"
 #include "markup/reasons.h"
 #include "markup/renderer.h"
@@ -19,22 +20,22 @@ void drawOn(Renderer& renderer, page::SurfaceId surface) {
 
 /// What a name after "OBJ" leads to on screen.
 void chooseOnScreen(Renderer& renderer, QStringView name) {
-    if (name == u"TIT") {
+    if (name == kTitleName) {
         drawOn(renderer, page::SurfaceId::Titre);
         // The title stands there already; a page that draws its own wants an empty band.
         renderer.surface().clear();
-    } else if (name == u"ILLUS") {
+    } else if (name == kIllustrationName) {
         drawOn(renderer, page::SurfaceId::PictureIllus);
-    } else if (name == u"PRINCIPAL") {
+    } else if (name == kColumnName) {
         drawOn(renderer, page::SurfaceId::PictureTexte);
     }
 }
 
 /// Paper shows the text column only.
 void chooseOnPaper(Renderer& renderer, QStringView name) {
-    if (name == u"PRINCIPAL")
+    if (name == kColumnName)
         renderer.drawOn(renderer.surface(page::SurfaceId::Printer));
-    else if (name == u"TIT" || name == u"ILLUS")
+    else if (name == kTitleName || name == kIllustrationName)
         renderer.drawOn(renderer.nowhere());
 }
 
@@ -54,7 +55,7 @@ void chooseSurface(Renderer& renderer, QStringView d) {
         chooseOnPaper(renderer, name);
     else
         chooseOnScreen(renderer, name);
-    if (name == u"TAILLE") {
+    if (name == kHeightName) {
         page::Surface& surface = renderer.surface();
         renderer.check(surface.setHeightPx(surface.penY() / page::kTwipsPerPixel), kHeightRefused);
     }

@@ -1,4 +1,5 @@
 #include "markup/arguments.h"
+#include "markup/columns.h"
 #include "markup/directives.h"
 #include "markup/qb_color.h"
 #include "markup/renderer.h"
@@ -52,7 +53,7 @@ void growRow(Renderer& renderer) {
 }
 
 void chooseBorder(Renderer& renderer, QStringView d, BorderEdge edge) {
-    const auto index = text::toInt16(lastNumber(d, 2));
+    const auto index = text::toInt16(lastNumber(d, kPaletteNumber.count));
     const auto ink = index ? qbColor(*index) : std::nullopt;
     if (renderer.check(ink.has_value(), u"la couleur n’est pas dans la palette"))
         renderer.state().couleursBord.store(edge, *ink);
@@ -156,9 +157,11 @@ void openCell(Renderer& renderer, QStringView d) {
         storePenY(renderer, state.hautRangee);
         state.basRangee = 0;
     }
-    renderer.store(state.margeGauche, kTwipsPerPixel * numberAt(d, 4, 3) + kCellMargin);
-    renderer.store(state.margeDroite, kTwipsPerPixel * numberAt(d, 7, 3) - kCellMargin);
-    renderer.store(state.colonneCourante, numberAt(d, 10, 2));
+    renderer.store(state.margeGauche,
+                   kTwipsPerPixel * numberAt(d, kCellLeftAt, kCellEdgeLength) + kCellMargin);
+    renderer.store(state.margeDroite,
+                   kTwipsPerPixel * numberAt(d, kCellRightAt, kCellEdgeLength) - kCellMargin);
+    renderer.store(state.colonneCourante, numberAt(d, kCellNumberAt, kCellNumberLength));
     const auto edge = text::toInt16(state.margeGauche - kCellMargin);
     // A cell without a place in the table of edges opens all the same.
     renderer.check(edge && state.bordsColonne.store(state.colonneCourante, *edge),
@@ -188,7 +191,7 @@ void closeRowWithoutBorders(Renderer& renderer, QStringView) {
 
 void closeRowWithFill(Renderer& renderer, QStringView d) {
     const QRectF row = closeRow(renderer).normalized();
-    const int style = text::toInt16(lastNumber(d, 2)).value_or(0);
+    const int style = text::toInt16(lastNumber(d, kFillStyle.count)).value_or(0);
     Surface& surface = renderer.surface();
     if (style == kGradientStyle)
         fillWithGradient(surface, row);

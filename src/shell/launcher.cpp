@@ -95,6 +95,10 @@ const Message kNoUpdate = {
 
 } // namespace
 
+QString programOfCode(std::int16_t code) {
+    return programOf(code / 10);
+}
+
 Launcher::Launcher(SharedState& state, platform::Prompter& prompter,
                    platform::ProcessStarter& starter, platform::WindowActivator& activator,
                    ReportSink& reports)
@@ -123,7 +127,7 @@ void Launcher::launchModule(std::int16_t code) {
         return reportUnknown(code);
     // Written before anything else is known, also when nothing is started in the end: meant so.
     StatusFile(state_.StatusFilePath).write(StatusFile::kArgumentRecord, exerciseOf(code));
-    const QString program = programOf(module);
+    const QString program = programOfCode(code);
     if (program.isEmpty())
         return reportUnknown(code);
 

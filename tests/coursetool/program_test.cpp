@@ -285,8 +285,36 @@ TEST_F(Program, listsSymbolsAndTracesWithDrives) {
     EXPECT_THAT(missing.err, HasSubstr("« fig.svg » : image introuvable"));
 }
 
+TEST_F(Program, checksMendsAndExplains) {
+    const Outcome clean = run("check src");
+    EXPECT_EQ(clean.code, 0) << clean.out;
+    EXPECT_EQ(clean.out + clean.err, "rien à redire\n");
+    work.write("src/pages/1.page",
+               "+++\nNumeropage = 1\ntitre = \"Un\"\n+++\n##SI9\nA¶\n##LIERTlà#PAG777\n¶\n");
+    const Outcome wrong = run("check src --json");
+    EXPECT_EQ(wrong.code, 1);
+    EXPECT_THAT(wrong.out, StartsWith("{\"code\":\"L104\","));
+    EXPECT_EQ(run("check src --ignore L104,N401").code, 0);
+    const Outcome mended = run("check src --fix");
+    EXPECT_EQ(mended.code, 1);
+    EXPECT_THAT(mended.out, StartsWith("1 ligne corrigée\nsrc/pages/1.page:7:1: faute : "));
+    EXPECT_THAT(work.read("src/pages/1.page"), HasSubstr("##SI09\n"));
+    EXPECT_THAT(run("check --explain N401").out, StartsWith("N401 (cible-sans-page), faute : "));
+    EXPECT_THAT(run("check --explain toutes").out, HasSubstr("\nQ708  "));
+    for (const char* call : {"check", "check nulle-part", "check src --format xml",
+                             "check src --json --format sarif", "check --explain X001"})
+        EXPECT_EQ(run(call).code, 2) << call;
+    // What makes a page wrong does not keep it from being built.
+    const Outcome built = run("build src -o out");
+    EXPECT_EQ(built.code, 0);
+    EXPECT_THAT(built.err, StartsWith("src/pages/1.page:7:1: avertissement : "));
+    EXPECT_THAT(built.err, HasSubstr("[N401]\n"));
+    EXPECT_EQ(run("check out").code, 1);
+    EXPECT_EQ(run("check out --fix").code, 2);
+}
+
 TEST_F(Program, helpsInFrench) {
-    for (const char* call : {"--help", "build --help", "trace -h"}) {
+    for (const char* call : {"--help", "build --help", "check --help", "trace -h"}) {
         const Outcome help = run(call);
         EXPECT_EQ(help.code, 0);
         EXPECT_THAT(help.out, HasSubstr("Usage : orvalente-cours"));

@@ -2,7 +2,9 @@
 
 #include "app/subcommands/checked_paths.h"
 #include "app/subcommands/subcommand.h"
+#include "authoring/check/check_request.h"
 #include "coursetool/paths.h"
+#include "platform/module.h"
 
 namespace app {
 
@@ -30,8 +32,23 @@ struct Build : Subcommand {
     }
 
     int run(ToolRun& run) override {
-        coursetool::build(pathFrom(source), pathFrom(output), run.report);
+        if (coursetool::build(pathFrom(source), pathFrom(output), run.report))
+            warnOfWrongPages(run);
         return run.verdict();
+    }
+
+private:
+    /// The course stands. That nobody could look at its pages is worth a word, no more.
+    void warnOfWrongPages(ToolRun& run) const {
+        namespace check = authoring::check;
+        const auto found =
+            platform::loadModuleFunction(ORVALENTE_DRAWING_MODULE, check::kBuildWarningsSymbol);
+        if (found.address)
+            reinterpret_cast<check::BuildWarningsFunction>(found.address)(
+                run.argc, run.argv, pathFrom(source), run.report);
+        else
+            run.report.warning({ORVALENTE_DRAWING_MODULE},
+                               "les pages ne sont pas relues : " + found.reason);
     }
 };
 

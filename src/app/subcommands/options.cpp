@@ -78,18 +78,24 @@ void Options::output(const char* kind, std::string& path, const char* descriptio
     option("-o,--output", kind, path, description);
 }
 
-void Options::drives(std::vector<std::string>& drives) {
+void Options::option(const char* names, const char* kind, std::vector<std::string>& values,
+                     const std::string& description) {
     command_
         .add_option_function<std::vector<std::string>>(
-            "--drive",
-            [&drives](const std::vector<std::string>& read) {
-                for (const std::string& drive : read)
-                    drives.push_back(asTyped(drive));
+            names,
+            [&values](const std::vector<std::string>& read) {
+                for (const std::string& value : read)
+                    values.push_back(asTyped(value));
             },
-            "Donne la lettre de lecteur L à un dossier, plusieurs fois si besoin")
-        ->type_name("L=DOSSIER")
+            description)
+        ->type_name(kind)
         ->expected(1)
         ->take_all();
+}
+
+void Options::drives(std::vector<std::string>& drives) {
+    option("--drive", "L=DOSSIER", drives,
+           "Donne la lettre de lecteur L à un dossier, plusieurs fois si besoin");
 }
 
 } // namespace app

@@ -24,6 +24,9 @@ public:
     /// `names`: "--page" or "-o,--output"; `kind`: what the help calls the value.
     void option(const char* names, const char* kind, std::string& value,
                 const std::string& description);
+    /// One that may come several times; each time with one value.
+    void option(const char* names, const char* kind, std::vector<std::string>& values,
+                const std::string& description);
     void flag(const char* name, bool& value, const char* description);
 
     /// What the help says last.

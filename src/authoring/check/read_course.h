@@ -1,0 +1,21 @@
+#pragma once
+
+#include "authoring/check/course.h"
+#include "coursetool/report.h"
+
+#include <filesystem>
+#include <optional>
+
+namespace authoring::check {
+
+/// Whether a directory is an installed course: it holds Zekx.mdb, in any letter case.
+bool isInstalledCourse(const std::filesystem::path& directory);
+
+/// Reads the sources in a directory as `build` does. What `build` would refuse is reported; what
+/// can be read is there all the same.
+Course readSources(const std::filesystem::path& directory, coursetool::Report& report);
+
+/// Reads an installed course. Columns that the program does not read are nobody's fault.
+Course readInstallation(const std::filesystem::path& directory, coursetool::Report& report);
+
+} // namespace authoring::check
