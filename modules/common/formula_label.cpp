@@ -1,6 +1,6 @@
 #include "common/formula_label.h"
 
-#include "common/house.h"
+#include "look/palette.h"
 
 #include <QPainter>
 
@@ -8,22 +8,18 @@ namespace common {
 
 FormulaLabel::FormulaLabel(const QString& formula, const QString& spoken, int pixels,
                            QWidget* parent)
-    : QWidget(parent), source_(formula), pixels_(pixels), formula_(formula, pixels), ink_(kInk) {
+    : QWidget(parent), source_(formula), pixels_(pixels), formula_(formula, pixels) {
     setAccessibleName(spoken);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 
-void FormulaLabel::setFormula(const QString& formula) {
+void FormulaLabel::setFormula(const QString& formula, const QString& spoken) {
     if (formula == source_)
         return;
     source_ = formula;
     formula_ = Formula(formula, pixels_);
+    setAccessibleName(spoken);
     updateGeometry();
-    update();
-}
-
-void FormulaLabel::setInk(QRgb ink) {
-    ink_ = ink;
     update();
 }
 
@@ -33,9 +29,10 @@ QSize FormulaLabel::sizeHint() const {
 
 void FormulaLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setPen(QColor::fromRgb(ink_));
+    painter.setPen(QColor::fromRgb(look::kInk));
     const double height = formula_.ascent() + formula_.descent();
-    formula_.paint(painter, {0, (this->height() - height) / 2 + formula_.ascent()});
+    const double left = alignment_ == Qt::AlignRight ? width() - formula_.width() : 0;
+    formula_.paint(painter, {left, (this->height() - height) / 2 + formula_.ascent()});
 }
 
 } // namespace common
