@@ -150,7 +150,7 @@ std::optional<Exercise> exerciseOf(const std::vector<Entry>& entries, QString& w
     Reader reader;
     for (const Entry& entry : entries) {
         if (!reader.take(entry)) {
-            why = QStringLiteral("la ligne %1 (« %2 ») n’a pas de sens.")
+            why = QStringLiteral("la ligne %1 («\u00A0%2\u00A0») n’a pas de sens.")
                       .arg(entry.line)
                       .arg(entry.key.left(20));
             return std::nullopt;

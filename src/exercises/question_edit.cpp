@@ -7,7 +7,7 @@ namespace {
 platform::Message failure(const QString& reason, const char16_t* consequence,
                           platform::Message::Buttons buttons) {
     return {.title = QStringLiteral("Question non enregistrée"),
-            .text = QStringLiteral("La question n’a pas été enregistrée : ") + reason +
+            .text = QStringLiteral("La question n’a pas été enregistrée\u00A0: ") + reason +
                     QStringLiteral(".\r\n\r\n") + QString::fromUtf16(consequence),
             .icon = platform::Message::Icon::Exclamation,
             .buttons = buttons};
@@ -39,7 +39,7 @@ QuestionEdit::Closing QuestionEdit::commitForClosing(const std::optional<QString
     if (!reason)
         return Closing::Written;
     const auto message =
-        failure(*reason, u"Fermer quand même ? Votre texte restera dans le presse-papiers.",
+        failure(*reason, u"Fermer quand même\u00A0? Votre texte restera dans le presse-papiers.",
                 platform::Message::Buttons::YesNo);
     return prompter_.ask(message) == platform::Answer::Yes ? Closing::Abandoned : Closing::Refused;
 }
