@@ -42,7 +42,7 @@ std::string colour(QRgb pixel) {
 
 class ButtonColours : public testing::TestWithParam<ButtonState> {};
 
-TEST_P(ButtonColours, AreThoseOfTheState) {
+TEST_P(ButtonColours, areThoseOfTheState) {
     const ButtonState& row = GetParam();
     QWidget window;
     QPalette palette;
@@ -109,7 +109,7 @@ protected:
     QStringList pressed;
 };
 
-TEST_F(Buttons, SharedMnemonicGivesTheFocusInTurnAndEnterOrSpaceActs) {
+TEST_F(Buttons, sharedMnemonicGivesTheFocusInTurnAndEnterOrSpaceActs) {
     QTest::keyClick(&window, Qt::Key_R, Qt::AltModifier);
     const auto* first = QApplication::focusWidget();
     QTest::keyClick(&window, Qt::Key_R, Qt::AltModifier);
@@ -124,7 +124,7 @@ TEST_F(Buttons, SharedMnemonicGivesTheFocusInTurnAndEnterOrSpaceActs) {
     EXPECT_EQ(pressed, (QStringList{QStringLiteral("Rechercher"), QStringLiteral("Crédits")}));
 }
 
-TEST_F(Buttons, MnemonicOfItsOwnActsAtOnceAndNotWhileDisabled) {
+TEST_F(Buttons, mnemonicOfItsOwnActsAtOnceAndNotWhileDisabled) {
     search.setEnabled(false);
     QTest::keyClick(&window, Qt::Key_R, Qt::AltModifier);
     EXPECT_EQ(pressed, QStringList{QStringLiteral("Crédits")});
@@ -134,7 +134,7 @@ TEST_F(Buttons, MnemonicOfItsOwnActsAtOnceAndNotWhileDisabled) {
     EXPECT_EQ(pressed.size(), 1);
 }
 
-TEST_F(Buttons, LastingMnemonicOutlivesTheCaption) {
+TEST_F(Buttons, lastingMnemonicOutlivesTheCaption) {
     search.setLastingMnemonic(u's');
     search.setCaption(QStringLiteral("Accueil"));
     QTest::keyClick(&window, Qt::Key_S, Qt::AltModifier);
@@ -142,7 +142,7 @@ TEST_F(Buttons, LastingMnemonicOutlivesTheCaption) {
     EXPECT_EQ(search.accessibleName(), QStringLiteral("Accueil"));
 }
 
-TEST_F(Buttons, UnderlinesMnemonicsOnlyWhileAltIsDown) {
+TEST_F(Buttons, underlinesMnemonicsOnlyWhileAltIsDown) {
     const QImage plain = painted(search);
     TextField field(&window);
     QPlainTextEdit text(&window);
@@ -171,7 +171,7 @@ struct Box {
 
 class MessageBoxes : public testing::TestWithParam<Box> {};
 
-TEST_P(MessageBoxes, OfferTheirButtonsAndAnswerToTheKeyboard) {
+TEST_P(MessageBoxes, offerTheirButtonsAndAnswerToTheKeyboard) {
     const Box& row = GetParam();
     const auto answerTo = [&row](auto leave) {
         MessageDialog dialog({QStringLiteral("Quitter"), QStringLiteral("Attention"),
@@ -212,7 +212,7 @@ INSTANTIATE_TEST_SUITE_P(
             Answer::Cancel}),
     [](const auto& row) { return std::string(row.param.name); });
 
-TEST(MessageDialog, TellsScreenReadersTitleAndText) {
+TEST(MessageDialog, tellsScreenReadersTitleAndText) {
     const MessageDialog dialog({QStringLiteral("Mise à jour"), QStringLiteral("un\r\ndeux"),
                                 Message::Icon::Information, Message::Buttons::Ok},
                                nullptr);
@@ -222,7 +222,7 @@ TEST(MessageDialog, TellsScreenReadersTitleAndText) {
     EXPECT_EQ(dialog.findChild<QLabel*>()->text(), QStringLiteral("un\ndeux"));
 }
 
-TEST(MessageDialog, ShowsTheSignOfItsKind) {
+TEST(MessageDialog, showsTheSignOfItsKind) {
     using Kind = Message::Icon;
     for (const auto& [kind, name] :
          {std::pair(Kind::Critical, "error"), std::pair(Kind::Question, "question"),
@@ -238,7 +238,7 @@ TEST(MessageDialog, ShowsTheSignOfItsKind) {
     }
 }
 
-TEST(MessageDialog, TakesNoWordsForMarkup) {
+TEST(MessageDialog, takesNoWordsForMarkup) {
     MessageDialog dialog({QStringLiteral("Titre"), test_support::kHostileWords,
                           Message::Icon::Information, Message::Buttons::Ok},
                          nullptr);
@@ -248,7 +248,7 @@ TEST(MessageDialog, TakesNoWordsForMarkup) {
 
 // Tooltips
 
-TEST(ToolTip, ShowsLongWordsInLinesAndVeryLongOnesInPart) {
+TEST(ToolTip, showsLongWordsInLinesAndVeryLongOnesInPart) {
     QLabel control;
     control.setTextFormat(Qt::PlainText);
     control.show();
@@ -269,7 +269,7 @@ TEST(ToolTip, ShowsLongWordsInLinesAndVeryLongOnesInPart) {
     EXPECT_EQ(tipSize(QStringLiteral("réfraction ").repeated(30'000)).width(), lines.width());
 }
 
-TEST(MessageDialog, GrowsSoThatTheWholeTextShows) {
+TEST(MessageDialog, growsSoThatTheWholeTextShows) {
     const auto heightFor = [](int words) {
         const MessageDialog dialog({QStringLiteral("Titre"),
                                     QStringLiteral("réfraction ").repeated(words),
@@ -283,7 +283,7 @@ TEST(MessageDialog, GrowsSoThatTheWholeTextShows) {
     EXPECT_GE(heightFor(80), 148 + 10 * 20);
 }
 
-TEST(DialogPrompter, WaitsForTheAnswer) {
+TEST(DialogPrompter, waitsForTheAnswer) {
     QTimer::singleShot(0, [] {
         QWidget* dialog = QApplication::activeModalWidget();
         EXPECT_TRUE(QTest::qWaitForWindowActive(dialog));
@@ -315,7 +315,7 @@ protected:
     ScrollBar bar{nullptr};
 };
 
-TEST_F(ScrollBars, ThumbStandsForThePartInView) {
+TEST_F(ScrollBars, thumbStandsForThePartInView) {
     EXPECT_EQ(bar.thumb(), QRectF(4, 16, 8, 25));
     bar.setValue(-900);
     EXPECT_EQ(bar.thumb(), QRectF(4, 91, 8, 25));
@@ -323,14 +323,14 @@ TEST_F(ScrollBars, ThumbStandsForThePartInView) {
     EXPECT_EQ(bar.thumb().height(), 24);
 }
 
-TEST_F(ScrollBars, ArrowsMoveByALineAndTheTrackByAScreen) {
+TEST_F(ScrollBars, arrowsMoveByALineAndTheTrackByAScreen) {
     EXPECT_EQ(after(5), -380);
     EXPECT_EQ(after(128), -420);
     EXPECT_EQ(after(20), -100);
     EXPECT_EQ(after(110), -700);
 }
 
-TEST_F(ScrollBars, ThumbFollowsThePointerUpToTheEnds) {
+TEST_F(ScrollBars, thumbFollowsThePointerUpToTheEnds) {
     QTest::mousePress(&bar, Qt::LeftButton, {}, {8, 20});
     QTest::mouseMove(&bar, {8, 20 + 25});
     EXPECT_EQ(bar.value(), -300);

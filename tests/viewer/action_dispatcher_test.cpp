@@ -24,7 +24,7 @@ protected:
     test_support::LogicBench bench{{page(3), page(1), page(5)}};
 };
 
-TEST_F(Actions, PageCodesLeadToTheRecordOfTheNumber) {
+TEST_F(Actions, pageCodesLeadToTheRecordOfTheNumber) {
     struct Row {
         QString code;
         QString shown;
@@ -48,14 +48,14 @@ TEST_F(Actions, PageCodesLeadToTheRecordOfTheNumber) {
         EXPECT_EQ(run(row.code), row.shown) << qPrintable(row.code);
 }
 
-TEST_F(Actions, OutOfBoundsRecordsThePageOnceMore) {
+TEST_F(Actions, outOfBoundsRecordsThePageOnceMore) {
     run(QStringLiteral("PAG003"));
     run(QStringLiteral("PAG900"));
     bench.actions.showPageByOrder(900);
     EXPECT_THAT(bench.history(), ElementsAre(3, 3, 3));
 }
 
-TEST_F(Actions, ReadingOrderHasItsOwnTable) {
+TEST_F(Actions, readingOrderHasItsOwnTable) {
     bench.cours.records = {page(3, {}, {{QStringLiteral("Index"), 7.0}}),
                            page(1, {}, {{QStringLiteral("Index"), 8.0}})};
     coursedata::buildPageIndex(bench.cours, bench.state);
@@ -75,7 +75,7 @@ TEST_F(Actions, ReadingOrderHasItsOwnTable) {
     }
 }
 
-TEST_F(Actions, NeighbourOfTheHighestIndexIsNone) {
+TEST_F(Actions, neighbourOfTheHighestIndexIsNone) {
     run(QStringLiteral("PAG001"));
     bench.state.CurrentOrderIndex = std::numeric_limits<std::int32_t>::max();
     bench.neighbours.log.clear();
@@ -83,7 +83,7 @@ TEST_F(Actions, NeighbourOfTheHighestIndexIsNone) {
     EXPECT_TRUE(bench.neighbours.log.isEmpty());
 }
 
-TEST_F(Actions, WithoutIndexThePageStays) {
+TEST_F(Actions, withoutIndexThePageStays) {
     run(QStringLiteral("PAG001"));
     bench.state.PageByNumber.reset();
     bench.state.PageByOrder.reset();
@@ -92,7 +92,7 @@ TEST_F(Actions, WithoutIndexThePageStays) {
     EXPECT_EQ(bench.shown(), QStringLiteral("1"));
 }
 
-TEST_F(Actions, OtherPrefixesLeaveThePageAlone) {
+TEST_F(Actions, otherPrefixesLeaveThePageAlone) {
     EXPECT_EQ(run(QStringLiteral("EXE235")), QStringLiteral("-"));
     EXPECT_THAT(bench.neighbours.log,
                 ElementsAre(QStringLiteral("launch 235"), QStringLiteral("normal pointer")));
@@ -103,7 +103,7 @@ TEST_F(Actions, OtherPrefixesLeaveThePageAlone) {
     EXPECT_THAT(bench.neighbours.log, ElementsAre(QStringLiteral("normal pointer")));
 }
 
-TEST_F(Actions, PendingChapterIsNeverOverwritten) {
+TEST_F(Actions, pendingChapterIsNeverOverwritten) {
     bench.actions.run(QStringLiteral("EXO012"));
     EXPECT_EQ(bench.state.PendingExerciseChapter, 12);
     bench.actions.run(QStringLiteral("EXO034"));
@@ -111,7 +111,7 @@ TEST_F(Actions, PendingChapterIsNeverOverwritten) {
     EXPECT_EQ(bench.neighbours.log.count(QStringLiteral("exercise")), 2);
 }
 
-TEST_F(Actions, ExerciseMayReplaceTheCodeByThePageToReturnTo) {
+TEST_F(Actions, exerciseMayReplaceTheCodeByThePageToReturnTo) {
     bench.neighbours.exercise.whileOpen = [this] { bench.state.ExerciseReturnPage = 7; };
     QString code = QStringLiteral("EXO001");
     bench.actions.runAction(code);

@@ -9,7 +9,7 @@ using page::LinkControl;
 using page::LinkOperation;
 using page::SurfaceId;
 
-TEST(LinkName, SaysWhatTheLinkSaysOrLeadsTo) {
+TEST(LinkName, saysWhatTheLinkSaysOrLeadsTo) {
     struct Row {
         LinkControl control;
         QString caption, face, tooltip, tag, name;
@@ -39,7 +39,7 @@ TEST(LinkName, SaysWhatTheLinkSaysOrLeadsTo) {
     }
 }
 
-TEST(LinkOrder, RunsAlongTheLines) {
+TEST(LinkOrder, runsAlongTheLines) {
     struct Place {
         SurfaceId surface;
         double x, y, height;

@@ -16,7 +16,7 @@ using test_support::Links;
 using test_support::page;
 using testing::ElementsAre;
 
-TEST_F(Links, StandInTheTextAsIfThePageHadPrintedThem) {
+TEST_F(Links, standInTheTextAsIfThePageHadPrintedThem) {
     struct Row {
         QString plain, linked;
     };
@@ -40,7 +40,7 @@ TEST_F(Links, StandInTheTextAsIfThePageHadPrintedThem) {
 
 /// A page looks the same further down and with room below it: its edges cut nothing, neither
 /// accents nor feet, nor a border.
-TEST_F(Links, EdgesOfThePageCutNoInk) {
+TEST_F(Links, edgesOfThePageCutNoInk) {
     QWidget* const panel = bench.control<QWidget>("framekx")->parentWidget();
     const auto grab = [&](int below, int height) {
         return panel->grab(QRect(2, 2 + below, 612, height)).toImage();
@@ -71,7 +71,7 @@ TEST_F(Links, EdgesOfThePageCutNoInk) {
 
 /// In the band of the title and in the frame of the illustration, what rises above a first line
 /// shows as further down, as far as there is room.
-TEST_F(Links, TitleAndIllustrationShowWhatRises) {
+TEST_F(Links, titleAndIllustrationShowWhatRises) {
     const auto columns = [&](const char* area, int top) {
         QWidget* const box = bench.control<QWidget>(area);
         const QRect band(box->mapTo(&bench.window, QPoint(10, top)), QSize(100, 1));
@@ -93,7 +93,7 @@ TEST_F(Links, TitleAndIllustrationShowWhatRises) {
     }
 }
 
-TEST_F(Links, ScrollWithThePageAndGoWithIt) {
+TEST_F(Links, scrollWithThePageAndGoWithIt) {
     show(3, u"##LIERTlien#PAG002\r\n¶\r\n"_qs + u"ligne¶\r\n"_qs.repeated(60));
     const QPoint before = link("Labelien(0)")->mapTo(&bench.window, QPoint());
     QTest::keyClick(&bench.window, Qt::Key_PageDown);
@@ -103,7 +103,7 @@ TEST_F(Links, ScrollWithThePageAndGoWithIt) {
     EXPECT_EQ(link("Labelien(1)"), nullptr) << "controls are made when they are needed";
 }
 
-TEST_F(Links, PicturesStandAtThePenAndAMissingKeyShowsAFrame) {
+TEST_F(Links, picturesStandAtThePenAndAMissingKeyShowsAFrame) {
     bench.pictures.symbols[u"aa"_qs] =
         std::make_shared<test_support::PlainPicture>(QSize(40, 30), Qt::red);
     show(3,
@@ -122,14 +122,14 @@ TEST_F(Links, PicturesStandAtThePenAndAMissingKeyShowsAFrame) {
     EXPECT_EQ(link("Imagelien(0)")->cursor().shape(), Qt::PointingHandCursor);
 }
 
-TEST_F(Links, PageIsAsTallAsItsLastLinkAndAnIllustrationOfLinksIsNotBlank) {
+TEST_F(Links, pageIsAsTallAsItsLastLinkAndAnIllustrationOfLinksIsNotBlank) {
     const QImage blank = picture("PICTUREILLUS");
     show(3, u"##PIY500\r\n##LIERTbas#PAG002\r\n##OBJILLUS\r\n##LIERIzzPAG002\r\n"_qs);
     EXPECT_GT(bench.control<QWidget>("PictureTEXTE")->height(), 510);
     EXPECT_NE(picture("PICTUREILLUS").pixel(100, 359), blank.pixel(100, 359));
 }
 
-TEST_F(Links, NobodyReachesALinkThatCannotBeSeen) {
+TEST_F(Links, nobodyReachesALinkThatCannotBeSeen) {
     page::LinkOperation link;
     link.caption = link.tag = u"PAG002"_qs;
     show(3, u"##LIERTvu#PAG002\r\n¶\r\n"_qs);
@@ -149,7 +149,7 @@ TEST_F(Links, NobodyReachesALinkThatCannotBeSeen) {
 
 // Clicks
 
-TEST_F(Links, ClickRunsTheTagUnderAnHourglass) {
+TEST_F(Links, clickRunsTheTagUnderAnHourglass) {
     write(3, u"##LIERTpage#PAG005\r\n##LIERTmodule#EXE070\r\n##LIERTrien#pag005\r\n"_qs);
     show(3);
     click("Labelien(1)");
@@ -171,7 +171,7 @@ TEST_F(Links, ClickRunsTheTagUnderAnHourglass) {
     EXPECT_EQ(link("Labelien(0)")->cursor().shape(), Qt::PointingHandCursor);
 }
 
-TEST_F(Links, TagAndPointerSurviveAPageTurnDuringTheirOwnClick) {
+TEST_F(Links, tagAndPointerSurviveAPageTurnDuringTheirOwnClick) {
     write(3, u"##LIERTvers quatre#PAG004\r\n"_qs);
     write(4, u"##LIERTvers cinq#PAG005\r\n"_qs);
     show(3);
@@ -184,7 +184,7 @@ TEST_F(Links, TagAndPointerSurviveAPageTurnDuringTheirOwnClick) {
     EXPECT_FALSE(link("Labelien(0)")->isVisible());
 }
 
-TEST_F(Links, PageAfterTheTestIsShownOnceWhoeverOpenedIt) {
+TEST_F(Links, pageAfterTheTestIsShownOnceWhoeverOpenedIt) {
     write(3, u"##LIERTtest#EXO002\r\n##LIERIzzEXO002\r\n##LIERFzz\r\n##ADMENtest#EXO002\r\n"_qs);
     const std::function<void()> callers[] = {
         [this] { click("Labelien(0)"); },
@@ -219,7 +219,7 @@ bool isHighlighted(const viewer::LinkWidget* link) {
     return link->link().font.bold && link->link().font.underline;
 }
 
-TEST_F(Links, OnlyTheLinkUnderThePointerIsHighlighted) {
+TEST_F(Links, onlyTheLinkUnderThePointerIsHighlighted) {
     show(3, u"##LIERTpremier#PAG002\r\n##LIERTsecond#PAG002\r\n##LIERIzzPAG002\r\n texte"_qs
             u"¶\r\n"_qs);
     const auto* first = link("Labelien(0)");
@@ -241,7 +241,7 @@ TEST_F(Links, OnlyTheLinkUnderThePointerIsHighlighted) {
     }
 }
 
-TEST_F(Links, AHoveredLinkCoversNothingThatFollowsIt) {
+TEST_F(Links, aHoveredLinkCoversNothingThatFollowsIt) {
     for (const QString& before : {u""_qs, u"##ITA1\r\n"_qs, u"##BOL1\r\n"_qs}) {
         show(3, before + u"##LIERTminimum imaginaire#PAG002\r\nlimite¶\r\n"_qs);
         const QRect place = link("Labelien(0)")
@@ -258,7 +258,7 @@ TEST_F(Links, AHoveredLinkCoversNothingThatFollowsIt) {
     }
 }
 
-TEST_F(Links, ALinkWrittenInBoldIsPlainOnceThePointerHasPassed) {
+TEST_F(Links, aLinkWrittenInBoldIsPlainOnceThePointerHasPassed) {
     show(3, u"##BOL1\r\n##LIERTgras#PAG002\r\n##LIERTautre#PAG002\r\n"_qs);
     EXPECT_TRUE(link("Labelien(0)")->link().font.bold);
     links.resetHighlight(1);
@@ -266,7 +266,7 @@ TEST_F(Links, ALinkWrittenInBoldIsPlainOnceThePointerHasPassed) {
     EXPECT_TRUE(link("Labelien(1)")->link().font.bold) << "the one kept stays as it is";
 }
 
-TEST_F(Links, AReusedLabelStartsWithoutUnderline) {
+TEST_F(Links, aReusedLabelStartsWithoutUnderline) {
     show(3, u"##LIERTun#PAG002\r\n"_qs);
     moveOver(link("Labelien(0)"));
     ASSERT_TRUE(isHighlighted(link("Labelien(0)")));
@@ -298,7 +298,7 @@ protected:
     }
 };
 
-TEST_F(FloatingMenus, ShowWhatThePageGaveThem) {
+TEST_F(FloatingMenus, showWhatThePageGaveThem) {
     write(3, u"##LIERFzz\r\n##ADMENun & deux#PAG004\r\n##LIER1haut\r\n##ADMENbas#PAG005\r\n"_qs
              u"##ADMENtrois#PAG006\r\n##LIERFzz\r\n"_qs);
     for (int time = 0; time < 3; ++time) {
@@ -311,7 +311,7 @@ TEST_F(FloatingMenus, ShowWhatThePageGaveThem) {
     EXPECT_THAT(menu("Imagelien(0)"), ElementsAre()) << "entries belong to their page";
 }
 
-TEST_F(FloatingMenus, ComeUpAtThePointerOrBelowThePictureForAKey) {
+TEST_F(FloatingMenus, comeUpAtThePointerOrBelowThePictureForAKey) {
     show(3, u"##PIX100\r\n##LIERFzz\r\n##ADMENquatre#PAG004\r\n"_qs);
     viewer::LinkWidget* picture = link("Imagelien(0)");
     const auto corner = [this] { return bench.control<QMenu>("flottant")->pos(); };
@@ -326,12 +326,12 @@ TEST_F(FloatingMenus, ComeUpAtThePointerOrBelowThePictureForAKey) {
     EXPECT_EQ(corner(), picture->mapToGlobal(QPoint(7, 9)));
 }
 
-TEST_F(FloatingMenus, AboveNumberTwentyIsEmpty) {
+TEST_F(FloatingMenus, aboveNumberTwentyIsEmpty) {
     show(3, u"##LIERIzzPAG002\r\n"_qs.repeated(21) + u"##LIERFzz\r\n##ADMENun#PAG004\r\n"_qs);
     EXPECT_THAT(menu("Imagelien(21)"), ElementsAre());
 }
 
-TEST_F(FloatingMenus, WorkWithTheKeyboard) {
+TEST_F(FloatingMenus, workWithTheKeyboard) {
     show(3, u"##LIERFzz\r\n##ADMENquatre#PAG004\r\n##ADMENcinq#PAG005\r\n"_qs);
     link("Imagelien(0)")->setFocus(Qt::TabFocusReason);
     press(Qt::Key_Space);
@@ -345,7 +345,7 @@ TEST_F(FloatingMenus, WorkWithTheKeyboard) {
 
 // Keyboard and screen readers
 
-TEST_F(Links, TabLeadsThroughThemInReadingOrder) {
+TEST_F(Links, tabLeadsThroughThemInReadingOrder) {
     // The second is placed first, an exponent stands above its line, the fourth is out of sight.
     show(3, u"##PIX300\r\n##LIERTdeux#PAG002\r\n##POX000\r\n##LIERTun#PAG002\r\n"_qs
             u"##PIY030\r\n##LIERTtrois#PAG002\r\n##PIY900\r\n##LIERIzzPAG004\r\n"_qs
@@ -367,7 +367,7 @@ TEST_F(Links, TabLeadsThroughThemInReadingOrder) {
     EXPECT_FALSE(ring->isVisible());
 }
 
-TEST_F(Links, RingOfALinkScrolledAwayIsGone) {
+TEST_F(Links, ringOfALinkScrolledAwayIsGone) {
     show(3, u"##LIERTlien#PAG002\r\n¶\r\n"_qs + u"ligne¶\r\n"_qs.repeated(60));
     link("Labelien(0)")->setFocus(Qt::TabFocusReason);
     const auto* ring = bench.control<QWidget>("focusRing");
@@ -378,7 +378,7 @@ TEST_F(Links, RingOfALinkScrolledAwayIsGone) {
     EXPECT_TRUE(ring->isVisible());
 }
 
-TEST_F(Links, ScreenReadersFindThemInTheTextAndByName) {
+TEST_F(Links, screenReadersFindThemInTheTextAndByName) {
     show(3, u"La \r\n##FONT01\r\n##LIERTabc#PAG002\r\n##FONT00\r\n est là¶\r\n"_qs
             u"##LIERXzzUne aide#PAG002\r\n##LIERIzzPAG012\r\n"_qs);
     const auto reader = [this](const char* name) {
@@ -403,7 +403,7 @@ TEST_F(Links, ScreenReadersFindThemInTheTextAndByName) {
 
 // Words
 
-TEST_F(Links, WordsOfACourseAreNeitherMarkupNorMnemonics) {
+TEST_F(Links, wordsOfACourseAreNeitherMarkupNorMnemonics) {
     const QString words = test_support::kHostileWords;
     bench.cours.records[2] = page(3,
                                   QStringLiteral("##LIERX") + "zz" + words + "#PAG002\r\n##LIERT" +

@@ -44,7 +44,7 @@ protected:
     bool isMarked() { return pixels(kMarkTint) + pixels(kCurrentMarkTint) > 0; }
 };
 
-TEST_F(Find, SearchesWhileTypingAndWalksByKeysAndButtons) {
+TEST_F(Find, searchesWhileTypingAndWalksByKeysAndButtons) {
     press(Qt::Key_F, Qt::ControlModifier);
     EXPECT_EQ(focused(), u"findField"_qs);
     EXPECT_EQ(status(), QString());
@@ -84,7 +84,7 @@ TEST_F(Find, SearchesWhileTypingAndWalksByKeysAndButtons) {
     EXPECT_FALSE(isMarked());
 }
 
-TEST_F(Find, EscapeGivesTheKeyboardBackToThePage) {
+TEST_F(Find, escapeGivesTheKeyboardBackToThePage) {
     const int view = bench.control<QWidget>("framekx")->height();
     press(Qt::Key_F3); // nothing is sought yet: the bar comes
     type(u"un p"_qs);
@@ -102,7 +102,7 @@ TEST_F(Find, EscapeGivesTheKeyboardBackToThePage) {
     EXPECT_FALSE(isOpen());
 }
 
-TEST_F(Find, StaysOpenForTheNextPageAndLeavesTheWindowItsKeys) {
+TEST_F(Find, staysOpenForTheNextPageAndLeavesTheWindowItsKeys) {
     press(Qt::Key_F, Qt::ControlModifier);
     type(u"prisme"_qs);
     bench.cours.records[1][u"fpc"_qs] = lines(40) + u"prisme¶\r\n"_qs;
@@ -123,7 +123,7 @@ TEST_F(Find, StaysOpenForTheNextPageAndLeavesTheWindowItsKeys) {
     EXPECT_EQ(shown(), u"5"_qs);
 }
 
-TEST_F(Find, WordsOfTheSearchWindowAreMarkedUntilAnotherPageComes) {
+TEST_F(Find, wordsOfTheSearchWindowAreMarkedUntilAnotherPageComes) {
     bench.neighbours.search.words = {{u"prisme"_qs, u"accentué"_qs}, false};
     bench.neighbours.search.window.whileOpen = [this] { bench.state.SearchChosenPage = 3; };
     bench.cours.records[2][u"fpc"_qs] = lines(40) + u"ACCENTUÉ, accentue¶\r\n"_qs;
@@ -157,7 +157,7 @@ TEST_F(Find, WordsOfTheSearchWindowAreMarkedUntilAnotherPageComes) {
     EXPECT_FALSE(isMarked());
 }
 
-TEST_F(Find, MarksAreCrispAndLeaveTheLettersDark) {
+TEST_F(Find, marksAreCrispAndLeaveTheLettersDark) {
     bench.cours.records[2][u"fpc"_qs] = u"un un¶\r\n"_qs;
     show(3);
     const int ink = pixels(kPageText);
@@ -182,7 +182,7 @@ TEST_F(Find, MarksAreCrispAndLeaveTheLettersDark) {
 }
 
 using test_support::Links;
-TEST_F(Links, ShowTheMarkBelowTheirCaption) {
+TEST_F(Links, showTheMarkBelowTheirCaption) {
     show(3, u"##LIERTun prisme#PAG002\r\n"_qs);
     const QImage plain = picture("PictureTEXTE");
     bench.window.markWords({{u"prisme"_qs}, true});

@@ -18,7 +18,7 @@ using test_support::page;
 using test_support::Window;
 using testing::ElementsAre;
 
-TEST_F(Window, MnemonicsPressTheirButtons) {
+TEST_F(Window, mnemonicsPressTheirButtons) {
     show(2);
     show(3);
     struct Row {
@@ -40,7 +40,7 @@ TEST_F(Window, MnemonicsPressTheirButtons) {
                             QStringLiteral("launch 70")));
 }
 
-TEST_F(Window, SearchAndCreditsShareAMnemonicAndBothWork) {
+TEST_F(Window, searchAndCreditsShareAMnemonicAndBothWork) {
     EXPECT_EQ(QApplication::focusWidget(), &bench.window); // no button is chosen from the start
     QSet<QString> reached;
     for (int time = 0; time < 2; ++time) {
@@ -52,7 +52,7 @@ TEST_F(Window, SearchAndCreditsShareAMnemonicAndBothWork) {
     EXPECT_EQ(shown(), QStringLiteral("161"));
 }
 
-TEST_F(Window, KeysWalkTheHistory) {
+TEST_F(Window, keysWalkTheHistory) {
     show(2);
     press(Qt::Key_Left, Qt::AltModifier);
     EXPECT_EQ(shown(), QStringLiteral("1"));
@@ -62,7 +62,7 @@ TEST_F(Window, KeysWalkTheHistory) {
     EXPECT_EQ(shown(), QStringLiteral("1"));
 }
 
-TEST_F(Window, KeysWheelAndBarScrollATallPage) {
+TEST_F(Window, keysWheelAndBarScrollATallPage) {
     auto* bar = bench.control<look::ScrollBar>("VScroll1");
     const int height = bench.control<QWidget>("PictureTEXTE")->height();
     const int furthest = height - 424;
@@ -108,7 +108,7 @@ TEST_F(Window, KeysWheelAndBarScrollATallPage) {
     EXPECT_EQ(scrolled(), 0);
 }
 
-TEST_F(Window, AClickInThePageGivesItTheKeyboard) {
+TEST_F(Window, aClickInThePageGivesItTheKeyboard) {
     show(2); // ends above the foot of the view
     const auto* page = bench.control<QWidget>("PictureTEXTE");
     auto* view = bench.control<QWidget>("framekx");

@@ -40,7 +40,7 @@ protected:
     }
 };
 
-TEST_F(Window, GivesInToAManagerThatRefusesItsSize) {
+TEST_F(Window, givesInToAManagerThatRefusesItsSize) {
     const StubbornManager manager(bench.window.windowHandle());
     for (int round = 0; round < 200; ++round)
         QApplication::processEvents();
@@ -53,7 +53,7 @@ TEST_F(Window, GivesInToAManagerThatRefusesItsSize) {
     EXPECT_EQ(shown(), u"30"_qs);
 }
 
-TEST(WindowStart, IsMaximisedWhereItsFrameHasNoRoom) {
+TEST(WindowStart, isMaximisedWhereItsFrameHasNoRoom) {
     for (const int height : {600, 601}) {
         test_support::WindowBench bench(test_support::course());
         bench.screen = test_support::FakeScreen(800, height);
@@ -62,7 +62,7 @@ TEST(WindowStart, IsMaximisedWhereItsFrameHasNoRoom) {
     }
 }
 
-TEST(WindowStart, GivesUpRowsOfThePageInALowWindow) {
+TEST(WindowStart, givesUpRowsOfThePageInALowWindow) {
     test_support::WindowBench bench(test_support::course());
     bench.window.show(); // before start-up, it has any size that it is given
     const auto bottomOf = [&](const char* name) {
@@ -80,7 +80,7 @@ TEST(WindowStart, GivesUpRowsOfThePageInALowWindow) {
     }
 }
 
-TEST(WindowStart, StandsUnderItsCoverUntilTheFirstPage) {
+TEST(WindowStart, standsUnderItsCoverUntilTheFirstPage) {
     test_support::WindowBench bench(test_support::pages(25'000));
     QTemporaryDir directory;
     QImage picture(100, 60, QImage::Format_RGB32);
@@ -120,7 +120,7 @@ TEST(WindowStart, StandsUnderItsCoverUntilTheFirstPage) {
     EXPECT_THAT(bench.history(), ElementsAre(1));
 }
 
-TEST(WindowStart, CoverIsNeverLargerThanThePageArea) {
+TEST(WindowStart, coverIsNeverLargerThanThePageArea) {
     viewer::Cover cover(nullptr);
     cover.resize(624, 440);
     QTemporaryDir directory;
@@ -135,7 +135,7 @@ TEST(WindowStart, CoverIsNeverLargerThanThePageArea) {
     EXPECT_TRUE(cover.rect().contains(cover.labelRect()));
 }
 
-TEST(WindowStart, EndsWhenStartUpSaysSo) {
+TEST(WindowStart, endsWhenStartUpSaysSo) {
     test_support::WindowBench bench(test_support::pages(3));
     bench.whileStarting = [] { return false; };
     EXPECT_FALSE(bench.start().started);
@@ -143,7 +143,7 @@ TEST(WindowStart, EndsWhenStartUpSaysSo) {
     EXPECT_EQ(bench.state.HistoryPos, 0);
 }
 
-TEST(WindowStart, ClosingMeanwhileEndsItWithoutAQuestion) {
+TEST(WindowStart, closingMeanwhileEndsItWithoutAQuestion) {
     test_support::WindowBench bench(test_support::pages(25'000));
     bench.whileStarting = [&] {
         QTimer::singleShot(0, [&] { bench.window.close(); });
@@ -154,7 +154,7 @@ TEST(WindowStart, ClosingMeanwhileEndsItWithoutAQuestion) {
     EXPECT_EQ(bench.state.HistoryPos, 0);
 }
 
-TEST(WindowStart, SizingByStartUpDoesNotArmTheRule) {
+TEST(WindowStart, sizingByStartUpDoesNotArmTheRule) {
     test_support::WindowBench bench(test_support::pages(3));
     bench.whileStarting = [&] {
         bench.window.setWidth(800 * 15);
@@ -167,7 +167,7 @@ TEST(WindowStart, SizingByStartUpDoesNotArmTheRule) {
     EXPECT_EQ(bench.state.DisplayWarningMode, 2); // the resize of appearing did
 }
 
-TEST(WindowStart, WithoutDatabaseShowsAnEmptyPage) {
+TEST(WindowStart, withoutDatabaseShowsAnEmptyPage) {
     test_support::WindowBench bench({});
     EXPECT_TRUE(bench.start().started);
     EXPECT_TRUE(bench.control<QWidget>("PictureTEXTE")->isVisibleTo(&bench.window));

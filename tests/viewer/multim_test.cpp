@@ -21,7 +21,7 @@ using test_support::page;
 using test_support::Window;
 using testing::ElementsAre;
 
-TEST_F(Window, OpensOnTheFirstPageWithEverythingInPlace) {
+TEST_F(Window, opensOnTheFirstPageWithEverythingInPlace) {
     EXPECT_TRUE(bench.started);
     EXPECT_THAT(bench.history(), ElementsAre(1));
     EXPECT_EQ(bench.window.size(), QSize(800, 600));
@@ -68,7 +68,7 @@ TEST_F(Window, OpensOnTheFirstPageWithEverythingInPlace) {
     EXPECT_EQ(bench.window.windowTitle(), QStringLiteral("Orvalente - KAROPE"));
 }
 
-TEST_F(Window, ButtonsAreCalledWhatTheyDo) {
+TEST_F(Window, buttonsAreCalledWhatTheyDo) {
     struct Row {
         const char* name;
         QString caption, toolTip;
@@ -120,7 +120,7 @@ TEST_F(Window, ButtonsAreCalledWhatTheyDo) {
     }
 }
 
-TEST_F(Window, EachButtonDoesWhatItSays) {
+TEST_F(Window, eachButtonDoesWhatItSays) {
     struct Row {
         const char* button;
         QString call; ///< what a neighbour was asked for, or
@@ -150,7 +150,7 @@ TEST_F(Window, EachButtonDoesWhatItSays) {
     }
 }
 
-TEST_F(Window, ButtonsThatAPageDoesNotOfferDoNothing) {
+TEST_F(Window, buttonsThatAPageDoesNotOfferDoNothing) {
     bench.neighbours.log.clear();
     for (const char* name : {"CommandIMPRIME", "avant", "apres"})
         click(name);
@@ -168,7 +168,7 @@ TEST_F(Window, ButtonsThatAPageDoesNotOfferDoNothing) {
     EXPECT_THAT(bench.neighbours.log, ElementsAre(QStringLiteral("print")));
 }
 
-TEST_F(Window, PageIsAsTallAsWhatWasDrawnOnIt) {
+TEST_F(Window, pageIsAsTallAsWhatWasDrawnOnIt) {
     struct Row {
         QString source;
         int height;
@@ -184,7 +184,7 @@ TEST_F(Window, PageIsAsTallAsWhatWasDrawnOnIt) {
     }
 }
 
-TEST_F(Window, SummaryButtonFollowsThePage) {
+TEST_F(Window, summaryButtonFollowsThePage) {
     auto* summary = bench.control("Command2");
     EXPECT_EQ(summary->text(), QStringLiteral("Accueil"));
     show(2);
@@ -198,13 +198,13 @@ TEST_F(Window, SummaryButtonFollowsThePage) {
     EXPECT_EQ(shown(), QStringLiteral("28"));
 }
 
-TEST_F(Window, SearchShowsThePageChosen) {
+TEST_F(Window, searchShowsThePageChosen) {
     bench.neighbours.search.window.whileOpen = [this] { bench.state.SearchChosenPage = 30; };
     click("command4");
     EXPECT_EQ(shown(), QStringLiteral("30"));
 }
 
-TEST_F(Window, ReturnToTheTestIsOneButton) {
+TEST_F(Window, returnToTheTestIsOneButton) {
     bench.state.ExerciseReturnPage = 12;
     bench.actions.run(QStringLiteral("EXO001"));
     for (const char* name : {"btexo", "Label16"}) {
@@ -219,13 +219,13 @@ TEST_F(Window, ReturnToTheTestIsOneButton) {
     EXPECT_EQ(shown(), QStringLiteral("12"));
 }
 
-TEST_F(Window, UpdateWaitsUntilNoModuleRuns) {
+TEST_F(Window, updateWaitsUntilNoModuleRuns) {
     bench.neighbours.updates.possible = false;
     click("Command8");
     EXPECT_FALSE(bench.neighbours.log.contains(QStringLiteral("installation")));
 }
 
-TEST_F(Window, PagesLeaveNothingBehind) {
+TEST_F(Window, pagesLeaveNothingBehind) {
     bench.cours.records[4] =
         page(5, QStringLiteral("##OBJILLUS\r\nIci¶\r\n##OBJTIT\r\nAutre¶\r\n##TITBARX\r\n"));
     auto* illustration = bench.control<QWidget>("PICTUREILLUS");
@@ -247,7 +247,7 @@ TEST_F(Window, PagesLeaveNothingBehind) {
     EXPECT_EQ(bench.window.windowTitle(), QStringLiteral("Orvalente - KAROPE"));
 }
 
-TEST_F(Window, LongTitlesStayWithinTheBand) {
+TEST_F(Window, longTitlesStayWithinTheBand) {
     for (const int words : {1, 5, 40}) {
         const QString title = QStringLiteral("La réfraction ").repeated(words).trimmed();
         bench.cours.records[4] = page(5, {}, {{QStringLiteral("titre"), title}});
@@ -265,7 +265,7 @@ TEST_F(Window, LongTitlesStayWithinTheBand) {
     }
 }
 
-TEST_F(Window, VideoFrameMakesTheViewShorterUntilTheNextPage) {
+TEST_F(Window, videoFrameMakesTheViewShorterUntilTheNextPage) {
     using Layout = viewer::Multim::VideoLayout;
     auto* view = bench.control<QWidget>("framekx");
     bench.window.setVideoLayout(Layout::Closed);
@@ -290,7 +290,7 @@ TEST_F(Window, VideoFrameMakesTheViewShorterUntilTheNextPage) {
     EXPECT_FALSE(bench.control<QWidget>("projo")->isVisible());
 }
 
-TEST_F(Window, ReportsShowUntilTheNextPage) {
+TEST_F(Window, reportsShowUntilTheNextPage) {
     auto* words = bench.control<QLabel>("status");
     bench.window.report(QStringLiteral("Le module est introuvable."));
     EXPECT_EQ(words->text(), QStringLiteral("Le module est introuvable."));
@@ -303,7 +303,7 @@ TEST_F(Window, ReportsShowUntilTheNextPage) {
     EXPECT_EQ(words->text(), QString());
 }
 
-TEST_F(Window, MovingThePointerResetsTheLinks) {
+TEST_F(Window, movingThePointerResetsTheLinks) {
     for (const char* name : {"framekx", "Framebase", "titre", "PictureTEXTE", "PICTUREILLUS"}) {
         bench.neighbours.links.highlightResets = 0;
         QTest::mouseMove(bench.control<QWidget>(name), {5, 5});
@@ -313,7 +313,7 @@ TEST_F(Window, MovingThePointerResetsTheLinks) {
     }
 }
 
-TEST_F(Window, LeavingAsksFirst) {
+TEST_F(Window, leavingAsksFirst) {
     bench.prompter.answers = {Answer::Cancel};
     click("Command14");
     ASSERT_EQ(bench.prompter.messages.size(), 1U);
@@ -331,7 +331,7 @@ TEST_F(Window, LeavingAsksFirst) {
                 ElementsAre(QStringLiteral("close video"), QStringLiteral("exit screen")));
 }
 
-TEST_F(Window, WorkDoesNotStartAnewAndClosingWaitsForItsEnd) {
+TEST_F(Window, workDoesNotStartAnewAndClosingWaitsForItsEnd) {
     bench.prompter.answers = {Answer::Ok};
     bench.neighbours.search.window.whileOpen = [this] {
         bench.neighbours.log.clear();
@@ -346,7 +346,7 @@ TEST_F(Window, WorkDoesNotStartAnewAndClosingWaitsForItsEnd) {
     EXPECT_EQ(shown(), QStringLiteral("1"));
 }
 
-TEST_F(Window, ScreenReadersFindNamesAndThePagesText) {
+TEST_F(Window, screenReadersFindNamesAndThePagesText) {
     for (const QWidget* control : bench.window.findChildren<QAbstractButton*>()) {
         auto* reader = QAccessible::queryAccessibleInterface(const_cast<QWidget*>(control));
         const QString name = reader->text(QAccessible::Name);
@@ -370,7 +370,7 @@ TEST_F(Window, ScreenReadersFindNamesAndThePagesText) {
     EXPECT_EQ(bar->role(), QAccessible::ScrollBar);
 }
 
-TEST_F(Window, ThePageKeepsTheKeyboardOverAPageChange) {
+TEST_F(Window, thePageKeepsTheKeyboardOverAPageChange) {
     auto* text = bench.control<QWidget>("PictureTEXTE");
     text->setFocus(Qt::TabFocusReason);
     press(Qt::Key_H, Qt::AltModifier);
@@ -378,7 +378,7 @@ TEST_F(Window, ThePageKeepsTheKeyboardOverAPageChange) {
     EXPECT_TRUE(text->hasFocus());
 }
 
-TEST_F(Window, ShowsTheHourglassWhileItWorks) {
+TEST_F(Window, showsTheHourglassWhileItWorks) {
     QList<Qt::CursorShape> shapes;
     const auto note = [&] { shapes.append(bench.window.cursor().shape()); };
     bench.neighbours.links.whileResetting = note;

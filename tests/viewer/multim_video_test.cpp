@@ -32,7 +32,7 @@ protected:
     }
 };
 
-TEST_F(VideoWindow, KeysWorkOnTheFrameAndItsButtons) {
+TEST_F(VideoWindow, keysWorkOnTheFrameAndItsButtons) {
     show(5);
     click("Image4_0"); // leads the keyboard here
     ASSERT_TRUE(frame()->hasFocus());
@@ -55,7 +55,7 @@ TEST_F(VideoWindow, KeysWorkOnTheFrameAndItsButtons) {
         << "the video goes with its page, the keyboard stays with the next one";
 }
 
-TEST_F(VideoWindow, PictureComesAndGoesUnderTheSamePage) {
+TEST_F(VideoWindow, pictureComesAndGoesUnderTheSamePage) {
     show(5);
     auto* bar = bench.control<QScrollBar>("VScroll1");
     QTest::qWait(0);
@@ -76,7 +76,7 @@ TEST_F(VideoWindow, PictureComesAndGoesUnderTheSamePage) {
     EXPECT_FALSE(frame()->isVisible());
 }
 
-TEST_F(VideoWindow, MenuOfThePictureLeadsToTheChosenPage) {
+TEST_F(VideoWindow, menuOfThePictureLeadsToTheChosenPage) {
     show(5);
     click("projo");
     EXPECT_EQ(menu(), nullptr);

@@ -4,7 +4,7 @@
 
 namespace {
 
-TEST(PageCode, HasAtLeastThreeDigits) {
+TEST(PageCode, hasAtLeastThreeDigits) {
     struct Row {
         int number;
         QString code;
@@ -14,7 +14,7 @@ TEST(PageCode, HasAtLeastThreeDigits) {
         EXPECT_EQ(viewer::pageCode(row.number), row.code) << row.number;
 }
 
-TEST(PageCode, ReadsPrefixAndArgument) {
+TEST(PageCode, readsPrefixAndArgument) {
     struct Row {
         QString code;
         QString prefix;

@@ -39,7 +39,7 @@ protected:
     page::Surface page{SurfaceId::PictureTexte, 9000, metrics, recording};
 };
 
-TEST_F(Occurrences, RunOverThePiecesOfALineInReadingOrder) {
+TEST_F(Occurrences, runOverThePiecesOfALineInReadingOrder) {
     print(0, 400, u"la mole"_qs); // drawn first, read last
     print(0, 0, u"réfr"_qs);
     page.setBold(true);
@@ -59,7 +59,7 @@ TEST_F(Occurrences, RunOverThePiecesOfALineInReadingOrder) {
     EXPECT_THAT(find(u"apartla"_qs), ElementsAre()); // never from line to line
 }
 
-TEST_F(Occurrences, FoldWhatAKeyboardDoesNotHave) {
+TEST_F(Occurrences, foldWhatAKeyboardDoesNotHave) {
     print(0, 0, u"L’Été\u00A0: 10\u22123 µm"_qs);
     page.setFace(u"Symbol"_qs);
     print(0, 900, u"lm"_qs); // lambda, mu
@@ -73,14 +73,14 @@ TEST_F(Occurrences, FoldWhatAKeyboardDoesNotHave) {
     EXPECT_THAT(find(u"µ"_qs), ElementsAre("1300,0 100x200", "100,900 100x300"));
 }
 
-TEST_F(Occurrences, ThatOverlapAreOneAndThoseSideBySideTwo) {
+TEST_F(Occurrences, thatOverlapAreOneAndThoseSideBySideTwo) {
     print(0, 0, u"photographie"_qs);
     EXPECT_THAT(find({{u"graphie"_qs, u"photo"_qs, u"tog"_qs}, true}), ElementsAre("0,0 1200x200"));
     EXPECT_THAT(find({{u"gra"_qs, u"photo"_qs, u""_qs}, true}),
                 ElementsAre("0,0 500x200", "500,0 300x200"));
 }
 
-TEST_F(Occurrences, LeaveOutWhatWasWipedButNotTheLinks) {
+TEST_F(Occurrences, leaveOutWhatWasWipedButNotTheLinks) {
     page::LinkOperation link;
     link.x = 500;
     link.y = 300;
@@ -91,7 +91,7 @@ TEST_F(Occurrences, LeaveOutWhatWasWipedButNotTheLinks) {
     EXPECT_THAT(find(u"mot"_qs), ElementsAre("500,300 300x200", "800,500 300x200"));
 }
 
-TEST_F(Occurrences, OfAHostilePageAreBounded) {
+TEST_F(Occurrences, ofAHostilePageAreBounded) {
     for (int line = 0; line < 100; ++line)
         print(0, line * 300, u"e"_qs.repeated(15'000));
     EXPECT_EQ(
@@ -101,7 +101,7 @@ TEST_F(Occurrences, OfAHostilePageAreBounded) {
     EXPECT_THAT(find(u"fin"_qs), ElementsAre());
 }
 
-TEST_F(Occurrences, AreWalkedFromAPlaceRoundAllParts) {
+TEST_F(Occurrences, areWalkedFromAPlaceRoundAllParts) {
     page::Surface beside(SurfaceId::PictureIllus, 2280, metrics, recording);
     for (const double y : {0, 300, 600, 5000}) // the last is below what can be seen
         print(0, y, u"mot"_qs);

@@ -9,7 +9,7 @@ using coursedata::FieldValue;
 using test_support::page;
 using testing::ElementsAre;
 
-TEST(PageLoader, ShowsARecordInAFixedOrder) {
+TEST(PageLoader, showsARecordInAFixedOrder) {
     test_support::LogicBench bench(
         {page(4, QStringLiteral("Bonjour¶\r\n"),
               {{u"precedent"_qs, true}, {u"imprimable"_qs, true}, {u"sommaire"_qs, 28.0}})});
@@ -23,7 +23,7 @@ TEST(PageLoader, ShowsARecordInAFixedOrder) {
                 ElementsAre(QStringLiteral("print 0,0 \"Bonjour\" Arial 10")));
 }
 
-TEST(PageLoader, StartsEachPageFromTheSameState) {
+TEST(PageLoader, startsEachPageFromTheSameState) {
     test_support::LogicBench bench({page(1, QStringLiteral("a¶\r\n##OBJILLUS\r\nb¶\r\n"))});
     markup::DrawingState& drawing = bench.window.state;
     for (int visit = 0; visit < 2; ++visit) {
@@ -45,7 +45,7 @@ TEST(PageLoader, StartsEachPageFromTheSameState) {
     EXPECT_EQ(drawing.fenetreSource, &bench.window);
 }
 
-TEST(PageLoader, LinksMenusAndHalfACaptionEndWithTheirPage) {
+TEST(PageLoader, linksMenusAndHalfACaptionEndWithTheirPage) {
     test_support::LogicBench bench(
         {page(1, u"##LIERTa#PAG002\r\n##LIERFzz\r\n##ADMENb#PAG002\r\n##LIER1c\r\n"_qs), page(2)});
     markup::DrawingState& drawing = bench.window.state;
@@ -63,7 +63,7 @@ TEST(PageLoader, LinksMenusAndHalfACaptionEndWithTheirPage) {
     EXPECT_TRUE(drawing.lienEnAttente.isEmpty());
 }
 
-TEST(PageLoader, ReadsTheSummaryAsANumber) {
+TEST(PageLoader, readsTheSummaryAsANumber) {
     struct Row {
         FieldValue field;
         QString summary;
@@ -83,7 +83,7 @@ TEST(PageLoader, ReadsTheSummaryAsANumber) {
     }
 }
 
-TEST(PageLoader, ShowsAPageWithWhateverFieldsItHas) {
+TEST(PageLoader, showsAPageWithWhateverFieldsItHas) {
     // No fields but these: the others show as empty or unchecked.
     test_support::LogicBench poor({{{u"Numeropage"_qs, 3.0}, {u"fpc"_qs, u"x¶\r\n"_qs}}});
     poor.pages.showCurrentRecord();
@@ -102,7 +102,7 @@ TEST(PageLoader, ShowsAPageWithWhateverFieldsItHas) {
               u"print 0,0 \"un\" Arial 10"_qs);
 }
 
-TEST(PageLoader, WithoutDatabaseShowsAnEmptyPage) {
+TEST(PageLoader, withoutDatabaseShowsAnEmptyPage) {
     test_support::LogicBench bench({});
     bench.actions.run(u"PAG001"_qs);
     EXPECT_EQ(bench.neighbours.log.last(), u"normal pointer"_qs);

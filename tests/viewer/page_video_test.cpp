@@ -101,7 +101,7 @@ protected:
                             }};
 };
 
-TEST_F(PageVideo, FirstButtonOpensAndShowsTheFirstFrame) {
+TEST_F(PageVideo, firstButtonOpensAndShowsTheFirstFrame) {
     put(u"course/FILM.avi"_qs);
     video.close();
     EXPECT_EQ(devices, 0) << "a page turned";
@@ -118,7 +118,7 @@ TEST_F(PageVideo, FirstButtonOpensAndShowsTheFirstFrame) {
     EXPECT_EQ(devices, 1);
 }
 
-TEST_F(PageVideo, EachButtonHasItsCommands) {
+TEST_F(PageVideo, eachButtonHasItsCommands) {
     EXPECT_THAT(openAndPress(0), ElementsAre(u"Play"_qs));
     EXPECT_THAT(press(1), ElementsAre(u"Step"_qs));
     EXPECT_THAT(press(2), ElementsAre(u"Pause"_qs));
@@ -130,7 +130,7 @@ TEST_F(PageVideo, EachButtonHasItsCommands) {
     EXPECT_THAT(press(0), ElementsAre(u"from 0"_qs, u"Play"_qs, u"Stop"_qs, u"Play"_qs));
 }
 
-TEST_F(PageVideo, LooksInTheCourseThenOnTheLastDiscThenEverywhere) {
+TEST_F(PageVideo, looksInTheCourseThenOnTheLastDiscThenEverywhere) {
     put(u"e/ZEKXV/film.avi"_qs);
     drawing.videoPage = u"D:\\autre\\film.avi"_qs;
     EXPECT_THAT(press(2), testing::Contains(u"file e/ZEKXV/film.avi"_qs));
@@ -145,7 +145,7 @@ TEST_F(PageVideo, LooksInTheCourseThenOnTheLastDiscThenEverywhere) {
     EXPECT_THAT(press(2), testing::Contains(u"file course/film.avi"_qs));
 }
 
-TEST_F(PageVideo, WhatDoesNotOpenLeavesTheDisplay) {
+TEST_F(PageVideo, whatDoesNotOpenLeavesTheDisplay) {
     prompter.answers = {Answer::Retry, Answer::Cancel};
     EXPECT_THAT(press(0), ElementsAre(u"hide"_qs));
     EXPECT_EQ(prompter.messages.size(), 2u);
@@ -162,7 +162,7 @@ TEST_F(PageVideo, WhatDoesNotOpenLeavesTheDisplay) {
     EXPECT_FALSE(pictureShows);
 }
 
-TEST_F(PageVideo, MarkerFollowsThePositionUpToTheFrameBeforeTheLast) {
+TEST_F(PageVideo, markerFollowsThePositionUpToTheFrameBeforeTheLast) {
     openAndPress(0);
     device->at = 3;
     device->playing = true;
@@ -179,7 +179,7 @@ TEST_F(PageVideo, MarkerFollowsThePositionUpToTheFrameBeforeTheLast) {
     EXPECT_DOUBLE_EQ(marker, 1085);
 }
 
-TEST_F(PageVideo, RewindsWhenAPlayEndsOnTheLastFrame) {
+TEST_F(PageVideo, rewindsWhenAPlayEndsOnTheLastFrame) {
     openAndPress(0);
     log.clear();
     device->at = 5;
@@ -190,7 +190,7 @@ TEST_F(PageVideo, RewindsWhenAPlayEndsOnTheLastFrame) {
     EXPECT_THAT(log, ElementsAre(u"from 0"_qs, u"Play"_qs, u"Stop"_qs));
 }
 
-TEST(VideoMenu, LeadsToThePageWithTheCaptionAsItsTitle) {
+TEST(VideoMenu, leadsToThePageWithTheCaptionAsItsTitle) {
     const QStringList captions = viewer::videoMenuCaptions(u"MENU01"_qs);
     ASSERT_THAT(captions, ElementsAre(u"Comment remplir un ballon avec un gaz coloré ?"_qs,
                                       u"Diffusion d'un gaz"_qs));
