@@ -32,7 +32,7 @@ QComboBox:focus, QAbstractSpinBox:focus, QLineEdit:focus {
 QAbstractSpinBox:disabled { background: %ivory; color: %muted; border-color: %rule; }
 QComboBox QAbstractItemView {
     background: %paper; border: 1px solid %edge; outline: none;
-    selection-background-color: %blue; selection-color: %paper; }
+    selection-background-color: %pressed; selection-color: %ink; }
 QComboBox::drop-down { border: none; width: 24px; }
 QComboBox::down-arrow, QSpinBox::down-arrow {
     image: url(:/look/icons/down.svg); width: 12px; height: 12px; }
