@@ -132,7 +132,7 @@ TEST(PlainLinks, onPaperAreTextAndLeaveTheControlsAlone) {
               QStringList({"print 0,0 \"un\" Arial 10", "print 0,200 \"deux\" Arial 10",
                            "print 400,0 \"b\" Arial 10", "symbol 500,0 360,360 LK",
                            "symbol 860,0 360,360 LK", "print 1220,0 \"z\" Arial 10"}));
-    EXPECT_EQ(bench.captionOf(0), u"écran"_qs);
+    EXPECT_EQ(bench.captionOf(0), QStringLiteral("écran"));
     EXPECT_EQ(bench.entry(0, 0).caption, "un");
     EXPECT_EQ(bench.entry(0, 1).caption, "");
 }

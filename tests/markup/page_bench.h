@@ -38,7 +38,7 @@ public:
     /// Draws a source whose lines are given with "\n" and gives the operations, a line each.
     QStringList draw(QString source) {
         recording.clear();
-        holder.setText(source.replace(QLatin1String("\n"), QLatin1String("\r\n")));
+        holder.setText(source.replace(QStringLiteral("\n"), QStringLiteral("\r\n")));
         renderer.affichepage();
         return describe(recording);
     }

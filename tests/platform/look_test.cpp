@@ -197,19 +197,22 @@ TEST_P(MessageBoxes, offerTheirButtonsAndAnswerToTheKeyboard) {
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, MessageBoxes,
-    testing::Values(
-        Box{"Ok", Message::Buttons::Ok, {u"OK"_qs}, Answer::Ok, Answer::Ok},
-        Box{"OkCancel",
-            Message::Buttons::OkCancel,
-            {u"OK"_qs, u"Annuler"_qs},
-            Answer::Ok,
-            Answer::Cancel},
-        Box{"YesNo", Message::Buttons::YesNo, {u"Oui"_qs, u"Non"_qs}, Answer::Yes, Answer::No},
-        Box{"RetryCancel",
-            Message::Buttons::RetryCancel,
-            {u"Réessayer"_qs, u"Annuler"_qs},
-            Answer::Retry,
-            Answer::Cancel}),
+    testing::Values(Box{"Ok", Message::Buttons::Ok, {QStringLiteral("OK")}, Answer::Ok, Answer::Ok},
+                    Box{"OkCancel",
+                        Message::Buttons::OkCancel,
+                        {QStringLiteral("OK"), QStringLiteral("Annuler")},
+                        Answer::Ok,
+                        Answer::Cancel},
+                    Box{"YesNo",
+                        Message::Buttons::YesNo,
+                        {QStringLiteral("Oui"), QStringLiteral("Non")},
+                        Answer::Yes,
+                        Answer::No},
+                    Box{"RetryCancel",
+                        Message::Buttons::RetryCancel,
+                        {QStringLiteral("Réessayer"), QStringLiteral("Annuler")},
+                        Answer::Retry,
+                        Answer::Cancel}),
     [](const auto& row) { return std::string(row.param.name); });
 
 TEST(MessageDialog, tellsScreenReadersTitleAndText) {

@@ -30,20 +30,22 @@ TEST_F(Actions, pageCodesLeadToTheRecordOfTheNumber) {
         QString shown;
     };
     for (const Row& row : {
-             Row{u"PAG001"_qs, u"1"_qs},
-             Row{u"PAG003"_qs, u"3"_qs},
-             Row{u"PAG005"_qs, u"5"_qs}, // the highest number is still reached
-             Row{u"PAG002"_qs, u"3"_qs}, // a hole leads to the record of position 0: meant so
-             Row{u"PAG000"_qs, u"3"_qs},
-             Row{u"PAG001"_qs, u"1"_qs},
-             Row{u"PAG006"_qs, u"1"_qs}, // out of bounds: the page stays
-             Row{u"PAG999"_qs, u"1"_qs},
-             Row{u"PAG-05"_qs, u"1"_qs},
-             Row{u"PAG1005"_qs, u"5"_qs}, // only three digits count
-             Row{u"pag003"_qs, u"-"_qs},  // letter case counts
-             Row{u"PA"_qs, u"-"_qs},
-             Row{u""_qs, u"-"_qs},
-             Row{u"XYZ003"_qs, u"-"_qs},
+             Row{QStringLiteral("PAG001"), QStringLiteral("1")},
+             Row{QStringLiteral("PAG003"), QStringLiteral("3")},
+             Row{QStringLiteral("PAG005"),
+                 QStringLiteral("5")}, // the highest number is still reached
+             Row{QStringLiteral("PAG002"),
+                 QStringLiteral("3")}, // a hole leads to the record of position 0: meant so
+             Row{QStringLiteral("PAG000"), QStringLiteral("3")},
+             Row{QStringLiteral("PAG001"), QStringLiteral("1")},
+             Row{QStringLiteral("PAG006"), QStringLiteral("1")}, // out of bounds: the page stays
+             Row{QStringLiteral("PAG999"), QStringLiteral("1")},
+             Row{QStringLiteral("PAG-05"), QStringLiteral("1")},
+             Row{QStringLiteral("PAG1005"), QStringLiteral("5")}, // only three digits count
+             Row{QStringLiteral("pag003"), QStringLiteral("-")},  // letter case counts
+             Row{QStringLiteral("PA"), QStringLiteral("-")},
+             Row{QStringLiteral(""), QStringLiteral("-")},
+             Row{QStringLiteral("XYZ003"), QStringLiteral("-")},
          })
         EXPECT_EQ(run(row.code), row.shown) << qPrintable(row.code);
 }

@@ -26,8 +26,9 @@ TEST_F(Window, mnemonicsPressTheirButtons) {
         QString page;
     };
     for (const Row& row :
-         {Row{Qt::Key_P, u"2"_qs}, Row{Qt::Key_U, u"3"_qs}, Row{Qt::Key_Y, u"28"_qs},
-          Row{Qt::Key_H, u"30"_qs}, Row{Qt::Key_S, u"1"_qs}}) {
+         {Row{Qt::Key_P, QStringLiteral("2")}, Row{Qt::Key_U, QStringLiteral("3")},
+          Row{Qt::Key_Y, QStringLiteral("28")}, Row{Qt::Key_H, QStringLiteral("30")},
+          Row{Qt::Key_S, QStringLiteral("1")}}) {
         press(row.key, Qt::AltModifier);
         EXPECT_EQ(shown(), row.page) << char(row.key);
     }

@@ -50,7 +50,7 @@ TEST_F(Window, givesInToAManagerThatRefusesItsSize) {
     // The contents stand in the middle, and work.
     EXPECT_EQ(bench.control("Command2")->mapTo(&bench.window, QPoint()), QPoint(108, 54));
     click("command5");
-    EXPECT_EQ(shown(), u"30"_qs);
+    EXPECT_EQ(shown(), QStringLiteral("30"));
 }
 
 TEST(WindowStart, isMaximisedWhereItsFrameHasNoRoom) {

@@ -14,9 +14,11 @@ using testing::ElementsAre;
 class VideoWindow : public test_support::Window {
 protected:
     VideoWindow() {
-        bench.cours.records[4] = page(5, u"##VIDEOfilm.avi\r\n"_qs + test_support::lines(30));
-        bench.cours.records[5] = page(6, u"##VIDEOMENU01\r\nTexte¶\r\n"_qs);
-        bench.cours.records[6] = page(7, {}, {{u"titre"_qs, u"Diffusion d'un gaz"_qs}});
+        bench.cours.records[4] =
+            page(5, QStringLiteral("##VIDEOfilm.avi\r\n") + test_support::lines(30));
+        bench.cours.records[5] = page(6, QStringLiteral("##VIDEOMENU01\r\nTexte¶\r\n"));
+        bench.cours.records[6] =
+            page(7, {}, {{QStringLiteral("titre"), QStringLiteral("Diffusion d'un gaz")}});
     }
 
     void show(int number) {
@@ -25,7 +27,7 @@ protected:
     }
     QWidget* frame() { return bench.control<QWidget>("videoFrame"); }
     QMenu* menu() {
-        for (QMenu* each : bench.window.findChildren<QMenu*>(u"MVideo"_qs))
+        for (QMenu* each : bench.window.findChildren<QMenu*>(QStringLiteral("MVideo")))
             if (each->isVisible())
                 return each;
         return nullptr;
@@ -37,20 +39,20 @@ TEST_F(VideoWindow, keysWorkOnTheFrameAndItsButtons) {
     click("Image4_0"); // leads the keyboard here
     ASSERT_TRUE(frame()->hasFocus());
     const int before = scrolled();
-    bench.window.setVideoStatus(u"Lecture en cours"_qs, true);
+    bench.window.setVideoStatus(QStringLiteral("Lecture en cours"), true);
     QTest::keyClick(frame(), Qt::Key_Space);
-    bench.window.setVideoStatus(u"En pause"_qs, false);
+    bench.window.setVideoStatus(QStringLiteral("En pause"), false);
     for (const int key : {Qt::Key_Space, Qt::Key_Right, Qt::Key_Left, Qt::Key_Home, Qt::Key_End})
         QTest::keyClick(frame(), Qt::Key(key));
     bench.control("Image4_3")->setFocus(Qt::TabFocusReason);
     for (const int key : {Qt::Key_Down, Qt::Key_Up, Qt::Key_Space})
         QTest::keyClick(bench.control("Image4_3"), Qt::Key(key));
-    QStringList pressed = bench.neighbours.log.filter(u"video "_qs);
-    EXPECT_EQ(pressed.replaceInStrings(u"video "_qs, QString()).join(u' '),
-              u"0 2 0 1 4 6 5 1 4 3"_qs);
+    QStringList pressed = bench.neighbours.log.filter(QStringLiteral("video "));
+    EXPECT_EQ(pressed.replaceInStrings(QStringLiteral("video "), QString()).join(u' '),
+              QStringLiteral("0 2 0 1 4 6 5 1 4 3"));
     EXPECT_EQ(scrolled(), before);
     QTest::keyClick(frame(), Qt::Key_Left, Qt::AltModifier);
-    EXPECT_EQ(shown(), u"1"_qs);
+    EXPECT_EQ(shown(), QStringLiteral("1"));
     EXPECT_TRUE(bench.control<QWidget>("PictureTEXTE")->hasFocus())
         << "the video goes with its page, the keyboard stays with the next one";
 }
@@ -93,10 +95,10 @@ TEST_F(VideoWindow, menuOfThePictureLeadsToTheChosenPage) {
     EXPECT_TRUE(bench.neighbours.log.isEmpty());
     // A page that does not exist: only the picture goes.
     menu()->actions()[0]->trigger();
-    EXPECT_EQ(shown(), u"6"_qs);
-    EXPECT_THAT(bench.neighbours.log, ElementsAre(u"close video"_qs));
+    EXPECT_EQ(shown(), QStringLiteral("6"));
+    EXPECT_THAT(bench.neighbours.log, ElementsAre(QStringLiteral("close video")));
     menu()->actions()[1]->trigger();
-    EXPECT_EQ(shown(), u"7"_qs);
+    EXPECT_EQ(shown(), QStringLiteral("7"));
 }
 
 } // namespace
