@@ -8,6 +8,7 @@
 #include "support/plain_words.h"
 
 #include <QApplication>
+#include <QButtonGroup>
 #include <QHelpEvent>
 #include <QLabel>
 #include <QPainter>
@@ -90,6 +91,28 @@ INSTANTIATE_TEST_SUITE_P(
         ButtonState{"toolbar_pressed", kToolbar, true, true, true, false, kDarkBlue, kPressedTint},
         ButtonState{"toolbar_disabled", kToolbar, false, false, false, false, kIvory, kIvory}),
     [](const auto& row) { return std::string(row.param.name); });
+
+TEST(SegmentButtons, showWhichOfTheRowHolds) {
+    QWidget window;
+    QButtonGroup row;
+    for (const int x : {10, 90}) {
+        auto* button = new Button(QStringLiteral("Lune"),
+                                  {.kind = Button::Kind::Segment, .icon = {}}, &window);
+        button->setGeometry(x, 10, 70, 26);
+        row.addButton(button);
+    }
+    row.buttons().front()->setChecked(true);
+    const auto grounds = [&] {
+        const QImage image = painted(window);
+        return std::pair(colour(image.pixel(16, 20)), colour(image.pixel(96, 20)));
+    };
+    EXPECT_EQ(grounds(), std::pair(colour(kBlue), colour(kPaper)));
+    QTest::keyClick(row.buttons().front(), Qt::Key_Right); // leads through the row
+    EXPECT_EQ(grounds().second, colour(kBlue));
+    for (QAbstractButton* button : row.buttons())
+        button->setEnabled(false); // what holds can still be told
+    EXPECT_EQ(grounds(), std::pair(colour(kIvory), colour(kVideoTrack)));
+}
 
 class Buttons : public testing::Test {
 protected:
