@@ -14,6 +14,7 @@
 #include <QSlider>
 #include <QSpinBox>
 #include <QStyleFactory>
+#include <QStyledItemDelegate>
 #include <QTabWidget>
 #include <QTableView>
 
@@ -33,6 +34,7 @@ QAbstractSpinBox:disabled { background: %ivory; color: %muted; border-color: %ru
 QComboBox QAbstractItemView {
     background: %paper; border: 1px solid %edge; outline: none;
     selection-background-color: %pressed; selection-color: %ink; }
+QComboBox QAbstractItemView::item { min-height: 24px; padding: 0 5px; }
 QComboBox::drop-down { border: none; width: 24px; }
 QComboBox::down-arrow, QSpinBox::down-arrow {
     image: url(:/look/icons/down.svg); width: 12px; height: 12px; }
@@ -123,7 +125,11 @@ void dress(QWidget& window) {
     // Each control by itself: below a window with rules, what is painted by hand and what shows
     // mnemonics would lose its own style.
     const QString rules = rulesOf(kForms);
-    dressEach<QComboBox>(window, rules);
+    for (auto* list : window.findChildren<QComboBox*>()) {
+        // The toolkit's own paints the lines as those of a menu, in colours that no rule reaches.
+        list->setItemDelegate(new QStyledItemDelegate(list));
+        list->setStyleSheet(rules);
+    }
     dressEach<QAbstractSpinBox>(window, rules);
     if (qobject_cast<QFileDialog*>(&window))
         dressEach<QLineEdit>(window, rules);
