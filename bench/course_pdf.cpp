@@ -64,9 +64,9 @@ private:
 };
 
 bool writePdf(int count, const QString& directory) {
-    Shelf shelf(directory + QLatin1String("/photo.jpg"));
+    Shelf shelf(directory + QStringLiteral("/photo.jpg"));
     bench::Page page(shelf);
-    output::PdfFile pdf(directory + QLatin1String("/cours.pdf"), page.fonts,
+    output::PdfFile pdf(directory + QStringLiteral("/cours.pdf"), page.fonts,
                         {QStringLiteral("Cours d’optique"), QStringLiteral("Un professeur"),
                          [](const QString& tag) { return tag.mid(3).toInt(); }});
     const QString title = QStringLiteral("La réfraction de la lumière");
@@ -84,8 +84,8 @@ bool writePdf(int count, const QString& directory) {
 }
 
 bool writeHtml(int count, const QString& directory) {
-    QFile photo(directory + QLatin1String("/photo.jpg"));
-    QFile html(directory + QLatin1String("/cours.html"));
+    QFile photo(directory + QStringLiteral("/photo.jpg"));
+    QFile html(directory + QStringLiteral("/cours.html"));
     if (!photo.open(QIODevice::WriteOnly) || !html.open(QIODevice::WriteOnly))
         return false;
     photo.write(photograph());

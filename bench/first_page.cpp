@@ -14,7 +14,7 @@ class UntilPainted : public QObject {
 public:
     bool eventFilter(QObject* watched, QEvent* event) override {
         if (event->type() == QEvent::Paint &&
-            watched->objectName() == QLatin1String("PictureTEXTE"))
+            watched->objectName() == QStringLiteral("PictureTEXTE"))
             QMetaObject::invokeMethod(
                 qApp, [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
         return false;

@@ -21,7 +21,7 @@ using Clock = std::chrono::steady_clock;
 QString sourceOf(int lines) {
     const QString once =
         bench::richPageSource() + QStringLiteral("##LIERTla loi de Descartes#PAG013\r\n¶\r\n");
-    const int linesOnce = static_cast<int>(once.count(QLatin1String("\r\n")));
+    const int linesOnce = static_cast<int>(once.count(QStringLiteral("\r\n")));
     QString source;
     source.reserve(once.size() * (lines / linesOnce + 2));
     int written = 0;

@@ -15,7 +15,7 @@ inline QString richPageSource() {
     QString source = QStringLiteral("##SI14\n##BOL1\nLa réfraction de la lumière¶\n##BOL0\n");
     for (int i = 0; i < 6; ++i)
         source += QString::fromUtf16(kParagraph);
-    return source.replace(QLatin1String("\n"), QLatin1String("\r\n"));
+    return source.replace(QStringLiteral("\n"), QStringLiteral("\r\n"));
 }
 
 /// The same content as HTML.
@@ -41,9 +41,9 @@ inline QString coursePageSource(int number, int count) {
              {u"air¶\r\n##TAB200400 2\r\n1,000¶\r\n##TAB400590 3\r\n300 000¶\r\n##FINTAC01",
               u"eau¶\r\n##TAB200400 2\r\n1,333¶\r\n##TAB400590 3\r\n225 000¶\r\n##FINTAB",
               u"verre¶\r\n##TAB200400 2\r\n1,500¶\r\n##TAB400590 3\r\n200 000¶\r\n##FINTAC04"})
-            source += QLatin1String("##TAB010200 1\r\n") + QString::fromUtf16(row) +
-                      QLatin1String("\r\n");
-        return source + QLatin1String("##IHDEFphoto.jpg320240\r\n");
+            source += QStringLiteral("##TAB010200 1\r\n") + QString::fromUtf16(row) +
+                      QStringLiteral("\r\n");
+        return source + QStringLiteral("##IHDEFphoto.jpg320240\r\n");
     }();
     QString source = kCommon;
     for (const int step : {1, 2, 10, 100})

@@ -31,7 +31,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         return 0;
     QString source =
         QString::fromUtf8(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
-    test_support::drawAnyWay(source.replace(QLatin1String("\n"), QLatin1String("\r\n")), bench);
+    test_support::drawAnyWay(source.replace(QStringLiteral("\n"), QStringLiteral("\r\n")), bench);
     raster.reset();
     raster.play(bench.page.recording);
     return 0;

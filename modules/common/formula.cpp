@@ -1,6 +1,6 @@
 #include "common/formula.h"
 
-#include "common/house.h"
+#include "look/interface_font.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -138,7 +138,7 @@ struct Extent {
 };
 
 QFont fontOf(const Node& node, double pixels) {
-    QFont font = houseFont();
+    QFont font = look::interfaceFont(look::kLabelPx);
     font.setPixelSize(std::max(1, static_cast<int>(std::lround(pixels))));
     font.setItalic(node.italic);
     return font;

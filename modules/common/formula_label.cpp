@@ -1,6 +1,6 @@
 #include "common/formula_label.h"
 
-#include "common/house.h"
+#include "look/palette.h"
 
 #include <QPainter>
 
@@ -8,9 +8,19 @@ namespace common {
 
 FormulaLabel::FormulaLabel(const QString& formula, const QString& spoken, int pixels,
                            QWidget* parent)
-    : QWidget(parent), formula_(formula, pixels) {
+    : QWidget(parent), source_(formula), pixels_(pixels), formula_(formula, pixels) {
     setAccessibleName(spoken);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+void FormulaLabel::setFormula(const QString& formula, const QString& spoken) {
+    if (formula == source_)
+        return;
+    source_ = formula;
+    formula_ = Formula(formula, pixels_);
+    setAccessibleName(spoken);
+    updateGeometry();
+    update();
 }
 
 QSize FormulaLabel::sizeHint() const {
@@ -19,9 +29,10 @@ QSize FormulaLabel::sizeHint() const {
 
 void FormulaLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setPen(QColor::fromRgb(kInk));
+    painter.setPen(QColor::fromRgb(look::kInk));
     const double height = formula_.ascent() + formula_.descent();
-    formula_.paint(painter, {0, (this->height() - height) / 2 + formula_.ascent()});
+    const double left = alignment_ == Qt::AlignRight ? width() - formula_.width() : 0;
+    formula_.paint(painter, {left, (this->height() - height) / 2 + formula_.ascent()});
 }
 
 } // namespace common

@@ -1,6 +1,8 @@
 #include "links/link_row.h"
 
-#include "common/house.h"
+#include "look/interface_font.h"
+#include "look/palette.h"
+#include "look/pixels.h"
 
 #include <QFontMetrics>
 #include <QKeyEvent>
@@ -14,7 +16,7 @@ constexpr int kHeight = 46;
 constexpr int kLeft = 12;
 constexpr int kNameBaseline = 19;
 constexpr int kTextBaseline = 37;
-constexpr int kTextPx = 12;
+constexpr int kTextPx = look::kButtonPx;
 
 } // namespace
 
@@ -28,39 +30,37 @@ LinkRow::LinkRow(const Link& link, QWidget* parent) : QAbstractButton(parent), l
 }
 
 QSize LinkRow::sizeHint() const {
-    const int name =
-        QFontMetrics(common::houseFont(common::kTextPx, true)).horizontalAdvance(link_.name);
-    const int text = QFontMetrics(common::houseFont(kTextPx)).horizontalAdvance(link_.description);
+    const int name = QFontMetrics(look::interfaceFont(look::kLabelPx, look::Weight::Bold))
+                         .horizontalAdvance(link_.name);
+    const int text =
+        QFontMetrics(look::interfaceFont(kTextPx)).horizontalAdvance(link_.description);
     return {qMax(name, text) + 2 * kLeft, kHeight};
 }
 
 void LinkRow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    if (underMouse() || hasFocus()) {
-        const double edge = hasFocus() ? 2 : 1;
-        painter.setPen(QPen(QColor::fromRgb(common::kBlue), edge));
-        painter.setBrush(QColor::fromRgb(isDown() ? common::kPressedTint : common::kHoverTint));
-        painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);
-    }
-    QFont name = common::houseFont(common::kTextPx, true);
+    if (underMouse() || hasFocus())
+        look::drawFrame(painter, rect(), 4, look::kBlue,
+                        QColor::fromRgb(isDown() ? look::kPressedTint : look::kHoverTint),
+                        hasFocus() ? 2 : 1);
+    QFont name = look::interfaceFont(look::kLabelPx, look::Weight::Bold);
     name.setUnderline(underMouse());
     painter.setFont(name);
-    painter.setPen(QColor::fromRgb(common::kBlue));
+    painter.setPen(QColor::fromRgb(look::kBlue));
     painter.drawText(kLeft, kNameBaseline, link_.name);
-    painter.setFont(common::houseFont(kTextPx));
-    painter.setPen(QColor::fromRgb(common::kMuted));
+    painter.setFont(look::interfaceFont(kTextPx));
+    painter.setPen(QColor::fromRgb(look::kMuted));
     painter.drawText(kLeft, kTextBaseline, link_.description);
 }
 
 void LinkRow::enterEvent(QEnterEvent* event) {
     QAbstractButton::enterEvent(event);
-    Q_EMIT pointedAt();
+    pointedAt_();
 }
 
 void LinkRow::focusInEvent(QFocusEvent* event) {
     QAbstractButton::focusInEvent(event);
-    Q_EMIT pointedAt();
+    pointedAt_();
 }
 
 void LinkRow::keyPressEvent(QKeyEvent* event) {

@@ -4,13 +4,14 @@
 
 #include <QAbstractButton>
 
+#include <functional>
+#include <utility>
+
 namespace links {
 
 /// A link one presses: its name, and what is found there. Tells when it is pointed at, by the mouse
 /// or the keyboard.
 class LinkRow : public QAbstractButton {
-    Q_OBJECT
-
 public:
     explicit LinkRow(const Link& link, QWidget* parent = nullptr);
 
@@ -18,8 +19,7 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
-Q_SIGNALS:
-    void pointedAt();
+    void onPointedAt(std::function<void()> tell) { pointedAt_ = std::move(tell); }
 
 protected:
     void paintEvent(QPaintEvent*) override;
@@ -29,6 +29,7 @@ protected:
 
 private:
     Link link_;
+    std::function<void()> pointedAt_ = [] {};
 };
 
 } // namespace links

@@ -1,16 +1,18 @@
 #include "links/links_window.h"
 
-#include "common/house.h"
 #include "common/module_run.h"
+#include "common/plain_label.h"
 #include "links/link_row.h"
+#include "look/button.h"
+#include "look/pixels.h"
+#include "look/scroll_bar.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QLabel>
-#include <QPushButton>
+#include <QPainter>
 #include <QScreen>
 #include <QScrollArea>
-#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace links {
@@ -20,17 +22,18 @@ namespace {
 constexpr int kModule = 7;
 constexpr QSize kSize(620, 640);
 constexpr int kMargin = 24;
+constexpr int kHeadingPx = 16;
+constexpr auto kBold = look::Weight::Bold;
 constexpr int kLeastHeight = 200; ///< of the page: some links at once
 
-QLabel* label(const QString& text, int pixels, bool bold, QRgb ink) {
-    auto* made = new QLabel(text);
-    made->setTextFormat(Qt::PlainText);
-    made->setStyleSheet(QStringLiteral("color: %1; font-size: %2px; font-weight: %3;")
-                            .arg(QColor::fromRgb(ink).name())
-                            .arg(pixels)
-                            .arg(bold ? QStringLiteral("bold") : QStringLiteral("normal")));
-    return made;
-}
+/// Stands below the page, parted from it by a line.
+class Foot : public QWidget {
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.fillRect(QRectF(0, 0, width(), look::crisp(painter)), QColor::fromRgb(look::kRule));
+    }
+};
 
 } // namespace
 
@@ -45,6 +48,8 @@ LinksWindow::LinksWindow(const std::vector<LinkGroup>& groups, const QString& ed
     scroll_->setWidget(page(groups));
     scroll_->setWidgetResizable(true);
     scroll_->setFocusPolicy(Qt::NoFocus);
+    scroll_->setFrameShape(QFrame::NoFrame);
+    scroll_->setVerticalScrollBar(new look::ScrollBar(scroll_, look::ScrollBar::Top::Minimum));
     scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scroll_->setMinimumSize(scroll_->widget()->minimumSizeHint().width() +
                                 scroll_->verticalScrollBar()->sizeHint().width(),
@@ -57,23 +62,24 @@ LinksWindow::LinksWindow(const std::vector<LinkGroup>& groups, const QString& ed
 
 QWidget* LinksWindow::page(const std::vector<LinkGroup>& groups) {
     auto* widget = new QWidget;
-    widget->setObjectName(QStringLiteral("page"));
-    widget->setStyleSheet(
-        QStringLiteral("#page { background: %1; }").arg(QColor::fromRgb(common::kPaper).name()));
+    QPalette paper = widget->palette();
+    paper.setColor(QPalette::Window, QColor::fromRgb(look::kPaper));
+    widget->setPalette(paper);
+    widget->setAutoFillBackground(true);
     auto* layout = new QVBoxLayout(widget);
     layout->setContentsMargins(kMargin, 20, kMargin, kMargin);
     layout->setSpacing(0);
-    layout->addWidget(label(QStringLiteral("Liens utiles"), common::kTitlePx, true, common::kInk));
+    layout->addWidget(common::plainLabel(QStringLiteral("Liens utiles"), {look::kTitlePx, kBold}));
     layout->addSpacing(4);
-    layout->addWidget(label(QStringLiteral("Chaque adresse s’ouvre dans votre navigateur."),
-                            common::kTextPx, false, common::kMuted));
+    layout->addWidget(common::plainLabel(
+        QStringLiteral("Chaque adresse s’ouvre dans votre navigateur."), {.ink = look::kMuted}));
     for (const LinkGroup& group : groups) {
         layout->addSpacing(18);
-        layout->addWidget(label(group.title, 16, true, common::kInk));
+        layout->addWidget(common::plainLabel(group.title, {kHeadingPx, kBold}));
         layout->addSpacing(4);
         for (const Link& link : group.links) {
             auto* row = new LinkRow(link);
-            connect(row, &LinkRow::pointedAt, this, [this, row] {
+            row->onPointedAt([this, row] {
                 scroll_->ensureWidgetVisible(row, 0, 8);
                 if (failed_.isEmpty())
                     line_->setText(row->link().address.toString());
@@ -87,21 +93,17 @@ QWidget* LinksWindow::page(const std::vector<LinkGroup>& groups) {
 }
 
 QWidget* LinksWindow::footer(const QString& edition) {
-    auto* widget = new QWidget;
-    widget->setObjectName(QStringLiteral("foot"));
-    widget->setStyleSheet(QStringLiteral("#foot { border-top: 1px solid %1; }")
-                              .arg(QColor::fromRgb(common::kRule).name()));
+    auto* widget = new Foot;
     auto* layout = new QHBoxLayout(widget);
     layout->setContentsMargins(kMargin, 8, kMargin, 8);
-    line_ = label({}, common::kTextPx, false, common::kInk);
+    line_ = common::paragraph({});
     line_->setMinimumHeight(34);
-    line_->setWordWrap(true);
-    copy_ = new QPushButton(QStringLiteral("Copier l’adresse"));
+    copy_ = new look::Button(QStringLiteral("Copier l’adresse"), {}, widget);
     copy_->hide();
     connect(copy_, &QPushButton::clicked, this, &LinksWindow::copy);
     layout->addWidget(line_, 1);
     layout->addWidget(copy_);
-    layout->addWidget(label(edition, common::kSmallPx, false, common::kMuted));
+    layout->addWidget(common::plainLabel(edition, {.pixels = look::kSmallPx, .ink = look::kMuted}));
     return widget;
 }
 

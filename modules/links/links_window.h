@@ -6,16 +6,17 @@
 
 #include <functional>
 
+namespace look {
+class Button;
+}
+
 class QLabel;
-class QPushButton;
 class QScrollArea;
 
 namespace links {
 
 /// The page of links. Nothing is fetched: a link that is pressed goes to the system's browser.
 class LinksWindow : public QMainWindow {
-    Q_OBJECT
-
 public:
     /// Hands an address to the browser; false when there is none.
     using Opener = std::function<bool(const QUrl&)>;
@@ -31,7 +32,7 @@ private:
     Opener open_;
     QScrollArea* scroll_;
     QLabel* line_ = nullptr; ///< the address, or that it could not be opened
-    QPushButton* copy_ = nullptr;
+    look::Button* copy_ = nullptr;
     QUrl failed_;
 };
 

@@ -1,8 +1,7 @@
-#include "common/house.h"
+#include "common/module_application.h"
 #include "common/module_run.h"
 #include "links/links_window.h"
 
-#include <QApplication>
 #include <QDesktopServices>
 
 namespace {
@@ -12,8 +11,7 @@ constexpr int kModule = 7;
 } // namespace
 
 int main(int argc, char** argv) {
-    QApplication application(argc, argv);
-    common::applyHouse(application);
+    const common::ModuleApplication application(argc, argv);
     const common::ModuleRun run(kModule);
     links::LinksWindow window(links::ownLinks(), run.record().edition(),
                               &QDesktopServices::openUrl);

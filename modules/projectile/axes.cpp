@@ -2,7 +2,8 @@
 
 #include "common/formula.h"
 #include "common/french_number.h"
-#include "common/house.h"
+#include "look/interface_font.h"
+#include "look/palette.h"
 #include "projectile/ticks.h"
 
 #include <QPainter>
@@ -46,10 +47,10 @@ QPointF Axes::value(const QPointF& pixel) const {
 
 void Axes::paint(QPainter& painter, const QString& xName, const QString& yName) const {
     painter.save();
-    painter.setFont(common::houseFont(common::kSmallPx));
+    painter.setFont(look::interfaceFont(look::kSmallPx));
     paintAcross(painter);
     paintUp(painter);
-    painter.setPen(QColor::fromRgb(common::kInk));
+    painter.setPen(QColor::fromRgb(look::kInk));
     const common::Formula across(xName, kNamePx);
     across.paint(painter, {area_.right() - across.width(), area_.bottom() + kBelow - 6});
     const common::Formula up(yName, kNamePx);
@@ -61,9 +62,9 @@ void Axes::paintAcross(QPainter& painter) const {
     const double step = tickStep(x_.length(), mostTicks(area_.width(), kPixelsPerTickAcross));
     for (const double value : ticks(x_.from, x_.to, step)) {
         const double x = sharp(painter, pixel(value, 0).x());
-        painter.setPen(QColor::fromRgb(common::kGrid));
+        painter.setPen(QColor::fromRgb(look::kGrid));
         painter.drawLine(QPointF(x, area_.top()), QPointF(x, area_.bottom()));
-        painter.setPen(QColor::fromRgb(common::kMuted));
+        painter.setPen(QColor::fromRgb(look::kMuted));
         painter.drawText(QRectF(x - 40, area_.bottom() + kLabelGap, 80, 14), Qt::AlignHCenter,
                          common::frenchNumber(value, tickDecimals(step)));
     }
@@ -73,9 +74,9 @@ void Axes::paintUp(QPainter& painter) const {
     const double step = tickStep(y_.length(), mostTicks(area_.height(), kPixelsPerTickUp));
     for (const double value : ticks(y_.from, y_.to, step)) {
         const double y = sharp(painter, pixel(0, value).y());
-        painter.setPen(QColor::fromRgb(common::kGrid));
+        painter.setPen(QColor::fromRgb(look::kGrid));
         painter.drawLine(QPointF(area_.left(), y), QPointF(area_.right(), y));
-        painter.setPen(QColor::fromRgb(common::kMuted));
+        painter.setPen(QColor::fromRgb(look::kMuted));
         painter.drawText(QRectF(0, y - 8, area_.left() - kLabelGap, 16),
                          Qt::AlignRight | Qt::AlignVCenter,
                          common::frenchNumber(value, tickDecimals(step)));

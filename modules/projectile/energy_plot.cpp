@@ -2,7 +2,8 @@
 
 #include "common/formula.h"
 #include "common/french_number.h"
-#include "common/house.h"
+#include "look/interface_font.h"
+#include "look/palette.h"
 #include "projectile/axes.h"
 
 #include <QPainter>
@@ -30,10 +31,10 @@ struct Curve {
 };
 
 const Curve kCurves[] = {
-    {common::kRed, Qt::SolidLine, "E_c", "cinétique", [](const Energies& e) { return e.kinetic; }},
-    {common::kGreen, Qt::DashLine, "E_p", "potentielle",
+    {look::kRed, Qt::SolidLine, "E_c", "cinétique", [](const Energies& e) { return e.kinetic; }},
+    {look::kGreen, Qt::DashLine, "E_p", "potentielle",
      [](const Energies& e) { return e.potential; }},
-    {common::kBlue, Qt::DashDotLine, "E_m", "mécanique",
+    {look::kBlue, Qt::DashDotLine, "E_m", "mécanique",
      [](const Energies& e) { return e.mechanical(); }},
 };
 
@@ -58,14 +59,14 @@ double paintLegend(QPainter& painter, double x, double room, const Curve& curve,
         return common::Formula(
             QStringLiteral("%1\\text{%2\u00A0: %3\u00A0J}")
                 .arg(QString::fromUtf8(curve.name), words, common::frenchDigits(energy, 4)),
-            common::kTextPx);
+            look::kLabelPx);
     };
     common::Formula legend = legendWith(u' ' + QString::fromUtf8(curve.words));
     if (kSample + legend.width() + kGaps > room)
         legend = legendWith({});
     painter.setPen(QPen(QColor::fromRgb(curve.ink), 2, curve.style));
     painter.drawLine(QPointF(x, kBaseline - 4), QPointF(x + kSample, kBaseline - 4));
-    painter.setPen(QColor::fromRgb(common::kInk));
+    painter.setPen(QColor::fromRgb(look::kInk));
     legend.paint(painter, {x + kSample + 6, kBaseline});
     return x + kSample + legend.width() + kGaps;
 }
@@ -75,13 +76,13 @@ double paintLegend(QPainter& painter, double x, double room, const Curve& curve,
 EnergyPlot::EnergyPlot(Experiment& experiment, QWidget* parent)
     : QWidget(parent), experiment_(experiment) {
     setAccessibleName(QStringLiteral("Énergies au cours du temps"));
-    connect(&experiment_, &Experiment::changed, this, qOverload<>(&QWidget::update));
-    connect(&experiment_, &Experiment::moved, this, qOverload<>(&QWidget::update));
+    experiment_.onChanged([this] { update(); });
+    experiment_.onMoved([this] { update(); });
 }
 
 void EnergyPlot::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.fillRect(rect(), QColor::fromRgb(common::kPaper));
+    painter.fillRect(rect(), QColor::fromRgb(look::kPaper));
     const Flight& flight = experiment_.flight();
     // Without an engine the mechanical energy is never more than at the start.
     const double most = std::max(kLeastEnergy, flight.energies(flight.start()).mechanical());
@@ -90,7 +91,7 @@ void EnergyPlot::paintEvent(QPaintEvent*) {
     axes.paint(painter, QStringLiteral("t\\text{ (s)}"), QStringLiteral("E\\text{ (J)}"));
     painter.setRenderHint(QPainter::Antialiasing);
     const Moment now = experiment_.now();
-    painter.setPen(QPen(QColor::fromRgb(common::kEdge), 1));
+    painter.setPen(QPen(QColor::fromRgb(look::kEdge), 1));
     const double cursor = sharp(painter, axes.pixel(now.t, 0).x());
     painter.drawLine(QPointF(cursor, axes.area().top()), QPointF(cursor, axes.area().bottom()));
     double x = Axes::kLeft;
@@ -98,7 +99,7 @@ void EnergyPlot::paintEvent(QPaintEvent*) {
     for (const Curve& curve : kCurves) {
         const double energy = curve.value(flight.energies(now));
         paintCurve(painter, axes, flight, curve);
-        painter.setPen(QPen(QColor::fromRgb(common::kPaper), 1.5));
+        painter.setPen(QPen(QColor::fromRgb(look::kPaper), 1.5));
         painter.setBrush(QColor::fromRgb(curve.ink));
         painter.drawEllipse(axes.pixel(now.t, energy), 5, 5);
         x = paintLegend(painter, x, room, curve, energy);

@@ -8,8 +8,6 @@ namespace projectile {
 
 /// Kinetic, potential and mechanical energy over time.
 class EnergyPlot : public QWidget {
-    Q_OBJECT
-
 public:
     explicit EnergyPlot(Experiment& experiment, QWidget* parent = nullptr);
 

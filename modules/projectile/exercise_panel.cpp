@@ -1,12 +1,16 @@
 #include "projectile/exercise_panel.h"
 
-#include "common/house.h"
+#include "common/plain_label.h"
+#include "look/button.h"
+#include "look/icon.h"
+#include "look/ink.h"
+#include "look/palette.h"
+#include "look/pixels.h"
+#include "look/text_field.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPainter>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -16,69 +20,58 @@ namespace projectile {
 namespace {
 
 constexpr int kFieldWidth = 96;
+constexpr int kFieldHeight = 28;
+constexpr int kHeadingPx = 16;
 constexpr int kSign = 18;
 constexpr int kLongestAnswer = 32; ///< characters
 
 /// A small window leaves the texts this much; longer ones are cut rather than push the drawing out.
 constexpr int kMostHeld = 280;
 
-/// The sign of the verdict, blank until there is one.
+/// The sign of the verdict, blank until there is one. It can be told without its colour.
 class Sign : public QWidget {
 public:
     Sign() { setFixedSize(kSign, kSign); }
 
-    void setVerdict(common::Verdict verdict) {
-        verdict_ = verdict;
+    void setRight(bool right) {
+        sign_ = look::Icon(right ? QStringLiteral("faces/right") : QStringLiteral("faces/wrong"));
         update();
     }
 
 protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
-        if (verdict_)
-            common::paintVerdict(painter, 1, 1, *verdict_);
+        sign_.paint(painter, rect(), look::Icon::Style::Coloured);
     }
 
 private:
-    std::optional<common::Verdict> verdict_;
+    look::Icon sign_;
 };
-
-QLabel* paragraph(const QString& text, bool bold = false) {
-    auto* label = new QLabel(text);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    if (bold)
-        label->setFont(common::houseFont(common::kTextPx, true));
-    return label;
-}
 
 } // namespace
 
 ExercisePanel::ExercisePanel(const Exercise& exercise, QWidget* parent)
-    : QWidget(parent), exercise_(exercise), field_(new QLineEdit), sign_(new Sign),
-      verdict_(paragraph({})) {
+    : QWidget(parent), exercise_(exercise), field_(new look::TextField(this)), sign_(new Sign),
+      verdict_(common::paragraph({})) {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(14, 10, 14, 12);
     layout->setSpacing(6);
-    auto* title = paragraph(exercise_.title);
-    title->setFont(common::houseFont(16, true));
-    title->setStyleSheet(QStringLiteral("color: %1; font-size: 16px; font-weight: bold;")
-                             .arg(QColor::fromRgb(common::kBlue).name()));
-    layout->addWidget(title);
+    layout->addWidget(common::paragraph(
+        exercise_.title, {.pixels = kHeadingPx, .weight = look::Weight::Bold, .ink = look::kBlue}));
     for (const QString& text : exercise_.statement)
-        layout->addWidget(paragraph(text));
+        layout->addWidget(common::paragraph(text));
 
     field_->setMaxLength(kLongestAnswer);
-    field_->setFixedWidth(kFieldWidth);
+    field_->setFixedSize(kFieldWidth, kFieldHeight);
     field_->setAlignment(Qt::AlignRight);
     field_->setAccessibleName(exercise_.question);
-    auto* button = new QPushButton(QStringLiteral("Vérifier"));
-    button->setProperty("main", true);
+    auto* button = new look::Button(QStringLiteral("Vérifier"),
+                                    {.kind = look::Button::Kind::Main, .icon = {}}, this);
     auto* row = new QHBoxLayout;
     row->setSpacing(common::kGap);
-    row->addWidget(paragraph(exercise_.question, true), 1);
+    row->addWidget(common::paragraph(exercise_.question, {.weight = look::Weight::Bold}), 1);
     row->addWidget(field_);
-    row->addWidget(new QLabel(exercise_.unit));
+    row->addWidget(common::plainLabel(exercise_.unit));
     row->addSpacing(common::kGap);
     row->addWidget(button);
     layout->addLayout(row);
@@ -98,7 +91,7 @@ ExercisePanel::ExercisePanel(const Exercise& exercise, QWidget* parent)
 void ExercisePanel::check() {
     const Answer answer = exercise_.judge(field_->text());
     const bool right = answer == Answer::Right;
-    static_cast<Sign*>(sign_)->setVerdict(right ? common::Verdict::Right : common::Verdict::Wrong);
+    static_cast<Sign*>(sign_)->setRight(right);
     sign_->setVisible(answer != Answer::NoNumber);
     if (answer == Answer::NoNumber) {
         verdict_->setText(QStringLiteral("Tapez un nombre, par exemple 12,5."));
@@ -107,18 +100,16 @@ void ExercisePanel::check() {
             (right ? QStringLiteral("Juste\u00A0! ") : QStringLiteral("Ce n’est pas cela. ")) +
             (right ? exercise_.whenRight : exercise_.whenWrong));
     }
-    verdict_->setStyleSheet(QStringLiteral("color: %1;")
-                                .arg(QColor::fromRgb(answer == Answer::NoNumber ? common::kMuted
-                                                     : right                    ? common::kGreen
-                                                                                : common::kRed)
-                                         .name()));
+    look::setInk(*verdict_, answer == Answer::NoNumber ? look::kMuted
+                            : right                    ? look::kGreen
+                                                       : look::kRed);
     verdict_->show();
     verdict_->setAccessibleName(verdict_->text());
     holdHeight();
     field_->setFocus();
     field_->selectAll();
     if (right)
-        Q_EMIT solved();
+        solved_();
 }
 
 void ExercisePanel::resizeEvent(QResizeEvent*) {
@@ -132,10 +123,8 @@ void ExercisePanel::holdHeight() {
 
 void ExercisePanel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.fillRect(rect(), QColor::fromRgb(common::kPaper));
-    painter.setPen(QColor::fromRgb(common::kRule));
-    painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
-    painter.fillRect(0, 0, 4, height(), QColor::fromRgb(common::kBlue));
+    look::drawFrame(painter, rect(), 0, look::kRule, QColor::fromRgb(look::kPaper));
+    painter.fillRect(0, 0, 4, height(), QColor::fromRgb(look::kBlue));
 }
 
 } // namespace projectile

@@ -4,20 +4,24 @@
 
 #include <QWidget>
 
+#include <functional>
+#include <utility>
+
+namespace look {
+class TextField;
+}
+
 class QLabel;
-class QLineEdit;
 
 namespace projectile {
 
 /// The task, a field for the answer, and what is to be said about it.
 class ExercisePanel : public QWidget {
-    Q_OBJECT
-
 public:
     explicit ExercisePanel(const Exercise& exercise, QWidget* parent = nullptr);
 
-Q_SIGNALS:
-    void solved(); ///< a right answer was given
+    /// `show` is called after a right answer.
+    void onSolved(std::function<void()> show) { solved_ = std::move(show); }
 
 protected:
     void paintEvent(QPaintEvent*) override;
@@ -28,9 +32,10 @@ private:
     void holdHeight();
 
     Exercise exercise_;
-    QLineEdit* field_;
+    look::TextField* field_;
     QWidget* sign_;
     QLabel* verdict_;
+    std::function<void()> solved_ = [] {};
 };
 
 } // namespace projectile

@@ -14,11 +14,17 @@ namespace {
 
 constexpr int kStrobePoints = 20;
 
+/// "v_0 = 20 m/s": the name is a formula, the unit upright.
 QString value(const char16_t* name, double number, const char16_t* unit) {
     const QString blank =
         QString::fromUtf16(unit) == QStringLiteral("°") ? QString() : QStringLiteral("\u00A0");
-    return QString::fromUtf16(name) + QStringLiteral("\u00A0=\u00A0") +
-           common::frenchDigits(number, 3) + blank + QString::fromUtf16(unit);
+    return QStringLiteral("%1\u00A0=\u00A0%2\\text{%3%4}")
+        .arg(QString::fromUtf16(name), common::frenchDigits(number, 3), blank,
+             QString::fromUtf16(unit));
+}
+
+QString words(const QString& text) {
+    return QStringLiteral("\\text{%1}").arg(text);
 }
 
 } // namespace
@@ -32,7 +38,7 @@ void Experiment::setLaunch(const Launch& launch) {
         return;
     flight_ = Flight(launch);
     playback_.setDuration(flight_.duration());
-    Q_EMIT changed();
+    changed_.tell();
 }
 
 void Experiment::setExercise(const Exercise& exercise) {
@@ -87,26 +93,26 @@ void Experiment::keep() {
     if (!canKeep())
         return;
     kept_.push_back(flight_);
-    Q_EMIT keptChanged();
+    keptChanged_.tell();
 }
 
 void Experiment::forgetKept() {
     kept_.clear();
-    Q_EMIT keptChanged();
+    keptChanged_.tell();
 }
 
 QString describe(const Launch& launch) {
-    QStringList parts = {value(u"v₀", launch.speed, u"m/s"), value(u"α", launch.angle, u"°")};
+    QStringList parts = {value(u"v_0", launch.speed, u"m/s"), value(u"α", launch.angle, u"°")};
     if (launch.height > 0)
         parts += value(u"h", launch.height, u"m");
     const std::optional<World> world = worldOf(launch);
     if (!world)
         parts += value(u"g", launch.gravity, u"m/s²");
     else if (world->gravity != kWorlds.front().gravity)
-        parts += QString::fromUtf16(world->name);
+        parts += words(QString::fromUtf16(world->name));
     // Somebody's own gravity keeps the air of the world before: drag may have nothing to act with.
     if (launch.drag != Drag::None && launch.airDensity == 0)
-        parts += QStringLiteral("sans air");
+        parts += words(QStringLiteral("sans air"));
     else if (launch.drag == Drag::Linear)
         parts += value(u"k", launch.linearCoefficient, u"kg/s");
     else if (launch.drag == Drag::Quadratic)

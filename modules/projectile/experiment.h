@@ -1,10 +1,10 @@
 #pragma once
 
+#include "common/listeners.h"
 #include "projectile/exercise.h"
 #include "projectile/flight.h"
 #include "projectile/playback.h"
 
-#include <QObject>
 #include <QString>
 
 #include <vector>
@@ -13,9 +13,7 @@ namespace projectile {
 
 /// What the windows show: the flight that the controls describe, those kept for comparison, and the
 /// moment at which one looks.
-class Experiment : public QObject {
-    Q_OBJECT
-
+class Experiment {
 public:
     /// More would be a tangle, and there are no more inks.
     static constexpr int kMostKept = 5;
@@ -43,7 +41,7 @@ public:
     template <class Change>
     void play(Change change) {
         change(playback_);
-        Q_EMIT moved();
+        moved_.tell();
     }
 
     /// In the order in which they were kept; a flight's place is also its ink.
@@ -53,10 +51,11 @@ public:
     void keep();
     void forgetKept();
 
-Q_SIGNALS:
-    void changed(); ///< the launch, and with it everything
-    void moved();   ///< the moment, or whether it runs
-    void keptChanged();
+    // What is to be called when something has changed. Whoever asks lives as long as this does.
+    using Listener = std::function<void()>;
+    void onChanged(Listener show) { changed_.add(std::move(show)); } ///< the launch, so everything
+    void onMoved(Listener show) { moved_.add(std::move(show)); } ///< the moment, or whether it runs
+    void onKeptChanged(Listener show) { keptChanged_.add(std::move(show)); }
 
 private:
     void setLaunch(const Launch& launch);
@@ -65,10 +64,14 @@ private:
     Flight flight_;
     Playback playback_;
     std::vector<Flight> kept_;
+    common::Listeners changed_;
+    common::Listeners moved_;
+    common::Listeners keptChanged_;
 };
 
-/// What tells a launch from others: "v₀ = 20 m/s, α = 45°, h = 2 m, g = 5 m/s², sans air". What it
-/// shares with most (no height, on the Earth, no drag) is left out.
+/// What tells a launch from others, as a formula: "v₀ = 20 m/s, α = 45°, h = 2 m, g = 5 m/s², sans
+/// air", symbols in italics, units upright. What it shares with most (no height, on the Earth, no
+/// drag) is left out.
 QString describe(const Launch& launch);
 
 /// The time between two points of a stroboscope, s: easy to count with, ten to twenty a flight.

@@ -2,7 +2,8 @@
 
 #include "common/formula.h"
 #include "common/french_number.h"
-#include "common/house.h"
+#include "look/interface_font.h"
+#include "look/palette.h"
 
 #include <QPainter>
 
@@ -101,7 +102,7 @@ std::vector<Law> lawsOf(const Flight& flight) {
 FormulaPage::FormulaPage(Experiment& experiment, QWidget* parent)
     : QWidget(parent), experiment_(experiment) {
     setAccessibleName(QStringLiteral("Formules"));
-    connect(&experiment_, &Experiment::changed, this, &FormulaPage::fit);
+    experiment_.onChanged([this] { fit(); });
     fit();
 }
 
@@ -121,22 +122,22 @@ void FormulaPage::fit() {
 
 void FormulaPage::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.fillRect(rect(), QColor::fromRgb(common::kPaper));
+    painter.fillRect(rect(), QColor::fromRgb(look::kPaper));
     double y = kMargin;
     for (const Law& law : lawsOf(experiment_.flight())) {
         if (law.formula.isEmpty()) {
-            painter.setPen(QColor::fromRgb(common::kBlue));
-            painter.setFont(common::houseFont(common::kTextPx, true));
+            painter.setPen(QColor::fromRgb(look::kBlue));
+            painter.setFont(look::interfaceFont(look::kLabelPx, look::Weight::Bold));
             painter.drawText(QPointF(kMargin, y + 15), law.words);
             y += kHeadingHeight;
             continue;
         }
         const common::Formula formula(law.formula, kFormulaPx);
         const double baseline = y + formula.ascent();
-        painter.setPen(QColor::fromRgb(common::kMuted));
-        painter.setFont(common::houseFont());
+        painter.setPen(QColor::fromRgb(look::kMuted));
+        painter.setFont(look::interfaceFont(look::kLabelPx));
         painter.drawText(QPointF(kMargin, baseline), law.words);
-        painter.setPen(QColor::fromRgb(common::kInk));
+        painter.setPen(QColor::fromRgb(look::kInk));
         formula.paint(painter, {kFormulaLeft, baseline});
         y = baseline + formula.descent() + kGapBelow;
     }

@@ -8,8 +8,6 @@ namespace projectile {
 
 /// The laws of the motion shown, with its numbers.
 class FormulaPage : public QWidget {
-    Q_OBJECT
-
 public:
     explicit FormulaPage(Experiment& experiment, QWidget* parent = nullptr);
 

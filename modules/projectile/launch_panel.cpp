@@ -1,11 +1,12 @@
 #include "projectile/launch_panel.h"
 
-#include "common/house.h"
+#include "common/formula_button.h"
+#include "common/plain_label.h"
+#include "look/tool_tip.h"
 #include "projectile/quantity_row.h"
 
 #include <QButtonGroup>
 #include <QLabel>
-#include <QPushButton>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
@@ -15,22 +16,12 @@ namespace projectile {
 
 namespace {
 
-QLabel* heading(const QString& text) {
-    auto* label = new QLabel(text);
-    label->setIndent(0);
-    label->setMargin(0);
-    label->setStyleSheet(QStringLiteral("color: %1; font-weight: bold; padding-top: 6px;")
-                             .arg(QColor::fromRgb(common::kBlue).name()));
-    return label;
-}
+const look::Button::Look kSegment = {.kind = look::Button::Kind::Segment, .icon = {}};
 
-QPushButton* segment(const QString& caption, const QString& tooltip) {
-    auto* button = new QPushButton(caption);
-    button->setProperty("segment", true);
-    button->setCheckable(true);
-    button->setFocusPolicy(Qt::TabFocus); // a click leaves the space bar to the simulation
-    button->setToolTip(tooltip);
-    return button;
+QLabel* heading(const QString& text) {
+    QLabel* label = common::plainLabel(text, {.weight = look::Weight::Bold, .ink = look::kBlue});
+    label->setContentsMargins(0, 6, 0, 0);
+    return label;
 }
 
 /// Buttons of which one is pressed, in a row. The Tab key stops at the pressed one, as the arrow
@@ -59,7 +50,7 @@ LaunchPanel::LaunchPanel(Experiment& experiment, QWidget* parent)
       drags_(new QButtonGroup(this)) {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(5);
+    layout->setSpacing(4);
     const auto add = [&](Parameter parameter) {
         auto* added = new QuantityRow(experiment_, parameter);
         layout->addWidget(added);
@@ -76,29 +67,27 @@ LaunchPanel::LaunchPanel(Experiment& experiment, QWidget* parent)
     layout->addWidget(heading(QStringLiteral("Frottements de l’air")));
     layout->addWidget(drags());
     auto* factor = new QStackedWidget;
-    noDrag_ = new QLabel(QStringLiteral("Seul le poids agit\u00A0: chute libre."));
-    noDrag_->setStyleSheet(
-        QStringLiteral("color: %1;").arg(QColor::fromRgb(common::kMuted).name()));
+    noDrag_ = common::plainLabel(QStringLiteral("Seul le poids agit\u00A0: chute libre."),
+                                 {.ink = look::kMuted});
     coefficient_ = new QuantityRow(experiment_, Parameter::LinearCoefficient);
     diameter_ = new QuantityRow(experiment_, Parameter::Diameter);
     for (QWidget* widget : {noDrag_, coefficient_, diameter_})
         factor->addWidget(widget);
     layout->addWidget(factor);
-    connect(&experiment_, &Experiment::changed, factor, [this, factor] {
-        factor->setCurrentIndex(static_cast<int>(experiment_.launch().drag));
-    });
+    experiment_.onChanged(
+        [this, factor] { factor->setCurrentIndex(static_cast<int>(experiment_.launch().drag)); });
     factor->setCurrentIndex(static_cast<int>(experiment_.launch().drag));
     layout->addStretch(1);
     layout->addWidget(keepButtons());
-    connect(&experiment_, &Experiment::changed, this, &LaunchPanel::show);
-    connect(&experiment_, &Experiment::keptChanged, this, &LaunchPanel::show);
+    experiment_.onChanged([this] { show(); });
+    experiment_.onKeptChanged([this] { show(); });
     show();
 }
 
 QWidget* LaunchPanel::worlds() {
     for (std::size_t i = 0; i < kWorlds.size(); ++i) {
         const QString name = QString::fromUtf16(kWorlds.at(i).name);
-        worlds_->addButton(segment(name, {}), static_cast<int>(i));
+        worlds_->addButton(new look::Button(name, kSegment, this), static_cast<int>(i));
     }
     connect(worlds_, &QButtonGroup::idClicked, this, [this](int which) {
         experiment_.setWorld(kWorlds.at(static_cast<std::size_t>(which)));
@@ -110,16 +99,18 @@ QWidget* LaunchPanel::worlds() {
 }
 
 QWidget* LaunchPanel::drags() {
-    drags_->addButton(segment(QStringLiteral("aucun"), QStringLiteral("pas de frottement")),
-                      static_cast<int>(Drag::None));
-    drags_->addButton(segment(QStringLiteral("f = k v"),
-                              QStringLiteral("proportionnels à la vitesse\u00A0: corps très petits "
-                                             "ou très lents")),
-                      static_cast<int>(Drag::Linear));
-    drags_->addButton(segment(QStringLiteral("f ∝ v²"),
-                              QStringLiteral("proportionnels au carré de la vitesse\u00A0: balles, "
-                                             "ballons, pierres")),
-                      static_cast<int>(Drag::Quadratic));
+    const auto add = [this](Drag drag, const QString& formula, const QString& spoken,
+                            const QString& tip) {
+        auto* button = new common::FormulaButton(formula, spoken, kSegment, this);
+        look::setToolTip(*button, tip);
+        drags_->addButton(button, static_cast<int>(drag));
+    };
+    add(Drag::None, QStringLiteral("\\text{aucun}"), QStringLiteral("aucun"),
+        QStringLiteral("pas de frottement"));
+    add(Drag::Linear, QStringLiteral("f = k v"), QStringLiteral("f = k v"),
+        QStringLiteral("proportionnels à la vitesse\u00A0: corps très petits ou très lents"));
+    add(Drag::Quadratic, QStringLiteral("f ∝ v^2"), QStringLiteral("f ∝ v²"),
+        QStringLiteral("proportionnels au carré de la vitesse\u00A0: balles, ballons, pierres"));
     connect(drags_, &QButtonGroup::idClicked, this, [this](int which) {
         experiment_.setDrag(static_cast<Drag>(which));
         show();
@@ -130,14 +121,12 @@ QWidget* LaunchPanel::drags() {
 }
 
 QWidget* LaunchPanel::keepButtons() {
-    keep_ = new QPushButton(QStringLiteral("Garder la trajectoire"));
-    keep_->setToolTip(QStringLiteral("la laisse dessinée, pour la comparer aux suivantes"));
-    forget_ = new QPushButton(QStringLiteral("Effacer"));
-    forget_->setToolTip(QStringLiteral("efface les trajectoires gardées"));
-    connect(keep_, &QPushButton::clicked, &experiment_, &Experiment::keep);
-    connect(forget_, &QPushButton::clicked, &experiment_, &Experiment::forgetKept);
-    keep_->setFocusPolicy(Qt::TabFocus);
-    forget_->setFocusPolicy(Qt::TabFocus);
+    keep_ = new look::Button(QStringLiteral("Garder la trajectoire"), {}, this);
+    look::setToolTip(*keep_, QStringLiteral("la laisse dessinée, pour la comparer aux suivantes"));
+    forget_ = new look::Button(QStringLiteral("Effacer"), {}, this);
+    look::setToolTip(*forget_, QStringLiteral("efface les trajectoires gardées"));
+    connect(keep_, &QPushButton::clicked, this, [this] { experiment_.keep(); });
+    connect(forget_, &QPushButton::clicked, this, [this] { experiment_.forgetKept(); });
     auto* widget = new QWidget;
     auto* layout = new QHBoxLayout(widget);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -4,15 +4,16 @@
 
 #include <QWidget>
 
+namespace look {
+class Button;
+}
+
 class QButtonGroup;
-class QPushButton;
 
 namespace projectile {
 
 /// The controls of the launch, and the buttons that keep paths for comparison.
 class LaunchPanel : public QWidget {
-    Q_OBJECT
-
 public:
     explicit LaunchPanel(Experiment& experiment, QWidget* parent = nullptr);
 
@@ -28,8 +29,8 @@ private:
     QWidget* diameter_ = nullptr;
     QWidget* coefficient_ = nullptr;
     QWidget* noDrag_ = nullptr;
-    QPushButton* keep_ = nullptr;
-    QPushButton* forget_ = nullptr;
+    look::Button* keep_ = nullptr;
+    look::Button* forget_ = nullptr;
 };
 
 } // namespace projectile

@@ -1,9 +1,7 @@
-#include "common/house.h"
+#include "common/module_application.h"
 #include "common/module_run.h"
+#include "platform/file_names.h"
 #include "projectile/main_window.h"
-
-#include <QApplication>
-#include <QDir>
 
 namespace {
 
@@ -20,8 +18,9 @@ projectile::Opening openingOf(const common::StatusRecord& record) {
     if (name.isEmpty())
         return opening;
     QString why;
-    opening.exercise =
-        projectile::readExercise(QDir(common::ModuleRun::directory()).filePath(name), why);
+    const QString directory = common::ModuleRun::directory();
+    opening.exercise = projectile::readExercise(
+        platform::findWithoutCase(directory, name).value_or(QString()), why);
     if (!opening.exercise)
         opening.notice =
             QStringLiteral("L’exercice «\u00A0%1\u00A0» n’a pas pu être ouvert\u00A0: "
@@ -35,8 +34,7 @@ projectile::Opening openingOf(const common::StatusRecord& record) {
 } // namespace
 
 int main(int argc, char** argv) {
-    QApplication application(argc, argv);
-    common::applyHouse(application);
+    const common::ModuleApplication application(argc, argv);
     const common::ModuleRun run(kModule);
     projectile::MainWindow window(openingOf(run.record()));
     window.show();

@@ -1,7 +1,11 @@
 #include "projectile/main_window.h"
 
-#include "common/house.h"
 #include "common/module_run.h"
+#include "common/plain_label.h"
+#include "look/check_box.h"
+#include "look/dress.h"
+#include "look/pixels.h"
+#include "look/scroll_bar.h"
 #include "projectile/energy_plot.h"
 #include "projectile/exercise_panel.h"
 #include "projectile/formula_page.h"
@@ -11,10 +15,10 @@
 #include "projectile/transport_bar.h"
 #include "projectile/value_table.h"
 
-#include <QCheckBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPainter>
 #include <QScreen>
 #include <QScrollArea>
 #include <QTabWidget>
@@ -32,25 +36,25 @@ constexpr QSize kExerciseSize(960, 728); ///< with the task above the drawing
 constexpr int kLeftWidth = 264;
 constexpr int kMargin = 12;
 
-QLabel* mutedLabel(const QString& text) {
-    auto* label = new QLabel(text);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    label->setStyleSheet(QStringLiteral("color: %1; font-size: %2px;")
-                             .arg(QColor::fromRgb(common::kMuted).name())
-                             .arg(common::kSmallPx));
-    return label;
-}
+/// A line for the pupil, framed.
+class Notice : public QLabel {
+public:
+    explicit Notice(const QString& words) {
+        setTextFormat(Qt::PlainText);
+        setText(words);
+        setWordWrap(true);
+        setMargin(common::kGap);
+    }
 
-QWidget* notice(const QString& text) {
-    auto* label = new QLabel(text);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    label->setStyleSheet(QStringLiteral("background: %1; border: 1px solid %2; padding: 8px;")
-                             .arg(QColor::fromRgb(common::kHoverTint).name(),
-                                  QColor::fromRgb(common::kRule).name()));
-    return label;
-}
+protected:
+    void paintEvent(QPaintEvent* event) override {
+        {
+            QPainter painter(this);
+            look::drawFrame(painter, rect(), 0, look::kRule, QColor::fromRgb(look::kHoverTint));
+        }
+        QLabel::paintEvent(event);
+    }
+};
 
 QVBoxLayout* column(QWidget* widget) {
     auto* layout = new QVBoxLayout(widget);
@@ -73,6 +77,7 @@ MainWindow::MainWindow(const Opening& opening) {
     layout->addWidget(right(opening), 1);
     setCentralWidget(centre);
     resize((opening.exercise ? kExerciseSize : kSize).boundedTo(screen()->availableSize()));
+    look::dress(*this);
     setFocus(); // the space bar is for the simulation, until somebody goes elsewhere
 }
 
@@ -82,7 +87,8 @@ QWidget* MainWindow::left(const QString& edition) {
     auto* layout = column(widget);
     layout->addWidget(new LaunchPanel(experiment_), 1);
     if (!edition.isEmpty())
-        layout->addWidget(mutedLabel(edition));
+        layout->addWidget(
+            common::paragraph(edition, {.pixels = look::kSmallPx, .ink = look::kMuted}));
     return widget;
 }
 
@@ -93,12 +99,11 @@ QWidget* MainWindow::right(const Opening& opening) {
     if (opening.exercise) {
         auto* panel = new ExercisePanel(*opening.exercise);
         readings_->setFlightHidden(opening.exercise->hidesResults);
-        connect(panel, &ExercisePanel::solved, readings_,
-                [this] { readings_->setFlightHidden(false); });
+        panel->onSolved([this] { readings_->setFlightHidden(false); });
         layout->addWidget(panel);
     }
     if (!opening.notice.isEmpty())
-        layout->addWidget(notice(opening.notice));
+        layout->addWidget(new Notice(opening.notice));
     auto* tabs = new QTabWidget;
     tabs->setDocumentMode(false);
     tabs->addTab(trajectoryTab(), QStringLiteral("Trajectoire"));
@@ -108,6 +113,7 @@ QWidget* MainWindow::right(const Opening& opening) {
     formulas->setWidget(new FormulaPage(experiment_));
     formulas->setWidgetResizable(true);
     formulas->setFrameShape(QFrame::NoFrame);
+    formulas->setVerticalScrollBar(new look::ScrollBar(formulas, look::ScrollBar::Top::Minimum));
     tabs->addTab(formulas, QStringLiteral("Formules"));
     layout->addWidget(tabs, 1);
     transport_ = new TransportBar(experiment_);
@@ -133,7 +139,7 @@ QWidget* MainWindow::trajectoryTab() {
     for (const Choice& choice :
          {Choice{u"vitesse", &Shown::speed}, Choice{u"ses composantes", &Shown::components},
           Choice{u"accélération", &Shown::acceleration}, Choice{u"points", &Shown::points}}) {
-        auto* box = new QCheckBox(QString::fromUtf16(choice.caption));
+        auto* box = new look::CheckBox(QString::fromUtf16(choice.caption), widget);
         box->setChecked((*shown).*choice.shown);
         box->setFocusPolicy(Qt::TabFocus); // a click leaves the space bar to the simulation
         connect(box, &QCheckBox::toggled, plot_, [this, shown, choice](bool checked) {
@@ -150,7 +156,8 @@ QWidget* MainWindow::trajectoryTab() {
 void MainWindow::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
     case Qt::Key_Space:
-        transport_->toggle();
+        if (!event->isAutoRepeat()) // held down it starts, and does not stop again
+            transport_->toggle();
         return;
     case Qt::Key_Home:
         transport_->reset();

@@ -4,8 +4,6 @@
 
 #include <QMainWindow>
 
-class QLabel;
-
 namespace projectile {
 
 class ExercisePanel;
@@ -22,8 +20,6 @@ struct Opening {
 
 /// The simulator: controls at the left, drawing, table and formulas at the right.
 class MainWindow : public QMainWindow {
-    Q_OBJECT
-
 public:
     explicit MainWindow(const Opening& opening);
 

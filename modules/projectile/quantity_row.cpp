@@ -1,7 +1,7 @@
 #include "projectile/quantity_row.h"
 
 #include "common/formula_label.h"
-#include "common/house.h"
+#include "look/interface_font.h"
 
 #include <QGridLayout>
 #include <QKeyEvent>
@@ -40,7 +40,7 @@ QuantityRow::QuantityRow(Experiment& experiment, Parameter parameter, QWidget* p
       field_(new NumberField), slider_(new QSlider(Qt::Horizontal)) {
     const QString name = text(quantity_.name);
     auto* label = new common::FormulaLabel(
-        QStringLiteral("\\text{%1 }%2").arg(name, text(quantity_.symbol)), name, common::kTextPx);
+        QStringLiteral("\\text{%1 }%2").arg(name, text(quantity_.symbol)), name, look::kLabelPx);
 
     const bool isAngle = parameter == Parameter::Angle;
     field_->setRange(quantity_.least, quantity_.most);
@@ -70,8 +70,7 @@ QuantityRow::QuantityRow(Experiment& experiment, Parameter parameter, QWidget* p
             [this, parameter](double value) { experiment_.set(parameter, value); });
     connect(slider_, &QSlider::valueChanged, this,
             [this, parameter](int position) { experiment_.set(parameter, valueAt(position)); });
-    connect(&experiment_, &Experiment::changed, this,
-            [this] { show(experiment_.launch().*quantity_.value); });
+    experiment_.onChanged([this] { show(experiment_.launch().*quantity_.value); });
     show(experiment_.launch().*quantity_.value);
     setEnabled(!experiment_.isLocked(parameter));
 }

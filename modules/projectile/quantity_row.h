@@ -11,8 +11,6 @@ namespace projectile {
 /// A field for a number with its unit. Takes the decimal point for the comma, and leaves the space
 /// bar to the window.
 class NumberField : public QDoubleSpinBox {
-    Q_OBJECT
-
 public:
     using QDoubleSpinBox::QDoubleSpinBox;
 
@@ -23,8 +21,6 @@ protected:
 /// One number of the launch: its name and symbol, a field, a slider under both. A number that the
 /// exercise gives cannot be changed.
 class QuantityRow : public QWidget {
-    Q_OBJECT
-
 public:
     QuantityRow(Experiment& experiment, Parameter parameter, QWidget* parent = nullptr);
 

@@ -2,7 +2,9 @@
 
 #include "common/formula.h"
 #include "common/french_number.h"
-#include "common/house.h"
+#include "look/interface_font.h"
+#include "look/palette.h"
+#include "look/pixels.h"
 
 #include <QPainter>
 
@@ -29,8 +31,8 @@ struct Reading {
 /// Readings of which no line has more than `perLine`. Returns the top of the next line.
 double paintGroup(QPainter& painter, double top, double width, const QString& name,
                   const std::vector<Reading>& readings, std::size_t perLine, bool hidden) {
-    painter.setFont(common::houseFont(12));
-    painter.setPen(QColor::fromRgb(common::kMuted));
+    painter.setFont(look::interfaceFont(look::kButtonPx));
+    painter.setPen(QColor::fromRgb(look::kMuted));
     painter.drawText(QPointF(10, top + kBaseline), name);
     const double cell = (width - kNameWidth - 8) / static_cast<double>(perLine);
     double x = kNameWidth;
@@ -40,12 +42,12 @@ double paintGroup(QPainter& painter, double top, double width, const QString& na
             x = kNameWidth;
             top += kLineHeight;
         }
-        painter.setPen(QColor::fromRgb(common::kMuted));
+        painter.setPen(QColor::fromRgb(look::kMuted));
         const common::Formula symbol(
-            QString::fromUtf16(reading.name) + QStringLiteral("\u00A0=\u00A0"), common::kTextPx);
+            QString::fromUtf16(reading.name) + QStringLiteral("\u00A0=\u00A0"), look::kLabelPx);
         symbol.paint(painter, {x, top + kBaseline});
-        painter.setPen(QColor::fromRgb(common::kInk));
-        painter.setFont(common::houseFont(common::kTextPx, true));
+        painter.setPen(QColor::fromRgb(look::kInk));
+        painter.setFont(look::interfaceFont(look::kLabelPx, look::Weight::Bold));
         const QString value = hidden ? QStringLiteral("?") : common::frenchNumber(reading.value, 2);
         painter.drawText(QPointF(x + symbol.width(), top + kBaseline),
                          value + u'\u00A0' + QString::fromUtf16(reading.unit));
@@ -60,8 +62,8 @@ Readings::Readings(Experiment& experiment, QWidget* parent)
     : QWidget(parent), experiment_(experiment) {
     setFixedHeight(2 * kLineHeight + kEdges);
     setAccessibleName(QStringLiteral("Valeurs à l’instant affiché et pour le vol entier"));
-    connect(&experiment_, &Experiment::changed, this, qOverload<>(&QWidget::update));
-    connect(&experiment_, &Experiment::moved, this, qOverload<>(&QWidget::update));
+    experiment_.onChanged([this] { update(); });
+    experiment_.onMoved([this] { update(); });
 }
 
 void Readings::setFlightHidden(bool hidden) {
@@ -75,9 +77,7 @@ void Readings::resizeEvent(QResizeEvent*) {
 
 void Readings::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.fillRect(rect(), QColor::fromRgb(common::kPaper));
-    painter.setPen(QColor::fromRgb(common::kRule));
-    painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+    look::drawFrame(painter, rect(), 0, look::kRule, QColor::fromRgb(look::kPaper));
     const Moment now = experiment_.now();
     const Flight& flight = experiment_.flight();
     const bool wide = width() >= kLeastForTwoLines;

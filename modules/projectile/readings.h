@@ -9,8 +9,6 @@ namespace projectile {
 /// Two lines of numbers: the moment shown, and the flight as a whole; four in a narrow window.
 /// Those of the flight can be withheld, for an exercise that asks for them.
 class Readings : public QWidget {
-    Q_OBJECT
-
 public:
     explicit Readings(Experiment& experiment, QWidget* parent = nullptr);
 

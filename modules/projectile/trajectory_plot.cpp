@@ -2,7 +2,9 @@
 
 #include "common/formula.h"
 #include "common/french_number.h"
-#include "common/house.h"
+#include "look/interface_font.h"
+#include "look/palette.h"
+#include "look/pixels.h"
 #include "projectile/vector_painter.h"
 
 #include <QMouseEvent>
@@ -47,9 +49,10 @@ constexpr std::array<Stroke, Experiment::kMostKept> kStrokes = {{
     {0xffa0326a, Qt::DashLine},
 }};
 
+/// Part of a formula.
 QString metres(double value, double perPixel) {
     const int decimals = std::clamp(static_cast<int>(std::ceil(-std::log10(perPixel))), 0, 3);
-    return common::frenchNumber(value, decimals) + QStringLiteral("\u00A0m");
+    return common::frenchNumber(value, decimals) + QStringLiteral("\\text{\u00A0m}");
 }
 
 } // namespace
@@ -58,15 +61,13 @@ TrajectoryPlot::TrajectoryPlot(Experiment& experiment, QWidget* parent)
     : QWidget(parent), experiment_(experiment) {
     setMouseTracking(true);
     setAccessibleName(QStringLiteral("Trajectoire du projectile"));
-    connect(&experiment_, &Experiment::changed, this, [this] {
+    const auto fitAndShow = [this] {
         fit();
         update();
-    });
-    connect(&experiment_, &Experiment::keptChanged, this, [this] {
-        fit();
-        update();
-    });
-    connect(&experiment_, &Experiment::moved, this, qOverload<>(&QWidget::update));
+    };
+    experiment_.onChanged(fitAndShow);
+    experiment_.onKeptChanged(fitAndShow);
+    experiment_.onMoved([this] { update(); });
 }
 
 void TrajectoryPlot::setShown(const Shown& shown) {
@@ -106,7 +107,7 @@ void TrajectoryPlot::fit() {
 
 void TrajectoryPlot::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.fillRect(rect(), QColor::fromRgb(common::kPaper));
+    painter.fillRect(rect(), QColor::fromRgb(look::kPaper));
     axes_.paint(painter, QStringLiteral("x\\text{ (m)}"), QStringLiteral("y\\text{ (m)}"));
     painter.setRenderHint(QPainter::Antialiasing);
     painter.save();
@@ -115,7 +116,7 @@ void TrajectoryPlot::paintEvent(QPaintEvent*) {
     paintLandmarks(painter);
     for (std::size_t i = 0; i < experiment_.kept().size(); ++i)
         paintPath(painter, experiment_.kept()[i], kStrokes.at(i).ink, kStrokes.at(i).style);
-    paintPath(painter, experiment_.flight(), common::kBlue, Qt::SolidLine);
+    paintPath(painter, experiment_.flight(), look::kBlue, Qt::SolidLine);
     if (shown_.points)
         paintPoints(painter);
     painter.restore();
@@ -137,8 +138,8 @@ void TrajectoryPlot::paintGround(QPainter& painter) const {
         const double top = axes_.pixel(0, height).y();
         solid.addRect(QRectF(area.left(), top, edge - area.left(), ground - top));
     }
-    painter.fillPath(solid.simplified(), QColor::fromRgb(0xfff1eddf));
-    painter.setPen(QPen(QColor::fromRgb(common::kEdge), 1.5));
+    painter.fillPath(solid.simplified(), QColor::fromRgb(look::kScrollTrack));
+    painter.setPen(QPen(QColor::fromRgb(look::kEdge), 1.5));
     QPolygonF outline = {{area.right(), ground}, {edge, ground}};
     if (height > 0) {
         const double top = sharp(painter, axes_.pixel(0, height).y());
@@ -152,11 +153,11 @@ void TrajectoryPlot::paintGround(QPainter& painter) const {
 void TrajectoryPlot::paintLandmarks(QPainter& painter) const {
     if (!experiment_.exercise())
         return;
-    painter.setFont(common::houseFont(12));
+    painter.setFont(look::interfaceFont(look::kButtonPx));
     for (const Landmark& mark : experiment_.exercise()->landmarks) {
         const QPointF at = axes_.pixel(mark.place.x(), mark.place.y());
         painter.setPen(QPen(QColor::fromRgb(0xffa65a00), 2));
-        painter.setBrush(QColor::fromRgb(common::kPaper));
+        painter.setBrush(QColor::fromRgb(look::kPaper));
         painter.drawEllipse(at, 9, 4);
         painter.drawLine(at - QPointF(3, 0), at + QPointF(3, 0));
         painter.drawLine(at - QPointF(0, 3), at + QPointF(0, 3));
@@ -180,12 +181,12 @@ void TrajectoryPlot::paintPath(QPainter& painter, const Flight& flight, QRgb ink
 void TrajectoryPlot::paintPoints(QPainter& painter) const {
     const Flight& flight = experiment_.flight();
     const double interval = strobeInterval(flight.duration());
-    painter.setPen(QPen(QColor::fromRgb(common::kBlue), 1.3));
+    painter.setPen(QPen(QColor::fromRgb(look::kBlue), 1.3));
     // Those that the projectile has passed are filled.
     for (int i = 0; i * interval <= flight.duration(); ++i) {
         const Moment moment = flight.at(i * interval);
         const bool passed = moment.t <= experiment_.playback().time();
-        painter.setBrush(QColor::fromRgb(passed ? 0xffbcd0e8 : common::kPaper));
+        painter.setBrush(QColor::fromRgb(passed ? 0xffbcd0e8 : look::kPaper));
         painter.drawEllipse(axes_.pixel(moment.x, moment.y), kPoint, kPoint);
     }
 }
@@ -196,8 +197,8 @@ QPointF TrajectoryPlot::projectilePixel() const {
 }
 
 void TrajectoryPlot::paintProjectile(QPainter& painter) const {
-    painter.setPen(QPen(QColor::fromRgb(common::kPaper), 1.5));
-    painter.setBrush(QColor::fromRgb(common::kBlue));
+    painter.setPen(QPen(QColor::fromRgb(look::kPaper), 1.5));
+    painter.setBrush(QColor::fromRgb(look::kBlue));
     painter.drawEllipse(projectilePixel(), kBall, kBall);
 }
 
@@ -244,29 +245,29 @@ void TrajectoryPlot::paintLegend(QPainter& painter) const {
         return;
     constexpr double kLine = 18;
     constexpr double kSample = 30;
-    painter.setFont(common::houseFont(12));
-    const QFontMetricsF metrics(painter.font());
     struct Row {
         Stroke stroke;
-        QString text;
+        common::Formula formula;
     };
-    std::vector<Row> rows = {{{common::kBlue, Qt::SolidLine}, describe(experiment_.launch())}};
+    const auto row = [](const Stroke& stroke, const Flight& flight) {
+        return Row{stroke, {describe(flight.launch()), look::kButtonPx}};
+    };
+    std::vector<Row> rows = {row({look::kBlue, Qt::SolidLine}, experiment_.flight())};
     for (std::size_t i = 0; i < experiment_.kept().size(); ++i)
-        rows.push_back({kStrokes.at(i), describe(experiment_.kept()[i].launch())});
+        rows.push_back(row(kStrokes.at(i), experiment_.kept()[i]));
     double width = 0;
-    for (const Row& row : rows)
-        width = std::max(width, metrics.horizontalAdvance(row.text));
-    const QRectF box(axes_.area().right() - width - kSample - 24, axes_.area().top() + 4,
-                     width + kSample + 20, static_cast<double>(rows.size()) * kLine + 8);
-    painter.setPen(QColor::fromRgb(common::kRule));
-    painter.setBrush(QColor::fromRgb(common::kPaper));
-    painter.drawRect(box);
+    for (const Row& each : rows)
+        width = std::max(width, each.formula.width());
+    const double left = axes_.area().right() - width - kSample - 24;
+    const QRectF box(look::snapped(painter, left), look::snapped(painter, axes_.area().top() + 4),
+                     std::ceil(width) + kSample + 20, static_cast<double>(rows.size()) * kLine + 8);
+    look::drawFrame(painter, box, 0, look::kRule, QColor::fromRgb(look::kPaper));
     double y = box.top() + 4 + kLine / 2;
-    for (const Row& row : rows) {
-        painter.setPen(QPen(QColor::fromRgb(row.stroke.ink), 2, row.stroke.style));
+    for (const Row& each : rows) {
+        painter.setPen(QPen(QColor::fromRgb(each.stroke.ink), 2, each.stroke.style));
         painter.drawLine(QPointF(box.left() + 8, y), QPointF(box.left() + 8 + kSample, y));
-        painter.setPen(QColor::fromRgb(common::kInk));
-        painter.drawText(QPointF(box.left() + kSample + 14, y + 4), row.text);
+        painter.setPen(QColor::fromRgb(look::kInk));
+        each.formula.paint(painter, {box.left() + kSample + 14, y + 4});
         y += kLine;
     }
 }
@@ -274,10 +275,10 @@ void TrajectoryPlot::paintLegend(QPainter& painter) const {
 void TrajectoryPlot::paintScales(QPainter& painter) const {
     const double y = axes_.area().bottom() + Axes::kBelow - 10;
     double x = axes_.area().left();
-    painter.setFont(common::houseFont(common::kSmallPx));
+    painter.setFont(look::interfaceFont(look::kSmallPx));
     const auto scale = [&](QRgb ink, double length, const QString& text) {
         paintVector(painter, {x, y}, {x + length, y}, ink, {});
-        painter.setPen(QColor::fromRgb(common::kMuted));
+        painter.setPen(QColor::fromRgb(look::kMuted));
         painter.drawText(QPointF(x + length + 6, y + 4), text);
         x += length + 70;
     };
@@ -286,10 +287,10 @@ void TrajectoryPlot::paintScales(QPainter& painter) const {
     if (shown_.acceleration)
         scale(kAccelerationInk, 10 * kPixelsPerAcceleration, QStringLiteral("10\u00A0m/s²"));
     if (shown_.points) {
-        painter.setPen(QPen(QColor::fromRgb(common::kBlue), 1.3));
+        painter.setPen(QPen(QColor::fromRgb(look::kBlue), 1.3));
         painter.setBrush(QColor::fromRgb(0xffbcd0e8));
         painter.drawEllipse(QPointF(x + 4, y), kPoint, kPoint);
-        painter.setPen(QColor::fromRgb(common::kMuted));
+        painter.setPen(QColor::fromRgb(look::kMuted));
         const double interval = strobeInterval(experiment_.flight().duration());
         painter.drawText(
             QPointF(x + 14, y + 4),
@@ -302,12 +303,12 @@ void TrajectoryPlot::paintReading(QPainter& painter) const {
         return;
     const QPointF at = axes_.value(*pointer_);
     const double perPixel = axes_.value(*pointer_ + QPointF(1, 0)).x() - at.x();
-    painter.setFont(common::houseFont(12));
-    painter.setPen(QColor::fromRgb(common::kMuted));
-    painter.drawText(QRectF(axes_.area().right() - 260, 4, 260, 18),
-                     Qt::AlignRight | Qt::AlignVCenter,
-                     QStringLiteral("pointeur\u00A0: x\u00A0=\u00A0%1, y\u00A0=\u00A0%2")
-                         .arg(metres(at.x(), perPixel), metres(at.y(), perPixel)));
+    const common::Formula reading(
+        QStringLiteral("\\text{pointeur\u00A0: }x\u00A0=\u00A0%1, y\u00A0=\u00A0%2")
+            .arg(metres(at.x(), perPixel), metres(at.y(), perPixel)),
+        look::kButtonPx);
+    painter.setPen(QColor::fromRgb(look::kMuted));
+    reading.paint(painter, {axes_.area().right() - reading.width(), 17});
 }
 
 bool TrajectoryPlot::canAimAt(const QPointF& pixel) const {

@@ -18,8 +18,6 @@ struct Shown {
 /// The throw seen from the side: ground, paths, projectile, vectors. Both axes have one scale. At
 /// its start the throw is aimed by pulling the head of the velocity with the mouse.
 class TrajectoryPlot : public QWidget {
-    Q_OBJECT
-
 public:
     explicit TrajectoryPlot(Experiment& experiment, QWidget* parent = nullptr);
 

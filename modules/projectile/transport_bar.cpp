@@ -1,13 +1,13 @@
 #include "projectile/transport_bar.h"
 
+#include "common/formula_label.h"
 #include "common/french_number.h"
-#include "common/house.h"
+#include "common/plain_label.h"
+#include "look/button.h"
+#include "look/tool_tip.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
-#include <QIcon>
-#include <QLabel>
-#include <QPushButton>
 #include <QSignalBlocker>
 #include <QSlider>
 
@@ -17,7 +17,11 @@ namespace projectile {
 
 namespace {
 
-/// Pictures a second while it runs.
+constexpr int kIconButtonWidth = 40;
+constexpr int kStartWidth = 100;
+constexpr int kReadingWidth = 88;
+
+/// Between two pictures while it runs.
 constexpr int kPictureMilliseconds = 16;
 
 /// One step by hand, in seconds of the flight.
@@ -32,10 +36,6 @@ constexpr double kLongestPause = 0.25;
 constexpr double kRates[] = {0.1, 0.25, 0.5, 1, 2, 5, 10};
 constexpr int kUsualRate = 3;
 
-QIcon icon(const char* name) {
-    return QIcon(QStringLiteral(":/projectile/%1.svg").arg(QString::fromLatin1(name)));
-}
-
 } // namespace
 
 TransportBar::TransportBar(Experiment& experiment, QWidget* parent)
@@ -49,36 +49,34 @@ TransportBar::TransportBar(Experiment& experiment, QWidget* parent)
     timer_.setInterval(kPictureMilliseconds);
     timer_.setTimerType(Qt::PreciseTimer);
     connect(&timer_, &QTimer::timeout, this, &TransportBar::tick);
-    connect(&experiment_, &Experiment::changed, this, &TransportBar::show);
-    connect(&experiment_, &Experiment::moved, this, &TransportBar::show);
+    experiment_.onChanged([this] { show(); });
+    experiment_.onMoved([this] { show(); });
     show();
 }
 
 void TransportBar::addButtons() {
-    const auto add = [this](const char* picture, const QString& name, auto action) {
-        auto* button = new QPushButton(icon(picture), {});
-        button->setFixedWidth(40);
-        button->setFocusPolicy(Qt::TabFocus); // a click leaves the space bar to the simulation
-        button->setIconSize({18, 18});
-        button->setStyleSheet(QStringLiteral("padding: 0;"));
-        button->setToolTip(name);
+    const auto add = [this](const QString& icon, const QString& name, auto action) {
+        auto* button = new look::Button({}, {.icon = icon}, this);
+        button->setFixedWidth(kIconButtonWidth);
         button->setAccessibleName(name);
+        look::setToolTip(*button, name);
         connect(button, &QPushButton::clicked, this, action);
         layout()->addWidget(button);
         return button;
     };
-    add("to-start", QStringLiteral("Revenir au départ"), [this] { reset(); });
-    add("step-back", QStringLiteral("Un pas en arrière"), [this] {
+    add(QStringLiteral("to-start"), QStringLiteral("Revenir au départ"), [this] { reset(); });
+    add(QStringLiteral("back-step"), QStringLiteral("Un pas en arrière"), [this] {
         step(-1);
     })->setAutoRepeat(true);
-    start_ = new QPushButton;
-    start_->setProperty("main", true);
-    start_->setIconSize({18, 18});
-    start_->setFixedWidth(104);
-    start_->setFocusPolicy(Qt::TabFocus);
+    start_ =
+        new look::Button(QStringLiteral("Départ"),
+                         {.kind = look::Button::Kind::Main, .icon = QStringLiteral("play")}, this);
+    start_->setFixedWidth(kStartWidth);
     connect(start_, &QPushButton::clicked, this, [this] { toggle(); });
     layout()->addWidget(start_);
-    add("step", QStringLiteral("Un pas en avant"), [this] { step(1); })->setAutoRepeat(true);
+    add(QStringLiteral("step"), QStringLiteral("Un pas en avant"), [this] {
+        step(1);
+    })->setAutoRepeat(true);
 }
 
 void TransportBar::addTime() {
@@ -91,9 +89,9 @@ void TransportBar::addTime() {
         const double t = experiment_.playback().duration() * position / kPositions;
         experiment_.play([t](Playback& playback) { playback.seek(t); });
     });
-    reading_ = new QLabel;
-    reading_->setFixedWidth(88);
-    reading_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    reading_ = new common::FormulaLabel({}, {}, look::kLabelPx);
+    reading_->setFixedWidth(kReadingWidth);
+    reading_->setAlignment(Qt::AlignRight);
     static_cast<QHBoxLayout*>(layout())->addWidget(time_, 1);
     layout()->addWidget(reading_);
 }
@@ -104,7 +102,7 @@ void TransportBar::addRates() {
         rates_->addItem(QStringLiteral("×\u00A0") + common::frenchDigits(rate, 2));
     rates_->setCurrentIndex(kUsualRate);
     rates_->setAccessibleName(QStringLiteral("Vitesse de la simulation"));
-    rates_->setToolTip(QStringLiteral("ralenti ou accéléré"));
+    look::setToolTip(*rates_, QStringLiteral("ralenti ou accéléré"));
     connect(rates_, &QComboBox::currentIndexChanged, this, [this](int which) {
         experiment_.play([which](Playback& playback) { playback.setRate(kRates[which]); });
     });
@@ -140,20 +138,22 @@ void TransportBar::show() {
     const QString caption =
         playback.isRunning() ? QStringLiteral("Pause") : QStringLiteral("Départ");
     if (start_->text() != caption) {
-        start_->setText(caption);
-        start_->setIcon(icon(playback.isRunning() ? "pause" : "play"));
+        start_->setCaption(caption);
+        start_->setIconName(playback.isRunning() ? QStringLiteral("pause")
+                                                 : QStringLiteral("play"));
     }
     start_->setEnabled(playback.duration() > 0);
-    start_->setToolTip(playback.duration() > 0
-                           ? QStringLiteral("ou barre d’espace")
-                           : QStringLiteral("Lancé ainsi, le projectile reste au sol."));
+    look::setToolTip(*start_, playback.duration() > 0
+                                  ? QStringLiteral("ou barre d’espace")
+                                  : QStringLiteral("Lancé ainsi, le projectile reste au sol."));
     const QSignalBlocker blocker(time_);
     time_->setValue(
         playback.duration() > 0
             ? static_cast<int>(std::lround(playback.time() / playback.duration() * kPositions))
             : 0);
-    reading_->setText(
-        QStringLiteral("t\u00A0=\u00A0%1\u00A0s").arg(common::frenchNumber(playback.time(), 2)));
+    const QString seconds = common::frenchNumber(playback.time(), 2);
+    reading_->setFormula(QStringLiteral("t\u00A0=\u00A0%1\\text{\u00A0s}").arg(seconds),
+                         QStringLiteral("t\u00A0=\u00A0%1\u00A0s").arg(seconds));
 }
 
 } // namespace projectile

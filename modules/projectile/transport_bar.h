@@ -6,9 +6,15 @@
 #include <QTimer>
 #include <QWidget>
 
+namespace common {
+class FormulaLabel;
+}
+
+namespace look {
+class Button;
+}
+
 class QComboBox;
-class QLabel;
-class QPushButton;
 class QSlider;
 
 namespace projectile {
@@ -16,8 +22,6 @@ namespace projectile {
 /// Start, pause, single steps, the time to pull at, and the rate. Has the only timer of the
 /// program, which ticks only while the simulation runs.
 class TransportBar : public QWidget {
-    Q_OBJECT
-
 public:
     explicit TransportBar(Experiment& experiment, QWidget* parent = nullptr);
 
@@ -33,9 +37,9 @@ private:
     void tick();
 
     Experiment& experiment_;
-    QPushButton* start_ = nullptr;
+    look::Button* start_ = nullptr;
     QSlider* time_ = nullptr;
-    QLabel* reading_ = nullptr;
+    common::FormulaLabel* reading_ = nullptr;
     QComboBox* rates_ = nullptr;
     QTimer timer_;
     QElapsedTimer clock_;

@@ -2,7 +2,10 @@
 
 #include "common/formula.h"
 #include "common/french_number.h"
-#include "common/house.h"
+#include "look/interface_font.h"
+#include "look/palette.h"
+#include "look/scroll_bar.h"
+#include "look/tool_tip.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -64,23 +67,23 @@ public:
 
 protected:
     void paintSection(QPainter* painter, const QRect& rect, int column) const override {
-        painter->fillRect(rect, QColor::fromRgb(common::kIvory));
-        painter->setPen(QColor::fromRgb(common::kRule));
+        painter->fillRect(rect, QColor::fromRgb(look::kIvory));
+        painter->setPen(QColor::fromRgb(look::kRule));
         painter->drawLine(rect.bottomLeft(), rect.bottomRight());
-        painter->setPen(QColor::fromRgb(common::kInk));
+        painter->setPen(QColor::fromRgb(look::kInk));
         const common::Formula head(QStringLiteral("%1\\text{ (%2)}")
                                        .arg(QString::fromUtf8(kHeads[column].symbol),
                                             QString::fromUtf8(kHeads[column].unit)),
-                                   common::kTextPx);
+                                   look::kLabelPx);
         head.paint(*painter, {rect.right() - head.width() - 4, rect.top() + 18.0});
     }
 };
 
 } // namespace
 
-ValueModel::ValueModel(const Experiment& experiment, QObject* parent)
+ValueModel::ValueModel(Experiment& experiment, QObject* parent)
     : QAbstractTableModel(parent), experiment_(experiment) {
-    connect(&experiment_, &Experiment::changed, this, [this] {
+    experiment.onChanged([this] {
         beginResetModel();
         refill();
         endResetModel();
@@ -132,7 +135,8 @@ ValueTable::ValueTable(Experiment& experiment, QWidget* parent)
     : QTableView(parent), experiment_(experiment), model_(new ValueModel(experiment, this)) {
     setModel(model_);
     setAccessibleName(QStringLiteral("Tableau de valeurs"));
-    setToolTip(QStringLiteral("Ctrl+C copie tout le tableau pour un tableur."));
+    look::setToolTip(*this, QStringLiteral("Ctrl+C copie tout le tableau pour un tableur."));
+    setVerticalScrollBar(new look::ScrollBar(this, look::ScrollBar::Top::Minimum));
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setSelectionMode(QAbstractItemView::SingleSelection);
     setTabKeyNavigation(false);
@@ -140,7 +144,7 @@ ValueTable::ValueTable(Experiment& experiment, QWidget* parent)
     verticalHeader()->hide();
     verticalHeader()->setDefaultSectionSize(kRowHeight);
     setHorizontalHeader(new FormulaHeader(this));
-    connect(&experiment_, &Experiment::moved, this, &ValueTable::follow);
+    experiment_.onMoved([this] { follow(); });
     connect(model_, &QAbstractItemModel::modelReset, this, &ValueTable::follow);
     connect(selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex& row) {

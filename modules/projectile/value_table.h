@@ -9,10 +9,8 @@ namespace projectile {
 
 /// The moments of the stroboscope and the landing, a row each.
 class ValueModel : public QAbstractTableModel {
-    Q_OBJECT
-
 public:
-    explicit ValueModel(const Experiment& experiment, QObject* parent = nullptr);
+    explicit ValueModel(Experiment& experiment, QObject* parent = nullptr);
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -33,8 +31,6 @@ private:
 
 /// The table, whose selected row follows the simulation. Copies its rows for a spreadsheet.
 class ValueTable : public QTableView {
-    Q_OBJECT
-
 public:
     explicit ValueTable(Experiment& experiment, QWidget* parent = nullptr);
 

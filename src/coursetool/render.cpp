@@ -21,10 +21,10 @@ constexpr char kQuestionEnding[] = ".question";
 class FileNames {
 public:
     QString next(const char* kind, std::optional<int> number) {
-        const QString name = number ? QStringLiteral("%1-%2")
-                                          .arg(QLatin1String(kind))
-                                          .arg(*number, 3, 10, QLatin1Char('0'))
-                                    : QStringLiteral("%1-sans-numero").arg(QLatin1String(kind));
+        const QString name =
+            number
+                ? QStringLiteral("%1-%2").arg(QLatin1String(kind)).arg(*number, 3, 10, QChar(u'0'))
+                : QStringLiteral("%1-sans-numero").arg(QLatin1String(kind));
         const int times = ++given_[name];
         return times == 1 ? name : QStringLiteral("%1-%2").arg(name).arg(times);
     }

@@ -48,7 +48,7 @@ public:
         return *this;
     }
     Line& colour(std::string_view name, QRgb value) {
-        return text(name, QStringLiteral("#%1").arg(value & 0xffffff, 6, 16, QLatin1Char('0')));
+        return text(name, QStringLiteral("#%1").arg(value & 0xffffff, 6, 16, QChar(u'0')));
     }
     Line& surface(page::SurfaceId id) { return text("surface", markup::surfaceName(id)); }
     Line& font(const page::Font& font) {

@@ -32,7 +32,7 @@ HelpBook::HelpBook(const QString& folder) : folder_(folder) {
 }
 
 void HelpBook::readLine(const QString& line) {
-    if (line.startsWith(QLatin1String("# "))) {
+    if (line.startsWith(QStringLiteral("# "))) {
         chapters_.append({line.mid(2), {}});
         return;
     }

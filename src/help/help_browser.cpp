@@ -26,7 +26,7 @@ QUrl addressOf(const QString& file) {
 }
 
 QString fileOf(const QUrl& url) {
-    return url.scheme() == QLatin1String("aide") ? url.path().mid(1) : QString();
+    return url.scheme() == QStringLiteral("aide") ? url.path().mid(1) : QString();
 }
 
 } // namespace

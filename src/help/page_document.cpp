@@ -77,9 +77,9 @@ QString pageStyle(double zoom) {
 
 QPixmap pagePicture(const QString& folder, const QString& name, double ratio) {
     const QString file = platform::lastComponent(name);
-    if (name.contains(QLatin1String("icone/")))
+    if (name.contains(QStringLiteral("icone/")))
         return drawing(file, ratio);
-    if (name.contains(QLatin1String("captures/")))
+    if (name.contains(QStringLiteral("captures/")))
         return capture(folder + QStringLiteral("/captures/") + file, ratio);
     return {};
 }

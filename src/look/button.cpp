@@ -22,6 +22,8 @@ constexpr double kTopBaseline = 46;
 
 constexpr int kHeight = 32;
 constexpr int kSideMargin = 16;
+constexpr int kSegmentHeight = 26;
+constexpr int kSegmentMargin = 6;
 
 /// Height of the letters' middle above their foot, in parts of the size.
 constexpr double kMiddle = 0.355;
@@ -43,6 +45,7 @@ Button::Button(const QString& caption, const Look& look, QWidget* parent)
     setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_Hover);
     setAutoDefault(true);
+    setCheckable(kind_ == Kind::Segment);
     if (!caption.isEmpty())
         setAccessibleName(plainCaption());
 }
@@ -83,9 +86,10 @@ QString Button::plainCaption() const {
 }
 
 QSize Button::sizeHint() const {
-    const double caption = QFontMetricsF(font()).horizontalAdvance(plainCaption());
     const double icon = icon_.isEmpty() ? 0 : kIconPx + kIconGap;
-    return {qCeil(caption + icon) + 2 * kSideMargin, kHeight};
+    const bool segment = kind_ == Kind::Segment;
+    return {qCeil(captionWidth() + icon) + 2 * (segment ? kSegmentMargin : kSideMargin),
+            segment ? kSegmentHeight : kHeight};
 }
 
 bool Button::event(QEvent* event) {
@@ -106,18 +110,22 @@ void Button::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Left:
     case Qt::Key_Right:
         // They belong to what the window scrolls; the Tab key leads from button to button.
-        event->ignore();
-        return;
+        if (kind_ != Kind::Segment) {
+            event->ignore();
+            return;
+        }
+        break;
     case Qt::Key_Return:
     case Qt::Key_Enter:
         // Held down it acts once, like Space. The button may have the keyboard again only because
         // the same key has just closed the window that it opens.
         if (event->isAutoRepeat())
             return;
-        [[fallthrough]];
+        break;
     default:
-        QPushButton::keyPressEvent(event);
+        break;
     }
+    QPushButton::keyPressEvent(event);
 }
 
 void Button::paintEvent(QPaintEvent*) {
@@ -129,12 +137,16 @@ void Button::paintEvent(QPaintEvent*) {
     paintContent(painter, now);
 }
 
+bool Button::isBlue() const {
+    return kind_ == Kind::Main || (kind_ == Kind::Segment && isChecked());
+}
+
 Button::Colours Button::colours() const {
-    const bool main = kind_ == Kind::Main;
+    const bool main = isBlue();
     const bool toolbar = kind_ == Kind::Toolbar;
     Colours now;
     if (!isEnabled()) {
-        now.text = kEdge;
+        now.text = main && kind_ == Kind::Segment ? kMuted : kEdge; // what holds can be read
         now.icon = Icon::Style::Faded;
         if (!toolbar) {
             now.ground = main ? kVideoTrack : kIvory;
@@ -165,14 +177,14 @@ void Button::paintGround(QPainter& painter, const Colours& colours) const {
             colours.ground == 0 ? QBrush(Qt::NoBrush) : QBrush(QColor::fromRgb(colours.ground));
         drawFrame(painter, whole, kRadius, colours.edge, ground, colours.edgePx);
     }
-    if (kind_ == Kind::Main && hasFocus() && isEnabled())
+    if (isBlue() && hasFocus() && isEnabled())
         drawFrame(painter, whole.adjusted(3, 3, -3, -3), kRadius - 1.5, kPaper, Qt::NoBrush);
 }
 
 void Button::paintContent(QPainter& painter, const Colours& colours) const {
     painter.setPen(QColor::fromRgb(colours.text));
     painter.setFont(font());
-    const double textWidth = QFontMetricsF(font()).horizontalAdvance(plainCaption());
+    const double textWidth = captionWidth();
     if (place_ == IconPlace::Top) {
         icon_.paint(painter, {(width() - kIconPx) / 2, kTopIconY, kIconPx, kIconPx}, colours.icon,
                     colours.fadedOver);
@@ -188,6 +200,10 @@ void Button::paintContent(QPainter& painter, const Colours& colours) const {
                 colours.fadedOver);
     paintCaption(painter, {iconFirst ? left + iconWidth + gap : left,
                            height() / 2.0 + kMiddle * font().pixelSize()});
+}
+
+double Button::captionWidth() const {
+    return QFontMetricsF(font()).horizontalAdvance(plainCaption());
 }
 
 void Button::paintCaption(QPainter& painter, QPointF baseline) const {

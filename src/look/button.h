@@ -16,6 +16,7 @@ public:
         Ordinary,
         Main,    ///< the one action that a window is there for
         Toolbar, ///< without border or ground at rest
+        Segment, ///< one of a row of which one stays pressed; the arrow keys lead through the row
     };
 
     enum class IconPlace { Left, Right, Top };
@@ -51,11 +52,14 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
     /// The caption in the painter's pen and font, its mnemonic underlined when that is shown.
-    void paintCaption(QPainter& painter, QPointF baseline) const;
+    virtual void paintCaption(QPainter& painter, QPointF baseline) const;
+    /// Width of what that paints, in pixels.
+    virtual double captionWidth() const;
 
 private:
     struct Colours;
 
+    bool isBlue() const;
     Colours colours() const;
     void paintGround(QPainter& painter, const Colours& colours) const;
     void paintContent(QPainter& painter, const Colours& colours) const;

@@ -126,7 +126,7 @@ std::optional<int> placePicture(Renderer& renderer, QStringView key, const QStri
 } // namespace
 
 void firstCaptionLine(Renderer& renderer, QStringView d) {
-    renderer.state().lienEnAttente = d.sliced(kKeywordLength).toString() + QLatin1String("\r\n");
+    renderer.state().lienEnAttente = d.sliced(kKeywordLength).toString() + QStringLiteral("\r\n");
 }
 
 void textLink(Renderer& renderer, QStringView d) {

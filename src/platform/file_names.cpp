@@ -12,8 +12,7 @@ namespace platform {
 namespace {
 
 bool hasDrivePrefix(const QString& name) {
-    return name.size() >= 2 && name[1] == QLatin1Char(':') && name[0].unicode() < 0x80 &&
-           name[0].isLetter();
+    return name.size() >= 2 && name[1] == u':' && name[0].unicode() < 0x80 && name[0].isLetter();
 }
 
 using IsWithin = bool (*)(const std::filesystem::path& entry,
@@ -44,14 +43,13 @@ std::optional<QString> findEntry(const QString& directory, const QString& name, 
 
 QString lastComponent(const QString& name) {
     QString rest = name.left(name.indexOf(QChar(u'\0')));
-    const qsizetype separator =
-        std::max(rest.lastIndexOf(QLatin1Char('\\')), rest.lastIndexOf(QLatin1Char('/')));
+    const qsizetype separator = std::max(rest.lastIndexOf(u'\\'), rest.lastIndexOf(u'/'));
     rest.remove(0, separator + 1);
     if (hasDrivePrefix(rest))
         rest.remove(0, 2);
     // Some systems ignore blanks around a name, so ". " would be the directory as well.
     const QString core = rest.trimmed();
-    if (core.isEmpty() || core == QLatin1String(".") || core == QLatin1String(".."))
+    if (core.isEmpty() || core == QStringLiteral(".") || core == QStringLiteral(".."))
         return {};
     return rest;
 }

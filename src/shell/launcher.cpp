@@ -146,7 +146,7 @@ void Launcher::launchModule(std::int16_t code) {
 void Launcher::reportUnknown(std::int16_t code) {
     reportFailure(reports_, QStringLiteral("Ce lien désigne un module qu’Orvalente ne connaît pas "
                                            "(code\u00A0%1).")
-                                .arg(code, 3, 10, QLatin1Char('0')));
+                                .arg(code, 3, 10, QChar(u'0')));
 }
 
 void Launcher::reportHidden(const QString& program) {

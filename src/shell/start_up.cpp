@@ -80,7 +80,7 @@ bool StartUp::bindDatabase() {
 void StartUp::fillSiblingProgramNames() {
     for (int slot = 1; slot <= kSiblingPrograms; ++slot) {
         state_.SiblingProgramNames.store(
-            slot, QStringLiteral("SIMU%1.EXE").arg(slot, 2, 10, QLatin1Char('0')));
+            slot, QStringLiteral("SIMU%1.EXE").arg(slot, 2, 10, QChar(u'0')));
     }
 }
 

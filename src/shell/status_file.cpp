@@ -20,13 +20,6 @@ qint64 positionOf(int record) {
     return qint64{record - 1} * StatusFile::kRecordLength;
 }
 
-bool openForReading(QFile& file) {
-    // Opening for both makes a missing file. In a directory that cannot be written, what is there
-    // can still be read.
-    return platform::openPlainFile(file, PlainAccess::ReadWrite) ||
-           platform::openPlainFile(file, PlainAccess::Read);
-}
-
 QString textOf(const QByteArray& record) {
     if (record.size() < kLengthField)
         return {};
@@ -60,10 +53,18 @@ bool fillUp(QFile& file, int lastRecord) {
 
 } // namespace
 
+bool StatusFile::openForWriting(QFile& file) const {
+    return platform::openPlainFile(file, missing_ == Missing::IsMade
+                                             ? PlainAccess::ReadWrite
+                                             : PlainAccess::ReadWriteExisting);
+}
+
 QStringList StatusFile::read(const std::vector<int>& records) const {
     QStringList texts;
     QFile file(path_);
-    const bool open = openForReading(file);
+    // Opening for both makes a missing file. In a directory that cannot be written, what is there
+    // can still be read.
+    const bool open = openForWriting(file) || platform::openPlainFile(file, PlainAccess::Read);
     for (const int record : records) {
         const bool there = open && record >= 1 && file.seek(positionOf(record));
         texts.append(there ? textOf(file.read(kRecordLength)) : QString());
@@ -77,7 +78,7 @@ bool StatusFile::write(int first, const QStringList& texts) const {
         return false;
 
     QFile file(path_);
-    if (!platform::openPlainFile(file, PlainAccess::ReadWrite))
+    if (!openForWriting(file))
         return false;
     int record = first;
     for (const QString& text : texts) {

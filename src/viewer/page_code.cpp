@@ -8,7 +8,7 @@ namespace viewer {
 
 QString pageCode(int number) {
     const QString digits =
-        QStringLiteral("%1").arg(std::abs(static_cast<long>(number)), 3, 10, QLatin1Char('0'));
+        QStringLiteral("%1").arg(std::abs(static_cast<long>(number)), 3, 10, QChar(u'0'));
     return QStringLiteral("PAG") + (number < 0 ? QStringLiteral("-") : QString()) + digits;
 }
 

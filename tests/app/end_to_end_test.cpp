@@ -164,7 +164,7 @@ protected:
     }
 };
 
-TEST_F(LinkedPages, LinksLookAsTextUntilThePointerComes) {
+TEST_F(LinkedPages, linksLookAsTextUntilThePointerComes) {
     for (const double scale : {1.0, 1.25}) {
         start({"--scale", QString::number(scale)});
         run("xdotool", {"mousemove", "5", "5"});
@@ -179,7 +179,7 @@ TEST_F(LinkedPages, LinksLookAsTextUntilThePointerComes) {
     }
 }
 
-TEST_F(LinkedPages, LinksAreFollowedByMouseAndKeyboard) {
+TEST_F(LinkedPages, linksAreFollowedByMouseAndKeyboard) {
     start();
     const auto isSecond = [&] { return title().endsWith("Deux"); };
     ASSERT_TRUE(eventually([&] { return place().size() == QSize(800, 600); }));
@@ -199,7 +199,7 @@ TEST_F(LinkedPages, LinksAreFollowedByMouseAndKeyboard) {
     EXPECT_TRUE(eventually(isSecond));
 }
 
-TEST_F(LinkedPages, TheOrderFormAndTheDialogAboutTheInstallation) {
+TEST_F(LinkedPages, theOrderFormAndTheDialogAboutTheInstallation) {
     start();
     ASSERT_TRUE(eventually([&] { return place().size() == QSize(800, 600); }));
     const QString shell = title();

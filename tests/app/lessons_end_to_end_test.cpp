@@ -35,7 +35,7 @@ protected:
     bool testIsActive() const { return activeTitle() == "Exercices"; }
 };
 
-TEST_F(TestedPages, ATestIsLeftForAPageTakenUpAndGivenUp) {
+TEST_F(TestedPages, aTestIsLeftForAPageTakenUpAndGivenUp) {
     start();
     ASSERT_TRUE(eventually([&] { return place().size() == QSize(800, 600); }));
     click(190, 150); // the link
@@ -121,7 +121,7 @@ protected:
     }
 };
 
-TEST_F(VideoPages, PlaysFromTheDiscAndLeavesWhilePlaying) {
+TEST_F(VideoPages, playsFromTheDiscAndLeavesWhilePlaying) {
     start({"--drive", drive()});
     ASSERT_TRUE(eventually([&] { return place().size() == QSize(800, 600); }));
     click(716, 576); // suite

@@ -55,7 +55,7 @@ private:
     std::vector<std::unique_ptr<QProcess>> programs_;
 };
 
-TEST_F(Leaving, EndsTheModulesAndStartsTheCompanionOnceAModuleSaysThatItRuns) {
+TEST_F(Leaving, endsTheModulesAndStartsTheCompanionOnceAModuleSaysThatItRuns) {
     test_support::writeProgram(course() + "/terminus.exe", "#!/bin/sh\necho there > trace\n");
     QProcess& projectile =
         openModule("Simu23.exe", {"Mouvement d’un projectile - Orvalente, module 23"});
@@ -72,7 +72,7 @@ TEST_F(Leaving, EndsTheModulesAndStartsTheCompanionOnceAModuleSaysThatItRuns) {
     EXPECT_EQ(deaf.state(), QProcess::Running);
 }
 
-TEST_F(Leaving, EndsNeitherStrangersNorAnotherShellWithItsHelpOpen) {
+TEST_F(Leaving, endsNeitherStrangersNorAnotherShellWithItsHelpOpen) {
     QProcess& module = openModule("Simu23.exe", {"Projectile - Orvalente, module 23"});
     const QString document = "Orvalente, module 23.odt - Notes";
     QProcess& stranger = open(PLAIN_WINDOW, {document}, document);
@@ -89,7 +89,7 @@ TEST_F(Leaving, EndsNeitherStrangersNorAnotherShellWithItsHelpOpen) {
     EXPECT_EQ(activeTitle().isEmpty(), false);
 }
 
-TEST_F(Leaving, GoesWithTheModuleThatTheInternetButtonStarted) {
+TEST_F(Leaving, goesWithTheModuleThatTheInternetButtonStarted) {
     ASSERT_TRUE(QFile::copy(QStringLiteral(LINKS_MODULE), course() + "/SIMU07.EXE"));
     for (const bool installed : {false, true}) {
         if (installed) // where nobody but the installer writes

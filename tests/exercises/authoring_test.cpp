@@ -38,7 +38,7 @@ protected:
                                  QStringLiteral("Seconde¶\r\n")};
 };
 
-TEST_F(Authoring, TurnedBackTheSwitchStoresAndShowsWhatWasTyped) {
+TEST_F(Authoring, turnedBackTheSwitchStoresAndShowsWhatWasTyped) {
     click("Command1");
     ASSERT_TRUE(source().isVisible());
     type(QStringLiteral("Oh\n"));
@@ -48,7 +48,7 @@ TEST_F(Authoring, TurnedBackTheSwitchStoresAndShowsWhatWasTyped) {
     EXPECT_TRUE(area().readableText().contains(u"Oh"));
 }
 
-TEST_F(Authoring, ALastLineTypedWithoutEnterIsEnded) {
+TEST_F(Authoring, aLastLineTypedWithoutEnterIsEnded) {
     click("Command1");
     source().moveCursor(QTextCursor::End);
     source().insertPlainText(QStringLiteral("Cochez.¶"));
@@ -64,7 +64,7 @@ TEST_F(Authoring, ALastLineTypedWithoutEnterIsEnded) {
     EXPECT_EQ(stored()[0], u"");
 }
 
-TEST_F(Authoring, OnlyTheQuestionIsTakenAndOnlyWhatWasTypedIsStored) {
+TEST_F(Authoring, onlyTheQuestionIsTakenAndOnlyWhatWasTypedIsStored) {
     click("command5"); // wrong: the comment stands below
     ASSERT_TRUE(area().readableText().contains(u"Non"));
     click("Command1");
@@ -79,7 +79,7 @@ TEST_F(Authoring, OnlyTheQuestionIsTakenAndOnlyWhatWasTypedIsStored) {
     EXPECT_EQ(stored(), (QStringList{u'!' + untouched_[0], untouched_[1]}));
 }
 
-TEST_F(Authoring, ClosingStoresToo) {
+TEST_F(Authoring, closingStoresToo) {
     click("Command1");
     type(QStringLiteral("!"));
     prompter.answers = {platform::Answer::Yes};
@@ -88,7 +88,7 @@ TEST_F(Authoring, ClosingStoresToo) {
     EXPECT_EQ(stored()[0], u'!' + untouched_[0]);
 }
 
-TEST_F(Authoring, WhatCannotBeStoredIsToldAndKept) {
+TEST_F(Authoring, whatCannotBeStoredIsToldAndKept) {
     click("Command1");
     type(QStringLiteral("!"));
     lock();

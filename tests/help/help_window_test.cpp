@@ -74,7 +74,8 @@ TEST_F(Window, searchesAndMarksByKeyboard) {
     const int count = browser->hitCount();
     ASSERT_GT(count, 2);
     EXPECT_EQ(browser->currentHit(), 0);
-    EXPECT_EQ(window.findChild<QLabel*>()->text(), QString("Mot marqué 1 sur %1").arg(count));
+    EXPECT_EQ(window.findChild<QLabel*>()->text(),
+              QStringLiteral("Mot marqué 1 sur %1").arg(count));
     hit(Qt::Key_F3, Qt::ShiftModifier);
     EXPECT_EQ(browser->currentHit(), count - 1);
     EXPECT_TRUE(browser->viewport()->rect().intersects(browser->cursorRect()));
@@ -156,7 +157,7 @@ TEST_F(Window, printsThePageShown) {
     ASSERT_GT(sheets.size(), 1);
     EXPECT_EQ(sheets[0].first(), "Toutes les touches");
     EXPECT_EQ(QString(sheets[0].last()).remove(u' '),
-              QString("Aided’Orvalente–Touteslestouches1/%1").arg(sheets.size()));
+              QStringLiteral("Aided’Orvalente–Touteslestouches1/%1").arg(sheets.size()));
     EXPECT_TRUE(sheets.last().join(u' ').contains("sinon ferme l’aide"));
 
     printer.device().setOutputFileName(directory.path());

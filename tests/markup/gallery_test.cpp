@@ -21,8 +21,10 @@ TEST(Gallery, isInTheManualWithItsPictures) {
     ASSERT_TRUE(file.open(QFile::ReadOnly));
     const QString manual = QString::fromUtf8(file.readAll());
     for (const auto& [name, source] : test_support::gallery()) {
-        EXPECT_TRUE(manual.contains(u"```\n"_qs + source + u"```\n"_qs)) << name.toStdString();
-        const QString picture = u"gallery/"_qs + name.section(u'.', 0, 0) + u".png"_qs;
+        EXPECT_TRUE(manual.contains(QStringLiteral("```\n") + source + QStringLiteral("```\n")))
+            << name.toStdString();
+        const QString picture =
+            QStringLiteral("gallery/") + name.section(u'.', 0, 0) + QStringLiteral(".png");
         EXPECT_TRUE(manual.contains(picture)) << name.toStdString();
         EXPECT_TRUE(QFile::exists(QStringLiteral(GALLERY "/../") + picture)) << name.toStdString();
     }

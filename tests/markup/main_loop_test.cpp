@@ -152,7 +152,7 @@ TEST(MainLoopState, aHostileHeightIsBounded) {
 
 TEST(MainLoopState, everyOperationHasItsLine) {
     test_support::PageBench bench;
-    bench.title = u"Titre"_qs;
+    bench.title = QStringLiteral("Titre");
     bench.draw("un¶\n¶\n##RELIEF1 08\ndeux\n##POX9E9\n##OBJILLUS\n##LIERTx#PAG001\n##DECLIG-9\n");
     EXPECT_EQ(bench.page.lines, (std::vector<std::int32_t>{0, 1, 4, 4, 5, 6, 7, 8}));
     EXPECT_EQ(bench.page.lineOf(4), 5);
@@ -166,7 +166,7 @@ TEST(MainLoopState, everyOperationHasItsLine) {
 TEST(MainLoopState, aQuestionStartsOnAnAreaOfItsOwn) {
     test_support::PageBench bench;
     bench.as = markup::DrawnAs::Question;
-    bench.title = u"Titre"_qs;
+    bench.title = QStringLiteral("Titre");
     EXPECT_EQ(bench.draw("a¶\n##OBJTIT\nb\n"),
               QStringList({"print 0,0 \"a\" Arial 10", "surface titre", "clear titre",
                            "print 0,0 \"b\" Arial 10"}));

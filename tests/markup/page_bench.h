@@ -32,7 +32,7 @@ class PageBench : public markup::DrawingWatcher {
 public:
     /// Draws a source whose lines are given with "\n" and gives the operations, a line each.
     QStringList draw(QString source) {
-        return drawAsItIs(source.replace(QLatin1String("\n"), QLatin1String("\r\n")));
+        return drawAsItIs(source.replace(QStringLiteral("\n"), QStringLiteral("\r\n")));
     }
     QStringList drawAsItIs(const QString& source) {
         markup::drawPage({source, as, title, startsAt}, {state, pictures, metrics, this}, page);

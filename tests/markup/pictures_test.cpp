@@ -75,7 +75,7 @@ TEST(PagesOnPaper, leaveTheOtherSurfacesAlone) {
 TEST(PageVideo, isNamedByThePageAndByNoOther) {
     PageBench bench;
     EXPECT_EQ(bench.draw("##VIDEOchute.avi\n"), QStringList({"video chute.avi"}));
-    EXPECT_EQ(bench.page.videoPage, u"chute.avi"_qs);
+    EXPECT_EQ(bench.page.videoPage, QStringLiteral("chute.avi"));
     bench.draw("##VIDEO\n");
     EXPECT_EQ(bench.page.videoPage, QString()) << "a video without a name is one all the same";
     bench.draw("x\n");

@@ -202,13 +202,14 @@ TEST(Experiment, holdsNumbersWithinLimitsAndLeavesLockedOnesAlone) {
     EXPECT_EQ(experiment.launch(), expected);
 }
 
-TEST(Experiment, saysWhereThereIsNoAirToActWith) {
+TEST(Experiment, isDescribedWithSymbolsInItalicsAndUnitsUpright) {
     Launch launch;
+    EXPECT_EQ(describe(launch), "v_0\u00A0=\u00A020\\text{\u00A0m/s}, α\u00A0=\u00A045\\text{°}");
     launch.gravity = 5;
     launch.drag = Drag::Quadratic;
-    EXPECT_TRUE(describe(launch).endsWith("d\u00A0=\u00A00,24\u00A0m"));
-    launch.airDensity = 0;
-    EXPECT_TRUE(describe(launch).endsWith("g\u00A0=\u00A05\u00A0m/s², sans air"));
+    EXPECT_TRUE(describe(launch).endsWith("d\u00A0=\u00A00,24\\text{\u00A0m}"));
+    launch.airDensity = 0; // says where there is no air to act with
+    EXPECT_TRUE(describe(launch).endsWith("g\u00A0=\u00A05\\text{\u00A0m/s²}, \\text{sans air}"));
 }
 
 TEST(Experiment, keepsEachPathOnce) {

@@ -66,6 +66,9 @@ TEST_F(SimulatorTest, theSpaceBarRunsAndStopsAndArrowsMoveSliders) {
     EXPECT_TRUE(button("Pause"));
     auto* time = named<QSlider>("Temps");
     EXPECT_TRUE(eventually([&] { return time->value() > 20; }));
+    QKeyEvent heldDown(QEvent::KeyPress, Qt::Key_Space, {}, QStringLiteral(" "), true);
+    QCoreApplication::sendEvent(window_.get(), &heldDown);
+    EXPECT_TRUE(button("Pause"));
     QTest::keyClick(angle, Qt::Key_Space);
     EXPECT_TRUE(button("Départ"));
     QTest::keyClick(window_.get(), Qt::Key_Home);

@@ -27,7 +27,7 @@ protected:
 
 TEST_F(StatusRecordTest, interleavesWithTheShell) {
     raw_status_file::writeAllNon(directory_.path());
-    shell_.write(StatusRecord::kExerciseRecord,
+    shell_.write(shell::StatusFile::kArgumentRecord,
                  QStringList{"Exercice 05.E21", "Édition « œuvre » 1 €"});
     EXPECT_TRUE(module_.setRunning(true));
     EXPECT_EQ(module_.exercise(), "Exercice 05.E21");

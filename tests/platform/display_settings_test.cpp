@@ -5,7 +5,7 @@
 
 using test_support::eventually;
 
-TEST(DisplaySettings, AreThoseOfTheDesktopOrOfAnyOtherThatRunsThere) {
+TEST(DisplaySettings, areThoseOfTheDesktopOrOfAnyOtherThatRunsThere) {
     const struct {
         const char* desktop;
         QStringList installed;

@@ -18,7 +18,7 @@ protected:
 };
 
 /// As X tells it: a key held down is let go and pressed again at the same moment.
-TEST(HeldKeys, MarksThePressAtTheMomentOfTheRelease) {
+TEST(HeldKeys, marksThePressAtTheMomentOfTheRelease) {
     const look::HeldKeys heldKeys;
     Listener window;
     window.show();

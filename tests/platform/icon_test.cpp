@@ -19,7 +19,7 @@ QImage drawn(const QString& name, Icon::Style style) {
     return image;
 }
 
-TEST(Icon, EveryDrawingPaintsInEveryStyle) {
+TEST(Icon, everyDrawingPaintsInEveryStyle) {
     QImage empty(48, 48, QImage::Format_RGB32);
     empty.fill(QColor::fromRgb(kIvory));
     const QStringList files = QDir(QStringLiteral(":/look/icons")).entryList();
@@ -35,7 +35,7 @@ TEST(Icon, EveryDrawingPaintsInEveryStyle) {
     EXPECT_EQ(drawn(QStringLiteral("no such drawing"), Icon::Style::Coloured), empty);
 }
 
-TEST(Icon, FadesToFortyPerCentOfEachColour) {
+TEST(Icon, fadesToFortyPerCentOfEachColour) {
     // The middle of the printer's tray has the accent, its frame the blue.
     const QImage faded = drawn(QStringLiteral("print"), Icon::Style::Faded);
     EXPECT_EQ(faded.pixel(24, 34), blend(kPressedTint, kIvory, 0.4));
@@ -51,7 +51,7 @@ QImage drawnFrom(const QByteArray& drawing) {
     return image;
 }
 
-TEST(Icon, EveryLineOfEveryDrawingShows) {
+TEST(Icon, everyLineOfEveryDrawingShows) {
     static const QRegularExpression kShape(QStringLiteral("<(path|circle|ellipse|rect)[^>]*/>"));
     for (const char* folder : {":/look/icons/", ":/look/faces/", ":/look/fields/"})
         for (const QString& file : QDir(folder).entryList()) {
@@ -70,7 +70,7 @@ TEST(Icon, EveryLineOfEveryDrawingShows) {
 }
 
 /// What leads back is the mirror image of what leads on.
-TEST(Icon, PairsMirrorEachOther) {
+TEST(Icon, pairsMirrorEachOther) {
     const struct {
         const char* name;
         const char* mirrored;

@@ -8,6 +8,7 @@
 #include "support/plain_words.h"
 
 #include <QApplication>
+#include <QButtonGroup>
 #include <QHelpEvent>
 #include <QLabel>
 #include <QPainter>
@@ -42,7 +43,7 @@ std::string colour(QRgb pixel) {
 
 class ButtonColours : public testing::TestWithParam<ButtonState> {};
 
-TEST_P(ButtonColours, AreThoseOfTheState) {
+TEST_P(ButtonColours, areThoseOfTheState) {
     const ButtonState& row = GetParam();
     QWidget window;
     QPalette palette;
@@ -91,6 +92,28 @@ INSTANTIATE_TEST_SUITE_P(
         ButtonState{"toolbar_disabled", kToolbar, false, false, false, false, kIvory, kIvory}),
     [](const auto& row) { return std::string(row.param.name); });
 
+TEST(SegmentButtons, showWhichOfTheRowHolds) {
+    QWidget window;
+    QButtonGroup row;
+    for (const int x : {10, 90}) {
+        auto* button = new Button(QStringLiteral("Lune"),
+                                  {.kind = Button::Kind::Segment, .icon = {}}, &window);
+        button->setGeometry(x, 10, 70, 26);
+        row.addButton(button);
+    }
+    row.buttons().front()->setChecked(true);
+    const auto grounds = [&] {
+        const QImage image = painted(window);
+        return std::pair(colour(image.pixel(16, 20)), colour(image.pixel(96, 20)));
+    };
+    EXPECT_EQ(grounds(), std::pair(colour(kBlue), colour(kPaper)));
+    QTest::keyClick(row.buttons().front(), Qt::Key_Right); // leads through the row
+    EXPECT_EQ(grounds().second, colour(kBlue));
+    for (QAbstractButton* button : row.buttons())
+        button->setEnabled(false); // what holds can still be told
+    EXPECT_EQ(grounds(), std::pair(colour(kIvory), colour(kVideoTrack)));
+}
+
 class Buttons : public testing::Test {
 protected:
     Buttons() {
@@ -109,7 +132,7 @@ protected:
     QStringList pressed;
 };
 
-TEST_F(Buttons, SharedMnemonicGivesTheFocusInTurnAndEnterOrSpaceActs) {
+TEST_F(Buttons, sharedMnemonicGivesTheFocusInTurnAndEnterOrSpaceActs) {
     QTest::keyClick(&window, Qt::Key_R, Qt::AltModifier);
     const auto* first = QApplication::focusWidget();
     QTest::keyClick(&window, Qt::Key_R, Qt::AltModifier);
@@ -124,7 +147,7 @@ TEST_F(Buttons, SharedMnemonicGivesTheFocusInTurnAndEnterOrSpaceActs) {
     EXPECT_EQ(pressed, (QStringList{QStringLiteral("Rechercher"), QStringLiteral("Crédits")}));
 }
 
-TEST_F(Buttons, MnemonicOfItsOwnActsAtOnceAndNotWhileDisabled) {
+TEST_F(Buttons, mnemonicOfItsOwnActsAtOnceAndNotWhileDisabled) {
     search.setEnabled(false);
     QTest::keyClick(&window, Qt::Key_R, Qt::AltModifier);
     EXPECT_EQ(pressed, QStringList{QStringLiteral("Crédits")});
@@ -134,7 +157,7 @@ TEST_F(Buttons, MnemonicOfItsOwnActsAtOnceAndNotWhileDisabled) {
     EXPECT_EQ(pressed.size(), 1);
 }
 
-TEST_F(Buttons, LastingMnemonicOutlivesTheCaption) {
+TEST_F(Buttons, lastingMnemonicOutlivesTheCaption) {
     search.setLastingMnemonic(u's');
     search.setCaption(QStringLiteral("Accueil"));
     QTest::keyClick(&window, Qt::Key_S, Qt::AltModifier);
@@ -142,7 +165,7 @@ TEST_F(Buttons, LastingMnemonicOutlivesTheCaption) {
     EXPECT_EQ(search.accessibleName(), QStringLiteral("Accueil"));
 }
 
-TEST_F(Buttons, UnderlinesMnemonicsOnlyWhileAltIsDown) {
+TEST_F(Buttons, underlinesMnemonicsOnlyWhileAltIsDown) {
     const QImage plain = painted(search);
     TextField field(&window);
     QPlainTextEdit text(&window);
@@ -171,7 +194,7 @@ struct Box {
 
 class MessageBoxes : public testing::TestWithParam<Box> {};
 
-TEST_P(MessageBoxes, OfferTheirButtonsAndAnswerToTheKeyboard) {
+TEST_P(MessageBoxes, offerTheirButtonsAndAnswerToTheKeyboard) {
     const Box& row = GetParam();
     const auto answerTo = [&row](auto leave) {
         MessageDialog dialog({QStringLiteral("Quitter"), QStringLiteral("Attention"),
@@ -197,22 +220,25 @@ TEST_P(MessageBoxes, OfferTheirButtonsAndAnswerToTheKeyboard) {
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, MessageBoxes,
-    testing::Values(
-        Box{"Ok", Message::Buttons::Ok, {u"OK"_qs}, Answer::Ok, Answer::Ok},
-        Box{"OkCancel",
-            Message::Buttons::OkCancel,
-            {u"OK"_qs, u"Annuler"_qs},
-            Answer::Ok,
-            Answer::Cancel},
-        Box{"YesNo", Message::Buttons::YesNo, {u"Oui"_qs, u"Non"_qs}, Answer::Yes, Answer::No},
-        Box{"RetryCancel",
-            Message::Buttons::RetryCancel,
-            {u"Réessayer"_qs, u"Annuler"_qs},
-            Answer::Retry,
-            Answer::Cancel}),
+    testing::Values(Box{"Ok", Message::Buttons::Ok, {QStringLiteral("OK")}, Answer::Ok, Answer::Ok},
+                    Box{"OkCancel",
+                        Message::Buttons::OkCancel,
+                        {QStringLiteral("OK"), QStringLiteral("Annuler")},
+                        Answer::Ok,
+                        Answer::Cancel},
+                    Box{"YesNo",
+                        Message::Buttons::YesNo,
+                        {QStringLiteral("Oui"), QStringLiteral("Non")},
+                        Answer::Yes,
+                        Answer::No},
+                    Box{"RetryCancel",
+                        Message::Buttons::RetryCancel,
+                        {QStringLiteral("Réessayer"), QStringLiteral("Annuler")},
+                        Answer::Retry,
+                        Answer::Cancel}),
     [](const auto& row) { return std::string(row.param.name); });
 
-TEST(MessageDialog, TellsScreenReadersTitleAndText) {
+TEST(MessageDialog, tellsScreenReadersTitleAndText) {
     const MessageDialog dialog({QStringLiteral("Mise à jour"), QStringLiteral("un\r\ndeux"),
                                 Message::Icon::Information, Message::Buttons::Ok},
                                nullptr);
@@ -222,7 +248,7 @@ TEST(MessageDialog, TellsScreenReadersTitleAndText) {
     EXPECT_EQ(dialog.findChild<QLabel*>()->text(), QStringLiteral("un\ndeux"));
 }
 
-TEST(MessageDialog, ShowsTheSignOfItsKind) {
+TEST(MessageDialog, showsTheSignOfItsKind) {
     using Kind = Message::Icon;
     for (const auto& [kind, name] :
          {std::pair(Kind::Critical, "error"), std::pair(Kind::Question, "question"),
@@ -238,7 +264,7 @@ TEST(MessageDialog, ShowsTheSignOfItsKind) {
     }
 }
 
-TEST(MessageDialog, TakesNoWordsForMarkup) {
+TEST(MessageDialog, takesNoWordsForMarkup) {
     MessageDialog dialog({QStringLiteral("Titre"), test_support::kHostileWords,
                           Message::Icon::Information, Message::Buttons::Ok},
                          nullptr);
@@ -248,7 +274,7 @@ TEST(MessageDialog, TakesNoWordsForMarkup) {
 
 // Tooltips
 
-TEST(ToolTip, ShowsLongWordsInLinesAndVeryLongOnesInPart) {
+TEST(ToolTip, showsLongWordsInLinesAndVeryLongOnesInPart) {
     QLabel control;
     control.setTextFormat(Qt::PlainText);
     control.show();
@@ -269,7 +295,7 @@ TEST(ToolTip, ShowsLongWordsInLinesAndVeryLongOnesInPart) {
     EXPECT_EQ(tipSize(QStringLiteral("réfraction ").repeated(30'000)).width(), lines.width());
 }
 
-TEST(MessageDialog, GrowsSoThatTheWholeTextShows) {
+TEST(MessageDialog, growsSoThatTheWholeTextShows) {
     const auto heightFor = [](int words) {
         const MessageDialog dialog({QStringLiteral("Titre"),
                                     QStringLiteral("réfraction ").repeated(words),
@@ -283,7 +309,7 @@ TEST(MessageDialog, GrowsSoThatTheWholeTextShows) {
     EXPECT_GE(heightFor(80), 148 + 10 * 20);
 }
 
-TEST(DialogPrompter, WaitsForTheAnswer) {
+TEST(DialogPrompter, waitsForTheAnswer) {
     QTimer::singleShot(0, [] {
         QWidget* dialog = QApplication::activeModalWidget();
         EXPECT_TRUE(QTest::qWaitForWindowActive(dialog));
@@ -315,7 +341,7 @@ protected:
     ScrollBar bar{nullptr};
 };
 
-TEST_F(ScrollBars, ThumbStandsForThePartInView) {
+TEST_F(ScrollBars, thumbStandsForThePartInView) {
     EXPECT_EQ(bar.thumb(), QRectF(4, 16, 8, 25));
     bar.setValue(-900);
     EXPECT_EQ(bar.thumb(), QRectF(4, 91, 8, 25));
@@ -323,14 +349,14 @@ TEST_F(ScrollBars, ThumbStandsForThePartInView) {
     EXPECT_EQ(bar.thumb().height(), 24);
 }
 
-TEST_F(ScrollBars, ArrowsMoveByALineAndTheTrackByAScreen) {
+TEST_F(ScrollBars, arrowsMoveByALineAndTheTrackByAScreen) {
     EXPECT_EQ(after(5), -380);
     EXPECT_EQ(after(128), -420);
     EXPECT_EQ(after(20), -100);
     EXPECT_EQ(after(110), -700);
 }
 
-TEST_F(ScrollBars, ThumbFollowsThePointerUpToTheEnds) {
+TEST_F(ScrollBars, thumbFollowsThePointerUpToTheEnds) {
     QTest::mousePress(&bar, Qt::LeftButton, {}, {8, 20});
     QTest::mouseMove(&bar, {8, 20 + 25});
     EXPECT_EQ(bar.value(), -300);

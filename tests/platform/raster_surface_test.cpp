@@ -120,7 +120,8 @@ TEST_F(Raster, readableTextFollowsTheLines) {
     surface.setPenY(400);
     surface.setFace(QStringLiteral("Symbol"));
     surface.print(QStringLiteral("l"));
-    EXPECT_EQ(page::readableText(recording, SurfaceId::PictureTexte), QString("H2O à droite\nλ\n"));
+    EXPECT_EQ(page::readableText(recording, SurfaceId::PictureTexte),
+              QStringLiteral("H2O à droite\nλ\n"));
     surface.clear();
     EXPECT_EQ(page::readableText(recording, SurfaceId::PictureTexte), QString());
 }

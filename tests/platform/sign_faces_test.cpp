@@ -18,7 +18,7 @@ TEST(SignFaces, codesBecomeUnicode) {
     EXPECT_EQ(page::readableSigns("Symbol", "l = 5 mm, DW"), QStringLiteral("λ = 5 μμ, ΔΩ"));
     EXPECT_EQ(page::readableSigns("symbol", QStringLiteral("a\u00F0b")), QStringLiteral("αβ"));
     EXPECT_EQ(page::readableSigns("Wingdings", QStringLiteral("ü")), QStringLiteral("✔"));
-    EXPECT_EQ(page::readableSigns("Arial", "lD"), QString("lD"));
+    EXPECT_EQ(page::readableSigns("Arial", "lD"), QStringLiteral("lD"));
 }
 
 TEST(SignFaces, theShapesOfPhiAreSwappedForDrawingOnly) {

@@ -42,7 +42,7 @@ Property pid(qint64 number) {
 
 } // namespace
 
-TEST(X11ProgramWindows, EndOwnersOnThisMachineAndCloseWindowsWithoutOne) {
+TEST(X11ProgramWindows, endOwnersOnThisMachineAndCloseWindowsWithoutOne) {
     const Property noPid{"_NET_WM_PID"}, elsewhere{"WM_CLIENT_MACHINE", "8s", "elsewhere"};
     const struct {
         QString title;
@@ -84,7 +84,7 @@ TEST(X11ProgramWindows, EndOwnersOnThisMachineAndCloseWindowsWithoutOne) {
     windows.postQuit(4711); // no window at all
 }
 
-TEST(X11ProgramWindows, TellTheProgramsOfWindows) {
+TEST(X11ProgramWindows, tellTheProgramsOfWindows) {
     const X11Session session(X11Session::Manager::Openbox);
     const X11ProgramWindows windows(session.display());
     qputenv("DISPLAY", session.display());
@@ -127,7 +127,7 @@ TEST(X11ProgramWindows, TellTheProgramsOfWindows) {
     EXPECT_EQ(windows.owner(4711).pid, 0);
 }
 
-TEST(X11ProgramWindows, TellDialogsOfAnotherWindow) {
+TEST(X11ProgramWindows, tellDialogsOfAnotherWindow) {
     const X11Session session(X11Session::Manager::Openbox);
     const X11ProgramWindows windows(session.display());
     qputenv("DISPLAY", session.display());
@@ -141,13 +141,13 @@ TEST(X11ProgramWindows, TellDialogsOfAnotherWindow) {
     program.waitForFinished();
 }
 
-TEST(X11ProgramWindows, AreNoneWithoutADisplay) {
+TEST(X11ProgramWindows, areNoneWithoutADisplay) {
     X11ProgramWindows windows(":4711");
     EXPECT_TRUE(windows.list().empty());
     windows.postQuit(1);
 }
 
-TEST(ProcessFamily, GoesUpAndNotDown) {
+TEST(ProcessFamily, goesUpAndNotDown) {
     QProcess child;
     child.start("sleep", {"60"});
     ASSERT_TRUE(child.waitForStarted());

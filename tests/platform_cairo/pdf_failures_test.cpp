@@ -27,10 +27,12 @@ protected:
 TEST_F(PdfFailures, aPlaceThatCannotBeWrittenIsTold) {
     EXPECT_EQ(
         failure(QStringLiteral("absent/pages.pdf")),
-        QString("le fichier ne peut pas être créé\u00A0: le fichier ou son dossier n’existe pas"));
+        QStringLiteral(
+            "le fichier ne peut pas être créé\u00A0: le fichier ou son dossier n’existe pas"));
     EXPECT_EQ(failure(QStringLiteral(".")),
-              QString("le fichier ne peut pas être créé\u00A0: un dossier porte ce nom"));
-    EXPECT_EQ(failure(QStringLiteral("vide.pdf"), 0), QString("il n’y a aucune page à écrire"));
+              QStringLiteral("le fichier ne peut pas être créé\u00A0: un dossier porte ce nom"));
+    EXPECT_EQ(failure(QStringLiteral("vide.pdf"), 0),
+              QStringLiteral("il n’y a aucune page à écrire"));
     EXPECT_EQ(QDir(directory.path()).entryList(QDir::Files), QStringList());
 }
 
@@ -57,9 +59,9 @@ TEST_F(PdfFailures, aFullDiscLeavesTheFormerFile) {
     const QString told = failure(QStringLiteral("pages.pdf"), 3);
     ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &former), 0);
     std::signal(SIGXFSZ, handler);
-    EXPECT_EQ(
-        told,
-        QString("le fichier ne peut pas être écrit\u00A0: le fichier deviendrait trop grand"));
+    EXPECT_EQ(told,
+              QStringLiteral(
+                  "le fichier ne peut pas être écrit\u00A0: le fichier deviendrait trop grand"));
     EXPECT_EQ(test_support::readFile(path()), QByteArray("ancien"));
     EXPECT_EQ(QDir(directory.path()).entryList(QDir::Files | QDir::Hidden),
               QStringList{"pages.pdf"});
@@ -97,8 +99,9 @@ TEST_F(PdfFailures, oddDrawingsGiveASoundFile) {
         surface.paint(empty, size, size, QStringLiteral("rompu.jpg"), false);
     surface.paint(nullptr, 100, 100, QStringLiteral("rien"), false);
     page::Sheet page = sheet(1);
-    page.links.push_back({page::SurfaceId::PictureTexte, kNan, -kHuge, kHuge, 1, u"x"_qs, {}});
-    page.links.push_back({page::SurfaceId::Titre, 0, 0, 50, 50, u"x"_qs, {}});
+    page.links.push_back(
+        {page::SurfaceId::PictureTexte, kNan, -kHuge, kHuge, 1, QStringLiteral("x"), {}});
+    page.links.push_back({page::SurfaceId::Titre, 0, 0, 50, 50, QStringLiteral("x"), {}});
     page::Sheet none;
     none.width = none.height = 0;
     write({page, none}, {QString(), QString(), [](const QString&) { return 1; }});

@@ -96,8 +96,9 @@ TEST_F(PdfFile, everyLetterStandsWhereTheFontBookPutsIt) {
         y += 600;
     }
     write({sheet()});
-    PdfBench::run(u"mutool"_qs,
-                  {u"draw"_qs, u"-F"_qs, u"stext"_qs, u"-o"_qs, path(u"t.xml"_qs), path()});
+    PdfBench::run(QStringLiteral("mutool"),
+                  {QStringLiteral("draw"), QStringLiteral("-F"), QStringLiteral("stext"),
+                   QStringLiteral("-o"), path(QStringLiteral("t.xml")), path()});
     const QString said = QString::fromUtf8(test_support::readFile(path(QStringLiteral("t.xml"))));
     static const QRegularExpression kLetter(
         QStringLiteral("<char quad=[^>]* x=\"([-0-9.]+)\" y=\"([-0-9.]+)\"[^>]* c=\"([^ \"]+)\""));
@@ -118,7 +119,8 @@ TEST_F(PdfFile, everyLetterStandsWhereTheFontBookPutsIt) {
     }
     EXPECT_EQ(seen, expected.size());
     // Readers pass over a letter that stands twice at its place.
-    const QString drawn = QString::fromUtf8(PdfBench::run(u"mutool"_qs, {u"trace"_qs, path()}));
+    const QString drawn = QString::fromUtf8(
+        PdfBench::run(QStringLiteral("mutool"), {QStringLiteral("trace"), path()}));
     static const QRegularExpression kGlyph(QStringLiteral("<g unicode=\"[^ \"]"));
     auto glyphs = kGlyph.globalMatch(drawn);
     std::size_t shown = 0;
@@ -144,18 +146,22 @@ TEST_F(PdfFile, linksOutlineLabelsAndMetadata) {
     write({sheet(12, title), sheet(13), sheet(12, QStringLiteral("encore"))},
           {QStringLiteral("Cours d’optique λ"), QStringLiteral("Élise"), pageOfTag});
 
-    EXPECT_TRUE(run(u"qpdf"_qs, {u"--check"_qs, path()}).contains("No syntax or stream"));
+    EXPECT_TRUE(run(QStringLiteral("qpdf"), {QStringLiteral("--check"), path()})
+                    .contains("No syntax or stream"));
     const QString about = QString::fromUtf8(run(QStringLiteral("pdfinfo"), {path()}));
     for (const char16_t* line : {u"Title:           Cours d’optique λ", u"Author:          Élise",
                                  u"Tagged:          yes", u"Page size:       555 x 375 pts"})
         EXPECT_TRUE(about.contains(QString::fromUtf16(line))) << qPrintable(about);
     const QString targets =
-        QString::fromUtf8(run(u"pdfinfo"_qs, {u"-dests"_qs, path()})).simplified();
+        QString::fromUtf8(run(QStringLiteral("pdfinfo"), {QStringLiteral("-dests"), path()}))
+            .simplified();
     EXPECT_TRUE(
         targets.endsWith(u"1 [ XYZ 0 375 null ] \"page12\" 2 [ XYZ 0 375 null ] \"page13\""))
         << qPrintable(targets);
 
-    const QString json = QString::fromUtf8(run(u"qpdf"_qs, {u"--json=1"_qs, path()})).simplified();
+    const QString json =
+        QString::fromUtf8(run(QStringLiteral("qpdf"), {QStringLiteral("--json=1"), path()}))
+            .simplified();
     // Two live links to page 13: one on each sheet 12; the tag 99 leads nowhere.
     EXPECT_EQ(json.count(u"\"/Subtype\": \"/Link\""), 3);
     EXPECT_EQ(json.count(u"/Rect\": [ 150, 302, 195, 315 ]"), 3) << qPrintable(json);
@@ -197,15 +203,18 @@ TEST_F(PdfFile, aSheetTallerThanPdfAllowsIsScaledAsAWhole) {
     page::Sheet tall = sheet(12);
     tall.height = kTop + 600'000;
     tall.surfaces[0].height = 600'000;
-    tall.links.push_back({SurfaceId::PictureTexte, 0, 599'000, 1500, 300, u"PAG012"_qs, {}});
+    tall.links.push_back(
+        {SurfaceId::PictureTexte, 0, 599'000, 1500, 300, QStringLiteral("PAG012"), {}});
     write({tall, sheet()}, {QString(), QString(), pageOfTag});
-    const QString sizes = QString::fromUtf8(run(u"pdfinfo"_qs, {u"-l"_qs, u"2"_qs, path()}));
+    const QString sizes = QString::fromUtf8(
+        run(QStringLiteral("pdfinfo"), {QStringLiteral("-l"), QStringLiteral("2"), path()}));
     const double scale = 14400 * 20 / tall.height;
     EXPECT_TRUE(sizes.contains(QRegularExpression(
         QStringLiteral("Page +1 size: +%1[0-9.]* x 14400 pts").arg(int(555 * scale)))))
         << qPrintable(sizes);
     EXPECT_TRUE(sizes.contains(QRegularExpression(QStringLiteral("Page +2 size: +555 x 375 pts"))));
-    EXPECT_EQ(text({u"-l"_qs, u"1"_qs}).simplified(), QString("haut bas"));
+    EXPECT_EQ(text({QStringLiteral("-l"), QStringLiteral("1")}).simplified(),
+              QStringLiteral("haut bas"));
     EXPECT_TRUE(test_support::readFile(path()).contains("/Rect [ 35 "));
     run(QStringLiteral("qpdf"), {QStringLiteral("--check"), path()});
 }
@@ -221,8 +230,10 @@ TEST_F(PdfFile, surfacesStandWhereTheyArePlacedAndAreCut) {
     page::Sheet page = sheet();
     page.surfaces.insert(page.surfaces.begin(), {SurfaceId::Titre, 1500, 150, 9000, 480});
     write({page});
-    EXPECT_EQ(text().simplified(), QString("titre visible"));
-    run(u"pdftoppm"_qs, {u"-r"_qs, u"96"_qs, u"-singlefile"_qs, u"-png"_qs, path(), path(u"p"_qs)});
+    EXPECT_EQ(text().simplified(), QStringLiteral("titre visible"));
+    run(QStringLiteral("pdftoppm"),
+        {QStringLiteral("-r"), QStringLiteral("96"), QStringLiteral("-singlefile"),
+         QStringLiteral("-png"), path(), path(QStringLiteral("p"))});
     const QImage whole(path(QStringLiteral("p.png")));
     EXPECT_EQ(whole.pixel(699, 459), 0xffff0000u);
     EXPECT_EQ(whole.pixel(701, 300), 0xffffffffu);

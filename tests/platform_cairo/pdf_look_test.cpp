@@ -64,8 +64,9 @@ TEST_F(PdfLook, noPaperShowsBetweenTheStripsOfAGradient) {
         surface.fill(0, i * 45, 9000, 45, 0xff000080, page::FillMode::Copy);
     write({sheet()});
     // A reader that blends edges which are no pixels of its own, as most do; poppler moves them.
-    run(u"mutool"_qs,
-        {u"draw"_qs, u"-r"_qs, u"83"_qs, u"-c"_qs, u"rgb"_qs, u"-o"_qs, path(u"p.png"_qs), path()});
+    run(QStringLiteral("mutool"),
+        {QStringLiteral("draw"), QStringLiteral("-r"), QStringLiteral("83"), QStringLiteral("-c"),
+         QStringLiteral("rgb"), QStringLiteral("-o"), path(QStringLiteral("p.png")), path()});
     const QImage page(path(QStringLiteral("p.png")));
     ASSERT_FALSE(page.isNull());
     const int x = page.width() / 2;

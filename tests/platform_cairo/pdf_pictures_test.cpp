@@ -57,7 +57,7 @@ TEST_F(PdfPictures, aPhotographPassesThroughOnce) {
     const auto rows = images();
     ASSERT_EQ(rows.size(), 5);
     for (const QStringList& row : rows) {
-        EXPECT_EQ(row[8], QString("jpeg"));
+        EXPECT_EQ(row[8], QStringLiteral("jpeg"));
         EXPECT_EQ(row[10], rows[0][10]) << "stored twice";
     }
     EXPECT_EQ(picture->decoded + again->decoded, 0);
@@ -76,7 +76,7 @@ TEST_F(PdfPictures, othersKeepEveryPixelAndTheirTransparency) {
     const auto rows = images();
     ASSERT_EQ(rows.size(), 8) << "a picture and its mask, twice on each page";
     for (const QStringList& row : rows) {
-        EXPECT_EQ(row[3] + u'x' + row[4], QString("120x80"));
+        EXPECT_EQ(row[3] + u'x' + row[4], QStringLiteral("120x80"));
         EXPECT_EQ(row[10], rows[0][10]);
     }
     EXPECT_EQ(picture->decoded, 1);
@@ -102,7 +102,7 @@ TEST_F(PdfPictures, photographsOfOtherKindsAndBrokenOnes) {
     write({sheet()});
     const auto rows = images();
     ASSERT_EQ(rows.size(), 1);
-    EXPECT_EQ(rows[0][8], QString("image"));
+    EXPECT_EQ(rows[0][8], QStringLiteral("image"));
     EXPECT_NEAR(qBlue(shown().pixel(70, 50)), 127, 2);
 }
 
@@ -115,7 +115,7 @@ TEST_F(PdfPictures, drawingsBecomeFinePixels) {
     write({sheet()});
     const auto rows = images();
     ASSERT_EQ(rows.size(), 3);
-    EXPECT_EQ(rows[0][3] + u'x' + rows[0][4], QString("96x64"));
+    EXPECT_EQ(rows[0][3] + u'x' + rows[0][4], QStringLiteral("96x64"));
     EXPECT_EQ(rows[0][10], rows[1][10]);
     EXPECT_GE(rows[2][3].toInt(), 3 * 600);
     EXPECT_LE(rows[2][3].toInt() * rows[2][4].toInt(), 4'000'000);

@@ -31,7 +31,7 @@ protected:
     }
 };
 
-TEST_F(AviHeaders, StreamGoesBeforeMainHeader) {
+TEST_F(AviHeaders, streamGoesBeforeMainHeader) {
     const auto said = readWith({{avih, 40'000}, {avih + 16, 7}});
     ASSERT_TRUE(said);
     EXPECT_DOUBLE_EQ(said->framesPerSecond, 30000 / 1001.0);
@@ -41,7 +41,7 @@ TEST_F(AviHeaders, StreamGoesBeforeMainHeader) {
     EXPECT_EQ(silent->frames, 7);
 }
 
-TEST_F(AviHeaders, ImpossibleNumbersCountAsUnsaid) {
+TEST_F(AviHeaders, impossibleNumbersCountAsUnsaid) {
     const auto said = readWith({{vids + 20, 1},
                                 {vids + 24, 0xffffffff},
                                 {vids + 32, 0xffffffff},
@@ -52,7 +52,7 @@ TEST_F(AviHeaders, ImpossibleNumbersCountAsUnsaid) {
     EXPECT_EQ(said->frames, 0);
 }
 
-TEST_F(AviHeaders, CutOrDamagedAnywhereNothingIsReadBeyond) {
+TEST_F(AviHeaders, cutOrDamagedAnywhereNothingIsReadBeyond) {
     const QByteArray headers = file.left(400);
     for (qsizetype size = 0; size <= headers.size(); ++size)
         EXPECT_EQ(read(headers.left(size)).has_value(), size >= 12) << size;

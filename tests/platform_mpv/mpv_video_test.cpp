@@ -67,7 +67,7 @@ protected:
     int ended = 0;
 };
 
-TEST_F(MpvVideo, StepsAndSeeksFrameByFrame) {
+TEST_F(MpvVideo, stepsAndSeeksFrameByFrame) {
     const Clip clips[] = {
         {"mjpeg", "mjpeg", "10", 24},
         {"cinepak", "cinepak", "12.5", 24, 2},
@@ -103,7 +103,7 @@ TEST_F(MpvVideo, StepsAndSeeksFrameByFrame) {
     EXPECT_EQ(ended, 0);
 }
 
-TEST_F(MpvVideo, OfHurriedCommandsNoneIsLost) {
+TEST_F(MpvVideo, ofHurriedCommandsNoneIsLost) {
     open({"film", "mjpeg", "25", 60, 2.4});
     for (int i = 0; i < 20; ++i)
         video->send(Command::Step);
@@ -113,7 +113,7 @@ TEST_F(MpvVideo, OfHurriedCommandsNoneIsLost) {
     EXPECT_TRUE(stands(13));
 }
 
-TEST_F(MpvVideo, PlaysToTheEndOnceAndTellsSo) {
+TEST_F(MpvVideo, playsToTheEndOnceAndTellsSo) {
     for (const double sound : {0.0, 1.0, 4.0}) { // as long as the pictures is 1.2
         SCOPED_TRACE(sound);
         open({"film", "mjpeg", "20", 24, sound});
@@ -131,7 +131,7 @@ TEST_F(MpvVideo, PlaysToTheEndOnceAndTellsSo) {
     }
 }
 
-TEST_F(MpvVideo, PauseAndStopKeepTheFrame) {
+TEST_F(MpvVideo, pauseAndStopKeepTheFrame) {
     open({"film", "mjpeg", "25", 100});
     for (const Command command : {Command::Pause, Command::Stop, Command::Step, Command::Back}) {
         playFrom(10);
@@ -144,7 +144,7 @@ TEST_F(MpvVideo, PauseAndStopKeepTheFrame) {
     EXPECT_EQ(ended, 0);
 }
 
-TEST_F(MpvVideo, FileThatEndsEarlyEndsWhereItDoes) {
+TEST_F(MpvVideo, fileThatEndsEarlyEndsWhereItDoes) {
     const QByteArray whole =
         test_support::readFile(Clip{"whole", "mjpeg", "25", 50}.make(directory));
     const QString path = directory.filePath(QStringLiteral("cut.avi"));
@@ -159,7 +159,7 @@ TEST_F(MpvVideo, FileThatEndsEarlyEndsWhereItDoes) {
     EXPECT_TRUE(stands(0));
 }
 
-TEST_F(MpvVideo, WhatIsNoVideoDoesNotOpen) {
+TEST_F(MpvVideo, whatIsNoVideoDoesNotOpen) {
     const QByteArray whole =
         test_support::readFile(Clip{"whole", "mjpeg", "25", 10}.make(directory));
     QByteArray otherCodec = whole;
@@ -188,7 +188,7 @@ TEST_F(MpvVideo, WhatIsNoVideoDoesNotOpen) {
     EXPECT_TRUE(stands(0));
 }
 
-TEST_F(MpvVideo, ClosesAndEndsWhilePlaying) {
+TEST_F(MpvVideo, closesAndEndsWhilePlaying) {
     const QString path = Clip{"film", "mjpeg", "25", 100, 4}.make(directory);
     for (int i = 0; i < 5; ++i) {
         ASSERT_TRUE(open(path));
@@ -208,7 +208,7 @@ TEST_F(MpvVideo, ClosesAndEndsWhilePlaying) {
     EXPECT_EQ(ended, 0);
 }
 
-TEST_F(MpvVideo, WorksInAFrenchLocale) {
+TEST_F(MpvVideo, worksInAFrenchLocale) {
     video.reset();
     const test_support::FrenchLocale french;
     restart();

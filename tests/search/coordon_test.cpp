@@ -118,7 +118,7 @@ const std::vector<Page> kCourse = {{u"Première", u"lumière"},
                                    {u"Cachée", u"lumière", false},
                                    {u"L’indice", u"Un indice sans lumiere\r\n"}};
 
-TEST_F(CoordonWindow, ListsWhatItsBoxesAskFor) {
+TEST_F(CoordonWindow, listsWhatItsBoxesAskFor) {
     write(kCourse);
     open();
     EXPECT_EQ(window->height(), 132);
@@ -161,7 +161,7 @@ TEST_F(CoordonWindow, ListsWhatItsBoxesAskFor) {
     EXPECT_TRUE(control<QProgressBar>("Pbar1").isHidden());
 }
 
-TEST_F(CoordonWindow, TitlesStandInTheListToTheLetter) {
+TEST_F(CoordonWindow, titlesStandInTheListToTheLetter) {
     const std::u16string hostile = test_support::kHostileWords.toStdU16String();
     write({kCourse[0], {u"&x", u"indice"}, {u"x", u"indice"}, {hostile.c_str(), u"indice"}});
     open();
@@ -190,7 +190,7 @@ TEST_F(CoordonWindow, TitlesStandInTheListToTheLetter) {
     EXPECT_GT(inkedColumns(2), 150) << "the signs of a markup";
 }
 
-TEST_F(CoordonWindow, LeavesThePageThatWasChosen) {
+TEST_F(CoordonWindow, leavesThePageThatWasChosen) {
     write(kCourse);
     const std::vector<std::function<void()>> waysOfChoosing = {
         [this] { press("Command3"); },
@@ -223,7 +223,7 @@ TEST_F(CoordonWindow, LeavesThePageThatWasChosen) {
     }
 }
 
-TEST_F(CoordonWindow, SearchesShortTablesAndCoursesThatAreNotThere) {
+TEST_F(CoordonWindow, searchesShortTablesAndCoursesThatAreNotThere) {
     open();
     search(QStringLiteral("lumière"));
     EXPECT_TRUE(control<QLabel>("Label2").isVisible());
@@ -235,7 +235,7 @@ TEST_F(CoordonWindow, SearchesShortTablesAndCoursesThatAreNotThere) {
     }
 }
 
-TEST_F(CoordonWindow, StaysAliveDuringALongSearch) {
+TEST_F(CoordonWindow, staysAliveDuringALongSearch) {
     write(std::vector<Page>(5'000, kCourse[1]));
     open();
     window->setTurn(0);

@@ -9,7 +9,7 @@
 namespace search {
 namespace {
 
-TEST(FoldedText, IsTheSameManyUnitsTogetherAndOneByOne) {
+TEST(FoldedText, isTheSameManyUnitsTogetherAndOneByOne) {
     std::set<std::string> different;
     std::set<char16_t> small;
     for (unsigned c = 0; c <= 0xFFFF; ++c) {

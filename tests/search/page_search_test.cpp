@@ -23,7 +23,7 @@ std::vector<int> found(CoursePages& pages, const char16_t* typed, bool allWords 
     return search::found(pages, {queryWords(typed), allWords, ignoreAccents});
 }
 
-TEST(PageSearch, FindsWordsInTheRawSources) {
+TEST(PageSearch, findsWordsInTheRawSources) {
     const Course course(withSources({
         u"lumière",                      // 0: never examined
         u"La LUMIÈRE du jour¶",          // 1
@@ -60,7 +60,7 @@ TEST(PageSearch, FindsWordsInTheRawSources) {
     EXPECT_THAT(found(pages, u"a"), IsEmpty());
 }
 
-TEST(PageSearch, PassesOverRecordsAndKeepsWhatTheListShows) {
+TEST(PageSearch, passesOverRecordsAndKeepsWhatTheListShows) {
     const Course course({{std::int32_t{1}, u"zéro", true, u"mot"},
                          {std::int32_t{70}, u"Titre un", true, u"un mot"},
                          {std::int32_t{2}, u"éteint", false, u"mot"},
@@ -77,7 +77,7 @@ TEST(PageSearch, PassesOverRecordsAndKeepsWhatTheListShows) {
     EXPECT_TRUE(pages.problems().empty());
 }
 
-TEST(PageSearch, OfAFewRecordsOrNoneEnds) {
+TEST(PageSearch, ofAFewRecordsOrNoneEnds) {
     for (int count = 0; count < 4; ++count) {
         const Course course(withSources(std::vector<std::u16string>(std::size_t(count), u"mot")));
         auto pages = opened(course);
@@ -90,7 +90,7 @@ TEST(PageSearch, OfAFewRecordsOrNoneEnds) {
     }
 }
 
-TEST(PageSearch, GoesOnBehindASourceThatCannotBeRead) {
+TEST(PageSearch, goesOnBehindASourceThatCannotBeRead) {
     const std::u16string longOne(1500, u'x');
     Course course(withSources({u"", u"mot un", u"mot " + longOne, u"mot deux"}));
     constexpr std::uint8_t kLetters[] = {'x', 0, 'x', 0, 'x', 0};
@@ -105,7 +105,7 @@ TEST(PageSearch, GoesOnBehindASourceThatCannotBeRead) {
     EXPECT_THAT(found(pages, u"mot"), ElementsAre(1, 3));
 }
 
-TEST(PageSearch, CanBeLeftAndAnotherBegun) {
+TEST(PageSearch, canBeLeftAndAnotherBegun) {
     std::vector<std::u16string> sources(3000, u"rien");
     sources[1] = sources[1500] = sources[2999] = u"mot";
     const Course course(withSources(sources));
@@ -121,7 +121,7 @@ TEST(PageSearch, CanBeLeftAndAnotherBegun) {
     EXPECT_EQ(positions(other).size(), 2996u);
 }
 
-TEST(PageSearch, KeepsNoMoreThanItMay) {
+TEST(PageSearch, keepsNoMoreThanItMay) {
     const Course course(withSources(std::vector<std::u16string>(1500, std::u16string(500, u'é'))));
     for (const std::size_t most : {std::size_t{0}, std::size_t{300'000}, kFoldedCopyBytes}) {
         auto pages = opened(course, most);
@@ -132,7 +132,7 @@ TEST(PageSearch, KeepsNoMoreThanItMay) {
     }
 }
 
-TEST(CoursePages, TellsWhyItCannotBeOpened) {
+TEST(CoursePages, tellsWhyItCannotBeOpened) {
     const auto none = CoursePages::open(Course({}, u"autre").database());
     ASSERT_FALSE(none);
     EXPECT_THAT(none.error().sentence, HasSubstr("cours"));

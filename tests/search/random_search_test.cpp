@@ -77,7 +77,7 @@ private:
     std::mt19937 engine_{20};
 };
 
-TEST(PageSearch, FindsWhatALiteralSearchFinds) {
+TEST(PageSearch, findsWhatALiteralSearchFinds) {
     Chance chance;
     std::vector<std::u16string> sources;
     for (int i = 0; i < 2100; ++i)

@@ -38,7 +38,7 @@ Choice answer(std::int16_t mode, Act act) {
 
 } // namespace
 
-TEST(Alerte, SaysWhatItsModeAsksFor) {
+TEST(Alerte, saysWhatItsModeAsksFor) {
     const struct {
         std::int16_t mode;
         QString text, caption;
@@ -64,7 +64,7 @@ TEST(Alerte, SaysWhatItsModeAsksFor) {
     }
 }
 
-TEST(Alerte, LetsOneGoOnOnceTheSettingsWereAskedFor) {
+TEST(Alerte, letsOneGoOnOnceTheSettingsWereAskedFor) {
     for (const bool thereAreSome : {true, false}) {
         FakeSettings settings;
         settings.thereAreSome = thereAreSome;
@@ -82,7 +82,7 @@ TEST(Alerte, LetsOneGoOnOnceTheSettingsWereAskedFor) {
     }
 }
 
-TEST(Alerte, OnlyTheButtonOfTheBlockingWarningQuits) {
+TEST(Alerte, onlyTheButtonOfTheBlockingWarningQuits) {
     const auto clickCommand3 = [](Alerte& alerte) { button(alerte, "Command3").click(); };
     EXPECT_EQ(answer(1, clickCommand3), Choice::Quit);
     EXPECT_EQ(answer(2, clickCommand3), Choice::Continue);
@@ -100,7 +100,7 @@ TEST(Alerte, OnlyTheButtonOfTheBlockingWarningQuits) {
     }
 }
 
-TEST(Alerte, DoesNotComeBackForEverWhenTheProgramEnds) {
+TEST(Alerte, doesNotComeBackForEverWhenTheProgramEnds) {
     // As start-up does on a screen that stays too narrow. The end closes the first window itself.
     int shown = 0;
     QTimer::singleShot(0, qApp, [&] {

@@ -113,15 +113,16 @@ TEST_F(DataLocation, noNameLeavesItsDirectory) {
     QDir(work.path()).mkpath("course/folder");
     const QString absolute = work.filePath("secret.gif");
     for (const QString& name :
-         {QString("../secret.gif"), QString("..\\secret.gif"),
-          QString("course\\..\\..\\secret.gif"), absolute, QString(absolute).replace('/', '\\'),
-          QString("D:secret.gif"), QString(".."), QString("../.."), QString("fig.gif/"),
-          QString("D:"), QString("folder"), QString("*.gif"), QChar(u'\0') + QString("fig.gif"),
-          QString(".")})
+         {QStringLiteral("../secret.gif"), QStringLiteral("..\\secret.gif"),
+          QStringLiteral("course\\..\\..\\secret.gif"), absolute,
+          QString(absolute).replace('/', '\\'), QStringLiteral("D:secret.gif"),
+          QStringLiteral(".."), QStringLiteral("../.."), QStringLiteral("fig.gif/"),
+          QStringLiteral("D:"), QStringLiteral("folder"), QStringLiteral("*.gif"),
+          QChar(u'\0') + QStringLiteral("fig.gif"), QStringLiteral(".")})
         EXPECT_EQ(giveUp(name), "") << qPrintable(name);
     for (const QString& name :
-         {QString("/etc/fig.gif"), QString("E:\\x\\fig.gif"), QString("D:fig.gif"),
-          QString("fig.gif") + QChar(u'\0') + "/../secret.gif"})
+         {QStringLiteral("/etc/fig.gif"), QString("E:\\x\\fig.gif"), QStringLiteral("D:fig.gif"),
+          QStringLiteral("fig.gif") + QChar(u'\0') + "/../secret.gif"})
         EXPECT_EQ(picture(name), "course/fig.gif") << qPrintable(name);
 }
 

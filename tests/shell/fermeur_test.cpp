@@ -23,7 +23,7 @@ public:
 
 } // namespace
 
-TEST(Fermeur, ClosesOnceWhenItHasBeenPaintedAndCannotBeStopped) {
+TEST(Fermeur, closesOnceWhenItHasBeenPaintedAndCannotBeStopped) {
     QWidget window;
     window.setGeometry(100, 50, 600, 400);
     window.show();
@@ -51,7 +51,7 @@ TEST(Fermeur, ClosesOnceWhenItHasBeenPaintedAndCannotBeStopped) {
     EXPECT_LT(picture.pixelColor(200, picture.height() - 3).blue(), 230);
 }
 
-TEST(Fermeur, ClosesOverAWindowThatCannotBeSeen) {
+TEST(Fermeur, closesOverAWindowThatCannotBeSeen) {
     QWidget hidden;
     bool closed = false;
     Fermeur fermeur(&hidden, [&] { closed = true; });

@@ -112,7 +112,7 @@ TEST_F(LauncherTest, aRunningModuleComesToTheFrontUnasked) {
     launcher_.launchModule(70);
     EXPECT_EQ(starter_.programs.size(), 1);
     EXPECT_EQ(activator_.requests.size(), 2u);
-    EXPECT_EQ(activator_.requests[1], std::make_pair(qint64{4711}, QString("SIMU07.EXE")));
+    EXPECT_EQ(activator_.requests[1], std::make_pair(qint64{4711}, QStringLiteral("SIMU07.EXE")));
     EXPECT_EQ(state_.ModuleNumber, -1);
 
     // It has ended, and any other module runs: the stored process still decides, meant so.

@@ -47,10 +47,13 @@ protected:
             state_.SiblingProcessIds.store(slot, 77);
     }
 
-    void setWidth(double twips) override { steps_ << QString("width %1").arg(twips); }
+    void setWidth(double twips) override { steps_ << QStringLiteral("width %1").arg(twips); }
     void place(const shell::Placement& at) override {
-        steps_
-            << QString("place %1 %2 %3 %4").arg(at.left).arg(at.top).arg(at.width).arg(at.height);
+        steps_ << QStringLiteral("place %1 %2 %3 %4")
+                      .arg(at.left)
+                      .arg(at.top)
+                      .arg(at.width)
+                      .arg(at.height);
     }
     void pumpPendingMessages() override {
         steps_ << (raw_status_file::all(directory_.path()).isEmpty() ? "pump" : "pump, file there");
@@ -60,7 +63,7 @@ protected:
         screen_.width = widthAfterBinding_.value_or(screen_.width / 15) * 15;
     }
     Choice showModally() override {
-        steps_ << QString("warning %1").arg(state_.DisplayWarningMode);
+        steps_ << QStringLiteral("warning %1").arg(state_.DisplayWarningMode);
         screen_.width += 100 * 15;
         return choice_;
     }

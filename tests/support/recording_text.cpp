@@ -12,7 +12,7 @@ QString point(double x, double y) {
 
 QString colour(QRgb ink) {
     return ink == 0xff000000 ? QString()
-                             : QStringLiteral(" #%1").arg(ink & 0xffffff, 6, 16, QLatin1Char('0'));
+                             : QStringLiteral(" #%1").arg(ink & 0xffffff, 6, 16, QChar(u'0'));
 }
 
 QString type(const page::Font& font) {

@@ -24,38 +24,40 @@ protected:
     test_support::LogicBench bench{{page(3), page(1), page(5)}};
 };
 
-TEST_F(Actions, PageCodesLeadToTheRecordOfTheNumber) {
+TEST_F(Actions, pageCodesLeadToTheRecordOfTheNumber) {
     struct Row {
         QString code;
         QString shown;
     };
     for (const Row& row : {
-             Row{u"PAG001"_qs, u"1"_qs},
-             Row{u"PAG003"_qs, u"3"_qs},
-             Row{u"PAG005"_qs, u"5"_qs}, // the highest number is still reached
-             Row{u"PAG002"_qs, u"3"_qs}, // a hole leads to the record of position 0: meant so
-             Row{u"PAG000"_qs, u"3"_qs},
-             Row{u"PAG001"_qs, u"1"_qs},
-             Row{u"PAG006"_qs, u"1"_qs}, // out of bounds: the page stays
-             Row{u"PAG999"_qs, u"1"_qs},
-             Row{u"PAG-05"_qs, u"1"_qs},
-             Row{u"PAG1005"_qs, u"5"_qs}, // only three digits count
-             Row{u"pag003"_qs, u"-"_qs},  // letter case counts
-             Row{u"PA"_qs, u"-"_qs},
-             Row{u""_qs, u"-"_qs},
-             Row{u"XYZ003"_qs, u"-"_qs},
+             Row{QStringLiteral("PAG001"), QStringLiteral("1")},
+             Row{QStringLiteral("PAG003"), QStringLiteral("3")},
+             Row{QStringLiteral("PAG005"),
+                 QStringLiteral("5")}, // the highest number is still reached
+             Row{QStringLiteral("PAG002"),
+                 QStringLiteral("3")}, // a hole leads to the record of position 0: meant so
+             Row{QStringLiteral("PAG000"), QStringLiteral("3")},
+             Row{QStringLiteral("PAG001"), QStringLiteral("1")},
+             Row{QStringLiteral("PAG006"), QStringLiteral("1")}, // out of bounds: the page stays
+             Row{QStringLiteral("PAG999"), QStringLiteral("1")},
+             Row{QStringLiteral("PAG-05"), QStringLiteral("1")},
+             Row{QStringLiteral("PAG1005"), QStringLiteral("5")}, // only three digits count
+             Row{QStringLiteral("pag003"), QStringLiteral("-")},  // letter case counts
+             Row{QStringLiteral("PA"), QStringLiteral("-")},
+             Row{QStringLiteral(""), QStringLiteral("-")},
+             Row{QStringLiteral("XYZ003"), QStringLiteral("-")},
          })
         EXPECT_EQ(run(row.code), row.shown) << qPrintable(row.code);
 }
 
-TEST_F(Actions, OutOfBoundsRecordsThePageOnceMore) {
+TEST_F(Actions, outOfBoundsRecordsThePageOnceMore) {
     run(QStringLiteral("PAG003"));
     run(QStringLiteral("PAG900"));
     bench.actions.showPageByOrder(900);
     EXPECT_THAT(bench.history(), ElementsAre(3, 3, 3));
 }
 
-TEST_F(Actions, ReadingOrderHasItsOwnTable) {
+TEST_F(Actions, readingOrderHasItsOwnTable) {
     bench.cours.records = {page(3, {}, {{QStringLiteral("Index"), 7.0}}),
                            page(1, {}, {{QStringLiteral("Index"), 8.0}})};
     coursedata::buildPageIndex(bench.cours, bench.state);
@@ -75,7 +77,7 @@ TEST_F(Actions, ReadingOrderHasItsOwnTable) {
     }
 }
 
-TEST_F(Actions, NeighbourOfTheHighestIndexIsNone) {
+TEST_F(Actions, neighbourOfTheHighestIndexIsNone) {
     run(QStringLiteral("PAG001"));
     bench.state.CurrentOrderIndex = std::numeric_limits<std::int32_t>::max();
     bench.neighbours.log.clear();
@@ -83,7 +85,7 @@ TEST_F(Actions, NeighbourOfTheHighestIndexIsNone) {
     EXPECT_TRUE(bench.neighbours.log.isEmpty());
 }
 
-TEST_F(Actions, WithoutIndexThePageStays) {
+TEST_F(Actions, withoutIndexThePageStays) {
     run(QStringLiteral("PAG001"));
     bench.state.PageByNumber.reset();
     bench.state.PageByOrder.reset();
@@ -92,7 +94,7 @@ TEST_F(Actions, WithoutIndexThePageStays) {
     EXPECT_EQ(bench.shown(), QStringLiteral("1"));
 }
 
-TEST_F(Actions, OtherPrefixesLeaveThePageAlone) {
+TEST_F(Actions, otherPrefixesLeaveThePageAlone) {
     EXPECT_EQ(run(QStringLiteral("EXE235")), QStringLiteral("-"));
     EXPECT_THAT(bench.neighbours.log,
                 ElementsAre(QStringLiteral("launch 235"), QStringLiteral("normal pointer")));
@@ -103,7 +105,7 @@ TEST_F(Actions, OtherPrefixesLeaveThePageAlone) {
     EXPECT_THAT(bench.neighbours.log, ElementsAre(QStringLiteral("normal pointer")));
 }
 
-TEST_F(Actions, PendingChapterIsNeverOverwritten) {
+TEST_F(Actions, pendingChapterIsNeverOverwritten) {
     bench.actions.run(QStringLiteral("EXO012"));
     EXPECT_EQ(bench.state.PendingExerciseChapter, 12);
     bench.actions.run(QStringLiteral("EXO034"));
@@ -111,7 +113,7 @@ TEST_F(Actions, PendingChapterIsNeverOverwritten) {
     EXPECT_EQ(bench.neighbours.log.count(QStringLiteral("exercise")), 2);
 }
 
-TEST_F(Actions, ExerciseMayReplaceTheCodeByThePageToReturnTo) {
+TEST_F(Actions, exerciseMayReplaceTheCodeByThePageToReturnTo) {
     bench.neighbours.exercise.whileOpen = [this] { bench.state.ExerciseReturnPage = 7; };
     QString code = QStringLiteral("EXO001");
     bench.actions.runAction(code);

@@ -20,7 +20,7 @@ protected:
     test_support::LogicBench bench{test_support::pages(150)};
 };
 
-TEST_F(Histories, BackIsPossibleFromTheSecondPageOn) {
+TEST_F(Histories, backIsPossibleFromTheSecondPageOn) {
     visit({1});
     EXPECT_FALSE(bench.view.back);
     visit({2});
@@ -35,7 +35,7 @@ TEST_F(Histories, BackIsPossibleFromTheSecondPageOn) {
     EXPECT_THAT(bench.history(), ElementsAre(1, 2));
 }
 
-TEST_F(Histories, GoingOnFromAnEarlierPageLeavesStaleEntriesAbove) {
+TEST_F(Histories, goingOnFromAnEarlierPageLeavesStaleEntriesAbove) {
     visit({1, 2, 3, 4});
     bench.commands.back();
     bench.commands.back();
@@ -50,7 +50,7 @@ TEST_F(Histories, GoingOnFromAnEarlierPageLeavesStaleEntriesAbove) {
     EXPECT_EQ(bench.shown(), QStringLiteral("4"));
 }
 
-TEST_F(Histories, HoldsTheLastHundredPages) {
+TEST_F(Histories, holdsTheLastHundredPages) {
     for (int number = 1; number <= 101; ++number)
         visit({number});
     EXPECT_EQ(bench.state.HistoryPos, 100);
@@ -63,7 +63,7 @@ TEST_F(Histories, HoldsTheLastHundredPages) {
     EXPECT_FALSE(bench.view.back);
 }
 
-TEST_F(Histories, ForwardAtTheLastSlotStaysPossibleAndShowsNothingNew) {
+TEST_F(Histories, forwardAtTheLastSlotStaysPossibleAndShowsNothingNew) {
     for (int number = 1; number <= 100; ++number)
         visit({number});
     bench.commands.back();
@@ -81,20 +81,20 @@ TEST_F(Histories, ForwardAtTheLastSlotStaysPossibleAndShowsNothingNew) {
     EXPECT_EQ(bench.history().last(), 7);
 }
 
-TEST_F(Histories, PositionStaysWithin16Bits) {
+TEST_F(Histories, positionStaysWithin16Bits) {
     bench.state.HistoryPos = 32767;
     EXPECT_EQ(viewer::History(bench.state).stepForward(), std::nullopt);
     EXPECT_EQ(bench.state.HistoryPos, 32767);
 }
 
-TEST_F(Histories, EmptySlotShowsPageZero) {
+TEST_F(Histories, emptySlotShowsPageZero) {
     visit({9});
     bench.state.HistoryPages.store(2, 0);
     bench.commands.forward();
     EXPECT_EQ(bench.shown(), QStringLiteral("1")); // number 0 is a hole: the record of position 0
 }
 
-TEST_F(Histories, AllButBackAndForwardIsRecordedAlsoWhenThePageFails) {
+TEST_F(Histories, allButBackAndForwardIsRecordedAlsoWhenThePageFails) {
     visit({1});
     bench.state.ExerciseReturnPage = 12;
     bench.commands.returnToTest();

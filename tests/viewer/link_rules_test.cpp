@@ -9,25 +9,60 @@ using page::LinkControl;
 using page::LinkOperation;
 using page::SurfaceId;
 
-TEST(LinkName, SaysWhatTheLinkSaysOrLeadsTo) {
+TEST(LinkName, saysWhatTheLinkSaysOrLeadsTo) {
     struct Row {
         LinkControl control;
         QString caption, face, tooltip, tag, name;
     };
     for (const Row& row : {
              Row{LinkControl::Labelien,
-                 u"Voir la\r\npage 2"_qs,
-                 u"Arial"_qs,
+                 QStringLiteral("Voir la\r\npage 2"),
+                 QStringLiteral("Arial"),
                  {},
-                 u"PAG002"_qs,
-                 u"Voir la page 2"_qs},
-             Row{LinkControl::Labelien, u"a\r\nb"_qs, u"symbol"_qs, {}, u"PAG002"_qs, u"α β"_qs},
-             Row{LinkControl::Imagelien, {}, {}, u" Une  aide "_qs, u"PAG002"_qs, u"Une aide"_qs},
-             Row{LinkControl::Imagelien, {}, {}, {}, u"PAG002"_qs, u"Lien vers la page 2"_qs},
-             Row{LinkControl::Imagelien, {}, {}, {}, u"EXO011"_qs, u"Test du chapitre 11"_qs},
-             Row{LinkControl::Imagelien, {}, {}, {}, u"EXE070"_qs, u"Lancer une simulation"_qs},
-             Row{LinkControl::Imagelien, {}, {}, {}, u"FLOTTANT"_qs, u"Menu"_qs},
-             Row{LinkControl::Labelien, u" "_qs, u"Arial"_qs, {}, u"pag002"_qs, u"Lien"_qs},
+                 QStringLiteral("PAG002"),
+                 QStringLiteral("Voir la page 2")},
+             Row{LinkControl::Labelien,
+                 QStringLiteral("a\r\nb"),
+                 QStringLiteral("symbol"),
+                 {},
+                 QStringLiteral("PAG002"),
+                 QStringLiteral("α β")},
+             Row{LinkControl::Imagelien,
+                 {},
+                 {},
+                 QStringLiteral(" Une  aide "),
+                 QStringLiteral("PAG002"),
+                 QStringLiteral("Une aide")},
+             Row{LinkControl::Imagelien,
+                 {},
+                 {},
+                 {},
+                 QStringLiteral("PAG002"),
+                 QStringLiteral("Lien vers la page 2")},
+             Row{LinkControl::Imagelien,
+                 {},
+                 {},
+                 {},
+                 QStringLiteral("EXO011"),
+                 QStringLiteral("Test du chapitre 11")},
+             Row{LinkControl::Imagelien,
+                 {},
+                 {},
+                 {},
+                 QStringLiteral("EXE070"),
+                 QStringLiteral("Lancer une simulation")},
+             Row{LinkControl::Imagelien,
+                 {},
+                 {},
+                 {},
+                 QStringLiteral("FLOTTANT"),
+                 QStringLiteral("Menu")},
+             Row{LinkControl::Labelien,
+                 QStringLiteral(" "),
+                 QStringLiteral("Arial"),
+                 {},
+                 QStringLiteral("pag002"),
+                 QStringLiteral("Lien")},
          }) {
         LinkOperation link;
         link.control = row.control;
@@ -39,7 +74,7 @@ TEST(LinkName, SaysWhatTheLinkSaysOrLeadsTo) {
     }
 }
 
-TEST(LinkOrder, RunsAlongTheLines) {
+TEST(LinkOrder, runsAlongTheLines) {
     struct Place {
         SurfaceId surface;
         double x, y, height;

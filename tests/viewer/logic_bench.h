@@ -16,39 +16,43 @@ class LoggingView : public viewer::PageView {
 public:
     explicit LoggingView(QStringList& calls) : log(calls) {}
 
-    void setPageVisible(bool on) override { note(on ? u"show page"_qs : u"hide page"_qs); }
-    void resetLinks() override { note(u"free links"_qs); }
-    void hideScrollBarAndVideoFrame() override { note(u"hide bar"_qs); }
-    void clearPictures() override { note(u"clear pictures"_qs); }
-    void setCaption(const QString& text) override { note(u"caption "_qs + text); }
-    void setTitle(const QString& text) override { note(u"title "_qs + text); }
-    void showVideoFrame() override { note(u"video frame"_qs); }
+    void setPageVisible(bool on) override {
+        note(on ? QStringLiteral("show page") : QStringLiteral("hide page"));
+    }
+    void resetLinks() override { note(QStringLiteral("free links")); }
+    void hideScrollBarAndVideoFrame() override { note(QStringLiteral("hide bar")); }
+    void clearPictures() override { note(QStringLiteral("clear pictures")); }
+    void setCaption(const QString& text) override { note(QStringLiteral("caption ") + text); }
+    void setTitle(const QString& text) override { note(QStringLiteral("title ") + text); }
+    void showVideoFrame() override { note(QStringLiteral("video frame")); }
     void setBackEnabled(bool on) override {
         back = on;
-        note(u"back "_qs + QString::number(on));
+        note(QStringLiteral("back ") + QString::number(on));
     }
     void setForwardEnabled(bool on) override {
         forward = on;
-        note(u"forward "_qs + QString::number(on));
+        note(QStringLiteral("forward ") + QString::number(on));
     }
-    void fitPage() override { note(u"fit page"_qs); }
+    void fitPage() override { note(QStringLiteral("fit page")); }
     int scrolled() const override { return 0; }
     void scrollTo(int) override {}
     void setChapterButtons(bool previous, bool next) override {
-        note(u"chapter %1%2"_qs.arg(previous).arg(next));
+        note(QStringLiteral("chapter %1%2").arg(previous).arg(next));
     }
-    void setPrintable(bool on) override { note(u"printable "_qs + QString::number(on)); }
+    void setPrintable(bool on) override {
+        note(QStringLiteral("printable ") + QString::number(on));
+    }
     void setSummary(const QString& code, const QString& caption) override {
         summary = code + u' ' + caption;
-        note(u"summary "_qs + summary);
+        note(QStringLiteral("summary ") + summary);
     }
     void setReturnToTestVisible(bool on) override { returnToTest = on; }
     void markWords(const viewer::FoundWords& found) override {
         for (const QString& word : found.words)
-            note(u"mark "_qs + word);
+            note(QStringLiteral("mark ") + word);
     }
-    void showHourglass() override { note(u"hourglass"_qs); }
-    void restorePointer() override { note(u"normal pointer"_qs); }
+    void showHourglass() override { note(QStringLiteral("hourglass")); }
+    void restorePointer() override { note(QStringLiteral("normal pointer")); }
 
     QStringList& log;
     bool back = false;

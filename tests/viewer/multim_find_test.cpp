@@ -18,8 +18,9 @@ using test_support::Window;
 class Find : public Window {
 protected:
     Find() {
-        bench.cours.records[4][u"fpc"_qs] =
-            u"un prisme¶\r\n"_qs + lines(60) + u"le Prisme¶\r\n"_qs + lines(60);
+        bench.cours.records[4][QStringLiteral("fpc")] =
+            QStringLiteral("un prisme¶\r\n") + lines(60) + QStringLiteral("le Prisme¶\r\n") +
+            lines(60);
         show(5);
     }
 
@@ -44,19 +45,19 @@ protected:
     bool isMarked() { return pixels(kMarkTint) + pixels(kCurrentMarkTint) > 0; }
 };
 
-TEST_F(Find, SearchesWhileTypingAndWalksByKeysAndButtons) {
+TEST_F(Find, searchesWhileTypingAndWalksByKeysAndButtons) {
     press(Qt::Key_F, Qt::ControlModifier);
-    EXPECT_EQ(focused(), u"findField"_qs);
+    EXPECT_EQ(focused(), QStringLiteral("findField"));
     EXPECT_EQ(status(), QString());
-    type(u"PRIS"_qs);
-    EXPECT_EQ(status(), u"1 sur 2"_qs);
+    type(QStringLiteral("PRIS"));
+    EXPECT_EQ(status(), QStringLiteral("1 sur 2"));
     EXPECT_EQ(scrolled(), 0);
     pressThere(Qt::Key_Return);
-    EXPECT_EQ(status(), u"2 sur 2"_qs);
+    EXPECT_EQ(status(), QStringLiteral("2 sur 2"));
     const int second = scrolled();
     EXPECT_GT(second, 400);
-    type(u"m"_qs); // the word in view stays the current one
-    EXPECT_EQ(status(), u"2 sur 2"_qs);
+    type(QStringLiteral("m")); // the word in view stays the current one
+    EXPECT_EQ(status(), QStringLiteral("2 sur 2"));
 
     struct Row {
         int key;
@@ -64,69 +65,71 @@ TEST_F(Find, SearchesWhileTypingAndWalksByKeysAndButtons) {
         QString status;
     };
     for (const Row& row :
-         {Row{Qt::Key_F3, {}, u"1 sur 2"_qs}, Row{Qt::Key_F3, Qt::ShiftModifier, u"2 sur 2"_qs},
-          Row{Qt::Key_G, Qt::ControlModifier, u"1 sur 2"_qs},
-          Row{Qt::Key_G, Qt::ControlModifier | Qt::ShiftModifier, u"2 sur 2"_qs},
-          Row{Qt::Key_Enter, Qt::ShiftModifier, u"1 sur 2"_qs}}) {
+         {Row{Qt::Key_F3, {}, QStringLiteral("1 sur 2")},
+          Row{Qt::Key_F3, Qt::ShiftModifier, QStringLiteral("2 sur 2")},
+          Row{Qt::Key_G, Qt::ControlModifier, QStringLiteral("1 sur 2")},
+          Row{Qt::Key_G, Qt::ControlModifier | Qt::ShiftModifier, QStringLiteral("2 sur 2")},
+          Row{Qt::Key_Enter, Qt::ShiftModifier, QStringLiteral("1 sur 2")}}) {
         pressThere(row.key, row.modifiers);
         EXPECT_EQ(status(), row.status) << row.key;
         EXPECT_EQ(scrolled(), row.status == u"1 sur 2" ? 0 : second);
     }
     pressThere(Qt::Key_Tab);
-    EXPECT_EQ(focused(), u"findPrevious"_qs) << "the field comes before the buttons";
+    EXPECT_EQ(focused(), QStringLiteral("findPrevious")) << "the field comes before the buttons";
     pressThere(Qt::Key_Backtab, Qt::ShiftModifier);
     click("findPrevious");
-    EXPECT_EQ(status(), u"2 sur 2"_qs);
-    EXPECT_EQ(focused(), u"findField"_qs);
-    type(u" z"_qs);
-    EXPECT_EQ(status(), u"Aucune occurrence"_qs);
+    EXPECT_EQ(status(), QStringLiteral("2 sur 2"));
+    EXPECT_EQ(focused(), QStringLiteral("findField"));
+    type(QStringLiteral(" z"));
+    EXPECT_EQ(status(), QStringLiteral("Aucune occurrence"));
     EXPECT_FALSE(bench.control("findNext")->isEnabled());
     EXPECT_FALSE(isMarked());
 }
 
-TEST_F(Find, EscapeGivesTheKeyboardBackToThePage) {
+TEST_F(Find, escapeGivesTheKeyboardBackToThePage) {
     const int view = bench.control<QWidget>("framekx")->height();
     press(Qt::Key_F3); // nothing is sought yet: the bar comes
-    type(u"un p"_qs);
+    type(QStringLiteral("un p"));
     EXPECT_TRUE(isMarked());
     EXPECT_EQ(bench.control<QWidget>("framekx")->height(), view - 40);
     EXPECT_EQ(bench.control<QWidget>("VScroll1")->height(), view - 40);
     pressThere(Qt::Key_Escape);
     EXPECT_FALSE(isOpen());
     EXPECT_FALSE(isMarked());
-    EXPECT_EQ(focused(), u"PictureTEXTE"_qs);
+    EXPECT_EQ(focused(), QStringLiteral("PictureTEXTE"));
     EXPECT_EQ(bench.control<QWidget>("framekx")->height(), view);
     press(Qt::Key_F, Qt::ControlModifier); // what was typed last is sought again
-    EXPECT_EQ(status(), u"1 sur 1"_qs);
+    EXPECT_EQ(status(), QStringLiteral("1 sur 1"));
     click("findClose");
     EXPECT_FALSE(isOpen());
 }
 
-TEST_F(Find, StaysOpenForTheNextPageAndLeavesTheWindowItsKeys) {
+TEST_F(Find, staysOpenForTheNextPageAndLeavesTheWindowItsKeys) {
     press(Qt::Key_F, Qt::ControlModifier);
-    type(u"prisme"_qs);
-    bench.cours.records[1][u"fpc"_qs] = lines(40) + u"prisme¶\r\n"_qs;
+    type(QStringLiteral("prisme"));
+    bench.cours.records[1][QStringLiteral("fpc")] = lines(40) + QStringLiteral("prisme¶\r\n");
     show(2);
-    EXPECT_EQ(focused(), u"findField"_qs);
-    EXPECT_EQ(status(), u"1 sur 1"_qs);
+    EXPECT_EQ(focused(), QStringLiteral("findField"));
+    EXPECT_EQ(status(), QStringLiteral("1 sur 1"));
     EXPECT_GT(scrolled(), 0);
     bench.neighbours.log.clear();
     pressThere(Qt::Key_C, Qt::AltModifier);
-    EXPECT_EQ(bench.neighbours.log, QStringList{u"calculator"_qs});
+    EXPECT_EQ(bench.neighbours.log, QStringList{QStringLiteral("calculator")});
     pressThere(Qt::Key_Left, Qt::AltModifier);
-    EXPECT_EQ(shown(), u"5"_qs);
-    EXPECT_EQ(status(), u"1 sur 2"_qs);
+    EXPECT_EQ(shown(), QStringLiteral("5"));
+    EXPECT_EQ(status(), QStringLiteral("1 sur 2"));
     pressThere(Qt::Key_PageDown);
     EXPECT_GT(scrolled(), 0);
     pressThere(Qt::Key_Backspace); // edits the text, and does not go back
-    EXPECT_EQ(text(), u"prism"_qs);
-    EXPECT_EQ(shown(), u"5"_qs);
+    EXPECT_EQ(text(), QStringLiteral("prism"));
+    EXPECT_EQ(shown(), QStringLiteral("5"));
 }
 
-TEST_F(Find, WordsOfTheSearchWindowAreMarkedUntilAnotherPageComes) {
-    bench.neighbours.search.words = {{u"prisme"_qs, u"accentué"_qs}, false};
+TEST_F(Find, wordsOfTheSearchWindowAreMarkedUntilAnotherPageComes) {
+    bench.neighbours.search.words = {{QStringLiteral("prisme"), QStringLiteral("accentué")}, false};
     bench.neighbours.search.window.whileOpen = [this] { bench.state.SearchChosenPage = 3; };
-    bench.cours.records[2][u"fpc"_qs] = lines(40) + u"ACCENTUÉ, accentue¶\r\n"_qs;
+    bench.cours.records[2][QStringLiteral("fpc")] =
+        lines(40) + QStringLiteral("ACCENTUÉ, accentue¶\r\n");
     click("command4");
     EXPECT_FALSE(isOpen());
     EXPECT_GT(scrolled(), 0);
@@ -136,7 +139,7 @@ TEST_F(Find, WordsOfTheSearchWindowAreMarkedUntilAnotherPageComes) {
     // The bar opens on what is marked, and does not cover it.
     const int reached = scrolled();
     press(Qt::Key_F, Qt::ControlModifier);
-    EXPECT_EQ(status(), u"1 sur 1"_qs);
+    EXPECT_EQ(status(), QStringLiteral("1 sur 1"));
     EXPECT_EQ(scrolled(), reached + 40);
     pressThere(Qt::Key_Escape);
     click("command4");
@@ -153,17 +156,17 @@ TEST_F(Find, WordsOfTheSearchWindowAreMarkedUntilAnotherPageComes) {
     EXPECT_FALSE(isMarked());
     bench.neighbours.search.window.whileOpen = [this] { bench.state.SearchChosenPage = 0; };
     click("command4"); // cancelled
-    EXPECT_EQ(shown(), u"5"_qs);
+    EXPECT_EQ(shown(), QStringLiteral("5"));
     EXPECT_FALSE(isMarked());
 }
 
-TEST_F(Find, MarksAreCrispAndLeaveTheLettersDark) {
-    bench.cours.records[2][u"fpc"_qs] = u"un un¶\r\n"_qs;
+TEST_F(Find, marksAreCrispAndLeaveTheLettersDark) {
+    bench.cours.records[2][QStringLiteral("fpc")] = QStringLiteral("un un¶\r\n");
     show(3);
     const int ink = pixels(0xff000000);
     press(Qt::Key_F, Qt::ControlModifier);
-    type(u"un"_qs);
-    EXPECT_EQ(status(), u"1 sur 2"_qs);
+    type(QStringLiteral("un"));
+    EXPECT_EQ(status(), QStringLiteral("1 sur 2"));
     // One mark is as large as the other, and the current one has a frame of whole pixels besides.
     const QImage shown = bench.control<QWidget>("PictureTEXTE")->grab().toImage();
     QRect current, frame;
@@ -182,10 +185,10 @@ TEST_F(Find, MarksAreCrispAndLeaveTheLettersDark) {
 }
 
 using test_support::Links;
-TEST_F(Links, ShowTheMarkBelowTheirCaption) {
-    show(3, u"##LIERTun prisme#PAG002\r\n"_qs);
+TEST_F(Links, showTheMarkBelowTheirCaption) {
+    show(3, QStringLiteral("##LIERTun prisme#PAG002\r\n"));
     const QImage plain = picture("PictureTEXTE");
-    bench.window.markWords({{u"prisme"_qs}, true});
+    bench.window.markWords({{QStringLiteral("prisme")}, true});
     const QImage marked = picture("PictureTEXTE");
     const QRect label = link("Labelien(0)")->geometry();
     const QPoint above = label.topRight() + QPoint(-4, 4);

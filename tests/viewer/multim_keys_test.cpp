@@ -18,7 +18,7 @@ using test_support::page;
 using test_support::Window;
 using testing::ElementsAre;
 
-TEST_F(Window, MnemonicsPressTheirButtons) {
+TEST_F(Window, mnemonicsPressTheirButtons) {
     show(2);
     show(3);
     struct Row {
@@ -26,8 +26,9 @@ TEST_F(Window, MnemonicsPressTheirButtons) {
         QString page;
     };
     for (const Row& row :
-         {Row{Qt::Key_P, u"2"_qs}, Row{Qt::Key_U, u"3"_qs}, Row{Qt::Key_Y, u"28"_qs},
-          Row{Qt::Key_H, u"30"_qs}, Row{Qt::Key_S, u"1"_qs}}) {
+         {Row{Qt::Key_P, QStringLiteral("2")}, Row{Qt::Key_U, QStringLiteral("3")},
+          Row{Qt::Key_Y, QStringLiteral("28")}, Row{Qt::Key_H, QStringLiteral("30")},
+          Row{Qt::Key_S, QStringLiteral("1")}}) {
         press(row.key, Qt::AltModifier);
         EXPECT_EQ(shown(), row.page) << char(row.key);
     }
@@ -40,7 +41,7 @@ TEST_F(Window, MnemonicsPressTheirButtons) {
                             QStringLiteral("launch 70")));
 }
 
-TEST_F(Window, SearchAndCreditsShareAMnemonicAndBothWork) {
+TEST_F(Window, searchAndCreditsShareAMnemonicAndBothWork) {
     EXPECT_EQ(QApplication::focusWidget(), &bench.window); // no button is chosen from the start
     QSet<QString> reached;
     for (int time = 0; time < 2; ++time) {
@@ -52,7 +53,7 @@ TEST_F(Window, SearchAndCreditsShareAMnemonicAndBothWork) {
     EXPECT_EQ(shown(), QStringLiteral("161"));
 }
 
-TEST_F(Window, KeysWalkTheHistory) {
+TEST_F(Window, keysWalkTheHistory) {
     show(2);
     press(Qt::Key_Left, Qt::AltModifier);
     EXPECT_EQ(shown(), QStringLiteral("1"));
@@ -62,7 +63,7 @@ TEST_F(Window, KeysWalkTheHistory) {
     EXPECT_EQ(shown(), QStringLiteral("1"));
 }
 
-TEST_F(Window, ComesBackToWhereAPageWasLeft) {
+TEST_F(Window, comesBackToWhereAPageWasLeft) {
     press(Qt::Key_PageDown);
     press(Qt::Key_Down);
     const int left = scrolled();
@@ -70,11 +71,11 @@ TEST_F(Window, ComesBackToWhereAPageWasLeft) {
     show(2);
     EXPECT_EQ(scrolled(), 0);
     QTest::mouseClick(bench.control<QWidget>("PictureTEXTE"), Qt::BackButton);
-    EXPECT_EQ(shown(), u"1"_qs);
+    EXPECT_EQ(shown(), QStringLiteral("1"));
     EXPECT_EQ(scrolled(), left);
     press(Qt::Key_Home);
     QTest::mouseClick(bench.control<QWidget>("PICTUREILLUS"), Qt::ForwardButton);
-    EXPECT_EQ(shown(), u"2"_qs);
+    EXPECT_EQ(shown(), QStringLiteral("2"));
     press(Qt::Key_Left, Qt::AltModifier);
     EXPECT_EQ(scrolled(), 0);
     press(Qt::Key_PageDown);
@@ -82,7 +83,7 @@ TEST_F(Window, ComesBackToWhereAPageWasLeft) {
     EXPECT_EQ(scrolled(), 0);
 }
 
-TEST_F(Window, KeysThatEveryoneTries) {
+TEST_F(Window, keysThatEveryoneTries) {
     show(2);
     bench.prompter.answers = {Answer::Cancel};
     bench.neighbours.log.clear();
@@ -94,13 +95,13 @@ TEST_F(Window, KeysThatEveryoneTries) {
                                                   QStringLiteral("help")));
     EXPECT_EQ(bench.prompter.messages.size(), 1u);
     press(Qt::Key_Home, Qt::AltModifier);
-    EXPECT_EQ(shown(), u"1"_qs);
+    EXPECT_EQ(shown(), QStringLiteral("1"));
     bench.neighbours.log.clear();
     press(Qt::Key_P, Qt::ControlModifier); // may not be printed
     EXPECT_FALSE(bench.neighbours.log.contains(QStringLiteral("print")));
 }
 
-TEST_F(Window, KeysWheelAndBarScrollATallPage) {
+TEST_F(Window, keysWheelAndBarScrollATallPage) {
     auto* bar = bench.control<look::ScrollBar>("VScroll1");
     const int height = bench.control<QWidget>("PictureTEXTE")->height();
     const int furthest = height - 424;
@@ -146,7 +147,7 @@ TEST_F(Window, KeysWheelAndBarScrollATallPage) {
     EXPECT_EQ(scrolled(), 0);
 }
 
-TEST_F(Window, AClickInThePageGivesItTheKeyboard) {
+TEST_F(Window, aClickInThePageGivesItTheKeyboard) {
     show(2); // ends above the foot of the view
     const auto* page = bench.control<QWidget>("PictureTEXTE");
     auto* view = bench.control<QWidget>("framekx");

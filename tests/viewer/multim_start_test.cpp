@@ -40,7 +40,7 @@ protected:
     }
 };
 
-TEST_F(Window, GivesInToAManagerThatRefusesItsSize) {
+TEST_F(Window, givesInToAManagerThatRefusesItsSize) {
     const StubbornManager manager(bench.window.windowHandle());
     for (int round = 0; round < 200; ++round)
         QApplication::processEvents();
@@ -50,10 +50,10 @@ TEST_F(Window, GivesInToAManagerThatRefusesItsSize) {
     // The contents stand in the middle, and work.
     EXPECT_EQ(bench.control("Command2")->mapTo(&bench.window, QPoint()), QPoint(108, 54));
     click("command5");
-    EXPECT_EQ(shown(), u"30"_qs);
+    EXPECT_EQ(shown(), QStringLiteral("30"));
 }
 
-TEST(WindowStart, FillsAScreenThatHasNoRoomForItsFrame) {
+TEST(WindowStart, fillsAScreenThatHasNoRoomForItsFrame) {
     for (const int height : {659, 660}) {
         test_support::WindowBench bench(test_support::course());
         bench.screen = test_support::FakeScreen(1024, height);
@@ -63,7 +63,7 @@ TEST(WindowStart, FillsAScreenThatHasNoRoomForItsFrame) {
     }
 }
 
-TEST(WindowStart, StandsUnderItsCoverUntilTheFirstPage) {
+TEST(WindowStart, standsUnderItsCoverUntilTheFirstPage) {
     test_support::WindowBench bench(test_support::pages(25'000));
     QTemporaryDir directory;
     QImage picture(100, 60, QImage::Format_RGB32);
@@ -103,7 +103,7 @@ TEST(WindowStart, StandsUnderItsCoverUntilTheFirstPage) {
     EXPECT_THAT(bench.history(), ElementsAre(1));
 }
 
-TEST(WindowStart, CoverIsNeverLargerThanThePageArea) {
+TEST(WindowStart, coverIsNeverLargerThanThePageArea) {
     viewer::Cover cover(nullptr);
     cover.resize(624, 440);
     QTemporaryDir directory;
@@ -118,7 +118,7 @@ TEST(WindowStart, CoverIsNeverLargerThanThePageArea) {
     EXPECT_TRUE(cover.rect().contains(cover.labelRect()));
 }
 
-TEST(WindowStart, EndsWhenStartUpSaysSo) {
+TEST(WindowStart, endsWhenStartUpSaysSo) {
     test_support::WindowBench bench(test_support::pages(3));
     bench.whileStarting = [] { return false; };
     EXPECT_FALSE(bench.start().started);
@@ -126,7 +126,7 @@ TEST(WindowStart, EndsWhenStartUpSaysSo) {
     EXPECT_EQ(bench.state.HistoryPos, 0);
 }
 
-TEST(WindowStart, ClosingMeanwhileEndsItWithoutAQuestion) {
+TEST(WindowStart, closingMeanwhileEndsItWithoutAQuestion) {
     test_support::WindowBench bench(test_support::pages(25'000));
     bench.whileStarting = [&] {
         QTimer::singleShot(0, [&] { bench.window.close(); });
@@ -137,7 +137,7 @@ TEST(WindowStart, ClosingMeanwhileEndsItWithoutAQuestion) {
     EXPECT_EQ(bench.state.HistoryPos, 0);
 }
 
-TEST(WindowStart, SizingByStartUpDoesNotArmTheRule) {
+TEST(WindowStart, sizingByStartUpDoesNotArmTheRule) {
     test_support::WindowBench bench(test_support::pages(3));
     bench.whileStarting = [&] {
         bench.window.setWidth(800 * 15);
@@ -150,7 +150,7 @@ TEST(WindowStart, SizingByStartUpDoesNotArmTheRule) {
     EXPECT_EQ(bench.state.DisplayWarningMode, 2); // the resize of appearing did
 }
 
-TEST(WindowStart, WithoutDatabaseShowsAnEmptyPage) {
+TEST(WindowStart, withoutDatabaseShowsAnEmptyPage) {
     test_support::WindowBench bench({});
     EXPECT_TRUE(bench.start().started);
     EXPECT_TRUE(bench.control<QWidget>("PictureTEXTE")->isVisibleTo(&bench.window));

@@ -21,7 +21,7 @@ using test_support::page;
 using test_support::Window;
 using testing::ElementsAre;
 
-TEST_F(Window, OpensOnTheFirstPageWithEverythingInPlace) {
+TEST_F(Window, opensOnTheFirstPageWithEverythingInPlace) {
     EXPECT_TRUE(bench.started);
     EXPECT_THAT(bench.history(), ElementsAre(1));
     EXPECT_EQ(bench.window.size(), QSize(800, 600));
@@ -68,7 +68,7 @@ TEST_F(Window, OpensOnTheFirstPageWithEverythingInPlace) {
     EXPECT_EQ(bench.window.windowTitle(), QStringLiteral("Orvalente - KAROPE"));
 }
 
-TEST_F(Window, ButtonsAreCalledWhatTheyDo) {
+TEST_F(Window, buttonsAreCalledWhatTheyDo) {
     struct Row {
         const char* name;
         QString caption, toolTip;
@@ -78,33 +78,43 @@ TEST_F(Window, ButtonsAreCalledWhatTheyDo) {
         return button.grab(QRect(8, 2, 48, 34)).toImage();
     };
     for (const Row& row : {
-             Row{"apres", u"S&uivant"_qs, u"Page suivante"_qs},
-             Row{"avant", u"&Précédent"_qs, u"Page précédente"_qs},
-             Row{"suite", u"Page suivante"_qs, u"Page suivante dans ce chapitre"_qs},
-             Row{"avantcours", u"Page précédente"_qs, u"Page précédente dans ce chapitre"_qs},
-             Row{"Command2", u"Accueil"_qs, u"Afficher le sommaire général"_qs, u"home"_qs},
-             Row{"command6", u"Ph&ysique"_qs, u"Sommaire physique"_qs, u"physics"_qs},
-             Row{"command5", u"C&himie"_qs, u"Sommaire chimie"_qs, u"chemistry"_qs},
-             Row{"Command13", u"C&rédits"_qs, {}, u"credits"_qs},
-             Row{"Command12", u"Int&ernet"_qs, {}, u"internet"_qs},
-             Row{"command4", u"&Rechercher"_qs, u"Moteur de recherche"_qs, u"search"_qs},
-             Row{"btexo", u"Retrouver le test"_qs, {}},
-             Row{"Command3", u"&Calculatrice"_qs, u"Machine à calculer"_qs, u"calculator"_qs},
-             Row{"CommandIMPRIME", u"&Imprimer"_qs, u"Imprimer ou configurer l'imprimante"_qs,
-                 u"print"_qs},
-             Row{"Command10", u"&Aide"_qs, u"Aide pour utiliser le logiciel"_qs, u"help"_qs},
-             Row{"Command8", u"Actualiser"_qs, u"Actualiser le logiciel"_qs, u"update"_qs},
-             Row{"Command14", u"&Quitter"_qs, u"Quitter l'application"_qs, u"quit"_qs},
-             Row{"Image4_6", {}, u"Retour au début"_qs},
-             Row{"Image4_4", {}, u"Image précédente"_qs},
-             Row{"Image4_0", {}, u"Lecture"_qs},
-             Row{"Image4_2", {}, u"Pause"_qs},
-             Row{"Image4_3", {}, u"Stop"_qs},
-             Row{"Image4_1", {}, u"Image suivante"_qs},
-             Row{"Image4_5", {}, u"Aller à la fin"_qs},
-             Row{"findPrevious", {}, u"Occurrence précédente (Maj+F3)"_qs},
-             Row{"findNext", {}, u"Occurrence suivante (F3)"_qs},
-             Row{"findClose", {}, u"Fermer la recherche (Échap)"_qs},
+             Row{"apres", QStringLiteral("S&uivant"), QStringLiteral("Page suivante")},
+             Row{"avant", QStringLiteral("&Précédent"), QStringLiteral("Page précédente")},
+             Row{"suite", QStringLiteral("Page suivante"),
+                 QStringLiteral("Page suivante dans ce chapitre")},
+             Row{"avantcours", QStringLiteral("Page précédente"),
+                 QStringLiteral("Page précédente dans ce chapitre")},
+             Row{"Command2", QStringLiteral("Accueil"),
+                 QStringLiteral("Afficher le sommaire général"), QStringLiteral("home")},
+             Row{"command6", QStringLiteral("Ph&ysique"), QStringLiteral("Sommaire physique"),
+                 QStringLiteral("physics")},
+             Row{"command5", QStringLiteral("C&himie"), QStringLiteral("Sommaire chimie"),
+                 QStringLiteral("chemistry")},
+             Row{"Command13", QStringLiteral("C&rédits"), {}, QStringLiteral("credits")},
+             Row{"Command12", QStringLiteral("Int&ernet"), {}, QStringLiteral("internet")},
+             Row{"command4", QStringLiteral("&Rechercher"), QStringLiteral("Moteur de recherche"),
+                 QStringLiteral("search")},
+             Row{"btexo", QStringLiteral("Retrouver le test"), {}},
+             Row{"Command3", QStringLiteral("&Calculatrice"), QStringLiteral("Machine à calculer"),
+                 QStringLiteral("calculator")},
+             Row{"CommandIMPRIME", QStringLiteral("&Imprimer"),
+                 QStringLiteral("Imprimer ou configurer l'imprimante"), QStringLiteral("print")},
+             Row{"Command10", QStringLiteral("&Aide"),
+                 QStringLiteral("Aide pour utiliser le logiciel"), QStringLiteral("help")},
+             Row{"Command8", QStringLiteral("Actualiser"), QStringLiteral("Actualiser le logiciel"),
+                 QStringLiteral("update")},
+             Row{"Command14", QStringLiteral("&Quitter"), QStringLiteral("Quitter l'application"),
+                 QStringLiteral("quit")},
+             Row{"Image4_6", {}, QStringLiteral("Retour au début")},
+             Row{"Image4_4", {}, QStringLiteral("Image précédente")},
+             Row{"Image4_0", {}, QStringLiteral("Lecture")},
+             Row{"Image4_2", {}, QStringLiteral("Pause")},
+             Row{"Image4_3", {}, QStringLiteral("Stop")},
+             Row{"Image4_1", {}, QStringLiteral("Image suivante")},
+             Row{"Image4_5", {}, QStringLiteral("Aller à la fin")},
+             Row{"findPrevious", {}, QStringLiteral("Occurrence précédente (Maj+F3)")},
+             Row{"findNext", {}, QStringLiteral("Occurrence suivante (F3)")},
+             Row{"findClose", {}, QStringLiteral("Fermer la recherche (Échap)")},
          }) {
         auto* button = bench.control(row.name);
         ASSERT_NE(button, nullptr) << row.name;
@@ -120,26 +130,26 @@ TEST_F(Window, ButtonsAreCalledWhatTheyDo) {
     }
 }
 
-TEST_F(Window, EachButtonDoesWhatItSays) {
+TEST_F(Window, eachButtonDoesWhatItSays) {
     struct Row {
         const char* button;
         QString call; ///< what a neighbour was asked for, or
         QString page; ///< the page shown
     };
     for (const Row& row : {
-             Row{"command6", {}, u"28"_qs},
-             Row{"command5", {}, u"30"_qs},
-             Row{"Command13", {}, u"161"_qs},
-             Row{"Command2", {}, u"1"_qs},
-             Row{"suite", {}, u"2"_qs},
-             Row{"avantcours", {}, u"1"_qs},
-             Row{"avant", {}, u"2"_qs},
-             Row{"apres", {}, u"1"_qs},
-             Row{"Command12", u"launch 70"_qs, {}},
-             Row{"command4", u"search"_qs, {}},
-             Row{"Command3", u"calculator"_qs, {}},
-             Row{"Command10", u"help"_qs, {}},
-             Row{"Command8", u"installation"_qs, {}},
+             Row{"command6", {}, QStringLiteral("28")},
+             Row{"command5", {}, QStringLiteral("30")},
+             Row{"Command13", {}, QStringLiteral("161")},
+             Row{"Command2", {}, QStringLiteral("1")},
+             Row{"suite", {}, QStringLiteral("2")},
+             Row{"avantcours", {}, QStringLiteral("1")},
+             Row{"avant", {}, QStringLiteral("2")},
+             Row{"apres", {}, QStringLiteral("1")},
+             Row{"Command12", QStringLiteral("launch 70"), {}},
+             Row{"command4", QStringLiteral("search"), {}},
+             Row{"Command3", QStringLiteral("calculator"), {}},
+             Row{"Command10", QStringLiteral("help"), {}},
+             Row{"Command8", QStringLiteral("installation"), {}},
          }) {
         bench.neighbours.log.clear();
         click(row.button);
@@ -150,7 +160,7 @@ TEST_F(Window, EachButtonDoesWhatItSays) {
     }
 }
 
-TEST_F(Window, ButtonsThatAPageDoesNotOfferDoNothing) {
+TEST_F(Window, buttonsThatAPageDoesNotOfferDoNothing) {
     bench.neighbours.log.clear();
     for (const char* name : {"CommandIMPRIME", "avant", "apres"})
         click(name);
@@ -168,14 +178,15 @@ TEST_F(Window, ButtonsThatAPageDoesNotOfferDoNothing) {
     EXPECT_THAT(bench.neighbours.log, ElementsAre(QStringLiteral("print")));
 }
 
-TEST_F(Window, PageIsAsTallAsWhatWasDrawnOnIt) {
+TEST_F(Window, pageIsAsTallAsWhatWasDrawnOnIt) {
     struct Row {
         QString source;
         int height;
     };
     // A line of 10 points is 15 pixels high.
     for (const Row& row :
-         {Row{u"a¶\r\nb¶\r\n"_qs, 30}, Row{u"a¶\r\n##OBJILLUS\r\nb¶\r\n"_qs, 15}, Row{u""_qs, 0}}) {
+         {Row{QStringLiteral("a¶\r\nb¶\r\n"), 30},
+          Row{QStringLiteral("a¶\r\n##OBJILLUS\r\nb¶\r\n"), 15}, Row{QStringLiteral(""), 0}}) {
         bench.cours.records[4] = page(5, row.source);
         show(1);
         show(5);
@@ -184,12 +195,12 @@ TEST_F(Window, PageIsAsTallAsWhatWasDrawnOnIt) {
     }
 }
 
-TEST_F(Window, SummaryButtonFollowsThePage) {
+TEST_F(Window, summaryButtonFollowsThePage) {
     auto* summary = bench.control("Command2");
     EXPECT_EQ(summary->text(), QStringLiteral("Accueil"));
     show(2);
     EXPECT_EQ(summary->text(), QStringLiteral("Sommaire"));
-    Button sample({}, {Button::Kind::Toolbar, u"summary"_qs, Button::IconPlace::Top},
+    Button sample({}, {Button::Kind::Toolbar, QStringLiteral("summary"), Button::IconPlace::Top},
                   summary->parentWidget());
     sample.resize(summary->size());
     const QRect picture(8, 2, 48, 34);
@@ -198,13 +209,13 @@ TEST_F(Window, SummaryButtonFollowsThePage) {
     EXPECT_EQ(shown(), QStringLiteral("28"));
 }
 
-TEST_F(Window, SearchShowsThePageChosen) {
+TEST_F(Window, searchShowsThePageChosen) {
     bench.neighbours.search.window.whileOpen = [this] { bench.state.SearchChosenPage = 30; };
     click("command4");
     EXPECT_EQ(shown(), QStringLiteral("30"));
 }
 
-TEST_F(Window, ReturnToTheTestIsOneButton) {
+TEST_F(Window, returnToTheTestIsOneButton) {
     bench.state.ExerciseReturnPage = 12;
     bench.actions.run(QStringLiteral("EXO001"));
     for (const char* name : {"btexo", "Label16"}) {
@@ -219,13 +230,13 @@ TEST_F(Window, ReturnToTheTestIsOneButton) {
     EXPECT_EQ(shown(), QStringLiteral("12"));
 }
 
-TEST_F(Window, UpdateWaitsUntilNoModuleRuns) {
+TEST_F(Window, updateWaitsUntilNoModuleRuns) {
     bench.neighbours.updates.possible = false;
     click("Command8");
     EXPECT_FALSE(bench.neighbours.log.contains(QStringLiteral("installation")));
 }
 
-TEST_F(Window, PagesLeaveNothingBehind) {
+TEST_F(Window, pagesLeaveNothingBehind) {
     bench.cours.records[4] =
         page(5, QStringLiteral("##OBJILLUS\r\nIci¶\r\n##OBJTIT\r\nAutre¶\r\n##TITBARX\r\n"));
     auto* illustration = bench.control<QWidget>("PICTUREILLUS");
@@ -247,7 +258,7 @@ TEST_F(Window, PagesLeaveNothingBehind) {
     EXPECT_EQ(bench.window.windowTitle(), QStringLiteral("Orvalente - KAROPE"));
 }
 
-TEST_F(Window, LongTitlesStayWithinTheBand) {
+TEST_F(Window, longTitlesStayWithinTheBand) {
     for (const int words : {1, 5, 40}) {
         const QString title = QStringLiteral("La réfraction ").repeated(words).trimmed();
         bench.cours.records[4] = page(5, {}, {{QStringLiteral("titre"), title}});
@@ -265,7 +276,7 @@ TEST_F(Window, LongTitlesStayWithinTheBand) {
     }
 }
 
-TEST_F(Window, VideoFrameMakesTheViewShorterUntilTheNextPage) {
+TEST_F(Window, videoFrameMakesTheViewShorterUntilTheNextPage) {
     using Layout = viewer::Multim::VideoLayout;
     auto* view = bench.control<QWidget>("framekx");
     bench.window.setVideoLayout(Layout::Closed);
@@ -274,8 +285,10 @@ TEST_F(Window, VideoFrameMakesTheViewShorterUntilTheNextPage) {
     for (const int index : {6, 4, 0, 2, 3, 1, 5})
         click(qPrintable(QStringLiteral("Image4_%1").arg(index)));
     EXPECT_THAT(bench.neighbours.log,
-                ElementsAre(u"video 6"_qs, u"video 4"_qs, u"video 0"_qs, u"video 2"_qs,
-                            u"video 3"_qs, u"video 1"_qs, u"video 5"_qs));
+                ElementsAre(QStringLiteral("video 6"), QStringLiteral("video 4"),
+                            QStringLiteral("video 0"), QStringLiteral("video 2"),
+                            QStringLiteral("video 3"), QStringLiteral("video 1"),
+                            QStringLiteral("video 5")));
     const auto placeOfPlay = [this] {
         auto* play = bench.control("Image4_0");
         return QRect(play->mapTo(&bench.window, QPoint()), play->size());
@@ -290,7 +303,7 @@ TEST_F(Window, VideoFrameMakesTheViewShorterUntilTheNextPage) {
     EXPECT_FALSE(bench.control<QWidget>("projo")->isVisible());
 }
 
-TEST_F(Window, ReportsShowUntilTheNextPage) {
+TEST_F(Window, reportsShowUntilTheNextPage) {
     auto* words = bench.control<QLabel>("status");
     bench.window.report(QStringLiteral("Le module est introuvable."));
     EXPECT_EQ(words->text(), QStringLiteral("Le module est introuvable."));
@@ -303,7 +316,7 @@ TEST_F(Window, ReportsShowUntilTheNextPage) {
     EXPECT_EQ(words->text(), QString());
 }
 
-TEST_F(Window, MovingThePointerResetsTheLinks) {
+TEST_F(Window, movingThePointerResetsTheLinks) {
     for (const char* name : {"framekx", "Framebase", "titre", "PictureTEXTE", "PICTUREILLUS"}) {
         bench.neighbours.links.highlightResets = 0;
         QTest::mouseMove(bench.control<QWidget>(name), {5, 5});
@@ -313,7 +326,7 @@ TEST_F(Window, MovingThePointerResetsTheLinks) {
     }
 }
 
-TEST_F(Window, LeavingAsksFirst) {
+TEST_F(Window, leavingAsksFirst) {
     bench.prompter.answers = {Answer::Cancel};
     click("Command14");
     ASSERT_EQ(bench.prompter.messages.size(), 1U);
@@ -331,7 +344,7 @@ TEST_F(Window, LeavingAsksFirst) {
                 ElementsAre(QStringLiteral("close video"), QStringLiteral("exit screen")));
 }
 
-TEST_F(Window, WorkDoesNotStartAnewAndClosingWaitsForItsEnd) {
+TEST_F(Window, workDoesNotStartAnewAndClosingWaitsForItsEnd) {
     bench.prompter.answers = {Answer::Ok};
     bench.neighbours.search.window.whileOpen = [this] {
         bench.neighbours.log.clear();
@@ -346,7 +359,7 @@ TEST_F(Window, WorkDoesNotStartAnewAndClosingWaitsForItsEnd) {
     EXPECT_EQ(shown(), QStringLiteral("1"));
 }
 
-TEST_F(Window, ScreenReadersFindNamesAndThePagesText) {
+TEST_F(Window, screenReadersFindNamesAndThePagesText) {
     for (const QWidget* control : bench.window.findChildren<QAbstractButton*>()) {
         auto* reader = QAccessible::queryAccessibleInterface(const_cast<QWidget*>(control));
         const QString name = reader->text(QAccessible::Name);
@@ -370,7 +383,7 @@ TEST_F(Window, ScreenReadersFindNamesAndThePagesText) {
     EXPECT_EQ(bar->role(), QAccessible::ScrollBar);
 }
 
-TEST_F(Window, ThePageKeepsTheKeyboardOverAPageChange) {
+TEST_F(Window, thePageKeepsTheKeyboardOverAPageChange) {
     auto* text = bench.control<QWidget>("PictureTEXTE");
     text->setFocus(Qt::TabFocusReason);
     press(Qt::Key_H, Qt::AltModifier);
@@ -378,7 +391,7 @@ TEST_F(Window, ThePageKeepsTheKeyboardOverAPageChange) {
     EXPECT_TRUE(text->hasFocus());
 }
 
-TEST_F(Window, ShowsTheHourglassWhileItWorks) {
+TEST_F(Window, showsTheHourglassWhileItWorks) {
     QList<Qt::CursorShape> shapes;
     const auto note = [&] { shapes.append(bench.window.cursor().shape()); };
     bench.neighbours.links.whileResetting = note;

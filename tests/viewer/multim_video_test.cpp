@@ -14,9 +14,11 @@ using testing::ElementsAre;
 class VideoWindow : public test_support::Window {
 protected:
     VideoWindow() {
-        bench.cours.records[4] = page(5, u"##VIDEOfilm.avi\r\n"_qs + test_support::lines(30));
-        bench.cours.records[5] = page(6, u"##VIDEOMENU01\r\nTexte¶\r\n"_qs);
-        bench.cours.records[6] = page(7, {}, {{u"titre"_qs, u"Diffusion d'un gaz"_qs}});
+        bench.cours.records[4] =
+            page(5, QStringLiteral("##VIDEOfilm.avi\r\n") + test_support::lines(30));
+        bench.cours.records[5] = page(6, QStringLiteral("##VIDEOMENU01\r\nTexte¶\r\n"));
+        bench.cours.records[6] =
+            page(7, {}, {{QStringLiteral("titre"), QStringLiteral("Diffusion d'un gaz")}});
     }
 
     void show(int number) {
@@ -25,42 +27,42 @@ protected:
     }
     QWidget* frame() { return bench.control<QWidget>("videoFrame"); }
     QMenu* menu() {
-        for (QMenu* each : bench.window.findChildren<QMenu*>(u"MVideo"_qs))
+        for (QMenu* each : bench.window.findChildren<QMenu*>(QStringLiteral("MVideo")))
             if (each->isVisible())
                 return each;
         return nullptr;
     }
 };
 
-TEST_F(VideoWindow, KeysWorkOnTheFrameAndItsButtons) {
+TEST_F(VideoWindow, keysWorkOnTheFrameAndItsButtons) {
     show(5);
     click("Image4_0"); // leads the keyboard here
     ASSERT_TRUE(frame()->hasFocus());
     const int before = scrolled();
-    bench.window.setVideoStatus(u"Lecture en cours"_qs, true, false);
+    bench.window.setVideoStatus(QStringLiteral("Lecture en cours"), true, false);
     QTest::keyClick(frame(), Qt::Key_Space);
-    bench.window.setVideoStatus(u"En pause"_qs, false, false);
+    bench.window.setVideoStatus(QStringLiteral("En pause"), false, false);
     for (const int key : {Qt::Key_Space, Qt::Key_Right, Qt::Key_Left, Qt::Key_Home, Qt::Key_End})
         QTest::keyClick(frame(), Qt::Key(key));
     bench.control("Image4_3")->setFocus(Qt::TabFocusReason);
     for (const int key : {Qt::Key_Down, Qt::Key_Up, Qt::Key_Space})
         QTest::keyClick(bench.control("Image4_3"), Qt::Key(key));
-    QStringList pressed = bench.neighbours.log.filter(u"video "_qs);
-    EXPECT_EQ(pressed.replaceInStrings(u"video "_qs, QString()).join(u' '),
-              u"0 2 0 1 4 6 5 1 4 3"_qs);
+    QStringList pressed = bench.neighbours.log.filter(QStringLiteral("video "));
+    EXPECT_EQ(pressed.replaceInStrings(QStringLiteral("video "), QString()).join(u' '),
+              QStringLiteral("0 2 0 1 4 6 5 1 4 3"));
     EXPECT_EQ(scrolled(), before);
     QTest::keyClick(frame(), Qt::Key_Left, Qt::AltModifier);
-    EXPECT_EQ(shown(), u"1"_qs);
+    EXPECT_EQ(shown(), QStringLiteral("1"));
     EXPECT_TRUE(bench.control<QWidget>("PictureTEXTE")->hasFocus())
         << "the video goes with its page, the keyboard stays with the next one";
 }
 
-TEST_F(VideoWindow, PointerPlaysAndSeeks) {
+TEST_F(VideoWindow, pointerPlaysAndSeeks) {
     show(5);
     bench.window.setPictureVisible(true);
     bench.window.showPicture(QImage(320, 240, QImage::Format_RGB32));
     click("projo");
-    bench.window.setVideoStatus(u"Lecture en cours"_qs, true, false);
+    bench.window.setVideoStatus(QStringLiteral("Lecture en cours"), true, false);
     click("projo");
     const QPoint track(399, frame()->height() - 12);                        // its left end
     QTest::mousePress(frame(), Qt::LeftButton, {}, track + QPoint(217, 8)); // a little below
@@ -68,22 +70,23 @@ TEST_F(VideoWindow, PointerPlaysAndSeeks) {
     QTest::mouseRelease(frame(), Qt::LeftButton, {}, track - QPoint(50, 30));
     QTest::mouseMove(frame(), track + QPoint(50, 0));
     QTest::mouseClick(frame(), Qt::LeftButton, {}, track - QPoint(20, 0)); // beside it
-    EXPECT_EQ(bench.neighbours.log.filter(u"e"_qs).join(u' '), u"video 0 video 2 seek 1 seek 0"_qs);
+    EXPECT_EQ(bench.neighbours.log.filter(QStringLiteral("e")).join(u' '),
+              QStringLiteral("video 0 video 2 seek 1 seek 0"));
 }
 
-TEST_F(VideoWindow, BarIsFullOnTheLastFrame) {
+TEST_F(VideoWindow, barIsFullOnTheLastFrame) {
     show(5);
     bench.window.setMarkerWidth(3000);
     const auto lastColumn = [&] {
         return frame()->grab().toImage().pixelColor(399 + 214, frame()->height() - 12);
     };
-    bench.window.setVideoStatus(u"En pause"_qs, false, false);
+    bench.window.setVideoStatus(QStringLiteral("En pause"), false, false);
     const QColor empty = lastColumn();
-    bench.window.setVideoStatus(u"À la fin"_qs, false, true);
+    bench.window.setVideoStatus(QStringLiteral("À la fin"), false, true);
     EXPECT_NE(lastColumn(), empty);
 }
 
-TEST_F(VideoWindow, PictureComesAndGoesUnderTheSamePage) {
+TEST_F(VideoWindow, pictureComesAndGoesUnderTheSamePage) {
     show(5);
     auto* bar = bench.control<QScrollBar>("VScroll1");
     QTest::qWait(0);
@@ -104,7 +107,7 @@ TEST_F(VideoWindow, PictureComesAndGoesUnderTheSamePage) {
     EXPECT_FALSE(frame()->isVisible());
 }
 
-TEST_F(VideoWindow, MenuOfThePictureLeadsToTheChosenPage) {
+TEST_F(VideoWindow, menuOfThePictureLeadsToTheChosenPage) {
     show(5);
     click("projo");
     EXPECT_EQ(menu(), nullptr);
@@ -121,10 +124,10 @@ TEST_F(VideoWindow, MenuOfThePictureLeadsToTheChosenPage) {
     EXPECT_TRUE(bench.neighbours.log.isEmpty());
     // A page that does not exist: only the picture goes.
     menu()->actions()[0]->trigger();
-    EXPECT_EQ(shown(), u"6"_qs);
-    EXPECT_THAT(bench.neighbours.log, ElementsAre(u"close video"_qs));
+    EXPECT_EQ(shown(), QStringLiteral("6"));
+    EXPECT_THAT(bench.neighbours.log, ElementsAre(QStringLiteral("close video")));
     menu()->actions()[1]->trigger();
-    EXPECT_EQ(shown(), u"7"_qs);
+    EXPECT_EQ(shown(), QStringLiteral("7"));
 }
 
 } // namespace

@@ -25,11 +25,11 @@ std::vector<std::int16_t> byNumber(const QList<FieldValue>& numbers) {
     return *state.PageByNumber;
 }
 
-TEST(PageIndex, HoldsPositionsWithOneSlotMoreThanTheHighestNumber) {
+TEST(PageIndex, holdsPositionsWithOneSlotMoreThanTheHighestNumber) {
     EXPECT_THAT(byNumber({3.0, 1.0}), ElementsAre(0, 1, 0, 0, 0));
 }
 
-TEST(PageIndex, TheTableByReadingOrderEndsWithTheHighestIndex) {
+TEST(PageIndex, theTableByReadingOrderEndsWithTheHighestIndex) {
     shell::SharedState state;
     coursedata::buildPageIndex(
         MemoryRecordset({{{QStringLiteral("Numeropage"), 1.0}, {QStringLiteral("Index"), 2.0}},
@@ -44,21 +44,21 @@ TEST(PageIndex, TheTableByReadingOrderEndsWithTheHighestIndex) {
     }
 }
 
-TEST(PageIndex, PassesOverNumbersThatNoCodeCanReach) {
+TEST(PageIndex, passesOverNumbersThatNoCodeCanReach) {
     EXPECT_THAT(byNumber({-1.0, FieldValue{}, 1.0, 4e9, coursedata::kMaxIndexedNumber + 1.0}),
                 ElementsAre(0, 2, 0));
     EXPECT_THAT(byNumber({}), ElementsAre());
 }
 
-TEST(PageIndex, ReadsNumbersAsTheBoundControlsShowThem) {
+TEST(PageIndex, readsNumbersAsTheBoundControlsShowThem) {
     EXPECT_THAT(byNumber({QStringLiteral("2 pages"), 1.5, 0.5}), ElementsAre(2, 0, 1, 0));
 }
 
-TEST(PageIndex, LastOfEqualNumbersCounts) {
+TEST(PageIndex, lastOfEqualNumbersCounts) {
     EXPECT_THAT(byNumber({1.0, 1.0}), ElementsAre(0, 1, 0));
 }
 
-TEST(PageIndex, KeepsPositionsWithin16Bits) {
+TEST(PageIndex, keepsPositionsWithin16Bits) {
     QList<FieldValue> numbers(40'000);
     std::iota(numbers.begin(), numbers.end(), 0.0);
     const auto table = byNumber(numbers);
@@ -66,7 +66,7 @@ TEST(PageIndex, KeepsPositionsWithin16Bits) {
     EXPECT_EQ(table[32768], 0);
 }
 
-TEST(PageIndex, LetsMessagesRunOverALargeTable) {
+TEST(PageIndex, letsMessagesRunOverALargeTable) {
     shell::SharedState state;
     int looks = 0;
     coursedata::buildPageIndex(numbered(QList<FieldValue>(25'000, 1.0)), state, [&] { ++looks; });

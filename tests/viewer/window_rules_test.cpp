@@ -10,7 +10,7 @@ namespace {
 using viewer::KeyCommand;
 using viewer::WindowSizeRule;
 
-TEST(KeyMap, KnowsTheKeysOfThePage) {
+TEST(KeyMap, knowsTheKeysOfThePage) {
     struct Row {
         int key;
         Qt::KeyboardModifiers modifiers;
@@ -32,7 +32,7 @@ TEST(KeyMap, KnowsTheKeysOfThePage) {
         EXPECT_EQ(viewer::keyCommand(row.key, row.modifiers), row.command) << row.key;
 }
 
-TEST(ScrollGeometry, RunsFromZeroDownToWhatThePageIsTaller) {
+TEST(ScrollGeometry, runsFromZeroDownToWhatThePageIsTaller) {
     const look::ScrollGeometry tall{6000, 15000};
     EXPECT_TRUE(tall.isNeeded());
     EXPECT_EQ(tall.maximum(), -9000);
@@ -60,7 +60,7 @@ protected:
     WindowSizeRule rule{state, screen};
 };
 
-TEST_F(WindowSizes, FirstResizeOnlyArmsTheRule) {
+TEST_F(WindowSizes, firstResizeOnlyArmsTheRule) {
     EXPECT_EQ(rule.resized(kMaximised), kNothing);
     EXPECT_EQ(state.DisplayWarningMode, 2);
     EXPECT_EQ(rule.resized(kMaximised), kOutOfMaximised);
@@ -68,11 +68,11 @@ TEST_F(WindowSizes, FirstResizeOnlyArmsTheRule) {
     EXPECT_EQ(rule.resized(kRight), kNothing);
 }
 
-TEST_F(WindowSizes, FirstResizeGivesANormalWindowItsSizeAllTheSame) {
+TEST_F(WindowSizes, firstResizeGivesANormalWindowItsSizeAllTheSame) {
     EXPECT_EQ(rule.resized(kOther), kSizeOnly);
 }
 
-TEST_F(WindowSizes, NarrowScreenLetsTheWindowBeMaximised) {
+TEST_F(WindowSizes, narrowScreenLetsTheWindowBeMaximised) {
     screen.width = 810 * 15;
     for (int event = 0; event < 3; ++event) {
         EXPECT_EQ(rule.resized(kMaximised), kNothing);
@@ -85,7 +85,7 @@ TEST_F(WindowSizes, NarrowScreenLetsTheWindowBeMaximised) {
     EXPECT_EQ(state.DisplayWarningMode, 2);
 }
 
-TEST_F(WindowSizes, GivesUpAgainstAManagerThatRefuses) {
+TEST_F(WindowSizes, givesUpAgainstAManagerThatRefuses) {
     int orders = 0;
     for (int event = 0; event < 100; ++event)
         orders += rule.resized(kOther) != kNothing;
@@ -96,7 +96,7 @@ TEST_F(WindowSizes, GivesUpAgainstAManagerThatRefuses) {
     EXPECT_EQ(rule.resized(kOther), kBack);
 }
 
-TEST_F(WindowSizes, KeepsOnWhileTheManagerFollows) {
+TEST_F(WindowSizes, keepsOnWhileTheManagerFollows) {
     rule.resized(kRight);
     for (int event = 0; event < 100; ++event) {
         EXPECT_EQ(rule.resized(kOther), kBack);

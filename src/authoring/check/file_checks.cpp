@@ -79,7 +79,7 @@ bool hasTitle(const QString& path) {
 }
 
 bool isDrawing(const QString& path) {
-    return path.endsWith(QLatin1String(".svg"), Qt::CaseInsensitive);
+    return path.endsWith(QStringLiteral(".svg"), Qt::CaseInsensitive);
 }
 
 } // namespace

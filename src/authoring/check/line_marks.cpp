@@ -14,7 +14,7 @@ QString withLineMarks(const QString& source) {
     static const QString kMarkedEnd =
         QStringLiteral("\r\n") + kMark.toString() + QStringLiteral("\r\n");
     QString marked = source;
-    marked.replace(QLatin1String("\r\n"), kMarkedEnd);
+    marked.replace(QStringLiteral("\r\n"), kMarkedEnd);
     return marked;
 }
 

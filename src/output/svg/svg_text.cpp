@@ -50,7 +50,7 @@ QString pixels(double twips) {
 }
 
 QString colour(QRgb ink) {
-    return QStringLiteral("#%1").arg(ink & 0xffffff, 6, 16, QLatin1Char('0'));
+    return QStringLiteral("#%1").arg(ink & 0xffffff, 6, 16, QChar(u'0'));
 }
 
 QString shownText(const QString& face, const QString& text) {

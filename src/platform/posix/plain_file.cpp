@@ -21,9 +21,10 @@ bool mayBeUsed(int descriptor, PlainAccess access) {
 } // namespace
 
 bool openPlainFile(QFile& file, PlainAccess access) {
-    const bool writes = access == PlainAccess::ReadWrite;
+    const bool writes = access != PlainAccess::Read;
+    const int made = access == PlainAccess::ReadWrite ? O_CREAT : 0;
     const int descriptor = open(QFile::encodeName(file.fileName()).constData(),
-                                kCarefully | (writes ? O_RDWR | O_CREAT : O_RDONLY), 0600);
+                                kCarefully | (writes ? O_RDWR | made : O_RDONLY), 0600);
     if (descriptor < 0)
         return false;
     const auto mode = QIODevice::Unbuffered | (writes ? QIODevice::ReadWrite : QIODevice::ReadOnly);

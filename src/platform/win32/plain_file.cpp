@@ -23,13 +23,14 @@ bool mayBeUsed(HANDLE handle, PlainAccess access) {
 } // namespace
 
 bool openPlainFile(QFile& file, PlainAccess access) {
-    const bool writes = access == PlainAccess::ReadWrite;
+    const bool writes = access != PlainAccess::Read;
     const std::wstring path = QDir::toNativeSeparators(file.fileName()).toStdWString();
     // The link itself is opened, not what it leads to. No started program inherits the handle.
     const HANDLE handle =
         CreateFileW(path.c_str(), writes ? GENERIC_READ | GENERIC_WRITE : GENERIC_READ,
                     FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                    writes ? OPEN_ALWAYS : OPEN_EXISTING, FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
+                    access == PlainAccess::ReadWrite ? OPEN_ALWAYS : OPEN_EXISTING,
+                    FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
     if (handle == INVALID_HANDLE_VALUE)
         return false;
     const int descriptor = mayBeUsed(handle, access)

@@ -1,0 +1,14 @@
+#include "common/module_application.h"
+
+#include "look/dress.h"
+
+#include <QLocale>
+
+namespace common {
+
+ModuleApplication::ModuleApplication(int& argc, char** argv) : QApplication(argc, argv) {
+    QLocale::setDefault(QLocale(QLocale::French, QLocale::France));
+    look::dressApplication();
+}
+
+} // namespace common
