@@ -88,6 +88,9 @@ public:
         positional(build_, "SRC", typed_.from, "Dossier des sources");
         output(build_, "Dossier d’installation à écrire");
 
+        convert_ = add("convert", "Montre en quoi se compile une page ou une question en Markdown");
+        positional(convert_, "PAGE.md", typed_.from, "Le fichier, avec ses champs");
+
         extract_ = add("extract", "Le chemin inverse : les sources d’un cours installé");
         positional(extract_, "DOSSIER", typed_.from, "Dossier d’installation");
         output(extract_, "Dossier des sources à écrire, neuf ou vide");
@@ -240,6 +243,8 @@ private:
     CoursCall call() const {
         if (build_->parsed())
             return buildCall();
+        if (convert_->parsed())
+            return convertCall();
         if (extract_->parsed())
             return extractCall();
         if (dump_->parsed())
@@ -271,6 +276,12 @@ private:
             return WrongCall{inQuotes(typed_.output) +
                              " fait partie des sources : choisir un autre dossier"};
         return call;
+    }
+
+    CoursCall convertCall() const {
+        if (const auto wrong = notAFile(typed_.from, "la page en Markdown"))
+            return *wrong;
+        return ConvertCall{pathFrom(typed_.from)};
     }
 
     CoursCall extractCall() const {
@@ -394,6 +405,7 @@ private:
     CLI::App app_;
     Typed typed_;
     CLI::App* build_ = nullptr;
+    CLI::App* convert_ = nullptr;
     CLI::App* extract_ = nullptr;
     CLI::App* dump_ = nullptr;
     CLI::App* trace_ = nullptr;

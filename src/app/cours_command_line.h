@@ -19,6 +19,10 @@ struct BuildCall {
     std::filesystem::path source;
     std::filesystem::path output;
 };
+/// What a page or question in Markdown compiles to.
+struct ConvertCall {
+    std::filesystem::path file;
+};
 struct ExtractCall {
     std::filesystem::path course;
     std::filesystem::path output;
@@ -46,8 +50,9 @@ struct WrongCall {
     int status = static_cast<int>(coursetool::ExitCode::WrongCall);
 };
 
-using CoursCall = std::variant<BuildCall, ExtractCall, DumpCall, TraceCall, RenderCall, SymbolsCall,
-                               PrintCall, SearchCall, CalcCall, AnswerCall, ShowText, WrongCall>;
+using CoursCall =
+    std::variant<BuildCall, ConvertCall, ExtractCall, DumpCall, TraceCall, RenderCall, SymbolsCall,
+                 PrintCall, SearchCall, CalcCall, AnswerCall, ShowText, WrongCall>;
 
 /// Reads the command line. Directories and files that must be there are; an output directory of
 /// `extract` is empty or not there yet.

@@ -1,5 +1,6 @@
 #include "app/cours_command_line.h"
 #include "coursetool/build.h"
+#include "coursetool/convert.h"
 #include "coursetool/dump.h"
 #include "coursetool/exit_code.h"
 #include "coursetool/extract.h"
@@ -10,6 +11,7 @@
 
 #include <cstdio>
 #include <iostream>
+#include <memory>
 
 namespace {
 
@@ -27,9 +29,15 @@ struct Perform {
     char** argv;
     Report report;
     OutputBuffer out{stdout};
+    std::unique_ptr<authoring::Compiler> markdown = nullptr;
 
     int operator()(const app::BuildCall& call) {
-        coursetool::build(call.source, call.output, report);
+        coursetool::build(call.source, call.output, report, [this] { return compiler(); });
+        return verdict();
+    }
+    int operator()(const app::ConvertCall& call) {
+        if (const auto* const with = compiler())
+            coursetool::convert(call.file, *with, out, report);
         return verdict();
     }
     int operator()(const app::ExtractCall& call) {
@@ -95,6 +103,15 @@ struct Perform {
             report.fault({ORVALENTE_DRAWING_MODULE},
                          "cette partie du programme manque, à réinstaller : " + found.reason);
         return reinterpret_cast<Function>(found.address);
+    }
+
+    /// The compiler of Markdown, made when it is first needed; null, and a fault, without it.
+    const authoring::Compiler* compiler() {
+        if (!markdown)
+            if (const auto make =
+                    drawing<coursetool::MarkdownFunction>(coursetool::kMarkdownSymbol))
+                markdown.reset(make(argc, argv));
+        return markdown.get();
     }
 
     /// `result`, unless it could not be written.
