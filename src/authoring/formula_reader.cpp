@@ -10,6 +10,9 @@ using Kind = FormulaNode::Kind;
 
 constexpr int kMaxFormulaDepth = 12;
 
+/// Far more than a line holds; it also bounds how deep commands may stand in each other.
+constexpr qsizetype kMaxFormulaLength = 1000;
+
 class FormulaReader {
 public:
     explicit FormulaReader(FormulaText& source) : source_(source), text_(source.text()) {}
@@ -139,10 +142,11 @@ private:
             scripts.kind = Kind::Scripts;
             scripts.index = index;
             scripts.children.resize(3);
-            if (!group.children.empty()) {
-                const bool attaches = group.children.back().kind != Kind::Scripts;
-                if (!attaches)
-                    source_.fault(index, QStringLiteral("deux indices ou deux exposants de suite"));
+            const bool twice =
+                !group.children.empty() && group.children.back().kind == Kind::Scripts;
+            if (twice)
+                source_.fault(index, QStringLiteral("deux indices ou deux exposants de suite"));
+            if (!group.children.empty() && !twice) {
                 scripts.role = group.children.back().role;
                 scripts.children[0] = std::move(group.children.back());
                 group.children.pop_back();
@@ -324,6 +328,10 @@ private:
 } // namespace
 
 FormulaNode readFormula(FormulaText& source) {
+    if (source.text().size() > kMaxFormulaLength) {
+        source.fault(0, QStringLiteral("cette formule est trop longue : la partager"));
+        return {};
+    }
     return FormulaReader(source).read();
 }
 

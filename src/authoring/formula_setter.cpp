@@ -234,6 +234,7 @@ private:
 
     /// Behind a tall bracket scripts stand half a line further out.
     void tallExponent(Box& box, const QString& lower, const std::vector<Slanted>& upper) {
+        box.rise = std::max(box.rise, halfLine() + (upper.empty() ? 0 : kMarkRise));
         if (!upper.empty()) {
             directive(box, QStringLiteral("DECAHADEF"), 0);
             for (const Slanted& run : upper)
@@ -342,7 +343,7 @@ private:
         directive(box, QStringLiteral("SQD"), 1.5 * ruler_.width(slant(false), U'X'));
         box.append(content);
         directive(box, QStringLiteral("SQF%1").arg(factor, 0, 'g', 3), 0);
-        const int over = static_cast<int>(std::ceil((factor - 1) * line / 2)) + 1;
+        const int over = static_cast<int>(std::ceil((factor - 1) * line / 2)) + 2;
         box.rise = std::max(box.rise, over);
         box.drop = std::max(box.drop, over - 1);
     }

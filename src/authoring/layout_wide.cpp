@@ -21,6 +21,7 @@ constexpr int kFormulaPad = 9;
 constexpr int kFormulaSlack = 3; // what the line spacing leaves anyway
 constexpr int kFormulaSides = 22;
 constexpr int kBelowFormula = 4;
+constexpr int kAroundFormula = 2;
 
 constexpr int kAbovePicture = 6;
 constexpr int kCaptionPoints = 10;
@@ -76,7 +77,7 @@ void Layout::displayFormula(const Inline& formula, bool framed) {
     const int width = pixels(line.width);
     const int pad =
         kFormulaPad + std::max({line.rise - kFormulaSlack, line.drop - kFormulaSlack, 0});
-    writer_.movePenY(framed ? kAbovePicture : std::max(2, line.rise));
+    writer_.movePenY(framed ? kAbovePicture : kAroundFormula + line.rise);
     if (framed) {
         Style ink = style_;
         ink.ink = kTitleInk;
@@ -91,8 +92,7 @@ void Layout::displayFormula(const Inline& formula, bool framed) {
     for (const Piece& piece : line.pieces)
         writer_.piece(piece);
     writer_.style(style_);
-    writer_.movePenY(framed ? kFormulaLine + pad + kBelowFormula
-                            : kFormulaLine + std::max(2, line.drop));
+    writer_.movePenY(framed ? kFormulaLine + pad + kBelowFormula : kFormulaLine + line.drop);
     writer_.penX(column_.penLeft);
 }
 

@@ -32,6 +32,8 @@ Fault Positions::fault(std::size_t offset, std::string sentence) const {
 }
 
 void Faults::add(std::size_t offset, std::string sentence) {
+    if (faults_.size() >= kMostFaults)
+        return;
     Fault fault = positions_.fault(offset, std::move(sentence));
     const bool known = std::any_of(faults_.begin(), faults_.end(), [&](const Fault& other) {
         return other.line == fault.line && other.column == fault.column &&

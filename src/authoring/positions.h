@@ -26,6 +26,9 @@ private:
     std::vector<std::size_t> starts_;
 };
 
+/// Faults told of one source: whoever has mended these sees the rest.
+inline constexpr std::size_t kMostFaults = 100;
+
 /// Collects what is wrong with a source, each fault once.
 class Faults {
 public:
