@@ -137,8 +137,10 @@ private:
             scriptsOf(all, index).children[1] = plain(number);
             return;
         }
-        if ((peek() == u'/' || peek() == u',') && peek(1).isDigit())
-            number += text_[next_++] + takeDigits();
+        if ((peek() == u'/' || peek() == u',') && peek(1).isDigit()) {
+            number += text_[next_++];
+            number += takeDigits();
+        }
         sign(all, number);
         while (!atEnd() && peek().isSpace())
             ++next_;

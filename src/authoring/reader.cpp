@@ -4,6 +4,7 @@
 
 #include <md4c.h>
 
+#include <algorithm>
 #include <functional>
 #include <optional>
 
@@ -47,7 +48,8 @@ std::optional<QString> entityText(const QString& entity) {
 
 class Reader {
 public:
-    Reader(std::string_view source, Faults& faults) : source_(source), faults_(faults) {}
+    Reader(std::string_view source, Faults& faults)
+        : source_(source), faults_(faults), read_(source.size(), false) {}
 
     Block read() {
         open_.push_back({});
@@ -73,6 +75,7 @@ public:
                 faults_.add(last_, std::string("cette page ne peut pas être lue : la simplifier"));
             return {};
         }
+        nameUnread();
         return std::move(open_.front());
     }
 
@@ -118,6 +121,7 @@ private:
         case MD_BLOCK_CODE:
             block.kind = Kind::Code;
             block.info = fromAttribute(static_cast<MD_BLOCK_CODE_DETAIL*>(detail)->lang);
+            mark(static_cast<MD_BLOCK_CODE_DETAIL*>(detail)->lang);
             break;
         case MD_BLOCK_TH:
         case MD_BLOCK_TD:
@@ -136,12 +140,13 @@ private:
         }
     }
 
-    static void describeItem(Block& block, const MD_BLOCK_LI_DETAIL& item) {
+    void describeItem(Block& block, const MD_BLOCK_LI_DETAIL& item) {
         block.kind = Block::Kind::Item;
         if (!item.is_task)
             return;
         block.task = item.task_mark == ' ' ? Block::Task::Open : Block::Task::Ticked;
         block.at = item.task_mark_offset;
+        read_[item.task_mark_offset] = true;
     }
 
     static Alignment alignmentOf(MD_ALIGN align) {
@@ -196,6 +201,8 @@ private:
         span.kind = kind;
         span.target = fromAttribute(target);
         span.title = fromAttribute(title);
+        mark(target);
+        mark(title);
         const std::size_t offset = offsetOf(target.text);
         if (kind == Inline::Kind::Picture && offset != kUnknown)
             seen(offset);
@@ -211,8 +218,10 @@ private:
     }
 
     int text(MD_TEXTTYPE type, const MD_CHAR* text, MD_SIZE size) {
-        if (const std::size_t offset = offsetOf(text); offset != kUnknown)
+        if (const std::size_t offset = offsetOf(text); offset != kUnknown) {
             seen(offset);
+            mark(offset, size);
+        }
         if (type == MD_TEXT_HTML || open_.back().kind == Block::Kind::Code)
             return rawText(type, text, size);
         switch (type) {
@@ -319,6 +328,44 @@ private:
         return kStop;
     }
 
+    void mark(std::size_t offset, std::size_t size) {
+        const std::size_t end = std::min(offset + size, source_.size());
+        std::fill(read_.begin() + static_cast<std::ptrdiff_t>(offset),
+                  read_.begin() + static_cast<std::ptrdiff_t>(end), true);
+    }
+
+    /// One with escapes in it was made anew by md4c; all of its line counts as read then.
+    void mark(const MD_ATTRIBUTE& attribute) {
+        const std::size_t offset = offsetOf(attribute.text);
+        if (offset != kUnknown)
+            return mark(offset, attribute.size);
+        if (attribute.size > 0) {
+            const std::size_t end = std::min(source_.find('\n', last_), source_.size());
+            mark(last_, end - last_);
+        }
+    }
+
+    /// Cells beyond the last column, definitions of links and words after the opening of a listing
+    /// are passed over by Markdown's own rules. Nobody would miss them before the page is read.
+    void nameUnread() {
+        const auto isLetter = [](char c) {
+            return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c & 0x80) != 0;
+        };
+        for (std::size_t i = 0; i < source_.size(); ++i) {
+            if (read_[i] || !isLetter(source_[i]))
+                continue;
+            std::size_t end = i;
+            while (end < source_.size() && !read_[end] && isLetter(source_[end]))
+                ++end;
+            faults_.add(i, "« " + fromUtf8(source_.data() + i, end - i) +
+                               " » ne serait nulle part sur la page : une cellule de trop, une "
+                               "définition de lien, des mots après ``` ?");
+            i = source_.find('\n', i);
+            if (i == std::string_view::npos)
+                return;
+        }
+    }
+
     std::size_t offsetOf(const MD_CHAR* text) const {
         const std::less<const MD_CHAR*> before;
         const MD_CHAR* const first = source_.data();
@@ -343,6 +390,7 @@ private:
     std::vector<Block> open_;
     std::vector<Inline> spans_;
     std::size_t last_ = 0;
+    std::vector<bool> read_; ///< by byte: whether it came to us
     bool implicit_ = false;
     bool inHead_ = false;
     bool lineEnded_ = true;

@@ -95,12 +95,13 @@ TEST(Layout, measuresAsTheRendererDraws) {
     // A line that fills its column to the pixel stays one line, one more letter breaks it.
     for (const char* tail : {"", "$x^2$", "**gras**", "$\\frac{ab}{cd}$", "$\\vec{F}$",
                              "$\\ce{SO4^2-}$", "$\\sqrt{2}$", "![](symbole:AT)"}) {
-        std::string text = std::string(tail) + " ";
-        while (compiled(text + "m\n").find("m¶") != std::string::npos &&
-               Drawn(compiled(text + "m\n")).page.columnHeight() ==
-                   Drawn(compiled(std::string(tail) + " m\n")).page.columnHeight())
+        const auto fits = [](const std::string& line) {
+            const std::string source = compiled(line + "\n");
+            return faultsOf(line + "\n").empty() && source.find("\u00B6") == source.rfind("\u00B6");
+        };
+        std::string text = std::string(tail) + " m";
+        while (fits(text + "m"))
             text += "m";
-        text.pop_back();
         const double right = Drawn(compiled(text + "\n")).right(page::SurfaceId::PictureTexte);
         EXPECT_LE(right, 590) << tail;
         EXPECT_GT(right, 560) << tail;
@@ -138,9 +139,9 @@ TEST(Layout, writesWhatEachFormStandsFor) {
         const char* markdown;
         std::vector<const char*> expected;
     } rows[] = {
-        {"***mot***\n", {"##BOL1\n##C008\nmot\n"}},
+        {"***mot***\n", {"##BOL1\n##C008\nmot¶\n"}},
         {"*a* **b**\n", {"##ITA1\na\n##ITA0\n \n##BOL1\nb"}},
-        {"> **Attention !** Chaud.\n", {"##TAB000590 1\n", "Attention !", "##FINTAC05\n"}},
+        {"> **Attention !** Chaud.\n", {"##TAB000590 1\n", "Attention\u00A0!", "##FINTAC05\n"}},
         {"> Note.\n", {"##FINTAC02\n"}},
         {"[a](module:7/1) [b](exo:3) [c](commande:)\n", {"a#EXE071", "b#EXO003", "c#BDC000"}},
         {"[![](symbole:ME) Suite](page:2 \"Bulle\")\n",
@@ -154,7 +155,9 @@ TEST(Layout, writesWhatEachFormStandsFor) {
         {"| a |\n|---|\n| b |\n", {"##TAB000590 1\n", "##FINTAC04\n", "##FINTAB\n"}},
         {"1. un\n2. deux\n", {"##POX008\n1.\n##POX030\nun¶\n##POX008\n2.\n"}},
         {"---\n", {"##C010\n##LARGEUR590\n##RECT000\n##C000\n"}},
-        {"```python\nfor i in x:\n    y = 1\n```\n", {"for i in x:¶", "##POX036\ny = 1¶"}},
+        {"```python\nfor i in x:\n    y = 1\n```\n",
+         {"for\u00A0i\u00A0in\u00A0x:¶", "##POX036\ny\u00A0=\u00A0"
+                                         "1¶"}},
     };
     for (const auto& row : rows) {
         EXPECT_EQ(faultsOf(row.markdown), "") << row.markdown;
