@@ -234,6 +234,8 @@ private:
 
     /// Behind a tall bracket scripts stand half a line further out.
     void tallExponent(Box& box, const QString& lower, const std::vector<Slanted>& upper) {
+        if (lower.size() == 1 && upper.size() == 1 && upper.front().text.size() == 1)
+            return stacked(box, lower, upper.front().text, false); // the bounds of an integral
         box.rise = std::max(box.rise, halfLine() + (upper.empty() ? 0 : kMarkRise));
         if (!upper.empty()) {
             directive(box, QStringLiteral("DECAHADEF"), 0);

@@ -1,6 +1,8 @@
 #include "authoring/layout.h"
+#include "markup/directive_table.h"
 
-#include <utility>
+#include <algorithm>
+#include <span>
 
 // Quotes, listings, the author's own directives, comments and rules.
 
@@ -36,6 +38,16 @@ constexpr Name kNames[] = {
     {u"en marge", {QuoteKind::Margin, 0}},
     {u"bandeau", {QuoteKind::Band, 0}},
 };
+
+/// A misspelt directive draws nothing; so does a heading below a block that was never closed.
+bool isUnknownDirective(const QString& line) {
+    if (!line.startsWith(QLatin1String("##")))
+        return false;
+    const std::span<const markup::Directive> table = markup::directiveTable();
+    return std::none_of(table.begin(), table.end(), [&](const markup::Directive& directive) {
+        return directive.matches(QStringView(line).sliced(2));
+    });
+}
 
 /// The first words of a quote when they are bold; empty otherwise.
 QString boldStart(const Block& quote) {
@@ -131,6 +143,10 @@ void Layout::raw(const Block& block) {
     writer_.style(style_);
     for (const CodeLine& line : block.lines) {
         writer_.comesFrom(line.at);
+        if (isUnknownDirective(line.text))
+            texts_.faults.add(line.at, "« " + line.text +
+                                           " » n’est pas une directive ; un bloc finit "
+                                           "par une ligne ```");
         writer_.raw(line.text);
     }
     for (const char* line : {"##FONT00", "##BOL0", "##ITA0", "##UND0", "##C000", "##ALGA"})

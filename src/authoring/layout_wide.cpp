@@ -21,7 +21,7 @@ constexpr int kFormulaPad = 9;
 constexpr int kFormulaSlack = 3; // what the line spacing leaves anyway
 constexpr int kFormulaSides = 22;
 constexpr int kBelowFormula = 4;
-constexpr int kAroundFormula = 2;
+constexpr int kAroundFormula = 3;
 
 constexpr int kAbovePicture = 6;
 constexpr int kCaptionPoints = 10;
@@ -92,7 +92,8 @@ void Layout::displayFormula(const Inline& formula, bool framed) {
     for (const Piece& piece : line.pieces)
         writer_.piece(piece);
     writer_.style(style_);
-    writer_.movePenY(framed ? kFormulaLine + pad + kBelowFormula : kFormulaLine + line.drop);
+    writer_.movePenY(framed ? kFormulaLine + pad + kBelowFormula
+                            : kFormulaLine + kAroundFormula + line.drop);
     writer_.penX(column_.penLeft);
 }
 

@@ -40,6 +40,7 @@ TEST(Faults, nameThePlaceInTheMarkdown) {
         {"[$x$](page:1)\n", "ne peut pas être un lien"},
         {"[fer](réponse)\n", "que dans une question"},
         {"$$ $$\n", "vide"},
+        {"```directives\n##BOL1\n## Partie\n", "3:1 « ## Partie » n’est pas une directive"},
         {"| a |\n|---|\n| b | perdu |\n", "3:7 « perdu » ne serait nulle part"},
         {"[note]: perdu\n", "1:2 « note » ne serait nulle part"},
         {"```python perdu\nx\n```\n", "1:11 « perdu »"},

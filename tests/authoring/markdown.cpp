@@ -52,8 +52,8 @@ QString printed(const authoring::CompiledText& text) {
     for (QString line : QString::fromStdString(text.source).split(u'\n')) {
         if (line.startsWith(QLatin1String("##"))) {
             const auto match = spoken.match(line);
-            if (match.hasMatch())
-                shown += line.mid(match.capturedLength());
+            // The author's own directives may have words that are drawn nowhere.
+            shown += match.hasMatch() ? line.mid(match.capturedLength()) : line;
             continue;
         }
         shown += line.replace(QChar(0xB6), u' ').replace(QChar(0xA0), u' ');
