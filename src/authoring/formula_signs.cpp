@@ -152,7 +152,7 @@ Role roleOf(char32_t c) {
 
 /// Capitals of other alphabets stand upright: Δ is no quantity by itself.
 bool leans(char32_t c) {
-    const bool latin = (c >= U'a' && c <= U'z') || (c >= U'A' && c <= U'Z');
+    const bool latin = c <= U'\u024F' && c != U'µ' && QChar::isLetter(c);
     const bool greek = c >= U'α' && c <= U'ω' && c != U'π';
     return latin || greek;
 }

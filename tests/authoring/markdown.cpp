@@ -52,8 +52,13 @@ QString printed(const authoring::CompiledText& text) {
     for (QString line : QString::fromStdString(text.source).split(u'\n')) {
         if (line.startsWith(QLatin1String("##"))) {
             const auto match = spoken.match(line);
+            static const QRegularExpression style(QStringLiteral(
+                "^##(SI\\d\\d|ITA[01]|BOL[01]|C\\d{3}|FONT\\d\\d|PI[XY][-\\d]+|POX\\d+|K\\d+|SQD|"
+                "SQF[\\d.]+|NUMERATEUR|DENOMINATEUR|FINFRAC)$"));
             // The author's own directives may have words that are drawn nowhere.
-            shown += match.hasMatch() ? line.mid(match.capturedLength()) : line;
+            shown += match.hasMatch()               ? line.mid(match.capturedLength())
+                     : style.match(line).hasMatch() ? QString()
+                                                    : line;
             continue;
         }
         shown += line.replace(QChar(0xB6), u' ').replace(QChar(0xA0), u' ');
@@ -64,7 +69,7 @@ QString printed(const authoring::CompiledText& text) {
 QStringList wordsToPrint(const std::string& markdown) {
     QString source = QString::fromStdString(markdown).normalized(QString::NormalizationForm_C);
     for (const char* aside : {R"(\]\([^)]*\))", R"(```[^\n]*)", R"((?s)<!--.*?-->)",
-                              R"(\\[A-Za-z]+)", R"(&[a-zA-Z]+;)", "Bandeau", "En marge"})
+                              R"(\\[A-Za-z]+)", R"(&[a-zA-Z]+;)", "(?i)bandeau", R"((?i)en[\s>]+marge)"})
         source.replace(QRegularExpression(QString::fromUtf8(aside)), QStringLiteral(" "));
     QStringList words;
     static const QRegularExpression word(QStringLiteral("\\p{L}{4,}"));
