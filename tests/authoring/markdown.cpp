@@ -54,7 +54,7 @@ QString printed(const authoring::CompiledText& text) {
             const auto match = spoken.match(line);
             static const QRegularExpression style(QStringLiteral(
                 "^##(SI\\d\\d|ITA[01]|BOL[01]|C\\d{3}|FONT\\d\\d|PI[XY][-\\d]+|POX\\d+|K\\d+|SQD|"
-                "SQF[\\d.]+|NUMERATEUR|DENOMINATEUR|FINFRAC)$"));
+                "SQF[\\d.]+|DECA[A-Z0-9]+|NUMERATEUR|DENOMINATEUR|FINFRAC)$"));
             // The author's own directives may have words that are drawn nowhere.
             shown += match.hasMatch()               ? line.mid(match.capturedLength())
                      : style.match(line).hasMatch() ? QString()
@@ -68,8 +68,9 @@ QString printed(const authoring::CompiledText& text) {
 
 QStringList wordsToPrint(const std::string& markdown) {
     QString source = QString::fromStdString(markdown).normalized(QString::NormalizationForm_C);
-    for (const char* aside : {R"(\]\([^)]*\))", R"(```[^\n]*)", R"((?s)<!--.*?-->)",
-                              R"(\\[A-Za-z]+)", R"(&[a-zA-Z]+;)", "(?i)bandeau", R"((?i)en[\s>]+marge)"})
+    for (const char* aside :
+         {R"(\]\([^)]*\))", R"(```[^\n]*)", R"((?s)<!--.*?-->)", R"(\\[A-Za-z]+)", R"(&[a-zA-Z]+;)",
+          R"([_^]\S)", "(?i)bandeau", R"((?i)en[\s>]+marge)"})
         source.replace(QRegularExpression(QString::fromUtf8(aside)), QStringLiteral(" "));
     QStringList words;
     static const QRegularExpression word(QStringLiteral("\\p{L}{4,}"));
