@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <algorithm>
 #include <vector>
 
 namespace authoring {
@@ -31,6 +32,12 @@ struct FormulaNode {
     qsizetype index = 0; ///< of its first character in the formula
 
     bool empty() const { return kind == Kind::Group && children.empty(); }
+    /// Whether it is of a kind, or has something of it within.
+    bool holds(Kind sought) const {
+        return kind == sought ||
+               std::any_of(children.begin(), children.end(),
+                           [sought](const FormulaNode& child) { return child.holds(sought); });
+    }
 };
 
 /// The characters of a formula and where they come from.

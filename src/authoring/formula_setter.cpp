@@ -254,15 +254,9 @@ private:
         return static_cast<int>(std::ceil(ruler_.height(style_) / 2 / kTwipsPerPixel));
     }
 
-    static bool holds(const FormulaNode& node, Kind kind) {
-        return node.kind == kind ||
-               std::any_of(node.children.begin(), node.children.end(),
-                           [kind](const FormulaNode& child) { return holds(child, kind); });
-    }
-
     void fraction(Box& box, const FormulaNode& node) {
         for (const FormulaNode& part : node.children)
-            if (holds(part, Kind::Fraction) || holds(part, Kind::Tall))
+            if (part.holds(Kind::Fraction) || part.holds(Kind::Tall))
                 source_.fault(part.index,
                               QStringLiteral("une fraction dans une fraction ne se dessine pas : "
                                              "écrire l’une des deux avec « / »"));
@@ -334,7 +328,7 @@ private:
     }
 
     void root(Box& box, const FormulaNode& node) {
-        if (holds(node.children[0], Kind::Root))
+        if (node.children[0].holds(Kind::Root))
             source_.fault(node.index,
                           QStringLiteral("une racine dans une racine ne se dessine pas"));
         const Box content = inner(node.children[0]);
