@@ -172,7 +172,8 @@ private:
         complainAboutWords(symbol);
         const QString key =
             readKey(symbol.target, kSymbol, symbol.at, texts_.faults).value_or(QString());
-        const QString bubble = QString(element.title).replace(u'\n', u' ');
+        const Inline title{Inline::Kind::Text, element.at, element.title, {}, {}};
+        const QString bubble = captionOf({title}, texts_);
         Box box =
             symbolBox(bubble.isEmpty() ? QStringLiteral("##LIERI") + key + code
                                        : QStringLiteral("##LIERX") + key + bubble + u'#' + code,
@@ -196,11 +197,12 @@ private:
         if (target->kind != Target::Kind::Page || ++texts_.questionLinks > 1)
             return fault(element.at, u"une question, commentaire compris, a un lien au plus, vers "
                                      u"une page");
-        const QString caption = plainText(element.children);
+        const QString caption = captionOf(element.children, texts_);
         Style shown = style;
         shown.ink = kLinkInk;
         Box box;
-        box.add({shown, QStringLiteral("##EXOLI%1#%2").arg(caption).arg(target->number), true,
+        box.add({shown,
+                 QStringLiteral("##EXOLI%1#%2").arg(caption, QString::number(target->number)), true,
                  markup::AnswerFields::kIconWidth + markup::AnswerFields::kIconGap +
                      texts_.ruler.width(shown, caption)});
         box.rise = box.drop = kIconRoom;
@@ -260,6 +262,17 @@ private:
 InlineText flatten(const std::vector<Inline>& inlines, const Style& style, Texts& texts,
                    int strongInk) {
     return Flattener(texts, strongInk).flatten(inlines, style);
+}
+
+QString captionOf(const std::vector<Inline>& inlines, Texts& texts) {
+    QString caption;
+    for (const Atom& atom : flatten(inlines, {}, texts).atoms) {
+        if (atom.kind == Atom::Kind::Box)
+            texts.faults.add(atom.at, std::string("ici ne va qu’un texte simple"));
+        else
+            caption += atom.character ? QString::fromUcs4(&atom.character, 1) : QStringLiteral(" ");
+    }
+    return caption;
 }
 
 Box symbolBox(const QString& directive, const Style& style) {

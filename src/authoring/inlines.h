@@ -30,6 +30,10 @@ struct Texts {
 InlineText flatten(const std::vector<Inline>& inlines, const Style& style, Texts& texts,
                    int strongInk = kBlackInk);
 
+/// The text of a caption, a tooltip or a menu's entry, composed: its styles do not count, and a
+/// formula or symbol in it is a fault.
+QString captionOf(const std::vector<Inline>& inlines, Texts& texts);
+
 /// A symbol of the image list, a little higher than the line so that it stands at its middle.
 Box symbolBox(const QString& directive, const Style& style);
 

@@ -146,14 +146,7 @@ QStringList Layout::menuEntries(const Inline& menu, const Block* entries) {
             continue;
         }
         const Inline& link = inlines->front();
-        InlineText words = flatten(link.children, style_, texts_);
-        QString caption;
-        for (const Atom& atom : words.atoms) {
-            if (atom.kind == Atom::Kind::Box)
-                fault(link.at, u"un choix de menu est un texte simple");
-            else
-                caption += QString::fromUcs4(&atom.character, atom.character ? 1 : 0);
-        }
+        const QString caption = captionOf(link.children, texts_);
         if (const auto target = readTarget(link.target, link.at, texts_.faults))
             lines.append(QStringLiteral("##ADMEN") + caption + u'#' + target->code());
     }

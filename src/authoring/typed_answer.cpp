@@ -39,7 +39,8 @@ QString trap(const QString& form) {
             .arg(form);
     for (const QChar c : form)
         if (kLostSigns.contains(c))
-            return QStringLiteral("« %1 » : le juge ne voit pas le signe « %2 »").arg(form).arg(c);
+            return QStringLiteral("« %1 » : le juge ne voit pas le signe « %2 »")
+                .arg(form, QString(c));
     for (qsizetype i = 1; i < form.size(); ++i)
         if (form[i].isUpper() && form[i - 1].isLetter())
             return QStringLiteral(
@@ -49,8 +50,7 @@ QString trap(const QString& form) {
     if (const QChar accent = keptAccent(form); !accent.isNull())
         return QStringLiteral("« %1 » : le juge garde l’accent de « %2 » ; qui l’oublie aurait "
                               "faux : choisir un autre mot, ou des choix")
-            .arg(form)
-            .arg(accent);
+            .arg(form, QString(accent));
     return {};
 }
 

@@ -49,13 +49,14 @@ TEST(Question, takesItsTypeAndSolutionFromTheText) {
 TEST(Question, putsTheCommentAndItsLinkAfterTheHeading) {
     const auto compiled =
         question("Qui ?\n\n- [x] a\n- [ ] b\n\n## Si c’est faux\n\nRelire **tout**.\n\n"
-                 "[Revoir la page](page:24)\n");
+                 "[Revoir l'exemple %2](page:24)\n");
     EXPECT_EQ(told(compiled.faults), "");
     ASSERT_TRUE(compiled.siFaux.has_value());
     EXPECT_THAT(compiled.siFaux->source, HasSubstr("##TAB000590 1\n"));
     EXPECT_THAT(
         compiled.siFaux->source,
-        HasSubstr("##FINTAC02\n##PIY004\n##PIY008\n##PIY002\n##C002\n##EXOLIRevoir la page#24\n"));
+        HasSubstr(
+            "##FINTAC02\n##PIY004\n##PIY008\n##PIY002\n##C002\n##EXOLIRevoir l’exemple %2#24\n"));
     EXPECT_EQ(compiled.question.source.find("Relire"), std::string::npos);
 }
 
