@@ -56,7 +56,7 @@ TEST(Question, putsTheCommentAndItsLinkAfterTheHeading) {
     EXPECT_THAT(
         compiled.siFaux->source,
         HasSubstr(
-            "##FINTAC02\n##PIY004\n##PIY008\n##PIY002\n##C002\n##EXOLIRevoir l’exemple %2#24\n"));
+            "##FINTAC02\n##PIY004\n##PIY008\n##PIY002\n##C002\n##EXOLIRevoir l’exemple\u00A0%2#24\n"));
     EXPECT_EQ(compiled.question.source.find("Relire"), std::string::npos);
 }
 
