@@ -1,5 +1,7 @@
 #include "authoring/check/check.h"
+#include "authoring/markdown_compiler.h"
 #include "coursetool/drawing_request.h"
+#include "coursetool/markdown_source.h"
 #include "coursetool/print.h"
 #include "coursetool/render.h"
 #include "coursetool/tool_pictures.h"
@@ -30,7 +32,28 @@ struct Ground {
     page::FontBook fonts;
 };
 
+/// The compiler, and what measuring text needs around it.
+struct GroundedCompiler : authoring::Compiler {
+    GroundedCompiler(int& argc, char** argv) : ground(argc, argv), compiler(ground.fonts) {}
+
+    authoring::CompiledPage page(std::string_view markdown, int firstLine,
+                                 std::string_view title) const override {
+        return compiler.page(markdown, firstLine, title);
+    }
+    authoring::CompiledQuestion question(std::string_view markdown, int firstLine,
+                                         std::optional<int> askedType) const override {
+        return compiler.question(markdown, firstLine, askedType);
+    }
+
+    Ground ground;
+    authoring::MarkdownCompiler compiler;
+};
+
 } // namespace
+
+extern "C" Q_DECL_EXPORT authoring::Compiler* orvalenteMarkdown(int& argc, char** argv) {
+    return new GroundedCompiler(argc, argv);
+}
 
 extern "C" Q_DECL_EXPORT void orvalenteTrace(int& argc, char** argv,
                                              const coursetool::TraceRequest& request,

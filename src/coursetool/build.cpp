@@ -34,11 +34,12 @@ bool liesAmongSources(const fs::path& source, const fs::path& output) {
            holds(kDiscFolder);
 }
 
-bool build(const fs::path& source, const fs::path& output, Report& report) {
+bool build(const fs::path& source, const fs::path& output, Report& report,
+           const CompilerSource& compiler) {
     StagedCourse course(output);
     if (!course.open(report))
         return false;
-    CourseBuilder builder(source, course, output, report);
+    CourseBuilder builder(source, course, output, compiler, report);
     builder.compilePages();
     builder.compileExercises();
     builder.checkFiles();

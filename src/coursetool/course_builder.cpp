@@ -19,8 +19,12 @@ constexpr int kHighestPosition = 32767;
 /// Numbers warned about one by one; a course beyond these does not want to hear of each.
 constexpr int kNumberWarnings = 20;
 
-/// The files with this ending in file-name order. What else stands there, hidden files aside, is
-/// named: a page that silently is none would be missed late.
+bool isMarkdown(const fs::path& file) {
+    return file.extension() == kMarkdownEnding;
+}
+
+/// The files with this ending, and those in Markdown, in file-name order. What else stands there,
+/// hidden files aside, is named: a page that silently is none would be missed late.
 std::vector<fs::path> sourcesIn(const fs::path& folder, const fs::path& top,
                                 std::string_view ending, std::string_view alsoExpected,
                                 Report& report) {
@@ -28,12 +32,12 @@ std::vector<fs::path> sourcesIn(const fs::path& folder, const fs::path& top,
     for (const fs::directory_entry& entry : entriesOf(folder, report)) {
         const std::string name = shown(entry.path().filename());
         std::error_code error;
-        if (name.ends_with(ending) && entry.is_regular_file(error)) {
+        if ((name.ends_with(ending) || isMarkdown(name)) && entry.is_regular_file(error)) {
             if (isFileOf(top, entry, report))
                 files.push_back(entry.path());
         } else if (!name.starts_with('.') && name != alsoExpected) {
-            report.warning({shown(entry.path())},
-                           "laissé de côté : ce n’est pas un fichier " + std::string(ending));
+            report.warning({shown(entry.path())}, "laissé de côté : ce n’est pas un fichier " +
+                                                      std::string(ending) + " ou .md");
         }
     }
     return files;
@@ -45,6 +49,10 @@ jet::Value memo(std::optional<std::string_view> sourceText) {
     return text::toUtf16(toDatabaseText(*sourceText));
 }
 
+std::optional<std::string_view> sourceOf(const std::optional<authoring::CompiledText>& text) {
+    return text ? std::optional<std::string_view>(text->source) : std::nullopt;
+}
+
 Place placeOf(const Fields& fields, const fs::path& file) {
     return fields.places.front().line > 0 ? fields.places.front() : Place{shown(file), 1, 1};
 }
@@ -52,8 +60,8 @@ Place placeOf(const Fields& fields, const fs::path& file) {
 } // namespace
 
 CourseBuilder::CourseBuilder(const fs::path& source, StagedCourse& course, const fs::path& output,
-                             Report& report)
-    : source_(source), course_(course), report_(report),
+                             const CompilerSource& compiler, Report& report)
+    : source_(source), course_(course), compiler_(compiler), report_(report),
       courseDatabase_(course.pathFor(kCourseFile), shown(output / kCourseFile), report),
       exerciseDatabase_(course.pathFor(kExerciseFile), shown(output / kExerciseFile), report),
       cours_(courseDatabase_, coursTable(), report),
@@ -82,6 +90,8 @@ void CourseBuilder::compilePages() {
 }
 
 void CourseBuilder::compilePage(const fs::path& file) {
+    if (isMarkdown(file))
+        return compileMarkdownPage(file);
     const auto source = readSource(file, report_);
     const auto parts = source ? splitFrontMatter(*source, shown(file), report_) : std::nullopt;
     if (!parts)
@@ -89,9 +99,13 @@ void CourseBuilder::compilePage(const fs::path& file) {
     Fields fields =
         readFields(parts->frontMatter, 2, shown(file), frontMatterFields(coursTable()), report_);
     const Place place = placeOf(fields, file);
+    fields.values.push_back(memo(parts->body));
+    appendPage(std::move(fields), place);
+}
+
+void CourseBuilder::appendPage(Fields fields, const Place& place) {
     pageNumbers_.take(fields.values.front(), place, report_);
     warnAboutNumber(fields);
-    fields.values.push_back(memo(parts->body));
     cours_.append(fields.values, place);
     if (cours_.count() == kHighestPosition + 2)
         report_.warning(place, "au-delà de 32 768 pages, l’index ne retient plus les positions : "
@@ -151,7 +165,40 @@ void CourseBuilder::compileChapter(const fs::path& file) {
     description_.append(fields.values, placeOf(fields, file));
 }
 
+const authoring::Compiler* CourseBuilder::compilerFor(const fs::path& file) {
+    const authoring::Compiler* const compiler = compiler_ ? compiler_() : nullptr;
+    if (!compiler && !report_.hasFaults())
+        report_.fault({shown(file)}, "ici, le Markdown n’est pas lu");
+    return compiler;
+}
+
+void CourseBuilder::compileMarkdownPage(const fs::path& file) {
+    const auto* const compiler = compilerFor(file);
+    auto page = compiler ? coursetool::compileMarkdownPage(file, *compiler, report_) : std::nullopt;
+    if (!page)
+        return;
+    const Place place = placeOf(page->fields, file);
+    page->fields.values.push_back(memo(sourceOf(page->text)));
+    appendPage(std::move(page->fields), place);
+}
+
+void CourseBuilder::compileMarkdownQuestion(const fs::path& file) {
+    const auto* const compiler = compilerFor(file);
+    auto question =
+        compiler ? coursetool::compileMarkdownQuestion(file, *compiler, report_) : std::nullopt;
+    if (!question)
+        return;
+    Fields& fields = question->fields;
+    const Place place = placeOf(fields, file);
+    references_.take(fields.values.front(), place, report_);
+    fields.values.push_back(memo(sourceOf(question->text)));
+    fields.values.push_back(memo(sourceOf(question->siFaux)));
+    contenu_.append(fields.values, place);
+}
+
 void CourseBuilder::compileQuestion(const fs::path& file) {
+    if (isMarkdown(file))
+        return compileMarkdownQuestion(file);
     const auto source = readSource(file, report_);
     const auto parts = source ? splitFrontMatter(*source, shown(file), report_) : std::nullopt;
     if (!parts)

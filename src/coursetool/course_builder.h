@@ -2,6 +2,7 @@
 
 #include "coursetool/file_list.h"
 #include "coursetool/front_matter.h"
+#include "coursetool/markdown_source.h"
 #include "coursetool/report.h"
 #include "coursetool/source_parts.h"
 #include "coursetool/staged_course.h"
@@ -17,7 +18,8 @@ namespace coursetool {
 class CourseBuilder {
 public:
     CourseBuilder(const std::filesystem::path& source, StagedCourse& course,
-                  const std::filesystem::path& output, Report& report);
+                  const std::filesystem::path& output, const CompilerSource& compiler,
+                  Report& report);
 
     void compilePages();
     void compileExercises();
@@ -28,6 +30,11 @@ public:
 
 private:
     void compilePage(const std::filesystem::path& file);
+    void appendPage(Fields fields, const Place& place);
+    /// The compiler of Markdown; null, and a fault, without one.
+    const authoring::Compiler* compilerFor(const std::filesystem::path& file);
+    void compileMarkdownPage(const std::filesystem::path& file);
+    void compileMarkdownQuestion(const std::filesystem::path& file);
     void compileTest(const std::filesystem::path& folder);
     void compileChapter(const std::filesystem::path& file);
     void compileQuestion(const std::filesystem::path& file);
@@ -39,6 +46,7 @@ private:
 
     std::filesystem::path source_;
     StagedCourse& course_;
+    CompilerSource compiler_;
     Report& report_;
     DatabaseTarget courseDatabase_;
     DatabaseTarget exerciseDatabase_;

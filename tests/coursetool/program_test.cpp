@@ -50,6 +50,52 @@ struct Program : testing::Test {
     }
 };
 
+TEST_F(Program, convertsAndBuildsMarkdown) {
+    work.write("src/pages/2.md",
+               "+++\nNumeropage = 2\ntitre = \"Deux\"\n+++\n# Deux\n\nUn *mot*.\n");
+    work.write("src/exercises/a/chapter.toml", "Chapitre = 1\nTitre = \"T\"\nNbquest = 2\n");
+    work.write("src/exercises/a/1.md", "+++\nREFERENCE = 101\n+++\nQui ?\n\n- [ ] a\n- [x] b\n");
+    work.write("src/exercises/a/2.md",
+               "+++\nREFERENCE = 102\n+++\nLe [fer](réponse).\n\n## Si faux\n\nRelire.\n");
+    const Outcome page = run("convert src/pages/2.md");
+    EXPECT_EQ(page.code, 0) << page.err;
+    EXPECT_THAT(page.out, StartsWith("+++\nNumeropage = 2\ntitre = \"Deux\"\n+++\n##TITBARDeux\n"));
+    EXPECT_THAT(page.out, HasSubstr("Un \n##ITA1\nmot\n##ITA0\n.¶\n"));
+    const Outcome question = run("convert src/exercises/a/2.md");
+    EXPECT_EQ(question.code, 0) << question.err;
+    EXPECT_THAT(question.out,
+                StartsWith("+++\nREFERENCE = 102\ntype = 3\nsolution = \"fer\"\n+++\n##SI12\n"));
+
+    ASSERT_EQ(run("build src -o md").err, "");
+    // What `convert` prints builds into the very same databases.
+    for (const char* name : {"pages/2", "exercises/a/1", "exercises/a/2"}) {
+        const std::string file = std::string("src/") + name;
+        const bool isPage = file.find("pages") != std::string::npos;
+        const Outcome converted =
+            run({QStringLiteral("convert"), QString::fromStdString(file + ".md")});
+        work.write(file + (isPage ? ".page" : ".question"), converted.out);
+        std::filesystem::remove(work.path(file + ".md"));
+    }
+    ASSERT_EQ(run("build src -o plain").err, "");
+    EXPECT_EQ(work.rows("md/Zekx.mdb", "cours"), work.rows("plain/Zekx.mdb", "cours"));
+    EXPECT_EQ(work.rows("md/qekx.mdb", "Contenu"), work.rows("plain/qekx.mdb", "Contenu"));
+}
+
+TEST_F(Program, namesTheMarkdownLineOfAFault) {
+    work.write("src/pages/2.md", "+++\nNumeropage = 2\n+++\n\nVoir [ici](page:x).\n");
+    work.write("src/exercises/a/chapter.toml", "Chapitre = 1\n");
+    work.write("src/exercises/a/1.md",
+               "+++\nREFERENCE = 101\nsolution = \"x\"\n+++\n[fer](réponse)\n");
+    const Outcome built = run("build src -o out");
+    EXPECT_EQ(built.code, 1);
+    EXPECT_THAT(built.err, HasSubstr("src/pages/2.md:5:7: « page:x »"));
+    EXPECT_THAT(built.err, HasSubstr("src/exercises/a/1.md:3:"));
+    EXPECT_FALSE(work.has("out/Zekx.mdb"));
+    EXPECT_EQ(run("convert src/pages/2.md").code, 1);
+    EXPECT_EQ(run("convert src/pages/2.md").out, "");
+    EXPECT_EQ(run("convert nulle-part.md").code, 2);
+}
+
 TEST_F(Program, buildsDumpsTracesAndExtracts) {
     const Outcome built = run("build src -o out");
     EXPECT_EQ(built.code, 0);

@@ -32,7 +32,8 @@ struct Build : Subcommand {
     }
 
     int run(ToolRun& run) override {
-        if (coursetool::build(pathFrom(source), pathFrom(output), run.report))
+        if (coursetool::build(pathFrom(source), pathFrom(output), run.report,
+                              [&run] { return run.compiler(); }))
             warnOfWrongPages(run);
         return run.verdict();
     }

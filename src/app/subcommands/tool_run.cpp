@@ -1,6 +1,7 @@
 #include "app/subcommands/tool_run.h"
 
 #include "coursetool/exit_code.h"
+#include "coursetool/markdown_source.h"
 #include "files/cause.h"
 #include "platform/module.h"
 
@@ -25,6 +26,13 @@ int ToolRun::verdict() const {
     return static_cast<int>(report.hasFailures() ? ExitCode::NotWritten
                             : report.hasFaults() ? ExitCode::Faults
                                                  : ExitCode::Fine);
+}
+
+const authoring::Compiler* ToolRun::compiler() {
+    if (!markdown)
+        if (const auto make = drawing<coursetool::MarkdownFunction>(coursetool::kMarkdownSymbol))
+            markdown.reset(make(argc, argv));
+    return markdown.get();
 }
 
 void* ToolRun::drawingFunction(const char* symbol) {

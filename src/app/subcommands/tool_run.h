@@ -1,9 +1,11 @@
 #pragma once
 
+#include "authoring/compiled.h"
 #include "coursetool/output_buffer.h"
 #include "coursetool/report.h"
 
 #include <cstdio>
+#include <memory>
 
 namespace app {
 
@@ -30,7 +32,12 @@ struct ToolRun {
     /// Exit status that the report gives.
     int verdict() const;
 
+    /// The compiler of Markdown, made when it is first needed; null, and a fault, without it.
+    const authoring::Compiler* compiler();
+
     void* drawingFunction(const char* symbol);
+
+    std::unique_ptr<authoring::Compiler> markdown = nullptr; ///< see compiler()
 };
 
 } // namespace app

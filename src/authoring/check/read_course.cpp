@@ -8,7 +8,7 @@
 #include "coursetool/source_text.h"
 #include "coursetool/table_source.h"
 #include "files/within.h"
-#include "jet/unicode.h"
+#include "jet/database_file.h"
 
 #include <algorithm>
 
@@ -237,7 +237,7 @@ private:
     template <class Take>
     void forEachRecord(const fs::path& file, const coursetool::TableRule& table, const char* kind,
                        Take take) {
-        auto database = jet::Database::open(file);
+        auto database = jet::openDatabase(file);
         if (!database) {
             report_.fault({shown(file)}, database.error().sentence);
             return;

@@ -5,7 +5,7 @@
 #include "coursetool/front_matter.h"
 #include "coursetool/paths.h"
 #include "coursetool/source_text.h"
-#include "jet/unicode.h"
+#include "text/utf8.h"
 
 #include <algorithm>
 
@@ -79,7 +79,7 @@ std::set<std::string> ignoredInCourse(const std::filesystem::path& directory,
     const std::string name = coursetool::shown(file.path());
     const coursetool::Fields fields = coursetool::readFields(*text, 1, name, kFields, report);
     const std::u16string* codes = fields.values.front().text();
-    return codes ? readCodes(jet::toUtf8(*codes), fields.places.front(), report)
+    return codes ? readCodes(text::toUtf8(*codes), fields.places.front(), report)
                  : std::set<std::string>();
 }
 

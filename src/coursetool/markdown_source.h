@@ -1,0 +1,42 @@
+#pragma once
+
+#include "authoring/compiled.h"
+#include "coursetool/field_value.h"
+#include "coursetool/front_matter.h"
+#include "coursetool/report.h"
+
+#include <filesystem>
+#include <functional>
+#include <optional>
+
+namespace coursetool {
+
+inline constexpr char kMarkdownEnding[] = ".md";
+
+/// Gives the compiler of Markdown, which is a module of its own: it measures text, and brings Qt
+/// along. Asked for when a source needs it; null, after a fault, when it is not to be had.
+using CompilerSource = std::function<const authoring::Compiler*()>;
+
+// The module's function; its reason is that of the drawing functions (drawing_request.h). The
+// compiler is the caller's.
+using MarkdownFunction = authoring::Compiler* (*)(int& argc, char** argv);
+inline constexpr char kMarkdownSymbol[] = "orvalenteMarkdown";
+
+/// A page or question written in Markdown, compiled: its fields without the Memo ones, and the
+/// texts of those, absent where they are NULL.
+struct CompiledSource {
+    Fields fields;
+    std::optional<authoring::CompiledText> text;   ///< fpc or question
+    std::optional<authoring::CompiledText> siFaux; ///< of a question
+};
+
+/// Names every fault with its place in `file`; gives nothing when the file cannot be read at all.
+std::optional<CompiledSource> compileMarkdownPage(const std::filesystem::path& file,
+                                                  const authoring::Compiler& compiler,
+                                                  Report& report);
+/// The same for a question. `type` may be left out, `solution` must be: the text tells both.
+std::optional<CompiledSource> compileMarkdownQuestion(const std::filesystem::path& file,
+                                                      const authoring::Compiler& compiler,
+                                                      Report& report);
+
+} // namespace coursetool

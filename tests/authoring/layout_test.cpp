@@ -1,0 +1,170 @@
+#include "authoring/markdown.h"
+#include "coursetool/offscreen_page.h"
+#include "support/fake_pictures.h"
+
+#include <gmock/gmock.h>
+
+#include <random>
+
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+
+/// What the renderer draws of a compiled page.
+struct Drawn {
+    test_support::FakePictures pictures;
+    coursetool::OffscreenPage page{fonts(), pictures};
+
+    explicit Drawn(const std::string& source) {
+        page.draw(QString::fromStdString(source).replace(u'\n', QStringLiteral("\r\n")));
+    }
+
+    /// Right end of what is furthest right on a surface, in pixels.
+    double right(page::SurfaceId surface) const {
+        double furthest = 0;
+        for (const page::Operation& operation : page.recording().operations()) {
+            if (const auto* text = std::get_if<page::TextOperation>(&operation);
+                text && text->surface == surface)
+                furthest = std::max(furthest, text->x + text->width);
+            if (const auto* link = std::get_if<page::LinkOperation>(&operation);
+                link && link->surface == surface)
+                furthest = std::max(furthest, link->x + link->width);
+        }
+        return furthest / 15;
+    }
+    std::string failures() const {
+        std::string text;
+        for (const page::Operation& operation : page.recording().operations())
+            if (const auto* failed = std::get_if<page::FailedOperation>(&operation))
+                text += failed->directive.toStdString() + '\n';
+        return text;
+    }
+};
+
+/// Sentences of words of one to fourteen letters, in all styles.
+std::string randomText(std::mt19937& random, int words) {
+    const auto upTo = [&](unsigned n) { return random() % n; };
+    std::string text;
+    for (int i = 0; i < words; ++i) {
+        std::string word;
+        for (auto letters = 1 + upTo(14); letters > 0; --letters)
+            word += static_cast<char>('a' + upTo(26));
+        switch (upTo(12)) {
+        case 0:
+            word = "**" + word + "**";
+            break;
+        case 1:
+            word = "*" + word + "*";
+            break;
+        case 2:
+            word = "[" + word + " suite](page:" + std::to_string(upTo(1000)) + ")";
+            break;
+        case 3:
+            word = "$\\frac{" + word + "}{x^2} + v_0^2$";
+            break;
+        case 4:
+            word = "$\\ce{2 H2O -> SO4^2-}$";
+            break;
+        default:
+            word += upTo(9) == 0 ? " :" : "";
+        }
+        text += word + (upTo(6) == 0 ? "\n" : " ");
+    }
+    return text;
+}
+
+TEST(Layout, keepsEveryLineWithinItsColumn) {
+    std::mt19937 random(15);
+    for (int i = 0; i < 60; ++i) {
+        const std::string words = randomText(random, 60);
+        std::string quoted = "> " + words;
+        for (std::size_t at = 0; (at = quoted.find('\n', at)) != std::string::npos; at += 3)
+            quoted.replace(at, 1, "\n> ");
+        const std::string source =
+            compiled("# " + randomText(random, 3) + "\n\n" + words + "\n\n- " + words + "\n\n" +
+                     quoted + "\n\n| a | b |\n|---|--:|\n| un deux trois | quatre cinq |\n");
+        const Drawn drawn(source);
+        EXPECT_LE(drawn.right(page::SurfaceId::PictureTexte), 590) << source;
+        EXPECT_GT(drawn.right(page::SurfaceId::PictureTexte), 450);
+        EXPECT_EQ(drawn.failures(), "");
+    }
+}
+
+TEST(Layout, measuresAsTheRendererDraws) {
+    // A line that fills its column to the pixel stays one line, one more letter breaks it.
+    for (const char* tail : {"", "$x^2$", "**gras**", "$\\frac{ab}{cd}$", "$\\vec{F}$",
+                             "$\\ce{SO4^2-}$", "$\\sqrt{2}$", "![](symbole:AT)"}) {
+        const auto fits = [](const std::string& line) {
+            const std::string source = compiled(line + "\n");
+            return faultsOf(line + "\n").empty() && source.find("\u00B6") == source.rfind("\u00B6");
+        };
+        std::string text = std::string(tail) + " m";
+        while (fits(text + "m"))
+            text += "m";
+        const double right = Drawn(compiled(text + "\n")).right(page::SurfaceId::PictureTexte);
+        EXPECT_LE(right, 590) << tail;
+        EXPECT_GT(right, 560) << tail;
+    }
+}
+
+TEST(Layout, putsTheMarginAndTheBandOnTheirSurfaces) {
+    const Drawn drawn(
+        compiled("> **Bandeau**\n> **Chimie** — les ions\n\nTexte.\n\n> **En marge**\n"
+                 ">\n> # sel\n>\n> Un grain de sel est un empilement de cubes.\n"));
+    EXPECT_GT(drawn.right(page::SurfaceId::Titre), 100);
+    EXPECT_GT(drawn.right(page::SurfaceId::PictureIllus), 80);
+    EXPECT_LE(drawn.right(page::SurfaceId::PictureIllus), 144);
+    EXPECT_GT(drawn.right(page::SurfaceId::PictureTexte), 20);
+    EXPECT_LE(drawn.right(page::SurfaceId::PictureTexte), 60);
+}
+
+TEST(Layout, writesNoLineThatIsTakenForAnother) {
+    struct {
+        const char* markdown;
+        const char* expected;
+    } rows[] = {
+        {"\\##BOL1 n’est pas une directive\n", "#\n#BOL1 n’est pas une directive¶\n"},
+        {"\\###\n", "#\n#\n#¶\n"},
+        {"\\+++\n", "+++¶\n"},
+        {"```directives\n+++\n\\+++\n##DECLIG2\n```\n", "\\+++\n\\\\+++\n##DECLIG2\n"},
+        {"[a # b](page:1)\n", "##LIERTa # b#PAG001\n"},
+    };
+    for (const auto& row : rows)
+        EXPECT_THAT(compiled(row.markdown), HasSubstr(row.expected)) << row.markdown;
+}
+
+TEST(Layout, writesWhatEachFormStandsFor) {
+    struct {
+        const char* markdown;
+        std::vector<const char*> expected;
+    } rows[] = {
+        {"***mot***\n", {"##BOL1\n##C008\nmot¶\n"}},
+        {"*a* **b**\n", {"##ITA1\na\n##ITA0\n \n##BOL1\nb"}},
+        {"> **Attention !** Chaud.\n", {"##TAB000590 1\n", "Attention\u00A0!", "##FINTAC05\n"}},
+        {"> Note.\n", {"##FINTAC02\n"}},
+        {"[a](module:7/1) [b](exo:3) [c](commande:)\n", {"a#EXE071", "b#EXO003", "c#BDC000"}},
+        {"[![](symbole:ME) Suite](page:2 \"Bulle\")\n",
+         {"##LIERXMEBulle#PAG002", "##LIERTSuite#PAG002"}},
+        {"![Choisir](menu:ME)\n\n- [Un](page:1)\n- [Deux](page:2)\n",
+         {"##LIERFME\n##ADMENUn#PAG001\n##ADMENDeux#PAG002\n", "Choisir"}},
+        {"![Une *figure*](f.svg#300x200)\n", {"##IHDEFf.svg300200\n", "##SI10\n", "figure"}},
+        {"Film.\n\n![](chute.avi)\n", {"##VIDEOchute.avi\n"}},
+        {"<!-- note -->\n\nTexte\n", {"Texte"}},
+        {"a<br\n", {"a<br¶"}},
+        {"| a |\n|---|\n| b |\n", {"##TAB000590 1\n", "##FINTAC04\n", "##FINTAB\n"}},
+        {"1. un\n2. deux\n", {"##POX008\n1.\n##POX030\nun¶\n##POX008\n2.\n"}},
+        {"---\n", {"##C010\n##LARGEUR590\n##RECT000\n##C000\n"}},
+        {"```python\nfor i in x:\n    y = 1\n```\n",
+         {"for\u00A0i\u00A0in\u00A0x:¶", "##POX036\ny\u00A0=\u00A0"
+                                         "1¶"}},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(faultsOf(row.markdown), "") << row.markdown;
+        for (const char* part : row.expected)
+            EXPECT_THAT(compiled(row.markdown), HasSubstr(part)) << row.markdown;
+    }
+    EXPECT_THAT(compiled("<!-- note -->\n\nTexte\n"), Not(HasSubstr("note")));
+}
+
+} // namespace
