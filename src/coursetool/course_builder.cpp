@@ -166,10 +166,14 @@ void CourseBuilder::compileChapter(const fs::path& file) {
 }
 
 const authoring::Compiler* CourseBuilder::compilerFor(const fs::path& file) {
-    const authoring::Compiler* const compiler = compiler_ ? compiler_() : nullptr;
-    if (!compiler && !report_.hasFaults())
-        report_.fault({shown(file)}, "ici, le Markdown n’est pas lu");
-    return compiler;
+    // Asked once: a compiler that is missing is one fault, not one a file.
+    if (!askedForCompiler_) {
+        askedForCompiler_ = true;
+        markdown_ = compiler_ ? compiler_() : nullptr;
+        if (!compiler_)
+            report_.fault({shown(file)}, "ici, le Markdown n’est pas lu");
+    }
+    return markdown_;
 }
 
 void CourseBuilder::compileMarkdownPage(const fs::path& file) {

@@ -47,6 +47,8 @@ private:
     std::filesystem::path source_;
     StagedCourse& course_;
     CompilerSource compiler_;
+    const authoring::Compiler* markdown_ = nullptr;
+    bool askedForCompiler_ = false;
     Report& report_;
     DatabaseTarget courseDatabase_;
     DatabaseTarget exerciseDatabase_;

@@ -53,10 +53,8 @@ TEST(Question, putsTheCommentAndItsLinkAfterTheHeading) {
     EXPECT_EQ(told(compiled.faults), "");
     ASSERT_TRUE(compiled.siFaux.has_value());
     EXPECT_THAT(compiled.siFaux->source, HasSubstr("##TAB000590 1\n"));
-    EXPECT_THAT(
-        compiled.siFaux->source,
-        HasSubstr(
-            "##FINTAC02\n##PIY004\n##PIY008\n##PIY002\n##C002\n##EXOLIRevoir l’exemple\u00A0%2#24\n"));
+    EXPECT_THAT(compiled.siFaux->source, HasSubstr("##FINTAC02\n##PIY004\n##PIY008\n##PIY002\n##"
+                                                   "C002\n##EXOLIRevoir l’exemple\u00A0%2#24\n"));
     EXPECT_EQ(compiled.question.source.find("Relire"), std::string::npos);
 }
 

@@ -55,6 +55,14 @@ TEST_F(Build, writesBothDatabasesAndTheFiles) {
                                                "qekx.mdb", "sub/b.bmp"));
 }
 
+TEST_F(Build, namesAMissingCompilerOfMarkdownOnce) {
+    work.write("src/pages/1.md", kPage);
+    work.write("src/pages/2.md", "+++\nNumeropage = 2\n+++\nB\n");
+    EXPECT_FALSE(build());
+    EXPECT_EQ(report.faultCount(), 1u) << textOf(report);
+    EXPECT_THAT(textOf(report), HasSubstr("src/pages/1.md: ici, le Markdown n’est pas lu"));
+}
+
 TEST_F(Build, ofBadSourcesLeavesTheCourseAsItWas) {
     work.write("src/pages/1.page", kPage);
     work.write("src/files/a.txt", "old");
