@@ -3,7 +3,7 @@
 #include "authoring/formula_setter.h"
 #include "authoring/targets.h"
 #include "authoring/typography.h"
-#include "markup/answer_fields.h"
+#include "markup/drawn_page.h"
 #include "page/twips.h"
 
 namespace authoring {

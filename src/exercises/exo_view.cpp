@@ -33,8 +33,8 @@ void tellNewName(QWidget& widget, const QString& name) {
         widget.setAccessibleName(name); // this tells screen readers too
 }
 
-/// Height, in twips, down to the lowest text, line or picture of the question area. A ground is drawn for what stands on
-/// it and does not count; controls are counted as widgets.
+/// Height, in twips, down to the lowest text, line or picture of the question area. A ground is
+/// drawn for what stands on it and does not count; controls are counted as widgets.
 class DrawnFoot
     : page::PassOver<page::FillOperation, page::LinkOperation, page::MenuOperation,
                      page::FieldOperation, page::VideoOperation, page::SwitchOperation,
@@ -44,18 +44,26 @@ public:
 
     double of(const page::Recording& recording) {
         for (const page::Operation& operation : recording.operations())
-            if (page::surfaceOf(operation) == page::SurfaceId::Picture2)
-                std::visit(*this, operation);
+            std::visit(*this, operation);
         return foot_;
     }
 
     using PassOver::operator();
-    void operator()(const page::TextOperation& text) { lower(text.y + metrics_.height(text.font)); }
-    void operator()(const page::LineOperation& line) { lower(std::max(line.y1, line.y2)); }
-    void operator()(const page::PictureOperation& picture) { lower(picture.y + picture.height); }
+    void operator()(const page::TextOperation& text) {
+        lower(text.surface, text.y + metrics_.height(text.font));
+    }
+    void operator()(const page::LineOperation& line) {
+        lower(line.surface, std::max(line.y1, line.y2));
+    }
+    void operator()(const page::PictureOperation& picture) {
+        lower(picture.surface, picture.y + picture.height);
+    }
 
 private:
-    void lower(double place) { foot_ = std::max(foot_, place); }
+    void lower(page::SurfaceId surface, double place) {
+        if (surface == page::SurfaceId::Picture2)
+            foot_ = std::max(foot_, place);
+    }
 
     const page::TextMetrics& metrics_;
     double foot_ = 0;
@@ -155,8 +163,7 @@ void Exo::drawQuestion(const std::u16string& source) {
 /// Makes the area as tall as the view, so that a coloured ground fills it, or as all that stands on
 /// it: the renderer only knows where the pen ended.
 void Exo::fitQuestion() {
-    const double drawn =
-        DrawnFoot(parts_.fonts).of(question_.recording) / page::kTwipsPerPixel;
+    const double drawn = DrawnFoot(parts_.fonts).of(question_.recording) / page::kTwipsPerPixel;
     const int foot = answers_->footPx();
     const double view = frame1_->framekx().height();
     const double tallest = std::max({view, question_.heightPx(page::SurfaceId::Picture2), drawn,

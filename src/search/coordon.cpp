@@ -13,6 +13,7 @@
 #include "look/progress_bar.h"
 #include "look/text_field.h"
 #include "page/twips.h"
+#include "platform/file_names.h"
 
 #include <QAccessible>
 #include <QElapsedTimer>

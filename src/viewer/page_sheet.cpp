@@ -38,7 +38,7 @@ page::PlacedSurface placed(SurfaceId surface, double x, double y, double width, 
 }
 
 /// Down to the lowest thing on a surface, in twips.
-double footOf(const std::vector<page::Operation>& operations, SurfaceId surface,
+double footOf(const std::vector<page::DrawnOperation>& operations, SurfaceId surface,
               const page::TextMetrics& metrics) {
     return std::min(page::drawnHeight(operations, surface, metrics),
                     page::kMaxSurfaceHeightPx * kTwipsPerPixel);

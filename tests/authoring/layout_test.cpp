@@ -1,5 +1,5 @@
 #include "authoring/markdown.h"
-#include "coursetool/offscreen_page.h"
+#include "markup/draw_page.h"
 #include "support/fake_pictures.h"
 
 #include <gmock/gmock.h>
@@ -14,16 +14,18 @@ using testing::Not;
 /// What the renderer draws of a compiled page.
 struct Drawn {
     test_support::FakePictures pictures;
-    coursetool::OffscreenPage page{fonts(), pictures};
+    markup::DrawingState state;
+    markup::DrawnPage page;
 
     explicit Drawn(const std::string& source) {
-        page.draw(QString::fromStdString(source).replace(u'\n', QStringLiteral("\r\n")));
+        markup::drawPage({QString::fromStdString(source).replace(u'\n', QStringLiteral("\r\n"))},
+                         {state, pictures, fonts()}, page);
     }
 
     /// Right end of what is furthest right on a surface, in pixels.
     double right(page::SurfaceId surface) const {
         double furthest = 0;
-        for (const page::Operation& operation : page.recording().operations()) {
+        for (const page::Operation& operation : page.recording.operations()) {
             if (const auto* text = std::get_if<page::TextOperation>(&operation);
                 text && text->surface == surface)
                 furthest = std::max(furthest, text->x + text->width);
@@ -35,7 +37,7 @@ struct Drawn {
     }
     std::string failures() const {
         std::string text;
-        for (const page::Operation& operation : page.recording().operations())
+        for (const page::Operation& operation : page.recording.operations())
             if (const auto* failed = std::get_if<page::FailedOperation>(&operation))
                 text += failed->directive.toStdString() + '\n';
         return text;

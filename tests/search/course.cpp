@@ -1,6 +1,6 @@
 #include "search/course.h"
 
-#include "jet/database_file.h"
+#include "jet/writer.h"
 #include "support/memory_database.h"
 
 #include <gtest/gtest.h>
@@ -13,7 +13,7 @@ Course::Course(const std::vector<Record>& records, std::u16string_view tableName
                                    {u"titre", ColumnType::Text, 255},
                                    {u"moteur", ColumnType::Boolean},
                                    {u"fpc", ColumnType::Memo}};
-    auto writer = jet::createDatabase(std::make_unique<test_support::MemorySink>(bytes));
+    auto writer = jet::DatabaseWriter::create(std::make_unique<test_support::MemorySink>(bytes));
     auto table = writer.addTable(tableName, columns);
     for (const Record& record : records) {
         const jet::Value values[] = {record.number, record.titre, record.moteur, record.fpc};

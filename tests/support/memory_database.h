@@ -2,7 +2,7 @@
 
 #include "jet/byte_sink.h"
 #include "jet/byte_source.h"
-#include "jet/database_file.h"
+#include "jet/database.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -28,7 +28,7 @@ private:
 };
 
 inline jet::Result<jet::Database> openInMemory(std::vector<std::uint8_t> bytes) {
-    return jet::openDatabase(std::make_unique<jet::MemorySource>(std::move(bytes)), "memory.mdb");
+    return jet::Database::open(std::make_unique<jet::MemorySource>(std::move(bytes)), "memory.mdb");
 }
 
 } // namespace test_support

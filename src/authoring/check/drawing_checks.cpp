@@ -2,12 +2,12 @@
 
 #include "authoring/check/contrast.h"
 #include "authoring/check/directive_shape.h"
-#include "look/surface_widths.h"
 #include "markup/columns.h"
 #include "markup/directives.h"
+#include "markup/draw_page.h"
 #include "page/ink_area.h"
+#include "page/surface_widths.h"
 #include "page/twips.h"
-#include "viewer/page_title.h"
 
 #include <QColor>
 
@@ -155,10 +155,10 @@ void abandonedStatement(const DrawnSource& drawn, Findings& findings) {
 void titleTooLong(const Course& course, Findings& findings) {
     for (const Page& page : course.pages) {
         const QString title = page.record.text("titre").value_or(QString()).simplified();
-        page::Recording nothing;
-        page::Surface band(SurfaceId::Titre, look::kTitleWidthPx * kTwipsPerPixel, *course.metrics,
-                           nothing);
-        if (viewer::drawPageTitle(band, *course.metrics, title) != title)
+        markup::DrawingState state;
+        const markup::DrawnPage drawn = markup::drawPage(
+            {.source = {}, .title = title}, {state, *course.pictures, *course.metrics});
+        if (drawn.title != title)
             findings.add(page.record, "titre",
                          "le titre " + quoted(title) +
                              " est trop long pour son bandeau : la fin "

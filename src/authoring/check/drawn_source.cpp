@@ -1,9 +1,10 @@
 #include "authoring/check/drawn_source.h"
 
-#include "authoring/check/line_marks.h"
-#include "look/surface_widths.h"
+#include "markup/draw_page.h"
 #include "page/link_view.h"
+#include "page/surface_widths.h"
 #include "page/twips.h"
+#include "viewer/page_sheet.h"
 
 namespace authoring::check {
 
@@ -21,37 +22,35 @@ bool isShadowOf(const page::TextOperation& text, const page::Operation* next) {
 DrawnSource::DrawnSource(const Source& source, const Source* comment,
                          const page::TextMetrics& metrics, markup::PictureShelf& pictures)
     : source_(source), comment_(comment), metrics_(metrics) {
-    if (source.kind() == Source::Kind::Page) {
-        page_ = std::make_unique<coursetool::OffscreenPage>(metrics, pictures);
-        page_->draw(withLineMarks(source.text()));
-        columnHeight_ = page_->columnHeight();
-        assignLines(page_->recording());
-    } else {
-        question_ = std::make_unique<coursetool::OffscreenQuestion>(metrics, pictures);
-        question_->draw(withLineMarks(comment ? source.text() + comment->text() : source.text()));
-        assignLines(question_->recording());
-    }
+    using markup::DrawnAs;
+    markup::DrawingState state;
+    const bool isPage = source.kind() == Source::Kind::Page;
+    markup::drawPage({comment ? source.text() + comment->text() : source.text(),
+                      isPage ? DrawnAs::CoursePage : DrawnAs::Question},
+                     {state, pictures, metrics}, drawn_);
+    if (isPage)
+        columnHeight_ = viewer::columnHeight(drawn_, metrics);
+    assignLines();
     collectWords();
 }
 
 double DrawnSource::width(page::SurfaceId surface) const {
     using enum page::SurfaceId;
-    const int pixels = surface == PictureIllus ? look::kIllustrationWidthPx
-                       : surface == Titre      ? look::kTitleWidthPx
-                                               : look::kPageWidthPx;
+    const int pixels = surface == PictureIllus ? page::kIllustrationWidthPx
+                       : surface == Titre      ? page::kTitleWidthPx
+                                               : page::kPageWidthPx;
     return pixels * page::kTwipsPerPixel;
 }
 
-void DrawnSource::assignLines(const page::Recording& recording) {
+void DrawnSource::assignLines() {
     const auto own = static_cast<int>(source_.lines().size());
-    int line = 1;
-    for (const page::Operation& operation : recording.operations()) {
-        if (isLineMark(operation))
-            ++line;
-        else if (line <= own || !comment_)
-            operations_.push_back({&operation, &source_, line});
+    const auto& operations = drawn_.recording.operations();
+    for (std::size_t i = 0; i < operations.size(); ++i) {
+        const int line = drawn_.lineOf(i);
+        if (line <= own || !comment_)
+            operations_.push_back({&operations[i], &source_, line});
         else
-            operations_.push_back({&operation, comment_, line - own});
+            operations_.push_back({&operations[i], comment_, line - own});
     }
 }
 

@@ -1,13 +1,11 @@
 #pragma once
 
 #include "authoring/check/source.h"
-#include "coursetool/offscreen_page.h"
-#include "coursetool/offscreen_question.h"
+#include "markup/drawn_page.h"
 #include "markup/picture_shelf.h"
 #include "page/recording.h"
 #include "page/text_metrics.h"
 
-#include <memory>
 #include <vector>
 
 namespace authoring::check {
@@ -48,15 +46,14 @@ public:
     double columnHeight() const { return columnHeight_; }
 
 private:
-    void assignLines(const page::Recording& recording);
+    void assignLines();
     void collectWords();
     void takeWords(const DrawnOperation& operation, const page::TextOperation& text);
 
     const Source& source_;
     const Source* comment_;
     const page::TextMetrics& metrics_;
-    std::unique_ptr<coursetool::OffscreenPage> page_;
-    std::unique_ptr<coursetool::OffscreenQuestion> question_;
+    markup::DrawnPage drawn_;
     std::vector<DrawnOperation> operations_;
     std::vector<DrawnWords> words_;
     double columnHeight_ = 0;

@@ -4,7 +4,7 @@
 #include "authoring/check/walk.h"
 #include "markup/arguments.h"
 #include "markup/directives.h"
-#include "markup/link_table.h"
+#include "markup/drawn_page.h"
 #include "page/numbers.h"
 #include "shell/launcher.h"
 #include "text/rounding.h"

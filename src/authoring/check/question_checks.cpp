@@ -1,8 +1,8 @@
 #include "authoring/check/question_checks.h"
 
 #include "exercises/answer_check.h"
-#include "markup/answer_fields.h"
 #include "markup/directives.h"
+#include "markup/drawn_page.h"
 #include "text/letters.h"
 
 #include <algorithm>

@@ -1,10 +1,10 @@
 #include "authoring/check/structure_checks.h"
 
 #include "authoring/check/directive_shape.h"
-#include "look/surface_widths.h"
 #include "markup/arguments.h"
 #include "markup/directives.h"
 #include "markup/drawing_state.h"
+#include "page/surface_widths.h"
 
 namespace authoring::check {
 
@@ -129,11 +129,11 @@ void cellsOutOfOrder(const Source& source, Findings& findings) {
 }
 
 void cellEdges(const Source& source, Findings& findings) {
-    int width = look::kPageWidthPx;
+    int width = page::kPageWidthPx;
     for (const Line& line : source.lines()) {
         if (startsAnew(line))
-            width = line.argument() == markup::kIllustrationName ? look::kIllustrationWidthPx
-                                                                 : look::kPageWidthPx;
+            width = line.argument() == markup::kIllustrationName ? page::kIllustrationWidthPx
+                                                                 : page::kPageWidthPx;
         if (!isCell(line))
             continue;
         const int left = cellNumber(line, markup::kCellLeftAt, markup::kCellEdgeLength);
