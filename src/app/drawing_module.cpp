@@ -11,6 +11,8 @@
 
 #include <QGuiApplication>
 
+#include <optional>
+
 namespace {
 
 /// To be made before the application object.
@@ -23,12 +25,16 @@ struct NoDisplay {
     }
 };
 
-/// What drawing needs around it.
+/// What drawing needs around it. A subcommand that compiles and then draws has two of them, one
+/// after the other or one within the other, and there is one application object.
 struct Ground {
-    Ground(int& argc, char** argv) : application(argc, argv) {}
+    Ground(int& argc, char** argv) {
+        if (!QCoreApplication::instance())
+            application.emplace(argc, argv);
+    }
 
     NoDisplay noDisplay;
-    QGuiApplication application;
+    std::optional<QGuiApplication> application;
     page::FontBook fonts;
 };
 

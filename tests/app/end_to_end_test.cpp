@@ -133,8 +133,8 @@ TEST_F(EndToEnd, saysThatTheDatabaseIsAbsent) {
 }
 
 TEST_F(EndToEnd, enlargesEverything) {
-    start({"--scale", "1.25"});
-    EXPECT_TRUE(eventually([&] { return place().size() == QSize(1000, 750); }));
+    start({"--scale", "1.1"});
+    EXPECT_TRUE(eventually([&] { return place().size() == QSize(880, 660); }));
 }
 
 /// A course of two pages. The first shows the same words without and with a link in them, 40 pixels
@@ -165,7 +165,7 @@ protected:
 };
 
 TEST_F(LinkedPages, linksLookAsTextUntilThePointerComes) {
-    for (const double scale : {1.0, 1.25}) {
+    for (const double scale : {1.0, 1.1}) {
         start({"--scale", QString::number(scale)});
         run("xdotool", {"mousemove", "5", "5"});
         const auto plain = [&] { return line(20, scale); };

@@ -107,6 +107,9 @@ TEST(SegmentButtons, showWhichOfTheRowHolds) {
         return std::pair(colour(image.pixel(16, 20)), colour(image.pixel(96, 20)));
     };
     EXPECT_EQ(grounds(), std::pair(colour(kBlue), colour(kPaper)));
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    row.buttons().front()->setFocus();
     QTest::keyClick(row.buttons().front(), Qt::Key_Right); // leads through the row
     EXPECT_EQ(grounds().second, colour(kBlue));
     for (QAbstractButton* button : row.buttons())

@@ -49,8 +49,8 @@ TEST_F(SheetTest, showsAnswerControlsOnTopWhereTheyWerePlacedLast) {
     EXPECT_EQ(described(plain)[1], QStringLiteral("line 15,30 195,30 #8c8472"));
     EXPECT_THAT(described(sheet(look::fieldPictures())),
                 ElementsAre(QStringLiteral("print 0,0 \"a\" Arial 10"),
-                            QStringLiteral("symbol 15,30 195,195 Option1"),
-                            QStringLiteral("symbol 15,60 195,195 Option1"),
+                            QStringLiteral("symbol 15,30 195,195 "),
+                            QStringLiteral("symbol 15,60 195,195 "),
                             QStringLiteral("print 300,90 \"la loi\" Arial 10"),
                             QStringLiteral("fill 600,900 360,360 #ffffff"),
                             QStringLiteral("line 600,900 945,900 #8c8472"),

@@ -185,8 +185,9 @@ bool hasFault(const std::vector<Finding>& findings) {
 
 std::vector<Finding> findingsIn(const CheckRequest& request, const page::TextMetrics& metrics) {
     coursetool::Report report;
-    Course course = isInstalledCourse(request.course) ? readInstallation(request.course, report)
-                                                      : readSources(request.course, report);
+    Course course = isInstalledCourse(request.course)
+                        ? readInstallation(request.course, report)
+                        : readSources(request.course, metrics, report);
     coursetool::Drives drives = request.drives;
     if (!course.isInstalled)
         drives.try_emplace('C', course.discFolder);

@@ -1,8 +1,10 @@
 #include "authoring/check/read_course.h"
 
 #include "authoring/check/silences.h"
+#include "authoring/markdown_compiler.h"
 #include "coursetool/dump.h"
 #include "coursetool/file_list.h"
+#include "coursetool/markdown_source.h"
 #include "coursetool/paths.h"
 #include "coursetool/source_parts.h"
 #include "coursetool/source_text.h"
@@ -25,14 +27,18 @@ QString fromUtf8(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-/// The files of a folder with this ending, in record order.
+bool isMarkdown(const fs::path& path) {
+    return path.extension() == coursetool::kMarkdownEnding;
+}
+
+/// The files of a folder with this ending, and those in Markdown, in record order.
 std::vector<fs::path> sourcesIn(const fs::path& folder, const fs::path& top,
                                 std::string_view ending, Report& report) {
     std::vector<fs::path> files;
     for (const fs::directory_entry& entry : coursetool::entriesOf(folder, report)) {
         std::error_code error;
-        if (shown(entry.path()).ends_with(ending) && entry.is_regular_file(error) &&
-            coursetool::isFileOf(top, entry, report))
+        if ((shown(entry.path()).ends_with(ending) || isMarkdown(entry.path())) &&
+            entry.is_regular_file(error) && coursetool::isFileOf(top, entry, report))
             files.push_back(entry.path());
     }
     return files;
@@ -71,9 +77,18 @@ Source sourceOf(Source::Kind kind, std::string_view text, const std::string& fil
     return {kind, fromUtf8(coursetool::toDatabaseText(text)), {file, line, 1}, {}, true};
 }
 
+/// A source that was compiled from Markdown: its findings name the lines of that.
+Source compiledSource(Source::Kind kind, const authoring::CompiledText& text,
+                      const std::string& file) {
+    Source source{kind, fromUtf8(coursetool::toDatabaseText(text.source)), {file, 1, 1}, {}, false};
+    source.setFileLines(text.markdownLines);
+    return source;
+}
+
 class SourceReader {
 public:
-    SourceReader(const fs::path& directory, Report& report) : report_(report) {
+    SourceReader(const fs::path& directory, const page::TextMetrics& metrics, Report& report)
+        : compiler_(metrics), report_(report) {
         course_.root = directory;
         course_.filesFolder = directory / coursetool::kFilesFolder;
         course_.discFolder = directory / coursetool::kDiscFolder;
@@ -100,15 +115,56 @@ private:
             return;
         for (const fs::path& path :
              sourcesIn(folder, course_.root, coursetool::kPageEnding, report_)) {
+            if (isMarkdown(path)) {
+                readMarkdownPage(path);
+                continue;
+            }
             auto file = readFile(path, coursetool::coursTable(), report_);
             if (!file)
                 continue;
             Page page;
-            page.record = record(*file, coursetool::coursTable());
+            page.record = record(*std::move(file), coursetool::coursTable());
             page.source = sourceOf(Source::Kind::Page, file->body.value_or(std::string_view()),
                                    file->file, file->bodyLine);
             course_.pages.push_back(std::move(page));
         }
+    }
+
+    void readMarkdownPage(const fs::path& path) {
+        auto compiled = coursetool::compileMarkdownPage(path, compiler_, report_);
+        if (!compiled)
+            return;
+        Page page;
+        if (compiled->text)
+            page.source = compiledSource(Source::Kind::Page, *compiled->text, shown(path));
+        page.record =
+            record(compiledFile(path, std::move(compiled->fields)), coursetool::coursTable());
+        course_.pages.push_back(std::move(page));
+    }
+
+    void readMarkdownQuestion(const fs::path& path) {
+        auto compiled = coursetool::compileMarkdownQuestion(path, compiler_, report_);
+        if (!compiled)
+            return;
+        Question question;
+        if (compiled->text)
+            question.source = compiledSource(Source::Kind::Question, *compiled->text, shown(path));
+        if (compiled->siFaux)
+            question.comment =
+                compiledSource(Source::Kind::Comment, *compiled->siFaux, shown(path));
+        question.record =
+            record(compiledFile(path, std::move(compiled->fields)), coursetool::contenuTable());
+        course_.questions.push_back(std::move(question));
+    }
+
+    /// The fields are those that compiling gave; what is to be silent stands beside them.
+    SourceFile compiledFile(const fs::path& path, coursetool::Fields fields) {
+        SourceFile file{shown(path), std::move(fields), {}, {}, 0, {}};
+        Report told; // by the compiler already
+        if (const auto source = coursetool::readSource(path, told))
+            if (const auto parts = coursetool::splitFrontMatter(*source, file.file, told))
+                file.ignored = ignoredIn(parts->frontMatter, 2, file.file, report_);
+        return file;
     }
 
     void readExercises() {
@@ -144,15 +200,17 @@ private:
         file.fields = coursetool::readFields(file.source, 1, file.file,
                                              coursetool::frontMatterFields(table), report_);
         file.ignored = ignoredIn(file.source, 1, file.file, report_);
-        course_.tests.push_back(record(file, table));
+        course_.tests.push_back(record(std::move(file), table));
     }
 
     void readQuestion(const fs::path& path) {
+        if (isMarkdown(path))
+            return readMarkdownQuestion(path);
         auto file = readFile(path, coursetool::contenuTable(), report_);
         if (!file)
             return;
         Question question;
-        question.record = record(*file, coursetool::contenuTable());
+        question.record = record(*std::move(file), coursetool::contenuTable());
         const std::string_view body = file->body.value_or(std::string_view());
         const auto texts = coursetool::splitQuestion(body, file->bodyLine, file->file, report_);
         question.source =
@@ -166,7 +224,7 @@ private:
         course_.questions.push_back(std::move(question));
     }
 
-    static Record record(SourceFile& file, const coursetool::TableRule& table) {
+    static Record record(SourceFile&& file, const coursetool::TableRule& table) {
         Place place = file.fields.places.front().line > 0 ? file.fields.places.front()
                                                           : Place{file.file, 1, 1};
         Record record(table, std::move(file.fields), std::move(place), {});
@@ -174,6 +232,7 @@ private:
         return record;
     }
 
+    authoring::MarkdownCompiler compiler_;
     Report& report_;
     Course course_;
 };
@@ -279,8 +338,8 @@ bool isInstalledCourse(const fs::path& directory) {
     return !findIn(directory, coursetool::kCourseFile).empty();
 }
 
-Course readSources(const fs::path& directory, Report& report) {
-    return SourceReader(directory, report).read();
+Course readSources(const fs::path& directory, const page::TextMetrics& metrics, Report& report) {
+    return SourceReader(directory, metrics, report).read();
 }
 
 Course readInstallation(const fs::path& directory, Report& report) {
