@@ -8,7 +8,7 @@ namespace bench {
 /// Draws one page after the other.
 class Page {
 public:
-    explicit Page(markup::PictureShelf& pictures) : pictures_(pictures) {}
+    explicit Page(markup::PictureSource& pictures) : pictures_(pictures) {}
 
     void draw(const QString& source, const QString& title = {}) {
         markup::drawPage({source, markup::DrawnAs::CoursePage, title}, {state_, pictures_, fonts},
@@ -19,7 +19,7 @@ public:
     markup::DrawnPage drawn;
 
 private:
-    markup::PictureShelf& pictures_;
+    markup::PictureSource& pictures_;
     markup::DrawingState state_;
 };
 

@@ -51,9 +51,9 @@ private:
 };
 
 /// One photograph, by whatever name.
-class Shelf : public markup::PictureShelf {
+class OnePhotograph : public markup::PictureSource {
 public:
-    explicit Shelf(const QString& path) : picture_(std::make_shared<Photograph>(path)) {}
+    explicit OnePhotograph(const QString& path) : picture_(std::make_shared<Photograph>(path)) {}
 
     QString locatePicture(const QString& name) override { return name; }
     std::shared_ptr<const page::Picture> load(const QString&) override { return picture_; }
@@ -64,8 +64,8 @@ private:
 };
 
 bool writePdf(int count, const QString& directory) {
-    Shelf shelf(directory + QStringLiteral("/photo.jpg"));
-    bench::Page page(shelf);
+    OnePhotograph pictures(directory + QStringLiteral("/photo.jpg"));
+    bench::Page page(pictures);
     output::PdfFile pdf(directory + QStringLiteral("/cours.pdf"), page.fonts,
                         {QStringLiteral("Cours d’optique"), QStringLiteral("Un professeur"),
                          [](const QString& tag) { return tag.mid(3).toInt(); }});

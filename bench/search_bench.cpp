@@ -3,8 +3,8 @@
 //   search_bench time FILE WORD...   medians in milliseconds
 
 #include "jet/database_file.h"
-#include "search/course_pages.h"
 #include "search/page_search.h"
+#include "search/searchable_pages.h"
 #include "text/utf8.h"
 
 #include <sqlite3.h>
@@ -60,7 +60,7 @@ std::vector<Page> pagesOf(const char* file) {
     return pages;
 }
 
-std::size_t search(search::CoursePages& pages, const search::Query& query) {
+std::size_t search(search::SearchablePages& pages, const search::Query& query) {
     search::PageSearch search(pages, query);
     while (search.advance()) {
     }
@@ -132,9 +132,9 @@ int timeSearches(const char* file, std::span<char* const> words) {
     search::Query query{search::queryWords(text::toUtf16(typed))};
     std::size_t hits = 0;
     // As a window opens and its first search runs; its closing is not part of that.
-    std::optional<search::CoursePages> pages;
+    std::optional<search::SearchablePages> pages;
     const auto openAndSearch = [&] {
-        pages.emplace(*search::CoursePages::open(*jet::openDatabase(file)));
+        pages.emplace(*search::SearchablePages::open(*jet::openDatabase(file)));
         hits = search(*pages, query);
     };
     const auto close = [&] { pages.reset(); };

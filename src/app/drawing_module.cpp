@@ -27,8 +27,8 @@ struct NoDisplay {
 
 /// What drawing needs around it. A subcommand that compiles and then draws has two of them, one
 /// after the other or one within the other, and there is one application object.
-struct Ground {
-    Ground(int& argc, char** argv) {
+struct DrawingEnvironment {
+    DrawingEnvironment(int& argc, char** argv) {
         if (!QCoreApplication::instance())
             application.emplace(argc, argv);
     }
@@ -39,8 +39,9 @@ struct Ground {
 };
 
 /// The compiler, and what measuring text needs around it.
-struct GroundedCompiler : authoring::Compiler {
-    GroundedCompiler(int& argc, char** argv) : ground(argc, argv), compiler(ground.fonts) {}
+struct CompilerWithFonts : authoring::Compiler {
+    CompilerWithFonts(int& argc, char** argv)
+        : environment(argc, argv), compiler(environment.fonts) {}
 
     authoring::CompiledPage page(std::string_view markdown, int firstLine,
                                  std::string_view title) const override {
@@ -51,53 +52,53 @@ struct GroundedCompiler : authoring::Compiler {
         return compiler.question(markdown, firstLine, askedType);
     }
 
-    Ground ground;
+    DrawingEnvironment environment;
     authoring::MarkdownCompiler compiler;
 };
 
 } // namespace
 
 extern "C" Q_DECL_EXPORT authoring::Compiler* orvalenteMarkdown(int& argc, char** argv) {
-    return new GroundedCompiler(argc, argv);
+    return new CompilerWithFonts(argc, argv);
 }
 
 extern "C" Q_DECL_EXPORT void orvalenteTrace(int& argc, char** argv,
                                              const coursetool::TraceRequest& request,
                                              coursetool::OutputBuffer& out,
                                              coursetool::Report& report) {
-    const Ground ground(argc, argv);
+    const DrawingEnvironment environment(argc, argv);
     coursetool::ToolPictures pictures(request.course, request.drives, report);
-    coursetool::trace(request, ground.fonts, pictures, out, report);
+    coursetool::trace(request, environment.fonts, pictures, out, report);
 }
 
 extern "C" Q_DECL_EXPORT void orvalenteRender(int& argc, char** argv,
                                               const coursetool::RenderRequest& request,
                                               coursetool::Report& report) {
-    const Ground ground(argc, argv);
+    const DrawingEnvironment environment(argc, argv);
     coursetool::ToolPictures pictures(request.source.empty() ? request.course
                                                              : request.source.parent_path(),
                                       request.drives, report);
-    coursetool::render(request, ground.fonts, pictures, look::fieldPictures(), report);
+    coursetool::render(request, environment.fonts, pictures, look::fieldPictures(), report);
 }
 
 extern "C" Q_DECL_EXPORT void orvalentePrint(int& argc, char** argv,
                                              const coursetool::PrintRequest& request,
                                              coursetool::Report& report) {
-    const Ground ground(argc, argv);
+    const DrawingEnvironment environment(argc, argv);
     coursetool::ToolPictures pictures(request.course, request.drives, report);
-    coursetool::print(request, ground.fonts, pictures, report);
+    coursetool::print(request, environment.fonts, pictures, report);
 }
 
 extern "C" Q_DECL_EXPORT coursetool::ExitCode
 orvalenteCheck(int& argc, char** argv, const authoring::check::CheckRequest& request,
                coursetool::OutputBuffer& out, coursetool::Report& report) {
-    const Ground ground(argc, argv);
-    return authoring::check::check(request, ground.fonts, out, report);
+    const DrawingEnvironment environment(argc, argv);
+    return authoring::check::check(request, environment.fonts, out, report);
 }
 
 extern "C" Q_DECL_EXPORT void orvalenteBuildWarnings(int& argc, char** argv,
                                                      const std::filesystem::path& source,
                                                      coursetool::Report& report) {
-    const Ground ground(argc, argv);
-    authoring::check::warnOfWrongPages(source, ground.fonts, report);
+    const DrawingEnvironment environment(argc, argv);
+    authoring::check::warnOfWrongPages(source, environment.fonts, report);
 }

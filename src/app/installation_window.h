@@ -2,7 +2,7 @@
 
 #include "platform/error_box_starter.h"
 #include "shell/shared_state.h"
-#include "viewer/neighbours.h"
+#include "viewer/collaborators.h"
 
 class QWidget;
 
@@ -14,8 +14,8 @@ class InstallationWindow : public viewer::ModalWindow {
 public:
     /// All must outlive this one.
     InstallationWindow(const shell::SharedState& state, platform::ProcessStarter& processes,
-                       platform::Prompter& prompter, QWidget& window)
-        : state_(state), starter_(processes, prompter), window_(window) {}
+                       platform::MessageBoxes& messageBoxes, QWidget& window)
+        : state_(state), starter_(processes, messageBoxes), window_(window) {}
 
     void open() override;
 

@@ -5,7 +5,7 @@
 namespace app {
 
 void OrderWindow::open() {
-    orderform::Bondec(printing_, prompter_, &window_).exec();
+    orderform::Bondec(printing_, messageBoxes_, &window_).exec();
 }
 
 } // namespace app

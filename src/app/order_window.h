@@ -2,7 +2,7 @@
 
 #include "orderform/order_printing.h"
 #include "platform/message_box.h"
-#include "viewer/neighbours.h"
+#include "viewer/collaborators.h"
 
 class QWidget;
 
@@ -12,15 +12,15 @@ namespace app {
 class OrderWindow : public viewer::ModalWindow {
 public:
     /// All must outlive this one.
-    OrderWindow(const orderform::PrintingParts& printing, platform::Prompter& prompter,
+    OrderWindow(const orderform::PrintingParts& printing, platform::MessageBoxes& messageBoxes,
                 QWidget& window)
-        : printing_(printing), prompter_(prompter), window_(window) {}
+        : printing_(printing), messageBoxes_(messageBoxes), window_(window) {}
 
     void open() override;
 
 private:
     orderform::PrintingParts printing_;
-    platform::Prompter& prompter_;
+    platform::MessageBoxes& messageBoxes_;
     QWidget& window_;
 };
 

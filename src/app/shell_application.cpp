@@ -130,24 +130,24 @@ private:
 struct ShellApplication::Parts {
     Parts(const CommandLine& commandLine, double scale)
         : screen(scale), zoom(scale), window(state, fonts, screen),
-          launcher(state, prompter, processes, activator, window), modules(launcher),
+          launcher(state, messageBoxes, processes, activator, window), modules(launcher),
           links(window, fonts, window.shownPage().links),
-          orderForm({printerSetup, printer, fonts}, prompter, window),
-          installation(state, processes, prompter, window), search(state, window),
+          orderForm({printerSetup, printer, fonts}, messageBoxes, window),
+          installation(state, processes, messageBoxes, window), search(state, window),
           drives(courseDirectory(commandLine), commandLine.drives),
           symbols(courseDirectory(commandLine)),
-          exercise(window, {state, drawing, pictures, fonts, screen, prompter, calculator,
+          exercise(window, {state, drawing, pictures, fonts, screen, messageBoxes, calculator,
                             commandLine.author}),
           pages(state, record, window, tools, window.shownPage(), video),
           actions(state, pages, window, modules, exercise, orderForm),
-          neighbours{video,  links,      printing, modules,      exercise,  orderForm,
-                     search, calculator, help,     installation, exitScreen},
-          commands(state, actions, window, neighbours, prompter), course(record),
+          collaborators{video,  links,      printing, modules,      exercise,  orderForm,
+                        search, calculator, help,     installation, exitScreen},
+          commands(state, actions, window, collaborators, messageBoxes), course(record),
           startUp(state, courseDirectory(commandLine),
-                  {screen, prompter, window, course, warning}) {
+                  {screen, messageBoxes, window, course, warning}) {
         zoom.setWindow(window, {[this](double now) { screen.setScale(now); },
                                 [this] { return window.ownPlace(); }});
-        window.attach({commands, actions, pages, neighbours, zoom,
+        window.attach({commands, actions, pages, collaborators, zoom,
                        [this] { return startUp.run() == shell::StartUp::Outcome::GoOn; }});
     }
 
@@ -165,7 +165,7 @@ struct ShellApplication::Parts {
     page::FontBook fonts;
     platform::QtScreen screen;
     look::Zoom zoom;
-    look::DialogPrompter prompter;
+    look::DialogMessageBoxes messageBoxes;
     platform::QtProcesses processes;
     OtherWindows otherWindows;
     platform::PatientActivator activator{otherWindows, whenNotFound()};
@@ -184,7 +184,7 @@ struct ShellApplication::Parts {
 
     platform::MountedDrives drives;
     platform::QtBeeper beeper;
-    coursedata::DataLocation location{state, drives, prompter, beeper};
+    coursedata::DataLocation location{state, drives, messageBoxes, beeper};
     viewer::PageVideo video{state, window.shownPage(), location, window, &loadVideoDevice};
     coursedata::ImageList symbols;
     coursedata::CoursePictures pictures{location, symbols};
@@ -192,15 +192,15 @@ struct ShellApplication::Parts {
     markup::DrawingTools tools{drawing, pictures, fonts, &window};
     viewer::PageLoader pages;
     output::QtPrinter printer{fonts, &loadPdfPrinter};
-    look::QtPrinterSetup printerSetup{printer, prompter};
+    look::QtPrinterSetup printerSetup{printer, messageBoxes};
     platform::SystemHelpViewer helpViewer{otherWindows};
-    Help help{state, helpViewer, {printerSetup, printer, prompter}};
+    Help help{state, helpViewer, {printerSetup, printer, messageBoxes}};
     output::EscapeWatch escape{window};
     viewer::PagePrinter pagePrinter{
         {state, record, tools, printer, [this] { return escape.isAsked(); }}};
-    viewer::PrintCommand printing{printerSetup, pagePrinter, prompter};
+    viewer::PrintCommand printing{printerSetup, pagePrinter, messageBoxes};
     viewer::ActionDispatcher actions;
-    viewer::Neighbours neighbours;
+    viewer::Collaborators collaborators;
     viewer::MainCommands commands;
     CourseData course;
     platform::SystemDisplaySettings displaySettings;

@@ -50,8 +50,8 @@ std::size_t leftByErasing(TextView entry) {
 
 } // namespace
 
-KeyRules::KeyRules(Memory& memory, Face& face, char16_t decimalPoint)
-    : memory_(memory), face_(face), decimalPoint_(decimalPoint) {}
+KeyRules::KeyRules(Memory& memory, CalculatorView& view, char16_t decimalPoint)
+    : memory_(memory), view_(view), decimalPoint_(decimalPoint) {}
 
 void KeyRules::press(const Key& key) {
     if (evaluating_)
@@ -104,7 +104,7 @@ bool KeyRules::type(char16_t character) {
 
 void KeyRules::show(Text text) {
     display_ = std::move(text);
-    face_.showText(display_);
+    view_.showText(display_);
 }
 
 void KeyRules::append(TextView text) {
@@ -195,7 +195,7 @@ Answer KeyRules::answer() {
     evaluating_ = true;
     Hooks hooks;
     hooks.cancelled = [this] {
-        face_.breathe();
+        view_.breathe();
         return isBlank(display_);
     };
     Answer found = answerTo(derniere_, angles_, format_, std::move(hooks));
@@ -206,7 +206,7 @@ Answer KeyRules::answer() {
 /// Shows what is to be said; a message with a beep.
 void KeyRules::say(const Answer& answer) {
     if (answer.isMessage)
-        face_.beep();
+        view_.beep();
     show(answer.line);
 }
 

@@ -11,9 +11,9 @@ struct Memory {
 };
 
 /// What the key rules need of a window.
-class Face {
+class CalculatorView {
 public:
-    virtual ~Face() = default;
+    virtual ~CalculatorView() = default;
 
     /// The display's text has become `text`.
     virtual void showText(TextView text) = 0;
@@ -29,7 +29,7 @@ class KeyRules {
 public:
     /// `decimalPoint` is that of the user's language; only the scientific recall of the memory
     /// shows it.
-    KeyRules(Memory& memory, Face& face, char16_t decimalPoint);
+    KeyRules(Memory& memory, CalculatorView& view, char16_t decimalPoint);
 
     /// Empties the entry, as each loading of the window does.
     void load() { saisie_.clear(); }
@@ -67,7 +67,7 @@ private:
     void say(const Answer& answer);
 
     Memory& memory_;
-    Face& face_;
+    CalculatorView& view_;
     const char16_t decimalPoint_;
 
     Text saisie_;   ///< the expression being typed

@@ -14,7 +14,7 @@ class Display;
 /// main window only.
 ///
 /// Escape during an evaluation ends it; everything else waits for its end, closing the window too.
-class Machine : public QWidget, private Face {
+class Machine : public QWidget, private CalculatorView {
 public:
     /// `memory` must outlive the window.
     explicit Machine(Memory& memory);

@@ -1,15 +1,15 @@
 #pragma once
 
 #include "coursedata/data_location.h"
-#include "coursedata/held_pictures.h"
 #include "coursedata/image_list.h"
-#include "markup/picture_shelf.h"
+#include "coursedata/picture_cache.h"
+#include "markup/picture_source.h"
 
 namespace coursedata {
 
 /// The pictures of a course: files in the installation directory and on its discs, and the symbols
 /// of the image list.
-class CoursePictures : public markup::PictureShelf {
+class CoursePictures : public markup::PictureSource {
 public:
     CoursePictures(DataLocation& location, ImageList& symbols)
         : location_(location), symbols_(symbols) {}
@@ -26,7 +26,7 @@ private:
 
     DataLocation& location_;
     ImageList& symbols_;
-    HeldPictures files_{kMostHeld};
+    PictureCache files_{kMostHeld};
 };
 
 } // namespace coursedata

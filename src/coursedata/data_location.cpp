@@ -62,7 +62,7 @@ bool DataLocation::wantsToRetry() {
         QStringLiteral("CD-ROM absent"),
         QStringLiteral("Veuillez introduire le CD-ROM « ORVALENTE SCIENCES » dans le lecteur."),
         platform::Message::Icon::Exclamation, platform::Message::Buttons::RetryCancel};
-    return prompter_.ask(question) == platform::Answer::Retry;
+    return messageBoxes_.ask(question) == platform::Answer::Retry;
 }
 
 } // namespace coursedata

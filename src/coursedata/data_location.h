@@ -20,8 +20,9 @@ namespace coursedata {
 class DataLocation {
 public:
     DataLocation(DataDirectories& directories, const platform::Drives& drives,
-                 platform::Prompter& prompter, platform::Beeper& beeper)
-        : directories_(directories), drives_(drives), prompter_(prompter), beeper_(beeper) {}
+                 platform::MessageBoxes& messageBoxes, platform::Beeper& beeper)
+        : directories_(directories), drives_(drives), messageBoxes_(messageBoxes), beeper_(beeper) {
+    }
 
     /// The path of a picture, which can be opened; the disc is asked for as long as it takes. Empty
     /// when the person gave up. A name of blanks alone comes back as it is.
@@ -44,7 +45,7 @@ private:
 
     DataDirectories& directories_;
     platform::DriveSearch drives_;
-    platform::Prompter& prompter_;
+    platform::MessageBoxes& messageBoxes_;
     platform::Beeper& beeper_;
 };
 

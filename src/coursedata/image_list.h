@@ -1,6 +1,6 @@
 #pragma once
 
-#include "coursedata/held_pictures.h"
+#include "coursedata/picture_cache.h"
 
 #include <QString>
 
@@ -30,7 +30,7 @@ private:
 
     QString courseDirectory_;
     std::optional<std::map<std::string, QString>> paths_;
-    HeldPictures pictures_{kMostHeld};
+    PictureCache pictures_{kMostHeld};
 };
 
 } // namespace coursedata

@@ -61,7 +61,7 @@ SourcePlace CourseQuestions::place(int position) const {
 }
 
 page::Sheet CourseQuestions::sheet(int position, const page::TextMetrics& metrics,
-                                   markup::PictureShelf& pictures,
+                                   markup::PictureSource& pictures,
                                    const page::FieldPictures& fields, Report& report) {
     const markup::PageText text{source(position), markup::DrawnAs::Question};
     markup::DrawingState state;

@@ -2,7 +2,7 @@
 
 #include "coursetool/course_records.h"
 #include "coursetool/lost_text.h"
-#include "markup/picture_shelf.h"
+#include "markup/picture_source.h"
 #include "page/sheet.h"
 #include "page/text_metrics.h"
 
@@ -35,7 +35,7 @@ public:
     /// The sheet of the question at a position; the tags of its links are page codes. Warns of
     /// what of its source nobody sees.
     page::Sheet sheet(int position, const page::TextMetrics& metrics,
-                      markup::PictureShelf& pictures, const page::FieldPictures& fields,
+                      markup::PictureSource& pictures, const page::FieldPictures& fields,
                       Report& report);
 
     /// Where the source of the question at a position is.

@@ -58,7 +58,7 @@ FieldText numberText(const FieldRule& rule, double number) {
 
 FieldText textAsNumber(const FieldRule& rule, const std::u16string& text) {
     const std::string utf8 = text::toUtf8(text);
-    if (const auto number = wholeNumber(utf8))
+    if (const auto number = canonicalNumber(utf8))
         return numberText(rule, *number);
     return {tomlString(utf8), "le texte " + tomlString(utf8) +
                                   " n’est pas un nombre : build le "

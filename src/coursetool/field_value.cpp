@@ -26,7 +26,7 @@ FieldResult refuse(const FieldRule& rule, std::string_view expected, std::string
 /// The number that the author probably meant.
 std::optional<std::int64_t> meantNumber(const SourceValue& given) {
     if (const auto* text = std::get_if<std::string>(&given))
-        return wholeNumber(*text);
+        return canonicalNumber(*text);
     const auto* number = std::get_if<double>(&given);
     if (number && std::abs(*number) < 1e9)
         return static_cast<std::int64_t>(std::llround(*number));
@@ -89,7 +89,7 @@ NumberRange numberRange(jet::ColumnType type) {
     return type == jet::ColumnType::Integer ? rangeOf<std::int16_t>() : rangeOf<std::int32_t>();
 }
 
-std::optional<std::int64_t> wholeNumber(std::string_view text) {
+std::optional<std::int64_t> canonicalNumber(std::string_view text) {
     std::int64_t number = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
     if (error != std::errc() || std::to_string(number) != text)

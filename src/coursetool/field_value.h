@@ -28,6 +28,6 @@ struct NumberRange {
 NumberRange numberRange(jet::ColumnType type);
 
 /// The whole of `text` as a decimal number in its shortest form, as it would be written back.
-std::optional<std::int64_t> wholeNumber(std::string_view text);
+std::optional<std::int64_t> canonicalNumber(std::string_view text);
 
 } // namespace coursetool

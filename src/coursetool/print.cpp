@@ -10,8 +10,8 @@
 
 namespace coursetool {
 
-void print(const PrintRequest& request, const page::FontBook& fonts, markup::PictureShelf& pictures,
-           Report& report) {
+void print(const PrintRequest& request, const page::FontBook& fonts,
+           markup::PictureSource& pictures, Report& report) {
     const auto course = openRecords(request.course, kCourseFile, coursTable(), report);
     if (!course)
         return;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "coursetool/drawing_request.h"
-#include "markup/picture_shelf.h"
+#include "markup/picture_source.h"
 #include "page/faces/font_book.h"
 
 namespace coursetool {
@@ -10,7 +10,7 @@ namespace coursetool {
 /// course: all pages of its range, each with its footer.
 ///
 /// Faults: no course, no page of that number, a range without pages, a file that cannot be written.
-void print(const PrintRequest& request, const page::FontBook& fonts, markup::PictureShelf& pictures,
-           Report& report);
+void print(const PrintRequest& request, const page::FontBook& fonts,
+           markup::PictureSource& pictures, Report& report);
 
 } // namespace coursetool

@@ -1,7 +1,7 @@
 #include "coursetool/render.h"
 
-#include "coursetool/course_pages.h"
 #include "coursetool/course_questions.h"
+#include "coursetool/course_sheets.h"
 #include "coursetool/lost_text.h"
 #include "coursetool/page_source.h"
 #include "coursetool/paths.h"
@@ -36,11 +36,11 @@ private:
 class Renderer {
 public:
     Renderer(const RenderRequest& request, const page::FontBook& fonts,
-             markup::PictureShelf& pictures, const page::FieldPictures& fields, Report& report)
+             markup::PictureSource& pictures, const page::FieldPictures& fields, Report& report)
         : request_(request), fonts_(fonts), pictures_(pictures), fields_(fields), report_(report) {}
 
     void renderPage(int number) {
-        auto pages = CoursePages::open(request_.course, report_);
+        auto pages = CourseSheets::open(request_.course, report_);
         if (!pages)
             return;
         const int position = pages->positionShown(number);
@@ -66,7 +66,7 @@ public:
     }
 
     void renderAll() {
-        auto pages = CoursePages::open(request_.course, report_);
+        auto pages = CourseSheets::open(request_.course, report_);
         if (!pages)
             return;
         FileNames names;
@@ -101,7 +101,7 @@ public:
 
 private:
     /// Refers to both, which outlive the files.
-    static SheetSet asOne(const CoursePages& pages, const QStringList& names) {
+    static SheetSet asOne(const CourseSheets& pages, const QStringList& names) {
         return {pages.title(),
                 [&](const QString& tag) {
                     const auto position = pages.positionShown(tag);
@@ -135,7 +135,7 @@ private:
 
     const RenderRequest& request_;
     const page::FontBook& fonts_;
-    markup::PictureShelf& pictures_;
+    markup::PictureSource& pictures_;
     const page::FieldPictures& fields_;
     Report& report_;
 };
@@ -143,7 +143,7 @@ private:
 } // namespace
 
 void render(const RenderRequest& request, const page::FontBook& fonts,
-            markup::PictureShelf& pictures, const page::FieldPictures& fields, Report& report) {
+            markup::PictureSource& pictures, const page::FieldPictures& fields, Report& report) {
     Renderer renderer(request, fonts, pictures, fields, report);
     if (!request.source.empty())
         renderer.renderSource();

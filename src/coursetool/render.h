@@ -1,7 +1,7 @@
 #pragma once
 
 #include "coursetool/drawing_request.h"
-#include "markup/picture_shelf.h"
+#include "markup/picture_source.h"
 #include "page/faces/font_book.h"
 #include "page/field_view.h"
 
@@ -22,6 +22,6 @@ namespace coursetool {
 ///
 /// Faults: no course, no page or question of that number, a file that cannot be written.
 void render(const RenderRequest& request, const page::FontBook& fonts,
-            markup::PictureShelf& pictures, const page::FieldPictures& fields, Report& report);
+            markup::PictureSource& pictures, const page::FieldPictures& fields, Report& report);
 
 } // namespace coursetool

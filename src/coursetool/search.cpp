@@ -5,8 +5,8 @@
 #include "coursetool/paths.h"
 #include "coursetool/tables.h"
 #include "jet/database_file.h"
-#include "search/course_pages.h"
 #include "search/page_search.h"
+#include "search/searchable_pages.h"
 #include "text/utf8.h"
 
 namespace coursetool {
@@ -32,7 +32,7 @@ void searchPages(const SearchRequest& request, OutputBuffer& out, Report& report
         report.fault({shown(*file)}, database.error().sentence);
         return;
     }
-    auto pages = search::CoursePages::open(*database, 0);
+    auto pages = search::SearchablePages::open(*database, 0);
     if (!pages) {
         report.fault({shown(*file)}, pages.error().sentence);
         return;

@@ -14,7 +14,7 @@ namespace coursetool {
 
 /// The pictures of a course, for work that nobody waits beside: a disc that is missing is not asked
 /// for. Each missing picture is told once, as a warning.
-class ToolPictures : public markup::PictureShelf {
+class ToolPictures : public markup::PictureSource {
 public:
     /// Without a course (`course` empty) there are the symbols and what the drives hold. `drives`
     /// are directories by letter, in upper case.
@@ -27,7 +27,7 @@ public:
 
 private:
     /// Nobody is there to answer, and nobody hears a beep.
-    struct Absent : platform::Prompter, platform::Beeper {
+    struct Absent : platform::MessageBoxes, platform::Beeper {
         platform::Answer ask(const platform::Message&) override { return platform::Answer::Cancel; }
         void beep() override {}
     };

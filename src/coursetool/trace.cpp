@@ -1,7 +1,7 @@
 #include "coursetool/trace.h"
 
-#include "coursetool/course_pages.h"
 #include "coursetool/course_questions.h"
+#include "coursetool/course_sheets.h"
 #include "coursetool/lost_text.h"
 #include "coursetool/page_source.h"
 #include "coursetool/paths.h"
@@ -15,11 +15,11 @@ namespace {
 class Tracer {
 public:
     Tracer(const TraceRequest& request, const page::TextMetrics& metrics,
-           markup::PictureShelf& pictures, OutputBuffer& out, Report& report)
+           markup::PictureSource& pictures, OutputBuffer& out, Report& report)
         : request_(request), metrics_(metrics), pictures_(pictures), out_(out), report_(report) {}
 
     void tracePage(int number) {
-        auto pages = CoursePages::open(request_.course, report_);
+        auto pages = CourseSheets::open(request_.course, report_);
         if (!pages)
             return;
         const int position = pages->positionShown(number);
@@ -65,7 +65,7 @@ private:
 
     const TraceRequest& request_;
     const page::TextMetrics& metrics_;
-    markup::PictureShelf& pictures_;
+    markup::PictureSource& pictures_;
     OutputBuffer& out_;
     Report& report_;
 };
@@ -73,7 +73,7 @@ private:
 } // namespace
 
 void trace(const TraceRequest& request, const page::TextMetrics& metrics,
-           markup::PictureShelf& pictures, OutputBuffer& out, Report& report) {
+           markup::PictureSource& pictures, OutputBuffer& out, Report& report) {
     Tracer tracer(request, metrics, pictures, out, report);
     if (!request.source.empty())
         tracer.traceSource();

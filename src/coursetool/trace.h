@@ -1,7 +1,7 @@
 #pragma once
 
 #include "coursetool/drawing_request.h"
-#include "markup/picture_shelf.h"
+#include "markup/picture_source.h"
 #include "page/text_metrics.h"
 
 namespace coursetool {
@@ -13,6 +13,6 @@ namespace coursetool {
 /// else. Of a bare source, its line ends as they stand; lines that are not UTF-8 are faults, and
 /// are drawn with U+FFFD for each byte that is wrong.
 void trace(const TraceRequest& request, const page::TextMetrics& metrics,
-           markup::PictureShelf& pictures, OutputBuffer& out, Report& report);
+           markup::PictureSource& pictures, OutputBuffer& out, Report& report);
 
 } // namespace coursetool

@@ -170,7 +170,7 @@ void Exo::addAuthoringSwitch() {
     source_->setContextMenuPolicy(Qt::NoContextMenu); // Qt's own menu is not in French
     source_->setGeometry(kFrame1);
     source_->hide();
-    edit_.emplace(records_.record(), parts_.prompter);
+    edit_.emplace(records_.record(), parts_.messageBoxes);
 }
 
 void Exo::run() {

@@ -50,10 +50,10 @@ public:
         shell::SharedState& shared;
         TestState& test;
         markup::DrawingState& drawing;
-        markup::PictureShelf& pictures;
+        markup::PictureSource& pictures;
         const page::FontBook& fonts;
         const platform::Screen& screen;
-        platform::Prompter& prompter;
+        platform::MessageBoxes& messageBoxes;
         CourseWindow& course;
         CalculatorBeside& calculator;
         bool author = false; ///< shows the authoring switch

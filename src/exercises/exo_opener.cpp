@@ -11,7 +11,7 @@ void ExoOpener::open() {
         return;
     const QScopedValueRollback<bool> open(isOpen_, true);
     Exo exo({parts_.shared, test_, parts_.drawing, parts_.pictures, parts_.fonts, parts_.screen,
-             parts_.prompter, *this, parts_.calculator, parts_.author},
+             parts_.messageBoxes, *this, parts_.calculator, parts_.author},
             window_);
     exo.run();
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "exercises/exo.h"
-#include "viewer/neighbours.h"
+#include "viewer/collaborators.h"
 
 namespace viewer {
 class Multim;
@@ -16,10 +16,10 @@ public:
     struct Parts {
         shell::SharedState& shared;
         markup::DrawingState& drawing;
-        markup::PictureShelf& pictures;
+        markup::PictureSource& pictures;
         const page::FontBook& fonts;
         const platform::Screen& screen;
-        platform::Prompter& prompter;
+        platform::MessageBoxes& messageBoxes;
         CalculatorBeside& calculator;
         bool author = false; ///< shows the authoring switch
     };

@@ -227,15 +227,15 @@ void Exo::refresh(page::SurfaceId surface) {
 }
 
 void Exo::tell(const Message& message) {
-    parts_.prompter.ask({.title = QString::fromStdU16String(message.title),
-                         .text = QString::fromStdU16String(message.text)});
+    parts_.messageBoxes.ask({.title = QString::fromStdU16String(message.title),
+                             .text = QString::fromStdU16String(message.text)});
 }
 
 bool Exo::ask(const Message& question) {
-    return parts_.prompter.ask({.title = QString::fromStdU16String(question.title),
-                                .text = QString::fromStdU16String(question.text),
-                                .icon = platform::Message::Icon::Question,
-                                .buttons = platform::Message::Buttons::YesNo}) ==
+    return parts_.messageBoxes.ask({.title = QString::fromStdU16String(question.title),
+                                    .text = QString::fromStdU16String(question.text),
+                                    .icon = platform::Message::Icon::Question,
+                                    .buttons = platform::Message::Buttons::YesNo}) ==
            platform::Answer::Yes;
 }
 

@@ -29,7 +29,7 @@ std::optional<QString> QuestionEdit::write(const std::optional<QString>& typed) 
 bool QuestionEdit::commit(const std::optional<QString>& typed) {
     const auto reason = write(typed);
     if (reason)
-        prompter_.ask(
+        messageBoxes_.ask(
             failure(*reason, u"Votre texte reste affiché.", platform::Message::Buttons::Ok));
     return !reason;
 }
@@ -41,7 +41,8 @@ QuestionEdit::Closing QuestionEdit::commitForClosing(const std::optional<QString
     const auto message =
         failure(*reason, u"Fermer quand même\u00A0? Votre texte restera dans le presse-papiers.",
                 platform::Message::Buttons::YesNo);
-    return prompter_.ask(message) == platform::Answer::Yes ? Closing::Abandoned : Closing::Refused;
+    return messageBoxes_.ask(message) == platform::Answer::Yes ? Closing::Abandoned
+                                                               : Closing::Refused;
 }
 
 } // namespace exercises

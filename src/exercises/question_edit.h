@@ -13,8 +13,8 @@ namespace exercises {
 /// that and nothing else, so never what a wrong answer adds to it.
 class QuestionEdit {
 public:
-    QuestionEdit(coursedata::QuestionRecord& record, platform::Prompter& prompter)
-        : record_(record), prompter_(prompter) {}
+    QuestionEdit(coursedata::QuestionRecord& record, platform::MessageBoxes& messageBoxes)
+        : record_(record), messageBoxes_(messageBoxes) {}
 
     /// Writes `typed`, its last line ended; absent when the author has typed nothing. False when it
     /// could not be written: the author has been told, and it must stay in sight.
@@ -32,7 +32,7 @@ private:
     std::optional<QString> write(const std::optional<QString>& typed);
 
     coursedata::QuestionRecord& record_;
-    platform::Prompter& prompter_;
+    platform::MessageBoxes& messageBoxes_;
 };
 
 } // namespace exercises

@@ -217,9 +217,9 @@ void HelpWindow::print() {
     if (help::printDocument(printing_.printer, document,
                             kTitle + QStringLiteral(" – ") + page.title))
         return;
-    printing_.prompter.ask({QStringLiteral("Imprimer"),
-                            QStringLiteral("La page n’a pas pu être imprimée."),
-                            platform::Message::Icon::Exclamation, platform::Message::Buttons::Ok});
+    printing_.messageBoxes.ask(
+        {QStringLiteral("Imprimer"), QStringLiteral("La page n’a pas pu être imprimée."),
+         platform::Message::Icon::Exclamation, platform::Message::Buttons::Ok});
 }
 
 void HelpWindow::leaveSearchOrClose() {

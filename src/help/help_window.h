@@ -23,7 +23,7 @@ class HitBar;
 struct HelpPrinting {
     platform::PrinterSetup& setup;
     output::QtPrinter& printer;
-    platform::Prompter& prompter;
+    platform::MessageBoxes& messageBoxes;
 };
 
 /// The window with the manual: contents or search results at the left, the page at the right.

@@ -36,13 +36,13 @@ Binary littleEndian(Number number) {
 }
 
 /// A whole number of any width; a Boolean is none.
-std::optional<std::int32_t> wholeNumber(const Value& value) {
+std::optional<std::int32_t> integerValue(const Value& value) {
     return value.as<bool>() ? std::nullopt : value.integer();
 }
 
 template <class Integer>
 EncodedCell encodeInteger(const Value& value) {
-    const auto number = wholeNumber(value);
+    const auto number = integerValue(value);
     if (!number)
         return kOtherType;
     if (*number < std::numeric_limits<Integer>::min() ||
@@ -54,13 +54,13 @@ EncodedCell encodeInteger(const Value& value) {
 EncodedCell encodeCurrency(const Value& value) {
     if (const auto* currency = value.as<Currency>())
         return littleEndian(currency->tenThousandths);
-    if (const auto number = wholeNumber(value))
+    if (const auto number = integerValue(value))
         return littleEndian(std::int64_t{*number} * 10000);
     return kOtherType;
 }
 
 EncodedCell encodeDouble(const Value& value) {
-    if (!value.as<double>() && !value.as<float>() && !wholeNumber(value))
+    if (!value.as<double>() && !value.as<float>() && !integerValue(value))
         return kOtherType;
     return littleEndian(*value.number());
 }
@@ -69,7 +69,7 @@ EncodedCell encodeDouble(const Value& value) {
 EncodedCell encodeSingle(const Value& value) {
     if (const auto* single = value.as<float>())
         return littleEndian(*single);
-    const auto number = wholeNumber(value);
+    const auto number = integerValue(value);
     if (!number)
         return kOtherType;
     if (std::abs(std::int64_t{*number}) > 1 << std::numeric_limits<float>::digits)

@@ -72,19 +72,19 @@ std::vector<Entries> splitOverPages(Entries entries) {
     return pages;
 }
 
-struct Neighbours {
+struct Siblings {
     std::uint32_t previous = 0;
     std::uint32_t next = 0;
 };
 
-void writePage(std::uint32_t number, PageType type, std::uint32_t definition, Neighbours neighbours,
+void writePage(std::uint32_t number, PageType type, std::uint32_t definition, Siblings siblings,
                Entries entries, OutputFile& file) {
     PageImage image(kJet4.pageSize);
     image[0] = static_cast<std::uint8_t>(type);
     image[1] = 1;
     put32(image, kDefinitionAt, definition);
-    put32(image, kPreviousAt, neighbours.previous);
-    put32(image, kNextAt, neighbours.next);
+    put32(image, kPreviousAt, siblings.previous);
+    put32(image, kNextAt, siblings.next);
     std::size_t end = 0;
     for (const auto& entry : entries) {
         putBytes(image, kEntriesAt + end, entry);
@@ -161,9 +161,9 @@ PageSet IndexBuilder::write(std::uint32_t root, std::uint32_t definition, Output
         std::generate(numbers.begin(), numbers.end(), [&file] { return file.allocate(); });
         std::vector<Entry> above;
         for (std::size_t i = 0; i < pages.size(); ++i) {
-            const Neighbours neighbours{i > 0 ? numbers[i - 1] : 0,
-                                        i + 1 < pages.size() ? numbers[i + 1] : 0};
-            writePage(numbers[i], type, definition, neighbours, pages[i], file);
+            const Siblings siblings{i > 0 ? numbers[i - 1] : 0,
+                                    i + 1 < pages.size() ? numbers[i + 1] : 0};
+            writePage(numbers[i], type, definition, siblings, pages[i], file);
             owned.insert(numbers[i]);
             above.push_back(pages[i].back());
             appendBigEndian(numbers[i], 4, above.back());

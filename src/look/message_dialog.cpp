@@ -117,7 +117,7 @@ void MessageDialog::paintEvent(QPaintEvent*) {
     sign_.paint(painter, kSign, Icon::Style::Coloured);
 }
 
-platform::Answer DialogPrompter::ask(const platform::Message& message) {
+platform::Answer DialogMessageBoxes::ask(const platform::Message& message) {
     MessageDialog dialog(message, QApplication::activeWindow());
     dialog.exec();
     return dialog.answer();

@@ -35,7 +35,7 @@ private:
 };
 
 /// Asks in message boxes over the window that is active.
-class DialogPrompter : public platform::Prompter {
+class DialogMessageBoxes : public platform::MessageBoxes {
 public:
     platform::Answer ask(const platform::Message& message) override;
 };

@@ -55,10 +55,11 @@ void nameFile(QPrinter& device) {
 
 platform::PrinterSetup::Outcome QtPrinterSetup::ask() {
     if (printer_.isBusy()) {
-        prompter_.ask({QStringLiteral("Imprimer"),
-                       QStringLiteral("Une impression est en cours\u00A0: attendez qu’elle soit "
-                                      "terminée, ou arrêtez-la."),
-                       platform::Message::Icon::Exclamation, platform::Message::Buttons::Ok});
+        messageBoxes_.ask(
+            {QStringLiteral("Imprimer"),
+             QStringLiteral("Une impression est en cours\u00A0: attendez qu’elle soit "
+                            "terminée, ou arrêtez-la."),
+             platform::Message::Icon::Exclamation, platform::Message::Buttons::Ok});
         return Outcome::Busy;
     }
     if (!speaksFrench_)
@@ -86,7 +87,8 @@ platform::PrinterSetup::Outcome QtPrinterSetup::askForFile() {
     QPrinter& device = printer_.device();
     device.setOutputFormat(QPrinter::PdfFormat);
     const QString file = device.outputFileName().isEmpty() ? usualFile() : device.outputFileName();
-    PrintSetupDialog dialog({device.pageLayout(), file}, prompter_, QApplication::activeWindow());
+    PrintSetupDialog dialog({device.pageLayout(), file}, messageBoxes_,
+                            QApplication::activeWindow());
     const Outcome outcome = answerOf(dialog);
     if (outcome == Outcome::Confirmed) {
         device.setPageLayout(dialog.settings().layout);

@@ -12,9 +12,9 @@ namespace look {
 /// PDF file. While a job is under way nothing is set up, which would cut it.
 class QtPrinterSetup : public platform::PrinterSetup {
 public:
-    /// `prompter` asks whether a file is to be replaced, and says what is wrong with its name.
-    QtPrinterSetup(output::QtPrinter& printer, platform::Prompter& prompter)
-        : printer_(printer), prompter_(prompter) {}
+    /// `messageBoxes` asks whether a file is to be replaced, and says what is wrong with its name.
+    QtPrinterSetup(output::QtPrinter& printer, platform::MessageBoxes& messageBoxes)
+        : printer_(printer), messageBoxes_(messageBoxes) {}
 
     Outcome ask() override;
 
@@ -23,7 +23,7 @@ private:
     Outcome askForFile();
 
     output::QtPrinter& printer_;
-    platform::Prompter& prompter_;
+    platform::MessageBoxes& messageBoxes_;
     bool speaksFrench_ = false;
 };
 

@@ -68,11 +68,11 @@ QHBoxLayout* newRow() {
 
 } // namespace
 
-PrintSetupDialog::PrintSetupDialog(const PrintSettings& settings, platform::Prompter& prompter,
-                                   QWidget* parent)
+PrintSetupDialog::PrintSetupDialog(const PrintSettings& settings,
+                                   platform::MessageBoxes& messageBoxes, QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                           Qt::WindowCloseButtonHint),
-      prompter_(prompter), rows_(new QGridLayout(this)), file_(new TextField(this)),
+      messageBoxes_(messageBoxes), rows_(new QGridLayout(this)), file_(new TextField(this)),
       size_(new QComboBox(this)) {
     setWindowTitle(QStringLiteral("Imprimer"));
     rows_->setContentsMargins(2 * kGrid, 2 * kGrid, 2 * kGrid, 2 * kGrid);
@@ -218,8 +218,8 @@ void PrintSetupDialog::browse() {
 }
 
 void PrintSetupDialog::refuse(const QString& sentence) {
-    prompter_.ask({windowTitle(), sentence, platform::Message::Icon::Exclamation,
-                   platform::Message::Buttons::Ok});
+    messageBoxes_.ask({windowTitle(), sentence, platform::Message::Icon::Exclamation,
+                       platform::Message::Buttons::Ok});
     file_->setFocus();
     file_->selectAll();
 }
@@ -233,7 +233,7 @@ void PrintSetupDialog::accept() {
     const platform::Message replacing{
         windowTitle(), QStringLiteral("Ce fichier existe déjà. Le remplacer\u00A0?"),
         platform::Message::Icon::Question, platform::Message::Buttons::YesNo};
-    if (QFileInfo::exists(file) && prompter_.ask(replacing) != platform::Answer::Yes)
+    if (QFileInfo::exists(file) && messageBoxes_.ask(replacing) != platform::Answer::Yes)
         return;
     QDialog::accept();
 }

@@ -27,8 +27,9 @@ struct PrintSettings {
 /// written, and one that is there already after a question.
 class PrintSetupDialog : public QDialog {
 public:
-    /// `prompter` must outlive the dialog.
-    PrintSetupDialog(const PrintSettings& settings, platform::Prompter& prompter, QWidget* parent);
+    /// `messageBoxes` must outlive the dialog.
+    PrintSetupDialog(const PrintSettings& settings, platform::MessageBoxes& messageBoxes,
+                     QWidget* parent);
 
     /// As the controls have it.
     PrintSettings settings() const;
@@ -45,7 +46,7 @@ private:
     void browse();
     void refuse(const QString& sentence);
 
-    platform::Prompter& prompter_;
+    platform::MessageBoxes& messageBoxes_;
     QGridLayout* rows_;
     QLineEdit* file_;
     QComboBox* size_;

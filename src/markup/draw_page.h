@@ -2,7 +2,7 @@
 
 #include "markup/drawing_state.h"
 #include "markup/drawn_page.h"
-#include "markup/picture_shelf.h"
+#include "markup/picture_source.h"
 #include "page/recording.h"
 #include "page/text_metrics.h"
 
@@ -48,7 +48,7 @@ public:
 /// What a drawing works with; all of it outlives the drawing.
 struct DrawingTools {
     DrawingState& state; ///< what earlier pages left in it counts
-    PictureShelf& pictures;
+    PictureSource& pictures;
     const page::TextMetrics& metrics;
     DrawingWatcher* watcher = nullptr; ///< null when nobody waits
 };

@@ -96,7 +96,7 @@ page::LinkOperation linkAtPen(Renderer& renderer, page::LinkControl control) {
 
 /// The symbol with this key; the sign of a link for a key that the image list does not have, so
 /// that there is something to click, the same wherever the page is shown.
-std::shared_ptr<const page::Picture> symbolOrSign(PictureShelf& pictures, const QString& key) {
+std::shared_ptr<const page::Picture> symbolOrSign(PictureSource& pictures, const QString& key) {
     auto symbol = pictures.symbol(key);
     return symbol ? symbol : pictures.symbol(QString::fromUtf16(kLinkSign));
 }

@@ -34,7 +34,7 @@ public:
 
     DrawingState& state() { return tools_.state; }
     DrawnPage& page() { return page_; }
-    PictureShelf& pictures() { return tools_.pictures; }
+    PictureSource& pictures() { return tools_.pictures; }
     page::Recording& recording() { return page_.recording; }
 
     /// `surfaceDessin`: where drawing goes now.

@@ -71,10 +71,10 @@ constexpr std::array<Row, kFieldCount> kRows{{
 
 } // namespace
 
-Bondec::Bondec(const PrintingParts& printing, platform::Prompter& prompter, QWidget* parent)
+Bondec::Bondec(const PrintingParts& printing, platform::MessageBoxes& messageBoxes, QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                           Qt::WindowCloseButtonHint),
-      printing_(printing), prompter_(prompter) {
+      printing_(printing), messageBoxes_(messageBoxes) {
     setObjectName(QStringLiteral("bondec"));
     setWindowTitle(QStringLiteral("Bon de commande"));
     setFixedSize(kSize);
@@ -217,7 +217,7 @@ void Bondec::print() {
         sayPrinted(true);
         break;
     case PrintOutcome::Failed:
-        prompter_.ask(
+        messageBoxes_.ask(
             {windowTitle(),
              QStringLiteral("Le bon n’a pas été imprimé\u00A0: %1.").arg(printing_.printer.error()),
              platform::Message::Icon::Exclamation, platform::Message::Buttons::Ok});

@@ -23,8 +23,8 @@ class OrderField;
 /// the last one, so that nobody is told what is missing on the way; Escape closes the form.
 class Bondec : public QDialog {
 public:
-    /// `prompter` says why nothing was printed; it must outlive the form.
-    Bondec(const PrintingParts& printing, platform::Prompter& prompter, QWidget* parent);
+    /// `messageBoxes` says why nothing was printed; it must outlive the form.
+    Bondec(const PrintingParts& printing, platform::MessageBoxes& messageBoxes, QWidget* parent);
 
     /// What the fields hold.
     Order order() const;
@@ -50,7 +50,7 @@ private:
     void sayPrinted(bool printed);
 
     PrintingParts printing_;
-    platform::Prompter& prompter_;
+    platform::MessageBoxes& messageBoxes_;
     std::array<OrderField*, kFieldCount> fields_{};
     QLabel* amount_ = nullptr;
     QLabel* total_ = nullptr;

@@ -16,10 +16,10 @@ StartResult ErrorBoxStarter::startMaximized(const QString& program) {
 StartResult ErrorBoxStarter::told(const QString& program, const StartResult& result) {
     if (!result.pid) {
         const QString name = lastComponent(program);
-        prompter_.ask({name,
-                       QStringLiteral("Le programme «\u00A0%1\u00A0» %2")
-                           .arg(name, whyNotStarted(result.failure)),
-                       Message::Icon::Critical, Message::Buttons::Ok});
+        messageBoxes_.ask({name,
+                           QStringLiteral("Le programme «\u00A0%1\u00A0» %2")
+                               .arg(name, whyNotStarted(result.failure)),
+                           Message::Icon::Critical, Message::Buttons::Ok});
     }
     return result;
 }

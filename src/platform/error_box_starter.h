@@ -10,8 +10,8 @@ namespace platform {
 class ErrorBoxStarter : public ProcessStarter {
 public:
     /// `starter` does the work; both must outlive this one.
-    ErrorBoxStarter(ProcessStarter& starter, Prompter& prompter)
-        : starter_(starter), prompter_(prompter) {}
+    ErrorBoxStarter(ProcessStarter& starter, MessageBoxes& messageBoxes)
+        : starter_(starter), messageBoxes_(messageBoxes) {}
 
     StartResult start(const QString& program, const ProgramVariables& variables = {}) override;
     StartResult startMaximized(const QString& program) override;
@@ -20,7 +20,7 @@ private:
     StartResult told(const QString& program, const StartResult& result);
 
     ProcessStarter& starter_;
-    Prompter& prompter_;
+    MessageBoxes& messageBoxes_;
 };
 
 } // namespace platform

@@ -21,9 +21,9 @@ struct Message {
 enum class Answer { Ok, Cancel, Yes, No, Retry };
 
 /// Puts a question or a message to the person in front of the screen.
-class Prompter {
+class MessageBoxes {
 public:
-    virtual ~Prompter() = default;
+    virtual ~MessageBoxes() = default;
 
     /// Shows `message` modally and returns the button chosen, always one of those offered. A box
     /// closed without a choice answers with the button that changes nothing: Cancel, No, or Ok

@@ -57,14 +57,14 @@ QLabel* newLabel(const QString& caption, const QRect& place, look::Weight weight
     return label;
 }
 
-std::optional<CoursePages> coursePages(const QString& installDir) {
+std::optional<SearchablePages> searchablePages(const QString& installDir) {
     const auto file = coursedata::findCourseDatabase(installDir);
     if (!file)
         return std::nullopt;
     const auto database = jet::openDatabase(platform::standardPath(*file));
     if (!database)
         return std::nullopt;
-    auto pages = CoursePages::open(*database);
+    auto pages = SearchablePages::open(*database);
     return pages ? std::optional(std::move(*pages)) : std::nullopt;
 }
 
@@ -151,7 +151,7 @@ void Coordon::connectHandlers() {
 
 void Coordon::Form_Load() {
     state_.SearchChosenPage = 0;
-    pages_ = coursePages(state_.InstallDir);
+    pages_ = searchablePages(state_.InstallDir);
     Pbar1_->hide();
     Label2_->hide();
     showList(false);

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "search/course_pages.h"
 #include "search/found_list.h"
 #include "search/page_search.h"
+#include "search/searchable_pages.h"
 #include "shell/shared_state.h"
 
 #include <QBasicTimer>
@@ -60,7 +60,7 @@ private:
     void choose(const QModelIndex& line);
 
     shell::SharedState& state_;
-    std::optional<CoursePages> pages_;
+    std::optional<SearchablePages> pages_;
     std::optional<Query> query_;
     std::optional<PageSearch> search_;
     QBasicTimer turns_;

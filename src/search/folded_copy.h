@@ -1,7 +1,7 @@
 #pragma once
 
-#include "search/course_pages.h"
 #include "search/page_slice.h"
+#include "search/searchable_pages.h"
 #include "search/slice_reader.h"
 
 #include <cstddef>
@@ -12,7 +12,7 @@ namespace search {
 
 /// The slices of a course, from memory as far as they are there. The copy begins with the first
 /// records and has no gap: none is kept behind one for which there was no room.
-class CoursePages::Copy {
+class SearchablePages::Copy {
 public:
     /// The copy takes `mostBytes` at most.
     Copy(SliceReader reader, std::size_t mostBytes);
@@ -29,20 +29,20 @@ public:
     std::optional<Searched> slice(std::size_t index, int first, bool ignoreAccents);
 
 private:
-    struct Kept {
+    struct CachedSlice {
         PageSlice slice;
         std::optional<FoldedText> plain; ///< made when it is first asked for, if there is room
     };
 
     bool reserve(std::size_t bytes);
     bool keepRead();
-    const FoldedText& withoutAccents(Kept& kept);
+    const FoldedText& withoutAccents(CachedSlice& cached);
 
     SliceReader reader_;
     std::size_t mostBytes_;
     std::size_t bytes_ = 0;
     bool isFull_ = false;
-    std::vector<Kept> kept_;
+    std::vector<CachedSlice> cached_;
     // The slice just read and its like without accents, in memory that is used again and again.
     PageSlice read_;
     FoldedText plain_;

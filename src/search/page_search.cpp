@@ -13,7 +13,7 @@ constexpr std::size_t kSampleBytes = 16 * 1024;
 
 } // namespace
 
-PageSearch::PageSearch(CoursePages& pages, const Query& query)
+PageSearch::PageSearch(SearchablePages& pages, const Query& query)
     : pages_(pages), allWords_(query.allWords), ignoreAccents_(query.ignoreAccents) {
     for (const std::u16string& word : query.words)
         words_.push_back(foldedWord(word, ignoreAccents_));

@@ -11,7 +11,7 @@
 
 namespace search {
 
-class CoursePages;
+class SearchablePages;
 
 /// A page that holds what was looked for.
 struct FoundPage {
@@ -35,7 +35,7 @@ struct FoundPage {
 class PageSearch {
 public:
     /// `pages` must outlive the search. Searches may follow each other or go on side by side.
-    PageSearch(CoursePages& pages, const Query& query);
+    PageSearch(SearchablePages& pages, const Query& query);
 
     /// Examines the next slice, about 256 KB of page source or 1,024 records: well below a
     /// millisecond when the copy has it, about one when it comes from the file (one long page can
@@ -43,14 +43,14 @@ public:
     bool advance();
 
     /// Position of the last record examined so far; 0 before the first slice, and
-    /// CoursePages::lastPosition() (or 0, when that is -1) at the end.
+    /// SearchablePages::lastPosition() (or 0, when that is -1) at the end.
     int position() const { return position_; }
 
     /// The pages found so far, in the order of their records, each once.
     const std::vector<FoundPage>& found() const { return found_; }
 
 private:
-    CoursePages& pages_;
+    SearchablePages& pages_;
     std::vector<std::string> words_; ///< folded
     bool allWords_;
     bool ignoreAccents_;

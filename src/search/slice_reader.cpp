@@ -37,7 +37,7 @@ bool isSet(const jet::Result<jet::Value>& flag) {
 }
 
 /// What a list keeps of the field: a whole number of 32 bits, or 0.
-std::int32_t wholeNumber(const jet::Result<jet::Value>& field) {
+std::int32_t integerField(const jet::Result<jet::Value>& field) {
     if (!field)
         return 0;
     const std::u16string* const shown = field->text();
@@ -112,7 +112,7 @@ void SliceReader::add(jet::RecordView& record, PageSlice& slice) {
         [[maybe_unused]]
         const auto present = record.readText(*columns_.titre, title);
     const std::int32_t number =
-        columns_.numeropage ? wholeNumber(record.value(*columns_.numeropage)) : 0;
+        columns_.numeropage ? integerField(record.value(*columns_.numeropage)) : 0;
     slice.pages.push_back({static_cast<int>(record.position()), number, slice.titles.size()});
 }
 

@@ -13,7 +13,7 @@ namespace search {
 /// Folds records of the table "cours" as they come from the file.
 class SliceReader {
 public:
-    /// See CoursePages::open.
+    /// See SearchablePages::open.
     static jet::Result<SliceReader> open(const jet::Database& database);
 
     std::size_t recordCount() { return table_.recordCount(); }

@@ -99,10 +99,10 @@ QString programOfCode(std::int16_t code) {
     return programOf(code / 10);
 }
 
-Launcher::Launcher(SharedState& state, platform::Prompter& prompter,
+Launcher::Launcher(SharedState& state, platform::MessageBoxes& messageBoxes,
                    platform::ProcessStarter& starter, platform::WindowActivator& activator,
                    ReportSink& reports)
-    : state_(state), prompter_(prompter), starter_(starter), activator_(activator),
+    : state_(state), messageBoxes_(messageBoxes), starter_(starter), activator_(activator),
       reports_(reports) {}
 
 void Launcher::queryModuleStatus(std::int16_t& module) const {
@@ -157,7 +157,7 @@ void Launcher::reportHidden(const QString& program) {
 }
 
 bool Launcher::mayStartBesideOthers() const {
-    return prompter_.ask(kOtherModuleRuns) == Answer::Yes;
+    return messageBoxes_.ask(kOtherModuleRuns) == Answer::Yes;
 }
 
 void Launcher::start(std::int16_t module, const QString& program) {
@@ -187,7 +187,7 @@ bool Launcher::updateIsPossible() const {
 bool Launcher::confirmUpdateIsPossible() const {
     const bool possible = updateIsPossible();
     if (!possible)
-        prompter_.ask(kNoUpdate);
+        messageBoxes_.ask(kNoUpdate);
     return possible;
 }
 

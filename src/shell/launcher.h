@@ -16,8 +16,9 @@ QString programOfCode(std::int16_t code);
 /// file which of them run. The file is found through SharedState::InstallDir at every call.
 class Launcher {
 public:
-    Launcher(SharedState& state, platform::Prompter& prompter, platform::ProcessStarter& starter,
-             platform::WindowActivator& activator, ReportSink& reports);
+    Launcher(SharedState& state, platform::MessageBoxes& messageBoxes,
+             platform::ProcessStarter& starter, platform::WindowActivator& activator,
+             ReportSink& reports);
 
     /// Replaces a module number by what the status file says: -1 when the module itself runs
     /// (its record is anything but "NON"), otherwise how many of the modules 1 to 30 do.
@@ -45,7 +46,7 @@ private:
     void activate(std::int16_t module, const QString& program);
 
     SharedState& state_;
-    platform::Prompter& prompter_;
+    platform::MessageBoxes& messageBoxes_;
     platform::ProcessStarter& starter_;
     platform::WindowActivator& activator_;
     ReportSink& reports_;

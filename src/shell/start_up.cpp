@@ -126,8 +126,8 @@ void StartUp::resetPersonalStatusFile(QStringList texts) {
 }
 
 StartUp::Outcome StartUp::endWith(const QString& reason) {
-    parts_.prompter.ask({QStringLiteral("Exécution impossible"), reason, Message::Icon::Critical,
-                         Message::Buttons::Ok});
+    parts_.messageBoxes.ask({QStringLiteral("Exécution impossible"), reason,
+                             Message::Icon::Critical, Message::Buttons::Ok});
     return Outcome::End;
 }
 

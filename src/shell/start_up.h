@@ -50,7 +50,7 @@ public:
     /// The parts of the system that start-up touches.
     struct Parts {
         platform::Screen& screen;
-        platform::Prompter& prompter;
+        platform::MessageBoxes& messageBoxes;
         StartUpWindow& window;
         CourseBinding& database;
         DisplayWarning& warning;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "shell/shared_state.h"
-#include "viewer/neighbours.h"
+#include "viewer/collaborators.h"
 #include "viewer/page_loader.h"
 #include "viewer/page_view.h"
 

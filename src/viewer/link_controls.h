@@ -2,7 +2,7 @@
 
 #include "markup/drawn_page.h"
 #include "page/faces/font_book.h"
-#include "viewer/neighbours.h"
+#include "viewer/collaborators.h"
 
 #include <QObject>
 #include <QPointer>

@@ -7,9 +7,9 @@
 namespace viewer {
 
 MainCommands::MainCommands(shell::SharedState& state, ActionDispatcher& actions, PageView& view,
-                           const Neighbours& neighbours, platform::Prompter& prompter)
-    : state_(state), actions_(actions), view_(view), neighbours_(neighbours), prompter_(prompter),
-      history_(state) {}
+                           const Collaborators& collaborators, platform::MessageBoxes& messageBoxes)
+    : state_(state), actions_(actions), view_(view), collaborators_(collaborators),
+      messageBoxes_(messageBoxes), history_(state) {}
 
 void MainCommands::runCode(const QString& code) {
     keepPlace();
@@ -74,15 +74,15 @@ void MainCommands::showNeighbour(int distance) {
 }
 
 void MainCommands::search() {
-    neighbours_.search.open();
+    collaborators_.search.open();
     if (state_.SearchChosenPage == 0)
         return;
     runCode(pageCode(state_.SearchChosenPage));
-    view_.markWords(neighbours_.search.foundWords());
+    view_.markWords(collaborators_.search.foundWords());
 }
 
 void MainCommands::returnToTest() {
-    neighbours_.exercise.open();
+    collaborators_.exercise.open();
     const bool returns = state_.ExerciseReturnPage != 0;
     view_.setReturnToTestVisible(returns);
     if (returns)
@@ -90,18 +90,18 @@ void MainCommands::returnToTest() {
 }
 
 void MainCommands::update() {
-    if (neighbours_.updateCheck.confirmUpdateIsPossible())
-        neighbours_.installation.open();
+    if (collaborators_.updateCheck.confirmUpdateIsPossible())
+        collaborators_.installation.open();
 }
 
 bool MainCommands::leave() {
     const platform::Message question{
         QStringLiteral("Quitter"), QStringLiteral("Attention: sortie du logiciel."),
         platform::Message::Icon::Question, platform::Message::Buttons::OkCancel};
-    if (prompter_.ask(question) != platform::Answer::Ok)
+    if (messageBoxes_.ask(question) != platform::Answer::Ok)
         return false;
-    neighbours_.video.close();
-    neighbours_.exitScreen.open();
+    collaborators_.video.close();
+    collaborators_.exitScreen.open();
     return true;
 }
 

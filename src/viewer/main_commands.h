@@ -3,8 +3,8 @@
 #include "platform/message_box.h"
 #include "shell/shared_state.h"
 #include "viewer/action_dispatcher.h"
+#include "viewer/collaborators.h"
 #include "viewer/history.h"
-#include "viewer/neighbours.h"
 #include "viewer/page_view.h"
 
 #include <QString>
@@ -19,7 +19,7 @@ namespace viewer {
 class MainCommands {
 public:
     MainCommands(shell::SharedState& state, ActionDispatcher& actions, PageView& view,
-                 const Neighbours& neighbours, platform::Prompter& prompter);
+                 const Collaborators& collaborators, platform::MessageBoxes& messageBoxes);
 
     /// Runs a page code.
     void runCode(const QString& code);
@@ -35,9 +35,9 @@ public:
 
     void search();
     void returnToTest();
-    void calculator() { neighbours_.calculator.open(); }
-    void print() { neighbours_.printing.print(); }
-    void help() { neighbours_.help.open(); }
+    void calculator() { collaborators_.calculator.open(); }
+    void print() { collaborators_.printing.print(); }
+    void help() { collaborators_.help.open(); }
     void update();
 
     /// Asks whether to leave; false when the person stays. Otherwise closes the video and shows
@@ -52,8 +52,8 @@ private:
     shell::SharedState& state_;
     ActionDispatcher& actions_;
     PageView& view_;
-    Neighbours neighbours_;
-    platform::Prompter& prompter_;
+    Collaborators collaborators_;
+    platform::MessageBoxes& messageBoxes_;
     History history_;
     std::map<std::int16_t, int> places_; ///< how far pages were scrolled when they were left, twips
 };

@@ -106,7 +106,7 @@ void Multim::addControls() {
     cover_->setGeometry(kPanel);
     cover_->hide();
 
-    finder_ = std::make_unique<PageFinder>(PageFinder::Stage{
+    finder_ = std::make_unique<PageFinder>(PageFinder::Parts{
         *findBar, *panel_, {PictureTEXTE_, PICTUREILLUS_, titre_}, shown_.recording, fonts_});
     setVideoLayout(videoLayout_);
     panel_->fitView();

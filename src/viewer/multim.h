@@ -8,9 +8,9 @@
 #include "shell/report_sink.h"
 #include "shell/shared_state.h"
 #include "shell/start_up.h"
+#include "viewer/collaborators.h"
 #include "viewer/key_map.h"
 #include "viewer/main_commands.h"
-#include "viewer/neighbours.h"
 #include "viewer/page_loader.h"
 #include "viewer/page_view.h"
 #include "viewer/video_view.h"
@@ -61,7 +61,7 @@ public:
         MainCommands& commands;
         ActionDispatcher& actions;
         PageLoader& pages;
-        Neighbours neighbours;
+        Collaborators collaborators;
         look::Zoom& zoom;
         /// Start-up before the window sets itself up; false to end the program.
         std::function<bool()> startUp;

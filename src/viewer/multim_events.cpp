@@ -72,11 +72,11 @@ void Multim::connectHandlers() {
     videoFrame_->projo().onClick([this] { projo_Click(); });
     videoFrame_->projo().onResized([this] {
         if (parts_)
-            parts_->neighbours.video.refresh();
+            parts_->collaborators.video.refresh();
     });
     videoFrame_->onSought([this](double share) {
         if (!hasVideoMenu())
-            work([this, share] { parts_->neighbours.video.seek(share); });
+            work([this, share] { parts_->collaborators.video.seek(share); });
     });
 }
 
@@ -240,7 +240,7 @@ bool Multim::eventFilter(QObject* watched, QEvent* event) {
     // may have been seen nowhere else.
     const bool left = watched == this && event->type() == QEvent::Leave;
     if (parts_ && (left || event->type() == QEvent::MouseMove))
-        parts_->neighbours.links.resetHighlight(PageLinks::kNone);
+        parts_->collaborators.links.resetHighlight(PageLinks::kNone);
     return QWidget::eventFilter(watched, event);
 }
 

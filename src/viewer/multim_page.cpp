@@ -37,7 +37,7 @@ void Multim::setPageVisible(bool visible) {
 }
 
 void Multim::resetLinks() {
-    parts_->neighbours.links.reset();
+    parts_->collaborators.links.reset();
 }
 
 void Multim::hideScrollBarAndVideoFrame() {
@@ -87,7 +87,7 @@ void Multim::fitPage() {
         box->setPageHeightPx(shown_.heightPx(box->surfaceId()));
         box->showDrawing();
     }
-    parts_->neighbours.links.show();
+    parts_->collaborators.links.show();
     panel_->fitPage();
     finder_->pageStands();
     QAccessibleEvent changed(PictureTEXTE_, QAccessible::NameChanged);
@@ -147,7 +147,7 @@ void Multim::refresh(page::SurfaceId surface) {
     look::PictureBox& area = box(surface);
     area.showDrawing();
     if (area.isVisible())
-        parts_->neighbours.links.show();
+        parts_->collaborators.links.show();
     area.repaint();
 }
 

@@ -87,7 +87,7 @@ void Multim::Image4_Click(int index) {
     if (hasVideoMenu())
         projo_Click();
     else
-        work([this, index] { parts_->neighbours.video.press(index); });
+        work([this, index] { parts_->collaborators.video.press(index); });
 }
 
 /// Where the picture has a menu, that comes up; a video plays and pauses.
@@ -111,7 +111,7 @@ void Multim::projo_Click() {
 
 void Multim::chooseVideo(const QString& caption) {
     work([this, caption] {
-        parts_->neighbours.video.close();
+        parts_->collaborators.video.close();
         if (const auto target =
                 videoMenuTarget(caption, parts_->pages.record().records(), summaryCode_))
             parts_->commands.runCode(*target);

@@ -35,24 +35,24 @@ const PageFind::Place kStart = startOfLine(std::numeric_limits<double>::lowest()
 
 } // namespace
 
-PageFinder::PageFinder(const Stage& stage) : stage_(stage) {
-    stage_.bar.setActions(
+PageFinder::PageFinder(const Parts& parts) : parts_(parts) {
+    parts_.bar.setActions(
         {[this] { typed(); }, [this] { next(); }, [this] { previous(); }, [this] { close(); }});
-    stage_.panel.setFoot(&stage_.bar);
+    parts_.panel.setFoot(&parts_.bar);
 }
 
 bool PageFinder::isOpen() const {
-    return !stage_.bar.isHidden();
+    return !parts_.bar.isHidden();
 }
 
 void PageFinder::open() {
     if (isOpen()) {
-        stage_.bar.takeKeyboard();
+        parts_.bar.takeKeyboard();
         return;
     }
     const bool wasInView = isCurrentInView();
-    stage_.panel.showFoot(true);
-    stage_.bar.takeKeyboard();
+    parts_.panel.showFoot(true);
+    parts_.bar.takeKeyboard();
     if (find_.sought().words.empty())
         typed();
     else if (wasInView)
@@ -60,16 +60,16 @@ void PageFinder::open() {
 }
 
 void PageFinder::close() {
-    const bool hasKeyboard = stage_.bar.isAncestorOf(stage_.bar.window()->focusWidget());
+    const bool hasKeyboard = parts_.bar.isAncestorOf(parts_.bar.window()->focusWidget());
     if (isOpen())
-        stage_.panel.showFoot(false);
+        parts_.panel.showFoot(false);
     if (hasKeyboard)
-        stage_.boxes.front()->setFocus();
+        parts_.boxes.front()->setFocus();
     search({}, kStart);
 }
 
 void PageFinder::typed() {
-    search(typedWords(stage_.bar.text()), placeInView());
+    search(typedWords(parts_.bar.text()), placeInView());
 }
 
 void PageFinder::next() {
@@ -90,7 +90,7 @@ void PageFinder::step(void (PageFind::*walk)()) {
 
 void PageFinder::mark(const FoundWords& words) {
     // Several words are no text that could have been typed.
-    stage_.bar.setText(words.words.size() == 1 ? words.words.front() : QString());
+    parts_.bar.setText(words.words.size() == 1 ? words.words.front() : QString());
     search(words, kStart);
 }
 
@@ -105,9 +105,9 @@ void PageFinder::pageStands() {
 
 void PageFinder::search(const FoundWords& words, const PageFind::Place& from) {
     std::vector<PageFind::Part> parts;
-    for (const look::PictureBox* box : stage_.boxes)
+    for (const look::PictureBox* box : parts_.boxes)
         parts.push_back({box->surfaceId(), seen(*box)});
-    find_.search(words, stage_.recording, stage_.metrics, parts, from);
+    find_.search(words, parts_.recording, parts_.metrics, parts, from);
     showMarks();
     showCurrent();
 }
@@ -117,8 +117,8 @@ bool PageFinder::isCurrentInView() const {
     if (!current)
         return false;
     const PageFind::Found& one = find_.found()[*current];
-    const double top = stage_.panel.viewTopPx() * kTwipsPerPixel;
-    const double height = stage_.panel.viewHeightPx() * kTwipsPerPixel;
+    const double top = parts_.panel.viewTopPx() * kTwipsPerPixel;
+    const double height = parts_.panel.viewHeightPx() * kTwipsPerPixel;
     return one.place.part > 0 || (one.area.top() < top + height && one.area.bottom() > top);
 }
 
@@ -127,11 +127,11 @@ bool PageFinder::isCurrentInView() const {
 PageFind::Place PageFinder::placeInView() const {
     if (isCurrentInView())
         return find_.found()[*find_.current()].place;
-    return startOfLine(stage_.panel.viewTopPx() * kTwipsPerPixel);
+    return startOfLine(parts_.panel.viewTopPx() * kTwipsPerPixel);
 }
 
 void PageFinder::showMarks() {
-    for (std::size_t part = 0; part < stage_.boxes.size(); ++part) {
+    for (std::size_t part = 0; part < parts_.boxes.size(); ++part) {
         look::PictureBox::Marks marks;
         for (std::size_t index = 0; index < find_.found().size(); ++index)
             if (const PageFind::Found& one = find_.found()[index]; one.place.part == part) {
@@ -141,9 +141,9 @@ void PageFinder::showMarks() {
                 else
                     marks.others.push_back(area);
             }
-        stage_.boxes[part]->setMarks(std::move(marks));
+        parts_.boxes[part]->setMarks(std::move(marks));
     }
-    stage_.bar.setStatus(findStatus(find_), find_.current().has_value());
+    parts_.bar.setStatus(findStatus(find_), find_.current().has_value());
 }
 
 void PageFinder::showCurrent() {
@@ -151,7 +151,7 @@ void PageFinder::showCurrent() {
     if (!current || find_.found()[*current].place.part > 0)
         return;
     const QRect area = scaled(find_.found()[*current].area, 1 / kTwipsPerPixel).toAlignedRect();
-    stage_.panel.reveal(area.adjusted(0, -kAroundPx, 0, kAroundPx));
+    parts_.panel.reveal(area.adjusted(0, -kAroundPx, 0, kAroundPx));
 }
 
 } // namespace viewer

@@ -20,7 +20,7 @@ class FindBar;
 /// title above, which both show whatever the page is scrolled to.
 class PageFinder {
 public:
-    struct Stage {
+    struct Parts {
         FindBar& bar;
         look::PagePanel& panel;
         std::array<look::PictureBox*, 3> boxes; ///< in the order they are searched; the page first
@@ -28,7 +28,7 @@ public:
         const page::TextMetrics& metrics;
     };
     /// All must outlive it.
-    explicit PageFinder(const Stage& stage);
+    explicit PageFinder(const Parts& parts);
 
     /// Opens the bar, on what is marked or what was typed last, and gives it the keyboard.
     void open();
@@ -58,7 +58,7 @@ private:
     void showMarks();
     void showCurrent();
 
-    Stage stage_;
+    Parts parts_;
     PageFind find_;
 };
 

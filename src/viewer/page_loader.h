@@ -3,8 +3,8 @@
 #include "coursedata/bound_record.h"
 #include "markup/draw_page.h"
 #include "shell/shared_state.h"
+#include "viewer/collaborators.h"
 #include "viewer/history.h"
-#include "viewer/neighbours.h"
 #include "viewer/page_view.h"
 
 namespace viewer {

@@ -4,7 +4,7 @@
 #include "markup/drawn_page.h"
 #include "platform/video.h"
 #include "shell/shared_state.h"
-#include "viewer/neighbours.h"
+#include "viewer/collaborators.h"
 #include "viewer/video_view.h"
 
 #include <QString>

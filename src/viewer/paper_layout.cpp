@@ -43,7 +43,7 @@ constexpr double kMaxOverlap = 150;
 
 /// From where to where an operation reaches, and how much it matters that it is not cut.
 struct Extent {
-    enum class Kind { Text, Drawing, Ground };
+    enum class Kind { Text, Drawing, Background };
 
     double top, bottom;
     Kind kind;
@@ -68,10 +68,10 @@ struct ExtentOf {
     }
     std::optional<Extent> operator()(const page::LineOperation& line) const {
         const auto [top, bottom] = std::minmax(line.y1, line.y2);
-        return Extent{top, bottom + line.lineWidth * kTwipsPerPixel, Extent::Kind::Ground};
+        return Extent{top, bottom + line.lineWidth * kTwipsPerPixel, Extent::Kind::Background};
     }
     std::optional<Extent> operator()(const page::FillOperation& fill) const {
-        return Extent{fill.y, fill.y + fill.height, Extent::Kind::Ground};
+        return Extent{fill.y, fill.y + fill.height, Extent::Kind::Background};
     }
     std::optional<Extent> operator()(const page::PictureOperation& picture) const {
         return Extent{picture.y, picture.y + picture.height, Extent::Kind::Drawing};

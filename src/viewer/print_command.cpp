@@ -25,8 +25,8 @@ void PrintCommand::print() {
         return;
     const PrintRun run = pages_.imprimepage();
     if (run.isCut())
-        prompter_.ask({QStringLiteral("Imprimer"), sentenceOn(run),
-                       platform::Message::Icon::Exclamation, platform::Message::Buttons::Ok});
+        messageBoxes_.ask({QStringLiteral("Imprimer"), sentenceOn(run),
+                           platform::Message::Icon::Exclamation, platform::Message::Buttons::Ok});
 }
 
 } // namespace viewer

@@ -13,7 +13,7 @@ namespace {
 
 /// A calculator whose keys are pressed by name: "2 multip sin EXE" or, for single characters that
 /// have a key on the keyboard, by that character.
-class Keys : public testing::Test, public Face {
+class Keys : public testing::Test, public CalculatorView {
 protected:
     void showText(TextView text) override { shown.emplace_back(text); }
     void beep() override { ++beeps; }

@@ -82,7 +82,7 @@ TEST_F(Authoring, onlyTheQuestionIsTakenAndOnlyWhatWasTypedIsStored) {
 TEST_F(Authoring, closingStoresToo) {
     click("Command1");
     type(QStringLiteral("!"));
-    prompter.answers = {platform::Answer::Yes};
+    messageBoxes.answers = {platform::Answer::Yes};
     click("Image2");
     EXPECT_FALSE(exo->isVisible());
     EXPECT_EQ(stored()[0], u'!' + untouched_[0]);
@@ -94,16 +94,16 @@ TEST_F(Authoring, whatCannotBeStoredIsToldAndKept) {
     lock();
     for (const char* way : {"Command1", "command4", "command5"}) {
         click(way);
-        EXPECT_EQ(prompter.messages.back().title, u"Question non enregistrée") << way;
+        EXPECT_EQ(messageBoxes.messages.back().title, u"Question non enregistrée") << way;
         EXPECT_TRUE(source().isVisible());
         EXPECT_TRUE(source().toPlainText().startsWith(u'!'));
         EXPECT_EQ(state.CurrentQuestion, 1);
     }
-    EXPECT_EQ(prompter.messages.size(), 3);
-    prompter.answers = {platform::Answer::No};
+    EXPECT_EQ(messageBoxes.messages.size(), 3);
+    messageBoxes.answers = {platform::Answer::No};
     click("Image2");
     EXPECT_TRUE(exo->isVisible());
-    prompter.answers = {platform::Answer::Yes, platform::Answer::Yes};
+    messageBoxes.answers = {platform::Answer::Yes, platform::Answer::Yes};
     click("Image2");
     EXPECT_FALSE(exo->isVisible());
     EXPECT_EQ(QGuiApplication::clipboard()->text(), u'!' + untouched_[0]);

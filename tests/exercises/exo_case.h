@@ -4,7 +4,7 @@
 #include "exercises/exo.h"
 #include "look/picture_box.h"
 #include "platform/file_names.h"
-#include "support/fake_prompter.h"
+#include "support/fake_message_boxes.h"
 #include "viewer/window_bench.h"
 
 #include <QAbstractButton>
@@ -37,7 +37,7 @@ protected:
     /// Opens the window on what write() has written.
     Exo& openWindow(bool author = false) {
         exo.emplace(Exo::Parts{shared, state, bench.drawing, bench.pictures, bench.fonts,
-                               bench.screen, prompter, window, calculator, author},
+                               bench.screen, messageBoxes, window, calculator, author},
                     bench.window);
         exo->setBlinkInterval(1);
         exo->start();
@@ -78,7 +78,7 @@ protected:
     }
 
     test_support::WindowBench bench{test_support::pages(2)};
-    test_support::FakePrompter prompter;
+    test_support::FakeMessageBoxes messageBoxes;
     FakeCalculator calculator;
     std::optional<Exo> exo;
 };

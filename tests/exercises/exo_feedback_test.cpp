@@ -148,7 +148,7 @@ TEST_F(Feedback, thePopupAlternatesAndTakesNoKeys) {
 
 TEST_F(Feedback, aTestReopensAtItsLastQuestion) {
     ExoOpener opener(bench.window, {shared, bench.drawing, bench.pictures, bench.fonts,
-                                    bench.screen, prompter, calculator});
+                                    bench.screen, messageBoxes, calculator});
     const auto whileOpen = [&](const std::function<void(QWidget&)>& act) {
         QTimer::singleShot(0, &bench.window, [&] {
             auto* const test = bench.window.findChild<QWidget*>("exo");
@@ -169,7 +169,7 @@ TEST_F(Feedback, aTestReopensAtItsLastQuestion) {
     });
     EXPECT_EQ(shared.ExerciseReturnPage, 4);
     shared.PendingExerciseChapter = 3; // as any page that opens a test leaves it
-    prompter.answers = {platform::Answer::Yes};
+    messageBoxes.answers = {platform::Answer::Yes};
     whileOpen([&](QWidget& test) {
         EXPECT_EQ(test.findChild<QLabel*>("noa")->text(), u"Question 3 / 6 :");
         EXPECT_FALSE(button(test, "command5")->isVisible());
@@ -177,7 +177,7 @@ TEST_F(Feedback, aTestReopensAtItsLastQuestion) {
     });
     EXPECT_EQ(shared.PendingExerciseChapter, 0);
     shared.PendingExerciseChapter = 3;
-    prompter.answers = {platform::Answer::Yes};
+    messageBoxes.answers = {platform::Answer::Yes};
     whileOpen([&](QWidget& test) {
         EXPECT_EQ(test.findChild<QLabel*>("noa")->text(), u"Question 1 / 6 :");
     });

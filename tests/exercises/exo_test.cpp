@@ -117,7 +117,7 @@ TEST_F(Test, enterValidatesOnce) {
     EXPECT_FALSE(control<QWidget>("Text1").isEnabled());
     EXPECT_EQ(control<QLineEdit>("Text1").text(), u"1,5 ohms");
     press(Qt::Key_Return);
-    EXPECT_TRUE(prompter.messages.empty());
+    EXPECT_TRUE(messageBoxes.messages.empty());
     EXPECT_EQ(given(3), u"1,5 ohms");
 }
 
@@ -218,19 +218,19 @@ TEST_F(Test, aTallCommentScrollsWithItsControls) {
 
 TEST_F(Test, closingAsksAndEndsTheTest) {
     openAt(2);
-    prompter.answers = {platform::Answer::No};
+    messageBoxes.answers = {platform::Answer::No};
     QTest::keyClick(&*exo, Qt::Key_Escape);
     EXPECT_TRUE(exo->isVisible());
     EXPECT_EQ(shared.PendingExerciseChapter, 3);
     const platform::Message question{
         QStringLiteral("Fermer"), QStringLiteral("Voulez-vous vraiment abandonner le test?"),
         platform::Message::Icon::Question, platform::Message::Buttons::YesNo};
-    EXPECT_EQ(prompter.messages, std::vector({question}));
-    prompter.answers = {platform::Answer::Yes};
+    EXPECT_EQ(messageBoxes.messages, std::vector({question}));
+    messageBoxes.answers = {platform::Answer::Yes};
     click("Image2");
     EXPECT_FALSE(exo->isVisible());
     EXPECT_EQ(shared.PendingExerciseChapter, 0);
-    EXPECT_EQ(prompter.messages.size(), 2);
+    EXPECT_EQ(messageBoxes.messages.size(), 2);
     EXPECT_FALSE(window.returnToTest);
 }
 
@@ -241,7 +241,7 @@ TEST_F(Test, aLinkLeavesTheTestWithItsPage) {
     EXPECT_FALSE(exo->isVisible());
     EXPECT_EQ(shared.ExerciseReturnPage, 12);
     EXPECT_EQ(shared.PendingExerciseChapter, 3);
-    EXPECT_TRUE(prompter.messages.empty());
+    EXPECT_TRUE(messageBoxes.messages.empty());
     openWindow(); // it goes on where it was left
     EXPECT_EQ(shared.ExerciseReturnPage, 0);
     EXPECT_FALSE(control("command5").isVisible());
@@ -252,7 +252,7 @@ TEST_F(Test, closedDuringThePopupItEndsCleanly) {
     exo->setBlinkInterval(60'000);
     click("Check1_0");
     click("Check1_2");
-    prompter.answers = {platform::Answer::Yes};
+    messageBoxes.answers = {platform::Answer::Yes};
     bool popupWasModal = false;
     QTimer::singleShot(0, &*exo, [&] {
         popupWasModal = QApplication::activeModalWidget() &&
@@ -286,14 +286,14 @@ using Opened = Test;
 
 TEST_F(Opened, theMainWindowWaitsAndOthersDoNot) {
     ExoOpener opener(bench.window, {shared, bench.drawing, bench.pictures, bench.fonts,
-                                    bench.screen, prompter, calculator});
+                                    bench.screen, messageBoxes, calculator});
     QPushButton beside(QStringLiteral("Calculatrice"));
     beside.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&beside));
     bool besideActs = false;
     QObject::connect(&beside, &QPushButton::clicked, [&] { besideActs = true; });
-    bench.neighbours.exercise.whileOpen = [&] { opener.open(); };
-    prompter.answers = {platform::Answer::Yes};
+    bench.collaborators.exercise.whileOpen = [&] { opener.open(); };
+    messageBoxes.answers = {platform::Answer::Yes};
     QTimer::singleShot(100, &bench.window, [&] {
         auto* const test = bench.window.findChild<QWidget*>("exo");
         ASSERT_TRUE(test);
@@ -306,7 +306,7 @@ TEST_F(Opened, theMainWindowWaitsAndOthersDoNot) {
     });
     bench.commands.runCode(QStringLiteral("EXO003"));
     EXPECT_TRUE(besideActs);
-    EXPECT_EQ(bench.neighbours.log, QStringList{"exercise"}); // and no calculator
+    EXPECT_EQ(bench.collaborators.log, QStringList{"exercise"}); // and no calculator
 }
 
 using QuestionLinks = ExoCase;
@@ -322,9 +322,9 @@ TEST_F(QuestionLinks, lookLikeText) {
               {{jet::Value(301), number(3), jet::Value(u"ohm"), jet::Value(source), {}}});
         openWindow();
         shown.append(area().grab(QRect(30, 0, 200, 40)).toImage());
-        prompter.answers = {platform::Answer::Yes};
+        messageBoxes.answers = {platform::Answer::Yes};
         control("Image2").click();
-        prompter.answers.clear();
+        messageBoxes.answers.clear();
     }
     EXPECT_NE(shown[0].pixelColor(33, 12), shown[0].pixelColor(199, 39)) << "an I, and paper";
     EXPECT_EQ(shown[0], shown[1]);
@@ -357,10 +357,10 @@ TEST_F(BadInput, leavesTheWindowUsable) {
         control("command4").click();
         QTest::mouseClick(&control<QWidget>("Picture1"), Qt::LeftButton, {}, {5, 519});
         exo->grab();
-        prompter.answers = {platform::Answer::Yes};
+        messageBoxes.answers = {platform::Answer::Yes};
         control("Image2").click();
         EXPECT_FALSE(exo->isVisible());
-        prompter.answers.clear();
+        messageBoxes.answers.clear();
     }
 }
 
@@ -387,7 +387,7 @@ TEST_F(BadInput, aMissingDatabaseShowsAnEmptyQuestion) {
     openWindow();
     EXPECT_EQ(control<QLabel>("noa").text(), u"Question 1 / 0 :");
     control("command5").click();
-    prompter.answers = {platform::Answer::Yes};
+    messageBoxes.answers = {platform::Answer::Yes};
     control("Image2").click();
     EXPECT_FALSE(exo->isVisible());
 }

@@ -1,7 +1,7 @@
 #include "help/help_opener.h"
 #include "platform/qt/system_help_viewer.h"
+#include "support/fake_message_boxes.h"
 #include "support/fake_processes.h"
-#include "support/fake_prompter.h"
 #include "support/files.h"
 
 #include <QDir>
@@ -34,8 +34,8 @@ protected:
     NoDialog setup;
     page::FontBook fonts;
     output::QtPrinter printer{fonts};
-    test_support::FakePrompter prompter;
-    help::HelpOpener opener{installDir, viewer, {setup, printer, prompter}};
+    test_support::FakeMessageBoxes messageBoxes;
+    help::HelpOpener opener{installDir, viewer, {setup, printer, messageBoxes}};
 
 private:
     QByteArray path_;

@@ -3,7 +3,7 @@
 #include "help/help_window.h"
 #include "look/print_setup.h"
 #include "printing/printed_pdf.h"
-#include "support/fake_prompter.h"
+#include "support/fake_message_boxes.h"
 #include "support/printing.h"
 
 #include <QLabel>
@@ -56,8 +56,8 @@ protected:
     page::FontBook fonts;
     output::QtPrinter printer{fonts};
     IntoFile setup{printer, directory.filePath("page.pdf")};
-    test_support::FakePrompter prompter;
-    HelpWindow window{book, {setup, printer, prompter}};
+    test_support::FakeMessageBoxes messageBoxes;
+    HelpWindow window{book, {setup, printer, messageBoxes}};
     HelpBrowser* browser = static_cast<HelpBrowser*>(window.findChild<QTextBrowser*>());
     HelpList* list = static_cast<HelpList*>(window.findChild<QListWidget*>());
     QLineEdit* field = window.findChild<QLineEdit*>();
@@ -162,17 +162,17 @@ TEST_F(Window, printsThePageShown) {
 
     printer.device().setOutputFileName(directory.path());
     IntoFile nowhere(printer, directory.filePath("nulle/part.pdf"));
-    HelpWindow other(book, {nowhere, printer, prompter});
+    HelpWindow other(book, {nowhere, printer, messageBoxes});
     other.show();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&other));
     hit(Qt::Key_P, Qt::ControlModifier);
-    ASSERT_EQ(prompter.messages.size(), 1U);
-    EXPECT_TRUE(prompter.messages[0].text.contains("n’a pas pu être imprimée"));
+    ASSERT_EQ(messageBoxes.messages.size(), 1U);
+    EXPECT_TRUE(messageBoxes.messages[0].text.contains("n’a pas pu être imprimée"));
 }
 
 TEST_F(Window, aJobOfTheCourseIsNotCut) {
-    look::QtPrinterSetup asking(printer, prompter);
-    HelpWindow other(book, {asking, printer, prompter});
+    look::QtPrinterSetup asking(printer, messageBoxes);
+    HelpWindow other(book, {asking, printer, messageBoxes});
     other.show();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&other));
     setup.ask();
@@ -182,8 +182,8 @@ TEST_F(Window, aJobOfTheCourseIsNotCut) {
     ASSERT_TRUE(printer.begin("Cours"));
     EXPECT_TRUE(printer.print(sheet));
     hit(Qt::Key_P, Qt::ControlModifier);
-    ASSERT_EQ(prompter.messages.size(), 1U);
-    EXPECT_TRUE(prompter.messages[0].text.startsWith("Une impression est en cours"));
+    ASSERT_EQ(messageBoxes.messages.size(), 1U);
+    EXPECT_TRUE(messageBoxes.messages[0].text.startsWith("Une impression est en cours"));
     EXPECT_TRUE(printer.print(sheet));
     EXPECT_TRUE(printer.end());
     EXPECT_EQ(test_support::PrintedPdf(directory.filePath("page.pdf")).sheets().size(), 2);

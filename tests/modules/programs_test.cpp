@@ -4,8 +4,8 @@
 #include "shell/fake_reports.h"
 #include "shell/launcher.h"
 #include "shell/raw_status_file.h"
+#include "support/fake_message_boxes.h"
 #include "support/fake_processes.h"
-#include "support/fake_prompter.h"
 #include "support/x11_session.h"
 
 #include <QRegularExpression>
@@ -74,11 +74,11 @@ protected:
     X11Session session_{X11Session::Manager::Openbox};
     QTemporaryDir directory_;
     shell::SharedState state_;
-    test_support::FakePrompter prompter_;
+    test_support::FakeMessageBoxes messageBoxes_;
     platform::QtProcesses starter_;
     test_support::FakeActivator activator_;
     FakeReports reports_;
-    shell::Launcher launcher_{state_, prompter_, starter_, activator_, reports_};
+    shell::Launcher launcher_{state_, messageBoxes_, starter_, activator_, reports_};
 };
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "orderform/bondec.h"
 #include "page/faces/font_book.h"
-#include "support/fake_prompter.h"
+#include "support/fake_message_boxes.h"
 #include "support/printing.h"
 
 #include <QAccessible>
@@ -57,8 +57,8 @@ protected:
     Person person;
     Paper paper;
     page::FontBook fonts;
-    test_support::FakePrompter prompter;
-    orderform::Bondec form{{person, paper, fonts}, prompter, nullptr};
+    test_support::FakeMessageBoxes messageBoxes;
+    orderform::Bondec form{{person, paper, fonts}, messageBoxes, nullptr};
 };
 
 TEST_F(Bondec, enterHeldDownPrintsNothing) {
@@ -141,8 +141,8 @@ TEST_F(Bondec, whatBecomesOfPrinting) {
     person.answer = Outcome::Confirmed;
     paper.works = false;
     press();
-    ASSERT_EQ(prompter.messages.size(), 1u);
-    EXPECT_TRUE(prompter.messages[0].text.contains(QStringLiteral("l’encre manque")));
+    ASSERT_EQ(messageBoxes.messages.size(), 1u);
+    EXPECT_TRUE(messageBoxes.messages[0].text.contains(QStringLiteral("l’encre manque")));
     EXPECT_TRUE(form.isVisible());
     person.answer = Outcome::Gone;
     press();

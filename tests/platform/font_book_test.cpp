@@ -90,8 +90,8 @@ TEST(FontBook, charactersAFaceLacksComeFromAnother) {
     const page::FontBook fonts;
     const auto runs = fonts.place(font(u"Comic Sans MS", 12), u"aλb");
     ASSERT_EQ(runs.size(), 3u);
-    EXPECT_EQ(runs[0].stage, runs[2].stage);
-    EXPECT_NE(runs[0].stage, runs[1].stage);
+    EXPECT_EQ(runs[0].fallback, runs[2].fallback);
+    EXPECT_NE(runs[0].fallback, runs[1].fallback);
     for (const char16_t* signs : {u"lnèüðJK", u"\u0080\u009F\u2022"}) {
         for (const auto& run : fonts.place(font(u"Wingdings", 12), signs))
             EXPECT_FALSE(run.glyphs.contains(0u));
@@ -117,11 +117,11 @@ TEST(FontBook, glyphsTellTheirCharacterAndTheirFile) {
             shown += glyph.character;
             EXPECT_GT(glyph.offset, last);
             last = glyph.offset;
-            const auto& source = page::FontBook::faceSource(asked, glyph.stage);
+            const auto& source = page::FontBook::faceSource(asked, glyph.fallback);
             EXPECT_TRUE(source.bold && !source.italic);
             const QRawFont file(source.file, 240);
             ASSERT_TRUE(file.isValid());
-            const QRawFont drawn = fonts.deviceFont(asked, glyph.stage, 240);
+            const QRawFont drawn = fonts.deviceFont(asked, glyph.fallback, 240);
             EXPECT_EQ(file.fontTable("maxp"), drawn.fontTable("maxp"));
             EXPECT_EQ(file.pathForGlyph(glyph.index).elementCount(),
                       drawn.pathForGlyph(glyph.index).elementCount());

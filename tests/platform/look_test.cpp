@@ -312,7 +312,7 @@ TEST(MessageDialog, growsSoThatTheWholeTextShows) {
     EXPECT_GE(heightFor(80), 148 + 10 * 20);
 }
 
-TEST(DialogPrompter, waitsForTheAnswer) {
+TEST(DialogMessageBoxes, waitsForTheAnswer) {
     QTimer::singleShot(0, [] {
         QWidget* dialog = QApplication::activeModalWidget();
         EXPECT_TRUE(QTest::qWaitForWindowActive(dialog));
@@ -320,9 +320,9 @@ TEST(DialogPrompter, waitsForTheAnswer) {
         QTest::keyClick(dialog,
                         Qt::Key_Escape); // should the mnemonic fail, the test ends all the same
     });
-    DialogPrompter prompter;
-    EXPECT_EQ(prompter.ask({QStringLiteral("Orvalente"), QStringLiteral("Confirmez-vous ?"),
-                            Message::Icon::Question, Message::Buttons::YesNo}),
+    DialogMessageBoxes messageBoxes;
+    EXPECT_EQ(messageBoxes.ask({QStringLiteral("Orvalente"), QStringLiteral("Confirmez-vous ?"),
+                                Message::Icon::Question, Message::Buttons::YesNo}),
               Answer::Yes);
 }
 

@@ -2,7 +2,7 @@
 #include "coursetool/print.h"
 #include "coursetool/tool_pictures.h"
 #include "printing/print_case.h"
-#include "support/fake_prompter.h"
+#include "support/fake_message_boxes.h"
 #include "viewer/print_command.h"
 
 namespace {
@@ -23,17 +23,17 @@ TEST_F(PrintCommand, theSetupComesBackUntilItIsConfirmed) {
     test_support::CountingPrinter counting;
     viewer::PagePrinter printing = pages(counting);
     Person setup;
-    test_support::FakePrompter prompter;
-    viewer::PrintCommand(setup, printing, prompter).print();
+    test_support::FakeMessageBoxes messageBoxes;
+    viewer::PrintCommand(setup, printing, messageBoxes).print();
     EXPECT_EQ(setup.asked, 5);
     EXPECT_EQ(counting.sheets, 1);
     Person ending;
     for (const Outcome outcome : {Outcome::Gone, Outcome::Busy}) {
         ending.last = outcome;
-        viewer::PrintCommand(ending, printing, prompter).print();
+        viewer::PrintCommand(ending, printing, messageBoxes).print();
         EXPECT_EQ(counting.sheets, 1) << "the program ends, or another job is under way";
     }
-    EXPECT_TRUE(prompter.messages.empty());
+    EXPECT_TRUE(messageBoxes.messages.empty());
 }
 
 TEST_F(PrintCommand, aJobThatIsCutIsTold) {
@@ -53,11 +53,11 @@ TEST_F(PrintCommand, aJobThatIsCutIsTold) {
         counting.refused = row.refused;
         counting.canEnd = row.canEnd;
         auto printing = pages(counting, [&] { return counting.sheets == row.stoppedAfter; });
-        test_support::FakePrompter prompter;
-        viewer::PrintCommand(setup, printing, prompter).print();
-        ASSERT_EQ(prompter.messages.size(), row.told ? 1U : 0U);
+        test_support::FakeMessageBoxes messageBoxes;
+        viewer::PrintCommand(setup, printing, messageBoxes).print();
+        ASSERT_EQ(messageBoxes.messages.size(), row.told ? 1U : 0U);
         if (row.told) {
-            EXPECT_EQ(prompter.messages[0].text, QString(row.told));
+            EXPECT_EQ(messageBoxes.messages[0].text, QString(row.told));
         }
     }
 }

@@ -1,7 +1,7 @@
 #include "look/palette.h"
 #include "look/print_setup.h"
 #include "look/print_setup_dialog.h"
-#include "support/fake_prompter.h"
+#include "support/fake_message_boxes.h"
 #include "support/files.h"
 #include "support/printing.h"
 
@@ -37,14 +37,14 @@ protected:
     QString path(const QString& name) const { return directory.filePath(name); }
 
     QTemporaryDir directory;
-    test_support::FakePrompter prompter;
+    test_support::FakeMessageBoxes messageBoxes;
 };
 
 TEST_F(PrintSetup, enterHeldDownConfirmsNothingAndTabStopsAtTheChosenOption) {
     look::PrintSetupDialog dialog(
         {QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Landscape, {10, 10, 10, 10}),
          path("a.pdf")},
-        prompter, nullptr);
+        messageBoxes, nullptr);
     dialog.show();
     QKeyEvent heldDown(QEvent::KeyPress, Qt::Key_Return, {}, QStringLiteral("\r"), true);
     QCoreApplication::sendEvent(dialog.focusWidget(), &heldDown);
@@ -57,7 +57,7 @@ TEST_F(PrintSetup, theControlsGiveTheLayout) {
     look::PrintSetupDialog dialog({QPageLayout(QPageSize(QPageSize::A5), QPageLayout::Landscape,
                                                {12, 13, 14, 15}, QPageLayout::Millimeter),
                                    path("a.pdf")},
-                                  prompter, nullptr);
+                                  messageBoxes, nullptr);
     const auto shown = dialog.settings();
     EXPECT_EQ(shown.layout.pageSize().id(), QPageSize::A5);
     EXPECT_EQ(shown.layout.orientation(), QPageLayout::Landscape);
@@ -81,7 +81,7 @@ TEST_F(PrintSetup, theControlsGiveTheLayout) {
 
 TEST_F(PrintSetup, theToolkitsControlsLookLikeOurOwn) {
     using namespace look;
-    look::PrintSetupDialog dialog({QPageLayout(), path("a.pdf")}, prompter, nullptr);
+    look::PrintSetupDialog dialog({QPageLayout(), path("a.pdf")}, messageBoxes, nullptr);
     dialog.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
     const auto edgeOf = [&](const QWidget* control) {
@@ -113,7 +113,7 @@ TEST_F(PrintSetup, theFileIsLookedForWhereItStands) {
     } rows[] = {{path("cours/a.pdf"), path("cours"), "a.pdf"},
                 {path("nulle/part.pdf"), QDir::homePath(), "part.pdf"}};
     for (const auto& row : rows) {
-        look::PrintSetupDialog dialog({QPageLayout(), row.file}, prompter, nullptr);
+        look::PrintSetupDialog dialog({QPageLayout(), row.file}, messageBoxes, nullptr);
         dialog.show();
         QTimer::singleShot(0, [&row] {
             auto* files = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
@@ -146,14 +146,15 @@ TEST_F(PrintSetup, onlyAFileThatCanBeWrittenIsConfirmed) {
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(qPrintable(row.file));
-        prompter.messages.clear();
-        prompter.answers = row.answers;
-        look::PrintSetupDialog dialog({QPageLayout(), row.file}, prompter, nullptr);
+        messageBoxes.messages.clear();
+        messageBoxes.answers = row.answers;
+        look::PrintSetupDialog dialog({QPageLayout(), row.file}, messageBoxes, nullptr);
         dialog.show();
         dialog.accept();
         EXPECT_EQ(dialog.result() == QDialog::Accepted, row.isConfirmed);
-        EXPECT_EQ(prompter.messages.size(), row.said ? 1u : 0u);
-        const QString said = prompter.messages.empty() ? QString() : prompter.messages[0].text;
+        EXPECT_EQ(messageBoxes.messages.size(), row.said ? 1u : 0u);
+        const QString said =
+            messageBoxes.messages.empty() ? QString() : messageBoxes.messages[0].text;
         EXPECT_TRUE(said.contains(QString::fromUtf8(row.said))) << qPrintable(said);
     }
     EXPECT_EQ(test_support::readFile(path("la.pdf")), "contenu") << "only printing replaces it";
@@ -164,7 +165,7 @@ TEST_F(PrintSetup, whatWasChosenHoldsForTheRun) {
         GTEST_SKIP() << "this computer has a printer";
     page::FontBook fonts;
     output::QtPrinter printer(fonts);
-    look::QtPrinterSetup setup(printer, prompter);
+    look::QtPrinterSetup setup(printer, messageBoxes);
     const auto answer = [&](const std::function<void(QWidget&)>& person) {
         QTimer::singleShot(0, [&person] { person(*QApplication::activeModalWidget()); });
         return setup.ask();

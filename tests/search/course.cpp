@@ -43,7 +43,7 @@ std::vector<int> positions(PageSearch& search) {
     return all;
 }
 
-std::vector<int> found(CoursePages& pages, const Query& query) {
+std::vector<int> found(SearchablePages& pages, const Query& query) {
     PageSearch search(pages, query);
     return positions(search);
 }

@@ -32,6 +32,6 @@ std::vector<Record> withSources(const std::vector<std::u16string>& sources);
 
 /// Positions of the pages found, in their order, once the search is over.
 std::vector<int> positions(PageSearch& search);
-std::vector<int> found(CoursePages& pages, const Query& query);
+std::vector<int> found(SearchablePages& pages, const Query& query);
 
 } // namespace search

@@ -1,5 +1,5 @@
 #include "search/course.h"
-#include "search/course_pages.h"
+#include "search/searchable_pages.h"
 
 #include <gmock/gmock.h>
 
@@ -12,13 +12,13 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-CoursePages opened(const Course& course, std::size_t mostBytes = kFoldedCopyBytes) {
-    auto pages = CoursePages::open(course.database(), mostBytes);
+SearchablePages opened(const Course& course, std::size_t mostBytes = kFoldedCopyBytes) {
+    auto pages = SearchablePages::open(course.database(), mostBytes);
     EXPECT_TRUE(pages) << pages.error().sentence;
     return *std::move(pages);
 }
 
-std::vector<int> found(CoursePages& pages, const char16_t* typed, bool allWords = false,
+std::vector<int> found(SearchablePages& pages, const char16_t* typed, bool allWords = false,
                        bool ignoreAccents = false) {
     return search::found(pages, {queryWords(typed), allWords, ignoreAccents});
 }
@@ -132,8 +132,8 @@ TEST(PageSearch, keepsNoMoreThanItMay) {
     }
 }
 
-TEST(CoursePages, tellsWhyItCannotBeOpened) {
-    const auto none = CoursePages::open(Course({}, u"autre").database());
+TEST(SearchablePages, tellsWhyItCannotBeOpened) {
+    const auto none = SearchablePages::open(Course({}, u"autre").database());
     ASSERT_FALSE(none);
     EXPECT_THAT(none.error().sentence, HasSubstr("cours"));
 }

@@ -1,5 +1,5 @@
 #include "search/course.h"
-#include "search/course_pages.h"
+#include "search/searchable_pages.h"
 
 #include <QString>
 
@@ -88,9 +88,9 @@ TEST(PageSearch, findsWhatALiteralSearchFinds) {
             folded[ignoreAccents].push_back(literallyFolded(source, ignoreAccents));
     const Course course(withSources(sources));
     // Without a copy, with one of the first pages only, and with one of all.
-    std::vector<CoursePages> everyCopy;
+    std::vector<SearchablePages> everyCopy;
     for (const std::size_t most : {std::size_t{0}, std::size_t{200'000}, kFoldedCopyBytes})
-        everyCopy.push_back(*CoursePages::open(course.database(), most));
+        everyCopy.push_back(*SearchablePages::open(course.database(), most));
     std::size_t hits = 0;
     for (int i = 0; i < 40; ++i) {
         Query query;
@@ -101,7 +101,7 @@ TEST(PageSearch, findsWhatALiteralSearchFinds) {
         query.ignoreAccents = chance.below(2) == 0;
         const std::vector<int> expected = literallyFound(folded[query.ignoreAccents], query);
         hits += expected.size();
-        for (CoursePages& pages : everyCopy)
+        for (SearchablePages& pages : everyCopy)
             ASSERT_EQ(found(pages, query), expected)
                 << testing::PrintToString(query.words) << query.allWords << query.ignoreAccents;
     }

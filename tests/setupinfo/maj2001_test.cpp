@@ -2,7 +2,7 @@
 #include "platform/error_box_starter.h"
 #include "platform/qt/qt_processes.h"
 #include "setupinfo/maj2001.h"
-#include "support/fake_prompter.h"
+#include "support/fake_message_boxes.h"
 #include "support/files.h"
 #include "support/plain_words.h"
 #include "support/printing.h"
@@ -23,9 +23,9 @@ protected:
     }
 
     QTemporaryDir directory;
-    test_support::FakePrompter prompter;
+    test_support::FakeMessageBoxes messageBoxes;
     platform::QtProcesses processes;
-    platform::ErrorBoxStarter starter{processes, prompter};
+    platform::ErrorBoxStarter starter{processes, messageBoxes};
     setupinfo::Installation installation{QStringLiteral("Lycée"), QStringLiteral("complète"),
                                          QVersionNumber(1, 0, 5), QDate(2024, 9, 14)};
     setupinfo::Maj2001 dialog{installation, directory.path() + '/', starter, nullptr};
@@ -44,7 +44,7 @@ TEST_F(Maj2001, startsTheTwoProgramsAndStaysOpen) {
         })) << program;
         EXPECT_TRUE(dialog.isVisible());
     }
-    EXPECT_TRUE(prompter.messages.empty());
+    EXPECT_TRUE(messageBoxes.messages.empty());
     press("Command3");
     EXPECT_FALSE(dialog.isVisible());
 }
@@ -53,14 +53,14 @@ TEST_F(Maj2001, aStartThatFailsIsToldByThePlatform) {
     test_support::writeFile(directory.filePath("MAJKX.EXE"), "no program");
     press("Command1");
     press("Command2");
-    ASSERT_EQ(prompter.messages.size(), 2u);
-    EXPECT_EQ(prompter.messages[0],
+    ASSERT_EQ(messageBoxes.messages.size(), 2u);
+    EXPECT_EQ(messageBoxes.messages[0],
               (platform::Message{
                   QStringLiteral("INSTALLKX.EXE"),
                   QStringLiteral("Le programme «\u00A0INSTALLKX.EXE\u00A0» est introuvable dans le "
                                  "dossier du cours."),
                   platform::Message::Icon::Critical, platform::Message::Buttons::Ok}));
-    EXPECT_TRUE(prompter.messages[1].text.contains(QStringLiteral("n’est pas un programme")));
+    EXPECT_TRUE(messageBoxes.messages[1].text.contains(QStringLiteral("n’est pas un programme")));
 }
 
 TEST_F(Maj2001, groundGrowsFromBlackToBlue) {

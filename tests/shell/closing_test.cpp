@@ -131,5 +131,5 @@ TEST_F(ClosingTest, touchesNothingWithoutAPositiveCount) {
     EXPECT_EQ(windows_.reads, 0);
     EXPECT_EQ(starter_.programs.size(), 3);
     EXPECT_TRUE(reports_.lines.isEmpty());
-    EXPECT_TRUE(prompter_.messages.empty());
+    EXPECT_TRUE(messageBoxes_.messages.empty());
 }

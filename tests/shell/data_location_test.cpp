@@ -1,6 +1,6 @@
 #include "coursedata/data_location.h"
 #include "support/fake_beeper.h"
-#include "support/fake_prompter.h"
+#include "support/fake_message_boxes.h"
 #include "support/files.h"
 
 #include <QDir>
@@ -28,16 +28,16 @@ struct DataLocation : testing::Test, platform::Drives {
     QString short_(const QString& path) const { return QDir(work.path()).relativeFilePath(path); }
     QString picture(const QString& name) { return short_(location.locatePicture(name)); }
     QString giveUp(const QString& name) {
-        prompter.answers = {Answer::Cancel};
+        messageBoxes.answers = {Answer::Cancel};
         return location.locatePicture(name);
     }
 
     QTemporaryDir work;
     std::map<QChar, QString> letters_;
     coursedata::DataDirectories state;
-    test_support::FakePrompter prompter;
+    test_support::FakeMessageBoxes messageBoxes;
     test_support::FakeBeeper beeper;
-    coursedata::DataLocation location{state, *this, prompter, beeper};
+    coursedata::DataLocation location{state, *this, messageBoxes, beeper};
 };
 
 TEST_F(DataLocation, prefersTheInstallationDirectoryThenTheHighestLetter) {
@@ -50,13 +50,13 @@ TEST_F(DataLocation, prefersTheInstallationDirectoryThenTheHighestLetter) {
     put("course/fig.gif");
     EXPECT_EQ(picture("fig.gif"), "course/fig.gif");
     EXPECT_EQ(state.PictureDataDir, "E:\\ZEKXDATA\\");
-    EXPECT_EQ(prompter.messages.size() + static_cast<std::size_t>(beeper.beeps), 0u);
+    EXPECT_EQ(messageBoxes.messages.size() + static_cast<std::size_t>(beeper.beeps), 0u);
 }
 
 TEST_F(DataLocation, looksForVideosOnDrivesAlone) {
     put("course/clip.avi");
     put("e/zekxdata/clip.avi");
-    prompter.answers = {Answer::Cancel};
+    messageBoxes.answers = {Answer::Cancel};
     EXPECT_EQ(location.locateVideo("clip.avi"), "");
     EXPECT_EQ(location.findBesideLastVideo("clip.avi"), std::nullopt);
     put("e/ZekxV/clip.avi");
@@ -75,8 +75,8 @@ TEST_F(DataLocation, looksForVideosOnDrivesAlone) {
 
 TEST_F(DataLocation, asksForTheDiscUntilItIsThereOrGivenUp) {
     EXPECT_EQ(giveUp("fig.gif"), "");
-    ASSERT_EQ(prompter.messages.size(), 1u);
-    EXPECT_EQ(prompter.messages[0],
+    ASSERT_EQ(messageBoxes.messages.size(), 1u);
+    EXPECT_EQ(messageBoxes.messages[0],
               (platform::Message{
                   "CD-ROM absent",
                   "Veuillez introduire le CD-ROM « ORVALENTE SCIENCES » dans le lecteur.",
@@ -84,7 +84,7 @@ TEST_F(DataLocation, asksForTheDiscUntilItIsThereOrGivenUp) {
     EXPECT_EQ(beeper.beeps, 1);
 
     /// Inserts the disc while the second question is on the screen.
-    struct Inserting : platform::Prompter {
+    struct Inserting : platform::MessageBoxes {
         DataLocation& test;
         int asked = 0;
         explicit Inserting(DataLocation& t) : test(t) {}
@@ -104,7 +104,7 @@ TEST_F(DataLocation, leavesBlankNamesAlone) {
     EXPECT_EQ(location.locatePicture(""), "");
     EXPECT_EQ(location.locatePicture("   "), "   ");
     EXPECT_EQ(location.locateVideo("  "), "  ");
-    EXPECT_TRUE(prompter.messages.empty());
+    EXPECT_TRUE(messageBoxes.messages.empty());
 }
 
 TEST_F(DataLocation, noNameLeavesItsDirectory) {

@@ -3,8 +3,8 @@
 #include "fake_reports.h"
 #include "raw_status_file.h"
 #include "shell/launcher.h"
+#include "support/fake_message_boxes.h"
 #include "support/fake_processes.h"
-#include "support/fake_prompter.h"
 
 #include <QTemporaryDir>
 
@@ -25,9 +25,9 @@ protected:
 
     QTemporaryDir directory_;
     shell::SharedState state_;
-    test_support::FakePrompter prompter_;
+    test_support::FakeMessageBoxes messageBoxes_;
     test_support::FakeStarter starter_;
     test_support::FakeActivator activator_;
     FakeReports reports_;
-    shell::Launcher launcher_{state_, prompter_, starter_, activator_, reports_};
+    shell::Launcher launcher_{state_, messageBoxes_, starter_, activator_, reports_};
 };

@@ -2,8 +2,8 @@
 #include "platform/qt/qt_processes.h"
 #include "raw_status_file.h"
 #include "shell/launcher.h"
+#include "support/fake_message_boxes.h"
 #include "support/fake_processes.h"
-#include "support/fake_prompter.h"
 
 #include <QTemporaryDir>
 
@@ -34,11 +34,11 @@ TEST(LauncherProcesses, aRealModuleIsStartedFoundRunningAndStartedAgain) {
     raw_status_file::writeAllNon(personal.path());
     test_support::writeProgram(directory.filePath("SIMU23.EXE"), kModule23);
 
-    test_support::FakePrompter prompter;
+    test_support::FakeMessageBoxes messageBoxes;
     platform::QtProcesses starter;
     test_support::FakeActivator activator;
     FakeReports reports;
-    shell::Launcher launcher(state, prompter, starter, activator, reports);
+    shell::Launcher launcher(state, messageBoxes, starter, activator, reports);
     const auto record23 = [&] { return raw_status_file::characters(personal.path(), 23); };
     const auto pid = [&] { return *state.SiblingProcessIds.slot(23); };
 

@@ -89,9 +89,9 @@ TEST_F(LauncherTest, aCodeWithoutAProgramOnlyClearsTheArgument) {
 
 TEST_F(LauncherTest, asksBeforeItStartsBesideAnotherModule) {
     put(9, "OUI");
-    prompter_.answers = {Answer::No, Answer::Yes};
+    messageBoxes_.answers = {Answer::No, Answer::Yes};
     launcher_.launchModule(235);
-    EXPECT_EQ(prompter_.messages.back(),
+    EXPECT_EQ(messageBoxes_.messages.back(),
               (Message{"Orvalente",
                        "Il y a déjà un module en cours d'exécution.\r\n"
                        "Confirmez-vous cette commande ?",
@@ -103,7 +103,7 @@ TEST_F(LauncherTest, asksBeforeItStartsBesideAnotherModule) {
 
     launcher_.launchModule(70);
     EXPECT_EQ(starter_.programs.size(), 1);
-    EXPECT_EQ(prompter_.messages.size(), 2u);
+    EXPECT_EQ(messageBoxes_.messages.size(), 2u);
 }
 
 TEST_F(LauncherTest, aRunningModuleComesToTheFrontUnasked) {
@@ -124,7 +124,7 @@ TEST_F(LauncherTest, aRunningModuleComesToTheFrontUnasked) {
     put(9, "NON");
     launcher_.launchModule(70);
     EXPECT_EQ(starter_.programs.size(), 2);
-    EXPECT_TRUE(prompter_.messages.empty());
+    EXPECT_TRUE(messageBoxes_.messages.empty());
 }
 
 TEST_F(LauncherTest, aFailedStartIsToldInALineAndKeepsTheOldProcess) {
@@ -153,18 +153,18 @@ TEST_F(LauncherTest, aFailedStartIsToldInALineAndKeepsTheOldProcess) {
     EXPECT_TRUE(reports_.lines.takeLast().contains("SIMU07.EXE"));
     EXPECT_EQ(pidOf(7), 12);
     EXPECT_TRUE(activator_.requests.empty());
-    EXPECT_TRUE(prompter_.messages.empty());
+    EXPECT_TRUE(messageBoxes_.messages.empty());
 }
 
 TEST_F(LauncherTest, anUpdateNeedsThirtyRecordsThatSayExactlyNon) {
     put(31, "Exercice 01.E24");
     EXPECT_TRUE(launcher_.confirmUpdateIsPossible());
-    EXPECT_TRUE(prompter_.messages.empty());
+    EXPECT_TRUE(messageBoxes_.messages.empty());
     for (const char* text : {"OUI", "NON ", "non", ""}) {
         put(30, text);
         EXPECT_FALSE(launcher_.confirmUpdateIsPossible()) << text;
     }
-    EXPECT_EQ(prompter_.messages.back(),
+    EXPECT_EQ(messageBoxes_.messages.back(),
               (Message{"Mise à jour impossible",
                        "Pour effectuer une mise à jour, tous les modules du logiciel doivent être "
                        "fermés",

@@ -1,7 +1,7 @@
 #include "raw_status_file.h"
 #include "shell/start_up.h"
 #include "shell/status_place.h"
-#include "support/fake_prompter.h"
+#include "support/fake_message_boxes.h"
 #include "support/fake_screen.h"
 #include "support/files.h"
 
@@ -77,11 +77,11 @@ protected:
     QTemporaryDir directory_;
     shell::SharedState state_;
     test_support::FakeScreen screen_{1024, 768};
-    test_support::FakePrompter prompter_;
+    test_support::FakeMessageBoxes messageBoxes_;
     std::optional<double> widthAfterBinding_;
     Choice choice_ = Choice::Continue;
     QStringList steps_;
-    StartUp startUp_{state_, directory_.path(), {screen_, prompter_, *this, *this, *this}};
+    StartUp startUp_{state_, directory_.path(), {screen_, messageBoxes_, *this, *this, *this}};
 };
 
 TEST_F(StartUpTest, runsItsStepsInOrder) {
@@ -89,7 +89,7 @@ TEST_F(StartUpTest, runsItsStepsInOrder) {
     EXPECT_EQ(steps_,
               (QStringList{"width 12000", "bind /ZEKX.MDB", "pump", "place 1680 1260 12000 9000",
                            "pump, file there", "pump, file there"}));
-    EXPECT_TRUE(prompter_.messages.empty());
+    EXPECT_TRUE(messageBoxes_.messages.empty());
     EXPECT_EQ(startUp_.coverPath(), directory_.path() + "/couverture.jpg");
 }
 
@@ -194,7 +194,7 @@ TEST_F(StartUpTest, endsOnAScreenTooNarrowBeforeAnythingIsLookedFor) {
     QFile::remove(directory_.filePath("ZEKX.MDB"));
     EXPECT_EQ(run(), StartUp::Outcome::End);
     EXPECT_EQ(
-        prompter_.messages,
+        messageBoxes_.messages,
         (std::vector{Message{"Exécution impossible", "La configyaration d'écran est inadaptée",
                              Message::Icon::Critical, Message::Buttons::Ok}}));
     EXPECT_EQ(steps_, (QStringList{"width 12000"}));
@@ -205,7 +205,7 @@ TEST_F(StartUpTest, endsOnAScreenTooNarrowBeforeAnythingIsLookedFor) {
 TEST_F(StartUpTest, endsWithoutADatabaseAndWithoutTouchingTheStatusFile) {
     QFile::remove(directory_.filePath("ZEKX.MDB"));
     EXPECT_EQ(run(), StartUp::Outcome::End);
-    EXPECT_EQ(prompter_.messages,
+    EXPECT_EQ(messageBoxes_.messages,
               (std::vector{Message{"Exécution impossible", "Base de données absente",
                                    Message::Icon::Critical, Message::Buttons::Ok}}));
     EXPECT_EQ(steps_, (QStringList{"width 12000"}));

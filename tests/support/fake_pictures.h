@@ -1,6 +1,6 @@
 #pragma once
 
-#include "markup/picture_shelf.h"
+#include "markup/picture_source.h"
 
 #include <QStringList>
 
@@ -31,7 +31,7 @@ private:
 
 /// Pictures by file name and by key. A name that is not here is on no disc; a null picture stands
 /// for a file that cannot be read.
-class FakePictures : public markup::PictureShelf {
+class FakePictures : public markup::PictureSource {
 public:
     QString locatePicture(const QString& name) override {
         asked.append(name);

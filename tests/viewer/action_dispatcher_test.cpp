@@ -14,10 +14,10 @@ class Actions : public testing::Test {
 protected:
     /// Runs a code; the number of the page shown by it, or "-" when it showed none.
     QString run(const QString& code) {
-        bench.neighbours.log.clear();
+        bench.collaborators.log.clear();
         bench.actions.run(code);
-        return bench.neighbours.log.contains(QStringLiteral("show page")) ? bench.shown()
-                                                                          : QStringLiteral("-");
+        return bench.collaborators.log.contains(QStringLiteral("show page")) ? bench.shown()
+                                                                             : QStringLiteral("-");
     }
 
     // In the order of the records; the numbers 0 and 2 have no page.
@@ -80,9 +80,9 @@ TEST_F(Actions, readingOrderHasItsOwnTable) {
 TEST_F(Actions, neighbourOfTheHighestIndexIsNone) {
     run(QStringLiteral("PAG001"));
     bench.state.CurrentOrderIndex = std::numeric_limits<std::int32_t>::max();
-    bench.neighbours.log.clear();
+    bench.collaborators.log.clear();
     bench.commands.nextInChapter();
-    EXPECT_TRUE(bench.neighbours.log.isEmpty());
+    EXPECT_TRUE(bench.collaborators.log.isEmpty());
 }
 
 TEST_F(Actions, withoutIndexThePageStays) {
@@ -96,13 +96,13 @@ TEST_F(Actions, withoutIndexThePageStays) {
 
 TEST_F(Actions, otherPrefixesLeaveThePageAlone) {
     EXPECT_EQ(run(QStringLiteral("EXE235")), QStringLiteral("-"));
-    EXPECT_THAT(bench.neighbours.log,
+    EXPECT_THAT(bench.collaborators.log,
                 ElementsAre(QStringLiteral("launch 235"), QStringLiteral("normal pointer")));
     run(QStringLiteral("BDC000"));
-    EXPECT_THAT(bench.neighbours.log,
+    EXPECT_THAT(bench.collaborators.log,
                 ElementsAre(QStringLiteral("order form"), QStringLiteral("normal pointer")));
     run(QStringLiteral("??"));
-    EXPECT_THAT(bench.neighbours.log, ElementsAre(QStringLiteral("normal pointer")));
+    EXPECT_THAT(bench.collaborators.log, ElementsAre(QStringLiteral("normal pointer")));
 }
 
 TEST_F(Actions, pendingChapterIsNeverOverwritten) {
@@ -110,17 +110,17 @@ TEST_F(Actions, pendingChapterIsNeverOverwritten) {
     EXPECT_EQ(bench.state.PendingExerciseChapter, 12);
     bench.actions.run(QStringLiteral("EXO034"));
     EXPECT_EQ(bench.state.PendingExerciseChapter, 12);
-    EXPECT_EQ(bench.neighbours.log.count(QStringLiteral("exercise")), 2);
+    EXPECT_EQ(bench.collaborators.log.count(QStringLiteral("exercise")), 2);
 }
 
 TEST_F(Actions, exerciseMayReplaceTheCodeByThePageToReturnTo) {
-    bench.neighbours.exercise.whileOpen = [this] { bench.state.ExerciseReturnPage = 7; };
+    bench.collaborators.exercise.whileOpen = [this] { bench.state.ExerciseReturnPage = 7; };
     QString code = QStringLiteral("EXO001");
     bench.actions.runAction(code);
     EXPECT_EQ(code, QStringLiteral("PAG007"));
     EXPECT_TRUE(bench.view.returnToTest);
 
-    bench.neighbours.exercise.whileOpen = [this] { bench.state.ExerciseReturnPage = 0; };
+    bench.collaborators.exercise.whileOpen = [this] { bench.state.ExerciseReturnPage = 0; };
     code = QStringLiteral("EXO001");
     bench.actions.runAction(code);
     EXPECT_EQ(code, QStringLiteral("EXO001"));

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "viewer/action_dispatcher.h"
-#include "viewer/neighbours.h"
+#include "viewer/collaborators.h"
 
 #include <QStringList>
 
@@ -11,7 +11,7 @@
 namespace test_support {
 
 /// What stands beside the main window: each notes in `log` what it was asked for.
-struct FakeNeighbours {
+struct FakeCollaborators {
     struct Window : viewer::ModalWindow {
         Window(QStringList& calls, QString text) : log(calls), name(std::move(text)) {}
         void open() override {
@@ -78,7 +78,7 @@ struct FakeNeighbours {
         QStringList& log;
     };
 
-    viewer::Neighbours all() {
+    viewer::Collaborators all() {
         return {video,  links,      printing, updates,      exercise,  orderForm,
                 search, calculator, help,     installation, exitScreen};
     }

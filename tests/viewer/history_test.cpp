@@ -70,9 +70,9 @@ TEST_F(Histories, forwardAtTheLastSlotStaysPossibleAndShowsNothingNew) {
     bench.commands.forward();
     EXPECT_EQ(bench.shown(), QStringLiteral("100"));
     EXPECT_TRUE(bench.view.forward);
-    bench.neighbours.log.clear();
+    bench.collaborators.log.clear();
     bench.commands.forward();
-    EXPECT_FALSE(bench.neighbours.log.contains(QStringLiteral("show page")));
+    EXPECT_FALSE(bench.collaborators.log.contains(QStringLiteral("show page")));
     EXPECT_EQ(bench.state.HistoryPos, 101);
     bench.commands.back();
     EXPECT_EQ(bench.shown(), QStringLiteral("100"));

@@ -2,7 +2,7 @@
 #include "coursedata/symbol_names.h"
 #include "shell/shared_state.h"
 #include "support/fake_beeper.h"
-#include "support/fake_prompter.h"
+#include "support/fake_message_boxes.h"
 #include "support/files.h"
 
 #include <QDir>
@@ -78,9 +78,9 @@ TEST(CoursePictures, readFilesOnceUntilTheyChange) {
     } drives;
     shell::SharedState state;
     state.InstallDir = course.path() + '/';
-    test_support::FakePrompter prompter;
+    test_support::FakeMessageBoxes messageBoxes;
     test_support::FakeBeeper beeper;
-    coursedata::DataLocation location(state, drives, prompter, beeper);
+    coursedata::DataLocation location(state, drives, messageBoxes, beeper);
     coursedata::ImageList symbols(course.path());
     coursedata::CoursePictures pictures(location, symbols);
 

@@ -16,7 +16,7 @@ namespace test_support {
 class Links : public testing::Test {
 protected:
     Links() {
-        const viewer::Neighbours rest = bench.neighbours.all();
+        const viewer::Collaborators rest = bench.collaborators.all();
         bench.window.attach(
             {bench.commands,
              bench.actions,

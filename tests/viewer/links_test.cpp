@@ -160,7 +160,7 @@ TEST_F(Links, clickRunsTheTagUnderAnHourglass) {
           QStringLiteral("##LIERTpage#PAG005\r\n##LIERTmodule#EXE070\r\n##LIERTrien#pag005\r\n"));
     show(3);
     click("Labelien(1)");
-    EXPECT_THAT(bench.neighbours.log,
+    EXPECT_THAT(bench.collaborators.log,
                 ElementsAre(QStringLiteral("close video"), QStringLiteral("launch 70")));
     click("Labelien(2)");
     EXPECT_EQ(shown(), QStringLiteral("3"));
@@ -168,13 +168,13 @@ TEST_F(Links, clickRunsTheTagUnderAnHourglass) {
     Qt::CursorShape during{};
     write(6, QStringLiteral("##LIERTbon#BDC000\r\n"));
     show(6);
-    bench.neighbours.orderForm.whileOpen = [&] {
+    bench.collaborators.orderForm.whileOpen = [&] {
         during = link("Labelien(0)")->cursor().shape();
         click("Labelien(0)"); // no second one while the first runs
     };
-    bench.neighbours.log.clear();
+    bench.collaborators.log.clear();
     click("Labelien(0)");
-    EXPECT_THAT(bench.neighbours.log, ElementsAre(QStringLiteral("order form")));
+    EXPECT_THAT(bench.collaborators.log, ElementsAre(QStringLiteral("order form")));
     EXPECT_EQ(during, Qt::WaitCursor);
     EXPECT_EQ(link("Labelien(0)")->cursor().shape(), Qt::PointingHandCursor);
 }
@@ -203,15 +203,15 @@ TEST_F(Links, pageAfterTheTestIsShownOnceWhoeverOpenedIt) {
             QTest::keyClick(bench.control<QMenu>("flottant"), Qt::Key_Return);
         },
     };
-    bench.neighbours.exercise.whileOpen = [this] { bench.state.ExerciseReturnPage = 7; };
+    bench.collaborators.exercise.whileOpen = [this] { bench.state.ExerciseReturnPage = 7; };
     for (const auto& call : callers)
         for (int time = 0; time < 2; ++time) {
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
             show(3);
             const auto before = bench.history();
-            bench.neighbours.log.clear();
+            bench.collaborators.log.clear();
             call();
-            EXPECT_EQ(bench.neighbours.log.count(QStringLiteral("exercise")), 1);
+            EXPECT_EQ(bench.collaborators.log.count(QStringLiteral("exercise")), 1);
             EXPECT_EQ(shown(), QStringLiteral("7"));
             EXPECT_EQ(bench.history(), before + QList<int>{7});
         }

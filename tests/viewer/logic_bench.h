@@ -2,7 +2,7 @@
 
 #include "coursedata/page_index.h"
 #include "markup/page_bench.h"
-#include "support/fake_prompter.h"
+#include "support/fake_message_boxes.h"
 #include "viewer/action_dispatcher.h"
 #include "viewer/course.h"
 #include "viewer/fakes.h"
@@ -85,19 +85,19 @@ public:
     }
 
     test_support::MemoryRecordset cours;
-    FakeNeighbours neighbours;
-    test_support::FakePrompter prompter;
-    LoggingView view{neighbours.log};
+    FakeCollaborators collaborators;
+    test_support::FakeMessageBoxes messageBoxes;
+    LoggingView view{collaborators.log};
     PageBench drawing;
     shell::SharedState state;
     coursedata::BoundRecord bound;
     markup::DrawnPage& drawn = drawing.page;
     viewer::PageLoader pages{state, bound,
                              view,  {drawing.state, drawing.pictures, drawing.metrics, &drawing},
-                             drawn, neighbours.video};
+                             drawn, collaborators.video};
     viewer::ActionDispatcher actions{
-        state, pages, view, neighbours.modules, neighbours.exercise, neighbours.orderForm};
-    viewer::MainCommands commands{state, actions, view, neighbours.all(), prompter};
+        state, pages, view, collaborators.modules, collaborators.exercise, collaborators.orderForm};
+    viewer::MainCommands commands{state, actions, view, collaborators.all(), messageBoxes};
 };
 
 } // namespace test_support

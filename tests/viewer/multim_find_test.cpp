@@ -112,9 +112,9 @@ TEST_F(Find, staysOpenForTheNextPageAndLeavesTheWindowItsKeys) {
     EXPECT_EQ(focused(), QStringLiteral("findField"));
     EXPECT_EQ(status(), QStringLiteral("1 sur 1"));
     EXPECT_GT(scrolled(), 0);
-    bench.neighbours.log.clear();
+    bench.collaborators.log.clear();
     pressThere(Qt::Key_C, Qt::AltModifier);
-    EXPECT_EQ(bench.neighbours.log, QStringList{QStringLiteral("calculator")});
+    EXPECT_EQ(bench.collaborators.log, QStringList{QStringLiteral("calculator")});
     pressThere(Qt::Key_Left, Qt::AltModifier);
     EXPECT_EQ(shown(), QStringLiteral("5"));
     EXPECT_EQ(status(), QStringLiteral("1 sur 2"));
@@ -126,8 +126,9 @@ TEST_F(Find, staysOpenForTheNextPageAndLeavesTheWindowItsKeys) {
 }
 
 TEST_F(Find, wordsOfTheSearchWindowAreMarkedUntilAnotherPageComes) {
-    bench.neighbours.search.words = {{QStringLiteral("prisme"), QStringLiteral("accentué")}, false};
-    bench.neighbours.search.window.whileOpen = [this] { bench.state.SearchChosenPage = 3; };
+    bench.collaborators.search.words = {{QStringLiteral("prisme"), QStringLiteral("accentué")},
+                                        false};
+    bench.collaborators.search.window.whileOpen = [this] { bench.state.SearchChosenPage = 3; };
     bench.cours.records[2][QStringLiteral("fpc")] =
         lines(40) + QStringLiteral("ACCENTUÉ, accentue¶\r\n");
     click("command4");
@@ -154,7 +155,7 @@ TEST_F(Find, wordsOfTheSearchWindowAreMarkedUntilAnotherPageComes) {
     EXPECT_TRUE(isMarked());
     show(5);
     EXPECT_FALSE(isMarked());
-    bench.neighbours.search.window.whileOpen = [this] { bench.state.SearchChosenPage = 0; };
+    bench.collaborators.search.window.whileOpen = [this] { bench.state.SearchChosenPage = 0; };
     click("command4"); // cancelled
     EXPECT_EQ(shown(), QStringLiteral("5"));
     EXPECT_FALSE(isMarked());

@@ -32,11 +32,11 @@ TEST_F(Window, mnemonicsPressTheirButtons) {
         press(row.key, Qt::AltModifier);
         EXPECT_EQ(shown(), row.page) << char(row.key);
     }
-    bench.neighbours.log.clear();
+    bench.collaborators.log.clear();
     press(Qt::Key_C, Qt::AltModifier);
     press(Qt::Key_A, Qt::AltModifier);
     press(Qt::Key_E, Qt::AltModifier);
-    EXPECT_THAT(bench.neighbours.log.mid(0, 3),
+    EXPECT_THAT(bench.collaborators.log.mid(0, 3),
                 ElementsAre(QStringLiteral("calculator"), QStringLiteral("help"),
                             QStringLiteral("launch 70")));
 }
@@ -85,20 +85,21 @@ TEST_F(Window, comesBackToWhereAPageWasLeft) {
 
 TEST_F(Window, keysThatEveryoneTries) {
     show(2);
-    bench.prompter.answers = {Answer::Cancel};
-    bench.neighbours.log.clear();
+    bench.messageBoxes.answers = {Answer::Cancel};
+    bench.collaborators.log.clear();
     press(Qt::Key_L, Qt::ControlModifier);
     press(Qt::Key_P, Qt::ControlModifier);
     press(Qt::Key_F1);
     press(Qt::Key_Q, Qt::ControlModifier);
-    EXPECT_THAT(bench.neighbours.log, ElementsAre(QStringLiteral("search"), QStringLiteral("print"),
-                                                  QStringLiteral("help")));
-    EXPECT_EQ(bench.prompter.messages.size(), 1u);
+    EXPECT_THAT(
+        bench.collaborators.log,
+        ElementsAre(QStringLiteral("search"), QStringLiteral("print"), QStringLiteral("help")));
+    EXPECT_EQ(bench.messageBoxes.messages.size(), 1u);
     press(Qt::Key_Home, Qt::AltModifier);
     EXPECT_EQ(shown(), QStringLiteral("1"));
-    bench.neighbours.log.clear();
+    bench.collaborators.log.clear();
     press(Qt::Key_P, Qt::ControlModifier); // may not be printed
-    EXPECT_FALSE(bench.neighbours.log.contains(QStringLiteral("print")));
+    EXPECT_FALSE(bench.collaborators.log.contains(QStringLiteral("print")));
 }
 
 TEST_F(Window, keysWheelAndBarScrollATallPage) {

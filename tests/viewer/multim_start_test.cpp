@@ -90,7 +90,7 @@ TEST(WindowStart, standsUnderItsCoverUntilTheFirstPage) {
             EXPECT_FALSE(bench.control<QWidget>("PictureTEXTE")->isVisible());
             EXPECT_FALSE(bench.state.PageByNumber.has_value());
             QTest::mouseClick(bench.control("Command3"), Qt::LeftButton);
-            seen = bench.neighbours.log;
+            seen = bench.collaborators.log;
         });
         return true;
     };
@@ -133,7 +133,7 @@ TEST(WindowStart, closingMeanwhileEndsItWithoutAQuestion) {
         return true;
     };
     EXPECT_FALSE(bench.start().started);
-    EXPECT_TRUE(bench.prompter.messages.empty());
+    EXPECT_TRUE(bench.messageBoxes.messages.empty());
     EXPECT_EQ(bench.state.HistoryPos, 0);
 }
 

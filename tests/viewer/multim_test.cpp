@@ -151,17 +151,17 @@ TEST_F(Window, eachButtonDoesWhatItSays) {
              Row{"Command10", QStringLiteral("help"), {}},
              Row{"Command8", QStringLiteral("installation"), {}},
          }) {
-        bench.neighbours.log.clear();
+        bench.collaborators.log.clear();
         click(row.button);
         if (!row.page.isEmpty())
             EXPECT_EQ(shown(), row.page) << row.button;
         else
-            EXPECT_EQ(bench.neighbours.log.value(0), row.call) << row.button;
+            EXPECT_EQ(bench.collaborators.log.value(0), row.call) << row.button;
     }
 }
 
 TEST_F(Window, buttonsThatAPageDoesNotOfferDoNothing) {
-    bench.neighbours.log.clear();
+    bench.collaborators.log.clear();
     for (const char* name : {"CommandIMPRIME", "avant", "apres"})
         click(name);
     press(Qt::Key_Left, Qt::AltModifier);
@@ -169,13 +169,13 @@ TEST_F(Window, buttonsThatAPageDoesNotOfferDoNothing) {
     press(Qt::Key_Backspace);
     press(Qt::Key_I, Qt::AltModifier);
     press(Qt::Key_P, Qt::AltModifier);
-    EXPECT_TRUE(bench.neighbours.log.isEmpty());
+    EXPECT_TRUE(bench.collaborators.log.isEmpty());
     EXPECT_EQ(bench.state.HistoryPos, 1);
 
     show(2);
-    bench.neighbours.log.clear();
+    bench.collaborators.log.clear();
     click("CommandIMPRIME");
-    EXPECT_THAT(bench.neighbours.log, ElementsAre(QStringLiteral("print")));
+    EXPECT_THAT(bench.collaborators.log, ElementsAre(QStringLiteral("print")));
 }
 
 TEST_F(Window, pageIsAsTallAsWhatWasDrawnOnIt) {
@@ -210,7 +210,7 @@ TEST_F(Window, summaryButtonFollowsThePage) {
 }
 
 TEST_F(Window, searchShowsThePageChosen) {
-    bench.neighbours.search.window.whileOpen = [this] { bench.state.SearchChosenPage = 30; };
+    bench.collaborators.search.window.whileOpen = [this] { bench.state.SearchChosenPage = 30; };
     click("command4");
     EXPECT_EQ(shown(), QStringLiteral("30"));
 }
@@ -231,9 +231,9 @@ TEST_F(Window, returnToTheTestIsOneButton) {
 }
 
 TEST_F(Window, updateWaitsUntilNoModuleRuns) {
-    bench.neighbours.updates.possible = false;
+    bench.collaborators.updates.possible = false;
     click("Command8");
-    EXPECT_FALSE(bench.neighbours.log.contains(QStringLiteral("installation")));
+    EXPECT_FALSE(bench.collaborators.log.contains(QStringLiteral("installation")));
 }
 
 TEST_F(Window, pagesLeaveNothingBehind) {
@@ -281,10 +281,10 @@ TEST_F(Window, videoFrameMakesTheViewShorterUntilTheNextPage) {
     auto* view = bench.control<QWidget>("framekx");
     bench.window.setVideoLayout(Layout::Closed);
     EXPECT_EQ(view->height(), 352);
-    bench.neighbours.log.clear();
+    bench.collaborators.log.clear();
     for (const int index : {6, 4, 0, 2, 3, 1, 5})
         click(qPrintable(QStringLiteral("Image4_%1").arg(index)));
-    EXPECT_THAT(bench.neighbours.log,
+    EXPECT_THAT(bench.collaborators.log,
                 ElementsAre(QStringLiteral("video 6"), QStringLiteral("video 4"),
                             QStringLiteral("video 0"), QStringLiteral("video 2"),
                             QStringLiteral("video 3"), QStringLiteral("video 1"),
@@ -318,40 +318,40 @@ TEST_F(Window, reportsShowUntilTheNextPage) {
 
 TEST_F(Window, movingThePointerResetsTheLinks) {
     for (const char* name : {"framekx", "Framebase", "titre", "PictureTEXTE", "PICTUREILLUS"}) {
-        bench.neighbours.links.highlightResets = 0;
+        bench.collaborators.links.highlightResets = 0;
         QTest::mouseMove(bench.control<QWidget>(name), {5, 5});
         QTest::mouseMove(bench.control<QWidget>(name), {6, 6});
-        EXPECT_GT(bench.neighbours.links.highlightResets, 0) << name;
-        EXPECT_EQ(bench.neighbours.links.lastKept, viewer::PageLinks::kNone);
+        EXPECT_GT(bench.collaborators.links.highlightResets, 0) << name;
+        EXPECT_EQ(bench.collaborators.links.lastKept, viewer::PageLinks::kNone);
     }
 }
 
 TEST_F(Window, leavingAsksFirst) {
-    bench.prompter.answers = {Answer::Cancel};
+    bench.messageBoxes.answers = {Answer::Cancel};
     click("Command14");
-    ASSERT_EQ(bench.prompter.messages.size(), 1U);
-    EXPECT_EQ(bench.prompter.messages[0],
+    ASSERT_EQ(bench.messageBoxes.messages.size(), 1U);
+    EXPECT_EQ(bench.messageBoxes.messages[0],
               (platform::Message{
                   QStringLiteral("Quitter"), QStringLiteral("Attention: sortie du logiciel."),
                   platform::Message::Icon::Question, platform::Message::Buttons::OkCancel}));
     EXPECT_TRUE(bench.window.isVisible());
-    EXPECT_TRUE(bench.neighbours.log.isEmpty());
+    EXPECT_TRUE(bench.collaborators.log.isEmpty());
 
-    bench.prompter.answers = {Answer::Ok};
+    bench.messageBoxes.answers = {Answer::Ok};
     press(Qt::Key_Q, Qt::AltModifier);
     EXPECT_FALSE(bench.window.isVisible());
-    EXPECT_THAT(bench.neighbours.log,
+    EXPECT_THAT(bench.collaborators.log,
                 ElementsAre(QStringLiteral("close video"), QStringLiteral("exit screen")));
 }
 
 TEST_F(Window, workDoesNotStartAnewAndClosingWaitsForItsEnd) {
-    bench.prompter.answers = {Answer::Ok};
-    bench.neighbours.search.window.whileOpen = [this] {
-        bench.neighbours.log.clear();
+    bench.messageBoxes.answers = {Answer::Ok};
+    bench.collaborators.search.window.whileOpen = [this] {
+        bench.collaborators.log.clear();
         click("Command3");
         press(Qt::Key_H, Qt::AltModifier);
         bench.window.close();
-        EXPECT_TRUE(bench.neighbours.log.isEmpty());
+        EXPECT_TRUE(bench.collaborators.log.isEmpty());
         EXPECT_TRUE(bench.window.isVisible());
     };
     click("command4");
@@ -394,14 +394,14 @@ TEST_F(Window, thePageKeepsTheKeyboardOverAPageChange) {
 TEST_F(Window, showsTheHourglassWhileItWorks) {
     QList<Qt::CursorShape> shapes;
     const auto note = [&] { shapes.append(bench.window.cursor().shape()); };
-    bench.neighbours.links.whileResetting = note;
+    bench.collaborators.links.whileResetting = note;
     click("suite");
     EXPECT_THAT(shapes, ElementsAre(Qt::WaitCursor));
     EXPECT_EQ(bench.window.cursor().shape(), Qt::ArrowCursor);
 
     // While a page is drawn, whoever asked for it.
     shapes.clear();
-    bench.neighbours.links.whileResetting = {};
+    bench.collaborators.links.whileResetting = {};
     bench.pictures.whileLooking = note;
     bench.cours.records[4] = page(5, QStringLiteral("##IMAvoilier.bmp\r\n¶\r\n"));
     show(5);

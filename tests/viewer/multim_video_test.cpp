@@ -23,7 +23,7 @@ protected:
 
     void show(int number) {
         Window::show(number);
-        bench.neighbours.log.clear();
+        bench.collaborators.log.clear();
     }
     QWidget* frame() { return bench.control<QWidget>("videoFrame"); }
     QMenu* menu() {
@@ -47,7 +47,7 @@ TEST_F(VideoWindow, keysWorkOnTheFrameAndItsButtons) {
     bench.control("Image4_3")->setFocus(Qt::TabFocusReason);
     for (const int key : {Qt::Key_Down, Qt::Key_Up, Qt::Key_Space})
         QTest::keyClick(bench.control("Image4_3"), Qt::Key(key));
-    QStringList pressed = bench.neighbours.log.filter(QStringLiteral("video "));
+    QStringList pressed = bench.collaborators.log.filter(QStringLiteral("video "));
     EXPECT_EQ(pressed.replaceInStrings(QStringLiteral("video "), QString()).join(u' '),
               QStringLiteral("0 2 0 1 4 6 5 1 4 3"));
     EXPECT_EQ(scrolled(), before);
@@ -70,7 +70,7 @@ TEST_F(VideoWindow, pointerPlaysAndSeeks) {
     QTest::mouseRelease(frame(), Qt::LeftButton, {}, track - QPoint(50, 30));
     QTest::mouseMove(frame(), track + QPoint(50, 0));
     QTest::mouseClick(frame(), Qt::LeftButton, {}, track - QPoint(20, 0)); // beside it
-    EXPECT_EQ(bench.neighbours.log.filter(QStringLiteral("e")).join(u' '),
+    EXPECT_EQ(bench.collaborators.log.filter(QStringLiteral("e")).join(u' '),
               QStringLiteral("video 0 video 2 seek 1 seek 0"));
 }
 
@@ -121,11 +121,11 @@ TEST_F(VideoWindow, menuOfThePictureLeadsToTheChosenPage) {
     }
     QTest::keyClick(frame(), Qt::Key_Space);
     ASSERT_TRUE(menu());
-    EXPECT_TRUE(bench.neighbours.log.isEmpty());
+    EXPECT_TRUE(bench.collaborators.log.isEmpty());
     // A page that does not exist: only the picture goes.
     menu()->actions()[0]->trigger();
     EXPECT_EQ(shown(), QStringLiteral("6"));
-    EXPECT_THAT(bench.neighbours.log, ElementsAre(QStringLiteral("close video")));
+    EXPECT_THAT(bench.collaborators.log, ElementsAre(QStringLiteral("close video")));
     menu()->actions()[1]->trigger();
     EXPECT_EQ(shown(), QStringLiteral("7"));
 }

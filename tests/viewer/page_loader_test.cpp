@@ -16,7 +16,7 @@ TEST(PageLoader, showsARecordInAFixedOrder) {
                                           {QStringLiteral("sommaire"), 28.0}})});
     bench.pages.showCurrentRecord();
     EXPECT_THAT(
-        bench.neighbours.log,
+        bench.collaborators.log,
         ElementsAre(QStringLiteral("hide page"), QStringLiteral("free links"),
                     QStringLiteral("hide bar"), QStringLiteral("clear pictures"),
                     QStringLiteral("close video"), QStringLiteral("caption Orvalente - KAROPE"),
@@ -35,13 +35,13 @@ TEST(PageLoader, handsOnWhatThePageAsksOfTheWindow) {
     bench.pages.showCurrentRecord();
     const QString caption = QStringLiteral("caption Orvalente - KAROPE");
     EXPECT_TRUE(
-        bench.neighbours.log.contains(caption + QString(18, u' ') + QStringLiteral("titre")));
-    EXPECT_TRUE(bench.neighbours.log.contains(QStringLiteral("video frame")))
+        bench.collaborators.log.contains(caption + QString(18, u' ') + QStringLiteral("titre")));
+    EXPECT_TRUE(bench.collaborators.log.contains(QStringLiteral("video frame")))
         << "even without a name";
-    bench.neighbours.log.clear();
+    bench.collaborators.log.clear();
     bench.actions.run(QStringLiteral("PAG002"));
-    EXPECT_EQ(bench.neighbours.log.filter(QStringLiteral("caption")), QStringList(caption));
-    EXPECT_FALSE(bench.neighbours.log.contains(QStringLiteral("video frame")));
+    EXPECT_EQ(bench.collaborators.log.filter(QStringLiteral("caption")), QStringList(caption));
+    EXPECT_FALSE(bench.collaborators.log.contains(QStringLiteral("video frame")));
 }
 
 TEST(PageLoader, startsEachPageFromTheSameState) {
@@ -99,8 +99,8 @@ TEST(PageLoader, showsAPageWithWhateverFieldsItHas) {
     test_support::LogicBench poor(
         {{{QStringLiteral("Numeropage"), 3.0}, {QStringLiteral("fpc"), QStringLiteral("x¶\r\n")}}});
     poor.pages.showCurrentRecord();
-    EXPECT_TRUE(poor.neighbours.log.contains(QStringLiteral("chapter 00")));
-    EXPECT_TRUE(poor.neighbours.log.contains(QStringLiteral("title ")));
+    EXPECT_TRUE(poor.collaborators.log.contains(QStringLiteral("chapter 00")));
+    EXPECT_TRUE(poor.collaborators.log.contains(QStringLiteral("title ")));
     EXPECT_EQ(poor.drawn.recording.size(), 1U);
     EXPECT_EQ(poor.history(), QList<int>{3});
 
@@ -118,8 +118,8 @@ TEST(PageLoader, showsAPageWithWhateverFieldsItHas) {
 TEST(PageLoader, withoutDatabaseShowsAnEmptyPage) {
     test_support::LogicBench bench({});
     bench.actions.run(QStringLiteral("PAG001"));
-    EXPECT_EQ(bench.neighbours.log.last(), QStringLiteral("normal pointer"));
-    EXPECT_TRUE(bench.neighbours.log.contains(QStringLiteral("show page")));
+    EXPECT_EQ(bench.collaborators.log.last(), QStringLiteral("normal pointer"));
+    EXPECT_TRUE(bench.collaborators.log.contains(QStringLiteral("show page")));
     EXPECT_EQ(bench.drawn.recording.size(), 0U);
 }
 

@@ -1,5 +1,5 @@
 #include "support/fake_beeper.h"
-#include "support/fake_prompter.h"
+#include "support/fake_message_boxes.h"
 #include "support/files.h"
 #include "support/printing.h"
 #include "viewer/course.h"
@@ -83,9 +83,9 @@ protected:
     QTemporaryDir work;
     shell::SharedState state;
     markup::DrawnPage shown;
-    test_support::FakePrompter prompter;
+    test_support::FakeMessageBoxes messageBoxes;
     test_support::FakeBeeper beeper;
-    coursedata::DataLocation location{state, *this, prompter, beeper};
+    coursedata::DataLocation location{state, *this, messageBoxes, beeper};
     QStringList log;
     FakeDevice* device = nullptr;
     int devices = 0;
@@ -174,9 +174,9 @@ TEST_F(PageVideo, looksInTheCourseThenOnTheLastDiscThenEverywhere) {
 }
 
 TEST_F(PageVideo, whatDoesNotOpenLeavesTheDisplay) {
-    prompter.answers = {Answer::Retry, Answer::Cancel};
+    messageBoxes.answers = {Answer::Retry, Answer::Cancel};
     EXPECT_THAT(press(0), ElementsAre(QStringLiteral("hide")));
-    EXPECT_EQ(prompter.messages.size(), 2u);
+    EXPECT_EQ(messageBoxes.messages.size(), 2u);
     EXPECT_EQ(devices + beeper.beeps, 1);
 
     shown.videoPage.reset();

@@ -4,8 +4,8 @@
 #include "look/zoom.h"
 #include "markup/draw_page.h"
 #include "page/faces/font_book.h"
+#include "support/fake_message_boxes.h"
 #include "support/fake_pictures.h"
-#include "support/fake_prompter.h"
 #include "support/fake_screen.h"
 #include "viewer/action_dispatcher.h"
 #include "viewer/course.h"
@@ -24,7 +24,7 @@ public:
     explicit WindowBench(QList<test_support::MemoryRecordset::Record> course)
         : cours(std::move(course)) {
         zoom.setWindow(window, {{}, [this] { return window.ownPlace(); }});
-        window.attach({commands, actions, pages, neighbours.all(), zoom, [this] {
+        window.attach({commands, actions, pages, collaborators.all(), zoom, [this] {
                            bound.bindTo(cours);
                            return !whileStarting || whileStarting();
                        }});
@@ -33,7 +33,7 @@ public:
     /// Starts the program, up to the first page.
     WindowBench& start() {
         started = window.Form_Load();
-        neighbours.log.clear();
+        collaborators.log.clear();
         return *this;
     }
 
@@ -52,8 +52,8 @@ public:
 
     test_support::MemoryRecordset cours;
     test_support::FakeScreen screen;
-    test_support::FakePrompter prompter;
-    FakeNeighbours neighbours;
+    test_support::FakeMessageBoxes messageBoxes;
+    FakeCollaborators collaborators;
     std::function<bool()> whileStarting;
     bool started = false;
 
@@ -65,10 +65,14 @@ public:
     viewer::Multim window{state, fonts, screen};
     FakePictures pictures;
     markup::DrawingTools tools{drawing, pictures, fonts, &window};
-    viewer::PageLoader pages{state, bound, window, tools, window.shownPage(), neighbours.video};
-    viewer::ActionDispatcher actions{
-        state, pages, window, neighbours.modules, neighbours.exercise, neighbours.orderForm};
-    viewer::MainCommands commands{state, actions, window, neighbours.all(), prompter};
+    viewer::PageLoader pages{state, bound, window, tools, window.shownPage(), collaborators.video};
+    viewer::ActionDispatcher actions{state,
+                                     pages,
+                                     window,
+                                     collaborators.modules,
+                                     collaborators.exercise,
+                                     collaborators.orderForm};
+    viewer::MainCommands commands{state, actions, window, collaborators.all(), messageBoxes};
 };
 
 } // namespace test_support

@@ -2,7 +2,7 @@
 
 #include "coursetool/drawing_request.h"
 #include "coursetool/tool_pictures.h"
-#include "markup/picture_shelf.h"
+#include "markup/picture_source.h"
 
 #include <QString>
 
@@ -14,7 +14,7 @@ namespace authoring::check {
 
 /// The pictures of a course that is checked: each name is looked up once, and what is missing is
 /// for the rules to tell.
-class CheckPictures : public markup::PictureShelf {
+class CheckPictures : public markup::PictureSource {
 public:
     CheckPictures(const std::filesystem::path& files, const coursetool::Drives& drives)
         : shelf_(files, drives, nobody_) {}

@@ -3,7 +3,7 @@
 #include "authoring/check/source.h"
 #include "coursetool/front_matter.h"
 #include "coursetool/tables.h"
-#include "markup/picture_shelf.h"
+#include "markup/picture_source.h"
 #include "page/text_metrics.h"
 
 #include <QString>
@@ -73,7 +73,7 @@ struct Course {
 
     // What pages are drawn with.
     const page::TextMetrics* metrics = nullptr;
-    markup::PictureShelf* pictures = nullptr;
+    markup::PictureSource* pictures = nullptr;
 
     /// The page that a number leads to: of several the last one. Null for none.
     const Page* page(std::int32_t number) const;

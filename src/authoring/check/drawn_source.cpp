@@ -20,7 +20,7 @@ bool isShadowOf(const page::TextOperation& text, const page::Operation* next) {
 } // namespace
 
 DrawnSource::DrawnSource(const Source& source, const Source* comment,
-                         const page::TextMetrics& metrics, markup::PictureShelf& pictures)
+                         const page::TextMetrics& metrics, markup::PictureSource& pictures)
     : source_(source), comment_(comment), metrics_(metrics) {
     using markup::DrawnAs;
     markup::DrawingState state;

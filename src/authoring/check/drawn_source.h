@@ -2,7 +2,7 @@
 
 #include "authoring/check/source.h"
 #include "markup/drawn_page.h"
-#include "markup/picture_shelf.h"
+#include "markup/picture_source.h"
 #include "page/recording.h"
 #include "page/text_metrics.h"
 
@@ -34,7 +34,7 @@ class DrawnSource {
 public:
     /// `comment` is empty or null for a page. Both sources must outlive this.
     DrawnSource(const Source& source, const Source* comment, const page::TextMetrics& metrics,
-                markup::PictureShelf& pictures);
+                markup::PictureSource& pictures);
 
     const std::vector<DrawnOperation>& operations() const { return operations_; }
     const std::vector<DrawnWords>& words() const { return words_; }

@@ -77,7 +77,7 @@ void PaperPainter::draw(const page::TextOperation& text) {
     const double foot = text.y + fonts_.ascent(text.font);
     const auto glyphs = fonts_.glyphs(text.font, text.text);
     for (std::size_t i = 0; i < glyphs.size();) {
-        Face& used = face(text.font, glyphs[i].stage);
+        PrintingFace& used = face(text.font, glyphs[i].fallback);
         const QPointF place(text.x + glyphs[i].offset, foot);
         const char32_t first = printed(used, text.font, glyphs[i]);
         if (!isPlain(first)) {
@@ -86,8 +86,8 @@ void PaperPainter::draw(const page::TextOperation& text) {
             continue;
         }
         QString run;
-        const int stage = glyphs[i].stage;
-        for (; i < glyphs.size() && glyphs[i].stage == stage; ++i) {
+        const int fallback = glyphs[i].fallback;
+        for (; i < glyphs.size() && glyphs[i].fallback == fallback; ++i) {
             const char32_t character = printed(used, text.font, glyphs[i]);
             if (!isPlain(character))
                 break;
@@ -104,7 +104,7 @@ void PaperPainter::draw(const page::TextOperation& text) {
     }
 }
 
-void PaperPainter::drawGlyph(const page::FontBook::PlacedGlyph& glyph, const Face& face,
+void PaperPainter::drawGlyph(const page::FontBook::PlacedGlyph& glyph, const PrintingFace& face,
                              const QPointF& foot) {
     const auto found = face.codes.find({glyph.index, glyph.character});
     const char32_t character = found == face.codes.end() ? 0 : found->second;
@@ -121,18 +121,18 @@ void PaperPainter::drawGlyph(const page::FontBook::PlacedGlyph& glyph, const Fac
     painter_.drawGlyphRun(foot, run);
 }
 
-PaperPainter::Face& PaperPainter::face(const page::Font& font, int stage) {
+PaperPainter::PrintingFace& PaperPainter::face(const page::Font& font, int fallback) {
     page::Font key = font;
     key.underline = false;
     for (auto& [known, face] : faces_)
-        if (known.first == key && known.second == stage)
+        if (known.first == key && known.second == fallback)
             return face;
     // A page can ask for any number of sizes.
     static constexpr std::size_t kMaxFaces = 256;
     if (faces_.size() >= kMaxFaces)
         faces_.clear();
     const int size = qRound(page::fontPixels(font.points) * page::kTwipsPerPixel);
-    const QRawFont raw = fonts_.deviceFont(key, stage, size);
+    const QRawFont raw = fonts_.deviceFont(key, fallback, size);
     QFont printing(raw.familyName());
     printing.setPixelSize(std::max(1, size));
     printing.setBold(font.bold);
@@ -142,10 +142,10 @@ PaperPainter::Face& PaperPainter::face(const page::Font& font, int stage) {
     // Letter for letter: no ligatures, which are narrower, and no other face in between.
     printing.setStyleStrategy(
         static_cast<QFont::StyleStrategy>(QFont::PreferNoShaping | QFont::NoFontMerging));
-    return faces_.emplace_back(std::pair(key, stage), Face{printing, raw, {}}).second;
+    return faces_.emplace_back(std::pair(key, fallback), PrintingFace{printing, raw, {}}).second;
 }
 
-char32_t PaperPainter::printed(Face& face, const page::Font& font,
+char32_t PaperPainter::printed(PrintingFace& face, const page::Font& font,
                                const page::FontBook::PlacedGlyph& glyph) {
     const auto [place, isNew] = face.codes.try_emplace({glyph.index, glyph.character}, 0);
     char32_t& code = place->second;

@@ -32,22 +32,23 @@ private:
     void drawInPixels(const Shape& shape);
 
     /// A face of the list that stands in for the one asked for.
-    struct Face {
+    struct PrintingFace {
         QFont font;                                             ///< a unit of its size is a twip
         QRawFont raw;                                           ///< tells its glyphs
         std::map<std::pair<quint32, char32_t>, char32_t> codes; ///< what printed() found
     };
-    Face& face(const page::Font& font, int stage);
+    PrintingFace& face(const page::Font& font, int fallback);
 
     /// The character that prints a glyph in its face, 0 when none does.
-    static char32_t printed(Face& face, const page::Font& font,
+    static char32_t printed(PrintingFace& face, const page::Font& font,
                             const page::FontBook::PlacedGlyph& glyph);
-    void drawGlyph(const page::FontBook::PlacedGlyph& glyph, const Face& face, const QPointF& foot);
+    void drawGlyph(const page::FontBook::PlacedGlyph& glyph, const PrintingFace& face,
+                   const QPointF& foot);
 
     QPainter& painter_;
     const page::FontBook& fonts_;
     OperationPainter shapes_;
-    std::vector<std::pair<std::pair<page::Font, int>, Face>> faces_;
+    std::vector<std::pair<std::pair<page::Font, int>, PrintingFace>> faces_;
 };
 
 } // namespace output

@@ -103,21 +103,21 @@ double CairoFace::shortfall(quint32 glyph) const {
     return glyph < glyphs_.size() ? glyphs_[glyph].shortfall : 0;
 }
 
-CairoFace& CairoFaces::face(const page::Font& font, int stage) {
+CairoFace& CairoFaces::face(const page::Font& font, int fallback) {
     for (const Asked& asked : asked_)
-        if (asked.stage == stage && asked.bold == font.bold && asked.italic == font.italic &&
+        if (asked.fallback == fallback && asked.bold == font.bold && asked.italic == font.italic &&
             asked.face == font.face)
             return *asked.answer;
     // A page can ask for faces by any number of names.
     constexpr std::size_t kMaxAsked = 64;
     if (asked_.size() >= kMaxAsked)
         asked_.clear();
-    asked_.push_back({font.face, font.bold, font.italic, stage, &find(font, stage)});
+    asked_.push_back({font.face, font.bold, font.italic, fallback, &find(font, fallback)});
     return *asked_.back().answer;
 }
 
-CairoFace& CairoFaces::find(const page::Font& font, int stage) {
-    const page::FontBook::FaceSource& source = page::FontBook::faceSource(font, stage);
+CairoFace& CairoFaces::find(const page::Font& font, int fallback) {
+    const page::FontBook::FaceSource& source = page::FontBook::faceSource(font, fallback);
     std::unique_ptr<CairoFace>& slot = faces_[&source];
     if (!slot)
         slot = std::make_unique<CairoFace>(source);

@@ -50,18 +50,18 @@ private:
 /// The faces of a font book, as one document has them.
 class CairoFaces {
 public:
-    /// The face of a stage. It lives as long as this object.
-    CairoFace& face(const page::Font& font, int stage);
+    /// The face of a fallback. It lives as long as this object.
+    CairoFace& face(const page::Font& font, int fallback);
 
 private:
     struct Asked {
         QString face;
         bool bold, italic;
-        int stage;
+        int fallback;
         CairoFace* answer;
     };
 
-    CairoFace& find(const page::Font& font, int stage);
+    CairoFace& find(const page::Font& font, int fallback);
 
     std::vector<Asked> asked_; ///< a course has a dozen; whole texts ask for the same
     std::unordered_map<const page::FontBook::FaceSource*, std::unique_ptr<CairoFace>> faces_;

@@ -107,7 +107,7 @@ public:
         const double foot = text.y + owner_.fonts_.ascent(text.font);
         const auto glyphs = owner_.fonts_.glyphs(text.font, text.text);
         for (std::size_t first = 0, end = 0; first < glyphs.size(); first = end) {
-            while (end < glyphs.size() && glyphs[end].stage == glyphs[first].stage)
+            while (end < glyphs.size() && glyphs[end].fallback == glyphs[first].fallback)
                 ++end;
             showRun(text, foot, std::span(glyphs).subspan(first, end - first));
         }
@@ -236,7 +236,7 @@ private:
 
     void showRun(const page::TextOperation& text, double foot,
                  std::span<const page::FontBook::PlacedGlyph> run) {
-        CairoFace& face = owner_.faces_.face(text.font, run.front().stage);
+        CairoFace& face = owner_.faces_.face(text.font, run.front().fallback);
         if (!face.face())
             return;
         const double em = page::fontPixels(text.font.points) * page::kTwipsPerPixel;

@@ -65,7 +65,7 @@ void OperationPainter::draw(const page::TextOperation& text) {
     painter_.setPen(QColor::fromRgb(text.ink));
     const double pixelSize = page::fontPixels(text.font.points) * ratio_;
     for (const page::FontBook::Run& run : fonts_.place(text.font, text.text))
-        drawRun(run, fonts_.deviceFont(text.font, run.stage, pixelSize), x, foot);
+        drawRun(run, fonts_.deviceFont(text.font, run.fallback, pixelSize), x, foot);
     if (text.font.underline)
         underline(text, x, foot);
 }

@@ -119,11 +119,11 @@ public:
         : font_(font), signs_(signFace(font.face)), numbers_(standIn(font.face).numbers),
           pixels_(fontPixels(font.points)) {
         for (const QString& family : families(font.face))
-            stages_.push_back({family, {}, false});
+            fallbacks_.push_back({family, {}, false});
     }
 
     struct Glyph {
-        int stage = 0;
+        int fallback = 0;
         quint32 index = 0; ///< 0 shows nothing
         double advance = 0;
         char32_t shown = 0; ///< 0 when it is no character
@@ -146,19 +146,20 @@ public:
     double ascent() const { return up() * kTwipsPerPixel; }
     bool isVisible() const { return pixels_ > 0; }
 
-    QRawFont deviceFont(int stage, double pixelSize) const {
-        auto& sizes = deviceFonts_[stage];
+    QRawFont deviceFont(int fallback, double pixelSize) const {
+        auto& sizes = deviceFonts_[fallback];
         auto found = sizes.find(pixelSize);
         if (found == sizes.end())
-            found = sizes
-                        .emplace(pixelSize, load(stages_[static_cast<std::size_t>(stage)].family,
-                                                 pixelSize, font_))
-                        .first;
+            found =
+                sizes
+                    .emplace(pixelSize, load(fallbacks_[static_cast<std::size_t>(fallback)].family,
+                                             pixelSize, font_))
+                    .first;
         return found->second;
     }
 
 private:
-    struct Stage {
+    struct FallbackFont {
         QString family;
         QRawFont reference;
         bool loaded;
@@ -166,8 +167,8 @@ private:
 
     int up() const { return roundedPart(numbers_.up, pixels_); }
 
-    const QRawFont& reference(int stage) const {
-        Stage& wanted = stages_[static_cast<std::size_t>(stage)];
+    const QRawFont& reference(int fallback) const {
+        FallbackFont& wanted = fallbacks_[static_cast<std::size_t>(fallback)];
         if (!wanted.loaded) {
             wanted.reference = load(wanted.family, pixels_ * kTwipsPerPixel, font_);
             wanted.loaded = true;
@@ -201,26 +202,26 @@ private:
             return {};
         if (showsABlank(character))
             return findUnicode(U' ', firstStage);
-        for (int stage = firstStage; stage < static_cast<int>(stages_.size()); ++stage)
-            if (const quint32 index = glyphIndex(reference(stage), character))
-                return measured(stage, index, character);
+        for (int fallback = firstStage; fallback < static_cast<int>(fallbacks_.size()); ++fallback)
+            if (const quint32 index = glyphIndex(reference(fallback), character))
+                return measured(fallback, index, character);
         return measured(firstStage, 0, character);
     }
 
-    Glyph measured(int stage, quint32 index, char32_t shown) const {
-        const QRawFont& font = reference(stage);
+    Glyph measured(int fallback, quint32 index, char32_t shown) const {
+        const QRawFont& font = reference(fallback);
         if (!font.isValid())
             return {};
         const QList<QPointF> advances =
             font.advancesForGlyphIndexes({index}, QRawFont::SeparateAdvances);
-        return {stage, index, advances.isEmpty() ? 0 : advances.first().x(), shown};
+        return {fallback, index, advances.isEmpty() ? 0 : advances.first().x(), shown};
     }
 
     Font font_;
     SignFace signs_;
     DesignNumbers numbers_;
     int pixels_;
-    mutable std::vector<Stage> stages_;
+    mutable std::vector<FallbackFont> fallbacks_;
     mutable std::array<std::optional<Glyph>, 256> latin_;
     mutable QHash<char32_t, Glyph> others_;
     mutable std::map<int, std::map<double, QRawFont>> deviceFonts_;
@@ -288,8 +289,8 @@ std::vector<FontBook::Run> FontBook::place(const Font& font, QStringView text) c
     forEachCharacter(text, [&](char32_t c) {
         const Face::Glyph& glyph = source.glyph(c);
         if (glyph.advance != 0 || glyph.index != 0) {
-            if (runs.empty() || runs.back().stage != glyph.stage)
-                runs.push_back({glyph.stage, {}, {}});
+            if (runs.empty() || runs.back().fallback != glyph.fallback)
+                runs.push_back({glyph.fallback, {}, {}});
             runs.back().glyphs.append(glyph.index);
             runs.back().offsets.append(x);
         }
@@ -308,21 +309,21 @@ std::vector<FontBook::PlacedGlyph> FontBook::glyphs(const Font& font, QStringVie
     forEachCharacter(text, [&](char32_t c) {
         const Face::Glyph& glyph = source.glyph(c);
         if (glyph.advance != 0 || glyph.index != 0)
-            placed.push_back({glyph.stage, glyph.index, x, glyph.shown});
+            placed.push_back({glyph.fallback, glyph.index, x, glyph.shown});
         x += glyph.advance;
     });
     return placed;
 }
 
-const FontBook::FaceSource& FontBook::faceSource(const Font& font, int stage) {
-    ChosenFace& chosen = choose(families(font.face).value(stage), font);
+const FontBook::FaceSource& FontBook::faceSource(const Font& font, int fallback) {
+    ChosenFace& chosen = choose(families(font.face).value(fallback), font);
     if (!chosen.source)
         chosen.source = {faceFile(chosen.font), font.bold, font.italic};
     return *chosen.source;
 }
 
-QRawFont FontBook::deviceFont(const Font& font, int stage, double pixelSize) const {
-    return face(font).deviceFont(stage, pixelSize);
+QRawFont FontBook::deviceFont(const Font& font, int fallback, double pixelSize) const {
+    return face(font).deviceFont(fallback, pixelSize);
 }
 
 QStringList FontBook::missingFamilies() {

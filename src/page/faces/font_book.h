@@ -28,7 +28,7 @@ public:
 
     /// Glyphs of one face, in a row.
     struct Run {
-        int stage; ///< which face of the list, for deviceFont()
+        int fallback; ///< which face of the list, for deviceFont()
         QList<quint32> glyphs;
         QList<double> offsets; ///< twips from the start of the text
     };
@@ -37,11 +37,11 @@ public:
     std::vector<Run> place(const Font& font, QStringView text) const;
 
     /// The face of a run at a size of its own, in device pixels, for drawing on a raster.
-    QRawFont deviceFont(const Font& font, int stage, double pixelSize) const;
+    QRawFont deviceFont(const Font& font, int fallback, double pixelSize) const;
 
     /// One glyph of a text, and the character that it shows.
     struct PlacedGlyph {
-        int stage; ///< which face of the list, for faceSource()
+        int fallback; ///< which face of the list, for faceSource()
         quint32 index;
         double offset;      ///< twips from the start of the text
         char32_t character; ///< Unicode, also for the sign faces' codes; 0 when there is none
@@ -50,7 +50,7 @@ public:
     /// The same as place(), glyph by glyph, for devices that keep text as text.
     std::vector<PlacedGlyph> glyphs(const Font& font, QStringView text) const;
 
-    /// Where the glyphs of a stage come from, for devices that draw without Qt.
+    /// Where the glyphs of a fallback come from, for devices that draw without Qt.
     struct FaceSource {
         QByteArray file;   ///< a font file whose glyph numbers are those of PlacedGlyph
         bool bold, italic; ///< what was asked for; a file that is not so itself is made so
@@ -58,7 +58,7 @@ public:
 
     /// The same object for the same file and style, for as long as the program runs. The file is
     /// empty when no face is there.
-    static const FaceSource& faceSource(const Font& font, int stage);
+    static const FaceSource& faceSource(const Font& font, int fallback);
 
     /// Families that no installed font answers for, as a person would name them; empty when all
     /// stand-ins are there.

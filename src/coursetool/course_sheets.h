@@ -3,7 +3,7 @@
 #include "coursedata/bound_record.h"
 #include "coursetool/course_records.h"
 #include "coursetool/lost_text.h"
-#include "markup/picture_shelf.h"
+#include "markup/picture_source.h"
 #include "page/sheet.h"
 #include "page/text_metrics.h"
 #include "shell/shared_state.h"
@@ -14,10 +14,10 @@
 namespace coursetool {
 
 /// The pages of an installed course, in record order, drawn as the shell shows them.
-class CoursePages {
+class CourseSheets {
 public:
     /// A fault, and nothing, when there is no course.
-    static std::optional<CoursePages> open(const std::filesystem::path& course, Report& report);
+    static std::optional<CourseSheets> open(const std::filesystem::path& course, Report& report);
 
     int count() const { return static_cast<int>(numbers_.size()); }
     const std::string& file() const { return pages_.file; }
@@ -41,13 +41,13 @@ public:
     /// The sheet of the page at a position. Every page starts anew: what the page before it left
     /// does not show. Warns of what of its source nobody sees.
     page::Sheet sheet(int position, const page::TextMetrics& metrics,
-                      markup::PictureShelf& pictures, Report& report);
+                      markup::PictureSource& pictures, Report& report);
 
     /// Where the source of the page at a position is.
     SourcePlace place(int position) const;
 
 private:
-    explicit CoursePages(CourseRecords pages);
+    explicit CourseSheets(CourseRecords pages);
 
     CourseRecords pages_;
     shell::SharedState state_;

@@ -71,7 +71,7 @@ public:
 /// window leaves `ExerciseReturnPage` in the shared state, the search window `SearchChosenPage`, 0
 /// from its opening on until a page is chosen. The exit screen does not return to the program: when
 /// it closes, all ends.
-struct Neighbours {
+struct Collaborators {
     VideoDevice& video;
     PageLinks& links;
     PagePrinting& printing;

@@ -1,4 +1,4 @@
-#include "coursetool/course_pages.h"
+#include "coursetool/course_sheets.h"
 
 #include "coursedata/page_index.h"
 #include "markup/draw_page.h"
@@ -8,14 +8,15 @@
 
 namespace coursetool {
 
-std::optional<CoursePages> CoursePages::open(const std::filesystem::path& course, Report& report) {
+std::optional<CourseSheets> CourseSheets::open(const std::filesystem::path& course,
+                                               Report& report) {
     auto records = openRecords(course, kCourseFile, coursTable(), report);
     if (!records)
         return std::nullopt;
-    return CoursePages(*std::move(records));
+    return CourseSheets(*std::move(records));
 }
 
-CoursePages::CoursePages(CourseRecords pages) : pages_(std::move(pages)) {
+CourseSheets::CourseSheets(CourseRecords pages) : pages_(std::move(pages)) {
     coursedata::buildPageIndex(*pages_.records, state_);
     numbers_.resize(static_cast<std::size_t>(pages_.records->recordCount()));
     pages_.records->forEach({QStringLiteral("Numeropage")},
@@ -26,20 +27,20 @@ CoursePages::CoursePages(CourseRecords pages) : pages_(std::move(pages)) {
                             });
 }
 
-QString CoursePages::title() const {
+QString CourseSheets::title() const {
     pages_.records->setAbsolutePosition(0);
     return coursedata::shownText(pages_.records->field(QStringLiteral("titre"))).simplified();
 }
 
-std::optional<int> CoursePages::number(int position) const {
+std::optional<int> CourseSheets::number(int position) const {
     return numbers_.at(static_cast<std::size_t>(position));
 }
 
-int CoursePages::positionShown(int number) const {
+int CourseSheets::positionShown(int number) const {
     return coursedata::positionOfCode(state_, number).value_or(0);
 }
 
-std::optional<int> CoursePages::positionShown(const QString& tag) const {
+std::optional<int> CourseSheets::positionShown(const QString& tag) const {
     if (viewer::codePrefix(tag) != u"PAG")
         return std::nullopt;
     const auto number = text::toInt16(viewer::codeArgument(tag));
@@ -47,20 +48,20 @@ std::optional<int> CoursePages::positionShown(const QString& tag) const {
     return position && *position < count() ? position : std::nullopt;
 }
 
-coursedata::BoundRecord CoursePages::record(int position) {
+coursedata::BoundRecord CourseSheets::record(int position) {
     coursedata::BoundRecord record;
     record.bindTo(*pages_.records);
     record.moveTo(position);
     return record;
 }
 
-SourcePlace CoursePages::place(int position) const {
+SourcePlace CourseSheets::place(int position) const {
     const auto known = number(position);
     return {file(), known ? "page " + std::to_string(*known) : "page sans numéro"};
 }
 
-page::Sheet CoursePages::sheet(int position, const page::TextMetrics& metrics,
-                               markup::PictureShelf& pictures, Report& report) {
+page::Sheet CourseSheets::sheet(int position, const page::TextMetrics& metrics,
+                                markup::PictureSource& pictures, Report& report) {
     const coursedata::BoundRecord shown = record(position);
     const markup::PageText text{shown.code, markup::DrawnAs::CoursePage, shown.Textitre};
     markup::DrawingState state;

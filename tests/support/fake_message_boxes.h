@@ -11,7 +11,7 @@ namespace test_support {
 
 /// The person in front of the screen: gives the queued `answers` in turn and keeps what was asked.
 /// A question that no answer is queued for fails the test; a mere message needs none.
-class FakePrompter : public platform::Prompter {
+class FakeMessageBoxes : public platform::MessageBoxes {
 public:
     platform::Answer ask(const platform::Message& message) override {
         messages.push_back(message);

@@ -10,9 +10,9 @@
 namespace markup {
 
 /// Where a page's pictures come from.
-class PictureShelf {
+class PictureSource {
 public:
-    virtual ~PictureShelf() = default;
+    virtual ~PictureSource() = default;
 
     /// Full path of a picture file of the course, whose disc may have to be inserted first. Empty
     /// when the person gave up; a blank name comes back as it is.

@@ -17,18 +17,18 @@ inline constexpr std::size_t kFoldedCopyBytes = 256 * 1024 * 1024;
 /// ready for comparing, that grows during the first search. Later searches read the file only for
 /// pages that the copy has no room for. One window keeps one such object for as long as it lives;
 /// the copy goes with it. Not to be used from two threads at once.
-class CoursePages {
+class SearchablePages {
 public:
     /// Opens the table of a course's database, which need not be kept; nothing but the table's
     /// definition is read. The failure, a French sentence, says that there is no such table or
     /// column ("fpc", "moteur"), or what of it is damaged. With `mostBytes` 0 no copy is kept,
     /// which is for a single search.
-    static jet::Result<CoursePages> open(const jet::Database& database,
-                                         std::size_t mostBytes = kFoldedCopyBytes);
+    static jet::Result<SearchablePages> open(const jet::Database& database,
+                                             std::size_t mostBytes = kFoldedCopyBytes);
 
-    CoursePages(CoursePages&&) noexcept;
-    CoursePages& operator=(CoursePages&&) noexcept;
-    ~CoursePages();
+    SearchablePages(SearchablePages&&) noexcept;
+    SearchablePages& operator=(SearchablePages&&) noexcept;
+    ~SearchablePages();
 
     /// Position of the last record, counted from 0; -1 when there are none. The first call takes a
     /// look at every page of the table, some milliseconds for 100,000 records.
@@ -43,7 +43,7 @@ public:
 private:
     friend class PageSearch;
     class Copy;
-    explicit CoursePages(std::unique_ptr<Copy> copy);
+    explicit SearchablePages(std::unique_ptr<Copy> copy);
 
     std::unique_ptr<Copy> copy_;
 };
