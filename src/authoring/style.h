@@ -5,7 +5,7 @@
 namespace authoring {
 
 /// Numbers of "C" directives, by what the house uses them for.
-enum Ink { kBlackInk = 0, kTitleInk = 1, kLinkInk = 2, kTermInk = 8, kRuleInk = 10 };
+enum { kBlackInk = 0, kTitleInk = 1, kLinkInk = 2, kTermInk = 8, kRuleInk = 10 };
 
 /// Numbers of "FONT" directives.
 enum Face { kArial = 0, kTimes = 2 };

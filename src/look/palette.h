@@ -6,14 +6,13 @@ namespace look {
 
 // The colours of all windows. Contrasts are those against white.
 
-inline constexpr QRgb kIvory = 0xfffffff0;    ///< windows, around the page
-inline constexpr QRgb kPaper = 0xffffffff;    ///< page, fields, buttons
-inline constexpr QRgb kPageText = 0xff000000; ///< what the course itself writes
-inline constexpr QRgb kInk = 0xff23211c;      ///< interface text (16.1)
-inline constexpr QRgb kMuted = 0xff6b6454;    ///< secondary text (5.9)
-inline constexpr QRgb kEdge = 0xff8c8472;     ///< borders, scroll thumb, disabled text (3.7)
-inline constexpr QRgb kRule = 0xffd9d3c3;     ///< fine lines, border of the page
-inline constexpr QRgb kGrid = 0xffece8dc;     ///< behind curves and in tables
+inline constexpr QRgb kIvory = 0xfffffff0; ///< windows, around the page
+inline constexpr QRgb kPaper = 0xffffffff; ///< page, fields, buttons
+inline constexpr QRgb kInk = 0xff23211c;   ///< interface text (16.1)
+inline constexpr QRgb kMuted = 0xff6b6454; ///< secondary text (5.9)
+inline constexpr QRgb kEdge = 0xff8c8472;  ///< borders, scroll thumb, disabled text (3.7)
+inline constexpr QRgb kRule = 0xffd9d3c3;  ///< fine lines, border of the page
+inline constexpr QRgb kGrid = 0xffece8dc;  ///< behind curves and in tables
 inline constexpr QRgb kScrollTrack = 0xfff1eddf;
 inline constexpr QRgb kVideoTrack = 0xffe9e5d9;  ///< also the disabled main button
 inline constexpr QRgb kBlue = 0xff1d4e89;        ///< what can be acted on (8.4)

@@ -51,7 +51,6 @@ private:
     void zoomTo(double scale);
     void setScale(double scale);
     void setFilled(bool filled);
-    void replaceWindows(const QRect& mainBefore);
 
     const double programScale_;
     double scale_;

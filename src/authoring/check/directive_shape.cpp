@@ -34,10 +34,6 @@ bool isNumeral(QStringView text, bool withSign, bool withPoint) {
     return plain && std::any_of(text.begin(), text.end(), isDigit) && text.count(u'.') <= 1;
 }
 
-ReadNumber readNumber(QStringView text) {
-    return {page::leadingNumber(text), isNumeral(text.trimmed(), true, true)};
-}
-
 bool isWellShaped(QStringView directive) {
     const markup::Directive* const found = formOf(directive);
     if (!found)

@@ -81,7 +81,11 @@ Source sourceOf(Source::Kind kind, std::string_view text, const std::string& fil
 Source compiledSource(Source::Kind kind, const authoring::CompiledText& text,
                       const std::string& file) {
     Source source{kind, fromUtf8(coursetool::toDatabaseText(text.source)), {file, 1, 1}, {}, false};
-    source.setFileLines(text.markdownLines);
+    std::vector<int> lines;
+    // The last is that of what stands after the last line end.
+    for (int line = 1; line <= static_cast<int>(source.lines().size()) + 1; ++line)
+        lines.push_back(text.lineOf(line));
+    source.setFileLines(std::move(lines));
     return source;
 }
 
