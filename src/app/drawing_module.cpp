@@ -1,5 +1,5 @@
-#include "authoring/check/check.h"
 #include "authoring/markdown_compiler.h"
+#include "check/check.h"
 #include "coursetool/drawing_request.h"
 #include "coursetool/markdown_source.h"
 #include "coursetool/print.h"
@@ -89,16 +89,17 @@ extern "C" Q_DECL_EXPORT void orvalentePrint(int& argc, char** argv,
     coursetool::print(request, environment.fonts, pictures, report);
 }
 
-extern "C" Q_DECL_EXPORT coursetool::ExitCode
-orvalenteCheck(int& argc, char** argv, const authoring::check::CheckRequest& request,
-               coursetool::OutputBuffer& out, coursetool::Report& report) {
+extern "C" Q_DECL_EXPORT coursetool::ExitCode orvalenteCheck(int& argc, char** argv,
+                                                             const check::CheckRequest& request,
+                                                             coursetool::OutputBuffer& out,
+                                                             coursetool::Report& report) {
     const DrawingEnvironment environment(argc, argv);
-    return authoring::check::check(request, environment.fonts, out, report);
+    return check::check(request, environment.fonts, out, report);
 }
 
 extern "C" Q_DECL_EXPORT void orvalenteBuildWarnings(int& argc, char** argv,
                                                      const std::filesystem::path& source,
                                                      coursetool::Report& report) {
     const DrawingEnvironment environment(argc, argv);
-    authoring::check::warnOfWrongPages(source, environment.fonts, report);
+    check::warnOfWrongPages(source, environment.fonts, report);
 }

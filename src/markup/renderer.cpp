@@ -214,8 +214,7 @@ void Renderer::finish() {
     const auto height = text::toInt32(surface().penY());
     check(height.has_value(), u"la page est trop haute");
     page_.hauteurPage = height.value_or(page_.hauteurPage);
-    check(surface().setHeightPx(surface().penY() / page::kTwipsPerPixel),
-          kHeightRefused);
+    check(surface().setHeightPx(surface().penY() / page::kTwipsPerPixel), kHeightRefused);
     setBusy(false);
 }
 

@@ -2,7 +2,7 @@
 
 #include "app/subcommands/checked_paths.h"
 #include "app/subcommands/subcommand.h"
-#include "authoring/check/check_request.h"
+#include "check/check_request.h"
 #include "coursetool/paths.h"
 #include "platform/module.h"
 
@@ -41,7 +41,6 @@ struct Build : Subcommand {
 private:
     /// The course stands. That nobody could look at its pages is worth a word, no more.
     void warnOfWrongPages(ToolRun& run) const {
-        namespace check = authoring::check;
         const auto found =
             platform::loadModuleFunction(ORVALENTE_DRAWING_MODULE, check::kBuildWarningsSymbol);
         if (found.address)

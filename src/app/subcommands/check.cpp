@@ -1,6 +1,6 @@
 #include "app/subcommands/checked_paths.h"
 #include "app/subcommands/subcommand.h"
-#include "authoring/check/check_request.h"
+#include "check/check_request.h"
 
 #include <algorithm>
 #include <set>
@@ -9,7 +9,7 @@ namespace app {
 
 namespace {
 
-using authoring::check::CheckFormat;
+using check::CheckFormat;
 using coursetool::ExitCode;
 
 /// Codes, one or more in each word, commas between them.
@@ -30,7 +30,7 @@ struct Check : Subcommand {
     std::string format;
     std::vector<std::string> ignored;
     std::vector<std::string> drives;
-    authoring::check::CheckRequest request;
+    check::CheckRequest request;
 
     Check()
         : Subcommand(
@@ -66,7 +66,6 @@ struct Check : Subcommand {
     }
 
     int run(ToolRun& run) override {
-        namespace check = authoring::check;
         const auto function = run.drawing<check::CheckFunction>(check::kCheckSymbol);
         const ExitCode code =
             function ? function(run.argc, run.argv, request, run.out, run.report) : ExitCode::Fine;
