@@ -1,14 +1,11 @@
 #include "output/svg/svg_file.h"
 
+#include "output/svg/svg_elements.h"
 #include "output/svg/svg_text.h"
 #include "page/ink_area.h"
 #include "page/masked_pictures.h"
 #include "page/multiply_inks.h"
 #include "page/twips.h"
-
-#include <QBuffer>
-#include <QHash>
-#include <QXmlStreamWriter>
 
 #include <algorithm>
 #include <cmath>
@@ -17,7 +14,10 @@ namespace output {
 
 namespace {
 
+using svg::ClipStore;
 using svg::colour;
+using svg::Markup;
+using svg::PictureStore;
 using svg::pixels;
 using svg::plain;
 
@@ -36,134 +36,6 @@ bool near(Values... values) {
 double wholePixels(double twips) {
     return std::round(twips / page::kTwipsPerPixel) * page::kTwipsPerPixel;
 }
-
-/// Elements with their attributes, each on a line of its own.
-class Markup {
-public:
-    explicit Markup(QByteArray& out) : xml_(&out) {}
-
-    Markup& open(const char* element) {
-        xml_.writeStartElement(QString::fromLatin1(element));
-        return *this;
-    }
-    /// An element that holds nothing.
-    Markup& empty(const char* element) {
-        xml_.writeEmptyElement(QString::fromLatin1(element));
-        return *this;
-    }
-    Markup& with(const char* name, const QString& value) {
-        xml_.writeAttribute(QString::fromLatin1(name), value);
-        return *this;
-    }
-    Markup& with(const char* name, const char* value) {
-        return with(name, QString::fromLatin1(value));
-    }
-    Markup& text(const QString& text) {
-        xml_.writeCharacters(text);
-        return *this;
-    }
-    Markup& close() {
-        xml_.writeEndElement();
-        return *this;
-    }
-    void endLine() { xml_.writeCharacters(QStringLiteral("\n")); }
-
-private:
-    QXmlStreamWriter xml_;
-};
-
-/// The pictures of a document, each stored once under a name of its own.
-class PictureStore {
-public:
-    /// The name of a picture; empty for one that cannot be stored.
-    QString name(const page::Picture& picture) {
-        const auto known = names_.constFind(&picture);
-        if (known != names_.constEnd())
-            return *known;
-        const QString name = store(picture);
-        names_.insert(&picture, name);
-        return name;
-    }
-
-    const QByteArray& definitions() const { return definitions_; }
-
-private:
-    QString store(const page::Picture& picture) {
-        const auto [type, bytes] = file(picture);
-        if (bytes.isEmpty())
-            return {};
-        // The same file may have been read twice.
-        const auto same = byContent_.constFind(bytes);
-        if (same != byContent_.constEnd())
-            return *same;
-        const QString name = QStringLiteral("i%1").arg(byContent_.size() + 1);
-        markup_.empty("image")
-            .with("id", name)
-            .with("width", "1")
-            .with("height", "1")
-            .with("preserveAspectRatio", "none")
-            .with("xlink:href", QString::fromLatin1("data:" + type + ";base64," + bytes.toBase64()))
-            .endLine();
-        byContent_.insert(bytes, name);
-        return name;
-    }
-
-    /// The picture as a file that programs which show SVG can read.
-    static std::pair<QByteArray, QByteArray> file(const page::Picture& picture) {
-        switch (picture.format()) {
-        case page::PictureFormat::Gif:
-            return {"image/gif", picture.bytes()};
-        case page::PictureFormat::Jpeg:
-            return {"image/jpeg", picture.bytes()};
-        case page::PictureFormat::Png:
-            return {"image/png", picture.bytes()};
-        case page::PictureFormat::Svg:
-            return {"image/svg+xml", picture.bytes()};
-        case page::PictureFormat::Bmp:
-            break;
-        }
-        QBuffer png;
-        png.open(QIODevice::WriteOnly);
-        picture.image(picture.size()).save(&png, "PNG");
-        return {"image/png", png.data()};
-    }
-
-    QHash<const page::Picture*, QString> names_;
-    QHash<QByteArray, QString> byContent_;
-    QByteArray definitions_;
-    Markup markup_{definitions_};
-};
-
-/// The areas that elements are cut at, each defined once.
-class ClipStore {
-public:
-    /// The value of a "clip-path".
-    QString reference(const QRectF& area) {
-        auto place = std::find(areas_.begin(), areas_.end(), area);
-        if (place == areas_.end())
-            place = areas_.insert(areas_.end(), area);
-        return QStringLiteral("url(#c%1)").arg(place - areas_.begin() + 1);
-    }
-
-    QByteArray definitions() const {
-        QByteArray all;
-        Markup markup(all);
-        for (std::size_t i = 0; i < areas_.size(); ++i)
-            markup.open("clipPath")
-                .with("id", QStringLiteral("c%1").arg(i + 1))
-                .empty("rect")
-                .with("x", pixels(areas_[i].x()))
-                .with("y", pixels(areas_[i].y()))
-                .with("width", pixels(areas_[i].width()))
-                .with("height", pixels(areas_[i].height()))
-                .close()
-                .endLine();
-        return all;
-    }
-
-private:
-    std::vector<QRectF> areas_;
-};
 
 /// Writes the operations of one surface as elements, in pixels of the surface.
 class ElementWriter {
