@@ -8,6 +8,13 @@ DURATIONS = [duration for duration, times in SERIES.items() for _ in range(times
 MEAN = sum(DURATIONS) / len(DURATIONS)
 DEVIATION = math.sqrt(sum((duration - MEAN) ** 2 for duration in DURATIONS) / (len(DURATIONS) - 1))
 UNCERTAINTY = DEVIATION / math.sqrt(len(DURATIONS))
+
+
+def fallen(frame):
+    """Centimetres below the start at this frame of the film, as read: whole ones."""
+    return round(100 * G * (frame / 25) ** 2 / 2)
+
+
 PERIOD = 2 * math.pi * math.sqrt(1.000 / G)
 
 RESULTS = [
@@ -24,4 +31,18 @@ RESULTS = [
     ("007", "u = 0,010 s : l’écart est {0,034} s", [2.040 - 2.006]),
     ("007", "qui est {3,4} cm", [100 * ((2.040 / 2.006) ** 2 - 1)]),
     ("007", "l’écart est {0,3} g", [50.3 - 50.0]),
+    ("067", "2π × 0,35 = {2,2} m", [2 * math.pi * 0.35]),
+    ("067", "parcourt les mêmes {2,2} m sur son cercle, dans la même durée : {0,76} m/s",
+     [2 * math.pi * 0.35, 2 * math.pi * 0.35 / (72 / 25)]),
+    ("067", "double de celle du vélo, 2 × 0,76 = {1,5} m/s", [4 * math.pi * 0.35 / (72 / 25)]),
+    ("067", "Galaxie, {36} puissances de dix", [round(math.log10(9.5e20)) + 15]),
+    ("068", "= √(250 000) = {500} m", [math.hypot(400, 300)]),
+    ("068", "La règle donne {0,18} m", [2 * 0.60 * math.sin(0.90 * 0.20 / 0.60 / 2)]),
+    ("069", "t (s) 0 {0,12} {0,24} {0,36} {0,48} {0,60}", [n / 25 for n in (3, 6, 9, 12, 15)]),
+    ("069", "y (cm) 0 {7} {28} {64} {113} {177}", [fallen(n) for n in (3, 6, 9, 12, 15)]),
+    ("069", "augmente : {7}, puis {21}, {36}, {49}, {64} cm",
+     [fallen(n) - fallen(n - 3) for n in (3, 6, 9, 12, 15)]),
+    ("069", "On lit {64} cm à l’image 9 et {95} cm à l’image 11", [fallen(9), fallen(11)]),
+    ("069", "À l’image 16, à {0,64} s", [16 / 25]),
+    ("069", "à 1,80 m, vers {0,61} s", [math.sqrt(2 * 1.80 / G)]),
 ]
