@@ -116,11 +116,11 @@ def parachutist():
     plot.axes(5, 10, "*t* (s)", "*v* (m/s)")
     d.curve([plot.at(seconds, speed) for seconds, speed, _ in rows], SPEED, 2.2)
     scale = 27 / (MASS * G)  # pixels a newton
-    for moment, words in ((3.0, "*v* augmente"), (20.0, "*v* constante"), (25.5, "*v* diminue"),
+    for moment, words in ((5.0, "*v* augmente"), (20.0, "*v* constante"), (25.5, "*v* diminue"),
                           (36.0, "*v* constante")):
         speed, force = at[moment]
         x, y = plot.at(moment, speed)
-        top = {3.0: 116, 20.0: 260, 25.5: 352, 36.0: 460}[moment]
+        top = {5.0: 116, 20.0: 260, 25.5: 352, 36.0: 460}[moment]
         d.line(top, 122, x, y, RULE, 1)
         d.dot(x, y, INK, 3.4)
         d.arrow(top, 62, top, 62 + MASS * G * scale, FORCE)
