@@ -5,15 +5,18 @@
 
 reads the pages and questions as plain text: fractions as (a)/(b), exponents as ^b. Two kinds of
 numbers are computed. Sums that stand in the text, "3,0 / 0,064 = 47", are found wherever they are.
-The others (tables, conversions, results of a formula) are listed in RESULTS, each with the words
-around it. A number agrees when the exact result rounds to it with the figures shown. Disagreements
+The others (tables, conversions, results of a formula) are listed in RESULTS, here and in the
+check_numbers_*.py of the later chapters, each with the words around it. A number agrees when the exact result rounds to it with the figures shown. Disagreements
 and listed words that no longer stand in the source are told as FILE:LINE, and the status is 1.
 """
 
+import importlib
 import math
 import re
 import sys
 from pathlib import Path
+
+import plain_text
 
 NUMBER = r"(?<![\d,^])[−-]?(?:\d{1,3}(?: \d{3})+(?!\d)|\d+)(?:,\d+)?(?: × 10\^[−-]?\d+)?"
 G, C, NA = 9.81, 299792458, 6.02214076e23
@@ -31,7 +34,7 @@ def limit(n1, n2=1.0):
     return math.degrees(math.asin(n2 / n1))
 
 
-# Source, words with each number to check in braces, and the exact values of these numbers.
+# Page, or question with Q, words with each number to check in braces, and the exact values of these numbers.
 RESULTS = [
     ("004", "volume molaire d’un gaz à 20 °C V_m {24,1}", [8.314462618 * 293.15 / 101.325]),
     ("004", "une année de lumière {9,46 × 10^15}", [C * 365.25 * 86400]),
@@ -81,20 +84,35 @@ RESULTS = [
     ("048", "20 °C 1 013 hPa {24,1}", [8.314462618 * 293.15 / 101.325]),
     ("049", "n = (6,0)/(342,0) = {1,8 × 10^−2} mol", [6 / 342]),
     ("049", "N = (6,0)/(342,0) × 6,022 × 10^23 = {1,1 × 10^22}", [6 / 342 * NA]),
-    ("103", "8 s, elle ne ferait que {2,4} millions", [8 * C / 1e9]),
-    ("106", "{0,67} est le quotient renversé", [2 / 3]),
-    ("107", "= {0,532}, donc i_2 = {32,1}°", [sine(45) / 1.33, refracted(45, 1, 1.33)]),
-    ("107", "{70,1}° échange", [math.degrees(math.asin(1.33 * sine(45)))]),
-    ("108", "= {0,667}, soit θ = {41,8}°", [1 / 1.5, limit(1.5)]),
-    ("110", "{0,05} est l’inverse de 20", [1 / 20]),
-    ("207", "{0,042} est le quotient renversé", [0.5 / 12]),
-    ("207", "{6,0} est le produit", [6]),
-    ("208", "= {0,050} A = {50} mA", [6 / 120, 6000 / 120]),
-    ("308", "Que vaut alors son pH ? 2,0 {4,0}", [3 + 1]),
+    ("Q103", "8 s, elle ne ferait que {2,4} millions", [8 * C / 1e9]),
+    ("Q106", "{0,67} est le quotient renversé", [2 / 3]),
+    ("Q107", "= {0,532}, donc i_2 = {32,1}°", [sine(45) / 1.33, refracted(45, 1, 1.33)]),
+    ("Q107", "{70,1}° échange", [math.degrees(math.asin(1.33 * sine(45)))]),
+    ("Q108", "= {0,667}, soit θ = {41,8}°", [1 / 1.5, limit(1.5)]),
+    ("Q110", "{0,05} est l’inverse de 20", [1 / 20]),
+    ("Q207", "{0,042} est le quotient renversé", [0.5 / 12]),
+    ("Q207", "{6,0} est le produit", [6]),
+    ("Q208", "= {0,050} A = {50} mA", [6 / 120, 6000 / 120]),
+    ("Q308", "Que vaut alors son pH ? 2,0 {4,0}", [3 + 1]),
 ]
 
 
-def flattened(source):
+def flattened(path):
+    """The text of a source, white space squeezed, and the line of each of its characters."""
+    source = path.read_text(encoding="utf-8")
+    text, lines = (plain_text.markdown if path.suffix == ".md" else without_directives)(source)
+    squeezed, kept = "", []
+    for character, number in zip(text, lines):
+        if character in " \t" and squeezed.endswith((" ", "\t")):
+            if character == "\t":
+                squeezed = squeezed[:-1] + character
+            continue
+        squeezed += character
+        kept.append(number)
+    return squeezed, kept
+
+
+def without_directives(source):
     """The text of a source with its directives left out, and the line of each of its characters."""
     text, lines = "", []
 
@@ -147,15 +165,7 @@ def flattened(source):
             add(key[3:].partition("#")[0] if key[0] == "V" else key[5:].rpartition("#")[0], number)
         elif key.startswith(("TAB", "FIN")):
             close()
-    squeezed, kept = "", []
-    for character, number in zip(text, lines):
-        if character in " \t" and squeezed.endswith((" ", "\t")):
-            if character == "\t":
-                squeezed = squeezed[:-1] + character
-            continue
-        squeezed += character
-        kept.append(number)
-    return squeezed, kept
+    return text, lines
 
 
 def value(shown):
@@ -193,14 +203,18 @@ def evaluated(expression):
 
 def main():
     course = Path(sys.argv[1] if len(sys.argv) > 1 else Path(__file__).parent)
-    sources = sorted(course.glob("pages/*.page")) + sorted(course.glob("exercises/*/*.question"))
+    sources = [path for place in ("pages/*.page", "pages/*.md", "exercises/*/*.question", "exercises/*/*.md")
+               for path in sorted(course.glob(place))]
     listed = {}
-    for name, words, exact in RESULTS:
+    chapters = [importlib.import_module(path.stem).RESULTS
+                for path in sorted(Path(__file__).parent.glob("check_numbers_*.py"))]
+    for name, words, exact in sum(chapters, RESULTS):
         listed.setdefault(name, []).append((words, exact))
     faults, checked = [], 0
     for path in sources:
-        cells, lines = flattened(path.read_text(encoding="utf-8"))
-        for words, exact in listed.pop(path.name[:3], []):
+        cells, lines = flattened(path)
+        kind = "Q" if path.parent.parent.name == "exercises" else ""
+        for words, exact in listed.pop(kind + re.match(r"\d*", path.name)[0], []):
             pieces = [re.escape(piece).replace("\\ ", r"[ \t]") for piece in re.split(r"\{[^}]*\}", words)]
             found = re.search(f"({NUMBER})".join(pieces), cells)
             if not found:
