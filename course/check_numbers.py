@@ -5,15 +5,18 @@
 
 reads the pages and questions as plain text: fractions as (a)/(b), exponents as ^b. Two kinds of
 numbers are computed. Sums that stand in the text, "3,0 / 0,064 = 47", are found wherever they are.
-The others (tables, conversions, results of a formula) are listed in RESULTS, each with the words
-around it. A number agrees when the exact result rounds to it with the figures shown. Disagreements
+The others (tables, conversions, results of a formula) are listed in RESULTS, here and in the
+check_numbers_*.py of the later chapters, each with the words around it. A number agrees when the exact result rounds to it with the figures shown. Disagreements
 and listed words that no longer stand in the source are told as FILE:LINE, and the status is 1.
 """
 
+import importlib
 import math
 import re
 import sys
 from pathlib import Path
+
+import plain_text
 
 NUMBER = r"(?<![\d,^])[−-]?(?:\d{1,3}(?: \d{3})+(?!\d)|\d+)(?:,\d+)?(?: × 10\^[−-]?\d+)?"
 G, C, NA = 9.81, 299792458, 6.02214076e23
@@ -94,7 +97,22 @@ RESULTS = [
 ]
 
 
-def flattened(source):
+def flattened(path):
+    """The text of a source, white space squeezed, and the line of each of its characters."""
+    source = path.read_text(encoding="utf-8")
+    text, lines = (plain_text.markdown if path.suffix == ".md" else without_directives)(source)
+    squeezed, kept = "", []
+    for character, number in zip(text, lines):
+        if character in " \t" and squeezed.endswith((" ", "\t")):
+            if character == "\t":
+                squeezed = squeezed[:-1] + character
+            continue
+        squeezed += character
+        kept.append(number)
+    return squeezed, kept
+
+
+def without_directives(source):
     """The text of a source with its directives left out, and the line of each of its characters."""
     text, lines = "", []
 
@@ -147,15 +165,7 @@ def flattened(source):
             add(key[3:].partition("#")[0] if key[0] == "V" else key[5:].rpartition("#")[0], number)
         elif key.startswith(("TAB", "FIN")):
             close()
-    squeezed, kept = "", []
-    for character, number in zip(text, lines):
-        if character in " \t" and squeezed.endswith((" ", "\t")):
-            if character == "\t":
-                squeezed = squeezed[:-1] + character
-            continue
-        squeezed += character
-        kept.append(number)
-    return squeezed, kept
+    return text, lines
 
 
 def value(shown):
@@ -193,14 +203,17 @@ def evaluated(expression):
 
 def main():
     course = Path(sys.argv[1] if len(sys.argv) > 1 else Path(__file__).parent)
-    sources = sorted(course.glob("pages/*.page")) + sorted(course.glob("exercises/*/*.question"))
+    sources = [path for place in ("pages/*.page", "pages/*.md", "exercises/*/*.question", "exercises/*/*.md")
+               for path in sorted(course.glob(place))]
     listed = {}
-    for name, words, exact in RESULTS:
+    chapters = [importlib.import_module(path.stem).RESULTS
+                for path in sorted(Path(__file__).parent.glob("check_numbers_*.py"))]
+    for name, words, exact in sum(chapters, RESULTS):
         listed.setdefault(name, []).append((words, exact))
     faults, checked = [], 0
     for path in sources:
-        cells, lines = flattened(path.read_text(encoding="utf-8"))
-        for words, exact in listed.pop(path.name[:3], []):
+        cells, lines = flattened(path)
+        for words, exact in listed.pop(re.match(r"\d*", path.name)[0], []):
             pieces = [re.escape(piece).replace("\\ ", r"[ \t]") for piece in re.split(r"\{[^}]*\}", words)]
             found = re.search(f"({NUMBER})".join(pieces), cells)
             if not found:
