@@ -21,7 +21,7 @@ constexpr int kFractionRoom = 2;
 /// How far a part of a fraction with an index or an exponent keeps from the bar.
 constexpr int kBarRoom = 3;
 /// What a denominator in letters larger than the text's keeps: its exponents rise further.
-constexpr int kLargeBarRoom = 6;
+constexpr int kLargeBarRoom = 5;
 constexpr int kTextPoints = 12;
 
 /// Scripts are two points smaller from ten points on, as the directives have it.
