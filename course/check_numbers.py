@@ -34,7 +34,7 @@ def limit(n1, n2=1.0):
     return math.degrees(math.asin(n2 / n1))
 
 
-# Source, words with each number to check in braces, and the exact values of these numbers.
+# Page, or question with Q, words with each number to check in braces, and the exact values of these numbers.
 RESULTS = [
     ("004", "volume molaire d’un gaz à 20 °C V_m {24,1}", [8.314462618 * 293.15 / 101.325]),
     ("004", "une année de lumière {9,46 × 10^15}", [C * 365.25 * 86400]),
@@ -84,16 +84,16 @@ RESULTS = [
     ("048", "20 °C 1 013 hPa {24,1}", [8.314462618 * 293.15 / 101.325]),
     ("049", "n = (6,0)/(342,0) = {1,8 × 10^−2} mol", [6 / 342]),
     ("049", "N = (6,0)/(342,0) × 6,022 × 10^23 = {1,1 × 10^22}", [6 / 342 * NA]),
-    ("103", "8 s, elle ne ferait que {2,4} millions", [8 * C / 1e9]),
-    ("106", "{0,67} est le quotient renversé", [2 / 3]),
-    ("107", "= {0,532}, donc i_2 = {32,1}°", [sine(45) / 1.33, refracted(45, 1, 1.33)]),
-    ("107", "{70,1}° échange", [math.degrees(math.asin(1.33 * sine(45)))]),
-    ("108", "= {0,667}, soit θ = {41,8}°", [1 / 1.5, limit(1.5)]),
-    ("110", "{0,05} est l’inverse de 20", [1 / 20]),
-    ("207", "{0,042} est le quotient renversé", [0.5 / 12]),
-    ("207", "{6,0} est le produit", [6]),
-    ("208", "= {0,050} A = {50} mA", [6 / 120, 6000 / 120]),
-    ("308", "Que vaut alors son pH ? 2,0 {4,0}", [3 + 1]),
+    ("Q103", "8 s, elle ne ferait que {2,4} millions", [8 * C / 1e9]),
+    ("Q106", "{0,67} est le quotient renversé", [2 / 3]),
+    ("Q107", "= {0,532}, donc i_2 = {32,1}°", [sine(45) / 1.33, refracted(45, 1, 1.33)]),
+    ("Q107", "{70,1}° échange", [math.degrees(math.asin(1.33 * sine(45)))]),
+    ("Q108", "= {0,667}, soit θ = {41,8}°", [1 / 1.5, limit(1.5)]),
+    ("Q110", "{0,05} est l’inverse de 20", [1 / 20]),
+    ("Q207", "{0,042} est le quotient renversé", [0.5 / 12]),
+    ("Q207", "{6,0} est le produit", [6]),
+    ("Q208", "= {0,050} A = {50} mA", [6 / 120, 6000 / 120]),
+    ("Q308", "Que vaut alors son pH ? 2,0 {4,0}", [3 + 1]),
 ]
 
 
@@ -213,7 +213,8 @@ def main():
     faults, checked = [], 0
     for path in sources:
         cells, lines = flattened(path)
-        for words, exact in listed.pop(re.match(r"\d*", path.name)[0], []):
+        kind = "Q" if path.parent.parent.name == "exercises" else ""
+        for words, exact in listed.pop(kind + re.match(r"\d*", path.name)[0], []):
             pieces = [re.escape(piece).replace("\\ ", r"[ \t]") for piece in re.split(r"\{[^}]*\}", words)]
             found = re.search(f"({NUMBER})".join(pieces), cells)
             if not found:
