@@ -20,6 +20,9 @@ constexpr int kMarkRise = 4;
 constexpr int kFractionRoom = 2;
 /// How far a part of a fraction with an index or an exponent keeps from the bar.
 constexpr int kBarRoom = 3;
+/// What a denominator in letters larger than the text's keeps: its exponents rise further.
+constexpr int kLargeBarRoom = 5;
+constexpr int kTextPoints = 12;
 
 /// Scripts are two points smaller from ten points on, as the directives have it.
 constexpr int kSmallestReduced = 10;
@@ -307,17 +310,18 @@ private:
         set.append(upper);
         move(set, "PIY", raised ? kBarRoom : 0);
         directive(set, QStringLiteral("DENOMINATEUR"), 0);
-        move(set, "PIY", lowered ? kBarRoom : 0);
+        const int below = !lowered ? 0 : style_.points > kTextPoints ? kLargeBarRoom : kBarRoom;
+        move(set, "PIY", below);
         move(set, "PIX", indent(lower));
         set.append(lower);
-        move(set, "PIY", lowered ? -kBarRoom : 0);
+        move(set, "PIY", -below);
         directive(set, QStringLiteral("FINFRAC"), 0);
         for (Piece& piece : set.pieces)
             piece.width = 0;
         set.pieces.back().width = width;
         set.width = width;
         set.rise = raised ? kBarRoom : 0;
-        set.drop = lowered ? kBarRoom : 0;
+        set.drop = below;
         box.append(set);
     }
 
