@@ -90,12 +90,31 @@ TEST_F(Zoomed, takesItsOtherWindowsAlong) {
     }));
 }
 
-TEST_F(Zoomed, fillsTheScreenWithThePageAndWithATest) {
+/// A page with a link to a test.
+class ZoomedTest : public Zoomed {
+protected:
+    QString sources() override {
+        const QString directory = directory_.filePath("sources");
+        QDir().mkpath(directory + "/pages");
+        QDir().mkpath(directory + "/exercises/a");
+        test_support::writeFile(directory + "/pages/1.page",
+                                "+++\nNumeropage = 1\nIndex = 1\n+++\n##SI12\n##PIY020\n"
+                                "##LIERTun mot#EXO001\n##PIY040\n");
+        test_support::writeFile(directory + "/exercises/a/chapter.toml",
+                                "Chapitre = 1\nTitre = \"A\"\nNbquest = 1\n");
+        test_support::writeFile(directory + "/exercises/a/101.question",
+                                "+++\nREFERENCE = 101\ntype = 3\nsolution = \"oui\"\n+++\n"
+                                "##SI12\nOui ?¶\n##EXOTX\n");
+        return directory;
+    }
+};
+
+TEST_F(ZoomedTest, fillsTheScreenWithThePageAndWithATest) {
     startAndWait({}, {800, 600});
     press("F11");
     const QRect screen(0, 0, 1600, 1200);
     EXPECT_TRUE(eventually([&] { return place() == screen; }));
-    click(370 * 2, 478 * 2); // a test on the first page
+    click(190 * 2, 150 * 2); // the link
     ASSERT_TRUE(eventually([&] { return activeTitle() == "Exercices"; }))
         << activeTitle().toStdString();
     EXPECT_TRUE(eventually([&] { return place("Exercices") == screen; }));

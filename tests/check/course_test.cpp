@@ -3,6 +3,7 @@
 #include "check/checked.h"
 #include "coursetool/build.h"
 #include "coursetool/extract.h"
+#include "support/course_compiler.h"
 
 #include <gmock/gmock.h>
 
@@ -35,7 +36,8 @@ TEST(DemonstrationCourse, hasNothingToFindFaultWithInAnyForm) {
     const Workspace work;
     EXPECT_THAT(sentencesOf(DEMONSTRATION_COURSE), IsEmpty());
     coursetool::Report report;
-    ASSERT_TRUE(coursetool::build(DEMONSTRATION_COURSE, work.path("out"), report));
+    ASSERT_TRUE(coursetool::build(DEMONSTRATION_COURSE, work.path("out"), report,
+                                  test_support::courseCompiler()));
     EXPECT_THAT(sentencesOf(work.path("out")), IsEmpty());
     coursetool::extract(work.path("out"), work.path("back"), report);
     EXPECT_THAT(sentencesOf(work.path("back")), IsEmpty());

@@ -1,5 +1,6 @@
 #include "coursetool/build.h"
 #include "coursetool/workspace.h"
+#include "support/course_compiler.h"
 
 #include <gmock/gmock.h>
 #include <unistd.h>
@@ -200,7 +201,8 @@ TEST(DemonstrationCourse, builds) {
         GTEST_SKIP() << "no demonstration course in this tree";
     const Workspace work;
     coursetool::Report report;
-    EXPECT_TRUE(coursetool::build(source, work.path("out"), report)) << textOf(report);
+    EXPECT_TRUE(coursetool::build(source, work.path("out"), report, test_support::courseCompiler()))
+        << textOf(report);
     EXPECT_EQ(textOf(report), "");
     EXPECT_GE(work.rows("out/Zekx.mdb", "cours").size(), 12u);
 }

@@ -2,6 +2,7 @@
 #include "coursetool/print.h"
 #include "coursetool/tool_pictures.h"
 #include "printing/print_case.h"
+#include "support/course_compiler.h"
 #include "support/fake_message_boxes.h"
 #include "viewer/print_command.h"
 
@@ -70,7 +71,7 @@ protected:
         coursetool::Report report;
         const std::filesystem::path course = directory.filePath("cours").toStdString();
         if (!std::filesystem::exists(course))
-            coursetool::build(DEMONSTRATION_COURSE, course, report);
+            coursetool::build(DEMONSTRATION_COURSE, course, report, test_support::courseCompiler());
         page::FontBook fonts;
         coursetool::ToolPictures pictures(course, {}, report);
         coursetool::print({course, page, directory.filePath(file).toStdString(), {}}, fonts,
