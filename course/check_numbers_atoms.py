@@ -27,7 +27,7 @@ RESULTS = [
     ("053", "2 + 4 = {6} électrons de valence", [valence(16)]),
     ("053", "16 + 2 = {18} : 1s^{2} 2s^{2} 2p^{6} 3s^{2} 3p^{6}", [18] + filled(18)),
     ("053", "1s^{2} 2s^{2} 2p^{6} 3s^{1}. L'ion Na+", filled(11)),
-    ("053", "le dernier : 1s^{2} 2s^{2} 2p^{6} ; c'est celle", filled(10)),
+    ("053", "le dernier : 1s^{2} 2s^{2} 2p^{6}, la", filled(10)),
     ("054", "colonne 17, a {7} électrons de valence ; il en gagne 8 − 7 = {1}", [valence(9), 8 - valence(9)]),
     ("054", "2, en perd {2}", [valence(12)]),
     ("054", "2 − 2 × 1 = {0}", [0]),
