@@ -19,6 +19,7 @@ from pathlib import Path
 import plain_text
 
 NUMBER = r"(?<![\d,^])[−-]?(?:\d{1,3}(?: \d{3})+(?!\d)|\d+)(?:,\d+)?(?: × 10\^[−-]?\d+)?"
+LISTED = NUMBER.replace(",^]", ",]", 1)  # exponents too, such as the electrons of a subshell
 G, C, NA = 9.81, 299792458, 6.02214076e23
 
 
@@ -216,7 +217,7 @@ def main():
         kind = "Q" if path.parent.parent.name == "exercises" else ""
         for words, exact in listed.pop(kind + re.match(r"\d*", path.name)[0], []):
             pieces = [re.escape(piece).replace("\\ ", r"[ \t]") for piece in re.split(r"\{[^}]*\}", words)]
-            found = re.search(f"({NUMBER})".join(pieces), cells)
+            found = re.search(f"({LISTED})".join(pieces), cells)
             if not found:
                 faults.append(f"{path}:1: no longer stands here: {words}")
                 continue
