@@ -78,8 +78,9 @@ struct FakeCollaborators {
         QStringList& log;
     };
 
-    viewer::Collaborators all() {
-        return {video,  links,      printing, updates,      exercise,  orderForm,
+    viewer::Collaborators all() { return allWith(links); }
+    viewer::Collaborators allWith(viewer::PageLinks& pageLinks) {
+        return {video,  pageLinks,  printing, updates,      exercise,  orderForm,
                 search, calculator, help,     installation, exitScreen};
     }
 

@@ -16,18 +16,11 @@ namespace test_support {
 class Links : public testing::Test {
 protected:
     Links() {
-        const viewer::Collaborators rest = bench.collaborators.all();
-        bench.window.attach(
-            {bench.commands,
-             bench.actions,
-             bench.pages,
-             {rest.video, links, rest.printing, rest.updateCheck, rest.exercise, rest.orderForm,
-              rest.search, rest.calculator, rest.help, rest.installation, rest.exitScreen},
-             bench.zoom,
-             [this] {
-                 bench.bound.bindTo(bench.cours);
-                 return true;
-             }});
+        bench.window.attach({bench.commands, bench.actions, bench.pages,
+                             bench.collaborators.allWith(links), bench.zoom, [this] {
+                                 bench.bound.bindTo(bench.cours);
+                                 return true;
+                             }});
         bench.start();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&bench.window));
     }
