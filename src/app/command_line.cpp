@@ -72,6 +72,8 @@ void readScale(CommandLine& line, const QString& value) {
 void readValue(CommandLine& line, const QString& option, const QString& value) {
     if (option == u"--course") {
         line.course = value;
+    } else if (option == u"--preview") {
+        line.preview = value;
     } else if (option == u"--scale") {
         readScale(line, value);
     } else {
@@ -96,7 +98,8 @@ CommandLine readCommandLine(const QStringList& arguments) {
             line.message = QStringLiteral("Orvalente " ORVALENTE_VERSION "\n");
         } else if (option == u"--author") {
             line.author = true;
-        } else if (option != u"--course" && option != u"--drive" && option != u"--scale") {
+        } else if (option != u"--course" && option != u"--drive" && option != u"--scale" &&
+                   option != u"--preview") {
             refuse(line, QStringLiteral("option inconnue « %1 »").arg(option));
         } else if (const auto value = rest.takeValue(); value && !value->isEmpty()) {
             readValue(line, option, *value);
