@@ -59,6 +59,8 @@ public:
             ->take_all();
         option("--scale", scale_, "F",
                "agrandit tout F fois (de 1 à 4), ou « auto » selon l’écran");
+        // The tool's own, with which it starts the shell on sources.
+        option("--preview", preview_, "DOSSIER", "")->group("");
         parser_.add_flag("--author", line.author, "permet de retoucher les questions des tests");
         parser_.set_help_flag("-h,--help", "affiche cette aide");
         parser_.set_version_flag("--version", "Orvalente " ORVALENTE_VERSION, "affiche la version");
@@ -97,13 +99,15 @@ private:
     }
 
     void readValues(CommandLine& line) const {
-        for (const char* name : {"--course", "--scale"})
+        for (const char* name : {"--course", "--preview", "--scale"})
             if (const CLI::Option* given = parser_.get_option(name);
                 given->count() > 0 && given->results().back().empty())
                 return refuse(
                     line, QStringLiteral("il manque une valeur après %1").arg(QLatin1String(name)));
         if (!course_.empty())
             line.course = QString::fromStdString(course_);
+        if (!preview_.empty())
+            line.preview = QString::fromStdString(preview_);
         if (!scale_.empty())
             readScale(line, QString::fromStdString(scale_));
         if (!line.message)
@@ -112,6 +116,7 @@ private:
 
     CLI::App parser_;
     std::string course_;
+    std::string preview_;
     std::string scale_;
     std::vector<std::string> drives_;
 };

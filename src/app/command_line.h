@@ -17,6 +17,10 @@ struct CommandLine {
     bool scaleAuto = false;          ///< --scale auto
     bool author = false;             ///< --author: shows what only authors use
 
+    /// --preview SRC: the sources of a course, shown while they are written. For the course tool,
+    /// which has looked at them; no option of the help.
+    std::optional<QString> preview;
+
     /// Something to print instead of starting: the help, the version, or what is wrong.
     std::optional<QString> message;
     bool isError = false; ///< the message goes to standard error and the exit status is 2

@@ -1,15 +1,19 @@
 #include "app/command_line.h"
 #include "app/shell_application.h"
+#include "authoring/markdown_compiler.h"
 #include "look/held_keys.h"
 #include "look/scale.h"
 #include "page/faces/font_book.h"
 #include "platform/terminal.h"
+#include "preview/previewed_course.h"
 
 #include <QApplication>
 #include <QScreen>
+#include <QTemporaryDir>
 #include <QTimer>
 
 #include <cstdio>
+#include <optional>
 
 namespace {
 
@@ -52,10 +56,32 @@ void warnOfMissingFaces() {
                                      .arg(missing.join(QStringLiteral(", "))));
 }
 
+/// A course that is being written, and the directory that it is compiled into.
+class WrittenCourse {
+public:
+    explicit WrittenCourse(const QString& sources)
+        : course_(pathOf(sources), pathOf(directory_.path()), compiler_) {
+        if (course_.update() == preview::PreviewedCourse::Renewed::Nothing)
+            course_.showInstead("# Ce cours a des fautes\n\nElles sont dites au pied de la page. "
+                                "Le cours s'ouvrira dès qu'elles seront corrigées.\n");
+    }
+
+    QString directory() const { return directory_.path(); }
+    preview::PreviewedCourse& course() { return course_; }
+
+private:
+    static std::filesystem::path pathOf(const QString& path) { return path.toStdU16String(); }
+
+    QTemporaryDir directory_;
+    page::FontBook fonts_;
+    authoring::MarkdownCompiler compiler_{fonts_};
+    preview::PreviewedCourse course_;
+};
+
 } // namespace
 
 int main(int argc, char** argv) {
-    const app::CommandLine line = app::readCommandLine(argumentsOf(argc, argv));
+    app::CommandLine line = app::readCommandLine(argumentsOf(argc, argv));
     if (line.message) {
         std::fputs(qUtf8Printable(*line.message), line.isError ? stderr : stdout);
         std::fputs(line.isError ? "\n" : "", stderr);
@@ -71,9 +97,16 @@ int main(int argc, char** argv) {
     // The leaving question ends the program, not the closing of some window.
     QApplication::setQuitOnLastWindowClosed(false);
 
+    std::optional<WrittenCourse> written;
+    if (line.preview) {
+        written.emplace(*line.preview);
+        line.course = written->directory();
+    }
     app::ShellApplication shell(line, scale);
     if (!shell.start())
         return 0;
+    if (written)
+        shell.follow(written->course());
     QTimer::singleShot(0, &application, &warnOfMissingFaces); // the page comes first
     return QApplication::exec();
 }

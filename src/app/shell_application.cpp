@@ -4,6 +4,7 @@
 #include "app/installation_window.h"
 #include "app/order_window.h"
 #include "app/pdf_loader.h"
+#include "app/preview.h"
 #include "app/video_loader.h"
 #include "calculator/machine_opener.h"
 #include "coursedata/course_directory.h"
@@ -206,12 +207,18 @@ struct ShellApplication::Parts {
     platform::SystemDisplaySettings displaySettings;
     shell::AlerteOpener warning{state, displaySettings};
     shell::StartUp startUp;
+    CourseReload reload{{state, record, course, symbols, pages, window, exercise}};
+    std::optional<Preview> preview;
 };
 
 ShellApplication::ShellApplication(const CommandLine& commandLine, double scale)
     : parts_(std::make_unique<Parts>(commandLine, scale)) {}
 
 ShellApplication::~ShellApplication() = default;
+
+void ShellApplication::follow(preview::PreviewedCourse& course) {
+    parts_->preview.emplace(course, parts_->reload, parts_->window, parts_->record, parts_->fonts);
+}
 
 bool ShellApplication::start() {
     return parts_->window.Form_Load();

@@ -4,6 +4,10 @@
 
 #include <memory>
 
+namespace preview {
+class PreviewedCourse;
+}
+
 namespace app {
 
 /// The shell with all its parts. Needs a QApplication.
@@ -15,6 +19,9 @@ public:
 
     /// Start-up and the first page; false when the program is to end.
     bool start();
+
+    /// From here on it shows what becomes of the sources of this course, which must outlive it.
+    void follow(preview::PreviewedCourse& course);
 
 private:
     struct Parts;

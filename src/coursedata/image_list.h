@@ -22,6 +22,9 @@ public:
     /// is no picture.
     std::shared_ptr<const page::Picture> symbol(const QString& key);
 
+    /// Lists the course's folder anew with the next symbol.
+    void listAnew() { paths_.reset(); }
+
 private:
     /// Our own, and as many of a course's.
     static constexpr std::size_t kMostHeld = 256;

@@ -35,7 +35,7 @@ bool liesAmongSources(const fs::path& source, const fs::path& output) {
 }
 
 bool build(const fs::path& source, const fs::path& output, Report& report,
-           const CompilerSource& compiler) {
+           const CompilerSource& compiler, BuildParts parts) {
     StagedCourse course(output);
     if (!course.open(report))
         return false;
@@ -45,7 +45,8 @@ bool build(const fs::path& source, const fs::path& output, Report& report,
     builder.checkFiles();
     if (report.hasFaults())
         return false;
-    builder.copyFiles();
+    if (parts == BuildParts::All)
+        builder.copyFiles();
     builder.finishDatabases();
     return !report.hasFaults() && course.publish(report);
 }

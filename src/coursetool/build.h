@@ -7,6 +7,10 @@
 
 namespace coursetool {
 
+/// What a build renews. Without the files, those of an earlier build stay as they are; they are
+/// checked all the same.
+enum class BuildParts { All, Databases };
+
 /// Compiles the course sources in `source` into the installation directory `output`: both
 /// databases, the files and the disc directories. Every fault of the sources is reported; with one
 /// or more, and when something cannot be written, `output` stays as it was and the result is false.
@@ -14,7 +18,7 @@ namespace coursetool {
 /// each). `compiler` is asked for when a source is in Markdown; without it such a source is a
 /// fault.
 bool build(const std::filesystem::path& source, const std::filesystem::path& output, Report& report,
-           const CompilerSource& compiler = {});
+           const CompilerSource& compiler = {}, BuildParts parts = BuildParts::All);
 
 /// Whether `output` would be read as part of the sources, or is the sources themselves.
 bool liesAmongSources(const std::filesystem::path& source, const std::filesystem::path& output);

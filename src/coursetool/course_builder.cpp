@@ -1,6 +1,7 @@
 #include "coursetool/course_builder.h"
 
 #include "coursetool/paths.h"
+#include "coursetool/source_files.h"
 #include "coursetool/source_text.h"
 #include "coursetool/tables.h"
 #include "files/cause.h"
@@ -18,30 +19,6 @@ constexpr int kHighestCode = 999;
 constexpr int kHighestPosition = 32767;
 /// Numbers warned about one by one; a course beyond these does not want to hear of each.
 constexpr int kNumberWarnings = 20;
-
-bool isMarkdown(const fs::path& file) {
-    return file.extension() == kMarkdownEnding;
-}
-
-/// The files with this ending, and those in Markdown, in file-name order. What else stands there,
-/// hidden files aside, is named: a page that silently is none would be missed late.
-std::vector<fs::path> sourcesIn(const fs::path& folder, const fs::path& top,
-                                std::string_view ending, std::string_view alsoExpected,
-                                Report& report) {
-    std::vector<fs::path> files;
-    for (const fs::directory_entry& entry : entriesOf(folder, report)) {
-        const std::string name = shown(entry.path().filename());
-        std::error_code error;
-        if ((name.ends_with(ending) || isMarkdown(name)) && entry.is_regular_file(error)) {
-            if (isFileOf(top, entry, report))
-                files.push_back(entry.path());
-        } else if (!name.starts_with('.') && name != alsoExpected) {
-            report.warning({shown(entry.path())}, "laissé de côté : ce n’est pas un fichier " +
-                                                      std::string(ending) + " ou .md");
-        }
-    }
-    return files;
-}
 
 jet::Value memo(std::optional<std::string_view> sourceText) {
     if (!sourceText)

@@ -13,6 +13,9 @@ namespace coursetool {
 /// with the wrong ending say, from being taken in whole.
 inline constexpr std::uintmax_t kMaxSourceBytes = 64u << 20;
 
+/// What some editors put before a text in UTF-8.
+inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
 /// The bytes of a file as they stand. A fault when it cannot be read or is larger than
 /// kMaxSourceBytes.
 std::optional<std::string> readBytes(const std::filesystem::path& file, Report& report);

@@ -266,4 +266,27 @@ bool AnswerPanel::eventFilter(QObject* watched, QEvent* event) {
     return QObject::eventFilter(watched, event);
 }
 
+GivenAnswer AnswerPanel::given() const {
+    GivenAnswer answer;
+    for (int i = 0; i < kChoices; ++i) {
+        answer.options[static_cast<std::size_t>(i)] = isSelected(ChoiceArray::Option1, i);
+        answer.checks[static_cast<std::size_t>(i)] = isSelected(ChoiceArray::Check1, i);
+    }
+    answer.text = typedText();
+    return answer;
+}
+
+void AnswerPanel::give(const GivenAnswer& answer) {
+    const auto select = [this](ChoiceArray array, int index, bool selected) {
+        if (selected && isVisible(array, index))
+            setSelected(array, index, true);
+    };
+    for (int i = 0; i < kChoices; ++i) {
+        select(ChoiceArray::Option1, i, answer.options[static_cast<std::size_t>(i)]);
+        select(ChoiceArray::Check1, i, answer.checks[static_cast<std::size_t>(i)]);
+    }
+    if (!Text1_->isHidden())
+        setTypedText(answer.text);
+}
+
 } // namespace exercises

@@ -23,6 +23,13 @@ class LinkCaption;
 class LinkIcon;
 class QuestionLink;
 
+/// What was ticked and typed, by the controls of each kind.
+struct GivenAnswer {
+    std::array<bool, kChoices> options{};
+    std::array<bool, kChoices> checks{};
+    std::u16string text;
+};
+
 /// The answer controls and links of a question, on the question area: place() shows those that the
 /// drawing of the question has placed.
 class AnswerPanel : public QObject, public AnswerControls {
@@ -38,6 +45,10 @@ public:
 
     /// Called with the tag of a link that is followed.
     void onLink(std::function<void(const QString&)> follow) { follow_ = std::move(follow); }
+
+    /// The answer as it stands, and back: a control that does not show takes nothing.
+    GivenAnswer given() const;
+    void give(const GivenAnswer& answer);
 
     /// Height down to the lowest control that shows, in pixels of the question area.
     int footPx() const;

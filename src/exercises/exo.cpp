@@ -202,6 +202,19 @@ void Exo::Form_Load() {
     session_->load();
 }
 
+bool Exo::reload() {
+    if (popup_ || asking_ || leaving_ || (source_ && source_->isVisible()))
+        return false;
+    const GivenAnswer given = answers_->given();
+    const std::int16_t question = parts_.test.CurrentQuestion;
+    writable_ = false;
+    Form_Load();
+    session_->activate();
+    if (parts_.test.CurrentQuestion == question && isUnanswered(parts_.test, question))
+        answers_->give(given);
+    return true;
+}
+
 /// Opens the tables again, to be written; read-only ones stay where that cannot be.
 void Exo::makeWritable() {
     if (writable_)

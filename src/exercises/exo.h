@@ -67,6 +67,11 @@ public:
     /// The same; returns once the window is closed.
     void run();
 
+    /// Reads the tables anew and shows the question as they have it now; what was ticked or typed
+    /// stays. False, and nothing done, while a box is open over the question or its text is shown
+    /// to the author.
+    bool reload();
+
     /// Milliseconds between two pictures of the popup after a right answer.
     void setBlinkInterval(int milliseconds) { blinkInterval_ = milliseconds; }
 

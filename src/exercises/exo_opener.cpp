@@ -7,12 +7,12 @@
 namespace exercises {
 
 void ExoOpener::open() {
-    if (isOpen_)
+    if (exo_)
         return;
-    const QScopedValueRollback<bool> open(isOpen_, true);
     Exo exo({parts_.shared, test_, parts_.drawing, parts_.pictures, parts_.fonts, parts_.screen,
              parts_.messageBoxes, *this, parts_.calculator, parts_.author},
             window_);
+    const QScopedValueRollback<Exo*> open(exo_, &exo);
     exo.run();
 }
 

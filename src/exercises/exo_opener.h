@@ -29,13 +29,17 @@ public:
     /// Shows the window; returns when it is closed. Does nothing while it is open.
     void open() override;
 
+    bool isOpen() const { return exo_ != nullptr; }
+    /// Shows what has changed in the tables, while the window is open (Exo::reload()).
+    bool reload() { return !exo_ || exo_->reload(); }
+
 private:
     void hideReturnToTest() override;
 
     viewer::Multim& window_;
     Parts parts_;
     TestState test_;
-    bool isOpen_ = false;
+    Exo* exo_ = nullptr; ///< while it is open
 };
 
 } // namespace exercises

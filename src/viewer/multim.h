@@ -89,6 +89,9 @@ public:
     /// Runs the tag of a link or of a menu entry; without effect while other work is under way.
     void followLink(const QString& tag);
 
+    /// Whether a command runs, a window that it has opened included.
+    bool isWorking() const { return working_; }
+
     /// Where it belongs while it does not fill the screen, in its pixels.
     QRect ownPlace() const;
 
