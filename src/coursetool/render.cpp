@@ -95,6 +95,8 @@ public:
         markup::DrawingState state;
         const markup::DrawnPage page = markup::drawPage(text, {state, pictures_, fonts_});
         reportLost(text, page, fonts_, {shown(request_.source)}, report_);
+        if (report_.hasFaults())
+            return;
         writeOne(isQuestion ? viewer::questionSheet(page, fonts_, fields_)
                             : viewer::bareSheet(page, fonts_));
     }

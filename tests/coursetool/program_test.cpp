@@ -321,14 +321,44 @@ TEST_F(Program, listsSymbolsAndTracesWithDrives) {
     EXPECT_EQ(listed.code, 0) << listed.err;
     EXPECT_THAT(listed.out, HasSubstr("\nLK\tLK-lien.svg\tOrvalente\n"));
     work.write("page.txt", "##IXAfig.svg\r\n");
-    work.write("disc/ZEKXDATA/fig.svg", "<svg width='10' height='20'><path d='M0 0h9v9z'/></svg>");
-    const Outcome traced = run("trace --source page.txt --drive X=src --drive y=disc");
+    work.write("volume/ZEKXDATA/fig.svg",
+               "<svg width='10' height='20'><path d='M0 0h9v9z'/></svg>");
+    const Outcome traced = run("trace --source page.txt --drive X=src --drive y=volume");
     EXPECT_EQ(traced.code, 0);
     EXPECT_EQ(traced.err, "");
     EXPECT_THAT(traced.out, HasSubstr(R"("width":150,"height":300,"name":"fig.svg")"));
     const Outcome missing = run("trace --source page.txt");
     EXPECT_EQ(missing.code, 0);
     EXPECT_THAT(missing.err, HasSubstr("« fig.svg » : image introuvable"));
+}
+
+TEST_F(Program, findsPicturesBesideASourceWhateverItsPathLooksLike) {
+    work.write("m.src", "##IXAfig.svg\r\n");
+    work.write("fig.svg", "<svg width='10' height='20'><path d='M0 0h9v9z'/></svg>");
+    const std::string whole = work.path("m.src").string();
+    for (const std::string& source : {std::string("m.src"), std::string("./m.src"), whole}) {
+        const QString name = QString::fromStdString(source);
+        const Outcome traced = run({"trace", "--source", name});
+        EXPECT_EQ(traced.err, "") << source;
+        EXPECT_THAT(traced.out, HasSubstr(R"("width":150,"height":300,"name":"fig.svg")"));
+        const Outcome drawn = run({"render", "--source", name, "-o", "m.svg"});
+        EXPECT_EQ(drawn.err, "") << source;
+        EXPECT_THAT(work.read("m.svg"), HasSubstr("<image"));
+    }
+}
+
+TEST_F(Program, saysThatNothingIsDrawnOfASourceWithOtherLineEnds) {
+    for (const char* text : {"Un¶\nDeux¶\n", "Un¶", "Un¶\rDeux¶\r"})
+        for (const char* name : {"a.src", "a.question"}) {
+            work.write(name, text);
+            const Outcome drawn = run({"render", "--source", name, "-o", "a.png"});
+            EXPECT_EQ(drawn.code, 1) << text;
+            EXPECT_THAT(drawn.err, HasSubstr(": rien n’en est dessiné : aucune ligne ne finit"));
+            EXPECT_FALSE(work.has("a.png"));
+            EXPECT_EQ(run({"trace", "--source", name}).code, 1) << text;
+        }
+    work.write("empty.src", "");
+    EXPECT_EQ(run("render --source empty.src -o a.png").code, 0);
 }
 
 TEST_F(Program, checksMendsAndExplains) {
