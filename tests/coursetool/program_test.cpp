@@ -1,8 +1,6 @@
 // The program itself, as a child process: what it prints where, and how it ends.
 
-#include "coursetool/workspace.h"
-
-#include <QProcess>
+#include "coursetool/program_case.h"
 
 #include <fcntl.h>
 #include <gmock/gmock.h>
@@ -14,41 +12,6 @@ namespace {
 
 using testing::HasSubstr;
 using testing::StartsWith;
-
-struct Outcome {
-    int code = -1;
-    std::string out;
-    std::string err;
-};
-
-struct Program : testing::Test {
-    Workspace work;
-
-    Program() {
-        work.write("src/pages/1.page", "+++\nNumeropage = 1\ntitre = \"Un\"\n+++\nA¶\n");
-        work.write("src/files/a.txt", "a");
-    }
-
-    /// Runs in the workspace; without a display, whatever the tests run under.
-    Outcome run(const QStringList& arguments, const QString& output = {}) {
-        QProcess child;
-        if (!output.isEmpty())
-            child.setStandardOutputFile(output, QIODevice::Append);
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
-            environment.remove(QString::fromLatin1(name));
-        child.setProcessEnvironment(environment);
-        child.setWorkingDirectory(QString::fromStdString(work.path().string()));
-        child.start(QStringLiteral(COURS_PROGRAM), arguments);
-        EXPECT_TRUE(child.waitForFinished(60'000));
-        EXPECT_EQ(child.exitStatus(), QProcess::NormalExit);
-        return {child.exitCode(), child.readAllStandardOutput().toStdString(),
-                child.readAllStandardError().toStdString()};
-    }
-    Outcome run(const char* arguments, const QString& output = {}) {
-        return run(QString::fromUtf8(arguments).split(u' ', Qt::SkipEmptyParts), output);
-    }
-};
 
 TEST_F(Program, convertsAndBuildsMarkdown) {
     work.write("src/pages/2.md",
@@ -387,18 +350,6 @@ TEST_F(Program, checksMendsAndExplains) {
     EXPECT_THAT(built.err, HasSubstr("[N401]\n"));
     EXPECT_EQ(run("check out").code, 1);
     EXPECT_EQ(run("check out --fix").code, 2);
-}
-
-TEST_F(Program, helpsInFrench) {
-    for (const char* call : {"--help", "build --help", "check --help", "trace -h"}) {
-        const Outcome help = run(call);
-        EXPECT_EQ(help.code, 0);
-        EXPECT_THAT(help.out, HasSubstr("Usage : orvalente-cours"));
-        EXPECT_THAT(help.out, HasSubstr("Affiche cette aide"));
-        EXPECT_THAT(help.out,
-                    testing::Not(testing::ContainsRegex("REQUIRED|Subcommand|Positional")));
-    }
-    EXPECT_THAT(run("--version").out, StartsWith("orvalente-cours "));
 }
 
 } // namespace

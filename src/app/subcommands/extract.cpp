@@ -16,6 +16,7 @@ struct Extract : Subcommand {
     void declare(Options& options) override {
         options.course(course);
         options.output("DOSSIER", output, "Dossier des sources à écrire, neuf ou vide");
+        options.example("orvalente-cours extract installation -o sources");
     }
 
     Refusal refusal() override {

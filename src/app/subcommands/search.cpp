@@ -21,6 +21,8 @@ struct Search : Subcommand {
         options.arguments("MOT", words, "Les mots, dont une page contient l’un au moins");
         options.flag("--all-words", allWords, "La page contient tous les mots");
         options.flag("--ignore-accents", ignoreAccents, "« e » trouve « é », et l’inverse");
+        options.example("orvalente-cours search installation --ignore-accents energie");
+        options.example("orvalente-cours search installation -- -10");
         options.footer("Écrit, par page trouvée, son numéro, une tabulation, son titre.");
     }
 

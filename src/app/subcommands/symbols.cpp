@@ -15,6 +15,7 @@ struct Symbols : Subcommand {
     void declare(Options& options) override {
         options.argument("DOSSIER", course,
                          "Dossier d’installation, dont les symboles comptent aussi");
+        options.example("orvalente-cours symbols installation");
     }
 
     Refusal refusal() override { return course.empty() ? std::nullopt : notACourse(course); }
