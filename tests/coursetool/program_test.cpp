@@ -1,6 +1,6 @@
 // The program itself, as a child process: what it prints where, and how it ends.
 
-#include "coursetool/program_case.h"
+#include "coursetool/program.h"
 
 #include <fcntl.h>
 #include <gmock/gmock.h>
@@ -270,6 +270,9 @@ TEST_F(Program, searchesThePagesAsTheWindowDoes) {
         EXPECT_EQ(outcome.err, "");
         EXPECT_EQ(outcome.code, 0);
     }
+    EXPECT_EQ(
+        run("search out --json masse").out,
+        "{\"Numeropage\":20,\"titre\":\"L’énergie\\tet\"}\n{\"Numeropage\":4,\"titre\":\"\"}\n");
     const Outcome tooShort = run("search out ?x");
     EXPECT_EQ(tooShort.out, "");
     EXPECT_THAT(tooShort.err, HasSubstr("avertissement : rien à chercher"));
@@ -283,6 +286,12 @@ TEST_F(Program, listsSymbolsAndTracesWithDrives) {
     const Outcome listed = run("symbols src");
     EXPECT_EQ(listed.code, 0) << listed.err;
     EXPECT_THAT(listed.out, HasSubstr("\nLK\tLK-lien.svg\tOrvalente\n"));
+    work.write("cours/symbols/Zz-le \"mien\".svg", "");
+    EXPECT_THAT(
+        run("symbols cours --json").out,
+        testing::AllOf(
+            HasSubstr("{\"key\":\"LK\",\"file\":\"LK-lien.svg\",\"folder\":null}\n"),
+            HasSubstr("\"file\":\"Zz-le \\\"mien\\\".svg\",\"folder\":\"cours/symbols\"}\n")));
     work.write("page.txt", "##IXAfig.svg\r\n");
     work.write("volume/ZEKXDATA/fig.svg",
                "<svg width='10' height='20'><path d='M0 0h9v9z'/></svg>");

@@ -10,7 +10,7 @@ struct Outcome {
     std::string err;
 };
 
-/// The program itself, in a workspace with the sources of a course of one page in "src".
+/// The program itself, as a child process.
 struct Program : testing::Test {
     Workspace work;
 
