@@ -81,6 +81,9 @@ TEST_F(Program, buildsDumpsTracesAndExtracts) {
     EXPECT_EQ(printed.code, 0) << printed.err;
     EXPECT_THAT(work.read("sheets.pdf"), StartsWith("%PDF"));
     EXPECT_EQ(run("extract out -o back").code, 0);
+    EXPECT_THAT(run("extract out -o back").err, HasSubstr("« back » n’est pas vide"));
+    EXPECT_EQ(run("extract out -o back --force").code, 0);
+    EXPECT_EQ(run("extract out -o out/files --force").code, 2);
     EXPECT_THAT(work.files("back"), testing::ElementsAre("files/a.txt", "pages/1-1.page"));
 }
 
