@@ -34,15 +34,20 @@ public:
                     "écrire.");
         for (const auto& command : commands_) {
             CLI::App* const parser = app_.add_subcommand(command->name(), command->description());
-            parser->group("Sous-commandes");
+            parser->group(command->isHidden() ? "" : "Sous-commandes");
             Options options(*parser);
             command->declare(options);
         }
+        // The subcommands have taken the exit statuses over; the rest is for the whole alone.
+        app_.footer("« orvalente-cours SOUS-COMMANDE --help » montre ses options et des exemples.\n"
+                    "Après « -- », rien n’est une option.\n" +
+                    app_.get_footer());
         // One at a time: further down, its name is a word like others.
         app_.require_subcommand(0, 1);
     }
 
     int run(ToolRun& run) {
+        run.parser = &app_;
         try {
             app_.parse(argumentsBackwards(run.argc, run.argv));
         } catch (const CLI::CallForHelp&) {
@@ -100,11 +105,24 @@ private:
             const std::string argument = extra.empty() ? std::string() : asTyped(extra.front());
             const Subcommand* const command = called();
             const Refusal own = command ? command->unexpected(argument) : std::nullopt;
+            if (!command && !argument.starts_with('-'))
+                return "sous-commande inconnue : " + coursetool::inQuotes(argument);
             return own ? *own : "argument inattendu : " + coursetool::inQuotes(argument);
         }
-        const std::string text = error.what();
-        return "une option est répétée, ou sa valeur manque : " +
-               coursetool::inQuotes(text.substr(0, text.find_first_of(": ")));
+        return wrongOption(error.what());
+    }
+
+    /// "--page: 1 required N missing", "--output: At Most 1 required but received 2", "fix was
+    /// given a disallowed flag override".
+    static std::string wrongOption(std::string_view text) {
+        const auto has = [&](std::string_view words) { return text.find(words) != text.npos; };
+        const std::string_view word = text.substr(0, text.find_first_of(": "));
+        const std::string name = coursetool::inQuotes(word);
+        if (has("override"))
+            return coursetool::inQuotes("--" + std::string(word)) + " va sans valeur";
+        if (has("received"))
+            return name + " est répété : l’écrire une seule fois";
+        return has("missing") ? "la valeur de " + name + " manque" : "option mal écrite : " + name;
     }
 
     static int show(const std::string& text, ToolRun& run) {
@@ -115,8 +133,11 @@ private:
     }
 
     static int refuse(const std::string& why, const Subcommand* command) {
-        const std::string line = "orvalente-cours : " + why +
-                                 " ; « orvalente-cours --help » montre les sous-commandes.\n";
+        const std::string help =
+            command ? std::string(command->name()) + " --help » montre ses options et des exemples"
+                    : "--help » montre les sous-commandes";
+        const std::string line =
+            "orvalente-cours : " + why + " ; « orvalente-cours " + help + ".\n";
         std::fwrite(line.data(), 1, line.size(), stderr);
         return command ? command->wrongCallStatus()
                        : static_cast<int>(coursetool::ExitCode::WrongCall);

@@ -38,6 +38,14 @@ struct DrawingEnvironment {
     page::FontBook fonts;
 };
 
+/// Where pictures lie: in the course, or beside a source that stands alone.
+std::filesystem::path pictureFolder(const std::filesystem::path& course,
+                                    const std::filesystem::path& source) {
+    if (source.empty())
+        return course;
+    return source.has_parent_path() ? source.parent_path() : ".";
+}
+
 /// The compiler, and what measuring text needs around it.
 struct CompilerWithFonts : authoring::Compiler {
     CompilerWithFonts(int& argc, char** argv)
@@ -67,7 +75,8 @@ extern "C" Q_DECL_EXPORT void orvalenteTrace(int& argc, char** argv,
                                              coursetool::OutputBuffer& out,
                                              coursetool::Report& report) {
     const DrawingEnvironment environment(argc, argv);
-    coursetool::ToolPictures pictures(request.course, request.drives, report);
+    coursetool::ToolPictures pictures(pictureFolder(request.course, request.source), request.drives,
+                                      report);
     coursetool::trace(request, environment.fonts, pictures, out, report);
 }
 
@@ -75,9 +84,8 @@ extern "C" Q_DECL_EXPORT void orvalenteRender(int& argc, char** argv,
                                               const coursetool::RenderRequest& request,
                                               coursetool::Report& report) {
     const DrawingEnvironment environment(argc, argv);
-    coursetool::ToolPictures pictures(request.source.empty() ? request.course
-                                                             : request.source.parent_path(),
-                                      request.drives, report);
+    coursetool::ToolPictures pictures(pictureFolder(request.course, request.source), request.drives,
+                                      report);
     coursetool::render(request, environment.fonts, pictures, look::fieldPictures(), report);
 }
 

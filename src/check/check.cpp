@@ -25,8 +25,9 @@ constexpr std::size_t kMostBuildWarnings = 20;
 
 class Checker {
 public:
-    Checker(Course& course, const page::TextMetrics& metrics, const coursetool::Drives& drives)
-        : course_(course), pictures_(course.filesFolder, drives) {
+    Checker(Course& course, const page::TextMetrics& metrics, const coursetool::Drives& drives,
+            const coursetool::Report& told)
+        : course_(course), told_(told), pictures_(course.filesFolder, drives) {
         course_.metrics = &metrics;
         course_.pictures = &pictures_;
     }
@@ -59,6 +60,7 @@ private:
                 findings_.enter(rule);
                 (*run)(drawn, findings_);
             }
+        told_.progress("pages relues", ++drawn_, course_.pages.size() + course_.questions.size());
     }
 
     template <class Visit>
@@ -72,6 +74,8 @@ private:
     }
 
     Course& course_;
+    const coursetool::Report& told_;
+    std::size_t drawn_ = 0;
     CheckPictures pictures_;
     Findings findings_;
 };
@@ -183,7 +187,8 @@ bool hasFault(const std::vector<Finding>& findings) {
 
 } // namespace
 
-std::vector<Finding> findingsIn(const CheckRequest& request, const page::TextMetrics& metrics) {
+std::vector<Finding> findingsIn(const CheckRequest& request, const page::TextMetrics& metrics,
+                                const coursetool::Report& told) {
     coursetool::Report report;
     Course course = isInstalledCourse(request.course)
                         ? readInstallation(request.course, report)
@@ -191,7 +196,7 @@ std::vector<Finding> findingsIn(const CheckRequest& request, const page::TextMet
     coursetool::Drives drives = request.drives;
     if (!course.isInstalled)
         drives.try_emplace('C', course.discFolder);
-    std::vector<Finding> findings = Checker(course, metrics, drives).run();
+    std::vector<Finding> findings = Checker(course, metrics, drives, told).run();
     takeRemarks(report, findings);
     dropSilenced(course, request.ignored, findings);
     dropExplained(findings);
@@ -210,7 +215,7 @@ std::size_t mend(const CheckRequest& request, const page::TextMetrics& metrics,
         if (mended == 0)
             break;
         all += mended;
-        findings = findingsIn(request, metrics);
+        findings = findingsIn(request, metrics, report);
     }
     return all;
 }
@@ -232,7 +237,7 @@ ExitCode check(const CheckRequest& request, const page::TextMetrics& metrics,
                      "« --fix » corrige des sources, et ceci est un cours installé");
         return ExitCode::WrongCall;
     }
-    std::vector<Finding> findings = findingsIn(request, metrics);
+    std::vector<Finding> findings = findingsIn(request, metrics, report);
     if (request.fix)
         tellMended(mend(request, metrics, findings, report), request.format, out);
     writeFindings(findings, request.format, out);
@@ -245,7 +250,7 @@ void warnOfWrongPages(const std::filesystem::path& source, const page::TextMetri
                       coursetool::Report& report) {
     CheckRequest request;
     request.course = source;
-    std::vector<Finding> findings = findingsIn(request, metrics);
+    std::vector<Finding> findings = findingsIn(request, metrics, report);
     std::erase_if(findings, [](const Finding& finding) {
         return finding.rule->severity != Severity::Fault || finding.rule->code == kReadingFault;
     });

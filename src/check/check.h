@@ -9,7 +9,9 @@
 namespace check {
 
 /// Everything that the rules find in a course and that nobody silenced, by file, record and line.
-std::vector<Finding> findingsIn(const CheckRequest& request, const page::TextMetrics& metrics);
+/// `told` hears how far the work has come, and no more.
+std::vector<Finding> findingsIn(const CheckRequest& request, const page::TextMetrics& metrics,
+                                const coursetool::Report& told = {});
 
 /// Finds, settles what may be settled when the request says so, and writes what is left; Faults
 /// when one is among that. What could not be written is reported.

@@ -57,8 +57,11 @@ void CourseBuilder::compilePages() {
     }
     if (!isFolderOf(source_, folder, report_))
         return;
-    for (const fs::path& file : sourcesIn(folder, source_, kPageEnding, "", report_))
-        compilePage(file);
+    const auto files = sourcesIn(folder, source_, kPageEnding, "", report_);
+    for (std::size_t i = 0; i < files.size(); ++i) {
+        compilePage(files[i]);
+        report_.progress("pages compilées", i + 1, files.size());
+    }
     if (cours_.count() == 0)
         report_.warning({shown(folder)}, "aucune page : le cours sera vide");
     if (numberWarnings_ > kNumberWarnings)

@@ -11,6 +11,7 @@
 #include "coursetool/tables.h"
 #include "files/cause.h"
 #include "files/publication.h"
+#include "files/within.h"
 #include "jet/database_file.h"
 #include "jet/names.h"
 #include "text/utf8.h"
@@ -70,10 +71,22 @@ public:
             extractExercises(*exerciseFile);
         copyFiles(tree, courseFile->filename(),
                   exerciseFile ? exerciseFile->filename() : fs::path());
+        tellStrangers(kPagesFolder);
+        tellStrangers(kExercisesFolder);
     }
 
 private:
+    /// Whether writing there stays in the sources; a failure when not.
+    bool isOwn(const fs::path& path) {
+        if (files::isFreeOfLinks(path, output_))
+            return true;
+        report_.failure({shown(path)}, "un lien mène ailleurs : rien n’y est écrit");
+        return false;
+    }
+
     bool makeDirectory(const fs::path& path) {
+        if (path != output_ && !isOwn(path))
+            return false;
         std::error_code error;
         fs::create_directories(path, error);
         if (error)
@@ -114,8 +127,11 @@ private:
         KeyCheck numbers(report_);
         cours.forEach([&](SourceRecord& record) {
             numbers.take(record);
-            writer_.writePage(record,
-                              output_ / kPagesFolder / (recordName(record, count) + kPageEnding));
+            const fs::path source =
+                output_ / kPagesFolder / (recordName(record, count) + kPageEnding);
+            if (take(source))
+                writer_.writePage(record, source);
+            report_.progress("pages reprises", record.position + 1, count);
         });
     }
 
@@ -137,7 +153,7 @@ private:
             if (const auto chapter = record.values.front().integer())
                 folderOfChapter_.try_emplace(*chapter, folders_.size());
             folders_.push_back(output_ / kExercisesFolder / recordName(record, count));
-            if (makeDirectory(folders_.back()))
+            if (makeDirectory(folders_.back()) && take(folders_.back() / kChapterFile))
                 writer_.writeChapter(record, folders_.back() / kChapterFile);
         });
     }
@@ -155,8 +171,10 @@ private:
         contenu.forEach([&](SourceRecord& record) {
             references.take(record);
             const std::size_t folder = next < folders.size() ? folders[next++] : 0;
-            writer_.writeQuestion(record,
-                                  folders_[folder] / (recordName(record, count) + kQuestionEnding));
+            const fs::path source =
+                folders_[folder] / (recordName(record, count) + kQuestionEnding);
+            if (take(source))
+                writer_.writeQuestion(record, source);
         });
     }
 
@@ -184,6 +202,23 @@ private:
                 copy(file);
     }
 
+    /// Whether the source may be written; it is one of those that do not surprise, then.
+    bool take(const fs::path& source) {
+        written_.insert(source.lexically_normal().string());
+        return isOwn(source);
+    }
+
+    /// Warns of what stands among the sources and comes from elsewhere.
+    void tellStrangers(const char* folder) {
+        std::error_code error;
+        for (fs::recursive_directory_iterator entry(output_ / folder, error), end;
+             !error && entry != end; entry.increment(error))
+            if (!entry->is_directory() &&
+                !written_.contains(entry->path().lexically_normal().string()))
+                report_.warning({shown(entry->path())},
+                                "n’est pas du cours repris, et build le prendra avec lui");
+    }
+
     static bool isStaging(const fs::path& path) {
         return *path.begin() == files::Publication::kFolder;
     }
@@ -197,8 +232,10 @@ private:
     void copy(const fs::path& file) {
         std::error_code error;
         const fs::path to = placeOf(file);
+        if (!isOwn(to))
+            return;
         fs::create_directories(to.parent_path(), error);
-        fs::copy_file(course_ / file, to, error);
+        fs::copy_file(course_ / file, to, fs::copy_options::overwrite_existing, error);
         if (error)
             report_.failure(course_ / file, "le fichier ne peut pas être copié", error);
     }
@@ -208,6 +245,7 @@ private:
     Report& report_;
     SourceWriter writer_;
     std::vector<fs::path> folders_;
+    std::unordered_set<std::string> written_;
     std::unordered_map<std::int32_t, std::size_t> folderOfChapter_;
 };
 

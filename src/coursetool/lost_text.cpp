@@ -74,6 +74,10 @@ WordsBelow wordsBelow(const markup::DrawnPage& page, const page::TextMetrics& me
 
 void reportUnended(const QString& source, const SourcePlace& place, Report& report) {
     const qsizetype lastEnd = source.lastIndexOf(kLineEnd);
+    if (lastEnd < 0 && place.name.empty() && !source.trimmed().isEmpty())
+        return report.fault({place.file},
+                            "rien n’en est dessiné : aucune ligne ne finit par CR LF, la seule fin "
+                            "de ligne d’une page ; convertir le fichier (unix2dos)");
     const qsizetype start = lastEnd < 0 ? 0 : lastEnd + kLineEnd.size();
     const QString rest = source.sliced(start);
     if (rest.trimmed().isEmpty())

@@ -19,6 +19,8 @@ struct SourcePlace {
 /// Warns of what stands after the last CR LF of a source, neither shown nor run; and of text that
 /// stands below the foot of a course page: it has a line, but nothing after it took the pen below
 /// that line, as "¶" does. The area of a question has room for such text.
+/// A file without any CR LF is a fault: nothing of it is drawn, and nobody asks for a blank page
+/// so.
 void reportLost(const markup::PageText& text, const markup::DrawnPage& page,
                 const page::TextMetrics& metrics, const SourcePlace& place, Report& report);
 

@@ -1,27 +1,10 @@
 #include "coursetool/output_buffer.h"
 
+#include "coursetool/terminal.h"
 #include "files/cause.h"
 #include "text/utf8.h"
 
-#ifdef _WIN32
-#include <io.h>
-#else
-#include <unistd.h>
-#endif
-
 namespace coursetool {
-
-namespace {
-
-bool isTerminal(std::FILE* stream) {
-#ifdef _WIN32
-    return _isatty(_fileno(stream)) != 0;
-#else
-    return isatty(fileno(stream)) != 0;
-#endif
-}
-
-} // namespace
 
 OutputBuffer::OutputBuffer(std::FILE* stream) : stream_(stream), toTerminal_(isTerminal(stream)) {
     text_.reserve(2 * kPiece);

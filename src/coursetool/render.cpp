@@ -76,10 +76,12 @@ public:
         const auto files = openSheetFiles(request_, fonts_, asOne(*pages, pageNames), report_);
         if (!files)
             return;
-        for (int position = 0; position < pages->count(); ++position)
+        for (int position = 0; position < pages->count(); ++position) {
             if (!files->add(pages->sheet(position, fonts_, pictures_, report_),
                             pageNames[position]))
                 return;
+            tellProgress("pages dessinées", position, pages->count());
+        }
         if (!addQuestions(names, *files))
             return;
         files->finish();
@@ -95,6 +97,8 @@ public:
         markup::DrawingState state;
         const markup::DrawnPage page = markup::drawPage(text, {state, pictures_, fonts_});
         reportLost(text, page, fonts_, {shown(request_.source)}, report_);
+        if (report_.hasFaults())
+            return;
         writeOne(isQuestion ? viewer::questionSheet(page, fonts_, fields_)
                             : viewer::bareSheet(page, fonts_));
     }
@@ -117,11 +121,18 @@ private:
         if (!coursedata::findDatabase(request_.course, kExerciseFile))
             return true; // a course need not have tests
         auto questions = CourseQuestions::open(request_.course, report_);
-        for (int position = 0; questions && position < questions->count(); ++position)
+        for (int position = 0; questions && position < questions->count(); ++position) {
             if (!files.add(questions->sheet(position, fonts_, pictures_, fields_, report_),
                            names.next("question", questions->reference(position))))
                 return false;
+            tellProgress("questions dessinées", position, questions->count());
+        }
         return true;
+    }
+
+    void tellProgress(const char* what, int position, int count) const {
+        report_.progress(what, static_cast<std::size_t>(position) + 1,
+                         static_cast<std::size_t>(count));
     }
 
     /// A single sheet has nowhere to lead to.

@@ -18,7 +18,8 @@ namespace coursetool {
 ///
 /// A bare source, whose lines end in CR LF, becomes a picture of its column alone, down to what was
 /// drawn; of the whole page when it drew beside it. A file that ends in ".question" is drawn as a
-/// question. Pictures are those that lie beside the file.
+/// question. Pictures are those that lie beside the file. With a fault in it
+/// nothing is written.
 ///
 /// Faults: no course, no page or question of that number, a file that cannot be written.
 void render(const RenderRequest& request, const page::FontBook& fonts,

@@ -2,9 +2,11 @@
 
 #include <cstddef>
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 namespace coursetool {
@@ -37,6 +39,15 @@ public:
     /// The same with the system's cause: "le fichier ne peut pas être écrit : le disque est plein".
     void failure(const std::filesystem::path& path, const char* what, std::error_code cause);
     void warning(const Place& place, std::string_view sentence);
+    /// How far long work has come: done of all that there are of `what` ("pages"). It is done when
+    /// both are the same. Told to who asked for it, and not kept.
+    void progress(const char* what, std::size_t done, std::size_t all) const {
+        if (listener_)
+            listener_(what, done, all);
+    }
+    using ProgressListener = std::function<void(const char*, std::size_t, std::size_t)>;
+    void onProgress(ProgressListener listener) { listener_ = std::move(listener); }
+
     /// The failure of standard output.
     void outputFailure(std::error_code error);
 
@@ -55,6 +66,7 @@ private:
     std::size_t failures_ = 0;
     std::vector<Remark> remarks_;
     std::vector<std::string> lines_;
+    ProgressListener listener_;
 };
 
 /// "« x »": words of a course inside a sentence.

@@ -2,6 +2,7 @@
 
 #include "coursetool/dump.h"
 #include "coursetool/installed_course.h"
+#include "coursetool/json_string.h"
 #include "coursetool/paths.h"
 #include "coursetool/tables.h"
 #include "jet/database_file.h"
@@ -12,6 +13,12 @@
 namespace coursetool {
 
 namespace {
+
+void appendJson(const search::FoundPage& page, std::string& out) {
+    out += "{\"Numeropage\":" + std::to_string(page.number) + ",\"titre\":";
+    appendJsonString(text::toUtf8(page.title), out);
+    out += "}\n";
+}
 
 void appendLine(const search::FoundPage& page, std::string& out) {
     std::string title = text::toUtf8(page.title);
@@ -46,7 +53,7 @@ void searchPages(const SearchRequest& request, OutputBuffer& out, Report& report
     while (search.advance()) {
     }
     for (const search::FoundPage& page : search.found()) {
-        appendLine(page, out.text());
+        (request.json ? appendJson : appendLine)(page, out.text());
         out.lineDone();
     }
     if (!out.flush())

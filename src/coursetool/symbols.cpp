@@ -2,6 +2,7 @@
 
 #include "coursedata/symbol_names.h"
 #include "coursetool/file_list.h"
+#include "coursetool/json_string.h"
 #include "coursetool/paths.h"
 #include "files/within.h"
 #include "text/utf8.h"
@@ -53,17 +54,36 @@ void warnAboutHidden(const fs::path& folder, const std::vector<std::string>& nam
     }
 }
 
+/// `folder` is empty for a symbol of the program.
+void appendJson(const std::string& key, const std::string& file, const std::string& folder,
+                std::string& out) {
+    out += "{\"key\":";
+    appendJsonString(key, out);
+    out += ",\"file\":";
+    appendJsonString(file, out);
+    out += ",\"folder\":";
+    if (folder.empty())
+        out += "null";
+    else
+        appendJsonString(folder, out);
+    out += "}\n";
+}
+
 } // namespace
 
-void listSymbols(const fs::path& course, OutputBuffer& out, Report& report) {
+void listSymbols(const fs::path& course, bool json, OutputBuffer& out, Report& report) {
     const fs::path folder = course.empty() ? fs::path() : symbolFolder(course, report);
     const std::vector<std::string> names =
         folder.empty() ? std::vector<std::string>() : symbolFiles(folder, course, report);
     const auto list = coursedata::imageListOf(names);
     warnAboutHidden(folder, names, list, report);
     for (const auto& [key, file] : list) {
-        out.text() += key + '\t' + text::plainLine(file.name) + '\t' +
-                      (file.isOwn ? "Orvalente" : text::plainLine(shown(folder))) + '\n';
+        const std::string place = file.isOwn ? std::string() : shown(folder);
+        if (json)
+            appendJson(key, file.name, place, out.text());
+        else
+            out.text() += key + '\t' + text::plainLine(file.name) + '\t' +
+                          (file.isOwn ? "Orvalente" : text::plainLine(place)) + '\n';
         out.lineDone();
     }
     if (!out.flush())

@@ -5,7 +5,7 @@
 namespace platform {
 
 /// A function of a module that is installed with the program, or the reason why it is not to be
-/// had, in the system's own words.
+/// had, as a French clause that names the file at fault.
 struct ModuleFunction {
     void* address = nullptr;
     std::string reason;

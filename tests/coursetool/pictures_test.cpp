@@ -49,7 +49,7 @@ struct ToolPictures : testing::Test {
             [&](auto& out) { coursetool::trace(request, metrics, pictures, out, report); });
     }
     std::string symbols(const std::filesystem::path& course) {
-        return output([&](auto& out) { coursetool::listSymbols(course, out, report); });
+        return output([&](auto& out) { coursetool::listSymbols(course, false, out, report); });
     }
     void buildPage(const std::string& source) {
         work.write("src/pages/1.page", "+++\nNumeropage = 1\n+++\n" + source);

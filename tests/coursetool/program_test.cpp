@@ -81,6 +81,9 @@ TEST_F(Program, buildsDumpsTracesAndExtracts) {
     EXPECT_EQ(printed.code, 0) << printed.err;
     EXPECT_THAT(work.read("sheets.pdf"), StartsWith("%PDF"));
     EXPECT_EQ(run("extract out -o back").code, 0);
+    EXPECT_THAT(run("extract out -o back").err, HasSubstr("« back » n’est pas vide"));
+    EXPECT_EQ(run("extract out -o back --force").code, 0);
+    EXPECT_EQ(run("extract out -o out/files --force").code, 2);
     EXPECT_THAT(work.files("back"), testing::ElementsAre("files/a.txt", "pages/1-1.page"));
 }
 
@@ -270,6 +273,9 @@ TEST_F(Program, searchesThePagesAsTheWindowDoes) {
         EXPECT_EQ(outcome.err, "");
         EXPECT_EQ(outcome.code, 0);
     }
+    EXPECT_EQ(
+        run("search out --json masse").out,
+        "{\"Numeropage\":20,\"titre\":\"L’énergie\\tet\"}\n{\"Numeropage\":4,\"titre\":\"\"}\n");
     const Outcome tooShort = run("search out ?x");
     EXPECT_EQ(tooShort.out, "");
     EXPECT_THAT(tooShort.err, HasSubstr("avertissement : rien à chercher"));
@@ -283,15 +289,51 @@ TEST_F(Program, listsSymbolsAndTracesWithDrives) {
     const Outcome listed = run("symbols src");
     EXPECT_EQ(listed.code, 0) << listed.err;
     EXPECT_THAT(listed.out, HasSubstr("\nLK\tLK-lien.svg\tOrvalente\n"));
+    work.write("cours/symbols/Zz-le \"mien\".svg", "");
+    EXPECT_THAT(
+        run("symbols cours --json").out,
+        testing::AllOf(
+            HasSubstr("{\"key\":\"LK\",\"file\":\"LK-lien.svg\",\"folder\":null}\n"),
+            HasSubstr("\"file\":\"Zz-le \\\"mien\\\".svg\",\"folder\":\"cours/symbols\"}\n")));
     work.write("page.txt", "##IXAfig.svg\r\n");
-    work.write("disc/ZEKXDATA/fig.svg", "<svg width='10' height='20'><path d='M0 0h9v9z'/></svg>");
-    const Outcome traced = run("trace --source page.txt --drive X=src --drive y=disc");
+    work.write("volume/ZEKXDATA/fig.svg",
+               "<svg width='10' height='20'><path d='M0 0h9v9z'/></svg>");
+    const Outcome traced = run("trace --source page.txt --drive X=src --drive y=volume");
     EXPECT_EQ(traced.code, 0);
     EXPECT_EQ(traced.err, "");
     EXPECT_THAT(traced.out, HasSubstr(R"("width":150,"height":300,"name":"fig.svg")"));
     const Outcome missing = run("trace --source page.txt");
     EXPECT_EQ(missing.code, 0);
     EXPECT_THAT(missing.err, HasSubstr("« fig.svg » : image introuvable"));
+}
+
+TEST_F(Program, findsPicturesBesideASourceWhateverItsPathLooksLike) {
+    work.write("m.src", "##IXAfig.svg\r\n");
+    work.write("fig.svg", "<svg width='10' height='20'><path d='M0 0h9v9z'/></svg>");
+    const std::string whole = work.path("m.src").string();
+    for (const std::string& source : {std::string("m.src"), std::string("./m.src"), whole}) {
+        const QString name = QString::fromStdString(source);
+        const Outcome traced = run({"trace", "--source", name});
+        EXPECT_EQ(traced.err, "") << source;
+        EXPECT_THAT(traced.out, HasSubstr(R"("width":150,"height":300,"name":"fig.svg")"));
+        const Outcome drawn = run({"render", "--source", name, "-o", "m.svg"});
+        EXPECT_EQ(drawn.err, "") << source;
+        EXPECT_THAT(work.read("m.svg"), HasSubstr("<image"));
+    }
+}
+
+TEST_F(Program, saysThatNothingIsDrawnOfASourceWithOtherLineEnds) {
+    for (const char* text : {"Un¶\nDeux¶\n", "Un¶", "Un¶\rDeux¶\r"})
+        for (const char* name : {"a.src", "a.question"}) {
+            work.write(name, text);
+            const Outcome drawn = run({"render", "--source", name, "-o", "a.png"});
+            EXPECT_EQ(drawn.code, 1) << text;
+            EXPECT_THAT(drawn.err, HasSubstr(": rien n’en est dessiné : aucune ligne ne finit"));
+            EXPECT_FALSE(work.has("a.png"));
+            EXPECT_EQ(run({"trace", "--source", name}).code, 1) << text;
+        }
+    work.write("empty.src", "");
+    EXPECT_EQ(run("render --source empty.src -o a.png").code, 0);
 }
 
 TEST_F(Program, checksMendsAndExplains) {
@@ -320,18 +362,6 @@ TEST_F(Program, checksMendsAndExplains) {
     EXPECT_THAT(built.err, HasSubstr("[N401]\n"));
     EXPECT_EQ(run("check out").code, 1);
     EXPECT_EQ(run("check out --fix").code, 2);
-}
-
-TEST_F(Program, helpsInFrench) {
-    for (const char* call : {"--help", "build --help", "check --help", "trace -h"}) {
-        const Outcome help = run(call);
-        EXPECT_EQ(help.code, 0);
-        EXPECT_THAT(help.out, HasSubstr("Usage : orvalente-cours"));
-        EXPECT_THAT(help.out, HasSubstr("Affiche cette aide"));
-        EXPECT_THAT(help.out,
-                    testing::Not(testing::ContainsRegex("REQUIRED|Subcommand|Positional")));
-    }
-    EXPECT_THAT(run("--version").out, StartsWith("orvalente-cours "));
 }
 
 } // namespace

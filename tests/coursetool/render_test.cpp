@@ -182,7 +182,6 @@ TEST_F(Render, aSourceIsAsTallAsInTheWindowAndWhatIsLostIsTold) {
          "a.page:3: avertissement : « deux¶ » ne compte pas : il manque une fin de ligne (CR LF) "
          "après\n"},
         {"a.page", "un\r\n", 16 + 15, ""}, // nothing ended: as tall as what stands there
-        {"a.page", "un¶\n##BOL1\n", 16, "a.page:1: avertissement : « un¶ ##BOL1 » ne compte pas"},
         {"a.question", "un¶\r\ndeux\r\n", 32 + 30, ""}, // the test window shows all of it
         {"a.question", "un¶\r\n##EXOOP", 32 + 15,
          "a.question:2: avertissement : « ##EXOOP » ne compte pas"},

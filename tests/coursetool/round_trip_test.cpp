@@ -217,6 +217,26 @@ TEST_F(RoundTrip, writesControlCharactersAsEscapes) {
     expectSame("Zekx.mdb", "cours");
 }
 
+TEST_F(RoundTrip, replacesOnlyWhatHasTheNameOfASourceAndFollowsNoLink) {
+    writeCourse({page(1, u"x", u"new\r\n")});
+    writeExercises({{std::int16_t{1}, u"T", std::int16_t{2}}},
+                   {{std::int32_t{101}, std::int16_t{1}, u"1", u"Q", jet::Value()}});
+    work.write("src/pages/1-1.page", "old");
+    work.write("src/pages/mine.page", "mine");
+    work.write("src/notes.txt", "mine");
+    work.write("src/files/couv1.jpg", "old");
+    work.write("elsewhere/x", "mine");
+    std::filesystem::create_directory_symlink(work.path("elsewhere"), work.path("src/exercises"));
+    const std::string text = extract();
+    EXPECT_THAT(work.read("src/pages/1-1.page"), HasSubstr("new\n"));
+    EXPECT_EQ(work.read("src/files/couv1.jpg"), "x");
+    EXPECT_EQ(work.read("src/notes.txt"), "mine");
+    EXPECT_THAT(text, HasSubstr("src/pages/mine.page: avertissement : n’est pas du cours repris"));
+    EXPECT_THAT(text, HasSubstr("un lien mène ailleurs : rien n’y est écrit"));
+    EXPECT_THAT(work.files("elsewhere"), testing::ElementsAre("x"));
+    EXPECT_TRUE(report.hasFailures());
+}
+
 TEST_F(RoundTrip, needsACourse) {
     EXPECT_THAT(extract(), HasSubstr("Zekx.mdb manque"));
     EXPECT_FALSE(work.has("src"));

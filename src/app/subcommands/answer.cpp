@@ -19,6 +19,7 @@ struct Answer : Subcommand {
         options.argument("TEXTE", text, "Ce que l’élève a tapé");
         options.flag("--batch", batch,
                      "Une solution, une tabulation et un texte par ligne de l’entrée");
+        options.example("orvalente-cours answer \"la masse\" \"La Masse\"");
         options.footer("Écrit juste ou faux. Code de sortie : 0 juste, 1 faux, 2 mauvais appel ;\n"
                        "avec --batch 1 s’il y a une ligne sans tabulation, sinon 0.");
     }

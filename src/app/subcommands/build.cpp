@@ -19,6 +19,7 @@ struct Build : Subcommand {
     void declare(Options& options) override {
         options.argument("SRC", source, "Dossier des sources");
         options.output("DOSSIER", output, "Dossier d’installation à écrire");
+        options.example("orvalente-cours build cours -o installation");
     }
 
     Refusal refusal() override {

@@ -25,6 +25,8 @@ struct Calc : Subcommand {
         options.flag("--batch", batch,
                      "Une expression par ligne de l’entrée ; pour chacune le code d’erreur,\n"
                      "une tabulation, le résultat ou le message");
+        options.example("orvalente-cours calc \"2 * sin 30\"");
+        options.example("orvalente-cours calc --radians \"cos 3.14159\"");
         options.footer("Code de sortie : 0, ou le code d’erreur de la calculatrice (1 à 3) ;\n"
                        "64 mauvais appel.");
     }

@@ -47,8 +47,10 @@ struct Check : Subcommand {
         options.option("--explain", "CODE", request.explained,
                        "Explique une règle ; « toutes » : leur liste");
         options.drives(drives);
+        options.example("orvalente-cours check cours");
+        options.example("orvalente-cours check cours --ignore L103,R301");
+        options.example("orvalente-cours check --explain N401");
         options.footer(
-            "Exemple : orvalente-cours check mon-cours --fix\n"
             "Code de sortie : 0 pas de faute, 1 des fautes, 2 mauvais appel, 74 résultat "
             "impossible à écrire.");
     }

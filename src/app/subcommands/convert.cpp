@@ -15,6 +15,7 @@ struct Convert : Subcommand {
 
     void declare(Options& options) override {
         options.argument("PAGE.md", file, "Le fichier, avec ses champs");
+        options.example("orvalente-cours convert cours/pages/02.md");
     }
 
     Refusal refusal() override { return notAFile(file, "la page en Markdown"); }

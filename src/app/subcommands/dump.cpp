@@ -17,6 +17,8 @@ struct Dump : Subcommand {
     void declare(Options& options) override {
         options.argument("FICHIER.mdb", file, "Base de données");
         options.argument("TABLE", table, "Table ; sans elle, les tables et leurs champs");
+        options.example("orvalente-cours dump installation/Zekx.mdb");
+        options.example("orvalente-cours dump installation/Zekx.mdb cours");
     }
 
     Refusal refusal() override { return notAFile(file, "la base de données"); }

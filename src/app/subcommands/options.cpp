@@ -25,6 +25,8 @@ std::string asTyped(const std::string& value) {
     return value.starts_with(kNoOption) ? value.substr(1) : value;
 }
 
+Options::Options(CLI::App& command) : command_(command), footer_(command.get_footer()) {}
+
 void Options::argument(const char* name, std::string& value, const char* description) {
     command_.add_option_function<std::string>(name, into(value), description)->type_name("");
 }
@@ -54,11 +56,17 @@ void Options::option(const char* names, const char* kind, std::string& value,
 }
 
 void Options::flag(const char* name, bool& value, const char* description) {
-    command_.add_flag(name, value, description);
+    command_.add_flag(name, value, description)->disable_flag_override();
+}
+
+void Options::example(const char* call) {
+    examples_.append(examples_.empty() ? "Exemples :\n  " : "  ").append(call).append("\n");
+    command_.footer(examples_ + "\n" + footer_);
 }
 
 void Options::footer(const char* text) {
-    command_.footer(text);
+    footer_ = text;
+    command_.footer(examples_ + (examples_.empty() ? "" : "\n") + footer_);
 }
 
 void Options::course(std::string& directory) {

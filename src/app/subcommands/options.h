@@ -14,7 +14,7 @@ namespace app {
 /// option is left out; the references must outlive the reading. Descriptions are lines of the help.
 class Options {
 public:
-    explicit Options(CLI::App& command) : command_(command) {}
+    explicit Options(CLI::App& command);
 
     // Arguments without a name, in their order.
     void argument(const char* name, std::string& value, const char* description);
@@ -29,7 +29,8 @@ public:
                 const std::string& description);
     void flag(const char* name, bool& value, const char* description);
 
-    /// What the help says last.
+    /// What the help says last: calls that make sense, and after them what there is to tell.
+    void example(const char* call);
     void footer(const char* text);
 
     // What several subcommands take.
@@ -41,6 +42,8 @@ public:
 
 private:
     CLI::App& command_;
+    std::string examples_;
+    std::string footer_; ///< at first that of the program, which tells the exit statuses
 };
 
 // "--" before arguments that are no options, whatever they look like: the parser, which knows it in

@@ -22,6 +22,7 @@ struct Print : Subcommand {
         options.page(page);
         options.output("FICHIER.pdf", output, "Fichier PDF à écrire");
         options.drives(drives);
+        options.example("orvalente-cours print installation --page 1 -o feuilles.pdf");
     }
 
     Refusal refusal() override {

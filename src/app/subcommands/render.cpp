@@ -79,6 +79,9 @@ struct Render : Subcommand {
         options.option("--scale", "F", scale,
                        "Agrandissement, de 0.1 à 16 (" + listed(formatNames(true), " et ") + ")");
         options.drives(drives);
+        options.example("orvalente-cours render installation --page 1 -o page.png --scale 2");
+        options.example("orvalente-cours render installation --all -o cours.pdf");
+        options.example("orvalente-cours render --source page.txt -o page.svg");
     }
 
     Refusal refusal() override {

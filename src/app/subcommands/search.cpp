@@ -12,6 +12,7 @@ struct Search : Subcommand {
     std::vector<std::string> words;
     bool allWords = false;
     bool ignoreAccents = false;
+    bool json = false;
 
     Search()
         : Subcommand("search", "Cherche des mots dans les pages, comme la fenêtre Rechercher") {}
@@ -21,6 +22,9 @@ struct Search : Subcommand {
         options.arguments("MOT", words, "Les mots, dont une page contient l’un au moins");
         options.flag("--all-words", allWords, "La page contient tous les mots");
         options.flag("--ignore-accents", ignoreAccents, "« e » trouve « é », et l’inverse");
+        options.flag("--json", json, "Un objet JSON par ligne");
+        options.example("orvalente-cours search installation --ignore-accents energie");
+        options.example("orvalente-cours search installation -- -10");
         options.footer("Écrit, par page trouvée, son numéro, une tabulation, son titre.");
     }
 
@@ -33,7 +37,7 @@ struct Search : Subcommand {
     }
 
     int run(ToolRun& run) override {
-        coursetool::SearchRequest request{pathFrom(course), {}, allWords, ignoreAccents};
+        coursetool::SearchRequest request{pathFrom(course), {}, allWords, ignoreAccents, json};
         for (const std::string& word : words)
             request.words += word + ' ';
         coursetool::searchPages(request, run.out, run.report);

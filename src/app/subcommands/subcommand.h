@@ -40,6 +40,9 @@ public:
         return static_cast<int>(coursetool::ExitCode::WrongCall);
     }
 
+    /// Whether the help keeps silent about it.
+    virtual bool isHidden() const { return false; }
+
     /// Whether an argument that starts with "-", before any "--", is an option.
     virtual bool isOption(std::string_view) const { return true; }
 

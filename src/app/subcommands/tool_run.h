@@ -7,6 +7,10 @@
 #include <cstdio>
 #include <memory>
 
+namespace CLI {
+class App;
+}
+
 namespace app {
 
 /// What a subcommand runs with.
@@ -38,6 +42,7 @@ struct ToolRun {
     void* drawingFunction(const char* symbol);
 
     std::unique_ptr<authoring::Compiler> markdown = nullptr; ///< see compiler()
+    const CLI::App* parser = nullptr; ///< all that can be called, for who tells of it
 };
 
 } // namespace app

@@ -23,6 +23,8 @@ struct Trace : Subcommand {
         options.option("--source", "FICHIER", source,
                        "Dessine le texte d’une page, ses fins de ligne telles quelles");
         options.drives(drives);
+        options.example("orvalente-cours trace installation --page 1");
+        options.example("orvalente-cours trace --source page.txt");
     }
 
     Refusal refusal() override {

@@ -9,8 +9,11 @@ ModuleFunction loadModuleFunction(const char* fileName, const char* symbol) {
     void* address = module ? dlsym(module, symbol) : nullptr;
     if (address)
         return {address, {}};
-    const char* reason = dlerror();
-    return {nullptr, reason ? reason : "dlsym"};
+    // "libmpv.so.2: cannot open shared object file: ...": the file at fault, then English.
+    const char* const said = dlerror();
+    const std::string words = said ? said : fileName;
+    const std::string file = words.substr(0, words.find(": "));
+    return {nullptr, "« " + file + " » manque, ou n’est pas de la même version"};
 }
 
 } // namespace platform

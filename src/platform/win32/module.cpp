@@ -10,7 +10,7 @@ ModuleFunction loadModuleFunction(const char* fileName, const char* symbol) {
     const FARPROC address = module ? GetProcAddress(module, symbol) : nullptr;
     if (address)
         return {reinterpret_cast<void*>(address), {}};
-    return {nullptr, "erreur " + std::to_string(GetLastError())};
+    return {nullptr, "« " + std::string(fileName) + " » manque, ou n’est pas de la même version"};
 }
 
 } // namespace platform
