@@ -90,10 +90,8 @@ RESULTS = [
     ("Q107", "= {0,532}, donc i_2 = {32,1}°", [sine(45) / 1.33, refracted(45, 1, 1.33)]),
     ("Q107", "{70,1}° échange", [math.degrees(math.asin(1.33 * sine(45)))]),
     ("Q108", "= {0,667}, soit θ = {41,8}°", [1 / 1.5, limit(1.5)]),
-    ("Q110", "{0,05} est l’inverse de 20", [1 / 20]),
     ("Q207", "{0,042} est le quotient renversé", [0.5 / 12]),
     ("Q207", "{6,0} est le produit", [6]),
-    ("Q208", "= {0,050} A = {50} mA", [6 / 120, 6000 / 120]),
     ("Q308", "Que vaut alors son pH ? 2,0 {4,0}", [3 + 1]),
 ]
 

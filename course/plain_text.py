@@ -6,7 +6,7 @@ Fractions are (a)/(b), exponents ^b, indices _b, square roots √(a), units and 
 import re
 
 SIGNS = {"times": "×", "cdot": "·", "pm": "±", "approx": "≈", "Delta": "Δ", "pi": "π", "degree": "°",
-         "left": "", "right": "", "quad": " ", "qquad": " ", "to": "→", "ell": "ℓ", "theta": "θ",
+         "left": "", "right": "", "quad": " ", "qquad": " ", "to": "→", "ell": "ℓ", "theta": "θ", "gamma": "γ",
          "lambda": "λ", "Rightarrow": "⇒", "%": "%", ",": " ", ";": " ", "cos": "cos", "sin": "sin"}
 GROUP = r"\{((?:[^{}]|\{[^{}]*\})*)\}"
 
