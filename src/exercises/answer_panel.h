@@ -14,11 +14,11 @@
 
 namespace look {
 class PictureBox;
-class TextField;
 } // namespace look
 
 namespace exercises {
 
+class AnswerBox;
 class LinkCaption;
 class LinkIcon;
 class QuestionLink;
@@ -43,7 +43,9 @@ public:
     int footPx() const;
     /// The controls that the keyboard reaches, line by line.
     std::vector<QWidget*> inReadingOrder() const;
-    look::TextField& Text1() const { return *Text1_; }
+    AnswerBox& Text1() const { return *Text1_; }
+    /// Whether anything has been chosen or typed.
+    bool hasAnswer() const;
 
     // AnswerControls
     bool isVisible(ChoiceArray array, int index) const override;
@@ -54,6 +56,7 @@ public:
     std::u16string typedText() const override;
     void setTypedText(const std::u16string& text) override;
     void disableTypedText() override;
+    void markTypedText(Mark mark) override;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -73,7 +76,7 @@ private:
     markup::DrawnPage& question_;
     Buttons Option1_{};
     Buttons Check1_{};
-    look::TextField* Text1_;
+    AnswerBox* Text1_;
     LinkCaption* Labelien_;
     LinkIcon* Image1_;
     LinkIcon* Icovideo_;

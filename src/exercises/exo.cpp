@@ -4,7 +4,9 @@
 #include "exercises/cjuste.h"
 #include "exercises/placement.h"
 #include "exercises/strip.h"
+#include "exercises/summary.h"
 #include "exercises/title_band_view.h"
+#include "exercises/verdict_line.h"
 #include "look/button.h"
 #include "look/ink.h"
 #include "look/interface_font.h"
@@ -34,6 +36,8 @@ constexpr QRect kTito(6, 8, 576, 48);
 constexpr QRect kStrip(8, 72, 152, 520);
 constexpr QRect kTitle(176, 72, 464, 24);
 constexpr QRect kCaption(176, 104, 464, 24);
+/// Right of the longest caption, "Question 100 / 100 :".
+constexpr QRect kVerdict(348, 104, 292, 22);
 constexpr QRect kFrame1(168, 136, 624, 408);
 constexpr int kViewHeight = 392;
 constexpr QRect kSwitch(688, 20, 104, 24);
@@ -100,6 +104,8 @@ void Exo::addLabels() {
     noa_ = addLabel("noa", kCaption, look::kBlue, body_);
     noa_->setAlignment(Qt::AlignTop);
     noa_->setContentsMargins(0, 1, 0, 0); // further from the question than from the title
+    verdict_ = new VerdictLine(body_);
+    verdict_->setGeometry(kVerdict);
 }
 
 void Exo::addQuestionArea() {
@@ -114,6 +120,8 @@ void Exo::addQuestionArea() {
                                      parts_.fonts, question_.recording, frame1_);
     Picture2_->setObjectName(QStringLiteral("Picture2"));
     frame1_->setPage(Picture2_);
+    summary_ = new Summary(body_);
+    summary_->setGeometry(kFrame1);
     answers_ = std::make_unique<AnswerPanel>(*Picture2_, parts_.fonts, question_);
 }
 
@@ -136,6 +144,10 @@ void Exo::addButtons() {
             {.kind = Kind::Main, .icon = QStringLiteral("validate"), .weight = look::Weight::Bold});
     command5_->setFont(look::interfaceFont(kValidatePx, look::Weight::Bold));
     addWords("Label3", *command5_);
+    bilan_ = add("bilan", "Bilan du test", "", command5_->geometry(),
+                 {.kind = Kind::Main, .icon = QStringLiteral("summary")});
+    bilan_->setFont(command5_->font());
+    bilan_->hide();
     command6_ =
         add("command6", "Score", "", {520, 552, 104, 40}, {.icon = QStringLiteral("score")});
     addWords("Label5", *command6_);
