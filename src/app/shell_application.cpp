@@ -133,7 +133,7 @@ struct ShellApplication::Parts {
           launcher(state, messageBoxes, processes, activator, window), modules(launcher),
           links(window, fonts, window.shownPage().links),
           orderForm({printerSetup, printer, fonts}, messageBoxes, window),
-          installation(state, processes, messageBoxes, window), search(state, window),
+          installation(state, processes, messageBoxes, window), search(state, fonts, window),
           drives(courseDirectory(commandLine), commandLine.drives),
           symbols(courseDirectory(commandLine)),
           exercise(window, {state, drawing, pictures, fonts, screen, messageBoxes, calculator,

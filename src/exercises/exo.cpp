@@ -37,7 +37,7 @@ constexpr QRect kStrip(8, 72, 152, 520);
 constexpr QRect kTitle(176, 72, 464, 24);
 constexpr QRect kCaption(176, 104, 464, 24);
 /// Right of the longest caption, "Question 100 / 100 :".
-constexpr QRect kVerdict(348, 104, 292, 22);
+constexpr QRect kVerdict(348, 102, 292, 22);
 constexpr QRect kFrame1(168, 136, 624, 408);
 constexpr int kViewHeight = 392;
 constexpr QRect kSwitch(688, 20, 104, 24);

@@ -4,11 +4,10 @@
 #include "look/button.h"
 #include "look/palette.h"
 #include "look/pixels.h"
-#include "look/scroll_bar.h"
+#include "look/reading_text.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
-#include <QTextBrowser>
 #include <QVBoxLayout>
 
 namespace exercises {
@@ -23,10 +22,10 @@ constexpr double kMargin = 16;
 constexpr int kMarkPx = 16;
 constexpr QSize kButton(176, 32);
 
-/// A text without addresses of files or of the network: it has its pictures already.
-class SummaryText : public QTextBrowser {
+/// The text with the two marks, which are all the pictures that it has.
+class SummaryText : public look::ReadingText {
 public:
-    using QTextBrowser::QTextBrowser;
+    using ReadingText::ReadingText;
 
 protected:
     QVariant loadResource(int, const QUrl& name) override {
@@ -34,15 +33,15 @@ protected:
         const auto picture = markPicture(right ? Mark::InSolution : Mark::NotInSolution);
         return picture->image(QSize(kMarkPx, kMarkPx) * devicePixelRatioF());
     }
-    void contextMenuEvent(QContextMenuEvent*) override {} // Qt's own menu is not in French
 };
 
 } // namespace
 
-Summary::Summary(QWidget* parent) : QWidget(parent), text_(new SummaryText(this)) {
+Summary::Summary(QWidget* parent) : QWidget(parent), text_(new SummaryText(kMargin, this)) {
     setObjectName(QStringLiteral("summary"));
     setAccessibleName(QStringLiteral("Bilan du test"));
-    addText();
+    text_->setObjectName(QStringLiteral("summaryText"));
+    text_->setAccessibleName(accessibleName());
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(kRule, kRule, kRule, kGrid);
     column->setSpacing(kGrid);
@@ -65,25 +64,6 @@ Summary::Summary(QWidget* parent) : QWidget(parent), text_(new SummaryText(this)
     connect(wrongAnswers_, &QPushButton::clicked, this, [this] { ways_.wrongAnswers(); });
     connect(text_, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) { follow(link); });
     hide();
-}
-
-void Summary::addText() {
-    text_->setObjectName(QStringLiteral("summaryText"));
-    text_->setAccessibleName(accessibleName());
-    text_->setVerticalScrollBar(new look::ScrollBar(text_, look::ScrollBar::Top::Minimum));
-    text_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    text_->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    text_->setFrameShape(QFrame::NoFrame);
-    text_->setOpenLinks(false);
-    text_->setFont(look::interfaceFont(look::kLabelPx));
-    text_->document()->setDocumentMargin(kMargin);
-    QPalette colours = text_->palette();
-    colours.setColor(QPalette::Base, QColor::fromRgb(look::kPaper));
-    colours.setColor(QPalette::Text, QColor::fromRgb(look::kInk));
-    colours.setColor(QPalette::Link, QColor::fromRgb(look::kBlue));
-    colours.setColor(QPalette::Highlight, QColor::fromRgb(look::kBlue));
-    colours.setColor(QPalette::HighlightedText, QColor::fromRgb(look::kPaper));
-    text_->setPalette(colours);
 }
 
 void Summary::show(const QString& html, bool anyWrong) {

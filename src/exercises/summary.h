@@ -36,7 +36,6 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void addText();
     void follow(const QUrl& link);
 
     QTextBrowser* text_;

@@ -58,7 +58,8 @@ void setAnswers(const WrongAnswer& answer, const markup::DrawnPage& drawn, Summa
 QString markHtml(const QString& name) {
     const QString side = QString::number(kMarkPx);
     return QStringLiteral("<img src=\"mark:") + name + QStringLiteral("\" width=\"") + side +
-           QStringLiteral("\" height=\"") + side + QStringLiteral("\"> ");
+           QStringLiteral("\" height=\"") + side +
+           QStringLiteral("\" style=\"vertical-align: middle\"> ");
 }
 
 QString linkHtml(const QString& kind, const QString& target, const QString& words) {
@@ -84,8 +85,7 @@ QString entryHtml(const SummaryEntry& entry) {
     html += line + markHtml(QStringLiteral("right")) + QStringLiteral("Bonne réponse\u00A0: <b>") +
             orNone(entry.expected) + QStringLiteral("</b>");
     if (!entry.page.isEmpty())
-        html += line + QStringLiteral("À revoir\u00A0: ") +
-                linkHtml(QStringLiteral("page"), entry.page, entry.pageCaption);
+        html += line + linkHtml(QStringLiteral("page"), entry.page, entry.pageCaption);
     return html + QStringLiteral("</p>");
 }
 

@@ -183,11 +183,11 @@ TEST_F(Finished, isSummedUpWithTheWaysOn) {
                              "Question 1 – Cochez.\n"
                              " Votre réponse : H2O liquide\n"
                              " Bonne réponse : le verre ; l’air\n"
-                             "À revoir : Revoir la page\n"
+                             "Revoir la page\n"
                              "Question 3 – Unité : .\n"
                              " Votre réponse : <b>volt</b>\n"
                              " Bonne réponse : ohm\n"
-                             "À revoir : Revoir la page"));
+                             "Revoir la page"));
 
     const auto follow = [&](const char* link) {
         Q_EMIT text.anchorClicked(QUrl(QString::fromLatin1(link)));
