@@ -142,7 +142,9 @@ struct ShellApplication::Parts {
           actions(state, pages, window, modules, exercise, orderForm),
           collaborators{video,  links,      printing, modules,      exercise,  orderForm,
                         search, calculator, help,     installation, exitScreen},
-          commands(state, actions, window, collaborators, messageBoxes), course(record),
+          commands(state, actions, window, collaborators, messageBoxes),
+          course(record, [this](const QString& file,
+                                const QString& reason) { window.tellUnreadable(file, reason); }),
           startUp(state, courseDirectory(commandLine),
                   {screen, messageBoxes, window, course, warning}) {
         zoom.setWindow(window, {[this](double now) { screen.setScale(now); },

@@ -1,5 +1,6 @@
 #include "exercises/exo.h"
 
+#include "coursedata/databases.h"
 #include "exercises/answer_panel.h"
 #include "exercises/cjuste.h"
 #include "exercises/placement.h"
@@ -11,6 +12,7 @@
 #include "look/ink.h"
 #include "look/interface_font.h"
 #include "look/mnemonics.h"
+#include "look/notice.h"
 #include "look/page_panel.h"
 #include "look/palette.h"
 #include "look/picture_box.h"
@@ -19,6 +21,7 @@
 #include "page/surface_widths.h"
 #include "platform/terminal.h"
 
+#include <QDir>
 #include <QLabel>
 #include <QPainter>
 #include <QPlainTextEdit>
@@ -122,6 +125,8 @@ void Exo::addQuestionArea() {
     frame1_->setPage(Picture2_);
     summary_ = new Summary(body_);
     summary_->setGeometry(kFrame1);
+    notice_ = new look::Notice(body_);
+    notice_->setGeometry(kFrame1);
     answers_ = std::make_unique<AnswerPanel>(*Picture2_, parts_.fonts, question_);
 }
 
@@ -207,11 +212,25 @@ void Exo::start() {
 
 void Exo::Form_Load() {
     coursedata::ExerciseTables tables = coursedata::openExerciseTables(parts_.shared.InstallDir);
-    // The window stays usable; who looks for the reason finds it here.
     for (const QString& failure : std::as_const(tables.failures))
         platform::tellOnTerminal(failure);
+    if (!tables.failures.isEmpty())
+        tellUnreadable(tables.failures);
     records_.read(std::move(tables));
     session_->load();
+}
+
+/// The window stays usable, to be closed at least.
+void Exo::tellUnreadable(const QStringList& reasons) {
+    const QString file = QDir::toNativeSeparators(parts_.shared.InstallDir +
+                                                  QString::fromLatin1(coursedata::kExerciseFile));
+    QStringList paragraphs{QStringLiteral("Fichier\u00A0: ") + file};
+    for (const QString& reason : reasons)
+        paragraphs.append(QStringLiteral("Cause\u00A0: ") + reason);
+    paragraphs.append(QStringLiteral("Réinstallez le cours, ou remplacez ce fichier par une copie "
+                                     "intacte, puis rouvrez le test. Les pages du cours restent "
+                                     "lisibles."));
+    notice_->tell(QStringLiteral("Les tests de ce cours ne peuvent pas être lus."), paragraphs);
 }
 
 /// Opens the tables again, to be written; read-only ones stay where that cannot be.

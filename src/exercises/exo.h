@@ -26,6 +26,7 @@ class QPlainTextEdit;
 
 namespace look {
 class Button;
+class Notice;
 class PagePanel;
 class PictureBox;
 } // namespace look
@@ -120,6 +121,7 @@ private:
     void putInTabOrder();
 
     void Form_Load();
+    void tellUnreadable(const QStringList& reasons);
     void place();
     void makeWritable();
 
@@ -163,6 +165,7 @@ private:
     QLabel* noa_ = nullptr;
     VerdictLine* verdict_ = nullptr;
     Summary* summary_ = nullptr;
+    look::Notice* notice_ = nullptr; ///< over the question, when there are no questions
     QString caption_; ///< of the question, while the summary has another
     look::PagePanel* frame1_ = nullptr;
     look::PictureBox* Picture2_ = nullptr;

@@ -399,6 +399,7 @@ TEST_F(Test, theCalculatorOpensBesideIt) {
 
 TEST_F(Test, pupilsSeeNoSwitch) {
     openAt(1);
+    EXPECT_FALSE(control<QWidget>("notice").isVisible());
     EXPECT_FALSE(exo->findChild<QWidget*>("Command1"));
     EXPECT_FALSE(exo->findChild<QWidget*>("code"));
 }
@@ -504,9 +505,14 @@ TEST_F(BadInput, aQuestionThatLeavesItsAreaTouchesNoPage) {
     EXPECT_TRUE(seen() == before);
 }
 
-TEST_F(BadInput, aMissingDatabaseShowsAnEmptyQuestion) {
+TEST_F(BadInput, aMissingDatabaseIsSaidInTheWindow) {
     openWindow();
     EXPECT_EQ(control<QLabel>("noa").text(), u"Question 1 / 0 :");
+    const QString said = control<QTextBrowser>("noticeText").toPlainText();
+    EXPECT_TRUE(control<QWidget>("notice").isVisible());
+    EXPECT_TRUE(said.contains(folder.path() + QStringLiteral("/qekx.mdb"))) << said.toStdString();
+    EXPECT_TRUE(said.contains(QStringLiteral("absente du dossier"))) << said.toStdString();
+    EXPECT_TRUE(said.contains(QStringLiteral("Réinstallez le cours")));
     control("command5").click();
     messageBoxes.answers = {platform::Answer::Yes};
     control("Image2").click();
