@@ -22,6 +22,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
+#include <QScreen>
 #include <QTimerEvent>
 
 #include <algorithm>
@@ -60,6 +61,8 @@ constexpr std::size_t kFewPages = 2;
 QString countWords(std::size_t pages, std::size_t hidden) {
     QString words = QString::number(pages) + (pages == 1 ? QStringLiteral(" page trouvée")
                                                          : QStringLiteral(" pages trouvées"));
+    if (hidden == pages)
+        return words + QStringLiteral(", où rien ne se lit.");
     if (hidden > 0)
         words += QStringLiteral(", dont ") + QString::number(hidden) +
                  QStringLiteral(" où rien ne se lit");
@@ -310,7 +313,19 @@ void Coordon::showList(bool shown) {
     Command3_->setVisible(shown);
     Command2_->setKind(shown ? Button::Kind::Ordinary : Button::Kind::Main);
     Command3_->setKind(Button::Kind::Main);
+    const int before = width();
     setFixedSize(shown ? kWideWidth : kWidth, shown ? kHighHeight : kLowHeight);
+    if (isVisible() && width() != before)
+        keepMiddle(before);
+}
+
+/// Grown or shrunk from `before` pixels, the window stays where it is to the eye, and on the
+/// screen.
+void Coordon::keepMiddle(int before) {
+    const QRect room = screen()->availableGeometry();
+    const int left = std::clamp(x() - (width() - before) / 2, room.left(),
+                                std::max(room.left(), room.right() + 1 - width()));
+    move(left, y());
 }
 
 /// What came of a search, and what could be tried, on the line below the boxes. That nothing was

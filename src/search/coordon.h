@@ -71,6 +71,7 @@ private:
     void searchOn();
     void showFound(std::vector<FoundPage> pages);
     void showList(bool shown);
+    void keepMiddle(int before);
     void say(const QString& result, const QString& hint);
     void showExtract(const QModelIndex& line);
     void searchAgain();
