@@ -2,6 +2,9 @@
 
 #include "platform/file_names.h"
 
+#include <QCoreApplication>
+#include <QDir>
+
 #include <utility>
 
 namespace projectile {
@@ -33,16 +36,34 @@ Opening openingOf(const QString& directory, const QString& name, const QString& 
     return opening;
 }
 
+/// The file after `exercise` among those beside it, in the order of their names; empty when it is
+/// the last, or is not there.
+QString exerciseAfter(const QString& directory, const QString& exercise) {
+    const QStringList all =
+        QDir(directory).entryList({u'*' + kEnding}, QDir::Files, QDir::Name | QDir::IgnoreCase);
+    for (qsizetype i = 0; i + 1 < all.size(); ++i)
+        if (all[i].compare(exercise, Qt::CaseInsensitive) == 0)
+            return all[i + 1];
+    return {};
+}
+
 } // namespace
 
 Simulation::Simulation(const common::StatusRecord& record, QString directory)
     : record_(record), directory_(std::move(directory)) {
-    open(record_.exercise());
+    asked_ = record_.exercise();
+    open(asked_);
 }
 
 void Simulation::open(const QString& exercise) {
-    opened_ = exercise;
-    auto fresh = std::make_unique<MainWindow>(openingOf(directory_, exercise, record_.edition()));
+    Opening opening = openingOf(directory_, exercise, record_.edition());
+    if (const QString next = exerciseAfter(directory_, exercise); !next.isEmpty())
+        opening.next = [this, next] {
+            // Later: the button that asks for it goes with its window.
+            QMetaObject::invokeMethod(
+                qApp, [this, next] { open(next); }, Qt::QueuedConnection);
+        };
+    auto fresh = std::make_unique<MainWindow>(opening);
     if (window_)
         fresh->move(window_->pos());
     fresh->show();
@@ -54,8 +75,10 @@ void Simulation::open(const QString& exercise) {
 
 void Simulation::lookForExercise() {
     const QString exercise = record_.exercise();
-    if (exercise != opened_ && exercise.endsWith(kEnding, Qt::CaseInsensitive))
-        open(exercise);
+    if (exercise == asked_ || !exercise.endsWith(kEnding, Qt::CaseInsensitive))
+        return;
+    asked_ = exercise;
+    open(exercise);
 }
 
 } // namespace projectile

@@ -15,8 +15,8 @@ public:
 
     /// To be called whenever the program comes to the front. The course starts no running module
     /// anew: it writes the name of the exercise down and brings the module's window to the front.
-    /// Another exercise than the one opened last comes in a new window in the place of the old one;
-    /// the record of other modules' exercises, and one that names none, changes nothing.
+    /// Another exercise than the one asked for last comes in a new window in the place of the old
+    /// one; the record of other modules' exercises, and one that names none, changes nothing.
     void lookForExercise();
 
     MainWindow& window() const { return *window_; }
@@ -26,7 +26,7 @@ private:
 
     common::StatusRecord record_;
     QString directory_;
-    QString opened_; ///< name of the exercise that was opened last; empty for none
+    QString asked_; ///< name of the exercise that the course asked for last; empty for none
     std::unique_ptr<MainWindow> window_;
 };
 
