@@ -25,7 +25,7 @@ constexpr int kOwnMarginPx = 2;
 constexpr double kCaretGap = 2;
 
 /// The hint stands between the edge and the largest letters.
-constexpr int kHintTop = 1;
+constexpr int kHintTop = 2;
 
 /// Where the start of a text lies beyond the left edge, what is cut there fades out.
 constexpr double kFadePx = 20;
