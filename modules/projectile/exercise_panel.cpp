@@ -52,7 +52,8 @@ private:
 
 ExercisePanel::ExercisePanel(const Exercise& exercise, QWidget* parent)
     : QWidget(parent), exercise_(exercise), field_(new look::TextField(this)), sign_(new Sign),
-      verdict_(common::paragraph({})) {
+      verdict_(common::paragraph({})),
+      nextButton_(new look::Button(QStringLiteral("Exercice suivant"), {.icon = {}}, this)) {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(14, 10, 14, 12);
     layout->setSpacing(6);
@@ -80,11 +81,14 @@ ExercisePanel::ExercisePanel(const Exercise& exercise, QWidget* parent)
     answer->setSpacing(common::kGap);
     answer->addWidget(sign_, 0, Qt::AlignTop);
     answer->addWidget(verdict_, 1);
+    answer->addWidget(nextButton_, 0, Qt::AlignTop);
     layout->addLayout(answer);
     sign_->hide();
     verdict_->hide();
+    nextButton_->hide();
 
     connect(button, &QPushButton::clicked, this, &ExercisePanel::check);
+    connect(nextButton_, &QPushButton::clicked, this, [this] { next_(); });
     connect(field_, &QLineEdit::returnPressed, this, &ExercisePanel::check);
 }
 
@@ -105,6 +109,7 @@ void ExercisePanel::check() {
                                                        : look::kRed);
     verdict_->show();
     verdict_->setAccessibleName(verdict_->text());
+    nextButton_->setVisible(right && next_);
     holdHeight();
     field_->setFocus();
     field_->selectAll();

@@ -8,8 +8,9 @@
 #include <utility>
 
 namespace look {
+class Button;
 class TextField;
-}
+} // namespace look
 
 class QLabel;
 
@@ -23,6 +24,9 @@ public:
     /// `show` is called after a right answer.
     void onSolved(std::function<void()> show) { solved_ = std::move(show); }
 
+    /// After a right answer a button offers the next exercise; `next` is called when it is pressed.
+    void onNext(std::function<void()> next) { next_ = std::move(next); }
+
 protected:
     void paintEvent(QPaintEvent*) override;
     void resizeEvent(QResizeEvent*) override;
@@ -35,7 +39,9 @@ private:
     look::TextField* field_;
     QWidget* sign_;
     QLabel* verdict_;
+    look::Button* nextButton_;
     std::function<void()> solved_ = [] {};
+    std::function<void()> next_; ///< null when this is the last
 };
 
 } // namespace projectile

@@ -100,6 +100,7 @@ QWidget* MainWindow::right(const Opening& opening) {
         auto* panel = new ExercisePanel(*opening.exercise);
         readings_->setFlightHidden(opening.exercise->hidesResults);
         panel->onSolved([this] { readings_->setFlightHidden(false); });
+        panel->onNext(opening.next);
         layout->addWidget(panel);
     }
     if (!opening.notice.isEmpty())

@@ -4,6 +4,8 @@
 
 #include <QMainWindow>
 
+#include <functional>
+
 namespace projectile {
 
 class ExercisePanel;
@@ -16,6 +18,7 @@ struct Opening {
     std::optional<Exercise> exercise;
     QString notice;  ///< a line for the pupil, when the exercise asked for cannot be opened
     QString edition; ///< of the course; may be empty
+    std::function<void()> next = {}; ///< opens the exercise after this one; null for the last
 };
 
 /// The simulator: controls at the left, drawing, table and formulas at the right.

@@ -8,8 +8,9 @@ namespace app {
 void CourseData::bind(const QString& path) {
     auto opened = coursedata::openRecordset(path, QStringLiteral("cours"));
     if (!opened) {
-        // The window just stays empty; who looks for the reason finds it here.
-        platform::tellOnTerminal(QString::fromStdString(opened.error().sentence));
+        const QString reason = QString::fromStdString(opened.error().sentence);
+        platform::tellOnTerminal(reason);
+        unreadable_(path, reason);
         return;
     }
     cours_ = std::move(*opened);

@@ -4,7 +4,10 @@
 #include "look/palette.h"
 #include "look/pixels.h"
 
+#include <QAccessible>
+#include <QClipboard>
 #include <QFontMetricsF>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPainter>
 
@@ -20,6 +23,9 @@ constexpr int kMarginPx = 9;
 constexpr int kOwnMarginPx = 2;
 
 constexpr double kCaretGap = 2;
+
+/// The hint stands between the edge and the largest letters.
+constexpr int kHintTop = 2;
 
 /// Where the start of a text lies beyond the left edge, what is cut there fades out.
 constexpr double kFadePx = 20;
@@ -48,10 +54,20 @@ Display::Display(QWidget* parent) : QLineEdit(parent) {
 }
 
 void Display::showText(const QString& text) {
+    hint_.clear();
+    setAccessibleDescription({});
     fitFont(text);
     setText(text);
     end(false);
     setFocus();
+    update();
+}
+
+void Display::showHint(const QString& hint) {
+    hint_ = hint;
+    setAccessibleDescription(hint);
+    QAccessibleEvent alert(this, QAccessible::Alert); // a screen reader says it
+    QAccessible::updateAccessibility(&alert);
     update();
 }
 
@@ -78,6 +94,16 @@ void Display::paintFade() {
     QPainter(this).fillRect(QRectF(left, kRadius, kFadePx, height() - 2 * kRadius), fade);
 }
 
+void Display::paintHint() {
+    if (hint_.isEmpty())
+        return;
+    QPainter painter(this);
+    painter.setFont(look::interfaceFont(look::kSmallPx));
+    painter.setPen(QColor::fromRgb(look::kMuted));
+    painter.drawText(rect().adjusted(kMarginPx, kHintTop, -kMarginPx, 0),
+                     Qt::AlignRight | Qt::AlignTop, hint_);
+}
+
 void Display::paintEvent(QPaintEvent* event) {
     {
         QPainter painter(this);
@@ -86,6 +112,7 @@ void Display::paintEvent(QPaintEvent* event) {
     QLineEdit::paintEvent(event);
     if (QFontMetricsF(font()).horizontalAdvance(text()) > room())
         paintFade();
+    paintHint();
     if (!hasFocus() || hasSelectedText())
         return;
     QPainter painter(this);
@@ -98,7 +125,9 @@ void Display::paintEvent(QPaintEvent* event) {
 }
 
 void Display::keyPressEvent(QKeyEvent* event) {
-    if (event->matches(QKeySequence::Copy))
+    if (event->matches(QKeySequence::Copy) && !hasSelectedText())
+        QGuiApplication::clipboard()->setText(text().trimmed());
+    else if (event->matches(QKeySequence::Copy))
         copy();
     else
         event->ignore();

@@ -3,12 +3,14 @@
 #include "calculator/display.h"
 #include "calculator/key_button.h"
 #include "calculator/option_frame.h"
+#include "calculator/pasted_keys.h"
 #include "look/enter_once.h"
 #include "look/mnemonics.h"
 #include "look/program_icon.h"
 #include "text/rounding.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLocale>
@@ -25,6 +27,8 @@ constexpr QRect kAngles(7, 64, 84, 64);
 constexpr QRect kFormats(99, 64, 98, 64);
 
 constexpr int kDefaultBreathingInterval = 20;
+
+const QString kPointNotComma = QStringLiteral("Le signe décimal est le point");
 
 /// The character that a key of the keyboard stands for; null for none. A "^" that waits for the
 /// next letter, as on French keyboards, counts at once; so does what AltGr types, which Windows
@@ -114,9 +118,22 @@ void Machine::press(const Key& key) {
 void Machine::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape)
         return rules_.cancel();
-    if (const Key* const key = keyTyped(characterOf(*event)))
+    if (event->matches(QKeySequence::Paste))
+        return paste();
+    const char16_t character = characterOf(*event);
+    if (const Key* const key = keyTyped(character))
         return press(*key);
+    if (character == u',' && !rules_.evaluating())
+        z1_->showHint(kPointNotComma);
     QWidget::keyPressEvent(event);
+}
+
+void Machine::paste() {
+    const PastedKeys pasted = pastedKeys(QGuiApplication::clipboard()->text().toStdU16String());
+    for (const Key* const key : pasted.keys)
+        press(*key);
+    if (pasted.endedAtComma)
+        z1_->showHint(kPointNotComma);
 }
 
 void Machine::closeEvent(QCloseEvent* event) {

@@ -32,6 +32,7 @@ private:
     void addOptions();
     void addKeys();
     void press(const Key& key);
+    void paste();
 
     void showText(TextView text) override;
     void beep() override;

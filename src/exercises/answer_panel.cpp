@@ -1,5 +1,6 @@
 #include "exercises/answer_panel.h"
 
+#include "exercises/answer_box.h"
 #include "exercises/choice_buttons.h"
 #include "exercises/field_texts.h"
 #include "exercises/mark_picture.h"
@@ -7,7 +8,6 @@
 #include "exercises/test_session.h"
 #include "look/choice_sign.h"
 #include "look/picture_box.h"
-#include "look/text_field.h"
 #include "page/twips.h"
 
 #include <QKeyEvent>
@@ -37,7 +37,7 @@ QString nameOf(const char* array, int index) {
 
 AnswerPanel::AnswerPanel(look::PictureBox& Picture2, const page::FontBook& fonts,
                          markup::DrawnPage& question)
-    : Picture2_(Picture2), question_(question), Text1_(new look::TextField(&Picture2)),
+    : Picture2_(Picture2), question_(question), Text1_(new AnswerBox(&Picture2)),
       Labelien_(new LinkCaption(fonts, &Picture2)),
       Image1_(new LinkIcon(QStringLiteral("link"), &Picture2)),
       Icovideo_(new LinkIcon(QStringLiteral("video"), &Picture2)) {
@@ -89,6 +89,7 @@ void AnswerPanel::reset() {
         }
     Text1_->clear();
     Text1_->setEnabled(true);
+    Text1_->setMark(std::nullopt);
 }
 
 void AnswerPanel::place() {
@@ -236,6 +237,21 @@ void AnswerPanel::setTypedText(const std::u16string& text) {
 
 void AnswerPanel::disableTypedText() {
     Text1_->setEnabled(false);
+}
+
+void AnswerPanel::markTypedText(Mark mark) {
+    Text1_->setMark(mark);
+    const QString verdict = mark == Mark::InSolution ? QStringLiteral("réponse juste")
+                                                     : QStringLiteral("réponse fausse");
+    const QString unit = Text1_->accessibleDescription();
+    Text1_->setAccessibleDescription(unit.isEmpty() ? verdict
+                                                    : unit + QStringLiteral(", ") + verdict);
+}
+
+bool AnswerPanel::hasAnswer() const {
+    const auto checked = [](const QAbstractButton* choice) { return choice->isChecked(); };
+    return !Text1_->text().isEmpty() || std::any_of(Check1_.begin(), Check1_.end(), checked) ||
+           std::any_of(Option1_.begin(), Option1_.end(), checked);
 }
 
 QAbstractButton* AnswerPanel::choiceWithWordsAt(QPoint place) const {

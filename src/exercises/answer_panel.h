@@ -14,11 +14,11 @@
 
 namespace look {
 class PictureBox;
-class TextField;
 } // namespace look
 
 namespace exercises {
 
+class AnswerBox;
 class LinkCaption;
 class LinkIcon;
 class QuestionLink;
@@ -54,7 +54,9 @@ public:
     int footPx() const;
     /// The controls that the keyboard reaches, line by line.
     std::vector<QWidget*> inReadingOrder() const;
-    look::TextField& Text1() const { return *Text1_; }
+    AnswerBox& Text1() const { return *Text1_; }
+    /// Whether anything has been chosen or typed.
+    bool hasAnswer() const;
 
     // AnswerControls
     bool isVisible(ChoiceArray array, int index) const override;
@@ -65,6 +67,7 @@ public:
     std::u16string typedText() const override;
     void setTypedText(const std::u16string& text) override;
     void disableTypedText() override;
+    void markTypedText(Mark mark) override;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -84,7 +87,7 @@ private:
     markup::DrawnPage& question_;
     Buttons Option1_{};
     Buttons Check1_{};
-    look::TextField* Text1_;
+    AnswerBox* Text1_;
     LinkCaption* Labelien_;
     LinkIcon* Image1_;
     LinkIcon* Icovideo_;

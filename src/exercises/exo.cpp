@@ -1,14 +1,18 @@
 #include "exercises/exo.h"
 
+#include "coursedata/databases.h"
 #include "exercises/answer_panel.h"
 #include "exercises/cjuste.h"
 #include "exercises/placement.h"
 #include "exercises/strip.h"
+#include "exercises/summary.h"
 #include "exercises/title_band_view.h"
+#include "exercises/verdict_line.h"
 #include "look/button.h"
 #include "look/ink.h"
 #include "look/interface_font.h"
 #include "look/mnemonics.h"
+#include "look/notice.h"
 #include "look/page_panel.h"
 #include "look/palette.h"
 #include "look/picture_box.h"
@@ -17,6 +21,7 @@
 #include "page/surface_widths.h"
 #include "platform/terminal.h"
 
+#include <QDir>
 #include <QLabel>
 #include <QPainter>
 #include <QPlainTextEdit>
@@ -34,6 +39,8 @@ constexpr QRect kTito(6, 8, 576, 48);
 constexpr QRect kStrip(8, 72, 152, 520);
 constexpr QRect kTitle(176, 72, 464, 24);
 constexpr QRect kCaption(176, 104, 464, 24);
+/// Right of the longest caption, "Question 100 / 100 :".
+constexpr QRect kVerdict(348, 102, 292, 22);
 constexpr QRect kFrame1(168, 136, 624, 408);
 constexpr int kViewHeight = 392;
 constexpr QRect kSwitch(688, 20, 104, 24);
@@ -100,6 +107,8 @@ void Exo::addLabels() {
     noa_ = addLabel("noa", kCaption, look::kBlue, body_);
     noa_->setAlignment(Qt::AlignTop);
     noa_->setContentsMargins(0, 1, 0, 0); // further from the question than from the title
+    verdict_ = new VerdictLine(body_);
+    verdict_->setGeometry(kVerdict);
 }
 
 void Exo::addQuestionArea() {
@@ -114,6 +123,10 @@ void Exo::addQuestionArea() {
                                      parts_.fonts, question_.recording, frame1_);
     Picture2_->setObjectName(QStringLiteral("Picture2"));
     frame1_->setPage(Picture2_);
+    summary_ = new Summary(body_);
+    summary_->setGeometry(kFrame1);
+    notice_ = new look::Notice(body_);
+    notice_->setGeometry(kFrame1);
     answers_ = std::make_unique<AnswerPanel>(*Picture2_, parts_.fonts, question_);
 }
 
@@ -136,6 +149,10 @@ void Exo::addButtons() {
             {.kind = Kind::Main, .icon = QStringLiteral("validate"), .weight = look::Weight::Bold});
     command5_->setFont(look::interfaceFont(kValidatePx, look::Weight::Bold));
     addWords("Label3", *command5_);
+    bilan_ = add("bilan", "Bilan du test", "", command5_->geometry(),
+                 {.kind = Kind::Main, .icon = QStringLiteral("summary")});
+    bilan_->setFont(command5_->font());
+    bilan_->hide();
     command6_ =
         add("command6", "Score", "", {520, 552, 104, 40}, {.icon = QStringLiteral("score")});
     addWords("Label5", *command6_);
@@ -195,9 +212,10 @@ void Exo::start() {
 
 void Exo::Form_Load() {
     coursedata::ExerciseTables tables = coursedata::openExerciseTables(parts_.shared.InstallDir);
-    // The window stays usable; who looks for the reason finds it here.
     for (const QString& failure : std::as_const(tables.failures))
         platform::tellOnTerminal(failure);
+    if (!tables.failures.isEmpty())
+        tellUnreadable(tables.failures);
     records_.read(std::move(tables));
     session_->load();
 }
@@ -213,6 +231,19 @@ bool Exo::reload() {
     if (parts_.test.CurrentQuestion == question && isUnanswered(parts_.test, question))
         answers_->give(given);
     return true;
+}
+
+/// The window stays usable, to be closed at least.
+void Exo::tellUnreadable(const QStringList& reasons) {
+    const QString file = QDir::toNativeSeparators(parts_.shared.InstallDir +
+                                                  QString::fromLatin1(coursedata::kExerciseFile));
+    QStringList paragraphs{QStringLiteral("Fichier\u00A0: ") + file};
+    for (const QString& reason : reasons)
+        paragraphs.append(QStringLiteral("Cause\u00A0: ") + reason);
+    paragraphs.append(QStringLiteral("Réinstallez le cours, ou remplacez ce fichier par une copie "
+                                     "intacte, puis rouvrez le test. Les pages du cours restent "
+                                     "lisibles."));
+    notice_->tell(QStringLiteral("Les tests de ce cours ne peuvent pas être lus."), paragraphs);
 }
 
 /// Opens the tables again, to be written; read-only ones stay where that cannot be.

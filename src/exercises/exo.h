@@ -26,6 +26,7 @@ class QPlainTextEdit;
 
 namespace look {
 class Button;
+class Notice;
 class PagePanel;
 class PictureBox;
 } // namespace look
@@ -36,6 +37,8 @@ class AnswerPanel;
 class Cjuste;
 class Marker;
 class Strip;
+class Summary;
+class VerdictLine;
 
 /// `exo`: the window of the test, modal to the main window only, so that a calculator stays usable
 /// beside it. It shows what its session tells it to and hands on what its controls are asked for;
@@ -81,6 +84,7 @@ public:
     // TestView
     void setTitle(const std::u16string& title) override;
     void setCaption(const std::u16string& caption) override;
+    void setVerdict(const std::optional<Verdict>& verdict) override;
     void setPreviousVisible(bool visible) override;
     void setNextVisible(bool visible) override;
     void setValidateVisible(bool visible) override;
@@ -88,6 +92,8 @@ public:
     void placeMarker(int question, int count) override;
     void setMarkerVisible(bool visible) override;
     void setFace(int face) override;
+    void offerSummary(bool offered) override;
+    void showSummary() override;
     void repaintStrip() override;
     void focusStrip() override;
     void misanet() override;
@@ -120,6 +126,7 @@ private:
     void putInTabOrder();
 
     void Form_Load();
+    void tellUnreadable(const QStringList& reasons);
     void place();
     void makeWritable();
 
@@ -132,6 +139,8 @@ private:
     void Command7_Click();
     void Command1_Click();
     void Labelien_Click(const QString& tag);
+    void connectSummary();
+    void hideSummary();
 
     /// Runs what may lead to another question, unless the author's text cannot be written.
     void leaveQuestion(const std::function<void()>& go);
@@ -159,6 +168,10 @@ private:
     QWidget* body_ = nullptr;
     QLabel* Label2_ = nullptr;
     QLabel* noa_ = nullptr;
+    VerdictLine* verdict_ = nullptr;
+    Summary* summary_ = nullptr;
+    look::Notice* notice_ = nullptr; ///< over the question, when there are no questions
+    QString caption_; ///< of the question, while the summary has another
     look::PagePanel* frame1_ = nullptr;
     look::PictureBox* Picture2_ = nullptr;
     Strip* Picture1_ = nullptr;
@@ -166,6 +179,7 @@ private:
     look::Button* Command3_ = nullptr;
     look::Button* command4_ = nullptr;
     look::Button* command5_ = nullptr;
+    look::Button* bilan_ = nullptr; ///< leads to the summary, where `command5` has done its work
     look::Button* command6_ = nullptr;
     look::Button* Command7_ = nullptr;
     look::Button* Image2_ = nullptr;

@@ -1,14 +1,15 @@
 // The handlers of the test's window: what its controls, the keyboard and the window system tell it.
 
+#include "exercises/answer_box.h"
 #include "exercises/answer_panel.h"
 #include "exercises/cjuste.h"
 #include "exercises/exo.h"
 #include "exercises/placement.h"
 #include "exercises/strip.h"
+#include "exercises/summary.h"
 #include "look/button.h"
 #include "look/page_panel.h"
 #include "look/picture_box.h"
-#include "look/text_field.h"
 #include "page/twips.h"
 
 #include <QClipboard>
@@ -45,14 +46,25 @@ void Exo::connectHandlers() {
          {Row{Command3_, &Exo::Command3_MouseUp}, Row{command4_, &Exo::command4_MouseUp},
           Row{command5_, &Exo::command5_Click}, Row{command6_, &Exo::command6_Click},
           Row{Image2_, &Exo::Image2_Click}, Row{Command7_, &Exo::Command7_Click},
-          Row{Command1_, &Exo::Command1_Click}})
+          Row{bilan_, &Exo::showSummary}, Row{Command1_, &Exo::Command1_Click}})
         if (row.button)
             connect(row.button, &QPushButton::clicked, this,
                     [this, click = row.click] { (this->*click)(); });
     Picture1_->onChosen([this](double y) { Picture1_MouseUp(y); });
+    connectSummary();
     answers_->onLink([this](const QString& tag) { Labelien_Click(tag); });
     for (QWidget* control : findChildren<QWidget*>())
         control->installEventFilter(this);
+}
+
+void Exo::connectSummary() {
+    summary_->onWay({
+        .question =
+            [this](int question) { session_->chooseQuestion(static_cast<std::int16_t>(question)); },
+        .page = [this](const QString& tag) { Labelien_Click(tag); },
+        .wholeTest = [this] { session_->retakeTest(); },
+        .wrongAnswers = [this] { session_->retakeWrong(); },
+    });
 }
 
 void Exo::Command3_MouseUp() {
@@ -82,8 +94,9 @@ void Exo::Image2_Click() {
 void Exo::Command7_Click() {
     const auto placeFor = [this](QSize size) {
         const auto twips = [](int pixels) { return pixels * page::kTwipsPerPixel; };
-        const CalculatorPlace place = calculatorPlace(
-            twips(mainWindow_.y()), twips(mainWindow_.width()), twips(size.width()));
+        const CalculatorPlace place =
+            calculatorPlace({twips(mainWindow_.x()), twips(mainWindow_.y())},
+                            twips(mainWindow_.width()), twips(size.width()));
         return QPoint(qRound(place.left / page::kTwipsPerPixel),
                       qRound(place.top / page::kTwipsPerPixel));
     };
@@ -99,6 +112,7 @@ void Exo::Labelien_Click(const QString& tag) {
 
 void Exo::Command1_Click() {
     if (source_->isHidden()) {
+        hideSummary();
         makeWritable();
         showSource();
         frame1_->hide();
@@ -189,8 +203,9 @@ void Exo::keyPressEvent(QKeyEvent* event) {
         return;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        // From the question, its choices and its answer box; a button takes the key itself.
-        if (inQuestion)
+        // From the question, its choices and its answer box; a button takes the key itself. Outside
+        // the box a key struck by chance does not give an empty answer, which would be wrong.
+        if (inQuestion && (answers_->Text1().hasFocus() || answers_->hasAnswer()))
             command5_Click();
         return;
     case Qt::Key_Up:

@@ -1,14 +1,17 @@
 // The test's window as its session, and a question while it is drawn, see it.
 
+#include "exercises/answer_box.h"
 #include "exercises/answer_panel.h"
 #include "exercises/cjuste.h"
 #include "exercises/exo.h"
 #include "exercises/progress_strip.h"
 #include "exercises/strip.h"
+#include "exercises/summary.h"
+#include "exercises/summary_text.h"
+#include "exercises/verdict_line.h"
 #include "look/button.h"
 #include "look/page_panel.h"
 #include "look/picture_box.h"
-#include "look/text_field.h"
 #include "look/tool_tip.h"
 #include "page/sheet.h"
 #include "page/surface.h"
@@ -81,7 +84,12 @@ void Exo::setTitle(const std::u16string& title) {
 }
 
 void Exo::setCaption(const std::u16string& caption) {
-    noa_->setText(QString::fromStdU16String(caption));
+    caption_ = QString::fromStdU16String(caption);
+    noa_->setText(caption_);
+}
+
+void Exo::setVerdict(const std::optional<Verdict>& verdict) {
+    verdict_->setVerdict(verdict);
 }
 
 /// A button that goes leaves the keyboard to the question, not to some other button: the same key
@@ -128,6 +136,35 @@ void Exo::setFace(int face) {
     Image4_->setFace(face);
 }
 
+void Exo::offerSummary(bool offered) {
+    setButtonVisible(*bilan_, offered);
+}
+
+void Exo::showSummary() {
+    if (source_ && !source_->isHidden()) // an author is at work on the question
+        return;
+    // What these drawings leave behind is nothing to the questions and pages to come.
+    markup::DrawingState drawing = parts_.drawing;
+    std::vector<SummaryEntry> entries;
+    for (const WrongAnswer& answer : session_->wrongAnswers())
+        entries.push_back(summaryEntry(answer, {drawing, parts_.pictures, parts_.fonts}));
+    summary_->show(summaryHtml(entries, counts(parts_.test)), !entries.empty());
+    frame1_->hide();
+    bilan_->hide();
+    verdict_->setVerdict(std::nullopt);
+    noa_->setText(QStringLiteral("Bilan du test"));
+    tellNewName(*noa_, noa_->text());
+    summary_->takeFocus();
+}
+
+void Exo::hideSummary() {
+    if (summary_->isHidden())
+        return;
+    summary_->hide();
+    frame1_->show();
+    noa_->setText(caption_);
+}
+
 void Exo::repaintStrip() {
     Picture1_->refresh();
 }
@@ -137,6 +174,7 @@ void Exo::focusStrip() {
 }
 
 void Exo::misanet() {
+    hideSummary();
     // Hidden or disabled, a control would hand the keyboard to some other one.
     const QWidget* const focus = focusWidget();
     questionHadFocus_ =
@@ -183,7 +221,7 @@ void Exo::putInTabOrder() {
     if (source_)
         append(source_);
     for (QWidget* control : std::initializer_list<QWidget*>{
-             Command3_, command5_, command6_, command4_, Picture1_, Command7_, Image2_})
+             Command3_, command5_, bilan_, command6_, command4_, Picture1_, Command7_, Image2_})
         append(control);
     if (Command1_)
         append(Command1_);
@@ -192,7 +230,7 @@ void Exo::putInTabOrder() {
 /// The answer box has the keyboard at once; otherwise the question, to be read, and the Tab key
 /// leads to its choices.
 void Exo::focusQuestion() {
-    look::TextField& Text1 = answers_->Text1();
+    AnswerBox& Text1 = answers_->Text1();
     if (!Text1.isHidden() && !isAnswered(parts_.test, parts_.test.CurrentQuestion))
         Text1.setFocus();
     else if (questionHadFocus_)

@@ -20,10 +20,10 @@ struct CalculatorPlace {
     bool operator==(const CalculatorPlace&) const = default;
 };
 
-/// Below the top right corner that the main window has; the left edge goes by its width alone,
-/// wherever it stands. Meant so.
-inline CalculatorPlace calculatorPlace(double mainTop, double mainWidth, double calculatorWidth) {
-    return {mainWidth - calculatorWidth - 240, mainTop + 1800};
+/// Below the top right corner of the main window, whose own upper left corner is at `main`.
+inline CalculatorPlace calculatorPlace(const CalculatorPlace& main, double mainWidth,
+                                       double calculatorWidth) {
+    return {main.left + mainWidth - calculatorWidth - 240, main.top + 1800};
 }
 
 } // namespace exercises

@@ -69,8 +69,20 @@ void TestSession::majquest() {
         source += records_.siFaux();
     view_.drawQuestion(source);
     setValidateVisible(!isAnswered(test_, question));
+    view_.setVerdict(verdictShown());
+    view_.offerSummary(isComplete());
     if (isAnswered(test_, question))
         dejarepondu();
+}
+
+std::optional<Verdict> TestSession::verdictShown() const {
+    const int question = test_.CurrentQuestion;
+    if (!isAnswered(test_, question))
+        return std::nullopt;
+    if (!isAnsweredWrong(test_, question))
+        return Verdict{true, {}};
+    const bool typed = records_.type() == 3;
+    return Verdict{false, typed ? records_.solution().value_or(u"") : u""};
 }
 
 void TestSession::dejarepondu() {
@@ -82,6 +94,8 @@ void TestSession::dejarepondu() {
     case 3:
         controls_.disableTypedText();
         controls_.setTypedText(test_.GivenAnswers.valueOr(test_.CurrentQuestion, {}));
+        controls_.markTypedText(isAnsweredWrong(test_, test_.CurrentQuestion) ? Mark::NotInSolution
+                                                                              : Mark::InSolution);
     }
 }
 
@@ -123,6 +137,53 @@ void TestSession::prochainval() {
         return;
     test_.CurrentQuestion = *question;
     tritexte();
+}
+
+bool TestSession::isComplete() const {
+    return test_.QuestionCount > 0 && counts(test_).answered == test_.QuestionCount;
+}
+
+std::vector<WrongAnswer> TestSession::wrongAnswers() {
+    std::vector<WrongAnswer> wrong;
+    for (int question = 1; question <= test_.QuestionCount; ++question) {
+        if (!isAnsweredWrong(test_, question))
+            continue;
+        records_.moveTo(shared_.PendingExerciseChapter, static_cast<std::int16_t>(question));
+        wrong.push_back({question, records_.type(), records_.question() + records_.siFaux(),
+                         test_.GivenAnswers.valueOr(question, {}),
+                         records_.solution().value_or(u"")});
+    }
+    findRecord();
+    return wrong;
+}
+
+void TestSession::chooseQuestion(std::int16_t question) {
+    if (question < 1 || question > test_.QuestionCount)
+        return;
+    test_.CurrentQuestion = question;
+    tritexte();
+}
+
+void TestSession::retakeTest() {
+    forgetAnswers(test_);
+    beginAgain();
+}
+
+void TestSession::retakeWrong() {
+    for (int question = test_.QuestionCount; question >= 1; --question) {
+        if (!isAnsweredWrong(test_, question))
+            continue;
+        test_.QuestionState.store(question, 0);
+        test_.CurrentQuestion = static_cast<std::int16_t>(question);
+    }
+    beginAgain();
+}
+
+void TestSession::beginAgain() {
+    const Counts left = counts(test_);
+    view_.setScoreVisible(left.answered > 0);
+    view_.setFace(smileLevel(left).value_or(kNeutralFace));
+    activate();
 }
 
 bool TestSession::close() {
@@ -201,6 +262,9 @@ void TestSession::showRight() {
         affsmile();
     if (open_)
         prochainval();
+    // After a wrong answer its comment is read first.
+    if (open_ && isComplete())
+        view_.showSummary();
 }
 
 void TestSession::showWrong() {

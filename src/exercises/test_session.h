@@ -2,9 +2,11 @@
 
 #include "exercises/test_records.h"
 #include "exercises/test_state.h"
+#include "exercises/test_summary.h"
 #include "exercises/test_view.h"
 
 #include <string_view>
+#include <vector>
 
 namespace exercises {
 
@@ -52,6 +54,18 @@ public:
     void repbon();   ///< the face and the popup of a right answer
     void showScore();
 
+    /// Whether every question of the test has been answered.
+    bool isComplete() const;
+    /// What the summary is about, in the order of the questions.
+    std::vector<WrongAnswer> wrongAnswers();
+    void chooseQuestion(std::int16_t question);
+    /// Ends the test and begins it anew, on its first question; nothing is asked, since whoever
+    /// wants this has answered all of it.
+    void retakeTest();
+    /// The same, with what was right taken over: the wrong questions are open again, and the score
+    /// goes on counting the others.
+    void retakeWrong();
+
     /// Ends the test, after asking when questions are left. False when the person goes on with it;
     /// otherwise, and when the test was left before, the window may close.
     bool close();
@@ -65,9 +79,11 @@ private:
     void showRight();
     void showWrong();
     void dejarepondu();
+    std::optional<Verdict> verdictShown() const;
     void correctChoices(ChoiceArray array);
     void popUpRightAnswer();
     void refreshStrip();
+    void beginAgain();
     void setValidateVisible(bool visible);
 
     SharedWithCourse shared_;

@@ -2,6 +2,7 @@
 
 #include "exercises/choices.h"
 
+#include <optional>
 #include <string>
 
 namespace exercises {
@@ -26,6 +27,16 @@ public:
     virtual std::u16string typedText() const = 0; ///< of `Text1`
     virtual void setTypedText(const std::u16string& text) = 0;
     virtual void disableTypedText() = 0;
+    /// Shows in the answer box what the typed answer was worth.
+    virtual void markTypedText(Mark mark) = 0;
+};
+
+/// What an answer was worth.
+struct Verdict {
+    bool right = false;
+    std::u16string expected; ///< the word that a wrong typed answer lacks; empty for choices
+
+    bool operator==(const Verdict&) const = default;
 };
 
 /// What a box says.
@@ -48,11 +59,19 @@ public:
     virtual void setValidateVisible(bool visible) = 0;          ///< `command5` and `Label3`
     virtual void setScoreVisible(bool visible) = 0;             ///< `command6` and `Label5`
 
+    /// Says beside the caption what the answer was worth; nothing for a question not answered.
+    virtual void setVerdict(const std::optional<Verdict>& verdict) = 0;
+
     /// Puts the marker (`Image4`) to the middle of a question's band; `count` is at least 1.
     virtual void placeMarker(int question, int count) = 0;
     virtual void setMarkerVisible(bool visible) = 0;
     /// Gives the marker one of the faces 1 to 7.
     virtual void setFace(int face) = 0;
+
+    /// Whether the summary of the test can be asked for: every question has been answered.
+    virtual void offerSummary(bool offered) = 0;
+    /// Shows the summary in the place of the question, until another one is drawn.
+    virtual void showSummary() = 0;
 
     virtual void repaintStrip() = 0; ///< `Picture1`, from the state of the test
     virtual void focusStrip() = 0;

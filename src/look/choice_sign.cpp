@@ -26,8 +26,8 @@ QColor ink(const QAbstractButton& button) {
 }
 
 QColor ground(const QAbstractButton& button) {
-    if (!button.isEnabled())
-        return QColor::fromRgb(kPaper);
+    if (!button.isEnabled()) // filled: an empty sign would look as if it could still be chosen
+        return QColor::fromRgb(kVideoTrack);
     return QColor::fromRgb(button.isDown()       ? kPressedTint
                            : button.underMouse() ? kHoverTint
                                                  : kPaper);

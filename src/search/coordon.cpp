@@ -10,7 +10,9 @@
 #include "look/list_box.h"
 #include "look/mnemonics.h"
 #include "look/palette.h"
+#include "look/pixels.h"
 #include "look/progress_bar.h"
+#include "look/reading_text.h"
 #include "look/text_field.h"
 #include "page/twips.h"
 #include "platform/file_names.h"
@@ -20,6 +22,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
+#include <QScreen>
 #include <QTimerEvent>
 
 #include <algorithm>
@@ -31,6 +34,8 @@ using look::Button;
 namespace {
 
 constexpr int kWidth = 480;
+/// With the extract beside the list; the height is as told.
+constexpr int kWideWidth = 784;
 constexpr auto kLowHeight = static_cast<int>(1980 / page::kTwipsPerPixel);
 constexpr auto kHighHeight = static_cast<int>(4200 / page::kTwipsPerPixel);
 
@@ -44,6 +49,25 @@ constexpr QRect kNotice(16, 103, 448, 20);
 constexpr QRect kProgress(16, 109, 448, 8);
 constexpr QRect kList(16, 128, 336, 136);
 constexpr QRect kShowButton(360, 128, 104, 28);
+constexpr QRect kAgainButton(16, 98, 448, 28);
+constexpr QRect kExtractTitle(480, 8, 288, 22);
+constexpr QRect kExtract(480, 32, 288, 232);
+constexpr double kExtractMargin = 7;
+constexpr int kHintGap = 10;
+
+/// So few pages found may be due to an accent.
+constexpr std::size_t kFewPages = 2;
+
+QString countWords(std::size_t pages, std::size_t hidden) {
+    QString words = QString::number(pages) + (pages == 1 ? QStringLiteral(" page trouvée")
+                                                         : QStringLiteral(" pages trouvées"));
+    if (hidden == pages)
+        return words + QStringLiteral(", où rien ne se lit.");
+    if (hidden > 0)
+        words += QStringLiteral(", dont ") + QString::number(hidden) +
+                 QStringLiteral(" où rien ne se lit");
+    return words + u'.';
+}
 
 /// The bar moves smoothly, and in an ordinary course all is found before it would show.
 constexpr int kTurnMs = 20;
@@ -70,10 +94,11 @@ std::optional<SearchablePages> searchablePages(const QString& installDir) {
 
 } // namespace
 
-Coordon::Coordon(shell::SharedState& state, QWidget* mainWindow)
+Coordon::Coordon(shell::SharedState& state, LastSearch& last, const page::FontBook& fonts,
+                 QWidget* mainWindow)
     : QDialog(mainWindow, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                               Qt::WindowCloseButtonHint),
-      state_(state), turnMs_(kTurnMs) {
+      state_(state), last_(last), extract_(state.InstallDir, fonts), turnMs_(kTurnMs) {
     setObjectName(QStringLiteral("coordon"));
     setWindowTitle(QStringLiteral("Rechercher"));
     setWindowModality(Qt::WindowModal);
@@ -102,6 +127,9 @@ void Coordon::addControls() {
     accents_ = addBox(QStringLiteral("&Ignorer les accents"), kAccents);
 
     Label2_ = newLabel(QStringLiteral("Aucune page trouvée."), kNotice, look::Weight::Bold, this);
+    count_ = newLabel({}, kNotice, look::Weight::Regular, this);
+    hint_ = newLabel({}, kNotice, look::Weight::Regular, this);
+    look::setInk(*hint_, look::kMuted);
     Pbar1_ = new look::ProgressBar(this);
     Pbar1_->setAccessibleName(QStringLiteral("Recherche en cours"));
     Pbar1_->setGeometry(kProgress);
@@ -119,23 +147,57 @@ void Coordon::addControls() {
     Command2_ = addButton(QStringLiteral("Rechercher"), u'R', kSearchButton);
     Command1_ = addButton(QStringLiteral("Annuler"), u'N', kCancelButton);
     Command3_ = addButton(QStringLiteral("Afficher"), u'A', kShowButton);
+    addLastSearch();
+    addExtract();
+    nameControls();
+    orderFocus();
+    connectHandlers();
+}
+
+void Coordon::addLastSearch() {
+    again_ = new Button({}, {.icon = QStringLiteral("retry")}, this);
+    if (last_.typed.isEmpty()) {
+        again_->hide();
+        return;
+    }
+    const QString caption = QStringLiteral("Reprendre\u00A0: ") + last_.typed.simplified();
+    const int room = kAgainButton.width() - again_->sizeHint().width();
+    const QString shown = again_->fontMetrics().elidedText(caption, Qt::ElideRight, room);
+    again_->setCaption(QString(shown).replace(u'&', QStringLiteral("&&")));
+    again_->setAccessibleName(caption);
+    again_->setGeometry(QRect(
+        kAgainButton.topLeft(),
+        QSize(std::min(again_->sizeHint().width(), kAgainButton.width()), kAgainButton.height())));
+}
+
+void Coordon::addExtract() {
+    extractTitle_ = newLabel(QStringLiteral("Extrait de la page :"), kExtractTitle,
+                             look::Weight::Regular, this);
+    extractText_ = new look::ReadingText(kExtractMargin, this);
+    extractText_->setAccessibleName(QStringLiteral("Extrait de la page"));
+    extractText_->setGeometry(kExtract.adjusted(1, 1, -1, -1)); // inside the frame
+}
+
+void Coordon::nameControls() {
     for (const auto& [control, name] : {std::pair<QWidget*, const char*>{Text1_, "Text1"},
                                         {Checkmots_, "Checkmots"},
                                         {accents_, "accents"},
                                         {Label2_, "Label2"},
                                         {Pbar1_, "Pbar1"},
+                                        {count_, "count"},
+                                        {hint_, "hint"},
+                                        {again_, "again"},
+                                        {extractText_, "extract"},
                                         {List2_, "List2"},
                                         {Command1_, "Command1"},
                                         {Command2_, "Command2"},
                                         {Command3_, "Command3"}})
         control->setObjectName(QString::fromLatin1(name));
-    orderFocus();
-    connectHandlers();
 }
 
 void Coordon::orderFocus() {
-    QWidget* const order[] = {Text1_,    Command2_, Checkmots_, accents_,
-                              Command1_, List2_,    Command3_};
+    QWidget* const order[] = {Text1_,    Command2_, Checkmots_, accents_,    again_,
+                              Command1_, List2_,    Command3_,  extractText_};
     for (std::size_t i = 1; i < std::size(order); ++i)
         setTabOrder(order[i - 1], order[i]);
 }
@@ -146,7 +208,11 @@ void Coordon::connectHandlers() {
     connect(Command3_, &QPushButton::clicked, this, &Coordon::Command3_Click);
     connect(List2_, &QListView::doubleClicked, this, &Coordon::List2_DblClick);
     connect(List2_->selectionModel(), &QItemSelectionModel::currentChanged, this,
-            [this](const QModelIndex& line) { Command3_->setEnabled(line.isValid()); });
+            [this](const QModelIndex& line) {
+                Command3_->setEnabled(line.isValid());
+                showExtract(line);
+            });
+    connect(again_, &QPushButton::clicked, this, &Coordon::searchAgain);
 }
 
 void Coordon::Form_Load() {
@@ -154,6 +220,7 @@ void Coordon::Form_Load() {
     pages_ = searchablePages(state_.InstallDir);
     Pbar1_->hide();
     Label2_->hide();
+    say({}, {});
     showList(false);
     Text1_->setFocus();
 }
@@ -163,9 +230,16 @@ void Coordon::Command2_Click() {
         return;
     Query query{queryWords(Text1_->text().toStdU16String()), Checkmots_->isChecked(),
                 accents_->isChecked()};
-    if (query.words.empty())
+    if (query.words.empty()) {
+        // Nothing else happens, and what was found before stays.
+        again_->hide();
+        say(Label2_->isHidden() ? QString() : Label2_->text(),
+            QStringLiteral("Saisissez au moins deux caractères."));
         return;
+    }
     query_ = query;
+    last_ = {Text1_->text(), query.allWords, query.ignoreAccents};
+    again_->hide();
     // Nothing of a course that cannot be opened is found.
     if (!pages_) {
         showFound({});
@@ -174,11 +248,13 @@ void Coordon::Command2_Click() {
     search_.emplace(*pages_, std::move(query));
     found_.setPages({});
     Command3_->setEnabled(false); // the list does not tell that its line has gone
+    extractText_->clear();
     // The bar goes from the second record to the last, the only one of a short table included.
     Pbar1_->setRange(1, std::max(1, pages_->lastPosition()));
     Pbar1_->setValue(1);
     Pbar1_->show();
     Label2_->hide();
+    say({}, {});
     searchOn();
 }
 
@@ -207,11 +283,20 @@ void Coordon::timerEvent(QTimerEvent* event) {
 }
 
 void Coordon::showFound(std::vector<FoundPage> pages) {
-    const bool some = !pages.empty();
+    const std::size_t count = pages.size();
+    const bool some = count > 0;
+    // In the order of the course; behind them those on which nobody reads the words.
+    const auto hidden = std::stable_partition(pages.begin(), pages.end(),
+                                              [](const FoundPage& page) { return !page.hidden; });
+    const QString result = countWords(count, static_cast<std::size_t>(pages.end() - hidden));
     found_.setPages(std::move(pages));
     Pbar1_->hide();
     Label2_->setVisible(!some);
     showList(some);
+    say(some ? result : Label2_->text(),
+        count <= kFewPages && !query_->ignoreAccents
+            ? QStringLiteral("Essayez «\u00A0Ignorer les accents\u00A0».")
+            : QString());
     if (!some) {
         QAccessibleEvent alert(Label2_, QAccessible::Alert); // a screen reader says it
         QAccessible::updateAccessibility(&alert);
@@ -228,7 +313,49 @@ void Coordon::showList(bool shown) {
     Command3_->setVisible(shown);
     Command2_->setKind(shown ? Button::Kind::Ordinary : Button::Kind::Main);
     Command3_->setKind(Button::Kind::Main);
-    setFixedSize(kWidth, shown ? kHighHeight : kLowHeight);
+    const int before = width();
+    setFixedSize(shown ? kWideWidth : kWidth, shown ? kHighHeight : kLowHeight);
+    if (isVisible() && width() != before)
+        keepMiddle(before);
+}
+
+/// Grown or shrunk from `before` pixels, the window stays where it is to the eye, and on the
+/// screen.
+void Coordon::keepMiddle(int before) {
+    const QRect room = screen()->availableGeometry();
+    const int left = std::clamp(x() - (width() - before) / 2, room.left(),
+                                std::max(room.left(), room.right() + 1 - width()));
+    move(left, y());
+}
+
+/// What came of a search, and what could be tried, on the line below the boxes. That nothing was
+/// found, `Label2` says itself.
+void Coordon::say(const QString& result, const QString& hint) {
+    count_->setText(result);
+    count_->setVisible(!result.isEmpty() && Label2_->isHidden());
+    const QLabel& left = Label2_->isHidden() ? *count_ : *Label2_;
+    const int taken =
+        result.isEmpty() ? 0 : left.fontMetrics().horizontalAdvance(result) + kHintGap;
+    hint_->setGeometry(kNotice.adjusted(taken, 0, 0, 0));
+    hint_->setText(hint);
+    hint_->setVisible(!hint.isEmpty());
+    for (QLabel* const label : {count_, hint_})
+        if (!label->isHidden()) {
+            QAccessibleEvent alert(label, QAccessible::Alert);
+            QAccessible::updateAccessibility(&alert);
+        }
+}
+
+void Coordon::showExtract(const QModelIndex& line) {
+    extractText_->setHtml(
+        line.isValid() && query_ ? extract_.html(found_.page(line).position, *query_) : QString());
+}
+
+void Coordon::searchAgain() {
+    Text1_->setText(last_.typed);
+    Checkmots_->setChecked(last_.allWords);
+    accents_->setChecked(last_.ignoreAccents);
+    Command2_Click();
 }
 
 void Coordon::Command3_Click() {
@@ -267,7 +394,10 @@ void Coordon::keyPressEvent(QKeyEvent* event) {
 }
 
 void Coordon::paintEvent(QPaintEvent*) {
-    QPainter(this).fillRect(rect(), QColor::fromRgb(look::kIvory));
+    QPainter painter(this);
+    painter.fillRect(rect(), QColor::fromRgb(look::kIvory));
+    if (List2_->isVisible())
+        look::drawFrame(painter, kExtract, 3, look::kEdge, QColor::fromRgb(look::kPaper));
 }
 
 } // namespace search

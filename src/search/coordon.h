@@ -1,5 +1,6 @@
 #pragma once
 
+#include "search/extract.h"
 #include "search/found_list.h"
 #include "search/page_search.h"
 #include "search/searchable_pages.h"
@@ -17,20 +18,30 @@ class Button;
 class CheckBox;
 class ListBox;
 class ProgressBar;
+class ReadingText;
 class TextField;
 } // namespace look
 
 namespace search {
 
+/// What was searched last, as typed; kept from one window to the next while the program runs.
+struct LastSearch {
+    QString typed; ///< empty before the first search
+    bool allWords = false;
+    bool ignoreAccents = false;
+};
+
 /// `coordon`: the search window, modal to the main window. It asks for words, lists the titles of
 /// the pages that have them, and leaves the page chosen in SearchChosenPage. Each window is new and
-/// so is what it knows of the course.
+/// so is what it knows of the course; what was searched last it offers on a button.
 ///
 /// A search runs in turns between the window's messages: the bar moves and the window can be
 /// closed, which ends it. It cannot start again meanwhile.
 class Coordon : public QDialog {
 public:
-    Coordon(shell::SharedState& state, QWidget* mainWindow);
+    /// `state`, `last` and `fonts` must outlive the window.
+    Coordon(shell::SharedState& state, LastSearch& last, const page::FontBook& fonts,
+            QWidget* mainWindow);
     ~Coordon() override;
 
     /// Longest time without a look at the window's messages, in milliseconds.
@@ -46,6 +57,9 @@ protected:
 
 private:
     void addControls();
+    void addLastSearch();
+    void addExtract();
+    void nameControls();
     void orderFocus();
     void connectHandlers();
 
@@ -57,9 +71,15 @@ private:
     void searchOn();
     void showFound(std::vector<FoundPage> pages);
     void showList(bool shown);
+    void keepMiddle(int before);
+    void say(const QString& result, const QString& hint);
+    void showExtract(const QModelIndex& line);
+    void searchAgain();
     void choose(const QModelIndex& line);
 
     shell::SharedState& state_;
+    LastSearch& last_;
+    Extract extract_;
     std::optional<SearchablePages> pages_;
     std::optional<Query> query_;
     std::optional<PageSearch> search_;
@@ -76,6 +96,11 @@ private:
     look::ListBox* List2_ = nullptr;
     look::ProgressBar* Pbar1_ = nullptr;
     QLabel* Label2_ = nullptr; ///< the notice that no page was found
+    QLabel* count_ = nullptr;  ///< how many were found
+    QLabel* hint_ = nullptr;   ///< what could be tried, right of either
+    QLabel* extractTitle_ = nullptr;
+    look::ReadingText* extractText_ = nullptr;
+    look::Button* again_ = nullptr; ///< takes up what was searched last
 };
 
 } // namespace search

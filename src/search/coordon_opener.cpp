@@ -1,7 +1,5 @@
 #include "search/coordon_opener.h"
 
-#include "search/coordon.h"
-
 namespace search {
 
 namespace {
@@ -17,7 +15,7 @@ viewer::FoundWords foundWords(const Query& query) {
 } // namespace
 
 void CoordonOpener::open() {
-    Coordon coordon(state_, &mainWindow_);
+    Coordon coordon(state_, last_, fonts_, &mainWindow_);
     coordon.exec();
     if (state_.SearchChosenPage != 0)
         words_ = search::foundWords(*coordon.query());

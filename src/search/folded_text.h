@@ -36,6 +36,11 @@ public:
 
     /// All texts that were ended.
     std::string_view bytes() const { return {bytes_.get(), size_}; }
+    /// One of them, without its space.
+    std::string_view text(std::size_t index) const {
+        const std::size_t start = index == 0 ? 0 : ends_[index - 1];
+        return bytes().substr(start, ends_[index] - 1 - start);
+    }
     /// Where each of them ends in the bytes, its space included.
     const std::vector<std::size_t>& ends() const { return ends_; }
 

@@ -13,6 +13,9 @@ class FoundList : public QAbstractListModel {
 public:
     void setPages(std::vector<FoundPage> pages);
 
+    const FoundPage& page(const QModelIndex& line) const {
+        return pages_[static_cast<std::size_t>(line.row())];
+    }
     /// Fixed number of the page in a line; 0 when there is no such line.
     std::int32_t pageNumber(const QModelIndex& line) const;
 

@@ -1,6 +1,7 @@
 #include "search/page_search.h"
 
 #include "search/folded_copy.h"
+#include "search/visible_words.h"
 
 #include <algorithm>
 
@@ -30,7 +31,8 @@ bool PageSearch::advance() {
         matcher_.emplace(words_, allWords_, searched->sources->bytes().substr(0, kSampleBytes));
     for (const std::size_t match : matcher_->matches(*searched->sources)) {
         const PageSlice::Page& page = slice.pages[match];
-        found_.push_back({page.position, page.number, std::u16string(slice.title(match))});
+        found_.push_back({page.position, page.number, std::u16string(slice.title(match)),
+                          !areVisible(words_, allWords_, searched->sources->text(match))});
     }
     ++slice_;
     next_ = slice.next;

@@ -18,6 +18,9 @@ struct FoundPage {
     int position = 0;        ///< of its record, from 0
     std::int32_t number = 0; ///< fixed page number ("Numeropage"); 0 when the record has none
     std::u16string title;    ///< "titre"; empty for NULL
+    /// What makes it a page found stands, in part at least, in directives only, as in the name of
+    /// a picture: nobody will read it on the page.
+    bool hidden = false;
 
     bool operator==(const FoundPage&) const = default;
 };

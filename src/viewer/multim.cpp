@@ -4,6 +4,7 @@
 #include "look/button.h"
 #include "look/ink_rim.h"
 #include "look/mnemonics.h"
+#include "look/notice.h"
 #include "look/page_panel.h"
 #include "look/palette.h"
 #include "look/picture_box.h"
@@ -22,6 +23,7 @@
 #include "viewer/video_frame.h"
 
 #include <QCoreApplication>
+#include <QDir>
 
 namespace viewer {
 
@@ -183,6 +185,18 @@ void Multim::pumpPendingMessages() {
 
 void Multim::report(const QString& line) {
     Framebase_->showStatus(line);
+}
+
+void Multim::tellUnreadable(const QString& file, const QString& reason) {
+    auto* notice = new look::Notice(body_);
+    notice->setGeometry(kPanel);
+    notice->tell(
+        QStringLiteral("Ce cours ne peut pas être lu."),
+        {QStringLiteral("Fichier\u00A0: ") + QDir::toNativeSeparators(file),
+         QStringLiteral("Cause\u00A0: ") + reason,
+         QStringLiteral("Réinstallez le cours, ou remplacez ce fichier par une copie intacte, puis "
+                        "relancez Orvalente. S’il reste illisible, prévenez la personne qui l’a "
+                        "préparé.")});
 }
 
 } // namespace viewer

@@ -138,6 +138,10 @@ public:
     // shell::ReportSink
     void report(const QString& line) override;
 
+    /// Says in the place of the page that the course's database cannot be read, why, and what to
+    /// do.
+    void tellUnreadable(const QString& file, const QString& reason);
+
 protected:
     void closeEvent(QCloseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;

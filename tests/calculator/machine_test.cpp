@@ -4,6 +4,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QClipboard>
 #include <QDialog>
 #include <QFontMetricsF>
 #include <QKeyEvent>
@@ -77,6 +78,45 @@ TEST_F(Window, calculatesByKeyboard) {
     EXPECT_EQ(shown(), "3 ^ ");
     hit(Qt::Key_Escape);
     EXPECT_EQ(shown(), "3 ^ ");
+}
+
+TEST_F(Window, copiesTheResultAndPastesByItsKeys) {
+    type("2*3.5");
+    hit(Qt::Key_Return);
+    hit(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), u"7");
+    const struct {
+        const char* pasted;
+        const char* shown;
+    } rows[] = {
+        {"2cos(3.5e-3)", "2 * cos (3.5E-3)"},
+        {" \n3 × −2 ÷ 4²\n+1", "3 * -2 / 4 ^ 2"},
+        {"INVSIN 0.5+EXP 1", "invSIN 0.5 + exp 1"},
+        {"√ 16 = zz", "SQR 16"},
+        {"\b\r<b>", ""},
+        {"2+1,5", "2 + 1"},
+    };
+    for (const auto& row : rows) {
+        click("RAZ");
+        QGuiApplication::clipboard()->setText(QString::fromUtf8(row.pasted));
+        hit(Qt::Key_V, Qt::ControlModifier);
+        EXPECT_EQ(shown(), row.shown) << row.pasted;
+    }
+    EXPECT_EQ(control<QLineEdit>("z1")->accessibleDescription(), u"Le signe décimal est le point");
+}
+
+TEST_F(Window, saysWhyACommaDoesNothing) {
+    auto& z1 = *control<QLineEdit>("z1");
+    type("1");
+    const QImage quiet = z1.grab().toImage();
+    type(",");
+    EXPECT_EQ(shown(), "1");
+    EXPECT_EQ(z1.accessibleDescription(), u"Le signe décimal est le point");
+    EXPECT_NE(z1.grab().toImage(), quiet);
+    hit(Qt::Key_Backspace);
+    type("1");
+    EXPECT_EQ(z1.accessibleDescription(), u"");
+    EXPECT_EQ(z1.grab().toImage(), quiet);
 }
 
 TEST_F(Window, enterHeldDownCalculatesOnce) {

@@ -35,6 +35,7 @@ public:
 
     void setTitle(const std::u16string& text) override { title = text; }
     void setCaption(const std::u16string& text) override { caption = text; }
+    void setVerdict(const std::optional<Verdict>& now) override { verdict = now; }
     void setPreviousVisible(bool visible) override { previous = visible; }
     void setNextVisible(bool visible) override { next = visible; }
     void setValidateVisible(bool visible) override { validate = visible; }
@@ -42,6 +43,8 @@ public:
     void placeMarker(int question, int count) override { marker = {question, count}; }
     void setMarkerVisible(bool visible) override { markerVisible = visible; }
     void setFace(int level) override { face = level; }
+    void offerSummary(bool offered) override { summaryOffered = offered; }
+    void showSummary() override { ++summaries; }
     void repaintStrip() override { ++stripPaintings; }
     void focusStrip() override { stripHasFocus = true; }
     void hideReturnToTest() override { returnToTest = false; }
@@ -50,6 +53,7 @@ public:
         choices = {};
         typed.clear();
         typedEnabled = true;
+        typedMark.reset();
         source = u"(empty)";
     }
 
@@ -89,6 +93,7 @@ public:
     std::u16string typedText() const override { return typed; }
     void setTypedText(const std::u16string& text) override { typed = text; }
     void disableTypedText() override { typedEnabled = false; }
+    void markTypedText(Mark mark) override { typedMark = mark; }
 
     /// The marks of an array from the first control: "+" in the solution, "-" not, " " none.
     std::u16string marks(ChoiceArray array) const {
@@ -102,12 +107,16 @@ public:
 
     mutable std::map<std::pair<ChoiceArray, int>, Choice> choices;
     std::u16string title, caption, source, typed;
+    std::optional<Verdict> verdict;
+    std::optional<Mark> typedMark;
     std::vector<Message> messages;
     std::deque<bool> answers; ///< to the questions, in turn
     std::pair<int, int> marker;
     bool previous = false, next = false, validate = false, score = true;
     bool markerVisible = true, typedEnabled = true;
     bool stripHasFocus = false, returnToTest = true;
+    bool summaryOffered = false;
+    int summaries = 0;
     int face = 0, stripPaintings = 0, popups = 0;
     std::function<void()> duringPopup;
 };

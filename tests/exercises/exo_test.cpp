@@ -5,6 +5,7 @@
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QTextBrowser>
 
 namespace exercises::test {
 namespace {
@@ -119,6 +120,125 @@ TEST_F(Test, enterValidatesOnce) {
     press(Qt::Key_Return);
     EXPECT_TRUE(messageBoxes.messages.empty());
     EXPECT_EQ(given(3), u"1,5 ohms");
+}
+
+TEST_F(Test, enterOutsideTheAnswerBoxNeedsAnAnswer) {
+    openAt(2);
+    control<QWidget>("Option1_0").setFocus();
+    press(Qt::Key_Return);
+    area().setFocus();
+    press(Qt::Key_Return);
+    EXPECT_EQ(verdict(2), 0);
+    control<QWidget>("command5").setFocus(); // the button itself asks for nothing
+    press(Qt::Key_Return);
+    EXPECT_EQ(verdict(2), -1);
+    EXPECT_EQ(given(2), u"00000");
+    click("command4");
+    ASSERT_EQ(focus(), u"Text1");
+    press(Qt::Key_Return); // nor does the box
+    EXPECT_EQ(verdict(3), -1);
+}
+
+TEST_F(Test, aTypedAnswerHasItsVerdictBesideIt) {
+    const auto colours = [this] {
+        const QImage picture = control<QWidget>("Text1").grab().toImage();
+        const auto mark = QPoint(200 - 5 - 8, 12 - 6) * picture.devicePixelRatio();
+        return picture.pixelColor(mark);
+    };
+    openAt(3);
+    EXPECT_FALSE(control<QWidget>("verdict").isVisible());
+    EXPECT_EQ(colours(), QColor(Qt::white));
+    QTest::keyClicks(exo->focusWidget(), QStringLiteral("volt"));
+    click("command5");
+    EXPECT_EQ(control<QWidget>("verdict").accessibleName(), u"Faux. Réponse attendue\u00A0: ohm");
+    EXPECT_EQ(colours(), QColor(0xb3, 0x26, 0x1e));
+    EXPECT_TRUE(textOf(control<QWidget>("Text1"), QAccessible::Description)
+                    .endsWith(QStringLiteral("réponse fausse")));
+    state.QuestionState.store(3, 1);
+    click("command4");
+    EXPECT_FALSE(control<QWidget>("verdict").isVisible());
+    click("Command3");
+    EXPECT_EQ(control<QWidget>("verdict").accessibleName(), u"Réponse juste");
+    EXPECT_EQ(colours(), QColor(0x1c, 0x75, 0x40));
+}
+
+using Finished = Test;
+
+TEST_F(Finished, isSummedUpWithTheWaysOn) {
+    state.QuestionState.store(1, -1);
+    state.GivenAnswers.store(1, u"01000");
+    state.QuestionState.store(3, -1);
+    state.GivenAnswers.store(3, u"<b>volt</b>");
+    state.QuestionState.store(4, 1);
+    openAt(2);
+    EXPECT_FALSE(control("bilan").isVisible());
+    click("Option1_1");
+    click("command5");
+    ASSERT_EQ(messageBoxes.messages.back().title, u"Test terminé");
+    auto& text = control<QTextBrowser>("summaryText");
+    ASSERT_TRUE(text.isVisible());
+    EXPECT_FALSE(area().isVisible());
+    EXPECT_EQ(text.toPlainText().remove(QChar(QChar::ObjectReplacementCharacter)),
+              QStringLiteral("2 réponses justes sur 4. À revoir :\n"
+                             "Question 1 – Cochez.\n"
+                             " Votre réponse : H2O liquide\n"
+                             " Bonne réponse : le verre ; l’air\n"
+                             "Revoir la page\n"
+                             "Question 3 – Unité : .\n"
+                             " Votre réponse : <b>volt</b>\n"
+                             " Bonne réponse : ohm\n"
+                             "Revoir la page"));
+
+    const auto follow = [&](const char* link) {
+        Q_EMIT text.anchorClicked(QUrl(QString::fromLatin1(link)));
+    };
+    follow("question:3");
+    EXPECT_EQ(control<QLabel>("noa").text(), u"Question 3 / 4 :");
+    EXPECT_TRUE(area().isVisible());
+    EXPECT_FALSE(text.isVisible());
+    click("bilan");
+    ASSERT_TRUE(text.isVisible());
+    follow("page:12");
+    EXPECT_FALSE(exo->isVisible());
+    EXPECT_EQ(shared.ExerciseReturnPage, 12);
+    EXPECT_EQ(shared.PendingExerciseChapter, 3);
+    openWindow();
+    EXPECT_TRUE(control("bilan").isVisible());
+}
+
+TEST_F(Finished, isTakenAgainAsAWholeOrWhereItWasWrong) {
+    for (const int question : {1, 2, 3, 4})
+        state.QuestionState.store(question, question % 2 ? 1 : -1);
+    openAt(4);
+    click("bilan");
+    click("wrongAnswers");
+    EXPECT_EQ(state.CurrentQuestion, 2);
+    EXPECT_TRUE(control("command5").isVisible());
+    EXPECT_FALSE(control("bilan").isVisible());
+    click("Option1_1");
+    click("command5");
+    EXPECT_EQ(state.CurrentQuestion, 4);
+    EXPECT_EQ(verdict(3), 1);
+    click("command5"); // nothing is to be ticked in the last
+    auto& text = control<QTextBrowser>("summaryText");
+    EXPECT_EQ(text.toPlainText().trimmed().right(32), u"Toutes vos réponses sont justes.");
+    EXPECT_FALSE(control("wrongAnswers").isVisible());
+    click("wholeTest");
+    EXPECT_EQ(state.CurrentQuestion, 1);
+    for (const int question : {1, 2, 3, 4})
+        EXPECT_EQ(verdict(question), 0);
+    EXPECT_FALSE(control("command6").isVisible());
+    EXPECT_EQ(shared.PendingExerciseChapter, 3);
+}
+
+// The comment on it is read first; the summary waits behind its button.
+TEST_F(Finished, byAWrongAnswerItShowsTheCorrection) {
+    for (const int question : {1, 3, 4})
+        state.QuestionState.store(question, 1);
+    openAt(2);
+    click("command5");
+    EXPECT_TRUE(area().readableText().contains(u"Relisez."));
+    EXPECT_TRUE(control("bilan").isVisible());
 }
 
 TEST_F(Test, theKeyboardReachesEverything) {
@@ -272,12 +392,14 @@ TEST_F(Test, theCalculatorOpensBesideIt) {
     bench.window.move(100, 50);
     click("Command7");
     click("Command7");
-    const QPoint place(800 - 302 - 16, bench.window.y() + 120);
+    const QPoint place(bench.window.x() + 800 - 302 - 16, bench.window.y() + 120);
+    ASSERT_NE(bench.window.x(), 0);
     EXPECT_EQ(calculator.opened, (QList<QPoint>{place, place}));
 }
 
 TEST_F(Test, pupilsSeeNoSwitch) {
     openAt(1);
+    EXPECT_FALSE(control<QWidget>("notice").isVisible());
     EXPECT_FALSE(exo->findChild<QWidget*>("Command1"));
     EXPECT_FALSE(exo->findChild<QWidget*>("code"));
 }
@@ -383,9 +505,14 @@ TEST_F(BadInput, aQuestionThatLeavesItsAreaTouchesNoPage) {
     EXPECT_TRUE(seen() == before);
 }
 
-TEST_F(BadInput, aMissingDatabaseShowsAnEmptyQuestion) {
+TEST_F(BadInput, aMissingDatabaseIsSaidInTheWindow) {
     openWindow();
     EXPECT_EQ(control<QLabel>("noa").text(), u"Question 1 / 0 :");
+    const QString said = control<QTextBrowser>("noticeText").toPlainText();
+    EXPECT_TRUE(control<QWidget>("notice").isVisible());
+    EXPECT_TRUE(said.contains(folder.path() + QStringLiteral("/qekx.mdb"))) << said.toStdString();
+    EXPECT_TRUE(said.contains(QStringLiteral("absente du dossier"))) << said.toStdString();
+    EXPECT_TRUE(said.contains(QStringLiteral("Réinstallez le cours")));
     control("command5").click();
     messageBoxes.answers = {platform::Answer::Yes};
     control("Image2").click();

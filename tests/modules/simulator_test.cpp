@@ -1,5 +1,8 @@
 #include "projectile/main_window.h"
 #include "projectile/quantity_row.h"
+#include "projectile/simulation.h"
+#include "shell/raw_status_file.h"
+#include "shell/status_file.h"
 #include "support/files.h"
 
 #include <QCheckBox>
@@ -9,6 +12,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTableView>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <algorithm>
@@ -145,4 +149,80 @@ TEST_F(SimulatorTest, saysWhyAnExerciseIsNotOpened) {
     }));
     EXPECT_GE(named<QSlider>("Temps")->width(), 60);
     EXPECT_GT(named<QWidget>("Formules")->minimumWidth(), 300);
+}
+
+TEST_F(SimulatorTest, takesTheExerciseThatTheCourseAsksForWhileItRuns) {
+    QTemporaryDir directory;
+    for (const char* const name : {"Exercice 03.E21", "Exercice 05.E21"})
+        ASSERT_TRUE(
+            QFile::copy(QStringLiteral(PROJECTILE_EXERCISES "/") + QString::fromLatin1(name),
+                        directory.filePath(QString::fromLatin1(name))));
+    raw_status_file::writeAllNon(directory.path());
+    const shell::StatusFile course(directory.filePath(raw_status_file::kName));
+    const auto ask = [&](const char* exercise) {
+        course.write(shell::StatusFile::kArgumentRecord, QString::fromLatin1(exercise));
+    };
+    const auto titles = [](const MainWindow& window) {
+        QStringList all;
+        for (const QLabel* label : window.findChildren<QLabel*>())
+            all += label->text();
+        return all;
+    };
+    ask("Exercice 03.E21");
+    Simulation simulation(common::StatusRecord(directory.path(), 23), directory.path());
+    const MainWindow* const first = &simulation.window();
+    const QStringList shown = titles(*first);
+    for (const char* const other : {"Exercice 03.E21", "", "Exercice 05.E20"}) {
+        ask(other);
+        simulation.lookForExercise();
+        EXPECT_EQ(&simulation.window(), first) << other;
+    }
+    ask("Exercice 05.E21");
+    simulation.lookForExercise();
+    EXPECT_TRUE(simulation.window().isVisible());
+    EXPECT_NE(titles(simulation.window()), shown);
+}
+
+TEST_F(SimulatorTest, offersTheNextExerciseAfterARightAnswer) {
+    QTemporaryDir directory;
+    for (const char* const name : {"Exercice 03.E21", "Exercice 05.E21"})
+        ASSERT_TRUE(
+            QFile::copy(QStringLiteral(PROJECTILE_EXERCISES "/") + QString::fromLatin1(name),
+                        directory.filePath(QString::fromLatin1(name))));
+    raw_status_file::writeAllNon(directory.path());
+    shell::StatusFile(directory.filePath(raw_status_file::kName))
+        .write(shell::StatusFile::kArgumentRecord, QStringLiteral("Exercice 03.E21"));
+    Simulation simulation(common::StatusRecord(directory.path(), 23), directory.path());
+    const auto next = [&] {
+        for (auto* found : simulation.window().findChildren<QPushButton*>())
+            if (found->text() == QStringLiteral("Exercice suivant"))
+                return found;
+        return static_cast<QPushButton*>(nullptr);
+    };
+    const auto answer = [&](const char* exercise, const QString& typed) {
+        QString why;
+        const auto read = readExercise(
+            QStringLiteral(PROJECTILE_EXERCISES "/") + QString::fromLatin1(exercise), why);
+        for (auto* field : simulation.window().findChildren<QLineEdit*>())
+            if (field->accessibleName() == read->question) {
+                field->setText(typed);
+                QTest::keyClick(field, Qt::Key_Return);
+            }
+    };
+    ASSERT_TRUE(next());
+    answer("Exercice 03.E21", QStringLiteral("3"));
+    EXPECT_FALSE(next()->isVisible());
+    answer("Exercice 03.E21", QStringLiteral("2.02"));
+    ASSERT_TRUE(next()->isVisible());
+    const MainWindow* const first = &simulation.window();
+    next()->click();
+    ASSERT_TRUE(eventually([&] { return &simulation.window() != first; }));
+    EXPECT_FALSE(next()->isVisible());
+    simulation.lookForExercise(); // coming to the front again changes nothing
+    QString why;
+    const auto last = readExercise(PROJECTILE_EXERCISES "/Exercice 05.E21", why);
+    QStringList labels;
+    for (const QLabel* label : simulation.window().findChildren<QLabel*>())
+        labels += label->text();
+    EXPECT_TRUE(labels.contains(last->title)) << qPrintable(labels.join('|'));
 }

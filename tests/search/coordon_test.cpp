@@ -14,6 +14,7 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextBrowser>
 
 #include <gtest/gtest.h>
 
@@ -57,7 +58,7 @@ protected:
     void open() {
         window.reset();
         shared.InstallDir = folder_.path() + u'/';
-        window = std::make_unique<Coordon>(shared, nullptr);
+        window = std::make_unique<Coordon>(shared, last, fonts, nullptr);
         window->show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
     }
@@ -107,6 +108,8 @@ protected:
     bool closed() const { return !window->isVisible(); }
 
     shell::SharedState shared;
+    LastSearch last;
+    page::FontBook fonts;
     std::unique_ptr<Coordon> window;
 
 private:
@@ -159,6 +162,66 @@ TEST_F(CoordonWindow, listsWhatItsBoxesAskFor) {
     search(QStringLiteral("indice"));
     EXPECT_TRUE(control<QLabel>("Label2").isHidden());
     EXPECT_TRUE(control<QProgressBar>("Pbar1").isHidden());
+}
+
+TEST_F(CoordonWindow, showsTheWordsInAnExtractOfTheChosenPage) {
+    write({kCourse[0],
+           {u"Image", u"##IMAprisme.svg\r\nUn verre & de l’eau\r\n"},
+           {u"Le prisme", u"##SI12\r\nUn <i>Prisme</i> de verre.\r\n"},
+           {u"Lien", u"##LIERTvoir le prisme#PAG003\r\n"},
+           {u"Cible", u"Rien\r\n##LIERTsuite#prisme\r\n"}});
+    open();
+    search(QStringLiteral("prisme"));
+    // Those on which nothing of it is read come last.
+    EXPECT_EQ(lines(), "Le prisme 103|Lien 104|Image 102|Cible 105");
+    EXPECT_EQ(control<QLabel>("count").text(),
+              QStringLiteral("4 pages trouvées, dont 2 où rien ne se lit."));
+    EXPECT_TRUE(control<QLabel>("hint").isHidden());
+    auto& extract = control<QTextBrowser>("extract");
+    EXPECT_EQ(extract.toPlainText(), QStringLiteral("Un <i>Prisme</i> de verre."));
+    EXPECT_TRUE(extract.toHtml().contains(QStringLiteral("background-color:#fff0a0;\">Prisme")));
+    EXPECT_TRUE(has(extract.grab().toImage(), look::kMarkTint));
+    QTest::keyClick(&list(), Qt::Key_End);
+    QTest::keyClick(&list(), Qt::Key_Up);
+    EXPECT_TRUE(extract.toPlainText().startsWith(QStringLiteral("Rien de cela ne se lit")));
+    EXPECT_TRUE(extract.toPlainText().endsWith(QStringLiteral("Un verre & de l’eau")));
+    search(QStringLiteral("absent"));
+    EXPECT_EQ(extract.toPlainText(), u"");
+}
+
+TEST_F(CoordonWindow, helpsWhoeverFindsNothing) {
+    write(kCourse);
+    open();
+    const auto hint = [this] {
+        return control<QLabel>("hint").isHidden() ? QString() : control<QLabel>("hint").text();
+    };
+    search(QStringLiteral("é"));
+    EXPECT_EQ(hint(), QStringLiteral("Saisissez au moins deux caractères."));
+    search(QStringLiteral("refraction"));
+    EXPECT_EQ(hint(), QStringLiteral("Essayez «\u00A0Ignorer les accents\u00A0»."));
+    control<QCheckBox>("accents").click();
+    search(QStringLiteral("refraction"));
+    EXPECT_EQ(hint(), u"");
+    search(QStringLiteral("lumiere"));
+    EXPECT_EQ(hint(), u"");
+    EXPECT_EQ(control<QLabel>("count").text(), QStringLiteral("2 pages trouvées."));
+    search(QStringLiteral(" ; "));
+    EXPECT_EQ(lines(), "La lumière 102|L’indice 104"); // what was found stays
+}
+
+TEST_F(CoordonWindow, offersWhatWasSearchedLast) {
+    write(kCourse);
+    open();
+    EXPECT_TRUE(control<QPushButton>("again").isHidden());
+    control<QCheckBox>("accents").click();
+    search(QStringLiteral("lumiere & x"));
+    open(); // empty, as ever
+    EXPECT_EQ(control<QLineEdit>("Text1").text(), u"");
+    EXPECT_FALSE(control<QCheckBox>("accents").isChecked());
+    EXPECT_EQ(control<QPushButton>("again").text(), u"Reprendre\u00A0: lumiere && x");
+    press("again");
+    EXPECT_EQ(lines(), "La lumière 102|L’indice 104");
+    EXPECT_TRUE(control<QPushButton>("again").isHidden());
 }
 
 TEST_F(CoordonWindow, titlesStandInTheListToTheLetter) {

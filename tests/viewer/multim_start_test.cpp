@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextBrowser>
 #include <QTimer>
 
 #include <gmock/gmock.h>
@@ -39,6 +40,18 @@ protected:
         return QObject::eventFilter(watched, event);
     }
 };
+
+TEST_F(Window, saysWhichFileOfACourseCannotBeRead) {
+    bench.window.tellUnreadable(QStringLiteral("/cours/<b>Zekx.mdb"),
+                                QStringLiteral("le fichier s’arrête avant son catalogue"));
+    const auto* const notice = bench.control<QWidget>("notice");
+    ASSERT_TRUE(notice && notice->isVisible());
+    EXPECT_TRUE(bench.control<QWidget>("PictureTEXTE")->visibleRegion().isEmpty());
+    const QString said = bench.control<QTextBrowser>("noticeText")->toPlainText();
+    for (const char* const words : {"Ce cours ne peut pas être lu.", "/cours/<b>Zekx.mdb",
+                                    "s’arrête avant son catalogue", "Réinstallez le cours"})
+        EXPECT_TRUE(said.contains(QString::fromUtf8(words))) << words << said.toStdString();
+}
 
 TEST_F(Window, givesInToAManagerThatRefusesItsSize) {
     const StubbornManager manager(bench.window.windowHandle());

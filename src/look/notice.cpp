@@ -1,0 +1,44 @@
+#include "look/notice.h"
+
+#include "look/palette.h"
+#include "look/pixels.h"
+#include "look/reading_text.h"
+
+#include <QAccessible>
+#include <QPainter>
+
+namespace look {
+
+namespace {
+
+constexpr double kMargin = 24;
+
+} // namespace
+
+Notice::Notice(QWidget* parent) : QWidget(parent), text_(new ReadingText(kMargin, this)) {
+    setObjectName(QStringLiteral("notice"));
+    text_->setObjectName(QStringLiteral("noticeText"));
+    hide();
+}
+
+void Notice::tell(const QString& title, const QStringList& paragraphs) {
+    QString html = QStringLiteral("<h3>") + title.toHtmlEscaped() + QStringLiteral("</h3>");
+    for (const QString& paragraph : paragraphs)
+        html += QStringLiteral("<p>") + paragraph.toHtmlEscaped() + QStringLiteral("</p>");
+    text_->setHtml(html);
+    text_->setAccessibleName(title);
+    show();
+    QAccessibleEvent alert(text_, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
+void Notice::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    drawFrame(painter, rect(), 0, kRule, QColor::fromRgb(kPaper));
+}
+
+void Notice::resizeEvent(QResizeEvent*) {
+    text_->setGeometry(rect().adjusted(1, 1, -1, -1)); // inside the frame
+}
+
+} // namespace look
