@@ -3,6 +3,7 @@
 #include "page/sign_faces.h"
 #include "page/spoken_line.h"
 #include "page/text_lines.h"
+#include "page/twips.h"
 
 #include <algorithm>
 #include <cmath>
@@ -43,8 +44,6 @@ constexpr double kLongestOverhang = 200;
 /// Length of the shaft of a reaction's arrow in heights of its line, and its axis below the top.
 constexpr double kShaft = 1.6;
 constexpr double kAxis = 0.5;
-
-constexpr double kTwipsPerPixel = 15;
 
 bool near(double a, double b) {
     return std::abs(a - b) <= kSlack;

@@ -104,10 +104,10 @@ class Blocks {
 public:
     explicit Blocks(double textPoints) : textPoints_(textPoints) {}
 
-    /// The blocks of a text that stands between two edges.
-    std::vector<ReadableBlock> of(const Pieces& pieces) const {
+    /// The blocks of a text; `least` is the right edge of the narrowest column it may be set in.
+    std::vector<ReadableBlock> of(const Pieces& pieces, double least) const {
         std::vector<ReadableLine> lines = linesOf(pieces);
-        double left = 0, right = 0;
+        double left = 0, right = least;
         for (const ReadableLine& line : lines) {
             left = &line == &lines.front() ? line.area.left() : std::min(left, line.area.left());
             right = std::max(right, line.area.right());
@@ -185,7 +185,7 @@ public:
             if (pieces_[at].empty())
                 continue;
             if (rows_[at].edges.size() <= 2) {
-                const auto framed = inside.of(pieces_[at]);
+                const auto framed = inside.of(pieces_[at], rows_[at].box.right());
                 blocks.insert(blocks.end(), framed.begin(), framed.end());
                 table = nullptr;
                 continue;
@@ -230,7 +230,7 @@ private:
                 if (middle >= left && (middle < right || edge + 1 == box.edges.size()))
                     own.push_back(piece);
             }
-            cell.children = inside.of(own);
+            cell.children = inside.of(own, right);
             row.children.push_back(std::move(cell));
         }
         return row;
@@ -242,14 +242,15 @@ private:
 
 } // namespace
 
-std::vector<ReadableBlock> readableBlocks(const TextPieces& pieces, std::vector<Row> rows) {
+std::vector<ReadableBlock> readableBlocks(const TextPieces& pieces, std::vector<Row> rows,
+                                          double width) {
     Boxes boxes(std::move(rows));
     Pieces outside;
     for (const TextPiece& piece : pieces)
         if (!boxes.take(piece))
             outside.push_back(&piece);
     const Blocks blocks(textSize(pieces));
-    std::vector<ReadableBlock> all = blocks.of(outside);
+    std::vector<ReadableBlock> all = blocks.of(outside, width / 2);
     boxes.addTo(all, blocks);
     return all;
 }

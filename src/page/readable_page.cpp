@@ -4,6 +4,8 @@
 #include "page/link_view.h"
 #include "page/picture_title.h"
 #include "page/readable_blocks.h"
+#include "page/surface_widths.h"
+#include "page/twips.h"
 
 #include <algorithm>
 
@@ -66,6 +68,11 @@ private:
     std::vector<const PictureOperation*> pictures_;
 };
 
+double widthOf(SurfaceId surface) {
+    return kTwipsPerPixel *
+           (surface == SurfaceId::PictureIllus ? kIllustrationWidthPx : kPageWidthPx);
+}
+
 ReadableBlock pictureBlock(const PictureOperation& picture) {
     ReadableBlock block;
     block.kind = BlockKind::Picture;
@@ -122,7 +129,7 @@ ReadablePage::ReadablePage(const Recording& recording, SurfaceId surface,
                            const TextLines::CaptionLayout& layOut) {
     const Reading reading(recording, surface, layOut);
     sources_ = reading.shapes().pieces();
-    blocks_ = readableBlocks(sources_, reading.shapes().rows());
+    blocks_ = readableBlocks(sources_, reading.shapes().rows(), widthOf(surface));
     for (const PictureOperation* picture : reading.pictures())
         blocks_.push_back(pictureBlock(*picture));
     std::stable_sort(blocks_.begin(), blocks_.end(),
