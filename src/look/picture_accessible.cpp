@@ -1,8 +1,11 @@
 #include "look/picture_accessible.h"
 
 #include "look/picture_box.h"
+#include "page/twips.h"
 
 #include <QAccessible>
+
+#include <algorithm>
 
 namespace look {
 
@@ -11,6 +14,19 @@ namespace {
 QAccessibleInterface* makeInterface(const QString&, QObject* object) {
     auto* box = dynamic_cast<PictureBox*>(object);
     return box ? new PictureAccessible(box) : nullptr;
+}
+
+/// The controls that show on a box, in the order they stand in: that of reading, where its owner
+/// put them so.
+QList<QWidget*> shownControls(const PictureBox& box) {
+    QList<QWidget*> controls = box.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    controls.removeIf([](const QWidget* control) { return control->isHidden(); });
+    return controls;
+}
+
+bool isLink(QWidget* control) {
+    const QAccessibleInterface* face = QAccessible::queryAccessibleInterface(control);
+    return face && face->role() == QAccessible::Link;
 }
 
 } // namespace
@@ -24,6 +40,105 @@ void PictureAccessible::install() {
 
 PictureBox& PictureAccessible::box() const {
     return *static_cast<PictureBox*>(object());
+}
+
+PictureAccessible::~PictureAccessible() {
+    forget();
+}
+
+void PictureAccessible::forget() const {
+    for (const QAccessible::Id id : ids_)
+        QAccessible::deleteAccessibleInterface(id);
+    ids_.clear();
+    blocks_.clear();
+    parts_.clear();
+}
+
+const std::vector<PictureAccessible::Part>& PictureAccessible::parts() const {
+    const QList<QWidget*> controls = shownControls(box());
+    if (drawing_ == box().drawing() && controls == controls_)
+        return parts_;
+    forget();
+    drawing_ = box().drawing();
+    controls_ = controls;
+    auto* self = const_cast<PictureAccessible*>(this);
+    for (const page::ReadableBlock& block : box().readablePage().blocks()) {
+        blocks_.push_back(new BlockAccessible(&box(), block, self));
+        ids_.push_back(QAccessible::uniqueId(blocks_.back()));
+        const QRectF& area = block.area;
+        parts_.push_back(
+            {blocks_.back(), nullptr,
+             QRectF(area.topLeft() / page::kTwipsPerPixel, area.size() / page::kTwipsPerPixel)
+                 .toAlignedRect()
+                 .translated(box().inset(), box().inset())});
+    }
+    for (QWidget* control : controls) {
+        BlockAccessible* around = nullptr;
+        for (auto block = blocks_.begin(); isLink(control) && !around && block != blocks_.end();)
+            around = (*block++)->blockAround(*control);
+        if (around) {
+            around->adopt(control);
+            continue;
+        }
+        // Beside the first part that begins below its middle.
+        const int middle = control->geometry().center().y();
+        const auto below = std::find_if(parts_.begin(), parts_.end(), [&](const Part& part) {
+            return part.block && part.place.top() > middle;
+        });
+        parts_.insert(below, {nullptr, control, control->geometry()});
+    }
+    return parts_;
+}
+
+QAccessibleInterface* PictureAccessible::parentOf(const QWidget& link) {
+    auto* document = dynamic_cast<PictureAccessible*>(
+        QAccessible::queryAccessibleInterface(link.parentWidget()));
+    if (!document)
+        return QAccessible::queryAccessibleInterface(link.parentWidget());
+    document->parts(); // of the page as it is now
+    for (BlockAccessible* block : document->blocks_)
+        if (BlockAccessible* around = block->blockAround(link))
+            return around;
+    return document;
+}
+
+void PictureAccessible::tellNewPage(PictureBox& box) {
+    if (!QAccessible::isActive())
+        return;
+    const auto* document =
+        dynamic_cast<PictureAccessible*>(QAccessible::queryAccessibleInterface(&box));
+    if (!document)
+        return;
+    for (const Part& part : document->parts())
+        if (part.block) {
+            QAccessibleEvent created(part.block, QAccessible::ObjectCreated);
+            QAccessible::updateAccessibility(&created);
+        }
+}
+
+QAccessibleInterface* PictureAccessible::child(int index) const {
+    if (index < 0 || index >= childCount())
+        return nullptr;
+    const Part& part = parts()[static_cast<std::size_t>(index)];
+    return part.block ? part.block : QAccessible::queryAccessibleInterface(part.control);
+}
+
+QAccessibleInterface* PictureAccessible::childAt(int x, int y) const {
+    for (int index = 0; index < childCount(); ++index)
+        if (QAccessibleInterface* one = child(index); one && one->rect().contains(x, y))
+            return one;
+    return nullptr;
+}
+
+int PictureAccessible::childCount() const {
+    return static_cast<int>(parts().size());
+}
+
+int PictureAccessible::indexOfChild(const QAccessibleInterface* sought) const {
+    for (int index = 0; index < childCount(); ++index)
+        if (child(index) == sought)
+            return index;
+    return -1;
 }
 
 QString PictureAccessible::text(QAccessible::Text kind) const {

@@ -3,7 +3,6 @@
 #include "look/palette.h"
 #include "look/picture_accessible.h"
 #include "look/pixels.h"
-#include "page/readable_text.h"
 #include "page/twips.h"
 
 #include <QPaintEvent>
@@ -25,15 +24,18 @@ PictureBox::~PictureBox() {
 }
 
 void PictureBox::empty() {
+    forgetReadable();
     raster_.reset();
     heightPx_ = 0;
     controlsFoot_ = 0;
     marks_ = {};
+    selection_.clear();
     update();
     updateMargin();
 }
 
 void PictureBox::showDrawing() {
+    forgetReadable();
     const double ratio = devicePixelRatioF();
     if (ratio != raster_.devicePixelRatio())
         raster_.setDevicePixelRatio(ratio);
@@ -69,13 +71,39 @@ void PictureBox::moveToSurface(QPainter& painter, QPoint place) const {
                       (std::round(now.dy()) - now.dy()) / ratio);
 }
 
-QString PictureBox::readableText() const {
-    return page::readableText(recording_, id_);
+const page::ReadablePage& PictureBox::readablePage() const {
+    if (!readable_)
+        readable_ = std::make_unique<const page::ReadablePage>(recording_, id_);
+    return *readable_;
+}
+
+void PictureBox::forgetReadable() {
+    ++drawing_;
+    readable_.reset();
 }
 
 void PictureBox::setMarks(Marks marks) {
     marks_ = std::move(marks);
     update();
+}
+
+void PictureBox::setSelection(std::vector<QRectF> areas) {
+    selection_ = std::move(areas);
+    update();
+}
+
+/// As one region, so that letters which overlap are tinted once.
+void PictureBox::paintSelection(QPainter& painter) const {
+    if (selection_.empty())
+        return;
+    QRegion selected;
+    for (const QRectF& area : selection_)
+        selected += area.toAlignedRect();
+    painter.save();
+    painter.setCompositionMode(QPainter::CompositionMode_Multiply);
+    for (const QRect& part : selected)
+        painter.fillRect(part, QColor::fromRgb(kSelectionTint));
+    painter.restore();
 }
 
 /// The tints are multiplied with what is drawn: letters stay as dark as they are. A frame tells the
@@ -135,6 +163,7 @@ void PictureBox::paintEvent(QPaintEvent* event) {
         paintMargin(painter, event->rect());
         painter.restore();
     }
+    paintSelection(painter);
     paintMarks(painter, exposed.adjusted(-1, -1, 1, 1));
 }
 

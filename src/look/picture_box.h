@@ -2,12 +2,14 @@
 
 #include "output/raster/raster_surface.h"
 #include "page/faces/font_book.h"
+#include "page/readable_page.h"
 #include "page/recording.h"
 
 #include <QPointer>
 #include <QRectF>
 #include <QWidget>
 
+#include <memory>
 #include <vector>
 
 namespace look {
@@ -65,6 +67,9 @@ public:
     /// to the window alone: no recording and no paper has them.
     void setMarks(Marks marks);
 
+    /// Shows text as selected, given in logical pixels of the surface; as marks otherwise.
+    void setSelection(std::vector<QRectF> areas);
+
     /// The control that shows paintMargin() around this one, and goes with it.
     void setRim(QWidget* rim) { rim_ = rim; }
     /// Has it painted anew.
@@ -79,14 +84,20 @@ public:
     /// Height of the page on it, in pixels.
     int pageHeightPx() const;
 
-    /// The text on the surface, line by line.
-    QString readableText() const;
+    /// What was drawn when showDrawing() was called last, as a document; until the next drawing.
+    const page::ReadablePage& readablePage() const;
+    /// Its text.
+    QString readableText() const { return readablePage().text(); }
+    /// Counts the drawings: what was read of one that is gone is gone too.
+    int drawing() const { return drawing_; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
     void paintMarks(QPainter& painter, const QRect& exposed) const;
+    void paintSelection(QPainter& painter) const;
+    void forgetReadable();
 
     const page::Recording& recording_;
     page::SurfaceId id_;
@@ -96,7 +107,10 @@ private:
     int controlsFoot_ = 0;
     bool followsPage_ = false;
     Marks marks_;
+    std::vector<QRectF> selection_;
     QPointer<QWidget> rim_;
+    int drawing_ = 0;
+    mutable std::unique_ptr<const page::ReadablePage> readable_; ///< made when it is asked for
 };
 
 } // namespace look

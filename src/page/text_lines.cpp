@@ -11,11 +11,6 @@ namespace {
 /// Gap, in twips, from which two runs of a line count as separate words.
 constexpr double kWordGap = 30;
 
-/// A shadow is the same text, drawn just before, as far to the side as below or above.
-bool isShadow(const TextOperation& before, const TextOperation& text) {
-    return before.text == text.text && before.y != text.y && before.y - text.y == before.x - text.x;
-}
-
 double foot(const TextOperation& run) {
     return run.y + fontPixels(run.font.points) * 15.0;
 }
@@ -39,6 +34,10 @@ void add(TextLine& line, const TextOperation& run) {
 constexpr std::size_t kOpenLines = 64;
 
 } // namespace
+
+bool isShadow(const TextOperation& before, const TextOperation& text) {
+    return before.text == text.text && before.y != text.y && before.y - text.y == before.x - text.x;
+}
 
 bool isApart(const TextOperation& run, double end) {
     return run.x > end + kWordGap;
@@ -95,23 +94,24 @@ private:
     Runs runs_;
 };
 
-TextLines::TextLines(const Recording& recording, SurfaceId surface, const CaptionLayout& layOut) {
-    arrange(Gathering(recording, surface, layOut, captions_).runs());
-}
+TextLines::TextLines(const Recording& recording, SurfaceId surface, const CaptionLayout& layOut)
+    : lines_(arrangedInLines(Gathering(recording, surface, layOut, captions_).runs())) {}
 
-void TextLines::arrange(const Runs& runs) {
+std::vector<TextLine> arrangedInLines(const std::vector<const TextOperation*>& runs) {
+    std::vector<TextLine> lines;
     for (const TextOperation* run : runs) {
         const auto open =
-            lines_.rbegin() + static_cast<std::ptrdiff_t>(std::min(lines_.size(), kOpenLines));
-        const auto found = std::find_if(lines_.rbegin(), open,
+            lines.rbegin() + static_cast<std::ptrdiff_t>(std::min(lines.size(), kOpenLines));
+        const auto found = std::find_if(lines.rbegin(), open,
                                         [&](const TextLine& line) { return takes(line, *run); });
-        add(found != open ? *found : lines_.emplace_back(), *run);
+        add(found != open ? *found : lines.emplace_back(), *run);
     }
-    std::stable_sort(lines_.begin(), lines_.end(),
+    std::stable_sort(lines.begin(), lines.end(),
                      [](const TextLine& a, const TextLine& b) { return a.top < b.top; });
-    for (TextLine& line : lines_)
+    for (TextLine& line : lines)
         std::stable_sort(line.runs.begin(), line.runs.end(),
                          [](const auto* a, const auto* b) { return a->x < b->x; });
+    return lines;
 }
 
 } // namespace page

@@ -20,6 +20,13 @@ struct TextLine {
 /// two count as separate words.
 bool isApart(const TextOperation& run, double end);
 
+/// Whether a text is the shadow of the one drawn just after it: the same text, as far to the side
+/// as below or above.
+bool isShadow(const TextOperation& before, const TextOperation& text);
+
+/// Runs, given in drawing order, as lines from top to bottom.
+std::vector<TextLine> arrangedInLines(const std::vector<const TextOperation*>& runs);
+
 /// The lines of text that stand on a surface since it was last cleared, from top to bottom. Links
 /// are controls on top of it, which clearing leaves in place: their captions are part of the lines
 /// they stand in. The text below which a shadow lies is there once.
@@ -39,8 +46,6 @@ public:
 private:
     using Runs = std::vector<const TextOperation*>;
     class Gathering;
-
-    void arrange(const Runs& runs);
 
     std::deque<TextOperation> captions_; ///< stay in place while it grows
     std::vector<TextLine> lines_;

@@ -1,5 +1,6 @@
 #include "viewer/link_accessible.h"
 
+#include "look/picture_accessible.h"
 #include "viewer/link_widget.h"
 
 #include <QAccessible>
@@ -19,6 +20,10 @@ LinkAccessible::LinkAccessible(LinkWidget* link) : QAccessibleWidget(link, QAcce
 
 void LinkAccessible::install() {
     QAccessible::installFactory(makeInterface); // known factories are not added again
+}
+
+QAccessibleInterface* LinkAccessible::parent() const {
+    return look::PictureAccessible::parentOf(*widget());
 }
 
 QString LinkAccessible::text(QAccessible::Text kind) const {

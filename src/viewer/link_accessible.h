@@ -14,6 +14,8 @@ public:
     /// Makes Qt ask for this class; only the first call counts.
     static void install();
 
+    /// The paragraph that the link stands in, or the page.
+    QAccessibleInterface* parent() const override;
     QString text(QAccessible::Text kind) const override;
     QAccessible::State state() const override;
     QStringList actionNames() const override;

@@ -17,7 +17,9 @@
 #include "viewer/chapter_bar.h"
 #include "viewer/cover.h"
 #include "viewer/find_bar.h"
+#include "viewer/page_code.h"
 #include "viewer/page_finder.h"
+#include "viewer/page_selection.h"
 #include "viewer/rail.h"
 #include "viewer/toolbar.h"
 #include "viewer/video_frame.h"
@@ -110,6 +112,9 @@ void Multim::addControls() {
 
     finder_ = std::make_unique<PageFinder>(PageFinder::Parts{
         *findBar, *panel_, {PictureTEXTE_, PICTUREILLUS_, titre_}, shown_.recording, fonts_});
+    selection_ = new PageSelection(*PictureTEXTE_, fonts_, [this] {
+        return parts_ ? pageCode(parts_->pages.record().TextID.toInt()) : QString();
+    });
     setVideoLayout(videoLayout_);
     panel_->fitView();
     button("Command2").setLastingMnemonic(u'S');

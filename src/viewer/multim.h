@@ -35,6 +35,7 @@ namespace viewer {
 class ChapterBar;
 class Cover;
 class PageFinder;
+class PageSelection;
 class Rail;
 class Toolbar;
 class VideoFrame;
@@ -216,6 +217,7 @@ private:
     look::PictureBox* PICTUREILLUS_ = nullptr;
     look::PictureBox* titre_ = nullptr;
     std::unique_ptr<PageFinder> finder_;
+    PageSelection* selection_ = nullptr;
     QString summaryCode_; ///< the tag of Command2
 
     bool startUpDone_ = false;

@@ -11,6 +11,7 @@
 #include "viewer/chapter_bar.h"
 #include "viewer/multim.h"
 #include "viewer/page_finder.h"
+#include "viewer/page_selection.h"
 #include "viewer/rail.h"
 #include "viewer/toolbar.h"
 #include "viewer/video_frame.h"
@@ -162,6 +163,8 @@ void Multim::Command14_Click() {
 }
 
 void Multim::keyPressEvent(QKeyEvent* event) {
+    if (!working_ && selection_->takeKey(*event))
+        return;
     const auto command = keyCommand(event->key(), event->modifiers());
     if (command)
         perform(*command);

@@ -2,12 +2,14 @@
 
 #include "look/button.h"
 #include "look/page_panel.h"
+#include "look/picture_accessible.h"
 #include "look/picture_box.h"
 #include "look/scroll_bar.h"
 #include "look/tool_tip.h"
 #include "viewer/chapter_bar.h"
 #include "viewer/multim.h"
 #include "viewer/page_finder.h"
+#include "viewer/page_selection.h"
 #include "viewer/rail.h"
 #include "viewer/video_frame.h"
 
@@ -47,6 +49,7 @@ void Multim::hideScrollBarAndVideoFrame() {
 
 void Multim::clearPictures() {
     finder_->pageGoes();
+    selection_->clear();
     shown_ = {};
     for (look::PictureBox* box : {PictureTEXTE_, PICTUREILLUS_, titre_})
         box->empty();
@@ -90,6 +93,8 @@ void Multim::fitPage() {
     parts_->collaborators.links.show();
     panel_->fitPage();
     finder_->pageStands();
+    for (look::PictureBox* box : {PictureTEXTE_, PICTUREILLUS_, titre_})
+        look::PictureAccessible::tellNewPage(*box);
     QAccessibleEvent changed(PictureTEXTE_, QAccessible::NameChanged);
     QAccessible::updateAccessibility(&changed);
 }

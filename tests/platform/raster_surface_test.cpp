@@ -117,7 +117,7 @@ TEST_F(Raster, readableTextFollowsTheLines) {
     surface.setPenX(6000);
     surface.print(QStringLiteral("à droite"));
     surface.setPenX(0);
-    surface.setPenY(400);
+    surface.setPenY(800);
     surface.setFace(QStringLiteral("Symbol"));
     surface.print(QStringLiteral("l"));
     EXPECT_EQ(page::readableText(recording, SurfaceId::PictureTexte),

@@ -1,0 +1,141 @@
+#include "viewer/page_selection.h"
+
+#include "look/picture_box.h"
+#include "page/twips.h"
+
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMouseEvent>
+
+#include <optional>
+
+namespace viewer {
+
+namespace {
+
+using Step = page::TextSelection::Step;
+
+std::optional<Step> stepOf(int key) {
+    switch (key) {
+    case Qt::Key_Left:
+        return Step::Left;
+    case Qt::Key_Right:
+        return Step::Right;
+    case Qt::Key_Up:
+        return Step::Up;
+    case Qt::Key_Down:
+        return Step::Down;
+    default:
+        return {};
+    }
+}
+
+} // namespace
+
+PageSelection::PageSelection(look::PictureBox& box, const page::TextMetrics& metrics,
+                             std::function<QString()> address)
+    : QObject(&box), box_(box), metrics_(metrics), address_(std::move(address)) {
+    box.installEventFilter(this);
+}
+
+void PageSelection::clear() {
+    selection_ = {};
+    isDragging_ = false;
+    box_.setSelection({});
+}
+
+bool PageSelection::takeKey(const QKeyEvent& event) {
+    const auto modifiers = event.modifiers() & ~Qt::KeyboardModifiers(Qt::KeypadModifier);
+    if (const auto step = stepOf(event.key()); step && modifiers == Qt::ShiftModifier) {
+        selection_.extend(*step, box_.readablePage(), metrics_);
+        show();
+        return true;
+    }
+    if (event.matches(QKeySequence::SelectAll)) {
+        selection_.selectAll(box_.readablePage());
+        show();
+        return true;
+    }
+    if (event.matches(QKeySequence::Copy)) {
+        copy();
+        return true;
+    }
+    return false;
+}
+
+/// What was copied before stays when nothing is selected.
+void PageSelection::copy() const {
+    if (!selection_.isEmpty())
+        QGuiApplication::clipboard()->setText(selection_.text(box_.readablePage()));
+}
+
+void PageSelection::show() {
+    std::vector<QRectF> pixels;
+    for (const QRectF& area : selection_.areas(box_.readablePage(), metrics_))
+        pixels.emplace_back(area.topLeft() / page::kTwipsPerPixel,
+                            area.size() / page::kTwipsPerPixel);
+    box_.setSelection(std::move(pixels));
+}
+
+qsizetype PageSelection::positionAt(QPoint pixels) const {
+    const QPointF onSurface = pixels - QPoint(box_.inset(), box_.inset());
+    return textPositionAt(box_.readablePage(), onSurface * page::kTwipsPerPixel, metrics_);
+}
+
+bool PageSelection::mouse(const QMouseEvent& event) {
+    if (event.type() == QEvent::MouseMove) {
+        if (!isDragging_)
+            return false;
+        selection_.extendTo(positionAt(event.position().toPoint()));
+        show();
+        return false; // the links want to know of it too
+    }
+    if (event.button() != Qt::LeftButton)
+        return false;
+    isDragging_ = event.type() == QEvent::MouseButtonPress;
+    if (!isDragging_)
+        return true;
+    const qsizetype at = positionAt(event.position().toPoint());
+    if (event.modifiers() & Qt::ShiftModifier)
+        selection_.extendTo(at);
+    else
+        selection_.begin(at);
+    show();
+    return true;
+}
+
+bool PageSelection::eventFilter(QObject* watched, QEvent* event) {
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseMove:
+        return mouse(*static_cast<QMouseEvent*>(event));
+    case QEvent::ContextMenu: {
+        const auto* asked = static_cast<QContextMenuEvent*>(event);
+        openMenu(asked->globalPos(), asked->reason() == QContextMenuEvent::Keyboard);
+        return true;
+    }
+    default:
+        return QObject::eventFilter(watched, event);
+    }
+}
+
+void PageSelection::openMenu(QPoint at, bool byKey) {
+    auto* menu = new QMenu(&box_);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->setObjectName(QStringLiteral("pageMenu"));
+    menu->setAccessibleName(QStringLiteral("Texte de la page"));
+    QAction* copying = menu->addAction(QStringLiteral("Copier"), this, [this] { copy(); });
+    copying->setEnabled(!selection_.isEmpty());
+    QAction* address = menu->addAction(QStringLiteral("Copier l’adresse de la page"), this, [this] {
+        QGuiApplication::clipboard()->setText(address_());
+    });
+    menu->popup(at);
+    if (byKey)
+        menu->setActiveAction(copying->isEnabled() ? copying : address);
+}
+
+} // namespace viewer
