@@ -171,7 +171,7 @@ private:
     VerdictLine* verdict_ = nullptr;
     Summary* summary_ = nullptr;
     look::Notice* notice_ = nullptr; ///< over the question, when there are no questions
-    QString caption_; ///< of the question, while the summary has another
+    QString caption_;                ///< of the question, while the summary has another
     look::PagePanel* frame1_ = nullptr;
     look::PictureBox* Picture2_ = nullptr;
     Strip* Picture1_ = nullptr;

@@ -32,8 +32,7 @@ TEST_F(Program, helpsInFrenchWithExamples) {
     for (const QString& name : names) {
         const Outcome help = run({name, "--help"});
         EXPECT_EQ(help.code, 0);
-        for (const char* words :
-             {"Usage : orvalente-cours ", "Affiche cette aide", "\nExemples :"})
+        for (const char* words : {"Usage : orvalente-cours ", "Affiche cette aide", "\nExemples :"})
             EXPECT_THAT(help.out, HasSubstr(words)) << name.toStdString();
         EXPECT_THAT(help.out, testing::Not(testing::ContainsRegex(
                                   "REQUIRED|Subcommand|Positional|TEXT[^E]")));
