@@ -92,11 +92,15 @@ QString entryHtml(const SummaryEntry& entry) {
 } // namespace
 
 SummaryEntry summaryEntry(const WrongAnswer& answer, const markup::DrawingTools& tools) {
-    const markup::DrawnPage drawn = markup::drawPage(
-        {QString::fromStdU16String(answer.source), markup::DrawnAs::Question}, tools);
+    const auto drawnOf = [&](const std::u16string& source) {
+        return markup::drawPage({QString::fromStdU16String(source), markup::DrawnAs::Question},
+                                tools);
+    };
     SummaryEntry entry;
     entry.question = answer.question;
-    entry.asked = firstLine(page::readableText(drawn.recording, page::SurfaceId::Picture2));
+    entry.asked =
+        firstLine(page::readableText(drawnOf(answer.asked).recording, page::SurfaceId::Picture2));
+    const markup::DrawnPage drawn = drawnOf(answer.asked + answer.siFaux);
     setAnswers(answer, drawn, entry);
     const auto& link = drawn.fields.Labelien;
     if (link.visible) {

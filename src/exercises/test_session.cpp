@@ -149,7 +149,7 @@ std::vector<WrongAnswer> TestSession::wrongAnswers() {
         if (!isAnsweredWrong(test_, question))
             continue;
         records_.moveTo(shared_.PendingExerciseChapter, static_cast<std::int16_t>(question));
-        wrong.push_back({question, records_.type(), records_.question() + records_.siFaux(),
+        wrong.push_back({question, records_.type(), records_.question(), records_.siFaux(),
                          test_.GivenAnswers.valueOr(question, {}),
                          records_.solution().value_or(u"")});
     }

@@ -3,6 +3,7 @@
 #include "coursetool/build.h"
 #include "coursetool/extract.h"
 #include "coursetool/workspace.h"
+#include "support/course_compiler.h"
 
 #include <random>
 
@@ -165,7 +166,8 @@ TEST(RandomCourses, keepEveryValueThatIsNotNamed) {
 TEST(DemonstrationCourse, comesBackFromItsBuild) {
     Workspace work;
     coursetool::Report report;
-    ASSERT_TRUE(coursetool::build(DEMONSTRATION_COURSE, work.path("old"), report));
+    ASSERT_TRUE(coursetool::build(DEMONSTRATION_COURSE, work.path("old"), report,
+                                  test_support::courseCompiler()));
     coursetool::extract(work.path("old"), work.path("src"), report);
     ASSERT_TRUE(coursetool::build(work.path("src"), work.path("new"), report));
     EXPECT_EQ(textOf(report), "");

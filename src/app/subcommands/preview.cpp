@@ -15,6 +15,7 @@ struct Preview : Subcommand {
     void declare(Options& options) override {
         options.argument("SRC", source, "Dossier des sources");
         options.option("--scale", "F", scale, "Agrandit tout F fois (de 1 à 4), ou auto");
+        options.example("orvalente-cours preview mon-cours");
         options.footer("Un fichier enregistré est aussitôt à l’écran. Ctrl+clic sur la page écrit "
                        "fichier:ligne ;\nun clic sur une faute copie fichier:ligne:colonne.");
     }
