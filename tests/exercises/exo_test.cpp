@@ -1,5 +1,6 @@
 #include "exercises/exo_case.h"
 #include "exercises/exo_opener.h"
+#include "exercises/small_test.h"
 #include "look/scroll_bar.h"
 #include "support/plain_words.h"
 
@@ -9,32 +10,6 @@
 
 namespace exercises::test {
 namespace {
-
-/// Three boxes, the first and last to be ticked; a blank line separates the comment.
-const char16_t kBoxes[] = u"##SI12\r\nCochez.¶\r\n"
-                          u"##PIX048\r\n##EXOCK\r\nle verre¶\r\n##PIY010\r\n"
-                          u"##PIX048\r\n##EXOCK\r\nH\r\n##IND2\r\nO liquide¶\r\n##PIY010\r\n"
-                          u"##PIX048\r\n##EXOCK\r\nl’air¶\r\n";
-const char16_t kOptions[] = u"##SI12\r\n##PIX048\r\n##EXOOP\r\noui¶\r\n##PIY010\r\n"
-                            u"##PIX048\r\n##EXOOP\r\nnon¶\r\n";
-const char16_t kTyped[] = u"##SI12\r\nUnité : \r\n##EXOTX\r\n.¶\r\n";
-const char16_t kComment[] = u"##PIY010\r\nRelisez.¶\r\n##EXOLIRevoir la page#12\r\n¶\r\n";
-
-class Test : public ExoCase {
-protected:
-    void SetUp() override {
-        write({description(3, u"Les milieux", number(4))},
-              {question(301, 1, u"10100", kBoxes, kComment),
-               question(302, 2, u"01000", kOptions, kComment),
-               question(303, 3, u"ohm", kTyped, kComment),
-               question(304, 1, u"00000", kBoxes, kComment)});
-    }
-
-    void openAt(std::int16_t question) {
-        state.CurrentQuestion = question;
-        openWindow();
-    }
-};
 
 TEST_F(Test, aRightAnswerLeadsToTheNextQuestion) {
     openAt(1);
@@ -160,85 +135,6 @@ TEST_F(Test, aTypedAnswerHasItsVerdictBesideIt) {
     click("Command3");
     EXPECT_EQ(control<QWidget>("verdict").accessibleName(), u"Réponse juste");
     EXPECT_EQ(colours(), QColor(0x1c, 0x75, 0x40));
-}
-
-using Finished = Test;
-
-TEST_F(Finished, isSummedUpWithTheWaysOn) {
-    state.QuestionState.store(1, -1);
-    state.GivenAnswers.store(1, u"01000");
-    state.QuestionState.store(3, -1);
-    state.GivenAnswers.store(3, u"<b>volt</b>");
-    state.QuestionState.store(4, 1);
-    openAt(2);
-    EXPECT_FALSE(control("bilan").isVisible());
-    click("Option1_1");
-    click("command5");
-    ASSERT_EQ(messageBoxes.messages.back().title, u"Test terminé");
-    auto& text = control<QTextBrowser>("summaryText");
-    ASSERT_TRUE(text.isVisible());
-    EXPECT_FALSE(area().isVisible());
-    EXPECT_EQ(text.toPlainText().remove(QChar(QChar::ObjectReplacementCharacter)),
-              QStringLiteral("2 réponses justes sur 4. À revoir :\n"
-                             "Question 1 – Cochez.\n"
-                             " Votre réponse : H2O liquide\n"
-                             " Bonne réponse : le verre ; l’air\n"
-                             "Revoir la page\n"
-                             "Question 3 – Unité : .\n"
-                             " Votre réponse : <b>volt</b>\n"
-                             " Bonne réponse : ohm\n"
-                             "Revoir la page"));
-
-    const auto follow = [&](const char* link) {
-        Q_EMIT text.anchorClicked(QUrl(QString::fromLatin1(link)));
-    };
-    follow("question:3");
-    EXPECT_EQ(control<QLabel>("noa").text(), u"Question 3 / 4 :");
-    EXPECT_TRUE(area().isVisible());
-    EXPECT_FALSE(text.isVisible());
-    click("bilan");
-    ASSERT_TRUE(text.isVisible());
-    follow("page:12");
-    EXPECT_FALSE(exo->isVisible());
-    EXPECT_EQ(shared.ExerciseReturnPage, 12);
-    EXPECT_EQ(shared.PendingExerciseChapter, 3);
-    openWindow();
-    EXPECT_TRUE(control("bilan").isVisible());
-}
-
-TEST_F(Finished, isTakenAgainAsAWholeOrWhereItWasWrong) {
-    for (const int question : {1, 2, 3, 4})
-        state.QuestionState.store(question, question % 2 ? 1 : -1);
-    openAt(4);
-    click("bilan");
-    click("wrongAnswers");
-    EXPECT_EQ(state.CurrentQuestion, 2);
-    EXPECT_TRUE(control("command5").isVisible());
-    EXPECT_FALSE(control("bilan").isVisible());
-    click("Option1_1");
-    click("command5");
-    EXPECT_EQ(state.CurrentQuestion, 4);
-    EXPECT_EQ(verdict(3), 1);
-    click("command5"); // nothing is to be ticked in the last
-    auto& text = control<QTextBrowser>("summaryText");
-    EXPECT_EQ(text.toPlainText().trimmed().right(32), u"Toutes vos réponses sont justes.");
-    EXPECT_FALSE(control("wrongAnswers").isVisible());
-    click("wholeTest");
-    EXPECT_EQ(state.CurrentQuestion, 1);
-    for (const int question : {1, 2, 3, 4})
-        EXPECT_EQ(verdict(question), 0);
-    EXPECT_FALSE(control("command6").isVisible());
-    EXPECT_EQ(shared.PendingExerciseChapter, 3);
-}
-
-// The comment on it is read first; the summary waits behind its button.
-TEST_F(Finished, byAWrongAnswerItShowsTheCorrection) {
-    for (const int question : {1, 3, 4})
-        state.QuestionState.store(question, 1);
-    openAt(2);
-    click("command5");
-    EXPECT_TRUE(area().readableText().contains(u"Relisez."));
-    EXPECT_TRUE(control("bilan").isVisible());
 }
 
 TEST_F(Test, theKeyboardReachesEverything) {
@@ -450,73 +346,6 @@ TEST_F(QuestionLinks, lookLikeText) {
     }
     EXPECT_NE(shown[0].pixelColor(33, 12), shown[0].pixelColor(199, 39)) << "an I, and paper";
     EXPECT_EQ(shown[0], shown[1]);
-}
-
-using BadInput = ExoCase;
-
-TEST_F(BadInput, leavesTheWindowUsable) {
-    std::u16string crowd = u"##SI2048\r\n##EXOTX\r\n##EXOTX\r\n##POY999\r\n";
-    for (int i = 0; i < 9; ++i)
-        crowd += u"##EXOOP\r\n##EXOCK\r\n##PIX-99\r\n";
-    crowd += u"##EXOLI#\r\n##EXOVI#x\r\n##OBJILLUS\r\n##EXOOP\r\n";
-    const struct {
-        jet::Value count, type, solution, source;
-    } rows[] = {
-        {number(0), number(1), jet::Value(u"1"), jet::Value(kBoxes)},
-        {number(-3), number(1), jet::Value(u"abcde"), jet::Value(kBoxes)},
-        {number(150), number(7), jet::Value(u"10000"), jet::Value(kTyped)},
-        {jet::Value(), jet::Value(), jet::Value(), jet::Value()},
-        {number(100), number(2), jet::Value(u"1111111111"), jet::Value(crowd)},
-    };
-    for (const auto& row : rows) {
-        shared.PendingExerciseChapter = 3;
-        state = {};
-        write({{number(3), jet::Value(u"x"), row.count}},
-              {{jet::Value(301), row.type, row.solution, row.source, row.source}});
-        openWindow();
-        EXPECT_TRUE(exo->isVisible());
-        control("command5").click();
-        control("command4").click();
-        QTest::mouseClick(&control<QWidget>("Picture1"), Qt::LeftButton, {}, {5, 519});
-        exo->grab();
-        messageBoxes.answers = {platform::Answer::Yes};
-        control("Image2").click();
-        EXPECT_FALSE(exo->isVisible());
-        messageBoxes.answers.clear();
-    }
-}
-
-TEST_F(BadInput, aQuestionThatLeavesItsAreaTouchesNoPage) {
-    auto* page = bench.control<look::PictureBox>("PictureTEXTE");
-    const auto seen = [&] {
-        page->showDrawing(); // as when the window comes to a screen of another density
-        return std::tuple(page->grab().toImage(), page->readableText(), page->pageHeightPx(),
-                          bench.window.windowTitle());
-    };
-    const auto before = seen();
-    write({{number(3), jet::Value(u"x"), number(1)}},
-          {{jet::Value(301), number(2), jet::Value(u"1"),
-            jet::Value(u"##EXOOP\r\nici¶\r\n##OBJTIT\r\nailleurs¶\r\n##OBJPRINCIPAL\r\n"
-                       u"##PLOUF\r\nailleurs¶\r\n##VIDEOa.avi\r\n##TITBARx\r\n"),
-            jet::Value()}});
-    shared.PendingExerciseChapter = 3;
-    openWindow();
-    EXPECT_EQ(area().readableText().trimmed(), QStringLiteral("ici"));
-    EXPECT_TRUE(seen() == before);
-}
-
-TEST_F(BadInput, aMissingDatabaseIsSaidInTheWindow) {
-    openWindow();
-    EXPECT_EQ(control<QLabel>("noa").text(), u"Question 1 / 0 :");
-    const QString said = control<QTextBrowser>("noticeText").toPlainText();
-    EXPECT_TRUE(control<QWidget>("notice").isVisible());
-    EXPECT_TRUE(said.contains(folder.path() + QStringLiteral("/qekx.mdb"))) << said.toStdString();
-    EXPECT_TRUE(said.contains(QStringLiteral("absente du dossier"))) << said.toStdString();
-    EXPECT_TRUE(said.contains(QStringLiteral("Réinstallez le cours")));
-    control("command5").click();
-    messageBoxes.answers = {platform::Answer::Yes};
-    control("Image2").click();
-    EXPECT_FALSE(exo->isVisible());
 }
 
 } // namespace
