@@ -1,6 +1,20 @@
 """Numbers of the exercises on sound, light and lenses, and of their answers: see check_numbers.py."""
 
+import math
+
 SOUND = 340  # m/s
+LIGHT = 3.00e8  # m/s
+
+
+def sine(degrees):
+    return math.sin(math.radians(degrees))
+
+
+def arcsine(value):
+    return math.degrees(math.asin(value))
+
+
+PTOLEMY = [8, 15.5, 22.5, 29, 35, 40.5, 45.5, 50]  # degrees in water for 10, 20, ... 80 in air
 
 RESULTS = [
     ("221", "40 dB, soit quatre fois 10 dB : l'intensité est multipliée par 10 × 10 × 10 × 10 = {10 000}", [10**4]),
@@ -13,4 +27,20 @@ RESULTS = [
     ("221", "13 487 / 340 = {40} s", [13487 / SOUND]),
     ("221", "340 × 0,0089 = {3,0} m", [SOUND * 0.0089]),
     ("221", "(2,00)/(0,0059) = {3,4 × 10^2}", [2 / 0.0059]),
+    ("222", "(0,866)/(0,574) = {1,51}", [sine(60) / sine(35)]),
+    ("222", "({0,866})/({0,574})", [sine(60), sine(35)]),
+    ("222", "(sin 19°) = ({0,500})/({0,326}) = {1,53}", [sine(30), sine(19), 0.500 / 0.326]),
+    ("222", "(sin 45°)/(1,5) = {0,47} i_2 = {28}°", [sine(45) / 1.5, arcsine(sine(45) / 1.5)]),
+    ("222", "1,33 × sin 30° = {0,665} i_2 = {41,7}°", [1.33 * sine(30), arcsine(1.33 * sine(30))]),
+    ("222", "1,33 × sin 60° = {1,15} >", [1.33 * sine(60)]),
+    ("222", "l'angle limite, {48,8}°", [arcsine(1 / 1.33)]),
+    ("222", "(3,00 × 10^8 × 2,56)/(2) = {3,84 × 10^8} m", [LIGHT * 2.56 / 2]),
+    ("222", "(3,00 × 10^8 × 2 × 10^−10)/(2) = {0,03} m", [LIGHT * 2e-10 / 2]),
+    ("222", "il augmente de {7,5}°, puis de {7}° ; {6,5}° ; {6}° ; {5,5}° ; {5}° ; {4,5}°.",
+     [b - a for a, b in zip(PTOLEMY, PTOLEMY[1:])]),
+    ("222", "sin i_2 {0,376} {0,651} {0,740}", [sine(a) / 1.33 for a in (30, 60, 80)]),
+    ("222", "Snell-Descartes {22,1}° {40,6}° {47,8}°", [arcsine(sine(a) / 1.33) for a in (30, 60, 80)]),
+    ("222", "(3,00 × 10^8)/(1,50) = {2,00 × 10^8} m/s", [LIGHT / 1.5]),
+    ("222", "= {0,030} s t = (2 × 3,6 × 10^7)/(3,00 × 10^8) = {0,24} s", [6e6 / 2e8, 7.2e7 / LIGHT]),
+    ("222", "(1,46)/(1,50) = {0,973} θ = {76,7}°", [1.46 / 1.5, arcsine(1.46 / 1.5)]),
 ]
