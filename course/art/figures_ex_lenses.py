@@ -1,6 +1,6 @@
 """Figures of the exercises on lenses and the eye: rays to judge, an image to construct, a curve to read."""
 
-from drawing import BLUE, GREEN, INK, LINE, MUTED, ORANGE, RED, RULE, SMALL, VIOLET, Drawing, Plot
+from drawing import BLUE, GREEN, INK, LINE, MUTED, ORANGE, RED, RULE, SMALL, Drawing, Plot
 from figures_light import lens
 
 # Of the rays to judge: focal length, distance of the object, its height; no unit.
@@ -86,7 +86,7 @@ def squared(solved):
         way(d, [b, place(0, TALL), place(far, low)], RED)
         way(d, [b, place(0, 0), place(far, low)], GREEN)
         way(d, [b, place(0, low), place(far, low)], ORANGE)
-        d.arrow(*place(far, 0), *place(far, low), VIOLET, 2.6)
+        d.arrow(*place(far, 0), *place(far, low), BLUE, 2.6)
         d.text(place(far, 0)[0] + 8, y - 6, "A′", bold=True)
         d.text(place(far, 0)[0] + 10, place(0, low)[1] + 5, "B′", bold=True)
     mark(d, *place(-FOCAL, 0), "F")
