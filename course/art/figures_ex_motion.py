@@ -1,10 +1,15 @@
 """Figures of the exercises on describing a motion, and on inertia: positions, journeys, speeds to read."""
 
+import math
+
 from drawing import (BALL, BLUE, EDGE, GREEN, INK, LINE, MUTED, RULE, SMALL, SPEED, Drawing, Plot, french)
 
 INTERVAL = 0.50  # s between two pictures of the bicycle
 BICYCLE = [0, 3.0, 6.0, 9.0, 11.4, 13.2, 14.4]  # m
 WAY_TO_SCHOOL = [(0, 0), (10, 0.80), (15, 0.80), (25, 5.00)]  # minutes, kilometres
+
+LIFT = [(0, 0), (2, 1.5), (8, 1.5), (10, 0)]  # seconds, metres a second
+CAR, TURN = 12, 60  # speed of the car in m/s, degrees that it turns between two positions
 
 
 def speed_of_bicycle(picture):
@@ -58,4 +63,47 @@ def way_to_school():
     return d
 
 
-FIGURES = {"ex-velo": lambda: bicycle(False), "ex-velo-vecteurs": lambda: bicycle(True), "ex-trajet": way_to_school}
+def lift():
+    d = Drawing(520, 236, "Vitesse d’un ascenseur en fonction du temps : elle augmente de 0 à 1,5 mètre par seconde en 2 "
+                          "secondes, reste constante jusqu’à 8 secondes, et revient à 0 à 10 secondes")
+    plot = Plot(d, 62, 36, 380, 150, (0, 10), (0, 2))
+    plot.axes(1, 0.5, "*t* (s)", "*v* (m/s)", 0, 1)
+    d.curve([plot.at(*point) for point in LIFT], SPEED, 2.4)
+    return d
+
+
+def bend(solved):
+    d = Drawing(575 if solved else 440, 210,
+                "Une voiture dans un virage, à deux positions : deux vecteurs vitesse de même longueur, le second tourné de 60 "
+                "degrés" + (" ; leur différence est dirigée vers l’intérieur du virage" if solved else ""))
+    x, y, radius = 190, 226, 148
+    along = lambda degrees, far: (x + far * math.cos(math.radians(degrees)), y - far * math.sin(math.radians(degrees)))
+    for far in (radius - 17, radius + 17):
+        d.curve([along(degrees, far) for degrees in range(16, 165)], EDGE, 1.4)
+    d.curve([along(degrees, radius) for degrees in range(16, 165)], RULE, 1, "6 5")
+    long = 7.0 * CAR  # seven pixels for 1 m/s
+    for name, degrees, dx, dy in (("1", 90 + TURN / 2, -14, -8), ("2", 90 - TURN / 2, 4, -14)):
+        car = along(degrees, radius)
+        way = math.radians(degrees - 90)
+        tip = car[0] + long * math.cos(way), car[1] - long * math.sin(way)
+        d.circle(*car, 6, BALL, BLUE)
+        d.arrow(*car, *tip, SPEED)
+        d.text(tip[0] + dx, tip[1] + dy, f"~*v*~_{{{name}}}", 15, SPEED)
+        d.text(*along(degrees, radius - 40), name, 15, BLUE, "middle", True)
+    if not solved:
+        d.span(372, 190, 372 + 28, 190, SPEED)
+        d.text(408, 194, "4 m/s", SMALL, SPEED, "start")
+        return d
+    start, long = (446, 104), 8.0 * CAR
+    tips = [(start[0] + long * math.cos(math.radians(way)), start[1] - long * math.sin(math.radians(way)))
+            for way in (TURN / 2, -TURN / 2)]
+    for name, tip, dy in (("1", tips[0], -12), ("2", tips[1], 26)):
+        d.arrow(*start, *tip, SPEED)
+        d.text((start[0] + tip[0]) / 2 - 8, (start[1] + tip[1]) / 2 + dy, f"~*v*~_{{{name}}}", 15, SPEED, "middle")
+    d.arrow(*tips[0], *tips[1], INK)
+    d.text(tips[0][0] + 6, start[1] + 80, "~*v*~_{2} − ~*v*~_{1}", 15, INK, "middle")
+    return d
+
+
+FIGURES = {"ex-velo": lambda: bicycle(False), "ex-velo-vecteurs": lambda: bicycle(True), "ex-trajet": way_to_school,
+           "ex-ascenseur": lift, "ex-virage": lambda: bend(False), "ex-virage-vecteurs": lambda: bend(True)}
