@@ -18,8 +18,9 @@ def turned(x, y, long, degrees):
 
 
 def three_mistakes():
-    d = Drawing(575, 222, "Trois dessins faux : une lampe au repos, la force du fil plus courte que le poids ; une bille sur "
-                          "un plan incliné, la force du plan verticale ; un ballon en vol, une force du pied dessus")
+    d = Drawing(575, 222,
+                "Trois dessins faux : une lampe au repos, la force du fil plus courte que le poids ; une bille sur "
+                "un plan incliné, la force du plan verticale ; un ballon en vol, une force du pied dessus")
     for x in (194, 384):
         d.line(x, 8, x, 214, RULE, 1)
     # The lamp.
@@ -58,13 +59,11 @@ def three_mistakes():
 
 
 def weights():
-    d = Drawing(540, 302, "Poids en fonction de la masse sur trois astres : trois droites qui passent par l’origine ; à 5 "
-                          "kilogrammes, 49 newtons sur A, 18,5 sur B, 8 sur C")
-    plot = Plot(d, 62, 36, 390, 216, (0, 5), (0, 50))
+    d = Drawing(540, 256,
+                "Poids en fonction de la masse sur trois astres : trois droites qui passent par l’origine ; à 5 "
+                "kilogrammes, 49 newtons sur A, 18,5 sur B, 8 sur C")
+    plot = Plot(d, 62, 36, 390, 170, (0, 5), (0, 50))
     plot.axes(0.5, 5, "*m* (kg)", "*P* (N)", 0, 0, labels=(2, 2))
-    for newtons in range(1, 50):
-        y = plot.at(0, newtons)[1]
-        d.line(62, y, 66, y, EDGE, 1)
     for name, strength, ink in WORLDS:
         plot.curve(lambda mass: strength * mass, ink, 0, 5, 2)
         x, y = plot.at(5, strength * 5)
@@ -73,8 +72,9 @@ def weights():
 
 
 def sledge():
-    d = Drawing(540, 246, "Une luge sur une pente de 25 degrés et le triangle fermé des forces : poids 60 newtons, force de la "
-                          "pente 54 newtons, force de la corde 25 newtons")
+    d = Drawing(540, 246,
+                "Une luge sur une pente de 25 degrés et le triangle fermé des forces : poids 60 newtons, force de "
+                "la pente 54 newtons, force de la corde 25 newtons")
     x, y = 26, 214
     top = turned(x, y, 254, SLOPE)
     d.area([(x, y), top, (top[0], y)], GROUND, EDGE)
@@ -110,8 +110,9 @@ def sledge():
 
 
 def clothes_line(solved):
-    d = Drawing(575 if solved else 420, 210, "Un jean pend au milieu d’une corde dont chaque moitié fait 30 degrés avec "
-                "l’horizontale" + (" ; les trois forces forment un triangle équilatéral" if solved else ""))
+    d = Drawing(575 if solved else 420, 210,
+                "Un jean pend au milieu d’une corde dont chaque moitié fait 30 degrés avec l’horizontale"
+                + (" ; les trois forces forment un triangle équilatéral" if solved else ""))
     left, right, high = 40, 360, 34
     middle = (left + right) / 2, high + (right - left) / 2 * math.tan(math.radians(SAG))
     for x in (left, right):
@@ -124,8 +125,8 @@ def clothes_line(solved):
     d.arc(x, y, 62, 0, SAG, GREEN)
     d.text(x + 72, y - 12, f"{SAG}°", ink=GREEN)
     if not solved:
-        d.area([(x - 17, y), (x + 17, y), (x + 20, y + 58), (x + 4, y + 58), (x, y + 22), (x - 4, y + 58), (x - 20, y + 58)],
-               BALL, BLUE)
+        d.area([(x - 17, y), (x + 17, y), (x + 20, y + 58), (x + 4, y + 58), (x, y + 22),
+                (x - 4, y + 58), (x - 20, y + 58)], BALL, BLUE)
         return d
     unit = 6.4  # pixels a newton
     for name, degrees, dx, dy in (("P", 270, 8, 0), ("T_{1}", 180 - SAG, -2, -8), ("T_{2}", SAG, -8, -10)):

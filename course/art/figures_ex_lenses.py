@@ -37,8 +37,9 @@ def way(d, points, ink, line=1.8):
 
 def wrong_ray():
     focal, distance, tall = JUDGED
-    d = Drawing(575, 220, "Trois rayons partis de B : 1, parallèle à l’axe, ressort par F′ ; 2 passe par O tout droit ; "
-                          "3 passe par F et ressort par F′, ce qui est faux")
+    d = Drawing(575, 220,
+                "Trois rayons partis de B : 1, parallèle à l’axe, ressort par F′ ; 2 passe par O tout droit ; 3 "
+                "passe par F et ressort par F′, ce qui est faux")
     x, y, scale, up = 300, 108, 10.4, 11
     place = lambda along, across: (x + scale * along, y - up * across)
     axis(d, y, 14, 562)
@@ -63,10 +64,10 @@ def wrong_ray():
 
 
 def squared(solved):
-    title = ("Sur un quadrillage, l’image construite par trois rayons : à 15 centimètres de la lentille, renversée, haute "
-             "de 3 centimètres" if solved else
-             "Sur un quadrillage, une lentille, ses foyers à deux carreaux de part et d’autre, et un objet haut de trois "
-             "carreaux à six carreaux d’elle")
+    title = ("Sur un quadrillage, l’image construite par trois rayons : à 15 centimètres de la lentille, "
+             "renversée, haute de 3 centimètres" if solved else
+             "Sur un quadrillage, une lentille, ses foyers à deux carreaux de part et d’autre, et un objet "
+             "haut de trois carreaux à six carreaux d’elle")
     d = Drawing(460, 262, title)
     side, columns, rows = 28, 15, 8
     left, top = 20, 8
@@ -100,8 +101,9 @@ def squared(solved):
 
 
 def curve_of_a_lens():
-    d = Drawing(540, 300, "Distance de l’écran à la lentille en fonction de celle de l’objet : 60 centimètres pour 30, 40 "
-                          "pour 40 ; la courbe descend vers 20 centimètres")
+    d = Drawing(540, 300,
+                "Distance de l’écran à la lentille en fonction de celle de l’objet : 60 centimètres pour 30, 40 "
+                "pour 40 ; la courbe descend vers 20 centimètres")
     plot = Plot(d, 62, 36, 400, 210, (0, 100), (0, 120))
     plot.axes(10, 10, "de l’objet à la lentille (cm)", "de la lentille à l’écran (cm)", labels=(1, 2))
     plot.curve(lambda distance: image(BENCH, distance), BLUE, 24, 100)

@@ -4,10 +4,12 @@ import math
 
 from drawing import (BALL, BLUE, EDGE, GREEN, INK, LINE, MUTED, RULE, SMALL, SPEED, Drawing, Plot, french)
 
+# A bicycle that brakes, and a way to school.
 INTERVAL = 0.50  # s between two pictures of the bicycle
 BICYCLE = [0, 3.0, 6.0, 9.0, 11.4, 13.2, 14.4]  # m
 WAY_TO_SCHOOL = [(0, 0), (10, 0.80), (15, 0.80), (25, 5.00)]  # minutes, kilometres
 
+# A lift, and a car in a bend.
 LIFT = [(0, 0), (2, 1.5), (8, 1.5), (10, 0)]  # seconds, metres a second
 CAR, TURN = 12, 60  # speed of the car in m/s, degrees that it turns between two positions
 
@@ -46,11 +48,12 @@ def bicycle(solved):
 
 
 def way_to_school():
-    d = Drawing(520, 270, "Distance parcourue en fonction du temps : 0,80 kilomètre en 10 minutes, un arrêt de 5 minutes, "
-                          "puis 5,00 kilomètres à 25 minutes")
-    plot = Plot(d, 62, 36, 380, 184, (0, 25), (0, 5))
+    d = Drawing(520, 192,
+                "Distance parcourue en fonction du temps : 0,80 kilomètre en 10 minutes, un arrêt de 5 minutes, "
+                "puis 5,00 kilomètres à 25 minutes")
+    plot = Plot(d, 62, 30, 380, 110, (0, 25), (0, 5))
     plot.axes(5, 1, "*t* (min)", "*d* (km)")
-    for tenths in range(2, 50, 2):
+    for tenths in range(5, 50, 5):
         y = plot.at(0, tenths / 10)[1]
         if tenths % 10:
             d.line(62, y, 66, y, EDGE, 1)
@@ -64,8 +67,9 @@ def way_to_school():
 
 
 def lift():
-    d = Drawing(520, 236, "Vitesse d’un ascenseur en fonction du temps : elle augmente de 0 à 1,5 mètre par seconde en 2 "
-                          "secondes, reste constante jusqu’à 8 secondes, et revient à 0 à 10 secondes")
+    d = Drawing(520, 236,
+                "Vitesse d’un ascenseur en fonction du temps : elle augmente de 0 à 1,5 mètre par seconde en 2 "
+                "secondes, reste constante jusqu’à 8 secondes, et revient à 0 à 10 secondes")
     plot = Plot(d, 62, 36, 380, 150, (0, 10), (0, 2))
     plot.axes(1, 0.5, "*t* (s)", "*v* (m/s)", 0, 1)
     d.curve([plot.at(*point) for point in LIFT], SPEED, 2.4)
@@ -74,8 +78,9 @@ def lift():
 
 def bend(solved):
     d = Drawing(575 if solved else 440, 210,
-                "Une voiture dans un virage, à deux positions : deux vecteurs vitesse de même longueur, le second tourné de 60 "
-                "degrés" + (" ; leur différence est dirigée vers l’intérieur du virage" if solved else ""))
+                "Une voiture dans un virage, à deux positions : deux vecteurs vitesse de même longueur, le "
+                "second tourné de 60 degrés"
+                + (" ; leur différence est dirigée vers l’intérieur du virage" if solved else ""))
     x, y, radius = 190, 226, 148
     along = lambda degrees, far: (x + far * math.cos(math.radians(degrees)), y - far * math.sin(math.radians(degrees)))
     for far in (radius - 17, radius + 17):

@@ -19,8 +19,9 @@ WATER_INDEX, POOL = 1.33, (30, 60)
 
 
 def three_sounds():
-    d = Drawing(575, 186, "Trois oscillogrammes de huit divisions : deux périodes de A, grande amplitude ; quatre "
-                          "périodes de B, petite amplitude ; deux périodes de C, d’une autre forme")
+    d = Drawing(575, 186,
+                "Trois oscillogrammes de huit divisions : deux périodes de A, grande amplitude ; quatre périodes de"
+                " B, petite amplitude ; deux périodes de C, d’une autre forme")
     cell, top = 21, 30
     for index, (name, period, amplitude, partials, ink) in enumerate(SOUNDS):
         left = 14 + 190 * index
@@ -43,8 +44,9 @@ def three_sounds():
 
 
 def line_of_claps():
-    d = Drawing(520, 262, "Distance en fonction du retard : quatre points sont sur une droite qui passe par "
-                          "l’origine, le cinquième est à l’écart")
+    d = Drawing(520, 262,
+                "Distance en fonction du retard : quatre points sont sur une droite qui passe par l’origine, le "
+                "cinquième est à l’écart")
     plot = Plot(d, 62, 34, 380, 176, (0, 10), (0, 3.5))
     plot.axes(1, 0.5, "Δ*t* (ms)", "*d* (m)", 0, 1)
     plot.curve(lambda ms: 0.340 * ms, BLUE, 0, 10, 2)
@@ -57,8 +59,9 @@ def line_of_claps():
 
 
 def unknown_lamp():
-    d = Drawing(575, 136, "Spectre d’une lampe, de 400 à 700 nanomètres : cinq raies sur fond noir, à 410, 434, "
-                          "486, 589 et 656 nanomètres")
+    d = Drawing(575, 136,
+                "Spectre d’une lampe, de 400 à 700 nanomètres : cinq raies sur fond noir, à 410, 434, 486, 589 et "
+                "656 nanomètres")
     left, wide = 24, 525
     place = lambda nanometres: left + wide * (nanometres - 400) / 300
     d.rect(left, 12, wide, 46, "#101010")
@@ -80,8 +83,9 @@ def direction(degrees):
 
 
 def protractor():
-    d = Drawing(420, 318, "Un rayon arrive sur la face plane d’un demi-disque de plastique, au centre d’un rapporteur : "
-                          "60 degrés d’un côté de la normale dans l’air, 35 degrés dans le plastique")
+    d = Drawing(420, 318,
+                "Un rayon arrive sur la face plane d’un demi-disque de plastique, au centre d’un rapporteur : 60 "
+                "degrés d’un côté de la normale dans l’air, 35 degrés dans le plastique")
     x, y, radius = 210, 158, 116
     d.path(f"M{x - 88} {y}A88 88 0 0 0 {x + 88} {y}Z", EDGE, LINE, WATER)
     for degrees in range(0, 360, 5):
@@ -105,8 +109,9 @@ def protractor():
 
 
 def pool():
-    d = Drawing(520, 254, "Deux rayons d’une lampe sous l’eau : à 30 degrés de la normale l’un sort à 41,7 degrés, à "
-                          "60 degrés l’autre est réfléchi totalement")
+    d = Drawing(520, 254,
+                "Deux rayons d’une lampe sous l’eau : à 30 degrés de la normale l’un sort à 41,7 degrés, à 60 "
+                "degrés l’autre est réfléchi totalement")
     surface, deep = 98, 132
     d.rect(10, surface, 500, 148, WATER)
     d.line(10, surface, 510, surface, BLUE, LINE)
@@ -121,7 +126,8 @@ def pool():
         long = 104
         d.arrow(at, surface, at + long * right, surface + long * down, RED, 2)
         d.arc(at, surface, 36, 270 - degrees, 270, GREEN)
-        d.text(at - 4 - 0.5 * degrees, surface + (66 if degrees < 45 else 52), f"{degrees}°", ink=GREEN, anchor="middle")
+        d.text(at - 4 - 0.5 * degrees, surface + (66 if degrees < 45 else 52), f"{degrees}°", ink=GREEN,
+               anchor="middle")
         if sine <= 1:
             d.arc(at, surface, 44, 90 - math.degrees(math.asin(sine)), 90, GREEN)
             d.text(at + 5, surface - 52, "41,7°", ink=GREEN)
