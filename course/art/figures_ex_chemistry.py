@@ -1,0 +1,45 @@
+"""Figures of the exercises in chemistry; what is read from them is computed again in check_numbers_ex_chemistry.py."""
+
+from drawing import (BLUE, EDGE, INK, IVORY, MUTED, SMALL, Drawing, french)
+
+# The plate of the syrup: centimetres of the ruler beside it, whose zero is not at the start.
+START, FRONT = 1.0, 8.0
+YELLOW, GREEN_SPOT, CYAN = "#e3c01c", "#3b9a4b", "#2f8fd0"
+SYRUP = {"S": ((5.9, YELLOW), (3.1, CYAN)), "1": ((5.9, YELLOW),), "2": ((4.5, GREEN_SPOT),), "3": ((3.1, CYAN),)}
+
+
+def ruler(d, x, zero, scale, count):
+    """Upright, its zero at `zero`; a long line each centimetre, a short one each fifth of it."""
+    d.rect(x, zero - scale * count - 8, 34, scale * count + 16, "#f3e6c4", EDGE, 1.2, 2)
+    for step in range(5 * count + 1):
+        y = zero - scale * step / 5
+        long = step % 5 == 0
+        d.line(x, y, x + (12 if long else 7), y, INK, 1)
+        if long:
+            d.text(x + 22, y + 4, str(step // 5), SMALL, INK, "middle")
+
+
+def syrup():
+    d = Drawing(420, 224, "Plaque de chromatographie d’un sirop de menthe, graduée par une règle : dépôt à 1,0 "
+                          "centimètre, front à 8,0 ; le sirop donne deux taches, à 3,1 et 5,9 centimètres ; les "
+                          "colorants 1, 2 et 3 une tache chacun, à 5,9, 4,5 et 3,1 centimètres")
+    scale, zero, left = 23.0, 208, 120
+    place = lambda centimetres: zero - scale * centimetres
+    d.rect(left, place(8.7), 200, zero - place(8.7), IVORY, EDGE, 1.4)
+    for height, ink in ((START, MUTED), (FRONT, BLUE)):
+        d.line(left, place(height), left + 200, place(height), ink, 1.2, "3 3")
+    d.text(left + 208, place(FRONT) + 4, "front", SMALL, BLUE)
+    d.text(left + 208, place(START) + 4, "ligne de dépôt", SMALL, MUTED)
+    for index, (name, spots) in enumerate(SYRUP.items()):
+        x, y = left + 28 + 48 * index, place(START)
+        d.path(f"M{x - 3} {y}h6M{x} {y - 3}v6", MUTED, 1.2)
+        d.text(x, y + 18, name, 13, INK, "middle", True)
+        for height, fill in spots:
+            d.parts.append(f'<ellipse cx="{x}" cy="{place(height):.1f}" rx="10" ry="6.5" fill="{fill}"/>')
+            d.line(left, place(height), x - 10, place(height), "#c9c2ae", 0.8, "2 3")
+    ruler(d, 84, zero, scale, 8)
+    d.text(76, place(8) + 4, "cm", SMALL, MUTED, "end")
+    return d
+
+
+FIGURES = {"plaque-sirop": syrup}
