@@ -29,4 +29,36 @@ MIXTURES = [
     ("228", "51,8 / 314 = {0,16} cm", [CROWN / GOLD / VASE]),
 ]
 
-RESULTS = MIXTURES
+# C2: the straight line of the sugar, as in figures_ex_chemistry.py; the salt basin, m² and g/L; the neck, cm.
+PURE, RISE, DENSITY = 0.998, 0.000385, 103.9 / 100
+SUGAR = (DENSITY - PURE) / RISE
+BASIN, DEPTH, SEA, SATURATED = 2000, 0.050, 35, 320
+SALT = BASIN * DEPTH * 1000 * SEA
+NECK, WIDE = math.pi * 0.60 ** 2 * 0.50, math.pi * 2.5 ** 2 * 0.50
+
+SOLUTIONS = [
+    ("229", "50 × 0,500 = {25} g", [50 * 0.5]),
+    ("229", "50 × 0,120 = {6,0} g", [50 * 0.12]),
+    ("229", "{19} g dans {0,380} L, et 19 / 0,380 = {50} g/L", [25 - 6, 0.5 - 0.12, 19 / 0.38]),
+    ("229", "12,0 × 0,2500 = {3,00} g", [12 * 0.25]),
+    ("229", "à {0,4} près, contre {1,1}", [7 - 6.6, 8.1 - 7]),
+    ("229", "800 / 8 = {100} g/L", [800 / 8]),
+    ("229", "200 / 8 = {25} mL de sirop, et {175} mL", [200 / 8, 200 - 200 / 8]),
+    ("229", "20 / 6 = {3,3}", [20 / 6]),
+    ("229", "103,9 / 100,0 = {1,039} g/mL", [DENSITY]),
+    ("229", "on descend : c_m = {106} g/L", [SUGAR]),
+    ("229", "106 × 0,33 = {35} g", [SUGAR * 0.33]),
+    ("229", "(9,0 × 10,0)/(40) = {2,25} mL et de même {2,50} mL et {2,75} mL",
+     [9 * 10 / 40, 10 * 10 / 40, 11 * 10 / 40]),
+    ("229", "{0,18} g/L < c_m < {0,20} g/L", [20 * 9e-3, 20 * 10e-3]),
+    ("229", "soit {1,0 × 10^5} L", [BASIN * DEPTH * 1000]),
+    ("229", "= {3,5 × 10^6} g c'est-à-dire {3,5} t", [SALT, SALT / 1e6]),
+    ("229", "320 = {1,1 × 10^4} L, ou {11} m^3", [SALT / SATURATED, SALT / SATURATED / 1000]),
+    ("229", "11 / 2 000 = {0,0055} m, {5,5} mm", [SALT / SATURATED / 1000 / BASIN, SALT / SATURATED / BASIN]),
+    ("229", "0,60^2 × 0,50 = {0,57} mL", [NECK]),
+    ("229", "2,5^2 × 0,50 = {9,8} mL", [WIDE]),
+    ("229", "(0,500)/(0,10057) = {4,97} g/L (0,500)/(0,1098) = {4,55} g/L",
+     [500 / (100 + NECK), 500 / (100 + WIDE)]),
+]
+
+RESULTS = MIXTURES + SOLUTIONS

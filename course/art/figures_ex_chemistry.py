@@ -1,11 +1,14 @@
 """Figures of the exercises in chemistry; what is read from them is computed again in check_numbers_ex_chemistry.py."""
 
-from drawing import (BLUE, EDGE, INK, IVORY, MUTED, SMALL, Drawing, french)
+from drawing import BLUE, EDGE, INK, IVORY, MUTED, SMALL, Drawing, Plot
 
 # The plate of the syrup: centimetres of the ruler beside it, whose zero is not at the start.
 START, FRONT = 1.0, 8.0
 YELLOW, GREEN_SPOT, CYAN = "#e3c01c", "#3b9a4b", "#2f8fd0"
 SYRUP = {"S": ((5.9, YELLOW), (3.1, CYAN)), "1": ((5.9, YELLOW),), "2": ((4.5, GREEN_SPOT),), "3": ((3.1, CYAN),)}
+
+# Sugar in water at 20 °C: g/mL without sugar, and for each g/L more.
+PURE, RISE = 0.998, 0.000385
 
 
 def ruler(d, x, zero, scale, count):
@@ -42,4 +45,15 @@ def syrup():
     return d
 
 
-FIGURES = {"plaque-sirop": syrup}
+def sweetness():
+    d = Drawing(560, 268, "Masse volumique de solutions de sucre en fonction de leur concentration en masse, de 0 à 200 "
+                          "grammes par litre : une droite, de 0,998 à 1,075 gramme par millilitre")
+    plot = Plot(d, 74, 32, 440, 190, (0, 200), (0.99, 1.08))
+    plot.axes(10, 0.01, "*c*_{m} (g/L)", "*ρ* (g/mL)", y_decimals=2, labels=(2, 1))
+    plot.curve(lambda sugar: PURE + RISE * sugar, BLUE, count=2)
+    for sugar in range(0, 201, 50):
+        d.cross(*plot.at(sugar, round(PURE + RISE * sugar, 3)))
+    return d
+
+
+FIGURES = {"plaque-sirop": syrup, "soda-etalonnage": sweetness}
