@@ -1,6 +1,7 @@
 """Figures of the exercises in chemistry; what is read from them is computed again in check_numbers_ex_chemistry.py."""
 
-from drawing import BLUE, EDGE, INK, IVORY, MUTED, SMALL, Drawing, Plot
+from drawing import BLUE, EDGE, INK, IVORY, MUTED, ORANGE, SMALL, Drawing, Plot
+from figures_atoms import bond, pair
 
 # The plate of the syrup: centimetres of the ruler beside it, whose zero is not at the start.
 START, FRONT = 1.0, 8.0
@@ -56,4 +57,51 @@ def sweetness():
     return d
 
 
-FIGURES = {"plaque-sirop": syrup, "soda-etalonnage": sweetness}
+# Molecules as a pupil may draw them: symbols and their places, bonds (two atoms, how many), free pairs (atom,
+# degrees). A lacks a pair, C has only four electrons round its carbon; B and D are right.
+DRAWN = {
+    "A": ([("H", 0, 0), ("C", 36, 0), ("N", 72, 0)], [(0, 1, 1), (1, 2, 3)], []),
+    "B": ([("H", 5, 22), ("C", 36, 4), ("H", 67, 22), ("O", 36, -32)], [(0, 1, 1), (1, 2, 1), (1, 3, 2)],
+          [(3, 145), (3, 35)]),
+    "C": ([("O", 0, 0), ("C", 36, 0), ("O", 72, 0)], [(0, 1, 1), (1, 2, 1)],
+          [(0, 90), (0, 180), (0, 270), (2, 90), (2, 0), (2, 270)]),
+    "D": ([("H", 0, 0), ("O", 36, 0), ("O", 72, 0), ("H", 108, 0)], [(0, 1, 1), (1, 2, 1), (2, 3, 1)],
+          [(1, 90), (1, 270), (2, 90), (2, 270)]),
+}
+
+
+def drawn_molecules():
+    d = Drawing(575, 128, "Quatre schémas proposés par des élèves. A : H, C et N, une liaison simple puis une triple, sans "
+                          "doublet non liant. B : C lié à deux H et, par une liaison double, à O, qui a deux doublets non "
+                          "liants. C : O, C et O, deux liaisons simples, trois doublets non liants à chaque O. D : H, O, O et "
+                          "H, des liaisons simples, deux doublets non liants à chaque O")
+    for x, (name, (atoms, bonds, pairs)) in zip((40, 176, 308, 432), DRAWN.items()):
+        for symbol, right, down in atoms:
+            d.text(x + right, 58 + down, symbol, 17, INK, "middle", True)
+        for one, other, count in bonds:
+            bond(d, x + atoms[one][1], 52 + atoms[one][2], x + atoms[other][1], 52 + atoms[other][2], count)
+        for atom, angle in pairs:
+            pair(d, x + atoms[atom][1], 52 + atoms[atom][2], angle)
+        places = [right for _, right, _ in atoms]
+        d.text(x + (min(places) + max(places)) / 2, 114, name, 15, BLUE, "middle", True)
+    return d
+
+
+# Grams a mole, and where the name of the metal stands beside its line, in grams.
+METALS = {"aluminium": (26.98, 108, BLUE), "fer": (55.85, 120, ORANGE), "plomb": (207.2, 120, INK)}
+
+
+def metals():
+    d = Drawing(560, 256, "Quantité de matière de trois métaux en fonction de leur masse, de 0 à 120 grammes : des droites "
+                          "qui passent par l’origine ; 54 grammes d’aluminium ou 112 grammes de fer font 2 moles")
+    plot = Plot(d, 60, 32, 380, 180, (0, 120), (0, 4))
+    plot.axes(10, 0.5, "*m* (g)", "*n* (mol)", y_decimals=1, labels=(2, 2))
+    for name, (molar, end, ink) in METALS.items():
+        plot.curve(lambda mass: mass / molar, ink, 0, end, 2)
+        x, y = plot.at(end, end / molar)
+        d.text(x + 8, y + 5, name, ink=ink, bold=True)
+    return d
+
+
+FIGURES = {"plaque-sirop": syrup, "soda-etalonnage": sweetness, "lewis-a-juger": drawn_molecules,
+           "moles-trois-metaux": metals}
