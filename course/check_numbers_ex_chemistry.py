@@ -110,4 +110,29 @@ COUNTING = [
     ("211", "en fait {3,1 × 10^21}", [5.0 * 0.92 / 885 * AVOGADRO]),
 ]
 
-RESULTS = MIXTURES + SOLUTIONS + ATOMS + COUNTING
+# C5: J/kg of melting and of boiling water, J for a gram and a degree of water and of steel.
+MELTING, BOILING, WATER, STEEL = 3.34e5, 2.26e6, 4.18, 0.50
+LOST = 1000 * 500 / (400 - 300) * 480  # J/kg, as the graph has it
+BLACK = 20 * WATER * 3.9  # J/g
+
+CHANGES = [
+    ("232", "3,34 × 10^5 = {6,7 × 10^5} J", [2 * MELTING]),
+    ("232", "/ 1 500 = {4,5 × 10^2} s", [2 * MELTING / 1500]),
+    ("232", "4,18 × 85 = {7,1 × 10^5} J", [2000 * WATER * 85]),
+    ("232", "500 × 480 = {2,4 × 10^5} J", [500 * 480]),
+    ("232", "0,100 = {2,4 × 10^6} J/kg", [LOST]),
+    ("232", "(2,4 − 2,26)/(2,26) = {0,06}, soit {6} %", [LOST / BOILING - 1, 100 * (LOST / BOILING - 1)]),
+    ("232", "2,4 × 10^6 = {1,9 × 10^6} J", [0.8 * 2.4e6]),
+    ("232", "/ 3 600 = {5,3 × 10^2} J", [0.8 * 2.4e6 / 3600]),
+    ("232", "1,83 × 2,0 = {3,7} g", [44.01 / 24.05 * 2]),
+    ("212", "(g/L) {1,20} {1,83} {0,71} {0,17}", [molar / 24.05 for molar in (28.96, 44.01, 17.03, 4.003)]),
+    ("232", "100 × 0,50 × 23 = {1,15 × 10^3} J", [100 * STEEL * 23]),
+    ("232", "0,100 × 3,34 × 10^5 = {3,34 × 10^4} J", [0.1 * MELTING]),
+    ("232", "(300 × 4,18) = {0,92}", [100 * STEEL * 23 / (300 * WATER)]),
+    ("232", "4,18 × 3,9 = {16,3} J", [WATER * 3.9]),
+    ("232", "20 × 16,3 = {326} J par gramme", [BLACK]),
+    ("232", "L = {3,3 × 10^5} J/kg", [1000 * BLACK]),
+    ("232", "à {2} % près", [100 * (1 - 1000 * BLACK / MELTING)]),
+]
+
+RESULTS = MIXTURES + SOLUTIONS + ATOMS + COUNTING + CHANGES

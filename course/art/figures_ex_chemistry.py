@@ -103,5 +103,23 @@ def metals():
     return d
 
 
+# Water that boils on a balance: grams at first, W, J/kg as it is found (a part of the heat is lost), and by how much
+# each reading is off, g.
+BOILING, HEATER, FOUND = 400, 500, 2.4e6
+OFF = (0, 1.5, -1, 0.5, -1.5, 1, 1.5, -1, 0, -1.5, 0.5)
+
+
+def boiling_away():
+    d = Drawing(560, 262, "Masse d’eau qui bout, en fonction du temps, chauffée par 500 watts : une droite qui descend de "
+                          "400 grammes au départ à 300 grammes après 8 minutes")
+    plot = Plot(d, 70, 32, 420, 186, (0, 10), (260, 400))
+    plot.axes(1, 20, "*t* (min)", "*m* (g)")
+    left = lambda minutes: BOILING - 1000 * HEATER * 60 * minutes / FOUND
+    plot.curve(left, BLUE, count=2)
+    for minutes, off in enumerate(OFF):
+        d.cross(*plot.at(minutes, left(minutes) + off))
+    return d
+
+
 FIGURES = {"plaque-sirop": syrup, "soda-etalonnage": sweetness, "lewis-a-juger": drawn_molecules,
-           "moles-trois-metaux": metals}
+           "moles-trois-metaux": metals, "eau-qui-bout": boiling_away}
