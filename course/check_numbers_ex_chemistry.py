@@ -135,4 +135,26 @@ CHANGES = [
     ("232", "à {2} % près", [100 * (1 - 1000 * BLACK / MELTING)]),
 ]
 
-RESULTS = MIXTURES + SOLUTIONS + ATOMS + COUNTING + CHANGES
+# C6: recipes that each store is enough for; mol of acid in the vinegar; mol of oxygen in the tent.
+STORES = {"flour": 1000 / 250, "eggs": 6 / 4, "milk": 2.0 / 0.50}
+BAKED = min(STORES.values())
+ACID = 1.2 / 24
+TENT = 0.21 * 2000 / 24
+
+REACTIONS = [
+    ("233", "8 × 2 + 10 = {26} atomes d'oxygène, et 13 × 2 = {26}", [26, 26]),
+    ("233", "(1 000)/(250) = {4,0} (6)/(4) = {1,5} (2,0)/(0,50) = {4,0}", list(STORES.values())),
+    ("233", "1,5 × 16 = {24} crêpes", [BAKED * 16]),
+    ("233", "{625} g de farine et 2,0 − 1,5 × 0,50 = {1,25} L", [1000 - BAKED * 250, 2 - BAKED * 0.5]),
+    ("233", "0,080 − 0,050 = {0,030} mol", [0.080 - ACID]),
+    ("233", "0,050 × 24 = {1,2} L", [ACID * 24]),
+    ("233", "50 × 4,18 × 6,5 = {1,4 × 10^3} J", [50 * WATER * 6.5]),
+    ("233", "(3,6)/(6,0) = {0,60} et R_f = (1,2)/(6,0) = {0,20}", [3.6 / 6, 1.2 / 6]),
+    ("233", "28,4 − 12,4 = {16,0} g", [12.4 * 5 * 32.00 / (4 * 30.97)]),
+    ("233", "16,0 / 1,33 = {12,0} L", [16 / 1.33]),
+    ("233", "12,0 / 0,21 = {57} L", [16 / 1.33 / 0.21]),
+    ("233", "420 / 24 = {17,5} mol", [TENT]),
+    ("233", "17,5 / 5 = {3,5}", [TENT / 5]),
+]
+
+RESULTS = MIXTURES + SOLUTIONS + ATOMS + COUNTING + CHANGES + REACTIONS

@@ -121,5 +121,23 @@ def boiling_away():
     return d
 
 
+# Vinegar and more and more bicarbonate: mol of acid, litres of gas a mole, how much each reading is off, L.
+ACID, GAS = 0.050, 24
+ERRORS = (0, 0.01, -0.02, 0.01, 0.02, -0.01, -0.01, 0.02, -0.01, 0.01, 0)
+
+
+def foaming():
+    d = Drawing(560, 262, "Volume de dioxyde de carbone dégagé en fonction de la quantité d’ions hydrogénocarbonate versée dans "
+                          "du vinaigre : il croît jusqu’à 1,2 litre pour 0,050 mole, puis ne change plus")
+    plot = Plot(d, 70, 32, 420, 186, (0, 0.10), (0, 1.4))
+    plot.axes(0.01, 0.2, "*n* (mol)", "*V* (L)", 2, 1, labels=(2, 1))
+    volume = lambda amount: GAS * min(amount, ACID)
+    d.curve([plot.at(amount, volume(amount)) for amount in (0, ACID, 0.10)], BLUE)
+    for step, off in enumerate(ERRORS):
+        d.cross(*plot.at(step / 100, volume(step / 100) + off))
+    return d
+
+
 FIGURES = {"plaque-sirop": syrup, "soda-etalonnage": sweetness, "lewis-a-juger": drawn_molecules,
-           "moles-trois-metaux": metals, "eau-qui-bout": boiling_away}
+           "moles-trois-metaux": metals, "eau-qui-bout": boiling_away,
+           "vinaigre-bicarbonate": foaming}
