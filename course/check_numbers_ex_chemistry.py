@@ -157,4 +157,29 @@ REACTIONS = [
     ("233", "17,5 / 5 = {3,5}", [TENT / 5]),
 ]
 
-RESULTS = MIXTURES + SOLUTIONS + ATOMS + COUNTING + CHANGES + REACTIONS
+# C7: thousands of years in which half of the carbon 14 goes; joules of the Sun, of coal and of its heart, seconds.
+HALF, YEAR = 5.7, 3.16e7
+BURNT, FUSED = 2.0e30 * 3e7 / 3.8e26, 2.0e29 * 6.4e14 / 3.8e26
+RIVER = 1.8e9 / (45e6 * WATER)
+
+NUCLEI = [
+    ("234", "60 − 27 = {33} iode 131 53 131 − 53 = {78} potassium 40 19 40 − 19 = {21}", [33, 78, 21]),
+    ("234", "avec {20} neutrons", [39 - 19]),
+    ("234", "2 + 2 − 3 = {1}, en bas 1 + 1 − 2 = {0}", [1, 0]),
+    ("234", "235 − 139 − 95 = {2} : deux neutrons, et en bas 54 + 38 = {92}", [2, 92]),
+    ("234", "A = 226 − 4 = {222} et Z = 88 − 2 = {86}", [222, 86]),
+    ("234", "8 × 10^10 / 3 = {2,7 × 10^10} J", [8e10 / 3]),
+    ("234", "(1,8 × 10^10) = {1,5} an", [8e10 / 3 / 1.8e10]),
+    ("234", "(3 × 10^4) = {3 × 10^6} g", [8e10 / 3e4]),
+    ("234", "à 50 % vers {5 700} ans, à 25 % vers {11 400} ans", [1000 * HALF, 2000 * HALF]),
+    ("234", "À 13 %, on lit {17} milliers", [HALF * math.log2(1 / 0.13)]),
+    ("234", "× 10^7 = {6 × 10^37} J", [2.0e30 * 3e7]),
+    ("234", "(3,8 × 10^26) = {1,6 × 10^11} s et 1,6 × 10^11 / (3,16 × 10^7) = {5 × 10^3}", [BURNT, BURNT / YEAR]),
+    ("234", "6,4 × 10^14 = {1,3 × 10^44} J", [2.0e29 * 6.4e14]),
+    ("234", "(3,8 × 10^26) = {3,4 × 10^17} s et 3,4 × 10^17 / (3,16 × 10^7) = {1,1 × 10^10}",
+     [FUSED, FUSED / YEAR]),
+    ("234", "4,18) = {9,6} °", [RIVER]),
+    ("234", "900 / 45 = {20}) : 9,6 / 20 = {0,48} °", [900 / 45, RIVER / 20]),
+]
+
+RESULTS = MIXTURES + SOLUTIONS + ATOMS + COUNTING + CHANGES + REACTIONS + NUCLEI

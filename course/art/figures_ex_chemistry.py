@@ -1,7 +1,7 @@
 """Figures of the exercises in chemistry; what is read from them is computed again in check_numbers_ex_chemistry.py."""
 
 from drawing import BLUE, EDGE, INK, IVORY, MUTED, ORANGE, SMALL, Drawing, Plot
-from figures_atoms import bond, pair
+from figures_atoms import NEUTRON, PROTON, bond, nucleus, pair
 
 # The plate of the syrup: centimetres of the ruler beside it, whose zero is not at the start.
 START, FRONT = 1.0, 8.0
@@ -138,6 +138,32 @@ def foaming():
     return d
 
 
+NUCLEI = {"A": (1, 2), "B": (2, 1), "C": (2, 2), "D": (3, 3)}  # protons, neutrons
+HALF = 5.7  # thousands of years, of carbon 14
+
+
+def four_nuclei():
+    d = Drawing(520, 118, "Quatre noyaux. A : un proton et deux neutrons. B : deux protons et un neutron. C : deux protons et "
+                          "deux neutrons. D : trois protons et trois neutrons")
+    for index, (name, (protons, neutrons)) in enumerate(NUCLEI.items()):
+        x = 56 + 92 * index
+        nucleus(d, x, 46, protons, neutrons, 12)
+        d.text(x, 108, name, 15, BLUE, "middle", True)
+    for y, fill, word in ((38, PROTON, "proton"), (64, NEUTRON, "neutron")):
+        d.circle(420, y - 5, 7, fill, EDGE, 0.9)
+        d.text(434, y, word)
+    return d
+
+
+def carbon_fourteen():
+    d = Drawing(560, 268, "Part du carbone 14 qui reste, en pour cent, en fonction du temps en milliers d’années : la moitié "
+                          "après 5 700 ans, le quart après 11 400 ans, un huitième après 17 100 ans")
+    plot = Plot(d, 60, 32, 430, 192, (0, 30), (0, 100))
+    plot.axes(1, 10, "*t* (milliers d’années)", "part restante (%)", labels=(5, 2))
+    plot.curve(lambda thousands: 100 * 0.5 ** (thousands / HALF), BLUE)
+    return d
+
+
 FIGURES = {"plaque-sirop": syrup, "soda-etalonnage": sweetness, "lewis-a-juger": drawn_molecules,
            "moles-trois-metaux": metals, "eau-qui-bout": boiling_away,
-           "vinaigre-bicarbonate": foaming}
+           "vinaigre-bicarbonate": foaming, "quatre-noyaux": four_nuclei, "carbone-14": carbon_fourteen}
