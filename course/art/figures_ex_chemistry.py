@@ -164,6 +164,6 @@ def carbon_fourteen():
     return d
 
 
-FIGURES = {"plaque-sirop": syrup, "soda-etalonnage": sweetness, "lewis-a-juger": drawn_molecules,
-           "moles-trois-metaux": metals, "eau-qui-bout": boiling_away,
-           "vinaigre-bicarbonate": foaming, "quatre-noyaux": four_nuclei, "carbone-14": carbon_fourteen}
+FIGURES = {"ex-plaque-sirop": syrup, "ex-soda-etalonnage": sweetness, "ex-lewis-a-juger": drawn_molecules,
+           "ex-moles-trois-metaux": metals, "ex-eau-qui-bout": boiling_away,
+           "ex-vinaigre-bicarbonate": foaming, "ex-quatre-noyaux": four_nuclei, "ex-carbone-14": carbon_fourteen}
