@@ -24,9 +24,10 @@ def ruler(d, x, zero, scale, count):
 
 
 def syrup():
-    d = Drawing(420, 224, "Plaque de chromatographie d’un sirop de menthe, graduée par une règle : dépôt à 1,0 "
-                          "centimètre, front à 8,0 ; le sirop donne deux taches, à 3,1 et 5,9 centimètres ; les "
-                          "colorants 1, 2 et 3 une tache chacun, à 5,9, 4,5 et 3,1 centimètres")
+    d = Drawing(420, 224, "Plaque de chromatographie d’un sirop de menthe, graduée par une règle : dépôt "
+                          "à 1,0 centimètre, front à 8,0 ; le sirop donne deux taches, à 3,1 et 5,9 "
+                          "centimètres ; les colorants 1, 2 et 3 une tache chacun, à 5,9, 4,5 et 3,1 "
+                          "centimètres")
     scale, zero, left = 23.0, 208, 120
     place = lambda centimetres: zero - scale * centimetres
     d.rect(left, place(8.7), 200, zero - place(8.7), IVORY, EDGE, 1.4)
@@ -47,8 +48,9 @@ def syrup():
 
 
 def sweetness():
-    d = Drawing(560, 268, "Masse volumique de solutions de sucre en fonction de leur concentration en masse, de 0 à 200 "
-                          "grammes par litre : une droite, de 0,998 à 1,075 gramme par millilitre")
+    d = Drawing(560, 268, "Masse volumique de solutions de sucre en fonction de leur concentration en "
+                          "masse, de 0 à 200 grammes par litre : une droite, de 0,998 à 1,075 gramme par "
+                          "millilitre")
     plot = Plot(d, 74, 32, 440, 190, (0, 200), (0.99, 1.08))
     plot.axes(10, 0.01, "*c*_{m} (g/L)", "*ρ* (g/mL)", y_decimals=2, labels=(2, 1))
     plot.curve(lambda sugar: PURE + RISE * sugar, BLUE, count=2)
@@ -71,10 +73,11 @@ DRAWN = {
 
 
 def drawn_molecules():
-    d = Drawing(575, 128, "Quatre schémas proposés par des élèves. A : H, C et N, une liaison simple puis une triple, sans "
-                          "doublet non liant. B : C lié à deux H et, par une liaison double, à O, qui a deux doublets non "
-                          "liants. C : O, C et O, deux liaisons simples, trois doublets non liants à chaque O. D : H, O, O et "
-                          "H, des liaisons simples, deux doublets non liants à chaque O")
+    d = Drawing(575, 128, "Quatre schémas proposés par des élèves. A : H, C et N, une liaison simple puis"
+                          " une triple, sans doublet non liant. B : C lié à deux H et, par une liaison "
+                          "double, à O, qui a deux doublets non liants. C : O, C et O, deux liaisons "
+                          "simples, trois doublets non liants à chaque O. D : H, O, O et H, des liaisons "
+                          "simples, deux doublets non liants à chaque O")
     for x, (name, (atoms, bonds, pairs)) in zip((40, 176, 308, 432), DRAWN.items()):
         for symbol, right, down in atoms:
             d.text(x + right, 58 + down, symbol, 17, INK, "middle", True)
@@ -92,8 +95,9 @@ METALS = {"aluminium": (26.98, 108, BLUE), "fer": (55.85, 120, ORANGE), "plomb":
 
 
 def metals():
-    d = Drawing(560, 256, "Quantité de matière de trois métaux en fonction de leur masse, de 0 à 120 grammes : des droites "
-                          "qui passent par l’origine ; 54 grammes d’aluminium ou 112 grammes de fer font 2 moles")
+    d = Drawing(560, 256, "Quantité de matière de trois métaux en fonction de leur masse, de 0 à 120 "
+                          "grammes : des droites qui passent par l’origine ; 54 grammes d’aluminium ou "
+                          "112 grammes de fer font 2 moles")
     plot = Plot(d, 60, 32, 380, 180, (0, 120), (0, 4))
     plot.axes(10, 0.5, "*m* (g)", "*n* (mol)", y_decimals=1, labels=(2, 2))
     for name, (molar, end, ink) in METALS.items():
@@ -110,8 +114,8 @@ OFF = (0, 1.5, -1, 0.5, -1.5, 1, 1.5, -1, 0, -1.5, 0.5)
 
 
 def boiling_away():
-    d = Drawing(560, 262, "Masse d’eau qui bout, en fonction du temps, chauffée par 500 watts : une droite qui descend de "
-                          "400 grammes au départ à 300 grammes après 8 minutes")
+    d = Drawing(560, 262, "Masse d’eau qui bout, en fonction du temps, chauffée par 500 watts : une "
+                          "droite qui descend de 400 grammes au départ à 300 grammes après 8 minutes")
     plot = Plot(d, 70, 32, 420, 186, (0, 10), (260, 400))
     plot.axes(1, 20, "*t* (min)", "*m* (g)")
     left = lambda minutes: BOILING - 1000 * HEATER * 60 * minutes / FOUND
@@ -127,8 +131,9 @@ ERRORS = (0, 0.01, -0.02, 0.01, 0.02, -0.01, -0.01, 0.02, -0.01, 0.01, 0)
 
 
 def foaming():
-    d = Drawing(560, 262, "Volume de dioxyde de carbone dégagé en fonction de la quantité d’ions hydrogénocarbonate versée dans "
-                          "du vinaigre : il croît jusqu’à 1,2 litre pour 0,050 mole, puis ne change plus")
+    d = Drawing(560, 262, "Volume de dioxyde de carbone dégagé en fonction de la quantité d’ions "
+                          "hydrogénocarbonate versée dans du vinaigre : il croît jusqu’à 1,2 litre pour "
+                          "0,050 mole, puis ne change plus")
     plot = Plot(d, 70, 32, 420, 186, (0, 0.10), (0, 1.4))
     plot.axes(0.01, 0.2, "*n* (mol)", "*V* (L)", 2, 1, labels=(2, 1))
     volume = lambda amount: GAS * min(amount, ACID)
@@ -143,8 +148,8 @@ HALF = 5.7  # thousands of years, of carbon 14
 
 
 def four_nuclei():
-    d = Drawing(520, 118, "Quatre noyaux. A : un proton et deux neutrons. B : deux protons et un neutron. C : deux protons et "
-                          "deux neutrons. D : trois protons et trois neutrons")
+    d = Drawing(520, 118, "Quatre noyaux. A : un proton et deux neutrons. B : deux protons et un neutron."
+                          " C : deux protons et deux neutrons. D : trois protons et trois neutrons")
     for index, (name, (protons, neutrons)) in enumerate(NUCLEI.items()):
         x = 56 + 92 * index
         nucleus(d, x, 46, protons, neutrons, 12)
@@ -156,8 +161,9 @@ def four_nuclei():
 
 
 def carbon_fourteen():
-    d = Drawing(560, 268, "Part du carbone 14 qui reste, en pour cent, en fonction du temps en milliers d’années : la moitié "
-                          "après 5 700 ans, le quart après 11 400 ans, un huitième après 17 100 ans")
+    d = Drawing(560, 268, "Part du carbone 14 qui reste, en pour cent, en fonction du temps en milliers "
+                          "d’années : la moitié après 5 700 ans, le quart après 11 400 ans, un huitième "
+                          "après 17 100 ans")
     plot = Plot(d, 60, 32, 430, 192, (0, 30), (0, 100))
     plot.axes(1, 10, "*t* (milliers d’années)", "part restante (%)", labels=(5, 2))
     plot.curve(lambda thousands: 100 * 0.5 ** (thousands / HALF), BLUE)
