@@ -13,6 +13,7 @@ from pathlib import Path
 import figures_atoms
 import figures_changes
 import figures_circuits
+import figures_ex_chemistry
 import figures_ex_circuits
 import figures_ex_forces
 import figures_ex_lenses
@@ -30,8 +31,8 @@ import figures_species
 
 CHAPTERS = [figures_measures, figures_motion, figures_forces, figures_inertia, figures_mixtures,
             figures_species, figures_solutions, figures_sound, figures_atoms, figures_changes,
-            figures_light, figures_circuits, figures_ex_waves, figures_ex_lenses, figures_ex_motion,
-            figures_ex_forces, figures_ex_circuits]
+             figures_light, figures_circuits, figures_ex_waves, figures_ex_lenses, figures_ex_motion,
+             figures_ex_forces, figures_ex_circuits, figures_ex_chemistry]
 
 
 def main(directory, *names):
