@@ -31,8 +31,8 @@ import figures_species
 
 CHAPTERS = [figures_measures, figures_motion, figures_forces, figures_inertia, figures_mixtures,
             figures_species, figures_solutions, figures_sound, figures_atoms, figures_changes,
-             figures_light, figures_circuits, figures_ex_waves, figures_ex_lenses, figures_ex_motion,
-             figures_ex_forces, figures_ex_circuits, figures_ex_chemistry]
+            figures_light, figures_circuits, figures_ex_waves, figures_ex_lenses, figures_ex_motion,
+            figures_ex_forces, figures_ex_circuits, figures_ex_chemistry]
 
 
 def main(directory, *names):
