@@ -39,9 +39,10 @@ def page_lines(source):
 
 
 def markdown_lines(source):
-    """The same of one in Markdown: runs of one line, without their formulas and raw directives."""
-    source = re.sub(r"^```directives\n.*?^```$", lambda block: "\n" * block[0].count("\n"), source,
+    """The same of one in Markdown: runs of one line, without formulas, programs and raw directives."""
+    source = re.sub(r"^```[a-z]+\n.*?^```$", lambda block: "\n" * block[0].count("\n"), source,
                     flags=re.S | re.M)
+    source = re.sub(r"`[^`\n]*`", " ", source)
     source = re.sub(r"\$\$.*?\$\$|\$[^$\n]*\$", lambda formula: "\n" * formula[0].count("\n") or " ", source,
                     flags=re.S)
     source = re.sub(r"(?<=\])\([^()]*\)", " ", source)
