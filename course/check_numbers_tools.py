@@ -1,4 +1,4 @@
-"""Numbers of the pages on graphs and on programs: see check_numbers.py."""
+"""Numbers of the pages on graphs and on programs, and of those for teachers: see check_numbers.py."""
 
 from statistics import mean, stdev
 
@@ -8,6 +8,8 @@ SLOPE = sum(mass * length for mass, length in SPRING.items()) / sum(mass * mass 
 # Twenty durations, s, and where a ball is that falls without a brake, in whole cm, every 0,040 s.
 DURATIONS = [19.7, 19.8] + 3 * [19.9] + 4 * [20.0] + 5 * [20.1] + 3 * [20.2] + 2 * [20.3] + [20.4]
 FALL = [round(100 * 9.81 * (0.040 * image) ** 2 / 2) for image in range(16)]
+# Hours of the chapters, in the order of pages 141 and 142.
+SIGNALS, MOTION, MATTER = [6, 8, 6, 8], [8, 7, 5], [8, 8, 9, 5, 4, 8, 4]
 
 RESULTS = [
     ("008", "elle monte de {10,0} cm pour 200 g", [200 * SLOPE]),
@@ -17,4 +19,10 @@ RESULTS = [
     ("009", "y = [{0}, {1}, {3}, {7}, {13}, {20}, {28}, {38}, {50}, {64}, {78}, {95}", FALL[:12]),
     ("009", "{113}, {133}, {154}, {177}]", FALL[12:]),
     ("009", "À l’image 10, v vaut {3,9} m/s", [(FALL[11] - FALL[9]) / 100 / 0.080]),
+    ("029", "de la matière les sept de chimie {46} Mouvement et interactions mouvement, forces, inertie {20}",
+     [sum(MATTER), sum(MOTION)]),
+    ("029", "circuits {28} Mesure", [sum(SIGNALS)]),
+    ("029", "Elles font {98} heures, sur les {108} de l’année", [sum(MATTER + MOTION + SIGNALS) + 4, 36 * 3]),
+    ("141", "compris : {48} h pour les sept", [sum(SIGNALS + MOTION)]),
+    ("142", "compris : {46} h pour les sept", [sum(MATTER)]),
 ]
