@@ -1,4 +1,4 @@
-#include "projectile/exercise_panel.h"
+#include "common/exercise_panel.h"
 
 #include "common/plain_label.h"
 #include "look/button.h"
@@ -15,7 +15,7 @@
 
 #include <algorithm>
 
-namespace projectile {
+namespace common {
 
 namespace {
 
@@ -50,35 +50,35 @@ private:
 
 } // namespace
 
-ExercisePanel::ExercisePanel(const Exercise& exercise, QWidget* parent)
-    : QWidget(parent), exercise_(exercise), field_(new look::TextField(this)), sign_(new Sign),
-      verdict_(common::paragraph({})),
+ExercisePanel::ExercisePanel(const Task& task, QWidget* parent)
+    : QWidget(parent), task_(task), field_(new look::TextField(this)), sign_(new Sign),
+      verdict_(paragraph({})),
       nextButton_(new look::Button(QStringLiteral("Exercice suivant"), {.icon = {}}, this)) {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(14, 10, 14, 12);
     layout->setSpacing(6);
-    layout->addWidget(common::paragraph(
-        exercise_.title, {.pixels = kHeadingPx, .weight = look::Weight::Bold, .ink = look::kBlue}));
-    for (const QString& text : exercise_.statement)
-        layout->addWidget(common::paragraph(text));
+    layout->addWidget(paragraph(
+        task_.title, {.pixels = kHeadingPx, .weight = look::Weight::Bold, .ink = look::kBlue}));
+    for (const QString& text : task_.statement)
+        layout->addWidget(paragraph(text));
 
     field_->setMaxLength(kLongestAnswer);
     field_->setFixedSize(kFieldWidth, kFieldHeight);
     field_->setAlignment(Qt::AlignRight);
-    field_->setAccessibleName(exercise_.question);
+    field_->setAccessibleName(task_.question);
     auto* button = new look::Button(QStringLiteral("Vérifier"),
                                     {.kind = look::Button::Kind::Main, .icon = {}}, this);
     auto* row = new QHBoxLayout;
-    row->setSpacing(common::kGap);
-    row->addWidget(common::paragraph(exercise_.question, {.weight = look::Weight::Bold}), 1);
+    row->setSpacing(kGap);
+    row->addWidget(paragraph(task_.question, {.weight = look::Weight::Bold}), 1);
     row->addWidget(field_);
-    row->addWidget(common::plainLabel(exercise_.unit));
-    row->addSpacing(common::kGap);
+    row->addWidget(plainLabel(task_.unit));
+    row->addSpacing(kGap);
     row->addWidget(button);
     layout->addLayout(row);
 
     auto* answer = new QHBoxLayout;
-    answer->setSpacing(common::kGap);
+    answer->setSpacing(kGap);
     answer->addWidget(sign_, 0, Qt::AlignTop);
     answer->addWidget(verdict_, 1);
     answer->addWidget(nextButton_, 0, Qt::AlignTop);
@@ -93,7 +93,7 @@ ExercisePanel::ExercisePanel(const Exercise& exercise, QWidget* parent)
 }
 
 void ExercisePanel::check() {
-    const Answer answer = exercise_.judge(field_->text());
+    const Answer answer = task_.judge(field_->text());
     const bool right = answer == Answer::Right;
     static_cast<Sign*>(sign_)->setRight(right);
     sign_->setVisible(answer != Answer::NoNumber);
@@ -102,7 +102,7 @@ void ExercisePanel::check() {
     } else {
         verdict_->setText(
             (right ? QStringLiteral("Juste\u00A0! ") : QStringLiteral("Ce n’est pas cela. ")) +
-            (right ? exercise_.whenRight : exercise_.whenWrong));
+            (right ? task_.whenRight : task_.whenWrong));
     }
     look::setInk(*verdict_, answer == Answer::NoNumber ? look::kMuted
                             : right                    ? look::kGreen
@@ -132,4 +132,4 @@ void ExercisePanel::paintEvent(QPaintEvent*) {
     painter.fillRect(0, 0, 4, height(), QColor::fromRgb(look::kBlue));
 }
 
-} // namespace projectile
+} // namespace common

@@ -1,8 +1,8 @@
-#include "projectile/playback.h"
+#include "common/playback.h"
 
 #include <algorithm>
 
-namespace projectile {
+namespace common {
 
 void Playback::setDuration(double seconds) {
     duration_ = seconds;
@@ -43,4 +43,4 @@ void Playback::advance(double seconds) {
         seek(time_ + seconds * rate_);
 }
 
-} // namespace projectile
+} // namespace common

@@ -1,22 +1,22 @@
 #pragma once
 
-namespace projectile {
+namespace common {
 
 /// Where the simulation stands on the time axis, and whether it runs.
 class Playback {
 public:
-    double time() const { return time_; }         ///< s since the start of the throw
+    double time() const { return time_; }         ///< s since the start
     double duration() const { return duration_; } ///< s
     bool isRunning() const { return running_; }
     bool isAtEnd() const { return time_ >= duration_; }
 
-    /// A new flight: the time stays where it was, as far as the flight lasts.
+    /// Another duration: the time stays where it was, as far as that lasts.
     void setDuration(double seconds);
 
-    /// Also while it runs; held within the flight.
+    /// Also while it runs; held within the duration.
     void seek(double seconds);
 
-    /// At the end it starts over. A flight without duration never runs.
+    /// At the end it starts over. What has no duration never runs.
     void start();
     void pause() { running_ = false; }
     void toggle();
@@ -25,10 +25,10 @@ public:
     /// One picture further or back (negative), standing still then.
     void step(double seconds);
 
-    /// `seconds` of the clock on the wall have passed; stops at the end of the flight.
+    /// `seconds` of the clock on the wall have passed; stops at the end.
     void advance(double seconds);
 
-    /// Seconds of the flight in a second of the clock; more than 0.
+    /// Seconds of the simulation in a second of the clock; more than 0.
     void setRate(double rate) { rate_ = rate; }
     double rate() const { return rate_; }
 
@@ -39,4 +39,4 @@ private:
     bool running_ = false;
 };
 
-} // namespace projectile
+} // namespace common

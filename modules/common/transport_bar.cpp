@@ -1,4 +1,4 @@
-#include "projectile/transport_bar.h"
+#include "common/transport_bar.h"
 
 #include "common/formula_label.h"
 #include "common/french_number.h"
@@ -8,12 +8,14 @@
 
 #include <QComboBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QSignalBlocker>
 #include <QSlider>
 
 #include <cmath>
+#include <utility>
 
-namespace projectile {
+namespace common {
 
 namespace {
 
@@ -24,13 +26,10 @@ constexpr int kReadingWidth = 88;
 /// Between two pictures while it runs.
 constexpr int kPictureMilliseconds = 16;
 
-/// One step by hand, in seconds of the flight.
-constexpr double kStep = 0.02;
-
-/// A flight has so many positions of the slider.
+/// Of the slider.
 constexpr int kPositions = 1000;
 
-/// A machine that slept does not make the projectile jump; s.
+/// A machine that slept does not make the simulation jump; s.
 constexpr double kLongestPause = 0.25;
 
 constexpr double kRates[] = {0.1, 0.25, 0.5, 1, 2, 5, 10};
@@ -38,19 +37,19 @@ constexpr int kUsualRate = 3;
 
 } // namespace
 
-TransportBar::TransportBar(Experiment& experiment, QWidget* parent)
-    : QWidget(parent), experiment_(experiment) {
+TransportBar::TransportBar(Player& player, TransportWords words, QWidget* parent)
+    : QWidget(parent), player_(player), words_(std::move(words)) {
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(common::kGap);
+    layout->setSpacing(kGap);
     addButtons();
-    addTime();
-    addRates();
+    addSlider();
+    if (words_.hasRates)
+        addRates();
     timer_.setInterval(kPictureMilliseconds);
     timer_.setTimerType(Qt::PreciseTimer);
     connect(&timer_, &QTimer::timeout, this, &TransportBar::tick);
-    experiment_.onChanged([this] { show(); });
-    experiment_.onMoved([this] { show(); });
+    player_.onMoved([this] { show(); });
     show();
 }
 
@@ -79,56 +78,56 @@ void TransportBar::addButtons() {
     })->setAutoRepeat(true);
 }
 
-void TransportBar::addTime() {
-    time_ = new QSlider(Qt::Horizontal);
-    time_->setRange(0, kPositions);
-    time_->setMinimumWidth(64); // it would be the first to give way
-    time_->setAccessibleName(QStringLiteral("Temps"));
-    time_->setPageStep(kPositions / 20);
-    connect(time_, &QSlider::valueChanged, this, [this](int position) {
-        const double t = experiment_.playback().duration() * position / kPositions;
-        experiment_.play([t](Playback& playback) { playback.seek(t); });
+void TransportBar::addSlider() {
+    slider_ = new QSlider(Qt::Horizontal);
+    slider_->setRange(0, kPositions);
+    slider_->setMinimumWidth(64); // it would be the first to give way
+    slider_->setAccessibleName(words_.slider);
+    slider_->setPageStep(kPositions / 20);
+    connect(slider_, &QSlider::valueChanged, this, [this](int position) {
+        const double t = player_.playback().duration() * position / kPositions;
+        player_.play([t](Playback& playback) { playback.seek(t); });
     });
-    reading_ = new common::FormulaLabel({}, {}, look::kLabelPx);
+    reading_ = new FormulaLabel({}, {}, look::kLabelPx);
     reading_->setFixedWidth(kReadingWidth);
     reading_->setAlignment(Qt::AlignRight);
-    static_cast<QHBoxLayout*>(layout())->addWidget(time_, 1);
+    static_cast<QHBoxLayout*>(layout())->addWidget(slider_, 1);
     layout()->addWidget(reading_);
 }
 
 void TransportBar::addRates() {
-    rates_ = new QComboBox;
+    auto* rates = new QComboBox;
     for (const double rate : kRates)
-        rates_->addItem(QStringLiteral("×\u00A0") + common::frenchDigits(rate, 2));
-    rates_->setCurrentIndex(kUsualRate);
-    rates_->setAccessibleName(QStringLiteral("Vitesse de la simulation"));
-    look::setToolTip(*rates_, QStringLiteral("ralenti ou accéléré"));
-    connect(rates_, &QComboBox::currentIndexChanged, this, [this](int which) {
-        experiment_.play([which](Playback& playback) { playback.setRate(kRates[which]); });
+        rates->addItem(QStringLiteral("×\u00A0") + frenchDigits(rate, 2));
+    rates->setCurrentIndex(kUsualRate);
+    rates->setAccessibleName(QStringLiteral("Vitesse de la simulation"));
+    look::setToolTip(*rates, QStringLiteral("ralenti ou accéléré"));
+    connect(rates, &QComboBox::currentIndexChanged, this, [this](int which) {
+        player_.play([which](Playback& playback) { playback.setRate(kRates[which]); });
     });
-    layout()->addWidget(rates_);
+    layout()->addWidget(rates);
 }
 
 void TransportBar::toggle() {
-    experiment_.play([](Playback& playback) { playback.toggle(); });
+    player_.play([](Playback& playback) { playback.toggle(); });
 }
 
 void TransportBar::reset() {
-    experiment_.play([](Playback& playback) { playback.reset(); });
+    player_.play([](Playback& playback) { playback.reset(); });
 }
 
 void TransportBar::step(int pictures) {
-    experiment_.play([pictures](Playback& playback) { playback.step(pictures * kStep); });
+    player_.play([this, pictures](Playback& playback) { playback.step(pictures * words_.step); });
 }
 
 void TransportBar::tick() {
     const double passed = static_cast<double>(clock_.restart()) / 1000;
-    experiment_.play(
+    player_.play(
         [passed](Playback& playback) { playback.advance(std::min(passed, kLongestPause)); });
 }
 
 void TransportBar::show() {
-    const Playback& playback = experiment_.playback();
+    const Playback& playback = player_.playback();
     if (playback.isRunning() && !timer_.isActive()) {
         clock_.start();
         timer_.start();
@@ -143,17 +142,33 @@ void TransportBar::show() {
                                                  : QStringLiteral("play"));
     }
     start_->setEnabled(playback.duration() > 0);
-    look::setToolTip(*start_, playback.duration() > 0
-                                  ? QStringLiteral("ou barre d’espace")
-                                  : QStringLiteral("Lancé ainsi, le projectile reste au sol."));
-    const QSignalBlocker blocker(time_);
-    time_->setValue(
+    look::setToolTip(*start_, playback.duration() > 0 ? QStringLiteral("ou barre d’espace")
+                                                      : words_.nothing);
+    const QSignalBlocker blocker(slider_);
+    slider_->setValue(
         playback.duration() > 0
             ? static_cast<int>(std::lround(playback.time() / playback.duration() * kPositions))
             : 0);
-    const QString seconds = common::frenchNumber(playback.time(), 2);
-    reading_->setFormula(QStringLiteral("t\u00A0=\u00A0%1\\text{\u00A0s}").arg(seconds),
-                         QStringLiteral("t\u00A0=\u00A0%1\u00A0s").arg(seconds));
+    const auto [formula, spoken] = words_.reading();
+    reading_->setFormula(formula, spoken);
 }
 
-} // namespace projectile
+bool TransportBar::takeKey(const QKeyEvent& event) {
+    switch (event.key()) {
+    case Qt::Key_Space:
+        if (!event.isAutoRepeat()) // held down it starts, and does not stop again
+            toggle();
+        return true;
+    case Qt::Key_Home:
+        reset();
+        return true;
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+        step(event.key() == Qt::Key_Left ? -1 : 1);
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace common

@@ -1,17 +1,17 @@
-#include "projectile/axes.h"
+#include "common/axes.h"
 
 #include "common/formula.h"
 #include "common/french_number.h"
+#include "common/ticks.h"
 #include "look/interface_font.h"
 #include "look/palette.h"
-#include "projectile/ticks.h"
 
 #include <QPainter>
 
 #include <algorithm>
 #include <cmath>
 
-namespace projectile {
+namespace common {
 
 namespace {
 
@@ -46,19 +46,13 @@ QPointF Axes::value(const QPointF& pixel) const {
 }
 
 void Axes::paint(QPainter& painter, const QString& xName, const QString& yName) const {
-    painter.save();
-    painter.setFont(look::interfaceFont(look::kSmallPx));
-    paintAcross(painter);
-    paintUp(painter);
-    painter.setPen(QColor::fromRgb(look::kInk));
-    const common::Formula across(xName, kNamePx);
-    across.paint(painter, {area_.right() - across.width(), area_.bottom() + kBelow - 6});
-    const common::Formula up(yName, kNamePx);
-    up.paint(painter, {kLabelGap, area_.top() - 10});
-    painter.restore();
+    paintAcross(painter, xName);
+    paintUp(painter, yName);
 }
 
-void Axes::paintAcross(QPainter& painter) const {
+void Axes::paintAcross(QPainter& painter, const QString& name) const {
+    painter.save();
+    painter.setFont(look::interfaceFont(look::kSmallPx));
     const double step = tickStep(x_.length(), mostTicks(area_.width(), kPixelsPerTickAcross));
     for (const double value : ticks(x_.from, x_.to, step)) {
         const double x = sharp(painter, pixel(value, 0).x());
@@ -66,11 +60,17 @@ void Axes::paintAcross(QPainter& painter) const {
         painter.drawLine(QPointF(x, area_.top()), QPointF(x, area_.bottom()));
         painter.setPen(QColor::fromRgb(look::kMuted));
         painter.drawText(QRectF(x - 40, area_.bottom() + kLabelGap, 80, 14), Qt::AlignHCenter,
-                         common::frenchNumber(value, tickDecimals(step)));
+                         frenchNumber(value, tickDecimals(step)));
     }
+    painter.setPen(QColor::fromRgb(look::kInk));
+    const Formula formula(name, kNamePx);
+    formula.paint(painter, {area_.right() - formula.width(), area_.bottom() + kBelow - 6});
+    painter.restore();
 }
 
-void Axes::paintUp(QPainter& painter) const {
+void Axes::paintUp(QPainter& painter, const QString& name) const {
+    painter.save();
+    painter.setFont(look::interfaceFont(look::kSmallPx));
     const double step = tickStep(y_.length(), mostTicks(area_.height(), kPixelsPerTickUp));
     for (const double value : ticks(y_.from, y_.to, step)) {
         const double y = sharp(painter, pixel(0, value).y());
@@ -79,8 +79,12 @@ void Axes::paintUp(QPainter& painter) const {
         painter.setPen(QColor::fromRgb(look::kMuted));
         painter.drawText(QRectF(0, y - 8, area_.left() - kLabelGap, 16),
                          Qt::AlignRight | Qt::AlignVCenter,
-                         common::frenchNumber(value, tickDecimals(step)));
+                         frenchNumber(value, tickDecimals(step)));
     }
+    painter.setPen(QColor::fromRgb(look::kInk));
+    const Formula formula(name, kNamePx);
+    formula.paint(painter, {kLabelGap, area_.top() - 10});
+    painter.restore();
 }
 
 double sharp(const QPainter& painter, double position) {
@@ -88,4 +92,4 @@ double sharp(const QPainter& painter, double position) {
     return (std::floor(position * ratio) + 0.5) / ratio;
 }
 
-} // namespace projectile
+} // namespace common

@@ -6,7 +6,7 @@
 
 class QPainter;
 
-namespace projectile {
+namespace common {
 
 /// Part of an axis.
 struct Range {
@@ -32,13 +32,15 @@ public:
     /// Grid, frame and labelled ticks; `xName` and `yName` are formulas with their units.
     void paint(QPainter& painter, const QString& xName, const QString& yName) const;
 
+    /// The lines across and the labels of the upright axis alone, for bars.
+    void paintUp(QPainter& painter, const QString& name) const;
+
     /// Room for labels: left of the area and below it, pixels.
     static constexpr double kLeft = 52;
     static constexpr double kBelow = 40;
 
 private:
-    void paintAcross(QPainter& painter) const;
-    void paintUp(QPainter& painter) const;
+    void paintAcross(QPainter& painter, const QString& name) const;
 
     QRectF area_;
     Range x_;
@@ -48,4 +50,4 @@ private:
 /// `position` moved to the middle of the nearest pixel of the device, so that a fine line is sharp.
 double sharp(const QPainter& painter, double position);
 
-} // namespace projectile
+} // namespace common

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "projectile/exercise.h"
+#include "common/task.h"
 
 #include <QWidget>
 
@@ -14,12 +14,12 @@ class TextField;
 
 class QLabel;
 
-namespace projectile {
+namespace common {
 
 /// The task, a field for the answer, and what is to be said about it.
 class ExercisePanel : public QWidget {
 public:
-    explicit ExercisePanel(const Exercise& exercise, QWidget* parent = nullptr);
+    explicit ExercisePanel(const Task& task, QWidget* parent = nullptr);
 
     /// `show` is called after a right answer.
     void onSolved(std::function<void()> show) { solved_ = std::move(show); }
@@ -35,7 +35,7 @@ private:
     void check();
     void holdHeight();
 
-    Exercise exercise_;
+    Task task_;
     look::TextField* field_;
     QWidget* sign_;
     QLabel* verdict_;
@@ -44,4 +44,4 @@ private:
     std::function<void()> next_; ///< null when this is the last
 };
 
-} // namespace projectile
+} // namespace common

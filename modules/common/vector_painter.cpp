@@ -1,11 +1,11 @@
-#include "projectile/vector_painter.h"
+#include "common/vector_painter.h"
 
 #include "common/formula.h"
 
 #include <QLineF>
 #include <QPainter>
 
-namespace projectile {
+namespace common {
 
 namespace {
 
@@ -35,11 +35,11 @@ void paintVector(QPainter& painter, QPointF from, QPointF to, QRgb ink, const QS
     painter.setBrush(colour);
     painter.drawPolygon(QPolygonF({to, neck + across * kHeadHalf, neck - across * kHeadHalf}));
     painter.setPen(colour);
-    const common::Formula label(name, kNamePx);
+    const Formula label(name, kNamePx);
     // Beyond the head and to its left, off the path that the vector touches.
     const QPointF middle = to + along * 10 - across * (4 + label.width() / 2);
     label.paint(painter, middle + QPointF(-label.width() / 2, label.ascent() / 2));
     painter.restore();
 }
 
-} // namespace projectile
+} // namespace common

@@ -1,9 +1,9 @@
-#include "projectile/ticks.h"
+#include "common/ticks.h"
 
 #include <algorithm>
 #include <cmath>
 
-namespace projectile {
+namespace common {
 
 namespace {
 
@@ -37,4 +37,4 @@ std::vector<double> ticks(double from, double to, double step) {
     return values;
 }
 
-} // namespace projectile
+} // namespace common

@@ -1,30 +1,18 @@
-#include "projectile/formula_page.h"
+#include "projectile/laws.h"
 
-#include "common/formula.h"
 #include "common/french_number.h"
-#include "look/interface_font.h"
-#include "look/palette.h"
 
-#include <QPainter>
-
-#include <algorithm>
 #include <cmath>
 
 namespace projectile {
 
 namespace {
 
-constexpr double kMargin = 16;
-constexpr double kFormulaLeft = 190;
-constexpr double kFormulaPx = 16;
-constexpr double kGapBelow = 11;
-constexpr double kHeadingHeight = 30;
-
 QString number(double value) {
     return common::frenchDigits(value, 3);
 }
 
-void addParabola(std::vector<Law>& laws, const Flight& flight) {
+void addParabola(std::vector<common::Law>& laws, const Flight& flight) {
     const Moment start = flight.start();
     laws.push_back({QStringLiteral("Mouvement"), {}});
     laws.push_back({QStringLiteral("Accélération"), QStringLiteral("a_x = 0      a_y = −g")});
@@ -46,7 +34,7 @@ void addParabola(std::vector<Law>& laws, const Flight& flight) {
                     QStringLiteral("y_S = h + \\frac{v_{0y}^2}{2 g}\\text{ (si }v_{0y} > 0)")});
 }
 
-void addDrag(std::vector<Law>& laws, const Flight& flight) {
+void addDrag(std::vector<common::Law>& laws, const Flight& flight) {
     const Launch& launch = flight.launch();
     const bool linear = launch.drag == Drag::Linear;
     laws.push_back({QStringLiteral("Frottement"),
@@ -70,10 +58,10 @@ void addDrag(std::vector<Law>& laws, const Flight& flight) {
 
 } // namespace
 
-std::vector<Law> lawsOf(const Flight& flight) {
+std::vector<common::Law> lawsOf(const Flight& flight) {
     const Launch& launch = flight.launch();
     const bool slowed = std::isfinite(terminalSpeed(launch));
-    std::vector<Law> laws = {
+    std::vector<common::Law> laws = {
         {QStringLiteral("Forces"), {}},
         {QStringLiteral("Deuxième loi de Newton"),
          slowed ? QStringLiteral("m \\vec{a} = m \\vec{g} + \\vec{f}")
@@ -97,50 +85,6 @@ std::vector<Law> lawsOf(const Flight& flight) {
                            : QStringLiteral("E_m = E_c + E_p = %1\\text{ J}\\text{   se conserve}")
                                  .arg(number(flight.energies(flight.start()).mechanical()))});
     return laws;
-}
-
-FormulaPage::FormulaPage(Experiment& experiment, QWidget* parent)
-    : QWidget(parent), experiment_(experiment) {
-    setAccessibleName(QStringLiteral("Formules"));
-    experiment_.onChanged([this] { fit(); });
-    fit();
-}
-
-void FormulaPage::fit() {
-    double height = kMargin;
-    double widest = 0;
-    for (const Law& law : lawsOf(experiment_.flight())) {
-        const common::Formula formula(law.formula, kFormulaPx);
-        widest = std::max(widest, formula.width());
-        height += law.formula.isEmpty() ? kHeadingHeight
-                                        : formula.ascent() + formula.descent() + kGapBelow;
-    }
-    setFixedHeight(qCeil(height + kMargin));
-    setMinimumWidth(qCeil(kFormulaLeft + widest + kMargin)); // narrower, one scrolls
-    update();
-}
-
-void FormulaPage::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.fillRect(rect(), QColor::fromRgb(look::kPaper));
-    double y = kMargin;
-    for (const Law& law : lawsOf(experiment_.flight())) {
-        if (law.formula.isEmpty()) {
-            painter.setPen(QColor::fromRgb(look::kBlue));
-            painter.setFont(look::interfaceFont(look::kLabelPx, look::Weight::Bold));
-            painter.drawText(QPointF(kMargin, y + 15), law.words);
-            y += kHeadingHeight;
-            continue;
-        }
-        const common::Formula formula(law.formula, kFormulaPx);
-        const double baseline = y + formula.ascent();
-        painter.setPen(QColor::fromRgb(look::kMuted));
-        painter.setFont(look::interfaceFont(look::kLabelPx));
-        painter.drawText(QPointF(kMargin, baseline), law.words);
-        painter.setPen(QColor::fromRgb(look::kInk));
-        formula.paint(painter, {kFormulaLeft, baseline});
-        y = baseline + formula.descent() + kGapBelow;
-    }
 }
 
 } // namespace projectile
