@@ -13,6 +13,7 @@
 #include <QPainter>
 #include <QStyledItemDelegate>
 
+#include <algorithm>
 #include <utility>
 
 namespace common {
@@ -36,15 +37,28 @@ public:
         setFixedHeight(kHeadHeight);
     }
 
+    /// In a window that is too narrow for its heads a table scrolls.
+    void fit() {
+        double widest = 0;
+        for (int column = 0; column < count(); ++column)
+            widest = std::max(widest, head(column).width());
+        setMinimumSectionSize(qCeil(widest) + 2 * kMargin);
+    }
+
 protected:
     void paintSection(QPainter* painter, const QRect& rect, int column) const override {
         painter->fillRect(rect, QColor::fromRgb(look::kIvory));
         painter->setPen(QColor::fromRgb(look::kRule));
         painter->drawLine(rect.bottomLeft(), rect.bottomRight());
         painter->setPen(QColor::fromRgb(look::kInk));
-        const Formula head(model()->headerData(column, Qt::Horizontal, kFormulaRole).toString(),
-                           look::kLabelPx);
-        head.paint(*painter, {rect.right() - head.width() - kMargin, rect.top() + 18.0});
+        const Formula formula = head(column);
+        formula.paint(*painter, {rect.right() - formula.width() - kMargin, rect.top() + 18.0});
+    }
+
+private:
+    Formula head(int column) const {
+        return {model()->headerData(column, Qt::Horizontal, kFormulaRole).toString(),
+                look::kLabelPx};
     }
 };
 
@@ -88,7 +102,10 @@ DataTable::DataTable(QAbstractItemModel* model, const QString& name, QWidget* pa
     setFrameShape(QFrame::NoFrame);
     verticalHeader()->hide();
     verticalHeader()->setDefaultSectionSize(kRowHeight);
-    setHorizontalHeader(new FormulaHeader(this));
+    auto* header = new FormulaHeader(this);
+    setHorizontalHeader(header);
+    header->fit();
+    connect(model, &QAbstractItemModel::modelReset, header, [header] { header->fit(); });
 }
 
 void DataTable::keyPressEvent(QKeyEvent* event) {
