@@ -39,7 +39,7 @@ void LawPage::refresh() {
         height += law.formula.isEmpty() ? kHeadingHeight
                                         : formula.ascent() + formula.descent() + kGapBelow;
     }
-    setFixedHeight(qCeil(height + kMargin));
+    setMinimumHeight(qCeil(height + kMargin));
     setMinimumWidth(qCeil(kFormulaLeft + widest + kMargin)); // narrower, one scrolls
     update();
 }
