@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <optional>
 
 namespace common {
 
@@ -37,5 +38,15 @@ bool readTask(const QString& path, Task& task, const TakeEntry& situation, QStri
 
 /// The same of a file's text.
 bool parseTask(const QString& text, Task& task, const TakeEntry& situation, QString& why);
+
+/// An exercise, a task with a situation of which `take` takes entries, from its file; absent, with
+/// the reason, as above.
+template <class Exercise>
+std::optional<Exercise> readExercise(const QString& path, bool (*take)(Exercise&, const Entry&),
+                                     QString& why) {
+    Exercise exercise;
+    const auto situation = [&](const Entry& entry) { return take(exercise, entry); };
+    return readTask(path, exercise, situation, why) ? std::optional(exercise) : std::nullopt;
+}
 
 } // namespace common

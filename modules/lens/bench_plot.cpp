@@ -119,7 +119,7 @@ void BenchPlot::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.save();
     painter.setClipRect(axes_.area());
-    if (shown_.beam)
+    if (shown_.beam && !bench_.hidesLens())
         paintBeam(painter);
     paintAxis(painter);
     paintLens(painter);
@@ -246,7 +246,7 @@ void BenchPlot::paintArrows(QPainter& painter) const {
         painter.drawText(to + tipName, QString::fromUtf16(tip));
     };
     const Image image = bench_.image();
-    if (!bench_.hidesLens() && !image.isAtInfinity() && shown_.rays)
+    if (shown_.image && !bench_.hidesLens() && !image.isAtInfinity())
         arrow(image.place(), image.height(), image.isReal(), u"A′", u"B′",
               image.isReal() ? QPointF(-20, 17) : QPointF(-7, -9)); // where no ray goes
     arrow(arrangement.object(), arrangement.height, true, u"A", u"B", {-20, 2});

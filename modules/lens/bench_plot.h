@@ -10,10 +10,12 @@
 
 namespace lens {
 
-/// What the drawing shows besides object, lens and screen.
+/// What the drawing shows besides object, lens and screen; nothing of it of a lens that is
+/// withheld.
 struct Shown {
     bool rays = true;
     bool extensions = true;
+    bool image = true;
     bool beam = false;
 };
 

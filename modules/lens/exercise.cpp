@@ -54,10 +54,7 @@ bool take(Exercise& exercise, const Entry& entry) {
 } // namespace
 
 std::optional<Exercise> readExercise(const QString& path, QString& why) {
-    Exercise exercise;
-    const auto situation = [&](const Entry& entry) { return take(exercise, entry); };
-    return common::readTask(path, exercise, situation, why) ? std::optional(exercise)
-                                                            : std::nullopt;
+    return common::readExercise(path, take, why);
 }
 
 } // namespace lens

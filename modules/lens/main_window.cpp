@@ -9,6 +9,7 @@
 #include "lens/readings.h"
 #include "lens/screen_view.h"
 
+#include <QAbstractButton>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QScrollArea>
@@ -51,9 +52,17 @@ QTabWidget* MainWindow::tabs() {
 
 QWidget* MainWindow::drawingTab() {
     plot_ = new BenchPlot(bench_);
-    return common::withChoices<Shown>(*plot_, {{u"rayons", &Shown::rays},
-                                               {u"prolongements", &Shown::extensions},
-                                               {u"faisceau", &Shown::beam}});
+    QWidget* tab = common::withChoices<Shown>(*plot_, {{u"rayons", &Shown::rays},
+                                                       {u"prolongements", &Shown::extensions},
+                                                       {u"image", &Shown::image},
+                                                       {u"faisceau", &Shown::beam}});
+    const auto show = [this, tab] {
+        for (auto* choice : tab->findChildren<QAbstractButton*>())
+            choice->setEnabled(!bench_.hidesLens());
+    };
+    bench_.onChanged(show);
+    show();
+    return tab;
 }
 
 QWidget* MainWindow::foot() {

@@ -15,9 +15,9 @@ namespace lens {
 
 namespace {
 
-constexpr int kSide = 116;   ///< of the screen, pixels
-constexpr int kCaption = 20; ///< height of the line below it
-constexpr int kSamples = 96; ///< places of the lens whose light is added up
+constexpr int kSide = 116;    ///< of the screen, pixels
+constexpr int kCaption = 20;  ///< height of the line below it
+constexpr int kSamples = 160; ///< places of the lens whose light is added up
 constexpr QRgb kDark = 0xff23211c;
 constexpr QRgb kLight = 0xfffff0a0;
 

@@ -4,6 +4,7 @@
 #include "modules/window_case.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QClipboard>
 #include <QLineEdit>
 #include <QTableView>
@@ -80,6 +81,11 @@ TEST_F(LensWindow, anUnknownLensIsToldByTheScreenAloneUntilItIsFound) {
     EXPECT_FALSE(named<QSlider>("Distance focale")->isVisible());
     EXPECT_FALSE(button("Mettre au point")->isEnabled());
     EXPECT_TRUE(says("Lentille inconnue"));
+    auto* plot = named<QWidget>("Banc d’optique, vu de côté");
+    const QImage before = plot->grab().toImage();
+    for (auto* choice : window_->findChildren<QCheckBox*>())
+        choice->toggle(); // as if somebody could
+    EXPECT_EQ(plot->grab().toImage(), before);
     auto* field = named<QLineEdit>(opening.exercise->question);
     for (const auto& [typed, said] :
          {std::pair("20", "Ce n’est pas cela"), std::pair("12", "Juste")}) {
