@@ -233,7 +233,7 @@ void BenchPlot::paintArrows(QPainter& painter) const {
     const Arrangement& arrangement = bench_.arrangement();
     painter.setFont(look::interfaceFont(static_cast<int>(kNamePx), look::Weight::Bold));
     const auto arrow = [&](double place, double height, bool solid, const char16_t* foot,
-                           const char16_t* tip, QPointF tipName) {
+                           QPointF footName, const char16_t* tip, QPointF tipName) {
         const QPointF from = pixel({place, 0});
         const QPointF to = pixel({place, height});
         painter.setPen(linePen(look::kBlue, 3, solid ? Qt::SolidLine : Qt::DotLine));
@@ -242,14 +242,15 @@ void BenchPlot::paintArrows(QPainter& painter) const {
         painter.drawLine(from, to + QPointF(0, up * head * 0.8));
         paintHead(painter, from, to, head, look::kBlue);
         painter.setPen(QColor::fromRgb(look::kInk));
-        painter.drawText(from + QPointF(-18, up > 0 ? 16 : -6), QString::fromUtf16(foot));
+        painter.drawText(from + footName, QString::fromUtf16(foot));
         painter.drawText(to + tipName, QString::fromUtf16(tip));
     };
     const Image image = bench_.image();
     if (shown_.image && !bench_.hidesLens() && !image.isAtInfinity())
-        arrow(image.place(), image.height(), image.isReal(), u"A′", u"B′",
+        arrow(image.place(), image.height(), image.isReal(), u"A′",
+              image.isReal() ? QPointF(-20, -6) : QPointF(5, 17), u"B′",
               image.isReal() ? QPointF(-20, 17) : QPointF(-7, -9)); // where no ray goes
-    arrow(arrangement.object(), arrangement.height, true, u"A", u"B", {-20, 2});
+    arrow(arrangement.object(), arrangement.height, true, u"A", {-18, 17}, u"B", {-20, 2});
 }
 
 BenchPlot::Grip BenchPlot::gripAt(QPointF at) const {

@@ -5,19 +5,22 @@
 #include "look/palette.h"
 #include "look/pixels.h"
 
-#include <QImage>
 #include <QPainter>
+#include <QPainterPath>
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <vector>
 
 namespace lens {
 
 namespace {
 
-constexpr int kSide = 116;    ///< of the screen, pixels
-constexpr int kCaption = 20;  ///< height of the line below it
-constexpr int kSamples = 160; ///< places of the lens whose light is added up
+constexpr int kSide = 116;          ///< of the screen, pixels
+constexpr int kCaption = 20;        ///< height of the line below it
+constexpr int kSamples = 160;       ///< places of the lens whose light is added up
+constexpr double kLargestSpot = 10; ///< radius, pixels: as fine as so many places can show
 constexpr QRgb kDark = 0xff23211c;
 constexpr QRgb kLight = 0xfffff0a0;
 
@@ -25,10 +28,17 @@ constexpr QRgb kLight = 0xfffff0a0;
 /// neither upright nor upside down.
 QPainterPath letter() {
     QPainterPath path;
-    path.addRect(-0.33, -0.5, 0.18, 1);
-    path.addRect(-0.33, -0.5, 0.66, 0.18);
-    path.addRect(-0.33, -0.09, 0.5, 0.18);
-    return path.simplified();
+    path.addPolygon(QPolygonF({{-0.33, -0.5},
+                               {0.33, -0.5},
+                               {0.33, -0.32},
+                               {-0.15, -0.32},
+                               {-0.15, -0.09},
+                               {0.17, -0.09},
+                               {0.17, 0.09},
+                               {-0.15, 0.09},
+                               {-0.15, 0.5},
+                               {-0.33, 0.5}}));
+    return path;
 }
 
 /// Width of the screen that is shown, cm: so much that the image has room, by large steps, so that
@@ -38,6 +48,45 @@ double shownWidth(double height) {
         if (std::fabs(height) < 0.8 * width)
             return width;
     return 60;
+}
+
+/// A letter of that height on a square of `pixels` times `pixels`, its middle beside that of the
+/// square, white on black.
+QImage sharpLetter(int pixels, double height, QPointF beside) {
+    static const QPainterPath path = letter();
+    QImage image(pixels, pixels, QImage::Format_Grayscale8);
+    image.fill(0);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(QPointF(pixels / 2.0, pixels / 2.0) + beside);
+    painter.scale(height, height);
+    painter.fillPath(path, Qt::white);
+    return image;
+}
+
+/// A letter each of whose points is a spot of that radius; pixels. It adds up the light that comes
+/// through places evenly spread over the lens: each gives a sharp letter beside the others.
+QImage spreadLetter(int pixels, double height, double radius) {
+    const int samples = radius * 2 < 1 ? 1 : kSamples;
+    std::vector<int> sum(static_cast<std::size_t>(pixels) * static_cast<std::size_t>(pixels));
+    for (int i = 0; i < samples; ++i) {
+        // A sunflower's seeds: even over the disc.
+        const double distance = samples == 1 ? 0 : radius * std::sqrt((i + 0.5) / samples);
+        const double angle = i * std::numbers::pi * (3 - std::sqrt(5.0));
+        const QImage one =
+            sharpLetter(pixels, height, distance * QPointF(std::cos(angle), std::sin(angle)));
+        auto at = sum.begin();
+        for (int y = 0; y < pixels; ++y)
+            for (int x = 0; x < pixels; ++x)
+                *at++ += one.constScanLine(y)[x];
+    }
+    QImage image(pixels, pixels, QImage::Format_RGB32);
+    auto at = sum.cbegin();
+    for (int y = 0; y < pixels; ++y)
+        for (int x = 0; x < pixels; ++x)
+            reinterpret_cast<QRgb*>(image.scanLine(y))[x] =
+                look::blend(kLight, kDark, *at++ / 255.0 / samples);
+    return image;
 }
 
 } // namespace
@@ -53,53 +102,22 @@ void ScreenView::show() {
     update();
 }
 
-/// Adds up the light that comes through places evenly spread over the lens: each gives a sharp
-/// letter, beside the others by as much as the screen is off the image.
-QImage ScreenView::picture(double side, double ratio) const {
-    const int pixels = std::max(1, static_cast<int>(std::lround(side * ratio)));
-    QImage image(pixels, pixels, QImage::Format_RGB32);
-    image.fill(kDark);
+/// What the screen shows, in pixels of the device or, of what is blurred anyhow, in coarser ones:
+/// the places of the lens would be seen one by one.
+QImage ScreenView::picture(double side) const {
     const Arrangement& arrangement = bench_.arrangement();
     const double height = heightOnScreen(arrangement);
-    const double scale = pixels / shownWidth(height); // px a cm
+    const double scale = side / shownWidth(height); // px a cm
     const double radius = bench_.image().spot(arrangement.screen) / 2 * scale;
-    const QPainterPath path = letter();
-    QImage sum(image.size(), QImage::Format_Grayscale8);
-    sum.fill(0);
-    std::vector<int> total(static_cast<std::size_t>(pixels) * static_cast<std::size_t>(pixels));
-    const int samples = radius * 2 < 1 ? 1 : kSamples;
-    for (int i = 0; i < samples; ++i) {
-        // A sunflower's seeds: even over the disc.
-        const double distance = samples == 1 ? 0 : radius * std::sqrt((i + 0.5) / samples);
-        const double angle = i * std::numbers::pi * (3 - std::sqrt(5.0));
-        sum.fill(0);
-        QPainter painter(&sum);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.translate(pixels / 2.0 + distance * std::cos(angle),
-                          pixels / 2.0 + distance * std::sin(angle));
-        painter.scale(height * scale, height * scale);
-        painter.fillPath(path, Qt::white);
-        painter.end();
-        for (int y = 0; y < pixels; ++y) {
-            const uchar* line = sum.constScanLine(y);
-            int* row = total.data() + static_cast<std::ptrdiff_t>(y) * pixels;
-            for (int x = 0; x < pixels; ++x)
-                row[x] += line[x];
-        }
-    }
-    for (int y = 0; y < pixels; ++y) {
-        auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
-        for (int x = 0; x < pixels; ++x)
-            line[x] = look::blend(
-                kLight, kDark, total[static_cast<std::size_t>(y * pixels + x)] / 255.0 / samples);
-    }
-    return image;
+    const double coarse = std::max(1.0, radius / kLargestSpot);
+    return spreadLetter(std::max(1, static_cast<int>(std::lround(side / coarse))),
+                        height * scale / coarse, radius / coarse);
 }
 
 void ScreenView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const double ratio = devicePixelRatioF();
-    painter.drawImage(QRectF(0, 0, kSide, kSide), picture(kSide, ratio));
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(QRectF(0, 0, kSide, kSide), picture(kSide * devicePixelRatioF()));
     look::drawFrame(painter, QRectF(0, 0, kSide, kSide), 0, look::kEdge, Qt::NoBrush);
     // How much a centimetre is.
     const double width = shownWidth(heightOnScreen(bench_.arrangement()));

@@ -2,7 +2,7 @@
 
 #include "lens/bench.h"
 
-#include <QPainterPath>
+#include <QImage>
 #include <QWidget>
 
 namespace lens {
@@ -17,7 +17,7 @@ protected:
     void paintEvent(QPaintEvent*) override;
 
 private:
-    QImage picture(double side, double ratio) const;
+    QImage picture(double side) const;
     void show();
 
     Bench& bench_;

@@ -40,7 +40,14 @@ TEST_F(LensWindow, findsAndNotesASharpImageWithTheKeyboardAlone) {
     QTest::keyClick(window_.get(), Qt::Key_Right);
     QTest::keyClick(window_.get(), Qt::Key_Left);
     EXPECT_NEAR(value(kScreen), 60, 1e-9);
-    EXPECT_TRUE(named<QWidget>("Sur l’écran\u00A0: image nette"));
+    auto* screen = named<QWidget>("Sur l’écran\u00A0: image nette");
+    ASSERT_TRUE(screen);
+    // The letter F, 4 of the screen's 6 cm high, with its head below and its arms at the left.
+    const QImage picture = screen->grab().toImage();
+    for (const QPoint& light : {QPoint(76, 30), QPoint(76, 90), QPoint(40, 90), QPoint(55, 58)})
+        EXPECT_GT(picture.pixelColor(light).lightness(), 180) << light.x() << ' ' << light.y();
+    for (const QPoint& dark : {QPoint(35, 58), QPoint(55, 30), QPoint(90, 58)})
+        EXPECT_LT(picture.pixelColor(dark).lightness(), 60) << dark.x() << ' ' << dark.y();
     QTest::keyClick(window_.get(), Qt::Key_Space);
     auto* table = window_->findChild<QTableView*>();
     QTest::keyClick(table, Qt::Key_C, Qt::ControlModifier);
