@@ -33,11 +33,11 @@ void Experiment::setMixture(const Mixture& mixture) {
     if (mixture == mixture_)
         return;
     mixture_ = mixture;
+    changed_.tell(); // first: another reaction has other columns
     player_.play([this](common::Playback& playback) {
         playback.reset();
         playback.setDuration(mixture_.maximum() > 0 ? kDuration : 0);
     });
-    changed_.tell();
 }
 
 void Experiment::setExercise(const Exercise& exercise) {
