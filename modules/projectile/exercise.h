@@ -1,10 +1,10 @@
 #pragma once
 
+#include "common/task.h"
 #include "projectile/launch.h"
 
 #include <QPointF>
 #include <QString>
-#include <QStringList>
 
 #include <optional>
 #include <set>
@@ -18,30 +18,14 @@ struct Landmark {
     QString name;
 };
 
-enum class Answer { NoNumber, Wrong, Right };
-
-/// A task for the pupil: a situation, of which some numbers may be changed and others not, and a
-/// question that a number answers.
-struct Exercise {
-    QString title;
-    QStringList statement; ///< paragraphs
-    QString question;
+/// A task in a situation of which some numbers may be changed and others not.
+struct Exercise : common::Task {
     Launch launch;
     std::set<Parameter> locked;
     bool dragLocked = false;
-    bool hidesResults = false; ///< until a right answer was given
     std::vector<Landmark> landmarks;
 
-    double answer = 0;
-    double tolerance = 0; ///< in the same unit; both ends still right
-    QString unit;
-    QString whenRight; ///< explanations
-    QString whenWrong;
-
     bool isLocked(Parameter parameter) const { return locked.count(parameter) > 0; }
-
-    /// What the pupil typed, with or without the unit behind it.
-    Answer judge(const QString& typed) const;
 };
 
 /// Reads a file of modules/README.md's format. Absent, with one French sentence in `why`, when it

@@ -1,7 +1,7 @@
 #include "projectile/experiment.h"
 
 #include "common/french_number.h"
-#include "projectile/ticks.h"
+#include "common/ticks.h"
 
 #include <QStringList>
 
@@ -30,14 +30,14 @@ QString words(const QString& text) {
 } // namespace
 
 Experiment::Experiment() : flight_(Launch{}) {
-    playback_.setDuration(flight_.duration());
+    player_.setDuration(flight_.duration());
 }
 
 void Experiment::setLaunch(const Launch& launch) {
     if (launch == flight_.launch())
         return;
     flight_ = Flight(launch);
-    playback_.setDuration(flight_.duration());
+    player_.setDuration(flight_.duration());
     changed_.tell();
 }
 
@@ -51,7 +51,7 @@ void Experiment::set(Parameter parameter, double number) {
         return;
     const Quantity& which = quantity(parameter);
     Launch launch = flight_.launch();
-    launch.*which.value = std::clamp(number, which.least, which.most);
+    launch.*which.value = which.held(number);
     setLaunch(launch);
 }
 
@@ -61,7 +61,7 @@ void Experiment::aim(double speed, double angle) {
          {std::pair(Parameter::Speed, speed), std::pair(Parameter::Angle, angle)}) {
         const Quantity& which = quantity(parameter);
         if (!isLocked(parameter))
-            launch.*which.value = std::clamp(number, which.least, which.most);
+            launch.*which.value = which.held(number);
     }
     setLaunch(launch);
 }
@@ -122,7 +122,7 @@ QString describe(const Launch& launch) {
 }
 
 double strobeInterval(double duration) {
-    return duration > 0 ? tickStep(duration, kStrobePoints) : 1;
+    return duration > 0 ? common::tickStep(duration, kStrobePoints) : 1;
 }
 
 } // namespace projectile

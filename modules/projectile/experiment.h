@@ -1,9 +1,9 @@
 #pragma once
 
 #include "common/listeners.h"
+#include "common/player.h"
 #include "projectile/exercise.h"
 #include "projectile/flight.h"
-#include "projectile/playback.h"
 
 #include <QString>
 
@@ -22,8 +22,8 @@ public:
 
     const Flight& flight() const { return flight_; }
     const Launch& launch() const { return flight_.launch(); }
-    const Playback& playback() const { return playback_; }
-    Moment now() const { return flight_.at(playback_.time()); }
+    const common::Playback& playback() const { return player_.playback(); }
+    Moment now() const { return flight_.at(playback().time()); }
 
     /// The given numbers of an exercise, which nothing below changes any more.
     void setExercise(const Exercise& exercise);
@@ -37,12 +37,8 @@ public:
     void setWorld(const World& world);
     void setDrag(Drag drag);
 
-    /// Playback, with word to those who look.
-    template <class Change>
-    void play(Change change) {
-        change(playback_);
-        moved_.tell();
-    }
+    /// What runs, stops and steps.
+    common::Player& player() { return player_; }
 
     /// In the order in which they were kept; a flight's place is also its ink.
     const std::vector<Flight>& kept() const { return kept_; }
@@ -54,7 +50,9 @@ public:
     // What is to be called when something has changed. Whoever asks lives as long as this does.
     using Listener = std::function<void()>;
     void onChanged(Listener show) { changed_.add(std::move(show)); } ///< the launch, so everything
-    void onMoved(Listener show) { moved_.add(std::move(show)); } ///< the moment, or whether it runs
+    void onMoved(Listener show) {
+        player_.onMoved(std::move(show));
+    } ///< the moment, or whether it runs
     void onKeptChanged(Listener show) { keptChanged_.add(std::move(show)); }
 
 private:
@@ -62,10 +60,9 @@ private:
 
     std::optional<Exercise> exercise_;
     Flight flight_;
-    Playback playback_;
+    common::Player player_;
     std::vector<Flight> kept_;
     common::Listeners changed_;
-    common::Listeners moved_;
     common::Listeners keptChanged_;
 };
 
