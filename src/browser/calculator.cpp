@@ -92,8 +92,7 @@ ORVALENTE_EXPORTED(calculatorType) std::size_t calculatorType(char16_t character
 /// Presses the keys of a text from elsewhere; the number before the display is 1 when it ended at
 /// a comma.
 ORVALENTE_EXPORTED(calculatorPaste) std::size_t calculatorPaste(std::size_t units) {
-    const calculator::PastedKeys pasted =
-        calculator::pastedKeys(std::u16string(takenText(units)));
+    const calculator::PastedKeys pasted = calculator::pastedKeys(std::u16string(takenText(units)));
     for (const calculator::Key* key : pasted.keys)
         rules.press(*key);
     display.beeps = 0;
