@@ -105,7 +105,7 @@ private:
 
     QJsonObject addPage(int number, const coursetool::DrawnCoursePage& drawn) {
         QJsonObject data = pageData(drawn, fonts_, links_, drawings_);
-        if (drawn.page.videoPage)
+        if (drawn.page.videoPage && !data.contains(QStringLiteral("films")))
             data.insert(QStringLiteral("film"), films_.film(*drawn.page.videoPage));
         const QString key = QStringLiteral("p%1").arg(number);
         plan_ += "<h1 id=\"" + key.toUtf8() + "\">" + drawn.sheet.title.toHtmlEscaped().toUtf8() +

@@ -6,6 +6,11 @@
 
 #include <memory>
 
+#ifndef _WIN32
+#include <fcntl.h>
+#include <unistd.h>
+#endif
+
 namespace publish {
 
 namespace {
@@ -33,11 +38,37 @@ QByteArray bytesOf(hb_blob_t* blob) {
     return {data, static_cast<qsizetype>(length)};
 }
 
+/// The library that packs fonts tells sizes on standard error, which belongs to the person.
+class QuietErrors {
+#ifndef _WIN32
+public:
+    QuietErrors() : kept_(dup(STDERR_FILENO)) {
+        const int nowhere = open("/dev/null", O_WRONLY | O_CLOEXEC);
+        if (kept_ >= 0 && nowhere >= 0)
+            dup2(nowhere, STDERR_FILENO);
+        if (nowhere >= 0)
+            close(nowhere);
+    }
+    ~QuietErrors() {
+        if (kept_ >= 0) {
+            dup2(kept_, STDERR_FILENO);
+            close(kept_);
+        }
+    }
+    QuietErrors(const QuietErrors&) = delete;
+    QuietErrors& operator=(const QuietErrors&) = delete;
+
+private:
+    int kept_;
+#endif
+};
+
 QByteArray woff2Of(const QByteArray& font) {
     const auto* data = reinterpret_cast<const std::uint8_t*>(font.constData());
     const auto size = static_cast<std::size_t>(font.size());
     std::size_t length = woff2::MaxWOFF2CompressedSize(data, size);
     QByteArray packed(static_cast<qsizetype>(length), '\0');
+    const QuietErrors quiet;
     if (!woff2::ConvertTTFToWOFF2(data, size, reinterpret_cast<std::uint8_t*>(packed.data()),
                                   &length))
         return {};

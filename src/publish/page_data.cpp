@@ -1,6 +1,7 @@
 #include "publish/page_data.h"
 
 #include "publish/page_document.h"
+#include "viewer/video_menu.h"
 
 #include <QJsonArray>
 
@@ -27,6 +28,16 @@ QJsonObject menusOf(const markup::DrawnPage& page, const SiteLinks& links) {
     return menus;
 }
 
+/// A page that has no film of its own may let choose among those of other pages.
+QJsonArray filmMenuOf(const coursetool::DrawnCoursePage& page, const SiteLinks& links) {
+    QJsonArray entries;
+    for (const QString& caption :
+         viewer::videoMenuCaptions(page.page.videoPage.value_or(QString())))
+        if (const auto target = viewer::videoMenuTarget(caption, page.record.records(), {}))
+            entries.append(QJsonArray{caption, links.ofCode(*target)});
+    return entries;
+}
+
 } // namespace
 
 QJsonObject pageData(const coursetool::DrawnCoursePage& page, const page::TextMetrics& metrics,
@@ -42,6 +53,8 @@ QJsonObject pageData(const coursetool::DrawnCoursePage& page, const page::TextMe
                            links));
     if (const QJsonObject menus = menusOf(page.page, links); !menus.isEmpty())
         data.insert(QStringLiteral("menus"), menus);
+    if (const QJsonArray films = filmMenuOf(page, links); !films.isEmpty())
+        data.insert(QStringLiteral("films"), films);
     if (page.page.caption)
         data.insert(QStringLiteral("legende"), *page.page.caption);
     return data;

@@ -10,7 +10,7 @@ namespace publish {
 
 /// A page as its script hands it over: "titre", "dessin" (SVG), "texte" (HTML), "menus" by the
 /// number of their picture, each a list of entries with caption and address, and "legende" (the
-/// caption of the window) and "film" (its name) where the page has them.
+/// caption of the window) and "films" (a menu of pages that have one) where the page has them.
 QJsonObject pageData(const coursetool::DrawnCoursePage& page, const page::TextMetrics& metrics,
                      const SiteLinks& links, DrawingWriter& drawings);
 

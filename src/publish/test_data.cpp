@@ -98,6 +98,12 @@ private:
                              {QStringLiteral("nom"), wordsOf(*field, question)}};
             if (!to.isEmpty())
                 data.insert(QStringLiteral("vers"), to);
+            if (isAnswered(field->control) && field->control != FieldControl::Text1)
+                data.insert(
+                    QStringLiteral("fin"),
+                    pixels(
+                        area.x +
+                        exercises::textRightOf(*field, question.fields, question.recording).right));
             all.append(data);
         }
         return all;

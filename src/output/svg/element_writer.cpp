@@ -145,7 +145,10 @@ void ElementWriter::draw(const page::LineOperation& line) const {
     attribute("stroke-width", pixels(width));
     attribute("stroke-linecap", "square");
     clip();
-    attribute("style", "shape-rendering:auto");
+    if (form_.isInPage)
+        attribute("class", "oblique");
+    else
+        attribute("style", "shape-rendering:auto");
     out_.endLine();
 }
 

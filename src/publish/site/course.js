@@ -8,8 +8,8 @@
  * @typedef {{numero: number, titre: string, fichier: string, avant: boolean, apres: boolean, imprimable: boolean, de: number, a: number}} PageEntry
  * @typedef {{chapitre: number, titre: string, fichier: string}} TestEntry
  * @typedef {{fichier?: string, images?: number, cadence?: number, absence?: string}} FilmData
- * @typedef {{titre: string, dessin: string, texte: string, menus?: Record<string, [string, string][]>, legende?: string, film?: FilmData}} PageData
- * @typedef {{sorte: string, rang: number, x: number, y: number, l: number, h: number, nom: string, vers?: string}} FieldData
+ * @typedef {{titre: string, dessin: string, texte: string, menus?: Record<string, [string, string][]>, legende?: string, film?: FilmData, films?: [string, string][]}} PageData
+ * @typedef {{sorte: string, rang: number, x: number, y: number, l: number, h: number, nom: string, vers?: string, fin?: number}} FieldData
  * @typedef {{dessin: string, texte: string, champs: FieldData[]}} QuestionData
  * @typedef {{chapitre: number, titre: string, nombre: number, questions: {type: number, solution: string | null, seule: QuestionData, commentaire: QuestionData}[]}} TestData
  * @typedef {{titre: string, debut: number, pages: PageEntry[], tests: TestEntry[], programme: string, recherche: string}} CourseData

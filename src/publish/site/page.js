@@ -12,6 +12,13 @@ function folded(text, ignoreAccents) {
     return [...small].map((c) => (c === '’' ? "'" : c.normalize('NFD')[0].length === c.length ? c.normalize('NFD')[0] : c)).join('');
 }
 
+/** Places on the drawing of a page, in its pixels (viewer/page_sheet.cpp). */
+const PAGE_WIDTH = 800;
+const COLUMN = { left: 168, width: 616 };
+const MARGIN = { left: 9, top: 41, height: 376 };
+
+const narrow = matchMedia('(max-width: 720px)');
+
 /** A drawing with its text beside it, its menus and the marks of a search. */
 class Sheet {
     /** @param {{dessin: string, texte: string, menus?: Record<string, [string, string][]>}} data */
@@ -19,10 +26,15 @@ class Sheet {
         this.data = data;
         this.drawing = element('div', { class: 'dessin' });
         this.drawing.innerHTML = data.dessin;
+        const [, , width, height] = (this.svg?.getAttribute('viewBox') ?? '').split(' ').map(Number);
+        this.isCoursePage = width === PAGE_WIDTH;
+        this.height = height;
         this.text = element('div', { class: 'lu' });
         this.text.innerHTML = data.texte;
         this.marks = element('div', { class: 'marques', 'aria-hidden': 'true' });
         this.element = element('div', { class: 'feuille' }, this.drawing, this.marks, this.text);
+        this.fit();
+        narrow.addEventListener('change', () => this.fit());
         this.element.addEventListener('click', (/** @type {MouseEvent} */ event) => this.clicked(event));
         this.text.addEventListener('focusin', (/** @type {FocusEvent} */ event) => this.showFocus(event.target));
         this.text.addEventListener('focusout', () => this.showFocus(null));
@@ -31,6 +43,18 @@ class Sheet {
     /** @returns {SVGSVGElement} */
     get svg() {
         return this.drawing.querySelector('svg');
+    }
+
+    /** On a narrow screen the column takes all of its width, and the illustration follows it. */
+    fit() {
+        const { svg } = this;
+        this.element.querySelector('.marge')?.remove();
+        if (!svg || !this.isCoursePage) return;
+        svg.setAttribute('viewBox', narrow.matches ? `${COLUMN.left} 0 ${COLUMN.width} ${this.height}` : `0 0 ${PAGE_WIDTH} ${this.height}`);
+        if (!narrow.matches || !svg.querySelector(`g[transform^="translate(${MARGIN.left} "] > *`)) return;
+        const margin = /** @type {SVGSVGElement} */ (svg.cloneNode(true));
+        margin.setAttribute('viewBox', `0 ${MARGIN.top} ${COLUMN.left} ${MARGIN.height}`);
+        this.element.append(element('div', { class: 'marge dessin' }, margin));
     }
 
     /** @param {MouseEvent} event */

@@ -32,7 +32,7 @@ class Site {
     }
 
     buildHead() {
-        const home = element('a', { class: 'marque', href: `#p${this.course.data.debut}` }, icon('orvalente'), element('span', {}, this.course.data.titre));
+        const home = element('a', { class: 'marque', href: `#p${this.course.data.debut}` }, icon('orvalente'), element('span', {}, 'Orvalente'));
         const tools = element('nav', { 'aria-label': 'Outils' },
             button('Sommaire', 'summary', () => this.openContents(), { title: 'Sommaire (Alt+S)' }),
             button('Rechercher', 'search', () => this.search.open(), { title: 'Rechercher dans le cours (Ctrl+L)' }),
@@ -80,7 +80,7 @@ class Site {
         this.page = number;
         const article = element('article', { class: 'page', 'aria-label': data.titre }, sheet.element);
         sheet.text.prepend(element('h1', { tabindex: '-1' }, data.titre));
-        if (data.film) article.append(this.filmButton(data.film));
+        if (data.film || data.films) article.append(this.filmButton(data));
         this.main.replaceChildren(article);
         document.title = data.legende || data.titre || this.course.data.titre;
         this.buildFoot(number);
@@ -104,12 +104,14 @@ class Site {
         if (next) setTimeout(() => { this.course.page(next.numero).catch(() => {}); }, 300);
     }
 
-    /** @param {FilmData} film */
-    filmButton(film) {
-        return element('p', { class: 'boutons' }, button('Voir le film', 'video', () => {
-            if (film.absence) void tell('Film', film.absence);
-            else void new FilmBox(film).open();
-        }, { class: 'principal' }));
+    /** @param {PageData} page */
+    filmButton({ film, films }) {
+        const show = button(films ? 'Les films' : 'Voir le film', 'video', () => {
+            if (films) popUpMenu(show, films, 'Les films');
+            else if (film?.absence) void tell('Film', film.absence);
+            else if (film) void new FilmBox(film).open();
+        }, { class: 'principal' });
+        return element('p', { class: 'boutons' }, show);
     }
 
     /** @param {number} number */

@@ -133,10 +133,10 @@ class TestView {
 
     showStrip() {
         this.strip.textContent = '';
-        (this.program?.askRecords('testStrip') ?? []).forEach(([caption, name, state, light, frame, middle, ink], i) => {
+        (this.program?.askRecords('testStrip') ?? []).forEach(([caption, name, state, light, frame, middle], i) => {
             const band = element('button', { type: 'button', 'aria-label': name, ...(i + 1 === this.current ? { 'aria-current': 'step' } : {}), click: () => this.run('testChoose', i + 1) },
                 element('span', { class: 'nom-long' }, caption), element('span', { class: 'nom-court' }, String(i + 1)), element('span', { class: 'signe', 'aria-hidden': 'true' }, { 1: '✓', '-1': '✗' }[state] ?? ''));
-            Object.assign(band.style, { background: colourOf(middle), borderColor: colourOf(frame), outlineColor: colourOf(light), color: colourOf(ink) });
+            Object.assign(band.style, { background: colourOf(middle), borderColor: colourOf(frame), outlineColor: colourOf(light) });
             this.strip.append(element('li', {}, band));
         });
     }
@@ -164,7 +164,19 @@ class TestView {
         Object.assign(control.style, { left: `${field.x}px`, top: `${field.y}px`, width: isText ? `${field.l}px` : '20px', height: isText ? `${Math.max(field.h, 24)}px` : '20px' });
         if (isText) control.addEventListener('keydown', (/** @type {KeyboardEvent} */ event) => { if (event.key === 'Enter') this.validateNow(); });
         this.controls.set(`${field.sorte}${field.rang}`, control);
+        if (!isText) this.overlay.append(this.wordsOf(field, control));
         this.overlay.append(control);
+    }
+
+    /**
+     * The words of a choice choose it too: a finger finds them more easily.
+     * @param {FieldData} field
+     * @param {HTMLInputElement} control
+     */
+    wordsOf(field, control) {
+        const words = element('span', { class: 'mots-du-choix', 'aria-hidden': 'true', click: () => { if (!control.disabled) control.click(); } });
+        Object.assign(words.style, { left: `${field.x - 4}px`, top: `${field.y - 4}px`, width: `${Math.max(28, (field.fin ?? field.x) - field.x + 8)}px` });
+        return words;
     }
 
     /** The controls stand on the drawing, whatever size it is shown at. */
