@@ -14,20 +14,21 @@ constexpr const char* kScripts[] = {"program.js", "course.js",     "dialogs.js",
                                     "search.js",  "calculator.js", "progress.js", "test.js",
                                     "film.js",    "scorm.js",      "site.js"};
 
-QByteArray asset(const QString& name) {
-    QFile file(QStringLiteral(":/publish/") + name);
+QByteArray resource(const QString& name) {
+    QFile file(name);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QByteArray asset(const QString& name) {
+    return resource(QStringLiteral(":/publish/") + name);
 }
 
 /// The drawings of the shell's buttons, by their names.
 QByteArray iconsScript() {
     QJsonObject icons;
     const QDir folder(QStringLiteral(":/look/icons"));
-    for (const QString& name : folder.entryList({QStringLiteral("*.svg")})) {
-        QFile file(folder.filePath(name));
-        if (file.open(QIODevice::ReadOnly))
-            icons.insert(QString(name).chopped(4), QString::fromUtf8(file.readAll()));
-    }
+    for (const QString& name : folder.entryList({QStringLiteral("*.svg")}))
+        icons.insert(QString(name).chopped(4), QString::fromUtf8(resource(folder.filePath(name))));
     return "const ICONES = " + QJsonDocument(icons).toJson(QJsonDocument::Compact) + ";\n";
 }
 
@@ -53,6 +54,8 @@ QByteArray SiteAssets::write(const QString& title, const QByteArray& faces,
                              faces + asset(QStringLiteral("site/style.css"))));
     put("{programme}", site_.add(QStringLiteral("orvalente"), ".js", scripts));
     put("{cours}", site_.add(QStringLiteral("cours"), ".js", course));
+    put("{icone}", site_.add(QStringLiteral("icone"), ".svg",
+                             resource(QStringLiteral(":/look/icons/orvalente.svg"))));
     put("{texte}", site_.add(QStringLiteral("texte"), ".html", plan(title, texts)));
     put("{titre}", title);
     return index;

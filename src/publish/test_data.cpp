@@ -69,9 +69,7 @@ public:
         page::Sheet sheet = viewer::questionSheet(bare, tools_.metrics, tools_.fields);
         QJsonObject data;
         data.insert(QStringLiteral("dessin"),
-                    tools_.drawings.write(sheet, idPrefix_ + variant, [&](const auto& link) {
-                        return tools_.links.ofPageNumber(link.tag);
-                    }));
+                    tools_.drawings.write(sheet, idPrefix_ + variant, {}));
         data.insert(QStringLiteral("texte"), documentOf(bare, sheet, {page::SurfaceId::Picture2},
                                                         tools_.metrics, tools_.links));
         data.insert(QStringLiteral("champs"), fields(question, sheet));

@@ -115,7 +115,9 @@ function popUpMenu(below, entries, name) {
     const place = below.getBoundingClientRect();
     const room = document.documentElement.clientWidth - menu.offsetWidth - 8;
     menu.style.left = `${Math.max(8, Math.min(place.left, room)) + window.scrollX}px`;
-    menu.style.top = `${place.bottom + 4 + window.scrollY}px`;
+    const foot = document.getElementById('pied')?.getBoundingClientRect().height ?? 0;
+    const isBelow = place.bottom + 4 + menu.offsetHeight <= window.innerHeight - foot || place.top < menu.offsetHeight + 4;
+    menu.style.top = `${(isBelow ? place.bottom + 4 : place.top - 4 - menu.offsetHeight) + window.scrollY}px`;
     document.addEventListener('pointerdown', outside, true);
     menu.firstElementChild?.focus();
 }

@@ -149,15 +149,28 @@ class TestView {
         const sheet = new Sheet(drawn);
         sheet.element.classList.add('feuille-question');
         this.overlay = element('div', { class: 'champs' });
-        for (const field of drawn.champs) this.addControl(field);
+        for (const field of drawn.champs)
+            if (field.vers) this.addLink(field, drawn.champs);
+            else this.addControl(field);
         sheet.element.append(this.overlay);
         this.area.append(sheet.element);
         this.placeOverlay();
     }
 
+    /**
+     * A picture beside its words is no stop of its own.
+     * @param {FieldData} field
+     * @param {FieldData[]} all
+     */
+    addLink(field, all) {
+        const isDouble = all.some((other) => other !== field && other.vers === field.vers && other.nom.length > field.nom.length);
+        const link = element('a', { href: field.vers, class: 'lien-question', ...(isDouble ? { tabindex: '-1', 'aria-hidden': 'true' } : { 'aria-label': field.nom || 'Page du cours' }) });
+        Object.assign(link.style, { left: `${field.x}px`, top: `${field.y}px`, width: `${field.l}px`, height: `${field.h}px` });
+        this.overlay.append(link);
+    }
+
     /** @param {FieldData} field */
     addControl(field) {
-        if (field.sorte === 'link') return;
         const isText = field.sorte === 'text';
         const control = element('input', { type: isText ? 'text' : field.sorte === 'check' ? 'checkbox' : 'radio', name: isText ? 'reponse' : `choix-${field.sorte}`,
             'aria-label': field.nom || (isText ? 'Réponse' : `Choix ${field.rang + 1}`), autocomplete: 'off', spellcheck: 'false', class: `champ-${field.sorte}` });
