@@ -7,6 +7,7 @@
 #include "page/numbers.h"
 #include "publish/films.h"
 #include "publish/page_data.h"
+#include "publish/scorm_package.h"
 #include "publish/site_assets.h"
 #include "publish/test_data.h"
 #include "text/rounding.h"
@@ -14,6 +15,7 @@
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QTemporaryDir>
 
 #include <map>
 #include <set>
@@ -56,29 +58,29 @@ public:
     Publisher(const PublishRequest& request, const page::FontBook& fonts,
               markup::PictureSource& pictures, const page::FieldPictures& fields,
               coursetool::CourseSheets& pages, coursedata::ExerciseTables tables,
-              coursetool::Report& report)
+              const std::filesystem::path& folder, coursetool::Report& report)
         : fonts_(fonts), pictures_(pictures), fields_(fields), pages_(pages),
           tests_(testChapters(tables)), links_(pages, tests_), report_(report),
-          site_(request.output, report), faces_(fonts), drawings_(fonts, faces_),
+          site_(folder, report), faces_(fonts), drawings_(fonts, faces_),
           films_(QString::fromStdString(coursetool::shown(request.course)), site_, report) {
         records_.read(std::move(tables));
     }
 
-    void publish(const QByteArray& program, const QByteArray& database) {
+    /// Where the site is, when it is whole.
+    const SiteFolder* publish(const QByteArray& program, const QByteArray& database) {
         if (!site_.open())
-            return;
+            return nullptr;
         course_.insert(QStringLiteral("titre"), pages_.title());
         addPages();
         addTests();
         addLarge(QStringLiteral("programme"), program);
         addLarge(QStringLiteral("recherche"), database);
         if (report_.hasFaults())
-            return;
+            return nullptr;
         SiteAssets assets(site_);
         const QByteArray index = assets.write(pages_.title(), faces_.write(site_),
                                               script(QStringLiteral("cours"), course_), plan_);
-        if (!report_.hasFaults())
-            site_.finish(index);
+        return !report_.hasFaults() && site_.finish(index) ? &site_ : nullptr;
     }
 
 private:
@@ -185,8 +187,15 @@ void publishCourse(const PublishRequest& request, const std::filesystem::path& p
         return;
     coursedata::ExerciseTables tables =
         coursedata::openExerciseTables(QString::fromStdString(coursetool::shown(request.course)));
-    Publisher(request, fonts, pictures, fields, *pages, std::move(tables), report)
-        .publish(*browserProgram, read(*database).value_or(QByteArray()));
+    const QTemporaryDir packed;
+    const std::filesystem::path folder =
+        request.scorm ? coursetool::pathFrom(packed.path().toStdString()) : request.output;
+    Publisher publisher(request, fonts, pictures, fields, *pages, std::move(tables), folder,
+                        report);
+    const SiteFolder* const site =
+        publisher.publish(*browserProgram, read(*database).value_or(QByteArray()));
+    if (site && request.scorm)
+        packScorm(*site, pages->title(), request.output, report);
 }
 
 } // namespace publish

@@ -20,8 +20,8 @@ struct QuestionTools {
 
 /// The test of a chapter as its script hands it over: "chapitre", "titre", "nombre" and
 /// "questions", each with its "type", "solution" (null when it has none), and what is shown
-/// "seule" and with its "commentaire": the drawing, its text and its controls, those of choices with
-/// the end of their words, "fin". Nothing when there is no such test.
+/// "seule" and with its "commentaire": the drawing, its text and its controls, those of choices
+/// with the end of their words, "fin". Nothing when there is no such test.
 std::optional<QJsonObject> testData(exercises::DatabaseRecords& records, std::int16_t chapter,
                                     const QuestionTools& tools);
 

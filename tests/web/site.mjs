@@ -79,7 +79,12 @@ strictEqual(readFileSync(join(folder, 'other', 'index.html'), 'utf8'), 'mine');
 // ---- A server, and the browser
 
 const types = { '.html': 'text/html', '.js': 'text/javascript', '.css': 'text/css', '.woff2': 'font/woff2', '.webm': 'video/webm', '.txt': 'text/plain' };
+const platform = `<!DOCTYPE html><title>Plateforme</title><script src="/scorm.js"></script>
+<script>window.API = new Scorm12API({ autocommit: false, logLevel: 5 }); window.API.loadFromJSON({ suspend_data: localStorage.getItem('plateforme') || '' }, 'cmi');</script>
+<iframe src="/index.html" width="1100" height="800"></iframe>`;
 const server = createServer((request, response) => {
+    if (request.url === '/plateforme.html') return response.writeHead(200, { 'Content-Type': 'text/html' }).end(platform);
+    if (request.url === '/scorm.js') return response.writeHead(200, { 'Content-Type': 'text/javascript' }).end(readFileSync(join(npm, 'node_modules/scorm-again/dist/scorm12.js')));
     const path = normalize(join(site, decodeURIComponent(new URL(request.url, 'http://x').pathname)));
     if (!path.startsWith(site) || !existsSync(path) || !statSync(path).isFile()) return response.writeHead(404).end();
     return response.writeHead(200, { 'Content-Type': types[extname(path)] ?? 'application/octet-stream' }).end(readFileSync(path));
@@ -302,6 +307,54 @@ await page.waitForSelector('.champs input');
 await isAccessible(page, 'test');
 await page.getByRole('button', { name: 'Sommaire' }).click();
 await isAccessible(page, 'contents');
+
+// ---- On a learning platform: score, status and place are told, and what was done is taken up again
+
+async function onPlatform() {
+    const context = await browser.newContext();
+    const lms = await context.newPage();
+    await lms.goto(addresses.server.replace('index.html', 'plateforme.html'));
+    const value = (name) => lms.evaluate((key) => window.API.lmsGetValue(key), name);
+    const frame = lms.frame({ url: /index/ });
+    await frame.waitForSelector('.page svg');
+    strictEqual(await value('cmi.core.lesson_status'), 'incomplete');
+    await frame.evaluate(() => { location.hash = '#t1'; });
+    await frame.waitForSelector('.champs input');
+    await frame.locator('.champs input').first().check();
+    await frame.getByRole('button', { name: 'Valider' }).click();
+    await lms.waitForFunction(() => window.API.lmsGetValue('cmi.core.score.raw') === '0');
+    const data = await value('cmi.suspend_data');
+    strictEqual(JSON.parse(data).tests[1].donnees, 1);
+    // However much was answered, no more is told than a platform keeps.
+    const longest = await frame.evaluate(() => {
+        const { data } = JSON.parse(JSON.stringify({ data: { page: 1, tests: {} } }));
+        for (let i = 1; i <= 60; ++i) data.tests[i] = { etat: 'x'.repeat(200), justes: 1, donnees: 2, nombre: 10 };
+        const state = Scorm.prototype.state.call({ progress: { data } });
+        return [state.length, Object.keys(JSON.parse(state).tests).length];
+    });
+    ok(longest[0] <= 4096 && longest[1] > 10, String(longest));
+    await lms.evaluate((kept) => { localStorage.clear(); localStorage.setItem('plateforme', kept); }, data);
+    await lms.reload();
+    const again = lms.frame({ url: /index/ });
+    await again.waitForSelector('.page svg');
+    await again.evaluate(() => { location.hash = '#t1'; });
+    await again.waitForSelector('.bande .signe:not(:empty)');
+    const told = await lms.evaluate(() => {
+        const values = {};
+        window.API.on('LMSSetValue.cmi.core.session_time', (name, value) => { values.time = value; });
+        window.API.on('LMSFinish', () => { values.isFinished = true; });
+        document.querySelector('iframe').remove();
+        return values;
+    });
+    ok(/^\d{4}:\d\d:\d\d$/.test(told.time) && told.isFinished, JSON.stringify(told));
+    await context.close();
+}
+await onPlatform();
+
+const archive = join(folder, 'cours.zip');
+execFileSync(tool, ['publish', course, '--scorm', '-o', archive], { stdio: 'ignore' });
+const packed = execFileSync('python3', ['-c', 'import sys, zipfile; z = zipfile.ZipFile(sys.argv[1]); assert z.testzip() is None; print("\\n".join(z.namelist()))', archive], { encoding: 'utf8' }).trim().split('\n');
+deepStrictEqual(packed.filter((name) => name !== 'imsmanifest.xml').sort(), all().sort());
 
 const phone = await opened(addresses.server, { viewport: { width: 390, height: 800 }, hasTouch: true });
 const wide = await phone.page.evaluate(() => document.documentElement.scrollWidth);
