@@ -29,7 +29,7 @@ target_include_directories(orvalente_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
 # fails to link.
 #   orvalente_library(markup SOURCES a.cpp b.cpp LINKS text platform)
 # WEB: it needs nothing but the standard library, no files and no Qt, so that browsers can have it
-# too. It links libraries of its kind only, and scripts/web compiles it for wasm32.
+# too. It links libraries of its kind only, and OrvalenteWeb.cmake compiles it for wasm32.
 function(orvalente_library name)
     cmake_parse_arguments(ARG "WEB" "" "SOURCES;LINKS" ${ARGN})
     add_library(${name} STATIC ${ARG_SOURCES})
@@ -45,20 +45,6 @@ function(orvalente_library name)
         list(TRANSFORM ARG_SOURCES PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
         set_property(GLOBAL APPEND PROPERTY ORVALENTE_WEB_SOURCES ${ARG_SOURCES})
     endif()
-endfunction()
-
-# Writes down what scripts/web is to compile, and with which warnings; to be called when all
-# libraries are there.
-function(orvalente_web_test)
-    get_property(sources GLOBAL PROPERTY ORVALENTE_WEB_SOURCES)
-    list(APPEND sources ${CMAKE_SOURCE_DIR}/tests/web/numbers.cpp)
-    list(JOIN sources "\n" sources)
-    file(WRITE ${CMAKE_BINARY_DIR}/web/sources "${sources}\n")
-    list(JOIN ORVALENTE_WARNINGS " " warnings)
-    file(WRITE ${CMAKE_BINARY_DIR}/web/warnings "${warnings}\n")
-    add_test(NAME web.worksInBrowsers
-             COMMAND ${CMAKE_SOURCE_DIR}/scripts/web ${CMAKE_BINARY_DIR}/web)
-    set_tests_properties(web.worksInBrowsers PROPERTIES SKIP_RETURN_CODE 77 TIMEOUT 600)
 endfunction()
 
 # The tests of one folder, as one GoogleTest binary whose cases CTest lists one by one.

@@ -1,3 +1,4 @@
+#include "app/drawing_environment.h"
 #include "authoring/markdown_compiler.h"
 #include "check/check.h"
 #include "coursetool/drawing_request.h"
@@ -7,36 +8,8 @@
 #include "coursetool/tool_pictures.h"
 #include "coursetool/trace.h"
 #include "look/field_pictures.h"
-#include "page/faces/font_book.h"
-
-#include <QGuiApplication>
-
-#include <optional>
 
 namespace {
-
-/// To be made before the application object.
-struct NoDisplay {
-    NoDisplay() {
-        // What Qt remarks about the system it runs on is no fault of a course.
-        qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
-        // Fonts need an application object, but no display.
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
-};
-
-/// What drawing needs around it. A subcommand that compiles and then draws has two of them, one
-/// after the other or one within the other, and there is one application object.
-struct DrawingEnvironment {
-    DrawingEnvironment(int& argc, char** argv) {
-        if (!QCoreApplication::instance())
-            application.emplace(argc, argv);
-    }
-
-    NoDisplay noDisplay;
-    std::optional<QGuiApplication> application;
-    page::FontBook fonts;
-};
 
 /// Where pictures lie: in the course, or beside a source that stands alone.
 std::filesystem::path pictureFolder(const std::filesystem::path& course,
@@ -60,7 +33,7 @@ struct CompilerWithFonts : authoring::Compiler {
         return compiler.question(markdown, firstLine, askedType);
     }
 
-    DrawingEnvironment environment;
+    app::DrawingEnvironment environment;
     authoring::MarkdownCompiler compiler;
 };
 
@@ -74,7 +47,7 @@ extern "C" Q_DECL_EXPORT void orvalenteTrace(int& argc, char** argv,
                                              const coursetool::TraceRequest& request,
                                              coursetool::OutputBuffer& out,
                                              coursetool::Report& report) {
-    const DrawingEnvironment environment(argc, argv);
+    const app::DrawingEnvironment environment(argc, argv);
     coursetool::ToolPictures pictures(pictureFolder(request.course, request.source), request.drives,
                                       report);
     coursetool::trace(request, environment.fonts, pictures, out, report);
@@ -83,7 +56,7 @@ extern "C" Q_DECL_EXPORT void orvalenteTrace(int& argc, char** argv,
 extern "C" Q_DECL_EXPORT void orvalenteRender(int& argc, char** argv,
                                               const coursetool::RenderRequest& request,
                                               coursetool::Report& report) {
-    const DrawingEnvironment environment(argc, argv);
+    const app::DrawingEnvironment environment(argc, argv);
     coursetool::ToolPictures pictures(pictureFolder(request.course, request.source), request.drives,
                                       report);
     coursetool::render(request, environment.fonts, pictures, look::fieldPictures(), report);
@@ -92,7 +65,7 @@ extern "C" Q_DECL_EXPORT void orvalenteRender(int& argc, char** argv,
 extern "C" Q_DECL_EXPORT void orvalentePrint(int& argc, char** argv,
                                              const coursetool::PrintRequest& request,
                                              coursetool::Report& report) {
-    const DrawingEnvironment environment(argc, argv);
+    const app::DrawingEnvironment environment(argc, argv);
     coursetool::ToolPictures pictures(request.course, request.drives, report);
     coursetool::print(request, environment.fonts, pictures, report);
 }
@@ -101,13 +74,13 @@ extern "C" Q_DECL_EXPORT coursetool::ExitCode orvalenteCheck(int& argc, char** a
                                                              const check::CheckRequest& request,
                                                              coursetool::OutputBuffer& out,
                                                              coursetool::Report& report) {
-    const DrawingEnvironment environment(argc, argv);
+    const app::DrawingEnvironment environment(argc, argv);
     return check::check(request, environment.fonts, out, report);
 }
 
 extern "C" Q_DECL_EXPORT void orvalenteBuildWarnings(int& argc, char** argv,
                                                      const std::filesystem::path& source,
                                                      coursetool::Report& report) {
-    const DrawingEnvironment environment(argc, argv);
+    const app::DrawingEnvironment environment(argc, argv);
     check::warnOfWrongPages(source, environment.fonts, report);
 }

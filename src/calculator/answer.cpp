@@ -41,4 +41,9 @@ Answer answerWith(ErrorCode error) {
     return {Text(message(error)), true, error};
 }
 
+int statusOf(const Answer& answer) {
+    const bool tooLarge = answer.isMessage && answer.error == ErrorCode::None;
+    return static_cast<int>(tooLarge ? ErrorCode::Impossible : answer.error);
+}
+
 } // namespace calculator

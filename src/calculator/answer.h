@@ -23,4 +23,8 @@ Answer answerWith(TextView result, Format format);
 /// The message for `error`, which must be one.
 Answer answerWith(ErrorCode error);
 
+/// The number of the error that an answer stands for, as programs are told it: no result that could
+/// be shown is impossible. 0 for a result.
+int statusOf(const Answer& answer);
+
 } // namespace calculator

@@ -12,12 +12,6 @@ namespace calculator {
 
 namespace {
 
-/// The exit status that an answer stands for: no result that could be printed is impossible.
-int statusOf(const Answer& answer) {
-    const bool tooLarge = answer.isMessage && answer.error == ErrorCode::None;
-    return static_cast<int>(tooLarge ? ErrorCode::Impossible : answer.error);
-}
-
 Answer answerToLine(const std::string& line, const CalcOptions& options, Hooks hooks = {}) {
     return answerTo(text::toUtf16(line), options.angles, options.format, std::move(hooks));
 }

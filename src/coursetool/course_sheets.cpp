@@ -62,15 +62,21 @@ SourcePlace CourseSheets::place(int position) const {
 
 page::Sheet CourseSheets::sheet(int position, const page::TextMetrics& metrics,
                                 markup::PictureSource& pictures, Report& report) {
-    const coursedata::BoundRecord shown = record(position);
-    const markup::PageText text{shown.code, markup::DrawnAs::CoursePage, shown.Textitre};
+    return drawn(position, metrics, pictures, report).sheet;
+}
+
+DrawnCoursePage CourseSheets::drawn(int position, const page::TextMetrics& metrics,
+                                    markup::PictureSource& pictures, Report& report) {
+    DrawnCoursePage drawn{record(position), {}, {}};
+    const markup::PageText text{drawn.record.code, markup::DrawnAs::CoursePage,
+                                drawn.record.Textitre};
     markup::DrawingState state;
-    const markup::DrawnPage page = markup::drawPage(text, {state, pictures, metrics});
-    reportLost(text, page, metrics, place(position), report);
-    page::Sheet sheet = viewer::pageSheet(page, metrics);
-    sheet.title = shown.Textitre.simplified();
-    sheet.number = number(position).value_or(0);
-    return sheet;
+    drawn.page = markup::drawPage(text, {state, pictures, metrics});
+    reportLost(text, drawn.page, metrics, place(position), report);
+    drawn.sheet = viewer::pageSheet(drawn.page, metrics);
+    drawn.sheet.title = drawn.record.Textitre.simplified();
+    drawn.sheet.number = number(position).value_or(0);
+    return drawn;
 }
 
 } // namespace coursetool

@@ -3,6 +3,7 @@
 #include "coursedata/bound_record.h"
 #include "coursetool/course_records.h"
 #include "coursetool/lost_text.h"
+#include "markup/drawn_page.h"
 #include "markup/picture_source.h"
 #include "page/sheet.h"
 #include "page/text_metrics.h"
@@ -12,6 +13,13 @@
 #include <vector>
 
 namespace coursetool {
+
+/// A page of a course, drawn, with what goes with it.
+struct DrawnCoursePage {
+    coursedata::BoundRecord record;
+    markup::DrawnPage page;
+    page::Sheet sheet;
+};
 
 /// The pages of an installed course, in record order, drawn as the shell shows them.
 class CourseSheets {
@@ -42,6 +50,9 @@ public:
     /// does not show. Warns of what of its source nobody sees.
     page::Sheet sheet(int position, const page::TextMetrics& metrics,
                       markup::PictureSource& pictures, Report& report);
+    /// The same with all that comes of the drawing.
+    DrawnCoursePage drawn(int position, const page::TextMetrics& metrics,
+                          markup::PictureSource& pictures, Report& report);
 
     /// Where the source of the page at a position is.
     SourcePlace place(int position) const;

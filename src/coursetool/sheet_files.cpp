@@ -97,11 +97,12 @@ public:
 
 private:
     bool write(const page::Sheet& sheet, files::WholeFile& file) override {
-        const auto address = [this](const QString& tag) {
-            const QString name = set_.fileOfTag(tag);
+        const auto address = [this](const page::LinkArea& link) {
+            const QString name = set_.fileOfTag(link.tag);
             return name.isEmpty() ? name : fileName(name);
         };
-        const QByteArray document = output::svgDocument(sheet, fonts_, address, request_.scale);
+        const QByteArray document =
+            output::svgDocument(sheet, fonts_, {.address = address, .scale = request_.scale});
         return file.write(
             std::string_view(document.constData(), static_cast<std::size_t>(document.size())));
     }

@@ -47,7 +47,8 @@ void putLinks(const Recording& recording, const TextMetrics& metrics, Sheet& she
             for (TextOperation& line : captionLines(*link, metrics))
                 sheet.operations.emplace_back(std::move(line));
         sheet.links.push_back({link->surface, link->x, link->y, link->width, link->height,
-                               link->tag, link->tooltip, link->caption.simplified()});
+                               link->tag, link->tooltip, link->caption.simplified(),
+                               link->control == LinkControl::Imagelien ? link->index : -1});
     }
 }
 

@@ -25,6 +25,9 @@ struct LinkArea {
     QString tag;
     QString tooltip;
     QString caption = {}; ///< what the place says, on one line; empty for pictures
+    /// Number of the link among the pictures of a course page that lead elsewhere: a floating menu
+    /// has that of its picture. -1 for other links.
+    int picture = -1;
 };
 
 struct Sheet {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <string>
 
 namespace platform {
@@ -14,5 +15,9 @@ struct ModuleFunction {
 /// Loads the module with this bare file name, for good, and looks `symbol` up. The module is looked
 /// for beside the program and where the program was told to look when it was linked.
 ModuleFunction loadModuleFunction(const char* fileName, const char* symbol);
+
+/// The directory of the program or module that this function is part of; empty when the system does
+/// not tell.
+std::filesystem::path directoryOfModule(void (*function)());
 
 } // namespace platform

@@ -102,7 +102,7 @@ struct Svg : testing::Test, SheetCase {
     static QPoint inSheet(QPoint twips) { return (twips + QPoint(150, 150)) / 15; }
 
     QByteArray document(const output::LinkAddress& address = {}, double scale = 1) const {
-        return output::svgDocument(sheet(), fonts, address, scale);
+        return output::svgDocument(sheet(), fonts, {.address = address, .scale = scale});
     }
 };
 
@@ -218,8 +218,8 @@ TEST_F(Svg, linksLeadWhereTheAddressSays) {
     link.index = 1;
     link.tag = QStringLiteral("PAG014");
     recording.add(link);
-    const auto address = [](const QString& tag) {
-        return tag == u"PAG013" ? QStringLiteral("page-013.svg") : QString();
+    const auto address = [](const page::LinkArea& area) {
+        return area.tag == u"PAG013" ? QStringLiteral("page-013.svg") : QString();
     };
     const QByteArray svg = document(address);
     EXPECT_THAT(values(svg, "a", "xlink:href"), ElementsAre(QStringLiteral("page-013.svg")));

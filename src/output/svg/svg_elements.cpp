@@ -49,15 +49,23 @@ QString PictureStore::store(const page::Picture& picture) {
     const auto same = byContent_.constFind(bytes);
     if (same != byContent_.constEnd())
         return *same;
-    const QString name = QStringLiteral("i%1").arg(byContent_.size() + 1);
+    const QString name = form_.idPrefix + QStringLiteral("i%1").arg(byContent_.size() + 1);
+    byContent_.insert(bytes, name);
+    const QByteArray inlined = form_.inlined && picture.format() == page::PictureFormat::Svg
+                                   ? form_.inlined(picture, name)
+                                   : QByteArray();
+    if (!inlined.isEmpty()) {
+        definitions_ += inlined;
+        return name;
+    }
     markup_.empty("image")
         .with("id", name)
         .with("width", "1")
         .with("height", "1")
         .with("preserveAspectRatio", "none")
-        .with("xlink:href", QString::fromLatin1("data:" + type + ";base64," + bytes.toBase64()))
+        .with(form_.isInPage ? "href" : "xlink:href",
+              QString::fromLatin1("data:" + type + ";base64," + bytes.toBase64()))
         .endLine();
-    byContent_.insert(bytes, name);
     return name;
 }
 
@@ -65,7 +73,7 @@ QString ClipStore::reference(const QRectF& area) {
     auto place = std::find(areas_.begin(), areas_.end(), area);
     if (place == areas_.end())
         place = areas_.insert(areas_.end(), area);
-    return QStringLiteral("url(#c%1)").arg(place - areas_.begin() + 1);
+    return QStringLiteral("url(#%1c%2)").arg(idPrefix_).arg(place - areas_.begin() + 1);
 }
 
 QByteArray ClipStore::definitions() const {
@@ -73,7 +81,7 @@ QByteArray ClipStore::definitions() const {
     Markup markup(all);
     for (std::size_t i = 0; i < areas_.size(); ++i)
         markup.open("clipPath")
-            .with("id", QStringLiteral("c%1").arg(i + 1))
+            .with("id", idPrefix_ + QStringLiteral("c%1").arg(i + 1))
             .empty("rect")
             .with("x", pixels(areas_[i].x()))
             .with("y", pixels(areas_[i].y()))

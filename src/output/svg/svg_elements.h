@@ -1,5 +1,6 @@
 #pragma once
 
+#include "output/svg/svg_form.h"
 #include "page/picture.h"
 
 #include <QByteArray>
@@ -51,6 +52,9 @@ private:
 /// The pictures of a document, each stored once under a name of its own.
 class PictureStore {
 public:
+    /// `form` outlives it.
+    explicit PictureStore(const SvgForm& form) : form_(form) {}
+
     /// The name of a picture; empty for one that cannot be stored.
     QString name(const page::Picture& picture);
 
@@ -59,6 +63,7 @@ public:
 private:
     QString store(const page::Picture& picture);
 
+    const SvgForm& form_;
     QHash<const page::Picture*, QString> names_;
     QHash<QByteArray, QString> byContent_;
     QByteArray definitions_;
@@ -68,12 +73,15 @@ private:
 /// The areas that elements are cut at, each defined once.
 class ClipStore {
 public:
+    explicit ClipStore(QString idPrefix) : idPrefix_(std::move(idPrefix)) {}
+
     /// The value of a "clip-path".
     QString reference(const QRectF& area);
 
     QByteArray definitions() const;
 
 private:
+    QString idPrefix_;
     std::vector<QRectF> areas_;
 };
 

@@ -57,15 +57,6 @@ const QStringList& fallbackFamilies() {
     return kFamilies;
 }
 
-/// The families that a face's characters come from, in this order: the first that has it.
-QStringList families(const QString& face) {
-    QStringList list{standIn(face).family};
-    for (const QString& family : fallbackFamilies())
-        if (family != list.first())
-            list.append(family);
-    return list;
-}
-
 /// A style of a family as the system has it.
 struct ChosenFace {
     QRawFont font;
@@ -324,6 +315,14 @@ const FontBook::FaceSource& FontBook::faceSource(const Font& font, int fallback)
 
 QRawFont FontBook::deviceFont(const Font& font, int fallback, double pixelSize) const {
     return face(font).deviceFont(fallback, pixelSize);
+}
+
+QStringList FontBook::families(const QString& face) {
+    QStringList list{standIn(face).family};
+    for (const QString& family : fallbackFamilies())
+        if (family != list.first())
+            list.append(family);
+    return list;
 }
 
 QStringList FontBook::missingFamilies() {

@@ -60,6 +60,10 @@ public:
     /// empty when no face is there.
     static const FaceSource& faceSource(const Font& font, int fallback);
 
+    /// The families that a face's characters come from: the first that has it, at the place that
+    /// PlacedGlyph::fallback tells.
+    static QStringList families(const QString& face);
+
     /// Families that no installed font answers for, as a person would name them; empty when all
     /// stand-ins are there.
     static QStringList missingFamilies();

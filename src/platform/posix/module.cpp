@@ -16,4 +16,12 @@ ModuleFunction loadModuleFunction(const char* fileName, const char* symbol) {
     return {nullptr, "« " + file + " » manque, ou n’est pas de la même version"};
 }
 
+std::filesystem::path directoryOfModule(void (*function)()) {
+    Dl_info found{};
+    if (dladdr(reinterpret_cast<void*>(function), &found) == 0 || !found.dli_fname)
+        return {};
+    std::error_code error;
+    return std::filesystem::canonical(found.dli_fname, error).parent_path();
+}
+
 } // namespace platform

@@ -13,4 +13,15 @@ ModuleFunction loadModuleFunction(const char* fileName, const char* symbol) {
     return {nullptr, "« " + std::string(fileName) + " » manque, ou n’est pas de la même version"};
 }
 
+std::filesystem::path directoryOfModule(void (*function)()) {
+    HMODULE module = nullptr;
+    wchar_t path[MAX_PATH];
+    if (!GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS |
+                                GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                            reinterpret_cast<LPCWSTR>(function), &module) ||
+        GetModuleFileNameW(module, path, MAX_PATH) == 0)
+        return {};
+    return std::filesystem::path(path).parent_path();
+}
+
 } // namespace platform

@@ -1,0 +1,23 @@
+#include "app/drawing_environment.h"
+#include "coursetool/tool_pictures.h"
+#include "look/field_pictures.h"
+#include "platform/module.h"
+#include "publish/course_site.h"
+
+namespace {
+
+/// Stands beside this module.
+std::filesystem::path browserProgram() {
+    return platform::directoryOfModule([] {}) / ORVALENTE_WEB_PROGRAM;
+}
+
+} // namespace
+
+extern "C" Q_DECL_EXPORT void orvalentePublish(int& argc, char** argv,
+                                               const publish::PublishRequest& request,
+                                               coursetool::Report& report) {
+    const app::DrawingEnvironment environment(argc, argv);
+    coursetool::ToolPictures pictures(request.course, request.drives, report);
+    publish::publishCourse(request, browserProgram(), environment.fonts, pictures,
+                           look::fieldPictures(), report);
+}

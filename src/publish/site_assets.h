@@ -1,0 +1,27 @@
+#pragma once
+
+#include "publish/site_folder.h"
+
+#include <QByteArray>
+#include <QString>
+
+namespace publish {
+
+/// What every site is made of beside its course: the page that holds everything, its style and its
+/// scripts (site/), the shell's icons, and the licences of the faces.
+class SiteAssets {
+public:
+    explicit SiteAssets(SiteFolder& site) : site_(site) {}
+
+    /// Writes all but the first page, which it gives. `faces` are rules of the style sheet,
+    /// `course` the script that tells of the pages, `texts` what the pages say, as HTML.
+    QByteArray write(const QString& title, const QByteArray& faces, const QByteArray& course,
+                     const QByteArray& texts);
+
+private:
+    QByteArray plan(const QString& title, const QByteArray& texts);
+
+    SiteFolder& site_;
+};
+
+} // namespace publish
