@@ -6,6 +6,8 @@
 #include "calculator/key_rules.h"
 #include "calculator/pasted_keys.h"
 
+#include <utility>
+
 namespace {
 
 using browser::give;

@@ -4,7 +4,6 @@
 #include "text/rounding.h"
 
 #include <algorithm>
-#include <cstring>
 #include <vector>
 
 namespace browser {

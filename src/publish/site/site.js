@@ -2,7 +2,7 @@
 'use strict';
 
 /** Height of a printed sheet in pixels of the drawing, 800 to the width: A4 with its margins. */
-const PRINTED_HEIGHT = 1090;
+const PRINTED_HEIGHT = 1125;
 
 /** The site: one page of HTML, "#p12" is page 12 of the course, "#t3" the test of chapter 3. */
 class Site {
@@ -204,10 +204,13 @@ class Site {
         place.classList.add('mesure');
         for (const page of pages) {
             const data = await this.course.page(page.numero);
-            for (const slice of slices(data.dessin, place)) place.append(slice);
+            for (const slice of slices(data.dessin, place)) {
+                slice.dataset.titre = page.titre;
+                place.append(slice);
+            }
         }
-        const sheets = [...place.children];
-        sheets.forEach((sheet, i) => sheet.append(element('p', { class: 'pied-feuille' }, `${this.course.data.titre} – feuille ${i + 1} sur ${sheets.length}`)));
+        const sheets = /** @type {HTMLElement[]} */ ([...place.children]);
+        sheets.forEach((sheet, i) => sheet.append(element('p', { class: 'pied-feuille' }, `${sheet.dataset.titre} – feuille ${i + 1} sur ${sheets.length}`)));
         place.classList.remove('mesure');
         await document.fonts?.ready;
         window.print();
