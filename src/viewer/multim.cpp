@@ -112,7 +112,7 @@ void Multim::addControls() {
 
     finder_ = std::make_unique<PageFinder>(PageFinder::Parts{
         *findBar, *panel_, {PictureTEXTE_, PICTUREILLUS_, titre_}, shown_.recording, fonts_});
-    selection_ = new PageSelection(*PictureTEXTE_, fonts_, [this] {
+    selection_ = new PageSelection(*PictureTEXTE_, *panel_, fonts_, [this] {
         return parts_ ? pageCode(parts_->pages.record().TextID.toInt()) : QString();
     });
     setVideoLayout(videoLayout_);
