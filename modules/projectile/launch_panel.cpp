@@ -2,6 +2,7 @@
 
 #include "common/formula_button.h"
 #include "common/plain_label.h"
+#include "look/accessible_role.h"
 #include "look/tool_tip.h"
 #include "projectile/quantity_row.h"
 
@@ -24,9 +25,9 @@ QLabel* heading(const QString& text) {
     return label;
 }
 
-/// Buttons of which one is pressed, in a row. The Tab key stops at the pressed one, as the arrow
-/// keys lead to the others.
-QWidget* row(QButtonGroup* group) {
+/// Buttons of which one is pressed, in a row, and what it chooses. The Tab key stops at the pressed
+/// one, as the arrow keys lead to the others.
+QWidget* row(QButtonGroup* group, const QString& name) {
     QObject::connect(group, &QButtonGroup::buttonToggled, group,
                      [group](const QAbstractButton* pressed, bool down) {
                          for (QAbstractButton* button : group->buttons())
@@ -35,6 +36,8 @@ QWidget* row(QButtonGroup* group) {
                                                                           : Qt::NoFocus);
                      });
     auto* widget = new QWidget;
+    look::setAccessibleRole(*widget, QAccessible::Grouping);
+    widget->setAccessibleName(name);
     auto* layout = new QHBoxLayout(widget);
     layout->setContentsMargins(0, 2, 0, 2);
     layout->setSpacing(4);
@@ -93,7 +96,7 @@ QWidget* LaunchPanel::worlds() {
         experiment_.setWorld(kWorlds.at(static_cast<std::size_t>(which)));
         show();
     });
-    QWidget* buttons = row(worlds_);
+    QWidget* buttons = row(worlds_, QStringLiteral("Astre"));
     buttons->setEnabled(!experiment_.isLocked(Parameter::Gravity));
     return buttons;
 }
@@ -115,7 +118,7 @@ QWidget* LaunchPanel::drags() {
         experiment_.setDrag(static_cast<Drag>(which));
         show();
     });
-    QWidget* buttons = row(drags_);
+    QWidget* buttons = row(drags_, QStringLiteral("Frottements de l’air"));
     buttons->setEnabled(!experiment_.isDragLocked());
     return buttons;
 }

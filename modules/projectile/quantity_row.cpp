@@ -37,7 +37,10 @@ void NumberField::keyPressEvent(QKeyEvent* event) {
 
 QuantityRow::QuantityRow(Experiment& experiment, Parameter parameter, QWidget* parent)
     : QWidget(parent), experiment_(experiment), quantity_(quantity(parameter)),
-      field_(new NumberField), slider_(new QSlider(Qt::Horizontal)) {
+      field_(new NumberField),
+      slider_(new common::MeasuredSlider({[this](int position) { return valueAt(position); },
+                                          [this](double value) { return positionOf(value); },
+                                          text(quantity_.unit), quantity_.decimals})) {
     const QString name = text(quantity_.name);
     auto* label = new common::FormulaLabel(
         QStringLiteral("\\text{%1 }%2").arg(name, text(quantity_.symbol)), name, look::kLabelPx);
@@ -56,7 +59,6 @@ QuantityRow::QuantityRow(Experiment& experiment, Parameter parameter, QWidget* p
     slider_->setRange(0, positionOf(quantity_.most));
     slider_->setPageStep(10);
     slider_->setAccessibleName(name);
-    slider_->setAccessibleDescription(QStringLiteral("en %1").arg(text(quantity_.unit)));
 
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "common/measured_slider.h"
 #include "projectile/experiment.h"
 
 #include <QDoubleSpinBox>
-#include <QSlider>
 #include <QWidget>
 
 namespace projectile {
@@ -32,7 +32,7 @@ private:
     Experiment& experiment_;
     const Quantity& quantity_;
     NumberField* field_;
-    QSlider* slider_;
+    common::MeasuredSlider* slider_;
 };
 
 } // namespace projectile

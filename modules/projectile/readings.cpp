@@ -8,8 +8,6 @@
 
 #include <QPainter>
 
-#include <vector>
-
 namespace projectile {
 
 namespace {
@@ -22,44 +20,11 @@ constexpr int kEdges = 6; ///< above the first line and below the last
 /// Narrower, the longest numbers would touch: "v_y = −98,00 m/s".
 constexpr int kLeastForTwoLines = 600;
 
-struct Reading {
-    const char16_t* name; ///< a formula
-    double value;
-    const char16_t* unit;
-};
-
-/// Readings of which no line has more than `perLine`. Returns the top of the next line.
-double paintGroup(QPainter& painter, double top, double width, const QString& name,
-                  const std::vector<Reading>& readings, std::size_t perLine, bool hidden) {
-    painter.setFont(look::interfaceFont(look::kButtonPx));
-    painter.setPen(QColor::fromRgb(look::kMuted));
-    painter.drawText(QPointF(10, top + kBaseline), name);
-    const double cell = (width - kNameWidth - 8) / static_cast<double>(perLine);
-    double x = kNameWidth;
-    for (std::size_t i = 0; i < readings.size(); ++i) {
-        const Reading& reading = readings[i];
-        if (i == perLine) {
-            x = kNameWidth;
-            top += kLineHeight;
-        }
-        painter.setPen(QColor::fromRgb(look::kMuted));
-        const common::Formula symbol(
-            QString::fromUtf16(reading.name) + QStringLiteral("\u00A0=\u00A0"), look::kLabelPx);
-        symbol.paint(painter, {x, top + kBaseline});
-        painter.setPen(QColor::fromRgb(look::kInk));
-        painter.setFont(look::interfaceFont(look::kLabelPx, look::Weight::Bold));
-        const QString value = hidden ? QStringLiteral("?") : common::frenchNumber(reading.value, 2);
-        painter.drawText(QPointF(x + symbol.width(), top + kBaseline),
-                         value + u'\u00A0' + QString::fromUtf16(reading.unit));
-        x += cell;
-    }
-    return top + kLineHeight;
-}
-
 } // namespace
 
 Readings::Readings(Experiment& experiment, QWidget* parent)
     : QWidget(parent), experiment_(experiment) {
+    look::setAccessibleRole(*this, QAccessible::StaticText);
     setFixedHeight(2 * kLineHeight + kEdges);
     setAccessibleName(QStringLiteral("Valeurs à l’instant affiché et pour le vol entier"));
     experiment_.onChanged([this] { update(); });
@@ -75,25 +40,78 @@ void Readings::resizeEvent(QResizeEvent*) {
     setFixedHeight((width() < kLeastForTwoLines ? 4 : 2) * kLineHeight + kEdges);
 }
 
-void Readings::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    look::drawFrame(painter, rect(), 0, look::kRule, QColor::fromRgb(look::kPaper));
+std::vector<Readings::Group> Readings::groups() const {
     const Moment now = experiment_.now();
     const Flight& flight = experiment_.flight();
     const bool wide = width() >= kLeastForTwoLines;
-    const double next = paintGroup(painter, kEdges / 2, width(), QStringLiteral("À l’instant"),
-                                   {{u"x", now.x, u"m"},
-                                    {u"y", now.y, u"m"},
-                                    {u"v_x", now.vx, u"m/s"},
-                                    {u"v_y", now.vy, u"m/s"},
-                                    {u"v", now.speed(), u"m/s"}},
-                                   wide ? 5 : 3, false);
-    paintGroup(painter, next, width(), QStringLiteral("Vol entier"),
-               {{u"\\text{portée}", flight.range(), u"m"},
-                {u"\\text{sommet}", flight.apex().y, u"m"},
-                {u"\\text{durée}", flight.duration(), u"s"},
-                {u"\\text{arrivée}", flight.landing().speed(), u"m/s"}},
-               wide ? 4 : 2, flightHidden_);
+    return {{QStringLiteral("À l’instant"),
+             {{u"x", u"x", now.x, u"m"},
+              {u"y", u"y", now.y, u"m"},
+              {u"v_x", u"v indice x", now.vx, u"m/s"},
+              {u"v_y", u"v indice y", now.vy, u"m/s"},
+              {u"v", u"v", now.speed(), u"m/s"}},
+             wide ? 5U : 3U,
+             false},
+            {QStringLiteral("Vol entier"),
+             {{u"\\text{portée}", u"portée", flight.range(), u"m"},
+              {u"\\text{sommet}", u"sommet", flight.apex().y, u"m"},
+              {u"\\text{durée}", u"durée", flight.duration(), u"s"},
+              {u"\\text{arrivée}", u"arrivée", flight.landing().speed(), u"m/s"}},
+             wide ? 4U : 2U,
+             flightHidden_}};
+}
+
+QString Readings::valueOf(const Group& group, const Reading& reading) {
+    return (group.hidden ? QStringLiteral("?") : common::frenchNumber(reading.value, 2)) +
+           u'\u00A0' + QString::fromUtf16(reading.unit);
+}
+
+QString Readings::toldInWords() const {
+    QString words;
+    for (const Group& group : groups()) {
+        if (group.hidden)
+            continue;
+        QStringList numbers;
+        for (const Reading& reading : group.readings)
+            numbers.append(QString::fromUtf16(reading.spoken) + QStringLiteral("\u00A0= ") +
+                           valueOf(group, reading));
+        words += group.name + QStringLiteral("\u00A0: ") + numbers.join(QStringLiteral(" ; ")) +
+                 QStringLiteral(". ");
+    }
+    return words.trimmed();
+}
+
+/// Returns the top of the next line.
+double Readings::paintGroup(QPainter& painter, double top, const Group& group) const {
+    painter.setFont(look::interfaceFont(look::kButtonPx));
+    painter.setPen(QColor::fromRgb(look::kMuted));
+    painter.drawText(QPointF(10, top + kBaseline), group.name);
+    const double cell = (width() - kNameWidth - 8) / static_cast<double>(group.perLine);
+    double x = kNameWidth;
+    for (std::size_t i = 0; i < group.readings.size(); ++i) {
+        const Reading& reading = group.readings[i];
+        if (i == group.perLine) {
+            x = kNameWidth;
+            top += kLineHeight;
+        }
+        painter.setPen(QColor::fromRgb(look::kMuted));
+        const common::Formula symbol(
+            QString::fromUtf16(reading.symbol) + QStringLiteral("\u00A0=\u00A0"), look::kLabelPx);
+        symbol.paint(painter, {x, top + kBaseline});
+        painter.setPen(QColor::fromRgb(look::kInk));
+        painter.setFont(look::interfaceFont(look::kLabelPx, look::Weight::Bold));
+        painter.drawText(QPointF(x + symbol.width(), top + kBaseline), valueOf(group, reading));
+        x += cell;
+    }
+    return top + kLineHeight;
+}
+
+void Readings::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    look::drawFrame(painter, rect(), 0, look::kRule, QColor::fromRgb(look::kPaper));
+    double top = kEdges / 2;
+    for (const Group& group : groups())
+        top = paintGroup(painter, top, group);
 }
 
 } // namespace projectile

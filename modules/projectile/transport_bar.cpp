@@ -2,6 +2,7 @@
 
 #include "common/formula_label.h"
 #include "common/french_number.h"
+#include "common/measured_slider.h"
 #include "common/plain_label.h"
 #include "look/button.h"
 #include "look/tool_tip.h"
@@ -9,7 +10,6 @@
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QSignalBlocker>
-#include <QSlider>
 
 #include <cmath>
 
@@ -80,14 +80,15 @@ void TransportBar::addButtons() {
 }
 
 void TransportBar::addTime() {
-    time_ = new QSlider(Qt::Horizontal);
+    time_ = new common::MeasuredSlider({[this](int position) { return timeAt(position); },
+                                        [this](double time) { return positionAt(time); },
+                                        QStringLiteral("s"), 2});
     time_->setRange(0, kPositions);
     time_->setMinimumWidth(64); // it would be the first to give way
     time_->setAccessibleName(QStringLiteral("Temps"));
     time_->setPageStep(kPositions / 20);
     connect(time_, &QSlider::valueChanged, this, [this](int position) {
-        const double t = experiment_.playback().duration() * position / kPositions;
-        experiment_.play([t](Playback& playback) { playback.seek(t); });
+        experiment_.play([time = timeAt(position)](Playback& playback) { playback.seek(time); });
     });
     reading_ = new common::FormulaLabel({}, {}, look::kLabelPx);
     reading_->setFixedWidth(kReadingWidth);
@@ -96,12 +97,23 @@ void TransportBar::addTime() {
     layout()->addWidget(reading_);
 }
 
+double TransportBar::timeAt(int position) const {
+    return experiment_.playback().duration() * position / kPositions;
+}
+
+int TransportBar::positionAt(double time) const {
+    const double duration = experiment_.playback().duration();
+    return duration > 0 ? static_cast<int>(std::lround(time / duration * kPositions)) : 0;
+}
+
 void TransportBar::addRates() {
     rates_ = new QComboBox;
     for (const double rate : kRates)
         rates_->addItem(QStringLiteral("×\u00A0") + common::frenchDigits(rate, 2));
     rates_->setCurrentIndex(kUsualRate);
     rates_->setAccessibleName(QStringLiteral("Vitesse de la simulation"));
+    // Where the toolkit takes the line chosen for the name.
+    rates_->setAccessibleDescription(rates_->accessibleName());
     look::setToolTip(*rates_, QStringLiteral("ralenti ou accéléré"));
     connect(rates_, &QComboBox::currentIndexChanged, this, [this](int which) {
         experiment_.play([which](Playback& playback) { playback.setRate(kRates[which]); });
@@ -147,10 +159,7 @@ void TransportBar::show() {
                                   ? QStringLiteral("ou barre d’espace")
                                   : QStringLiteral("Lancé ainsi, le projectile reste au sol."));
     const QSignalBlocker blocker(time_);
-    time_->setValue(
-        playback.duration() > 0
-            ? static_cast<int>(std::lround(playback.time() / playback.duration() * kPositions))
-            : 0);
+    time_->setValue(positionAt(playback.time()));
     const QString seconds = common::frenchNumber(playback.time(), 2);
     reading_->setFormula(QStringLiteral("t\u00A0=\u00A0%1\\text{\u00A0s}").arg(seconds),
                          QStringLiteral("t\u00A0=\u00A0%1\u00A0s").arg(seconds));

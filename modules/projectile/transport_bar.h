@@ -8,14 +8,14 @@
 
 namespace common {
 class FormulaLabel;
-}
+class MeasuredSlider;
+} // namespace common
 
 namespace look {
 class Button;
 }
 
 class QComboBox;
-class QSlider;
 
 namespace projectile {
 
@@ -35,10 +35,12 @@ private:
     void addRates();
     void show();
     void tick();
+    double timeAt(int position) const;
+    int positionAt(double time) const;
 
     Experiment& experiment_;
     look::Button* start_ = nullptr;
-    QSlider* time_ = nullptr;
+    common::MeasuredSlider* time_ = nullptr;
     common::FormulaLabel* reading_ = nullptr;
     QComboBox* rates_ = nullptr;
     QTimer timer_;
