@@ -123,8 +123,10 @@ void LinkControls::putInReadingOrder() {
         const bool twin = (at > 0 && isPictureOf(*link, *links[at - 1])) ||
                           (at + 1 < links.size() && isPictureOf(*link, *links[at + 1]));
         control->setFocusPolicy(twin ? Qt::NoFocus : Qt::TabFocus);
-        QWidget::setTabOrder(before, control);
         control->raise(); // the children of a window stand in this order too
+        if (twin)
+            continue;
+        QWidget::setTabOrder(before, control);
         before = control;
     }
 }

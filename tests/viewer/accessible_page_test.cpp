@@ -68,6 +68,10 @@ TEST_F(AccessiblePage, aPictureBesideWordsForTheSamePlaceIsNoStopOfItsOwn) {
     EXPECT_EQ(tree(document()).count(QStringLiteral("(lien")), 3);
     EXPECT_EQ(link("Imagelien(0)")->focusPolicy(), Qt::NoFocus);
     EXPECT_EQ(link("Imagelien(1)")->focusPolicy(), Qt::TabFocus);
+    for (const char* next : {"Labelien(0)", "Imagelien(1)", "Labelien(1)"}) {
+        QTest::keyClick(&bench.window, Qt::Key_Tab);
+        EXPECT_EQ(QApplication::focusWidget(), link(next)) << next;
+    }
     show(6, QStringLiteral("##LIERXzzla page#PAG002\r\n"));
     EXPECT_EQ(tree(document()).count(QStringLiteral("(lien")), 1);
 }
