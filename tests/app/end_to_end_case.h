@@ -57,6 +57,7 @@ protected:
     void start(const QStringList& arguments = {}) {
         shell_.setProcessEnvironment(environment());
         shell_.start(ORVALENTE, QStringList{"--course", course()} + arguments);
+        ASSERT_TRUE(shell_.waitForStarted());
         ASSERT_TRUE(eventually([&] { return !window().isEmpty() && !title().isEmpty(); }));
     }
 
