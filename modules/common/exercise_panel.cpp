@@ -1,6 +1,7 @@
 #include "common/exercise_panel.h"
 
 #include "common/plain_label.h"
+#include "look/announcement.h"
 #include "look/button.h"
 #include "look/icon.h"
 #include "look/ink.h"
@@ -109,6 +110,7 @@ void ExercisePanel::check() {
                                                        : look::kRed);
     verdict_->show();
     verdict_->setAccessibleName(verdict_->text());
+    look::announce(*this, verdict_->text());
     nextButton_->setVisible(right && next_);
     holdHeight();
     field_->setFocus();

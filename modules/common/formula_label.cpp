@@ -1,5 +1,6 @@
 #include "common/formula_label.h"
 
+#include "look/accessible_role.h"
 #include "look/palette.h"
 
 #include <QPainter>
@@ -9,6 +10,7 @@ namespace common {
 FormulaLabel::FormulaLabel(const QString& formula, const QString& spoken, int pixels,
                            QWidget* parent)
     : QWidget(parent), source_(formula), pixels_(pixels), formula_(formula, pixels) {
+    look::setAccessibleRole(*this, QAccessible::StaticText);
     setAccessibleName(spoken);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }

@@ -34,7 +34,10 @@ void NumberField::keyPressEvent(QKeyEvent* event) {
 
 NumberRow::NumberRow(const Number& number, std::function<void(double)> set, QWidget* parent)
     : QWidget(parent), number_(number), label_(new FormulaLabel({}, {}, look::kLabelPx)),
-      field_(new NumberField), slider_(new QSlider(Qt::Horizontal)) {
+      field_(new NumberField),
+      slider_(new MeasuredSlider({[this](int position) { return number_.valueAt(position); },
+                                  [this](double value) { return number_.positionOf(value); },
+                                  text(number.unit), number.decimals})) {
     const bool isAngle = text(number.unit) == QStringLiteral("°");
     field_->setRange(number.least, number.most);
     field_->setDecimals(number.decimals);
@@ -47,7 +50,6 @@ NumberRow::NumberRow(const Number& number, std::function<void(double)> set, QWid
 
     slider_->setRange(0, number.positionOf(number.most));
     slider_->setPageStep(10);
-    slider_->setAccessibleDescription(QStringLiteral("en %1").arg(text(number.unit)));
     setName(QStringLiteral("\\text{%1 }%2").arg(text(number.name), text(number.symbol)),
             text(number.name));
 

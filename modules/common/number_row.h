@@ -1,9 +1,9 @@
 #pragma once
 
+#include "common/measured_slider.h"
 #include "common/number.h"
 
 #include <QDoubleSpinBox>
-#include <QSlider>
 #include <QWidget>
 
 #include <functional>
@@ -39,7 +39,7 @@ private:
     Number number_;
     FormulaLabel* label_;
     NumberField* field_;
-    QSlider* slider_;
+    MeasuredSlider* slider_;
 };
 
 } // namespace common

@@ -5,6 +5,7 @@
 #include "look/palette.h"
 
 #include <QPainter>
+#include <QStringList>
 
 namespace common {
 
@@ -16,11 +17,11 @@ constexpr double kBaseline = 18;
 
 } // namespace
 
-double paintReadings(QPainter& painter, double top, double width, const QString& group,
-                     const std::vector<Reading>& readings, std::size_t perLine) {
+double paintReadings(QPainter& painter, double top, double width, const ReadingGroup& group) {
+    const auto& [name, readings, perLine] = group;
     painter.setFont(look::interfaceFont(look::kButtonPx));
     painter.setPen(QColor::fromRgb(look::kMuted));
-    painter.drawText(QPointF(kLeft, top + kBaseline), group);
+    painter.drawText(QPointF(kLeft, top + kBaseline), name);
     const double cell = (width - kNameWidth - 8) / static_cast<double>(perLine);
     for (std::size_t i = 0; i < readings.size(); ++i) {
         if (i > 0 && i % perLine == 0)
@@ -34,6 +35,14 @@ double paintReadings(QPainter& painter, double top, double width, const QString&
         painter.drawText(QPointF(x + symbol.width(), top + kBaseline), readings[i].value);
     }
     return top + kReadingHeight;
+}
+
+QString readingsInWords(const ReadingGroup& group) {
+    QStringList numbers;
+    for (const Reading& reading : group.readings)
+        numbers.append((reading.spoken.isEmpty() ? reading.name : reading.spoken) +
+                       QStringLiteral("\u00A0= ") + reading.value);
+    return group.name + QStringLiteral("\u00A0: ") + numbers.join(QStringLiteral(" ; ")) + u'.';
 }
 
 } // namespace common

@@ -1,5 +1,7 @@
 #include "common/segment_row.h"
 
+#include "look/accessible_role.h"
+
 #include <QAbstractButton>
 #include <QButtonGroup>
 #include <QHBoxLayout>
@@ -7,7 +9,7 @@
 
 namespace common {
 
-QWidget* segmentRow(QButtonGroup* group) {
+QWidget* segmentRow(QButtonGroup* group, const QString& name) {
     QObject::connect(group, &QButtonGroup::buttonToggled, group,
                      [group](const QAbstractButton* pressed, bool down) {
                          for (QAbstractButton* button : group->buttons())
@@ -16,6 +18,8 @@ QWidget* segmentRow(QButtonGroup* group) {
                                                                           : Qt::NoFocus);
                      });
     auto* widget = new QWidget;
+    look::setAccessibleRole(*widget, QAccessible::Grouping);
+    widget->setAccessibleName(name);
     auto* layout = new QHBoxLayout(widget);
     layout->setContentsMargins(0, 2, 0, 2);
     layout->setSpacing(4);

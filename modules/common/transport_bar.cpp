@@ -2,6 +2,7 @@
 
 #include "common/formula_label.h"
 #include "common/french_number.h"
+#include "common/measured_slider.h"
 #include "common/plain_label.h"
 #include "look/button.h"
 #include "look/tool_tip.h"
@@ -10,7 +11,6 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QSignalBlocker>
-#include <QSlider>
 
 #include <cmath>
 #include <utility>
@@ -79,14 +79,15 @@ void TransportBar::addButtons() {
 }
 
 void TransportBar::addSlider() {
-    slider_ = new QSlider(Qt::Horizontal);
+    slider_ = new MeasuredSlider({[this](int position) { return timeAt(position); },
+                                  [this](double time) { return positionAt(time); },
+                                  QStringLiteral("s"), 2});
     slider_->setRange(0, kPositions);
     slider_->setMinimumWidth(64); // it would be the first to give way
     slider_->setAccessibleName(words_.slider);
     slider_->setPageStep(kPositions / 20);
     connect(slider_, &QSlider::valueChanged, this, [this](int position) {
-        const double t = player_.playback().duration() * position / kPositions;
-        player_.play([t](Playback& playback) { playback.seek(t); });
+        player_.play([t = timeAt(position)](Playback& playback) { playback.seek(t); });
     });
     reading_ = new FormulaLabel({}, {}, look::kLabelPx);
     reading_->setFixedWidth(kReadingWidth);
@@ -95,12 +96,23 @@ void TransportBar::addSlider() {
     layout()->addWidget(reading_);
 }
 
+double TransportBar::timeAt(int position) const {
+    return player_.playback().duration() * position / kPositions;
+}
+
+int TransportBar::positionAt(double time) const {
+    const double duration = player_.playback().duration();
+    return duration > 0 ? static_cast<int>(std::lround(time / duration * kPositions)) : 0;
+}
+
 void TransportBar::addRates() {
     auto* rates = new QComboBox;
     for (const double rate : kRates)
         rates->addItem(QStringLiteral("×\u00A0") + frenchDigits(rate, 2));
     rates->setCurrentIndex(kUsualRate);
     rates->setAccessibleName(QStringLiteral("Vitesse de la simulation"));
+    // Where the toolkit takes the line chosen for the name.
+    rates->setAccessibleDescription(rates->accessibleName());
     look::setToolTip(*rates, QStringLiteral("ralenti ou accéléré"));
     connect(rates, &QComboBox::currentIndexChanged, this, [this](int which) {
         player_.play([which](Playback& playback) { playback.setRate(kRates[which]); });
@@ -145,10 +157,7 @@ void TransportBar::show() {
     look::setToolTip(*start_, playback.duration() > 0 ? QStringLiteral("ou barre d’espace")
                                                       : words_.nothing);
     const QSignalBlocker blocker(slider_);
-    slider_->setValue(
-        playback.duration() > 0
-            ? static_cast<int>(std::lround(playback.time() / playback.duration() * kPositions))
-            : 0);
+    slider_->setValue(positionAt(playback.time()));
     const auto [formula, spoken] = words_.reading();
     reading_->setFormula(formula, spoken);
 }

@@ -11,11 +11,11 @@ class Button;
 }
 
 class QKeyEvent;
-class QSlider;
 
 namespace common {
 
 class FormulaLabel;
+class MeasuredSlider;
 
 /// What a module says in its transport bar.
 struct TransportWords {
@@ -41,6 +41,8 @@ private:
     void addButtons();
     void addSlider();
     void addRates();
+    double timeAt(int position) const;
+    int positionAt(double time) const;
     void toggle();
     void reset();
     void step(int pictures);
@@ -50,7 +52,7 @@ private:
     Player& player_;
     TransportWords words_;
     look::Button* start_ = nullptr;
-    QSlider* slider_ = nullptr;
+    MeasuredSlider* slider_ = nullptr;
     FormulaLabel* reading_ = nullptr;
     QTimer timer_;
     QElapsedTimer clock_;

@@ -64,7 +64,7 @@ QWidget* BenchPanel::kinds() {
         kinds_->addButton(new look::Button(caption, kSegment, this), static_cast<int>(kind));
     connect(kinds_, &QButtonGroup::idClicked, this,
             [this](int which) { bench_.setKind(static_cast<Kind>(which)); });
-    QWidget* buttons = common::segmentRow(kinds_);
+    QWidget* buttons = common::segmentRow(kinds_, QStringLiteral("Lentille"));
     buttons->setEnabled(!bench_.isLocked(Parameter::FocalLength));
     return buttons;
 }

@@ -1,6 +1,7 @@
 #include "lens/bench_plot.h"
 
 #include "common/ticks.h"
+#include "look/accessible_role.h"
 #include "look/interface_font.h"
 #include "look/palette.h"
 #include "look/pixels.h"
@@ -61,6 +62,7 @@ void paintHead(QPainter& painter, QPointF from, QPointF to, double size, QRgb in
 
 BenchPlot::BenchPlot(Bench& bench, QWidget* parent) : QWidget(parent), bench_(bench) {
     setMouseTracking(true);
+    look::setAccessibleRole(*this, QAccessible::Graphic);
     setAccessibleName(QStringLiteral("Banc d’optique, vu de côté"));
     bench_.onChanged([this] {
         fit();

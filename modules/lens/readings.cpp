@@ -4,6 +4,7 @@
 #include "common/french_number.h"
 #include "common/reading.h"
 #include "lens/laws.h"
+#include "look/accessible_role.h"
 #include "look/interface_font.h"
 #include "look/palette.h"
 #include "look/pixels.h"
@@ -78,6 +79,7 @@ void paintLine(QPainter& painter, double top, const QString& group, const QStrin
 } // namespace
 
 Readings::Readings(Bench& bench, QWidget* parent) : QWidget(parent), bench_(bench) {
+    look::setAccessibleRole(*this, QAccessible::StaticText);
     setFixedHeight(kLines * common::kReadingHeight + kEdges);
     setMinimumWidth(360); // narrower, lines would be cut
     setAccessibleName(QStringLiteral("Valeurs de l’objet, de la lentille et de l’image"));
@@ -103,7 +105,7 @@ void Readings::paintEvent(QPaintEvent*) {
     const bool hidden = bench_.hidesResults();
     double top = kEdges / 2;
     const auto group = [&](const QString& name, const std::vector<common::Reading>& readings) {
-        top = common::paintReadings(painter, top, width(), name, readings, 2);
+        top = common::paintReadings(painter, top, width(), {name, readings, 2});
     };
     group(QStringLiteral("Objet"), {{text(kObjectPlace), centimetres(arrangement.object())},
                                     {text(kObjectHeight), centimetres(arrangement.height)}});

@@ -1,5 +1,6 @@
 #include "links/link_row.h"
 
+#include "look/accessible_role.h"
 #include "look/interface_font.h"
 #include "look/palette.h"
 #include "look/pixels.h"
@@ -21,6 +22,7 @@ constexpr int kTextPx = look::kButtonPx;
 } // namespace
 
 LinkRow::LinkRow(const Link& link, QWidget* parent) : QAbstractButton(parent), link_(link) {
+    look::setAccessibleRole(*this, QAccessible::Link);
     setText(link.name);
     setAccessibleName(link.name);
     setAccessibleDescription(link.description + QStringLiteral(", ") + link.address.toString());

@@ -3,6 +3,7 @@
 #include "common/module_run.h"
 #include "common/plain_label.h"
 #include "links/link_row.h"
+#include "look/announcement.h"
 #include "look/button.h"
 #include "look/pixels.h"
 #include "look/scroll_bar.h"
@@ -115,11 +116,14 @@ void LinksWindow::follow(const Link& link) {
                           : QStringLiteral("Aucun navigateur n’a pu être ouvert. L’adresse "
                                            "est\u00A0: %1")
                                 .arg(link.address.toString()));
+    if (!opened)
+        look::announce(*this, line_->text());
 }
 
 void LinksWindow::copy() {
     QGuiApplication::clipboard()->setText(failed_.toString());
     line_->setText(QStringLiteral("Adresse copiée\u00A0: %1").arg(failed_.toString()));
+    look::announce(*this, line_->text());
     failed_.clear();
     copy_->hide();
 }

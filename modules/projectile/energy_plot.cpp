@@ -3,6 +3,7 @@
 #include "common/axes.h"
 #include "common/formula.h"
 #include "common/french_number.h"
+#include "look/accessible_role.h"
 #include "look/interface_font.h"
 #include "look/palette.h"
 
@@ -76,6 +77,7 @@ double paintLegend(QPainter& painter, double x, double room, const Curve& curve,
 
 EnergyPlot::EnergyPlot(Experiment& experiment, QWidget* parent)
     : QWidget(parent), experiment_(experiment) {
+    look::setAccessibleRole(*this, QAccessible::Graphic);
     setAccessibleName(QStringLiteral("Énergies au cours du temps"));
     experiment_.onChanged([this] { update(); });
     experiment_.onMoved([this] { update(); });

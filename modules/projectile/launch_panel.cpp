@@ -77,7 +77,7 @@ QWidget* LaunchPanel::worlds() {
         experiment_.setWorld(kWorlds.at(static_cast<std::size_t>(which)));
         show();
     });
-    QWidget* buttons = common::segmentRow(worlds_);
+    QWidget* buttons = common::segmentRow(worlds_, QStringLiteral("Astre"));
     buttons->setEnabled(!experiment_.isLocked(Parameter::Gravity));
     return buttons;
 }
@@ -99,7 +99,7 @@ QWidget* LaunchPanel::drags() {
         experiment_.setDrag(static_cast<Drag>(which));
         show();
     });
-    QWidget* buttons = common::segmentRow(drags_);
+    QWidget* buttons = common::segmentRow(drags_, QStringLiteral("Frottements de l’air"));
     buttons->setEnabled(!experiment_.isDragLocked());
     return buttons;
 }

@@ -3,6 +3,7 @@
 #include "common/formula.h"
 #include "common/french_number.h"
 #include "common/vector_painter.h"
+#include "look/accessible_role.h"
 #include "look/interface_font.h"
 #include "look/palette.h"
 #include "look/pixels.h"
@@ -66,6 +67,7 @@ QString metres(double value, double perPixel) {
 
 TrajectoryPlot::TrajectoryPlot(Experiment& experiment, QWidget* parent)
     : QWidget(parent), experiment_(experiment) {
+    look::setAccessibleRole(*this, QAccessible::Graphic);
     setMouseTracking(true);
     setAccessibleName(QStringLiteral("Trajectoire du projectile"));
     const auto fitAndShow = [this] {

@@ -3,6 +3,7 @@
 #include "common/axes.h"
 #include "common/formula.h"
 #include "common/french_number.h"
+#include "look/accessible_role.h"
 #include "look/interface_font.h"
 #include "look/palette.h"
 #include "look/pixels.h"
@@ -35,6 +36,7 @@ constexpr Inks kProductInks = {look::kGreen, 0xffbfe0c8};
 
 AmountBars::AmountBars(Experiment& experiment, QWidget* parent)
     : QWidget(parent), experiment_(experiment) {
+    look::setAccessibleRole(*this, QAccessible::Graphic);
     setAccessibleName(QStringLiteral("Quantités de matière"));
     experiment_.onChanged([this] { show(); });
     experiment_.onMoved([this] { show(); });

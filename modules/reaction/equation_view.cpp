@@ -1,6 +1,7 @@
 #include "reaction/equation_view.h"
 
 #include "common/formula.h"
+#include "look/accessible_role.h"
 #include "look/interface_font.h"
 #include "look/palette.h"
 #include "look/pixels.h"
@@ -34,6 +35,7 @@ QString EquationView::verdict() const {
 }
 
 void EquationView::show() {
+    look::setAccessibleRole(*this, QAccessible::StaticText);
     setAccessibleName(equation(experiment_.reaction()));
     setAccessibleDescription(verdict());
     update();

@@ -1,10 +1,10 @@
 #include "calculator/display.h"
 
+#include "look/announcement.h"
 #include "look/interface_font.h"
 #include "look/palette.h"
 #include "look/pixels.h"
 
-#include <QAccessible>
 #include <QClipboard>
 #include <QFontMetricsF>
 #include <QGuiApplication>
@@ -66,8 +66,7 @@ void Display::showText(const QString& text) {
 void Display::showHint(const QString& hint) {
     hint_ = hint;
     setAccessibleDescription(hint);
-    QAccessibleEvent alert(this, QAccessible::Alert); // a screen reader says it
-    QAccessible::updateAccessibility(&alert);
+    look::announce(*this, hint);
     update();
 }
 

@@ -47,8 +47,9 @@ KeyButton::KeyButton(const Key& key, const KeyPlace& place, QWidget* parent)
     setGeometry(place.x, place.y, place.width, place.height);
     const QString tooltip = QStringView(key.tooltip).toString();
     look::setToolTip(*this, tooltip);
-    if (!tooltip.isEmpty())
-        setAccessibleName(tooltip);
+    const QString spoken = QStringView(key.spoken).toString();
+    if (!spoken.isEmpty() || !tooltip.isEmpty())
+        setAccessibleName(spoken.isEmpty() ? tooltip : spoken);
 }
 
 KeyButton::Colours KeyButton::colours() const {

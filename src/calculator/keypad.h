@@ -33,6 +33,7 @@ struct Key {
     TextView tooltip;
     TextView appends;
     Rule rule;
+    TextView spoken = {}; ///< what it does, where neither caption nor tooltip says so
 };
 
 /// All keys, those of the functions from their table. In no order: where a key stands, and when the

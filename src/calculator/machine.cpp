@@ -4,6 +4,8 @@
 #include "calculator/key_button.h"
 #include "calculator/option_frame.h"
 #include "calculator/pasted_keys.h"
+#include "look/accessible_role.h"
+#include "look/announcement.h"
 #include "look/enter_once.h"
 #include "look/mnemonics.h"
 #include "look/program_icon.h"
@@ -66,6 +68,7 @@ void outline(QPainter& painter, QPoint first, QPoint last, Qt::GlobalColor colou
 Machine::Machine(Memory& memory)
     : rules_(memory, *this, QLocale().decimalPoint().front().unicode()), z1_(new Display(this)),
       breathingInterval_(kDefaultBreathingInterval) {
+    look::setAccessibleRole(*this, QAccessible::Window);
     setObjectName(QStringLiteral("Machine"));
     setWindowTitle(QStringLiteral("Calculatrice"));
     setWindowIcon(look::programIcon());
@@ -111,6 +114,8 @@ void Machine::press(const Key& key) {
     rules_.press(key);
     // The memory keys change no text, yet hand the focus back to the display as all keys do.
     z1_->setFocus();
+    if (key.rule == Rule::Evaluate && !rules_.evaluating())
+        look::announce(*this, z1_->text().trimmed());
     if (closing_ && !rules_.evaluating())
         close();
 }

@@ -1,5 +1,6 @@
 #include "calculator/option_frame.h"
 
+#include "look/accessible_role.h"
 #include "look/choice_sign.h"
 #include "look/interface_font.h"
 #include "look/palette.h"
@@ -46,6 +47,7 @@ protected:
 OptionFrame::OptionFrame(const QString& caption, const QString& name,
                          const std::array<QString, 2>& captions, QWidget* parent)
     : QWidget(parent), caption_(caption), options_{} {
+    look::setAccessibleRole(*this, QAccessible::Grouping);
     for (std::size_t i = 0; i < options_.size(); ++i) {
         auto* const option = new Option(captions[i], this);
         option->setObjectName(name + QString::number(i));

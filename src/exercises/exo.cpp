@@ -8,6 +8,7 @@
 #include "exercises/summary.h"
 #include "exercises/title_band_view.h"
 #include "exercises/verdict_line.h"
+#include "look/accessible_role.h"
 #include "look/button.h"
 #include "look/ink.h"
 #include "look/interface_font.h"
@@ -75,6 +76,7 @@ Exo::Exo(const Parts& parts, QWidget& mainWindow)
     : QWidget(&mainWindow, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                                Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint),
       parts_(parts), mainWindow_(mainWindow), blinkInterval_(RightAnswerBlink::kIntervalMs) {
+    look::setAccessibleRole(*this, QAccessible::Window);
     setObjectName(QStringLiteral("exo"));
     setWindowTitle(QStringLiteral("Exercices"));
     setWindowModality(Qt::WindowModal);
@@ -96,7 +98,7 @@ Exo::Exo(const Parts& parts, QWidget& mainWindow)
         addAuthoringSwitch();
     connectHandlers();
     new look::MnemonicDisplay(this);
-    setFocus(); // no control is chosen from the start; the Tab key leads to the first
+    setFocus(); // the question takes it over as soon as it is drawn
 }
 
 Exo::~Exo() = default;

@@ -152,6 +152,7 @@ private:
     bool mayClose();
     void fitQuestion();
     void focusQuestion();
+    QString questionName() const;
     void nameQuestion();
 
     Parts parts_;

@@ -9,6 +9,7 @@
 #include "exercises/summary.h"
 #include "exercises/summary_text.h"
 #include "exercises/verdict_line.h"
+#include "look/announcement.h"
 #include "look/button.h"
 #include "look/page_panel.h"
 #include "look/picture_box.h"
@@ -90,6 +91,8 @@ void Exo::setCaption(const std::u16string& caption) {
 
 void Exo::setVerdict(const std::optional<Verdict>& verdict) {
     verdict_->setVerdict(verdict);
+    if (verdict)
+        look::announce(*this, verdict_->accessibleName());
 }
 
 /// A button that goes leaves the keyboard to the question, not to some other button: the same key
@@ -177,8 +180,8 @@ void Exo::misanet() {
     hideSummary();
     // Hidden or disabled, a control would hand the keyboard to some other one.
     const QWidget* const focus = focusWidget();
-    questionHadFocus_ =
-        focus && (focus == Picture2_ || Picture2_->isAncestorOf(focus) || focus == command5_);
+    questionHadFocus_ = focus && (focus == this || focus == Picture2_ ||
+                                  Picture2_->isAncestorOf(focus) || focus == command5_);
     if (questionHadFocus_)
         setFocus();
     question_ = {};
@@ -194,6 +197,7 @@ void Exo::drawQuestion(const std::u16string& source) {
     fitQuestion();
     putInTabOrder();
     nameQuestion();
+    look::announce(*this, questionName());
     if (focusWidget() == this)
         focusQuestion();
 }
@@ -237,10 +241,15 @@ void Exo::focusQuestion() {
         Picture2_->setFocus();
 }
 
+/// "Question 3 / 10".
+QString Exo::questionName() const {
+    return noa_->text().chopped(noa_->text().endsWith(u':') ? 1 : 0).trimmed();
+}
+
 /// What screen readers call the question: its number, and how it was answered.
 void Exo::nameQuestion() {
     const int question = parts_.test.CurrentQuestion;
-    QString name = noa_->text().chopped(noa_->text().endsWith(u':') ? 1 : 0).trimmed();
+    QString name = questionName();
     if (isAnswered(parts_.test, question))
         name += isAnsweredWrong(parts_.test, question) ? QStringLiteral(", réponse fausse")
                                                        : QStringLiteral(", réponse juste");
@@ -282,6 +291,7 @@ void Exo::showRightAnswer() {
     Cjuste popup(this);
     popup.setInterval(blinkInterval_);
     popup_ = &popup;
+    look::announce(*this, popup.windowTitle());
     popup.exec();
 }
 

@@ -1,5 +1,6 @@
 #include "exercises/question_links.h"
 
+#include "look/accessible_role.h"
 #include "look/palette.h"
 #include "look/pixels.h"
 #include "look/tool_tip.h"
@@ -37,6 +38,7 @@ QPoint placeOf(const page::FieldOperation& field) {
 }
 
 QuestionLink::QuestionLink(QWidget* parent) : QAbstractButton(parent) {
+    look::setAccessibleRole(*this, QAccessible::Link);
     setAttribute(Qt::WA_Hover);
     setFocusPolicy(Qt::TabFocus);
     setCursor(Qt::PointingHandCursor);

@@ -1,6 +1,7 @@
 #include "exercises/title_band_view.h"
 
 #include "exercises/title_band.h"
+#include "look/accessible_role.h"
 #include "look/interface_font.h"
 #include "look/pixels.h"
 #include "page/font.h"
@@ -12,6 +13,7 @@
 namespace exercises {
 
 TitleBandView::TitleBandView(QWidget* parent) : QWidget(parent) {
+    look::setAccessibleRole(*this, QAccessible::Heading);
     setObjectName(QStringLiteral("tito"));
     setFont(look::interfaceFont(page::fontPixels(kTitlePoints), look::Weight::Bold));
     setAccessibleName(kBandTitle);

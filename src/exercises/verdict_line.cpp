@@ -1,6 +1,7 @@
 #include "exercises/verdict_line.h"
 
 #include "exercises/mark_picture.h"
+#include "look/accessible_role.h"
 #include "look/interface_font.h"
 #include "look/palette.h"
 #include "look/tool_tip.h"
@@ -26,6 +27,7 @@ QString wordsOf(const Verdict& verdict) {
 } // namespace
 
 VerdictLine::VerdictLine(QWidget* parent) : QWidget(parent) {
+    look::setAccessibleRole(*this, QAccessible::StaticText);
     setObjectName(QStringLiteral("verdict"));
     setFont(look::interfaceFont(look::kLabelPx, look::Weight::Bold));
     hide();

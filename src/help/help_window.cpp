@@ -6,6 +6,7 @@
 #include "help/help_search.h"
 #include "help/hit_bar.h"
 #include "help/page_document.h"
+#include "look/accessible_role.h"
 #include "look/button.h"
 #include "look/mnemonics.h"
 #include "look/palette.h"
@@ -59,6 +60,7 @@ HelpWindow::HelpWindow(const HelpBook& book, const HelpPrinting& printing)
     : book_(book), printing_(printing), words_(new look::TextField(this)),
       list_(new HelpList(book, this)), browser_(new HelpBrowser(book, this)),
       hitBar_(new HitBar(this)) {
+    look::setAccessibleRole(*this, QAccessible::Window);
     setObjectName(QStringLiteral("aide"));
     setWindowTitle(kTitle);
     setWindowIcon(look::programIcon());

@@ -1,5 +1,6 @@
 #include "help/hit_bar.h"
 
+#include "look/announcement.h"
 #include "look/button.h"
 #include "look/palette.h"
 #include "look/tool_tip.h"
@@ -48,6 +49,8 @@ void HitBar::showHits(int current, int count) {
                         ? (count == 1 ? QStringLiteral("1 mot marqué sur cette page")
                                       : QStringLiteral("%1 mots marqués sur cette page").arg(count))
                         : QStringLiteral("Mot marqué %1 sur %2").arg(current + 1).arg(count));
+    if (count > 0)
+        look::announce(*this, words_->text());
 }
 
 } // namespace help

@@ -66,6 +66,7 @@ private:
     page::BlockKind kind_;
     QRectF area_; ///< twips
     QString words_;
+    QString details_; ///< how deep a heading is
     std::vector<BlockAccessible*> children_;
     std::vector<QAccessible::Id> ids_; ///< of the children, in the toolkit's register
     std::vector<QPointer<QWidget>> controls_;

@@ -1,5 +1,6 @@
 #include "look/button.h"
 
+#include "look/accessible_role.h"
 #include "look/palette.h"
 #include "look/pixels.h"
 
@@ -40,7 +41,10 @@ struct Button::Colours {
 };
 
 Button::Button(const QString& caption, const Look& look, QWidget* parent)
-    : QPushButton(caption, parent), kind_(look.kind), place_(look.place), icon_(look.icon) {
+    : QPushButton(parent), kind_(look.kind), place_(look.place), icon_(look.icon) {
+    if (kind_ == Kind::Segment)
+        setAccessibleRole(*this, QAccessible::RadioButton);
+    setText(caption);
     setFont(interfaceFont(place_ == IconPlace::Top ? kSmallPx : kButtonPx, look.weight));
     setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_Hover);

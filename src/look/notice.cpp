@@ -1,10 +1,10 @@
 #include "look/notice.h"
 
+#include "look/announcement.h"
 #include "look/palette.h"
 #include "look/pixels.h"
 #include "look/reading_text.h"
 
-#include <QAccessible>
 #include <QPainter>
 
 namespace look {
@@ -28,8 +28,8 @@ void Notice::tell(const QString& title, const QStringList& paragraphs) {
     text_->setHtml(html);
     text_->setAccessibleName(title);
     show();
-    QAccessibleEvent alert(text_, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    text_->setFocus();
+    announce(*this, title);
 }
 
 void Notice::paintEvent(QPaintEvent*) {

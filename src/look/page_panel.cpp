@@ -7,7 +7,7 @@
 #include "look/scroll_bar.h"
 #include "page/twips.h"
 
-#include <QEvent>
+#include <QFocusEvent>
 #include <QPainter>
 
 namespace look {
@@ -148,15 +148,20 @@ void PagePanel::reveal(const QRect& part) {
 }
 
 bool PagePanel::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) {
+        // The frame tells where the keyboard is to who has begun to move it.
+        const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+        framed_ |= event->type() == QEvent::FocusIn && reason != Qt::OtherFocusReason &&
+                   reason != Qt::ActiveWindowFocusReason;
         update();
+    }
     return QWidget::eventFilter(watched, event);
 }
 
 void PagePanel::paintEvent(QPaintEvent*) {
     using namespace look;
     QPainter painter(this);
-    const bool focused = page_ && page_->hasFocus();
+    const bool focused = page_ && page_->hasFocus() && framed_;
     drawFrame(painter, rect(), 0, focused ? kBlue : kRule, QColor::fromRgb(kPaper),
               focused ? 2 : 1);
 }

@@ -74,6 +74,7 @@ private:
     QWidget* foot_ = nullptr;
     int viewHeight_ = 0; ///< without the foot
     ScrollGeometry geometry_{};
+    bool framed_ = false; ///< while the page has the keyboard
 };
 
 } // namespace look

@@ -16,17 +16,19 @@ QAccessibleInterface* makeInterface(const QString&, QObject* object) {
     return box ? new PictureAccessible(box) : nullptr;
 }
 
-/// The controls that show on a box, in the order they stand in: that of reading, where its owner
-/// put them so.
-QList<QWidget*> shownControls(const PictureBox& box) {
-    QList<QWidget*> controls = box.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
-    controls.removeIf([](const QWidget* control) { return control->isHidden(); });
-    return controls;
-}
-
 bool isLink(QWidget* control) {
     const QAccessibleInterface* face = QAccessible::queryAccessibleInterface(control);
     return face && face->role() == QAccessible::Link;
+}
+
+/// The controls that show on a box, in the order they stand in: that of reading, where its owner
+/// put them so. A link that the Tab key passes over is the picture of the one beside it.
+QList<QWidget*> shownControls(const PictureBox& box) {
+    QList<QWidget*> controls = box.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    controls.removeIf([](QWidget* control) {
+        return control->isHidden() || (control->focusPolicy() == Qt::NoFocus && isLink(control));
+    });
+    return controls;
 }
 
 } // namespace

@@ -100,6 +100,27 @@ bool isSimple(const QString& spoken) {
     return !spoken.contains(u' ');
 }
 
+/// A bracket, parenthesis or brace around something tall, in one go from the upper end to the
+/// lower: how many strokes it has, and which it is.
+struct TallSign {
+    std::size_t strokes;
+    bool isStraight;
+    const char16_t* opening;
+    const char16_t* closing;
+    const char16_t* spoken;
+};
+
+constexpr TallSign kTallSigns[] = {{3, true, u"[", u"]", u"le crochet"},
+                                   {18, false, u"(", u")", u"la parenthèse"},
+                                   {34, false, u"{", u"}", u"l’accolade"}};
+
+/// A tall sign is twice as high as the line, which stands in its middle.
+constexpr double kTall = 2;
+/// Its greatest width, in heights of the line.
+constexpr double kTallWidth = 0.5;
+/// Height of a line in twips for a point of its letters, about.
+constexpr double kLineOfAPoint = 23;
+
 } // namespace
 
 TextPiece pieceOf(const TextOperation& run) {
@@ -138,7 +159,7 @@ void FormulaShapes::addLine(const LineOperation& line) {
     if (strokes_.size() >= kMostStrokes)
         strokes_.erase(strokes_.begin());
     strokes_.push_back(line);
-    if (endsRow() || endsArrow() || endsMark())
+    if (endsRow() || endsArrow() || endsTallSign() || endsMark())
         return;
     if (endsRoot() || endsFraction())
         strokes_.clear();
@@ -276,6 +297,48 @@ bool FormulaShapes::endsMark() {
         text.spoken = QStringLiteral("vecteur ") + text.linear;
         text.linear += u'\u20D7';
         text.isFormula = true;
+        return true;
+    }
+    return false;
+}
+
+bool FormulaShapes::endsTallSign() {
+    for (const TallSign& sign : kTallSigns) {
+        if (strokes_.size() < sign.strokes)
+            return false;
+        const auto first = strokes_.end() - static_cast<std::ptrdiff_t>(sign.strokes);
+        const double top = first->y1, line = (strokes_.back().y2 - top) / kTall;
+        const double end = first->x1;
+        double middle = end; // the place furthest from the ends
+        bool holds = line > 0 && near(strokes_.back().x2, end) &&
+                     isLevel(*first) == sign.isStraight &&
+                     (first == strokes_.begin() || !follows(*(first - 1), *first));
+        for (auto stroke = first; holds && stroke != strokes_.end(); ++stroke) {
+            holds =
+                stroke->y2 >= stroke->y1 && (stroke == first || follows(*(stroke - 1), *stroke));
+            if (std::abs(stroke->x2 - end) > std::abs(middle - end))
+                middle = stroke->x2;
+        }
+        const double width = std::abs(middle - end);
+        if (!holds || width < kSlack || width > kTallWidth * line)
+            continue;
+        const bool opens = middle < end;
+        TextOperation text{};
+        if (!pieces_.empty())
+            text = pieces_.back();
+        text.x = std::min(middle, end);
+        text.width = width;
+        text.y = top + line / 2;
+        text.text = QString::fromUtf16(opens ? sign.opening : sign.closing);
+        text.font = {};
+        text.font.face = QStringLiteral("Arial");
+        text.font.points = std::round(line / kLineOfAPoint);
+        TextPiece piece = pieceOf(text);
+        piece.spoken = (opens ? QStringLiteral(" ouvrez ") : QStringLiteral(" fermez ")) +
+                       QString::fromUtf16(sign.spoken) + u' ';
+        piece.isFormula = true;
+        pieces_.push_back(piece);
+        strokes_.clear();
         return true;
     }
     return false;

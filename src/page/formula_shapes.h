@@ -34,6 +34,7 @@ private:
     bool endsRow();
     bool endsRoot();
     bool endsArrow();
+    bool endsTallSign();
     bool endsFraction();
     bool endsMark();
     /// Takes the last `count` pieces away and puts one that stands for them in their place; `line`

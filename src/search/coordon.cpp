@@ -2,6 +2,7 @@
 
 #include "coursedata/course_directory.h"
 #include "jet/database_file.h"
+#include "look/announcement.h"
 #include "look/button.h"
 #include "look/check_box.h"
 #include "look/enter_once.h"
@@ -17,7 +18,6 @@
 #include "page/twips.h"
 #include "platform/file_names.h"
 
-#include <QAccessible>
 #include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QLabel>
@@ -297,13 +297,12 @@ void Coordon::showFound(std::vector<FoundPage> pages) {
         count <= kFewPages && !query_->ignoreAccents
             ? QStringLiteral("Essayez «\u00A0Ignorer les accents\u00A0».")
             : QString());
-    if (!some) {
-        QAccessibleEvent alert(Label2_, QAccessible::Alert); // a screen reader says it
-        QAccessible::updateAccessibility(&alert);
+    if (!some)
         return;
-    }
-    List2_->setCurrentIndex(found_.index(0));
+    // Screen readers are told of a line that becomes the current one in a list with the keyboard.
     List2_->setFocus();
+    List2_->selectionModel()->clearCurrentIndex();
+    List2_->setCurrentIndex(found_.index(0));
 }
 
 /// The list with its button, and the window as tall as that needs. The blue button is the one that
@@ -339,11 +338,8 @@ void Coordon::say(const QString& result, const QString& hint) {
     hint_->setGeometry(kNotice.adjusted(taken, 0, 0, 0));
     hint_->setText(hint);
     hint_->setVisible(!hint.isEmpty());
-    for (QLabel* const label : {count_, hint_})
-        if (!label->isHidden()) {
-            QAccessibleEvent alert(label, QAccessible::Alert);
-            QAccessible::updateAccessibility(&alert);
-        }
+    look::announce(*this, result);
+    look::announce(*this, hint);
 }
 
 void Coordon::showExtract(const QModelIndex& line) {

@@ -1,12 +1,13 @@
 #include "viewer/chapter_bar.h"
 
+#include "look/accessible_role.h"
+#include "look/announcement.h"
 #include "look/button.h"
 #include "look/ink.h"
 #include "look/interface_font.h"
 #include "look/palette.h"
 #include "look/tool_tip.h"
 
-#include <QAccessible>
 #include <QLabel>
 #include <QPainter>
 
@@ -48,7 +49,9 @@ void shortenToFit(QLabel& label) {
 } // namespace
 
 ChapterBar::ChapterBar(QWidget* parent) : QWidget(parent) {
+    look::setAccessibleRole(*this, QAccessible::Grouping);
     setObjectName(QStringLiteral("Framebase"));
+    setAccessibleName(QStringLiteral("Chapitre"));
     avantcours_ = addButton(QStringLiteral("avantcours"), QStringLiteral("Page précédente"),
                             QStringLiteral("Page précédente dans ce chapitre"),
                             {.icon = QStringLiteral("previous-in-chapter")}, kPrevious, this);
@@ -77,8 +80,7 @@ void ChapterBar::showStatus(const QString& line) {
     status_ = line;
     untilRead_.start();
     showWords();
-    QAccessibleEvent alert(words_, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    look::announce(*this, line);
 }
 
 void ChapterBar::clearStatus() {

@@ -1,5 +1,7 @@
 #include "viewer/find_bar.h"
 
+#include "look/accessible_role.h"
+#include "look/announcement.h"
 #include "look/button.h"
 #include "look/ink.h"
 #include "look/interface_font.h"
@@ -8,7 +10,6 @@
 #include "look/text_field.h"
 #include "look/tool_tip.h"
 
-#include <QAccessible>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
@@ -41,6 +42,7 @@ FindBar::FindBar(QWidget* parent)
                       &Actions::next)),
       status_(new QLabel(this)) {
     using namespace look;
+    look::setAccessibleRole(*this, QAccessible::Grouping);
     setObjectName(QStringLiteral("findBar"));
     setAccessibleName(QStringLiteral("Recherche dans la page"));
     setFixedSize(kWidth, kHeight);
@@ -114,8 +116,7 @@ void FindBar::setStatus(const QString& words, bool found) {
     if (words == status_->text())
         return;
     status_->setText(words);
-    QAccessibleEvent alert(status_, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    look::announce(*this, words);
 }
 
 bool FindBar::eventFilter(QObject* watched, QEvent* event) {

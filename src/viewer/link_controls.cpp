@@ -105,7 +105,8 @@ void LinkControls::tellFeet() const {
 }
 
 /// The Tab key leads from the page to its links, in the order in which they are read; a screen
-/// reader finds them in the same order.
+/// reader finds them in the same order. A picture beside words that lead to the same place is no
+/// stop of its own.
 void LinkControls::putInReadingOrder() {
     std::map<const page::LinkOperation*, LinkWidget*> shown;
     std::vector<const page::LinkOperation*> links;
@@ -115,10 +116,17 @@ void LinkControls::putInReadingOrder() {
             links.push_back(&link->link());
         }
     QWidget* before = &window_.pageArea();
-    for (const page::LinkOperation* link : inReadingOrder(std::move(links))) {
+    links = inReadingOrder(std::move(links));
+    for (std::size_t at = 0; at < links.size(); ++at) {
+        const page::LinkOperation* link = links[at];
         QWidget* control = shown[link];
-        QWidget::setTabOrder(before, control);
+        const bool twin = (at > 0 && isPictureOf(*link, *links[at - 1])) ||
+                          (at + 1 < links.size() && isPictureOf(*link, *links[at + 1]));
+        control->setFocusPolicy(twin ? Qt::NoFocus : Qt::TabFocus);
         control->raise(); // the children of a window stand in this order too
+        if (twin)
+            continue;
+        QWidget::setTabOrder(before, control);
         before = control;
     }
 }

@@ -43,4 +43,10 @@ std::vector<Link> inReadingOrder(std::vector<Link> links) {
     return links;
 }
 
+bool isPictureOf(const page::LinkOperation& picture, const page::LinkOperation& words) {
+    return picture.control == page::LinkControl::Imagelien &&
+           words.control == page::LinkControl::Labelien && picture.surface == words.surface &&
+           picture.tag == words.tag;
+}
+
 } // namespace viewer

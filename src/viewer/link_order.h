@@ -11,4 +11,7 @@ namespace viewer {
 std::vector<const page::LinkOperation*>
 inReadingOrder(std::vector<const page::LinkOperation*> links);
 
+/// Whether a link is the picture of another one, which stands in words for the same target.
+bool isPictureOf(const page::LinkOperation& picture, const page::LinkOperation& words);
+
 } // namespace viewer

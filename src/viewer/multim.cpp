@@ -1,6 +1,7 @@
 #include "viewer/multim.h"
 
 #include "coursedata/page_index.h"
+#include "look/accessible_role.h"
 #include "look/button.h"
 #include "look/ink_rim.h"
 #include "look/mnemonics.h"
@@ -47,6 +48,7 @@ constexpr int kSettledMs = 500;
 Multim::Multim(shell::SharedState& state, const page::FontBook& fonts,
                const platform::Screen& screen)
     : state_(state), fonts_(fonts), screen_(screen), sizeRule_(state, screen) {
+    look::setAccessibleRole(*this, QAccessible::Window);
     setObjectName(QStringLiteral("multim"));
     setWindowTitle(page::kCourseName);
     resize(kWindowSize);
@@ -61,8 +63,6 @@ Multim::Multim(shell::SharedState& state, const page::FontBook& fonts,
     sizeSettled_.setSingleShot(true);
     sizeSettled_.setInterval(kSettledMs);
     connect(&sizeSettled_, &QTimer::timeout, this, [this] { sizeRule_.settled(present()); });
-    // No button is chosen from the start; the Tab key leads to the first.
-    setFocus();
 }
 
 Multim::~Multim() = default;
@@ -112,7 +112,7 @@ void Multim::addControls() {
 
     finder_ = std::make_unique<PageFinder>(PageFinder::Parts{
         *findBar, *panel_, {PictureTEXTE_, PICTUREILLUS_, titre_}, shown_.recording, fonts_});
-    selection_ = new PageSelection(*PictureTEXTE_, fonts_, [this] {
+    selection_ = new PageSelection(*PictureTEXTE_, *panel_, fonts_, [this] {
         return parts_ ? pageCode(parts_->pages.record().TextID.toInt()) : QString();
     });
     setVideoLayout(videoLayout_);
@@ -175,6 +175,8 @@ bool Multim::buildIndex() {
 void Multim::showFirstPage() {
     parts_->actions.run(QStringLiteral("PAG001"));
     setPageVisible(true);
+    if (!notice_)
+        takeFocusToPage();
     // Only the window manager shows it, and reading it takes as long as a page: after the page.
     QTimer::singleShot(0, this, [this] { setWindowIcon(look::programIcon()); });
 }
@@ -193,9 +195,9 @@ void Multim::report(const QString& line) {
 }
 
 void Multim::tellUnreadable(const QString& file, const QString& reason) {
-    auto* notice = new look::Notice(body_);
-    notice->setGeometry(kPanel);
-    notice->tell(
+    notice_ = new look::Notice(body_);
+    notice_->setGeometry(kPanel);
+    notice_->tell(
         QStringLiteral("Ce cours ne peut pas être lu."),
         {QStringLiteral("Fichier\u00A0: ") + QDir::toNativeSeparators(file),
          QStringLiteral("Cause\u00A0: ") + reason,

@@ -25,6 +25,7 @@
 
 namespace look {
 class Button;
+class Notice;
 class PagePanel;
 class PictureBox;
 class Zoom;
@@ -154,6 +155,8 @@ protected:
 private:
     void addControls();
     bool pageHasFocus() const;
+    void takeFocusToPage();
+    void changeButtons(const std::function<void()>& change);
     void connectHandlers();
     void watchPointer();
     look::Button& button(const char* name) const;
@@ -216,6 +219,7 @@ private:
     look::PictureBox* PictureTEXTE_ = nullptr;
     look::PictureBox* PICTUREILLUS_ = nullptr;
     look::PictureBox* titre_ = nullptr;
+    look::Notice* notice_ = nullptr; ///< in the place of a page that cannot be read
     std::unique_ptr<PageFinder> finder_;
     PageSelection* selection_ = nullptr;
     QString summaryCode_; ///< the tag of Command2

@@ -198,7 +198,8 @@ void Multim::perform(KeyCommand command) {
     case KeyCommand::FindPrevious:
         return work([this] { finder_->previous(); });
     case KeyCommand::LeaveFind:
-        if (!finder_->isOpen() && parts_ && parts_->zoom.leaveFilledScreen())
+        if (!finder_->isOpen() &&
+            (selection_->clear() || (parts_ && parts_->zoom.leaveFilledScreen())))
             return;
         return work([this] { finder_->close(); });
     case KeyCommand::Home:

@@ -1,5 +1,6 @@
 // The main window as the page loader, and the page while it is drawn, see it.
 
+#include "look/announcement.h"
 #include "look/button.h"
 #include "look/page_panel.h"
 #include "look/picture_accessible.h"
@@ -13,7 +14,6 @@
 #include "viewer/rail.h"
 #include "viewer/video_frame.h"
 
-#include <QAccessible>
 #include <QWindow>
 
 namespace viewer {
@@ -36,6 +36,22 @@ void Multim::setPageVisible(bool visible) {
     PICTUREILLUS_->setVisible(visible);
     if (visible && pageHadFocus_)
         PictureTEXTE_->setFocus();
+}
+
+/// At once, or with the page that comes.
+void Multim::takeFocusToPage() {
+    pageHadFocus_ = true;
+    if (!PictureTEXTE_->isHidden())
+        PictureTEXTE_->setFocus();
+}
+
+/// A button that goes or is switched off leaves the keyboard to the page, not to some other button:
+/// the same key struck again must not press that one.
+void Multim::changeButtons(const std::function<void()>& change) {
+    const QWidget* const focused = focusWidget();
+    change();
+    if (focused && (focused->isHidden() || !focused->isEnabled()))
+        takeFocusToPage();
 }
 
 void Multim::resetLinks() {
@@ -65,16 +81,16 @@ void Multim::setCaption(const QString& caption) {
 void Multim::setTitle(const QString& title) {
     const QString words = title.simplified();
     PictureTEXTE_->setAccessibleName(words.isEmpty() ? QStringLiteral("Page du cours") : words);
-    titre_->setAccessibleName(words);
+    titre_->setAccessibleName(words.isEmpty() ? QStringLiteral("Titre de la page") : words);
     look::setToolTip(*titre_, shown_.title == words ? QString() : words);
 }
 
 void Multim::setBackEnabled(bool enabled) {
-    button("avant").setEnabled(enabled);
+    changeButtons([&] { button("avant").setEnabled(enabled); });
 }
 
 void Multim::setForwardEnabled(bool enabled) {
-    button("apres").setEnabled(enabled);
+    changeButtons([&] { button("apres").setEnabled(enabled); });
 }
 
 int Multim::scrolled() const {
@@ -95,16 +111,15 @@ void Multim::fitPage() {
     finder_->pageStands();
     for (look::PictureBox* box : {PictureTEXTE_, PICTUREILLUS_, titre_})
         look::PictureAccessible::tellNewPage(*box);
-    QAccessibleEvent changed(PictureTEXTE_, QAccessible::NameChanged);
-    QAccessible::updateAccessibility(&changed);
+    look::announce(*this, PictureTEXTE_->accessibleName());
 }
 
 void Multim::setChapterButtons(bool previous, bool next) {
-    Framebase_->setButtonsVisible(previous, next);
+    changeButtons([&] { Framebase_->setButtonsVisible(previous, next); });
 }
 
 void Multim::setPrintable(bool printable) {
-    button("CommandIMPRIME").setEnabled(printable);
+    changeButtons([&] { button("CommandIMPRIME").setEnabled(printable); });
 }
 
 void Multim::setSummary(const QString& code, const QString& caption) {
@@ -116,7 +131,7 @@ void Multim::setSummary(const QString& code, const QString& caption) {
 }
 
 void Multim::setReturnToTestVisible(bool visible) {
-    rail_->setReturnToTestVisible(visible);
+    changeButtons([&] { rail_->setReturnToTestVisible(visible); });
 }
 
 void Multim::markWords(const FoundWords& words) {

@@ -1,5 +1,6 @@
 #include "viewer/page_selection.h"
 
+#include "look/page_panel.h"
 #include "look/picture_box.h"
 #include "page/twips.h"
 
@@ -9,7 +10,9 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QTimerEvent>
 
+#include <algorithm>
 #include <optional>
 
 namespace viewer {
@@ -33,18 +36,27 @@ std::optional<Step> stepOf(int key) {
     }
 }
 
+/// How often the page goes on while the mouse is beyond the view, and for how many pixels each time
+/// by one line more.
+constexpr int kScrollMs = 60;
+constexpr int kFasterPx = 24;
+
 } // namespace
 
-PageSelection::PageSelection(look::PictureBox& box, const page::TextMetrics& metrics,
-                             std::function<QString()> address)
-    : QObject(&box), box_(box), metrics_(metrics), address_(std::move(address)) {
+PageSelection::PageSelection(look::PictureBox& box, look::PagePanel& panel,
+                             const page::TextMetrics& metrics, std::function<QString()> address)
+    : QObject(&box), box_(box), panel_(panel), metrics_(metrics), address_(std::move(address)) {
     box.installEventFilter(this);
 }
 
-void PageSelection::clear() {
+bool PageSelection::clear() {
+    const bool any = !selection_.isEmpty();
     selection_ = {};
     isDragging_ = false;
+    scrolling_.stop();
+    box_.unsetCursor();
     box_.setSelection({});
+    return any;
 }
 
 bool PageSelection::takeKey(const QKeyEvent& event) {
@@ -87,15 +99,17 @@ qsizetype PageSelection::positionAt(QPoint pixels) const {
 
 bool PageSelection::mouse(const QMouseEvent& event) {
     if (event.type() == QEvent::MouseMove) {
-        if (!isDragging_)
-            return false;
-        selection_.extendTo(positionAt(event.position().toPoint()));
-        show();
+        pointer_ = box_.mapTo(&panel_.framekx(), event.position().toPoint());
+        if (isDragging_)
+            drag();
+        else
+            showPointer(event.position().toPoint());
         return false; // the links want to know of it too
     }
     if (event.button() != Qt::LeftButton)
         return false;
     isDragging_ = event.type() == QEvent::MouseButtonPress;
+    scrolling_.stop();
     if (!isDragging_)
         return true;
     const qsizetype at = positionAt(event.position().toPoint());
@@ -105,6 +119,46 @@ bool PageSelection::mouse(const QMouseEvent& event) {
         selection_.begin(at);
     show();
     return true;
+}
+
+void PageSelection::drag() {
+    selection_.extendTo(positionAt(box_.mapFrom(&panel_.framekx(), pointer_)));
+    show();
+    if (linesToScroll() == 0)
+        scrolling_.stop();
+    else if (!scrolling_.isActive())
+        scrolling_.start(kScrollMs, this);
+}
+
+/// Down for positive counts; 0 while the pointer is in the view.
+int PageSelection::linesToScroll() const {
+    const QRect view = panel_.framekx().rect();
+    if (pointer_.y() < view.top())
+        return -1 - (view.top() - pointer_.y()) / kFasterPx;
+    if (pointer_.y() > view.bottom())
+        return 1 + (pointer_.y() - view.bottom()) / kFasterPx;
+    return 0;
+}
+
+void PageSelection::timerEvent(QTimerEvent* event) {
+    if (event->timerId() != scrolling_.timerId())
+        return QObject::timerEvent(event);
+    panel_.scrollLines(linesToScroll());
+    drag();
+}
+
+bool PageSelection::isOverText(QPoint pixels) const {
+    const QPointF at = QPointF(pixels - QPoint(box_.inset(), box_.inset())) * page::kTwipsPerPixel;
+    const auto& pieces = box_.readablePage().pieces();
+    return std::any_of(pieces.begin(), pieces.end(),
+                       [&](const page::ReadablePiece* piece) { return piece->area.contains(at); });
+}
+
+void PageSelection::showPointer(QPoint pixels) {
+    if (isOverText(pixels))
+        box_.setCursor(Qt::IBeamCursor);
+    else
+        box_.unsetCursor();
 }
 
 bool PageSelection::eventFilter(QObject* watched, QEvent* event) {

@@ -3,50 +3,61 @@
 #include "page/text_metrics.h"
 #include "page/text_selection.h"
 
+#include <QBasicTimer>
 #include <QObject>
+#include <QPoint>
 
 #include <functional>
 
 class QKeyEvent;
 class QMouseEvent;
-class QPoint;
 
 namespace look {
+class PagePanel;
 class PictureBox;
-}
+} // namespace look
 
 namespace viewer {
 
 /// Text of the page is selected with the mouse or with Shift and the arrows, and copied: Ctrl+A,
-/// Ctrl+C, or the menu of the right button, which also copies the address of the page. Links are
-/// controls of their own on the page, and have their clicks.
+/// Ctrl+C, or the menu of the right button, which also copies the address of the page. Pulled
+/// beyond the view, the mouse scrolls it. Links are controls of their own on the page, and have
+/// their clicks.
 class PageSelection : public QObject {
 public:
     /// `address` tells the code of the page shown. All must outlive it.
-    PageSelection(look::PictureBox& box, const page::TextMetrics& metrics,
+    PageSelection(look::PictureBox& box, look::PagePanel& panel, const page::TextMetrics& metrics,
                   std::function<QString()> address);
 
     /// Whether the key was one of its own, and is done with.
     bool takeKey(const QKeyEvent& event);
 
-    /// Another page comes, on which nothing is selected.
-    void clear();
+    /// Selects nothing. Whether anything was selected.
+    bool clear();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
 
 private:
     bool mouse(const QMouseEvent& event);
+    void drag();
+    int linesToScroll() const;
+    bool isOverText(QPoint pixels) const;
+    void showPointer(QPoint pixels);
     void openMenu(QPoint at, bool byKey);
     void copy() const;
     void show();
     qsizetype positionAt(QPoint pixels) const;
 
     look::PictureBox& box_;
+    look::PagePanel& panel_;
     const page::TextMetrics& metrics_;
     std::function<QString()> address_;
     page::TextSelection selection_;
     bool isDragging_ = false;
+    QPoint pointer_; ///< while dragging, in pixels of the view
+    QBasicTimer scrolling_;
 };
 
 } // namespace viewer

@@ -1,5 +1,6 @@
 #include "viewer/toolbar.h"
 
+#include "look/accessible_role.h"
 #include "look/button.h"
 #include "look/palette.h"
 #include "look/pixels.h"
@@ -48,7 +49,9 @@ constexpr double kSeparatorHeight = 40;
 } // namespace
 
 Toolbar::Toolbar(QWidget* parent) : QWidget(parent) {
+    look::setAccessibleRole(*this, QAccessible::ToolBar);
     setObjectName(QStringLiteral("toolbar"));
+    setAccessibleName(QStringLiteral("Outils du cours"));
     for (const Row& row : kRows) {
         auto* button = new Button(QString::fromUtf8(row.caption),
                                   {.kind = Button::Kind::Toolbar,

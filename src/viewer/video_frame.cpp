@@ -1,5 +1,6 @@
 #include "viewer/video_frame.h"
 
+#include "look/accessible_role.h"
 #include "look/button.h"
 #include "look/interface_font.h"
 #include "look/palette.h"
@@ -62,6 +63,7 @@ constexpr std::array<Row, 7> kRows = {{
 
 VideoFrame::VideoFrame(QWidget* parent)
     : QWidget(parent), projo_(new VideoPicture(this)), buttons_(new QWidget(this)) {
+    look::setAccessibleRole(*this, QAccessible::Grouping);
     setObjectName(QStringLiteral("videoFrame"));
     setAccessibleName(QStringLiteral("Vidéo de la page"));
     setFocusPolicy(Qt::TabFocus);

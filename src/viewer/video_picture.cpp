@@ -1,5 +1,6 @@
 #include "viewer/video_picture.h"
 
+#include "look/accessible_role.h"
 #include "look/interface_font.h"
 #include "look/palette.h"
 
@@ -16,6 +17,7 @@ constexpr QRgb kGround = 0xff10222f;
 } // namespace
 
 VideoPicture::VideoPicture(QWidget* parent) : QWidget(parent) {
+    look::setAccessibleRole(*this, QAccessible::Graphic);
     setObjectName(QStringLiteral("projo"));
     setAccessibleName(QStringLiteral("Image de la vidéo"));
     setAttribute(Qt::WA_OpaquePaintEvent);

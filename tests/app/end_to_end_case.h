@@ -40,7 +40,8 @@ protected:
     QString home() const { return directory_.filePath("home"); }
     QString course() const { return directory_.filePath("cours"); }
 
-    QProcessEnvironment environment() const {
+    /// Of all programs that are started.
+    virtual QProcessEnvironment environment() const {
         auto environment = QProcessEnvironment::systemEnvironment();
         environment.insert("DISPLAY", QString::fromLatin1(session_.display()));
         environment.insert("QT_QPA_PLATFORM", "xcb");
@@ -56,6 +57,7 @@ protected:
     void start(const QStringList& arguments = {}) {
         shell_.setProcessEnvironment(environment());
         shell_.start(ORVALENTE, QStringList{"--course", course()} + arguments);
+        ASSERT_TRUE(shell_.waitForStarted());
         ASSERT_TRUE(eventually([&] { return !window().isEmpty() && !title().isEmpty(); }));
     }
 

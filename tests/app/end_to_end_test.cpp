@@ -183,9 +183,7 @@ TEST_F(LinkedPages, linksAreFollowedByMouseAndKeyboard) {
     start();
     const auto isSecond = [&] { return title().endsWith("Deux"); };
     ASSERT_TRUE(eventually([&] { return place().size() == QSize(800, 600); }));
-    // Over the ten buttons of the toolbar and the page to its link.
-    for (int stop = 0; stop < 12; ++stop)
-        press("Tab");
+    press("Tab"); // the page has the keyboard from the start
     press("Return");
     EXPECT_TRUE(eventually(isSecond));
     press("alt+Left");

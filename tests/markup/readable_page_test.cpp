@@ -59,7 +59,13 @@ INSTANTIATE_TEST_SUITE_P(
         FormulaRow{"vector", u"le poids \n##VE1P\n agit¶\n", u"le poids P\u20D7 agit",
                    u"le poids vecteur P agit"},
         FormulaRow{"reaction", u"A\n##K104\nB\n##K004\nC¶\n", u"A → B ⇌ C",
-                   u"A donne B en équilibre avec C"}),
+                   u"A donne B en équilibre avec C"},
+        FormulaRow{"tallBrackets",
+                   u"a \n##K001\n##FRACb#c\n##K101\n + \n##K003\nd\n##K103\n = \n"
+                   u"##K002\ne\n##K102\n¶\n",
+                   u"a [(b)/(c)] + (d) = {e}",
+                   u"a ouvrez le crochet b sur c fermez le crochet + ouvrez la parenthèse d "
+                   u"fermez la parenthèse = ouvrez l’accolade e fermez l’accolade"}),
     [](const auto& row) { return std::string(row.param.name); });
 
 /// The shape of a block: its kind, what is in it.

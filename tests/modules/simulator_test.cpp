@@ -5,10 +5,12 @@
 #include "shell/raw_status_file.h"
 #include "shell/status_file.h"
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QLineEdit>
+#include <QSlider>
 #include <QTableView>
 #include <QTemporaryDir>
 
@@ -55,6 +57,22 @@ TEST_F(SimulatorTest, tabStopsAtThePressedButtonOfARow) {
     button("Lune")->setFocus(Qt::TabFocusReason);
     QTest::keyClick(button("Lune"), Qt::Key_Left);
     EXPECT_TRUE(button("Terre")->isChecked() && button("Terre")->hasFocus());
+}
+
+TEST_F(SimulatorTest, slidersHaveTheirValuesInTheirUnits) {
+    open({});
+    const auto slider = [&](const char* name) {
+        return QAccessible::queryAccessibleInterface(named<QSlider>(QString::fromUtf8(name)));
+    };
+    QAccessibleInterface* const speed = slider("Vitesse initiale");
+    ASSERT_TRUE(speed && speed->valueInterface());
+    speed->valueInterface()->setCurrentValue(12.5);
+    EXPECT_EQ(speed->text(QAccessible::Value), u"12,50\u00A0m/s");
+    EXPECT_EQ(speed->valueInterface()->currentValue(), 12.5);
+    EXPECT_EQ(speed->valueInterface()->maximumValue(), 60);
+    EXPECT_EQ(speed->valueInterface()->minimumStepSize(), 0.5);
+    EXPECT_EQ(slider("Angle de lancement")->text(QAccessible::Value), u"45,0°");
+    EXPECT_EQ(slider("Temps")->text(QAccessible::Value), u"0,00\u00A0s");
 }
 
 TEST_F(SimulatorTest, theDecimalPointOfTheKeyboardIsAComma) {

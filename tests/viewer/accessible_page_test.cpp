@@ -41,7 +41,7 @@ TEST_F(AccessiblePage, isADocumentInTheOrderOfReading) {
                   "page Page 5 (titre La chute) (texte voir la page 2 ou non (lien la page 2)) "
                   "(texte v = d sur t) "
                   "(liste Liste de 2 éléments (puce – un) (puce – deux)) "
-                  "(tableau Tableau : 1 lignes, 2 colonnes (rangée a b (case a) (case b)))")
+                  "(tableau Tableau : 1 ligne, 2 colonnes (rangée a b (case a) (case b)))")
                   .toStdString());
     const QRect place = document()->child(0)->rect();
     EXPECT_TRUE(document()->rect().contains(place.center()));
@@ -60,6 +60,20 @@ TEST_F(AccessiblePage, whatWasReadOfAPageGoesWithIt) {
     EXPECT_EQ(QAccessible::accessibleInterface(old), nullptr);
     ASSERT_GT(document()->childCount(), 0);
     EXPECT_TRUE(document()->child(0)->isValid());
+}
+
+TEST_F(AccessiblePage, aPictureBesideWordsForTheSamePlaceIsNoStopOfItsOwn) {
+    show(5, QStringLiteral("##LIERXzzla page#PAG002\r\n##LIERTla page 2#PAG002\r\n¶\r\n"
+                           "##LIERXzzune autre#PAG003\r\n##LIERTla page 4#PAG004\r\n¶\r\n"));
+    EXPECT_EQ(tree(document()).count(QStringLiteral("(lien")), 3);
+    EXPECT_EQ(link("Imagelien(0)")->focusPolicy(), Qt::NoFocus);
+    EXPECT_EQ(link("Imagelien(1)")->focusPolicy(), Qt::TabFocus);
+    for (const char* next : {"Labelien(0)", "Imagelien(1)", "Labelien(1)"}) {
+        QTest::keyClick(&bench.window, Qt::Key_Tab);
+        EXPECT_EQ(QApplication::focusWidget(), link(next)) << next;
+    }
+    show(6, QStringLiteral("##LIERXzzla page#PAG002\r\n"));
+    EXPECT_EQ(tree(document()).count(QStringLiteral("(lien")), 1);
 }
 
 } // namespace

@@ -42,7 +42,8 @@ TEST_F(Window, mnemonicsPressTheirButtons) {
 }
 
 TEST_F(Window, searchAndCreditsShareAMnemonicAndBothWork) {
-    EXPECT_EQ(QApplication::focusWidget(), &bench.window); // no button is chosen from the start
+    // The page has the keyboard from the start, and no button.
+    EXPECT_EQ(QApplication::focusWidget(), bench.control<QWidget>("PictureTEXTE"));
     QSet<QString> reached;
     for (int time = 0; time < 2; ++time) {
         press(Qt::Key_R, Qt::AltModifier);
@@ -51,6 +52,14 @@ TEST_F(Window, searchAndCreditsShareAMnemonicAndBothWork) {
     EXPECT_EQ(reached, (QSet<QString>{QStringLiteral("command4"), QStringLiteral("Command13")}));
     QTest::keyClick(bench.control("Command13"), Qt::Key_Return);
     EXPECT_EQ(shown(), QStringLiteral("161"));
+}
+
+TEST_F(Window, aButtonThatGoesLeavesTheKeyboardToThePage) {
+    for (const char* gone : {"suite", "avant"}) { // hidden, disabled
+        bench.control<QWidget>(gone)->setFocus();
+        QTest::keyClick(bench.control(gone), Qt::Key_Return);
+        EXPECT_EQ(QApplication::focusWidget(), bench.control<QWidget>("PictureTEXTE")) << gone;
+    }
 }
 
 TEST_F(Window, keysWalkTheHistory) {

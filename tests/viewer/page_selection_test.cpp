@@ -1,4 +1,5 @@
 #include "look/picture_box.h"
+#include "support/files.h"
 #include "viewer/link_case.h"
 #include "viewer/window_case.h"
 
@@ -101,6 +102,47 @@ TEST_F(PageSelectionBesideLinks, linksKeepTheirClicks) {
     QTest::keyClick(&bench.window, Qt::Key_A, Qt::ControlModifier);
     click("Labelien(0)");
     EXPECT_EQ(shown(), u"2");
+}
+
+TEST_F(PageSelection, goesWithEscape) {
+    const QImage before = area()->grab().toImage();
+    press(Qt::Key_A, Qt::ControlModifier);
+    press(Qt::Key_Escape);
+    EXPECT_EQ(area()->grab().toImage(), before);
+    EXPECT_EQ(copied(), u"avant");
+}
+
+TEST_F(PageSelection, scrollsAPageThatIsLongerThanTheView) {
+    QString lines;
+    for (int line = 1; line <= 60; ++line)
+        lines += QStringLiteral("ligne %1¶\r\n").arg(line);
+    bench.cours.records[5] = page(6, QStringLiteral("##SI12\r\n") + lines);
+    show(6);
+    QWidget* view = area()->parentWidget();
+    const auto pull = [&](int y) {
+        QTest::mouseMove(area(), area()->mapFrom(view, QPoint(300, y)));
+    };
+    QTest::mousePress(area(), Qt::LeftButton, {}, QPoint(0, 5));
+    pull(view->height() + 40);
+    EXPECT_TRUE(test_support::eventually([&] { return copied().contains(u"ligne 60"); }));
+    pull(-40);
+    EXPECT_TRUE(test_support::eventually([&] { return area()->y() == 0; }));
+    pull(20);
+    const int there = area()->y();
+    QTest::qWait(0);
+    QTest::mouseRelease(area(), Qt::LeftButton, {}, QPoint(300, 20));
+    EXPECT_EQ(area()->y(), there);
+    EXPECT_FALSE(copied().contains(u"ligne 9"));
+}
+
+TEST_F(PageSelection, thePointerTellsWhereTextIs) {
+    QTest::mouseMove(area(), QPoint(20, 8));
+    EXPECT_EQ(area()->cursor().shape(), Qt::IBeamCursor);
+    QTest::mouseMove(area(), QPoint(590, 8));
+    EXPECT_EQ(area()->cursor().shape(), Qt::ArrowCursor);
+    QTest::mouseMove(area(), QPoint(20, 8));
+    show(5); // is another page until the pointer moves
+    EXPECT_EQ(area()->cursor().shape(), Qt::ArrowCursor);
 }
 
 } // namespace

@@ -1,0 +1,110 @@
+// The real program without a mouse.
+
+#include "app/screen_reading_case.h"
+
+namespace app::test {
+namespace {
+
+class Keyboard : public ScreenReading {
+protected:
+    bool isActive(const QString& title) {
+        return eventually([&] { return activeTitle().startsWith(title); });
+    }
+    void type(const QString& text) { run("xdotool", {"type", text}); }
+};
+
+TEST_F(Keyboard, reachesEveryFunction) {
+    ASSERT_TRUE(QFile::copy(QStringLiteral(PROJECTILE_MODULE), course() + "/Simu23.exe"));
+    start();
+    const std::string page1 = "document La chute", page2 = "document Les lois";
+    ASSERT_TRUE(isAt(page1)) << focus();
+
+    // Links, history, a menu, the first page.
+    ASSERT_TRUE(tabTo("link les lois"));
+    press("Return");
+    ASSERT_TRUE(isAt(page2)) << focus();
+    press("alt+Left");
+    ASSERT_TRUE(isAt(page1)) << focus();
+    ASSERT_TRUE(tabTo("link Menu"));
+    press("Return");
+    ASSERT_TRUE(isAt("menu item Les lois")) << focus();
+    press("Return");
+    ASSERT_TRUE(isAt(page2)) << focus();
+
+    // Print.
+    press("ctrl+p");
+    ASSERT_TRUE(isActive("Imprimer"));
+    press("ctrl+a");
+    type(directory_.filePath("feuille.pdf"));
+    press("Return");
+    EXPECT_TRUE(eventually([&] { return QFile::exists(directory_.filePath("feuille.pdf")); }));
+    ASSERT_TRUE(isActive("Orvalente - "));
+
+    // Search, whose page it opens; find in it.
+    press("ctrl+l");
+    ASSERT_TRUE(isActive("Rechercher"));
+    type("change");
+    press("Return");
+    ASSERT_TRUE(hears("1 page trouvée. Essayez « Ignorer les accents »."));
+    press("Return");
+    ASSERT_TRUE(isActive("Orvalente - "));
+    press("ctrl+f");
+    ASSERT_TRUE(isAt("text Rechercher dans la page")) << focus();
+    press("Escape");
+    ASSERT_TRUE(isAt(page2)) << focus();
+
+    // Help and calculator.
+    press("F1");
+    ASSERT_TRUE(isActive("Aide d’Orvalente"));
+    press("Escape");
+    ASSERT_TRUE(isActive("Orvalente - "));
+    press("alt+c");
+    ASSERT_TRUE(isActive("Calculatrice"));
+    ASSERT_TRUE(tabTo("push button pi"));
+    press("space");
+    press("Return");
+    EXPECT_TRUE(hears("3.14159265358979"));
+    press("alt+F4");
+    ASSERT_TRUE(isActive("Orvalente - "));
+
+    // A whole test: a choice, a typed word, the score, the summary.
+    press("alt+Home");
+    ASSERT_TRUE(isAt(page1)) << focus();
+    ASSERT_TRUE(tabTo("link le test"));
+    press("Return");
+    ASSERT_TRUE(isActive("Exercices"));
+    ASSERT_TRUE(tabTo("radio button la table"));
+    press("space");
+    press("Return");
+    ASSERT_TRUE(hears("Question 1 / 2. Réponse fausse"));
+    ASSERT_TRUE(tabTo("push button Question suivante"));
+    press("Return");
+    ASSERT_TRUE(isAt("text la pesanteur :")) << focus();
+    type("g");
+    press("Return");
+    ASSERT_TRUE(hears("Réponse exacte"));
+    ASSERT_TRUE(isActive("Test terminé"));
+    press("Return");
+    ASSERT_TRUE(isAt("label Bilan du test")) << focus();
+    press("Escape");
+    ASSERT_TRUE(isActive("Orvalente - "));
+
+    // A module, then the end.
+    ASSERT_TRUE(tabTo("link la simulation"));
+    press("Return");
+    ASSERT_TRUE(isActive("Mouvement d’un projectile"));
+    ASSERT_TRUE(tabTo("slider Vitesse initiale"));
+    const double speed = reader_.value(reader_.focused());
+    press("Right");
+    EXPECT_TRUE(eventually([&] { return reader_.value(reader_.focused()) > speed; }));
+    press("alt+F4");
+    ASSERT_TRUE(isActive("Orvalente - "));
+    press("ctrl+q");
+    ASSERT_TRUE(isActive("Quitter"));
+    press("Return");
+    ASSERT_TRUE(shell_.waitForFinished(30'000));
+    EXPECT_EQ(shell_.exitCode(), 0);
+}
+
+} // namespace
+} // namespace app::test
