@@ -1,6 +1,9 @@
 #include "authoring/layout.h"
 
+#include "page/twips.h"
+
 #include <algorithm>
+#include <cmath>
 
 namespace authoring {
 
@@ -17,6 +20,7 @@ constexpr int kBulletLeft = 8;
 constexpr int kBulletText = 22;
 constexpr int kNumberText = 30;
 constexpr int kMarginBulletText = 10;
+constexpr int kNumberGap = 6; ///< at least, behind a number
 
 /// Where the text after a symbol that opens a paragraph stands, in pixels.
 constexpr int kSymbolText = 26;
@@ -176,7 +180,7 @@ void Layout::hanging(const std::vector<Inline>& inlines) {
 
 void Layout::list(const Block& list) {
     const bool narrow = place_ == Place::Margin;
-    const int indent = narrow ? kMarginBulletText : list.ordered ? kNumberText : kBulletText;
+    const int indent = list.ordered ? numberIndent(list) : narrow ? kMarginBulletText : kBulletText;
     leave(Flow::Item, listDepth_ == 0 ? "0.3" : "0.1");
     ++listDepth_;
     int number = list.level;
@@ -193,6 +197,16 @@ void Layout::list(const Block& list) {
     }
     --listDepth_;
     flow_ = Flow::Item;
+}
+
+/// The text stands behind the widest number.
+int Layout::numberIndent(const Block& list) const {
+    const bool narrow = place_ == Place::Margin;
+    const auto last = list.level + static_cast<int>(list.children.size()) - 1;
+    const double width = texts_.ruler.width(style_, QString::number(last) + u'.');
+    const int number = static_cast<int>(std::ceil(width / page::kTwipsPerPixel)) + kNumberGap;
+    return narrow ? std::max(kMarginBulletText, number)
+                  : std::max(kNumberText, kBulletLeft + number);
 }
 
 void Layout::item(const Block& item, const QString& bullet, int indent) {

@@ -42,9 +42,11 @@ private:
     void hanging(const std::vector<Inline>& inlines);
     void displayFormula(const Inline& formula, bool framed);
     void picture(const Inline& picture);
+    void describe(const Inline& picture, const QString& file);
     void menu(const Inline& menu, const Block* entries);
     QStringList menuEntries(const Inline& menu, const Block* entries);
     void list(const Block& list);
+    int numberIndent(const Block& list) const;
     void item(const Block& item, const QString& bullet, int indent);
     void quote(const Block& block);
     void code(const Block& block);

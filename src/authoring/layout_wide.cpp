@@ -25,6 +25,8 @@ constexpr int kAroundFormula = 3;
 
 constexpr int kAbovePicture = 6;
 constexpr int kCaptionPoints = 10;
+/// A screen reader says no more of one.
+constexpr qsizetype kLongestDescription = 500;
 /// Menus that a page can fill: the first pictures with links.
 constexpr int kLastMenu = 20;
 constexpr qsizetype kMenuEntries = 10;
@@ -104,8 +106,7 @@ void Layout::picture(const Inline& picture) {
     if (name.file.isEmpty() || name.wrong)
         return fault(picture.at, u"une image se nomme par son fichier, puis, pour l’étirer, sa "
                                  u"taille en pixels : figure.svg#300x200");
-    if (!picture.title.isEmpty())
-        fault(picture.at, u"une image n’a pas de bulle : sa légende se met entre les crochets");
+    describe(picture, name.file);
     leave(Flow::Wide, "0.2");
     writer_.comesFrom(picture.at);
     writer_.style(style_);
@@ -128,6 +129,20 @@ void Layout::picture(const Inline& picture) {
     anywhere.penLeft = -1;
     writeLines(writer_, breakLines(caption, column_.width(), texts_.ruler, texts_.faults), anywhere,
                Placed::Centre, small);
+}
+
+/// The words in quotes behind a picture's file.
+void Layout::describe(const Inline& picture, const QString& file) {
+    if (picture.title.isEmpty())
+        return;
+    const Inline title{Inline::Kind::Text, picture.at, picture.title, {}, {}};
+    const QString words = captionOf({title}, texts_).simplified();
+    if (words.size() > kLongestDescription)
+        fault(picture.at, u"une description d’image a cinq cents caractères au plus");
+    const Fault place = texts_.faults.place(picture.at);
+    const qsizetype folder = std::max(file.lastIndexOf(u'/'), file.lastIndexOf(u'\\'));
+    texts_.descriptions.push_back(
+        {file.mid(folder + 1).toStdString(), words.toStdString(), place.line, place.column});
 }
 
 QStringList Layout::menuEntries(const Inline& menu, const Block* entries) {

@@ -49,6 +49,7 @@ public:
         finishAnswer(askedType, compiled);
         if (comment != document_.children.end())
             compiled.siFaux = commentText({comment + 1, document_.children.end()});
+        compiled.descriptions = std::move(texts_.descriptions);
         compiled.faults = faults_.sorted();
         if (!compiled.faults.empty())
             compiled.type = 0;

@@ -1,6 +1,8 @@
 #include "authoring/reader.h"
 
+#include "authoring/coverage.h"
 #include "authoring/entities.h"
+#include "authoring/foreign_marks.h"
 
 #include <md4c.h>
 
@@ -29,10 +31,12 @@ QString fromAttribute(const MD_ATTRIBUTE& attribute) {
 class Reader {
 public:
     Reader(std::string_view source, Faults& faults)
-        : source_(source), faults_(faults), read_(source.size(), false) {}
+        : source_(source), faults_(faults), coverage_(source) {}
 
     Block read() {
         open_.push_back({});
+        if (const std::size_t feed = source_.find('\f'); feed != source_.npos)
+            namePageBreak("page break", feed, faults_);
         MD_PARSER parser{};
         parser.flags = kFlags;
         parser.enter_block = [](MD_BLOCKTYPE type, void* detail, void* self) {
@@ -55,7 +59,7 @@ public:
                 faults_.add(last_, std::string("cette page ne peut pas être lue : la simplifier"));
             return {};
         }
-        nameUnread();
+        coverage_.nameUnread(faults_);
         return std::move(open_.front());
     }
 
@@ -126,7 +130,7 @@ private:
             return;
         block.task = item.task_mark == ' ' ? Block::Task::Open : Block::Task::Ticked;
         block.at = item.task_mark_offset;
-        read_[item.task_mark_offset] = true;
+        coverage_.mark(item.task_mark_offset, 1);
     }
 
     static Alignment alignmentOf(MD_ALIGN align) {
@@ -200,7 +204,11 @@ private:
     int text(MD_TEXTTYPE type, const MD_CHAR* text, MD_SIZE size) {
         if (const std::size_t offset = offsetOf(text); offset != kUnknown) {
             seen(offset);
-            mark(offset, size);
+            coverage_.mark(offset, size);
+            if (type == MD_TEXT_NORMAL)
+                nameForeignMarks(source_, offset, size, faults_);
+            else if (type == MD_TEXT_HTML)
+                namePageBreak(source_.substr(offset, size), offset, faults_);
         }
         if (type == MD_TEXT_HTML || open_.back().kind == Block::Kind::Code)
             return rawText(type, text, size);
@@ -308,41 +316,14 @@ private:
         return kStop;
     }
 
-    void mark(std::size_t offset, std::size_t size) {
-        const std::size_t end = std::min(offset + size, source_.size());
-        std::fill(read_.begin() + static_cast<std::ptrdiff_t>(offset),
-                  read_.begin() + static_cast<std::ptrdiff_t>(end), true);
-    }
-
     /// One with escapes in it was made anew by md4c; all of its line counts as read then.
     void mark(const MD_ATTRIBUTE& attribute) {
         const std::size_t offset = offsetOf(attribute.text);
         if (offset != kUnknown)
-            return mark(offset, attribute.size);
+            return coverage_.mark(offset, attribute.size);
         if (attribute.size > 0) {
             const std::size_t end = std::min(source_.find('\n', last_), source_.size());
-            mark(last_, end - last_);
-        }
-    }
-
-    /// Cells beyond the last column, definitions of links and words after the opening of a listing
-    /// are passed over by Markdown's own rules. Nobody would miss them before the page is read.
-    void nameUnread() {
-        const auto isLetter = [](char c) {
-            return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c & 0x80) != 0;
-        };
-        for (std::size_t i = 0; i < source_.size(); ++i) {
-            if (read_[i] || !isLetter(source_[i]))
-                continue;
-            std::size_t end = i;
-            while (end < source_.size() && !read_[end] && isLetter(source_[end]))
-                ++end;
-            faults_.add(i, "« " + fromUtf8(source_.data() + i, end - i) +
-                               " » ne serait nulle part sur la page : une cellule de trop, une "
-                               "définition de lien, des mots après ``` ?");
-            i = source_.find('\n', i);
-            if (i == std::string_view::npos)
-                return;
+            coverage_.mark(last_, end - last_);
         }
     }
 
@@ -370,7 +351,7 @@ private:
     std::vector<Block> open_;
     std::vector<Inline> spans_;
     std::size_t last_ = 0;
-    std::vector<bool> read_; ///< by byte: whether it came to us
+    Coverage coverage_;
     bool implicit_ = false;
     bool inHead_ = false;
     bool lineEnded_ = true;

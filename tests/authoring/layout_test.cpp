@@ -1,6 +1,5 @@
+#include "authoring/drawn.h"
 #include "authoring/markdown.h"
-#include "markup/draw_page.h"
-#include "support/fake_pictures.h"
 
 #include <gmock/gmock.h>
 
@@ -10,39 +9,6 @@ namespace {
 
 using testing::HasSubstr;
 using testing::Not;
-
-/// What the renderer draws of a compiled page.
-struct Drawn {
-    test_support::FakePictures pictures;
-    markup::DrawingState state;
-    markup::DrawnPage page;
-
-    explicit Drawn(const std::string& source) {
-        markup::drawPage({QString::fromStdString(source).replace(u'\n', QStringLiteral("\r\n"))},
-                         {state, pictures, fonts()}, page);
-    }
-
-    /// Right end of what is furthest right on a surface, in pixels.
-    double right(page::SurfaceId surface) const {
-        double furthest = 0;
-        for (const page::Operation& operation : page.recording.operations()) {
-            if (const auto* text = std::get_if<page::TextOperation>(&operation);
-                text && text->surface == surface)
-                furthest = std::max(furthest, text->x + text->width);
-            if (const auto* link = std::get_if<page::LinkOperation>(&operation);
-                link && link->surface == surface)
-                furthest = std::max(furthest, link->x + link->width);
-        }
-        return furthest / 15;
-    }
-    std::string failures() const {
-        std::string text;
-        for (const page::Operation& operation : page.recording.operations())
-            if (const auto* failed = std::get_if<page::FailedOperation>(&operation))
-                text += failed->directive.toStdString() + '\n';
-        return text;
-    }
-};
 
 /// Sentences of words of one to fourteen letters, in all styles.
 std::string randomText(std::mt19937& random, int words) {
@@ -167,6 +133,28 @@ TEST(Layout, writesWhatEachFormStandsFor) {
             EXPECT_THAT(compiled(row.markdown), HasSubstr(part)) << row.markdown;
     }
     EXPECT_THAT(compiled("<!-- note -->\n\nTexte\n"), Not(HasSubstr("note")));
+}
+
+TEST(Layout, handsOverWhatPicturesShow) {
+    const auto page = compiler().page(
+        "![](a/chute.png \"L'objet\ntombe.\")\n\n![Légende](b.svg#30x20 \"B\")\n\n![](c.svg)\n", 7,
+        {});
+    ASSERT_EQ(page.descriptions.size(), 2u);
+    EXPECT_EQ(page.descriptions[0].picture, "chute.png");
+    EXPECT_EQ(page.descriptions[0].words, "L’objet tombe.");
+    EXPECT_EQ(page.descriptions[0].line, 7);
+    EXPECT_EQ(page.descriptions[1].picture, "b.svg");
+    EXPECT_EQ(page.text.source.find("tombe"), std::string::npos);
+    const auto question = compiler().question("![](d.png \"D\")\n\n[a](réponse)\n", 1, {});
+    ASSERT_EQ(question.descriptions.size(), 1u);
+    EXPECT_EQ(question.descriptions[0].words, "D");
+}
+
+TEST(Layout, keepsSignsOfTwoLinesApart) {
+    // Each fills the slack between its line and the other one.
+    EXPECT_THAT(compiled("$\\ce{SO4^2-}$  \n$\\ce{SO4^2-}$\n"),
+                HasSubstr("##EXP−\n¶\n##PIY003\nSO\n"));
+    EXPECT_THAT(compiled("$\\ce{SO4^2-}$  \nmots\n"), HasSubstr("##EXP−\n¶\nmots¶\n"));
 }
 
 } // namespace

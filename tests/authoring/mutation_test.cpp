@@ -89,6 +89,8 @@ TEST(Mutations, giveAFaultOrAPageWithEveryWord) {
             EXPECT_TRUE(shown.contains(word, Qt::CaseInsensitive))
                 << i << ": " << word.toStdString() << "\n"
                 << source;
+        EXPECT_EQ(lostLetters(source, shown), QString()) << i << "\n"
+                                                         << source << shown.toStdString();
         if (testing::Test::HasFailure())
             return;
     }

@@ -100,6 +100,21 @@ TEST(CoursePictures, readFilesOnceUntilTheyChange) {
     }
     EXPECT_TRUE(old.expired());
 
+    // What the course says of its pictures, from one moment to the next.
+    const auto described = [&] { return pictures.load(path)->description().toStdString(); };
+    EXPECT_EQ(described(), "");
+    test_support::writeFile(
+        course.filePath("Descriptions.TXT"),
+        "\xEF\xBB\xBF# Figures\r\nsans rien\r\nFIG.png\u00A0:  Une  figure : vue de "
+        "près\r\nfig.png : autre\r\n");
+    EXPECT_EQ(described(), "Une figure : vue de près");
+    EXPECT_EQ(pictures.load(path), pictures.load(path));
+    EXPECT_EQ(pictures.load(path)->size(), QSize(300, 300));
+    test_support::writeFile(course.filePath("Descriptions.TXT"), std::string(2u << 20, 'x'));
+    EXPECT_EQ(described(), "");
+    QFile::remove(course.filePath("Descriptions.TXT"));
+    EXPECT_EQ(described(), "");
+
     // Names that are none are not files of the current directory.
     const QString before = QDir::currentPath();
     QDir::setCurrent(course.path());
