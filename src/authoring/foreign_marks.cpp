@@ -90,9 +90,17 @@ private:
             add(0, "« " + std::string(text_.substr(0, signs)) +
                        " » : un titre a un blanc après ses signes « # » ; une directive va dans un "
                        "bloc ```directives");
-        if (text_.size() > 2 && text_.starts_with('|') && text_.ends_with('|'))
+        if (text_.size() > 2 && text_.starts_with('|') && text_.ends_with('|') && !goesOn('|'))
             add(0, "« | » : un tableau a une ligne d’en-tête, puis une ligne |---|---| d’autant de "
-                   "colonnes");
+                   "colonnes, de trois tirets au moins");
+    }
+
+    /// Whether the line before begins with the same sign, which was told of there.
+    bool goesOn(char sign) const {
+        if (offset_ < 2)
+            return false;
+        const std::size_t start = source_.rfind('\n', offset_ - 2) + 1; // 0 on the first line
+        return source_[start] == sign;
     }
 
     std::string_view source_;

@@ -110,10 +110,12 @@ private:
         return node.kind == Kind::Marked ||
                (node.kind == Kind::Scripts && node.children[0].kind == Kind::Marked);
     }
-    /// In pixels, of letters of the text's size in italics: as the face has them, rounded up.
-    static int overhang(QChar letter) {
+    /// Of letters in italics, as the face has it, in pixels.
+    int overhang(QChar letter) const {
         static constexpr QStringView kWide = u"FKTVWYvwyγζτ";
-        return letter == u'f' ? 2 : kWide.contains(letter) ? 1 : 0;
+        constexpr double kPixelsAPoint = 96.0 / 72;
+        const double ems = letter == u'f' ? 0.12 : kWide.contains(letter) ? 0.055 : 0;
+        return static_cast<int>(std::lround(ems * kPixelsAPoint * style_.points));
     }
 
     void blank(Box& box) { text(box, {QString(QChar(0xA0)), false}); }

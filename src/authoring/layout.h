@@ -41,6 +41,8 @@ private:
     void text(const std::vector<Inline>& inlines, const Label* label = nullptr);
     void hanging(const std::vector<Inline>& inlines);
     void displayFormula(const Inline& formula, bool framed);
+    void severalLines(const std::vector<TextLine>& lines, bool framed);
+    void frameOfFormula(int width, int inside, int pad);
     void picture(const Inline& picture);
     void describe(const Inline& picture, const QString& file);
     void menu(const Inline& menu, const Block* entries);

@@ -68,28 +68,21 @@ void Layout::displayFormula(const Inline& formula, bool framed) {
     setFormula(readFormula(source), source, style, texts_.ruler, text);
     if (text.atoms.empty())
         return fault(formula.at, u"cette formule est vide");
-    const std::vector<TextLine> lines =
-        breakLines(text, column_.width(), texts_.ruler, texts_.faults);
-    const TextLine& line = lines.front();
+    const int room = column_.width() - (framed ? 2 * kFormulaSides : 0);
+    const std::vector<TextLine> lines = breakLines(text, room, texts_.ruler, texts_.faults);
     leave(Flow::Wide, framed ? "0.1" : "0.2");
     writer_.comesFrom(formula.at);
     writer_.style(style_);
     if (lines.size() > 1)
-        return writeLines(writer_, lines, column_, Placed::Centre, style_);
-    const int width = pixels(line.width);
+        return severalLines(lines, framed);
+    const TextLine& line = lines.front();
     const int pad =
         kFormulaPad + std::max({line.rise - kFormulaSlack, line.drop - kFormulaSlack, 0});
-    writer_.movePenY(framed ? kAbovePicture : kAroundFormula + line.rise);
-    if (framed) {
-        Style ink = style_;
-        ink.ink = kTitleInk;
-        writer_.style(ink);
-        writer_.penX(column_.left + std::max(0, (column_.width() - width) / 2 - kFormulaSides));
-        writer_.directive(QStringLiteral("##LARGEUR") +
-                          threeDigits(std::min(column_.width(), width + 2 * kFormulaSides)));
-        writer_.directive(QStringLiteral("##RECT") + threeDigits(2 * pad + kFormulaLine));
-        writer_.movePenY(pad);
-    }
+    const int width = pixels(line.width);
+    if (framed)
+        frameOfFormula(width, kFormulaLine, pad);
+    else
+        writer_.movePenY(kAroundFormula + line.rise);
     writer_.penX(column_.left + std::max(0, (column_.width() - width) / 2));
     for (const Piece& piece : line.pieces)
         writer_.piece(piece);
@@ -97,6 +90,40 @@ void Layout::displayFormula(const Inline& formula, bool framed) {
     writer_.movePenY(framed ? kFormulaLine + pad + kBelowFormula
                             : kFormulaLine + kAroundFormula + line.drop);
     writer_.penX(column_.penLeft);
+}
+
+/// The house's blue frame around `inside` pixels of lines; the pen goes to the first of them.
+void Layout::frameOfFormula(int width, int inside, int pad) {
+    writer_.movePenY(kAbovePicture);
+    Style ink = style_;
+    ink.ink = kTitleInk;
+    writer_.style(ink);
+    writer_.penX(column_.left + std::max(0, (column_.width() - width) / 2 - kFormulaSides));
+    writer_.directive(QStringLiteral("##LARGEUR") +
+                      threeDigits(std::min(column_.width(), width + 2 * kFormulaSides)));
+    writer_.directive(QStringLiteral("##RECT") + threeDigits(2 * pad + inside));
+    writer_.movePenY(pad);
+}
+
+/// A formula that is wider than the column.
+void Layout::severalLines(const std::vector<TextLine>& lines, bool framed) {
+    int inside = 0;
+    double widest = 0;
+    for (const TextLine& line : lines) {
+        inside += kFormulaLine + std::max(0, line.rise - kFormulaSlack) +
+                  std::max(0, line.drop - kFormulaSlack);
+        widest = std::max(widest, line.width);
+    }
+    if (framed)
+        frameOfFormula(pixels(widest), inside, kFormulaPad);
+    else
+        writer_.movePenY(kAroundFormula);
+    writer_.style(style_);
+    // The frame leaves the pen at its left edge.
+    Column anywhere = column_;
+    anywhere.penLeft = -1;
+    writeLines(writer_, lines, framed ? anywhere : column_, Placed::Centre, style_);
+    writer_.movePenY(framed ? kFormulaPad + kBelowFormula : kAroundFormula);
 }
 
 void Layout::picture(const Inline& picture) {

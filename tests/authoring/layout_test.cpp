@@ -150,6 +150,28 @@ TEST(Layout, handsOverWhatPicturesShow) {
     EXPECT_EQ(question.descriptions[0].words, "D");
 }
 
+TEST(Layout, framesAFormulaOfSeveralLines) {
+    std::string formula = "> $$ x";
+    for (int i = 0; i < 30; ++i)
+        formula += " = 1234";
+    const Drawn drawn(compiled(formula + " $$\n\nmots\n"));
+    double top = 1e9, foot = 0, lowest = 0, after = 0;
+    for (const page::Operation& operation : drawn.page.recording.operations()) {
+        if (const auto* line = std::get_if<page::LineOperation>(&operation)) {
+            top = std::min({top, line->y1, line->y2});
+            foot = std::max({foot, line->y1, line->y2});
+        }
+        const auto* text = std::get_if<page::TextOperation>(&operation);
+        if (text && text->text.contains(u'4'))
+            lowest = text->y;
+        if (text && text->text == "mots")
+            after = text->y;
+    }
+    EXPECT_GT(lowest, top + 40 * 15);
+    EXPECT_GT(foot, lowest + 20 * 15);
+    EXPECT_GT(after, foot);
+}
+
 TEST(Layout, keepsSignsOfTwoLinesApart) {
     // Each fills the slack between its line and the other one.
     EXPECT_THAT(compiled("$\\ce{SO4^2-}$  \n$\\ce{SO4^2-}$\n"),
