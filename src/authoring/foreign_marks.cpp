@@ -20,8 +20,10 @@ struct Mark {
 constexpr Mark kMarks[] = {
     {"](", "ce lien ou cette image ne se lit pas : [texte](page:12), ![légende](figure.svg), sans "
            "blanc dans la cible"},
-    {"**", "ces étoiles ne font rien : celles du gras touchent les mots, **ainsi**, et se ferment "
-           "dans le même paragraphe"},
+    {"**",
+     "ces étoiles ne font rien : celles du gras touchent les mots, **ainsi** (un guillemet ou "
+     "une parenthèse au bord veut un blanc de l’autre côté), et se ferment dans le même "
+     "paragraphe"},
     {"~~", "un texte barré ne se dessine pas"},
     {"$$", "cette formule ne se ferme pas"},
     {"[^", "une page n’a pas de notes de bas de page : mettre la note entre parenthèses, ou dans "

@@ -113,6 +113,8 @@ void Layout::heading(const Block& block) {
         skip("0.2");
     leave(title ? Flow::Title : Flow::Heading, place_ == Place::Main ? "0.8" : "0.5");
     const InlineText text = flatten(block.inlines, style, texts_);
+    if (text.atoms.empty())
+        fault(block.at, u"ce titre n’a pas de texte");
     writeLines(writer_, breakLines(text, column_.width(), texts_.ruler, texts_.faults), column_,
                Placed::Left, style);
     if (place_ == Place::Main)
@@ -190,7 +192,7 @@ void Layout::list(const Block& list) {
         if (&item != &list.children.front() && !list.tight)
             skip("0.3");
         this->item(item,
-                   list.ordered      ? QString::number(number++) + u'.'
+                   list.ordered      ? QString::number(number++) + QLatin1Char(list.delimiter)
                    : listDepth_ == 1 ? QStringLiteral("•")
                                      : QStringLiteral("–"),
                    indent);
@@ -203,7 +205,8 @@ void Layout::list(const Block& list) {
 int Layout::numberIndent(const Block& list) const {
     const bool narrow = place_ == Place::Margin;
     const auto last = list.level + static_cast<int>(list.children.size()) - 1;
-    const double width = texts_.ruler.width(style_, QString::number(last) + u'.');
+    const double width =
+        texts_.ruler.width(style_, QString::number(last) + QLatin1Char(list.delimiter));
     const int number = static_cast<int>(std::ceil(width / page::kTwipsPerPixel)) + kNumberGap;
     return narrow ? std::max(kMarginBulletText, number)
                   : std::max(kNumberText, kBulletLeft + number);

@@ -133,6 +133,9 @@ void Layout::picture(const Inline& picture) {
     if (name.file.isEmpty() || name.wrong)
         return fault(picture.at, u"une image se nomme par son fichier, puis, pour l’étirer, sa "
                                  u"taille en pixels : figure.svg#300x200");
+    for (const char* ending : {".mp4", ".mov", ".mpg", ".mpeg", ".wmv", ".mkv", ".webm"})
+        if (name.file.endsWith(QLatin1String(ending), Qt::CaseInsensitive))
+            fault(picture.at, u"un film est un fichier AVI : le convertir");
     describe(picture, name.file);
     leave(Flow::Wide, "0.2");
     writer_.comesFrom(picture.at);

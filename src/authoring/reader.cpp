@@ -94,6 +94,7 @@ private:
             block.ordered = true;
             block.tight = static_cast<MD_BLOCK_OL_DETAIL*>(detail)->is_tight != 0;
             block.level = static_cast<int>(static_cast<MD_BLOCK_OL_DETAIL*>(detail)->start);
+            block.delimiter = static_cast<MD_BLOCK_OL_DETAIL*>(detail)->mark_delimiter;
             break;
         case MD_BLOCK_LI:
             describeItem(block, *static_cast<MD_BLOCK_LI_DETAIL*>(detail));
@@ -143,8 +144,26 @@ private:
         if (type == MD_BLOCK_DOC || type == MD_BLOCK_THEAD || type == MD_BLOCK_TBODY)
             return kGoOn;
         closeImplicit();
+        if (type == MD_BLOCK_CODE)
+            nameOpenFence(open_.back());
         pop();
         return kGoOn;
+    }
+
+    /// A listing that does not end takes the rest of the page with it.
+    void nameOpenFence(const Block& code) {
+        if (code.lines.empty())
+            return;
+        std::size_t end = source_.find('\n', last_);
+        std::string_view line;
+        while (end != source_.npos && line.find_first_not_of(" \t>") == line.npos) {
+            const std::size_t start = end + 1;
+            end = source_.find('\n', start);
+            line = source_.substr(start, end - start);
+        }
+        if (line.find("```") == line.npos && line.find("~~~") == line.npos)
+            faults_.add(code.lines.front().at,
+                        std::string("ce bloc ne finit pas : il manque sa dernière ligne, ```"));
     }
 
     int enterSpan(MD_SPANTYPE type, void* detail) {
@@ -248,10 +267,11 @@ private:
             return kGoOn;
         }
         std::vector<CodeLine>& lines = open_.back().lines;
-        const bool fresh = lines.empty() || lineEnded_;
-        lineEnded_ = raw.endsWith(u'\n');
-        if (fresh)
+        if (lines.empty() || lineEnded_)
             lines.push_back({last_, {}});
+        else if (lines.back().text.trimmed().isEmpty())
+            lines.back().at = last_; // md4c makes the blanks before it itself
+        lineEnded_ = raw.endsWith(u'\n');
         lines.back().text += lineEnded_ ? raw.chopped(1) : raw;
         return kGoOn;
     }

@@ -77,6 +77,8 @@ TEST(Corpus, tellsTheMarkdownLineOfEveryCompiledLine) {
     EXPECT_EQ(lineOf("Un"), 10);
     EXPECT_EQ(lineOf("Deux"), 12);
     EXPECT_EQ(lineOf("Trois"), 13);
+    const auto listing = compiler().page("```\na\n\n    b\n```\n", 10, {}).text;
+    EXPECT_EQ(listing.lineOf(static_cast<int>(listing.markdownLines.size()) - 3), 13);
     EXPECT_EQ(text.lineOf(0), 10);
     EXPECT_EQ(text.lineOf(9999), 13);
     EXPECT_EQ(authoring::CompiledText().lineOf(3), 1);

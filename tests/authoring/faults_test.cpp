@@ -81,12 +81,18 @@ TEST(Faults, nameWhatOtherToolsReadAndWhatDidNotClose) {
         {"a\n\n<!-- Saut de page -->\n", "3:1 un saut de page"},
         {"a <!-- pagebreak --> b\n", "1:3 un saut de page"},
         {"a\n\f\nb\n", "2:1 un saut de page"},
+        {"a\n\n```\nb\n\n\nc\n", "4:1 ce bloc ne finit pas"},
+        {"> ```\n> b\n\nc\n", "2:3 ce bloc ne finit pas"},
+        {"a\n\n#\n", "ce titre n’a pas de texte"},
+        {"a\n\n>\n", "ce cadre est vide"},
+        {"![](a.MP4)\n", "un film est un fichier AVI"},
     };
     for (const auto& row : rows)
         EXPECT_THAT(faultsOf(row.markdown), HasSubstr(row.expected)) << row.markdown;
-    for (const char* meant : {"\\**a\\**\n", "f\\](x)\n", "Complétez : ____ .\n", "3 * 4 = 12\n",
-                              "C:\\\\Users\n", "\\#Titre\n", "[a][b]\n\n[b]: page:12\n",
-                              "[B] et [b][]\n\n  [b]: <page:12>\n", "`**a` `\\frac`\n"})
+    for (const char* meant :
+         {"\\**a\\**\n", "f\\](x)\n", "Complétez : ____ .\n", "3 * 4 = 12\n", "C:\\\\Users\n",
+          "\\#Titre\n", "[a][b]\n\n[b]: page:12\n", "[B] et [b][]\n\n  [b]: <page:12>\n",
+          "`**a` `\\frac`\n", "```\na\n\n\n```\n", "~~~\n```\n~~~\n", "```\n```\n"})
         EXPECT_EQ(faultsOf(meant), "") << meant;
 }
 

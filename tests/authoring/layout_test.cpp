@@ -122,6 +122,7 @@ TEST(Layout, writesWhatEachFormStandsFor) {
         {"a<br\n", {"a<br¶"}},
         {"| a |\n|---|\n| b |\n", {"##TAB000590 1\n", "##FINTAC04\n", "##FINTAB\n"}},
         {"1. un\n2. deux\n", {"##POX008\n1.\n##POX030\nun¶\n##POX008\n2.\n"}},
+        {"9) un\n10) deux\n", {"##POX008\n9)\n##POX038\nun¶\n##POX008\n10)\n##POX038\n"}},
         {"---\n", {"##C010\n##LARGEUR590\n##RECT000\n##C000\n"}},
         {"```python\nfor i in x:\n    y = 1\n```\n",
          {"for\u00A0i\u00A0in\u00A0x:¶", "##POX036\ny\u00A0=\u00A0"

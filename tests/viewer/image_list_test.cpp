@@ -110,7 +110,7 @@ TEST(CoursePictures, readFilesOnceUntilTheyChange) {
     EXPECT_EQ(described(), "Une figure : vue de près");
     EXPECT_EQ(pictures.load(path), pictures.load(path));
     EXPECT_EQ(pictures.load(path)->size(), QSize(300, 300));
-    test_support::writeFile(course.filePath("Descriptions.TXT"), std::string(2u << 20, 'x'));
+    test_support::writeFile(course.filePath("Descriptions.TXT"), QByteArray(2 << 20, 'x'));
     EXPECT_EQ(described(), "");
     QFile::remove(course.filePath("Descriptions.TXT"));
     EXPECT_EQ(described(), "");
