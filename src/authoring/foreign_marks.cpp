@@ -129,4 +129,17 @@ void namePageBreak(std::string_view text, std::size_t offset, Faults& faults) {
         faults.add(offset, std::string(kPageBreak));
 }
 
+void nameOpenFence(std::string_view source, const Block& code, std::size_t last, Faults& faults) {
+    std::size_t end = source.find('\n', last);
+    std::string_view line;
+    while (end != source.npos && line.find_first_not_of(" \t>") == line.npos) {
+        const std::size_t start = end + 1;
+        end = source.find('\n', start);
+        line = source.substr(start, end - start);
+    }
+    if (line.find("```") == line.npos && line.find("~~~") == line.npos)
+        faults.add(code.lines.front().at,
+                   std::string("ce bloc ne finit pas : il manque sa dernière ligne, ```"));
+}
+
 } // namespace authoring

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "authoring/document.h"
 #include "authoring/positions.h"
 
 #include <string_view>
@@ -16,5 +17,9 @@ void nameForeignMarks(std::string_view source, std::size_t offset, std::size_t s
 
 /// Tells of a comment, or of a form feed, that asks for a new sheet of paper.
 void namePageBreak(std::string_view text, std::size_t offset, Faults& faults);
+
+/// Tells of a listing that does not end, which takes the rest of the page with it. `last` is where
+/// its last text stands.
+void nameOpenFence(std::string_view source, const Block& code, std::size_t last, Faults& faults);
 
 } // namespace authoring

@@ -48,8 +48,8 @@ public:
         parser.enter_span = [](MD_SPANTYPE type, void* detail, void* self) {
             return static_cast<Reader*>(self)->enterSpan(type, detail);
         };
-        parser.leave_span = [](MD_SPANTYPE, void*, void* self) {
-            return static_cast<Reader*>(self)->leaveSpan();
+        parser.leave_span = [](MD_SPANTYPE type, void*, void* self) {
+            return static_cast<Reader*>(self)->leaveSpan(type);
         };
         parser.text = [](MD_TEXTTYPE type, const MD_CHAR* text, MD_SIZE size, void* self) {
             return static_cast<Reader*>(self)->text(type, text, size);
@@ -141,77 +141,57 @@ private:
     }
 
     int leaveBlock(MD_BLOCKTYPE type) {
+        if (!spans_.empty())
+            return entangled();
         if (type == MD_BLOCK_DOC || type == MD_BLOCK_THEAD || type == MD_BLOCK_TBODY)
             return kGoOn;
         closeImplicit();
-        if (type == MD_BLOCK_CODE)
-            nameOpenFence(open_.back());
+        if (type == MD_BLOCK_CODE && !open_.back().lines.empty())
+            nameOpenFence(source_, open_.back(), last_, faults_);
         pop();
         return kGoOn;
     }
 
-    /// A listing that does not end takes the rest of the page with it.
-    void nameOpenFence(const Block& code) {
-        if (code.lines.empty())
-            return;
-        std::size_t end = source_.find('\n', last_);
-        std::string_view line;
-        while (end != source_.npos && line.find_first_not_of(" \t>") == line.npos) {
-            const std::size_t start = end + 1;
-            end = source_.find('\n', start);
-            line = source_.substr(start, end - start);
-        }
-        if (line.find("```") == line.npos && line.find("~~~") == line.npos)
-            faults_.add(code.lines.front().at,
-                        std::string("ce bloc ne finit pas : il manque sa dernière ligne, ```"));
+    static Inline::Kind kindOf(MD_SPANTYPE type) {
+        using Kind = Inline::Kind;
+        return type == MD_SPAN_STRONG              ? Kind::Strong
+               : type == MD_SPAN_CODE              ? Kind::Code
+               : type == MD_SPAN_LATEXMATH         ? Kind::Formula
+               : type == MD_SPAN_LATEXMATH_DISPLAY ? Kind::DisplayFormula
+               : type == MD_SPAN_A                 ? Kind::Link
+               : type == MD_SPAN_IMG               ? Kind::Picture
+                                                   : Kind::Emphasis;
     }
 
     int enterSpan(MD_SPANTYPE type, void* detail) {
         Inline span;
+        span.kind = kindOf(type);
         span.at = kUnknown;
-        switch (type) {
-        case MD_SPAN_STRONG:
-            span.kind = Inline::Kind::Strong;
-            break;
-        case MD_SPAN_CODE:
-            span.kind = Inline::Kind::Code;
-            break;
-        case MD_SPAN_LATEXMATH:
-            span.kind = Inline::Kind::Formula;
-            break;
-        case MD_SPAN_LATEXMATH_DISPLAY:
-            span.kind = Inline::Kind::DisplayFormula;
-            break;
-        case MD_SPAN_A:
-            takeTarget(span, Inline::Kind::Link, static_cast<MD_SPAN_A_DETAIL*>(detail)->href,
+        if (type == MD_SPAN_A)
+            takeTarget(span, static_cast<MD_SPAN_A_DETAIL*>(detail)->href,
                        static_cast<MD_SPAN_A_DETAIL*>(detail)->title);
-            break;
-        case MD_SPAN_IMG:
-            takeTarget(span, Inline::Kind::Picture, static_cast<MD_SPAN_IMG_DETAIL*>(detail)->src,
+        else if (type == MD_SPAN_IMG)
+            takeTarget(span, static_cast<MD_SPAN_IMG_DETAIL*>(detail)->src,
                        static_cast<MD_SPAN_IMG_DETAIL*>(detail)->title);
-            break;
-        default:
-            span.kind = Inline::Kind::Emphasis;
-        }
         openImplicit();
         spans_.push_back(std::move(span));
         return deep() ? tooDeep() : kGoOn;
     }
 
     /// A target may be all that a picture has; its own place is the best there is then.
-    void takeTarget(Inline& span, Inline::Kind kind, const MD_ATTRIBUTE& target,
-                    const MD_ATTRIBUTE& title) {
-        span.kind = kind;
+    void takeTarget(Inline& span, const MD_ATTRIBUTE& target, const MD_ATTRIBUTE& title) {
         span.target = fromAttribute(target);
         span.title = fromAttribute(title);
         mark(target);
         mark(title);
         const std::size_t offset = offsetOf(target.text);
-        if (kind == Inline::Kind::Picture && offset != kUnknown)
+        if (span.kind == Inline::Kind::Picture && offset != kUnknown)
             seen(offset);
     }
 
-    int leaveSpan() {
+    int leaveSpan(MD_SPANTYPE type) {
+        if (spans_.empty() || spans_.back().kind != kindOf(type))
+            return entangled();
         Inline span = std::move(spans_.back());
         spans_.pop_back();
         if (span.at == kUnknown)
@@ -327,6 +307,14 @@ private:
         if (block.at == kUnknown)
             block.at = last_;
         open_.back().children.push_back(std::move(block));
+    }
+
+    /// md4c pairs signs within targets with signs outside, and then leaves what it never entered.
+    int entangled() {
+        faults_.add(last_,
+                    std::string("des signes de ce paragraphe s’emmêlent : dans la cible d’un "
+                                "lien, « [ », « * » ou « ` » se font précéder de « \\ »"));
+        return kStop;
     }
 
     bool deep() const { return open_.size() + spans_.size() > kMaxDepth; }

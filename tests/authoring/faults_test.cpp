@@ -86,6 +86,8 @@ TEST(Faults, nameWhatOtherToolsReadAndWhatDidNotClose) {
         {"a\n\n#\n", "ce titre n’a pas de texte"},
         {"a\n\n>\n", "ce cadre est vide"},
         {"![](a.MP4)\n", "un film est un fichier AVI"},
+        {"a\n\n[![](symbole:[ME) Sommaire](page:28) [![](symbole:SU) Suite](page:29)\n",
+         "s’emmêlent"},
     };
     for (const auto& row : rows)
         EXPECT_THAT(faultsOf(row.markdown), HasSubstr(row.expected)) << row.markdown;

@@ -1,5 +1,6 @@
 #include "coursedata/course_pictures.h"
 #include "coursedata/symbol_names.h"
+#include "page/picture_title.h"
 #include "shell/shared_state.h"
 #include "support/fake_beeper.h"
 #include "support/fake_message_boxes.h"
@@ -114,6 +115,21 @@ TEST(CoursePictures, readFilesOnceUntilTheyChange) {
     EXPECT_EQ(described(), "");
     QFile::remove(course.filePath("Descriptions.TXT"));
     EXPECT_EQ(described(), "");
+
+    // A drawing may say it itself; that of a part of it is not meant.
+    const QString drawing = course.filePath("pendule_simple.svg");
+    const auto title = [&] {
+        const page::PictureOperation shown{
+            {}, 0, 0, 0, 0, pictures.load(drawing), "pendule_simple.svg", false};
+        return page::pictureTitle(shown).toStdString();
+    };
+    const QByteArray part = "<svg width='9' height='9'><g><title>Le fil</title></g>";
+    test_support::writeFile(drawing, part + "</svg>");
+    EXPECT_EQ(title(), "Image pendule simple");
+    test_support::writeFile(drawing, part + "<title> Un\npendule </title></svg>");
+    EXPECT_EQ(title(), "Un pendule");
+    test_support::writeFile(course.filePath("descriptions.txt"), "Pendule_simple.SVG:écarté\n");
+    EXPECT_EQ(title(), "écarté");
 
     // Names that are none are not files of the current directory.
     const QString before = QDir::currentPath();
