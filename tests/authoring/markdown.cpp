@@ -86,7 +86,7 @@ QStringList wordsToPrint(const std::string& markdown) {
     QString source = QString::fromStdString(markdown).normalized(QString::NormalizationForm_C);
     for (const char* aside :
          {R"(\]\([^)]*\))", R"(```[^\n]*)", R"((?s)<!--.*?-->)", R"(\\[A-Za-z]+)", R"(&[a-zA-Z]+;)",
-          R"([_^]\S)", "(?i)bandeau", R"((?i)en[\s>]+marge)"})
+          R"([_^](\{[^}]*|\S))", "(?i)bandeau", R"((?i)en[\s>]+marge)"})
         source.replace(QRegularExpression(QString::fromUtf8(aside)), QStringLiteral(" "));
     QStringList words;
     static const QRegularExpression word(QStringLiteral("\\p{L}{4,}"));
