@@ -48,14 +48,20 @@ void Coverage::nameUnread(Faults& faults) {
 /// "[optique]: page:12" was read when its target was, and with it what names it: "[mots][optique]".
 void Coverage::markUsedDefinitions() {
     std::set<QString> used;
-    for (std::size_t at = source_.find("]:"); at != source_.npos; at = source_.find("]:", at + 1)) {
-        const std::size_t target = source_.find_first_not_of(" \t\n<", at + 2);
-        const std::size_t line = source_.rfind('\n', at) + 1; // 0 on the first line
+    for (std::size_t line = 0; line < source_.size();) {
+        const std::size_t end = std::min(source_.find('\n', line), source_.size());
         const std::size_t open = source_.find_first_not_of(" >", line);
-        if (target == source_.npos || !read_[target] || source_[open] != '[')
+        line = end + 1;
+        if (open >= end || source_[open] != '[')
             continue;
-        used.insert(labelOf(source_.substr(open + 1, at - open - 1)));
-        mark(open, at - open);
+        const std::size_t close = source_.substr(open, end - open).find("]:");
+        if (close == source_.npos)
+            continue;
+        const std::size_t target = source_.find_first_not_of(" \t\n<", open + close + 2);
+        if (target == source_.npos || !read_[target])
+            continue;
+        used.insert(labelOf(source_.substr(open + 1, close - 1)));
+        mark(open, close);
     }
     for (std::size_t at = source_.find("]["); at != source_.npos && !used.empty();
          at = source_.find("][", at + 1)) {

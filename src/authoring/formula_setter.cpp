@@ -23,7 +23,7 @@ constexpr int kFractionRoom = 2;
 constexpr int kBarRoom = 2;
 /// An index stays within its line, but would touch the bar below it.
 constexpr int kBelowIndex = 3;
-/// Between two bars or arrows side by side, which reach beyond their letters.
+/// Beside a bar or an arrow, which reach beyond their letters.
 constexpr int kMarkRoom = 2;
 
 /// Scripts are two points smaller from ten points on, as the directives have it.
@@ -96,14 +96,19 @@ private:
         }
     }
 
-    /// Letters lean into an upright sign behind them, and marks into each other.
+    /// Letters lean into an upright sign behind them; marks reach into it, and into each other.
     void keepApart(Box& box, const FormulaNode& node, const FormulaNode& next) {
-        static constexpr QStringView kUprightSigns = u"′)]|}‖";
+        const auto stands = [](const FormulaNode& sign, QStringView signs, bool first) {
+            return sign.kind == Kind::Sign && !sign.italic && !sign.text.isEmpty() &&
+                   signs.contains(first ? sign.text.front() : sign.text.back());
+        };
+        const bool before = stands(node, u"([{|‖", false);
+        const bool behind = stands(next, u"′)]}|‖", true);
         if (isMarked(node) && isMarked(next))
+            return move(box, "PIX", 2 * kMarkRoom);
+        if ((before && isMarked(next)) || (behind && isMarked(node)))
             return move(box, "PIX", kMarkRoom);
-        const bool leans = node.kind == Kind::Sign && node.italic && !node.text.isEmpty();
-        const bool stands = next.kind == Kind::Sign && !next.italic && !next.text.isEmpty();
-        if (leans && stands && kUprightSigns.contains(next.text.front()))
+        if (behind && node.kind == Kind::Sign && node.italic && !node.text.isEmpty())
             move(box, "PIX", overhang(node.text.back()));
     }
     static bool isMarked(const FormulaNode& node) {
@@ -188,6 +193,8 @@ private:
             return tallExponent(box, lower, upper);
         if (!upper.isEmpty())
             box.rise = std::max(box.rise, kExponentRise);
+        if (!upper.isEmpty() && base.kind == Kind::Marked)
+            move(box, "PIX", kMarkRoom);
         const bool both = !lower.isEmpty() && !upper.isEmpty();
         if (both && lower.isStackable() && upper.isStackable())
             return stacked(box, lower, upper, base.empty());

@@ -113,6 +113,7 @@ TEST(Faults, boundWhatAHostileSourceCanAskFor) {
                 HasSubstr("trop d’accolades"));
     EXPECT_THAT(faultsOf("$" + times(999, "^") + "$\n"), HasSubstr("deux indices"));
     EXPECT_NE(faultsOf("$" + times(180, "\\frac") + "$\n"), "");
+    EXPECT_THAT(faultsOf("[x" + times(100000, "]:") + "\n"), HasSubstr("nulle part"));
     const std::string many = faultsOf(times(5000, "[a](x)\n\n"));
     EXPECT_EQ(std::count(many.begin(), many.end(), '\n'), 100);
     EXPECT_EQ(faultsOf(""), "");

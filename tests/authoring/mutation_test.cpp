@@ -73,7 +73,8 @@ bool isWholeQuestion(const std::string& source) {
         return false;
     // Ticks, accepted answers and the name of the comment are seen nowhere.
     static const QRegularExpression unseen(QStringLiteral(
-        "(?im)\\[x\\]|\\[[^\\]]*\\]\\(r[ée]ponse\\)|^ *## .*$|^ *si c['’]est faux *\\n *-+ *$"));
+        "(?im)\\[(?:[^\\[\\]]|\\[[^\\[\\]]*\\])*\\]\\(r[ée]ponse\\)|\\[x\\]|^ *## .*$|"
+        "^ *si c['’]est faux *\\n *-+ *$"));
     const QString seen = QString::fromStdString(source).replace(unseen, QStringLiteral(" "));
     const QString shown =
         printed(question.question) + (question.siFaux ? printed(*question.siFaux) : QString());
