@@ -191,6 +191,8 @@ QStringList Layout::menuEntries(const Inline& menu, const Block* entries) {
             continue;
         }
         const Inline& link = inlines->front();
+        if (!link.title.isEmpty())
+            fault(link.at, u"un choix de menu n’a pas de bulle");
         const QString caption = captionOf(link.children, texts_);
         if (const auto target = readTarget(link.target, link.at, texts_.faults))
             lines.append(QStringLiteral("##ADMEN") + caption + u'#' + target->code());
@@ -202,6 +204,8 @@ QStringList Layout::menuEntries(const Inline& menu, const Block* entries) {
 
 void Layout::menu(const Inline& menu, const Block* entries) {
     const auto key = readKey(menu.target, u"menu:", menu.at, texts_.faults);
+    if (!menu.title.isEmpty())
+        fault(menu.at, u"un menu n’a pas de bulle : son titre se met entre les crochets");
     Label label{column_.left, {}};
     label.box = symbolBox(QStringLiteral("##LIERF") + key.value_or(QStringLiteral("ME")), style_);
     const QStringList lines = menuEntries(menu, entries);

@@ -35,6 +35,8 @@ TEST(Faults, nameThePlaceInTheMarkdown) {
         {"![](symbole:ABC)\n", "deux caractères"},
         {"![mots](symbole:AT)\n", "un symbole n’a ni texte"},
         {"![M](menu:ME)\n", "la liste des liens"},
+        {"![M](menu:ME \"b\")\n\n- [a](page:1)\n", "1:3 un menu n’a pas de bulle"},
+        {"![M](menu:ME)\n\n- [a](page:1 \"b\")\n", "un choix de menu n’a pas"},
         {"![M](menu:ME)\n\n- a\n", "est un lien, et rien d’autre"},
         {"[$x$](page:1)\n", "ne peut pas être un lien"},
         {"[fer](réponse)\n", "que dans une question"},

@@ -73,7 +73,7 @@ bool isWholeQuestion(const std::string& source) {
         return false;
     // Ticks, accepted answers and the name of the comment are seen nowhere.
     static const QRegularExpression unseen(QStringLiteral(
-        "(?im)\\[(?:[^\\[\\]]|\\[[^\\[\\]]*\\])*\\]\\(r[ée]ponse\\)|\\[x\\]|^ *## .*$|"
+        "(?im)\\[(?:[^\\[\\]]|\\[[^\\[\\]]*\\])*\\]\\(\\s*r[ée]ponse\\s*\\)|\\[x\\]|^ *## .*$|"
         "^ *si c['’]est faux *\\n *-+ *$"));
     const QString seen = QString::fromStdString(source).replace(unseen, QStringLiteral(" "));
     const QString shown =
