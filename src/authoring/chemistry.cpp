@@ -69,6 +69,8 @@ private:
             return plusOrMinus(all);
         if (c.isLetter())
             return symbol(all);
+        if (c == u'\\')
+            return command(all);
         other(all, c);
     }
 
@@ -133,10 +135,8 @@ private:
     void digits(FormulaNode& all) {
         const qsizetype index = next_;
         QString number = takeDigits();
-        if (!startOfSpecies_) {
-            scriptsOf(all, index).children[1] = plain(number);
-            return;
-        }
+        if (!startOfSpecies_)
+            return setScript(all, index, false, scriptSigns(number, false));
         if ((peek() == u'/' || peek() == u',') && peek(1).isDigit()) {
             number += text_[next_++];
             number += takeDigits();
@@ -155,9 +155,35 @@ private:
             while (!atEnd() && peek().isLower())
                 symbol += text_[next_++];
         }
-        const bool variable = symbol == u"n" || symbol == u"x" || symbol == u"y" || symbol == u"m";
+        const bool variable = startOfSpecies_ && symbol[0].isLower() && isFormulaNext();
         sign(all, symbol, Role::Ordinary, variable);
         all.children.back().index = index;
+        startOfSpecies_ = false;
+        if (variable && !peek().isSpace()) {
+            blank(all);
+            startOfSpecies_ = true;
+        }
+    }
+    /// A small letter counts what comes behind it ("n H2O"); alone it is a particle ("n", "p",
+    /// "e").
+    bool isFormulaNext() const {
+        qsizetype at = next_;
+        while (at < text_.size() && text_[at].isSpace())
+            ++at;
+        return at < text_.size() && (text_[at].isUpper() || text_[at] == u'(' || text_[at] == u'[');
+    }
+
+    /// "\\gamma": a sign of the formula's commands.
+    void command(FormulaNode& all) {
+        const qsizetype index = next_++;
+        QString name;
+        while (!atEnd() && peek().isLetter() && peek().unicode() < 128)
+            name += text_[next_++];
+        const auto named = signOfCommand(name);
+        if (!named || name.isEmpty())
+            return source_.fault(index,
+                                 QStringLiteral("« \\%1 » n’est pas lu dans \\ce").arg(name));
+        sign(all, named->text);
         startOfSpecies_ = false;
     }
 
@@ -176,16 +202,23 @@ private:
             next_ = close + 1;
         } else {
             content = takeDigits();
+            if (content.isEmpty() && !atEnd() && peek() != u'+' && peek() != u'-')
+                content = text_[next_++];
             if (exponent && (peek() == u'+' || peek() == u'-'))
                 content += text_[next_++];
-            if (content.isEmpty() && !atEnd())
-                content = text_[next_++];
         }
         if (content.trimmed().isEmpty() || content.contains(u'\\') || content.contains(u'^') ||
             content.contains(u'_') || content.contains(u'{'))
             source_.fault(index, QStringLiteral("un indice ou un exposant ne contient que des "
                                                 "lettres, des chiffres et des signes"));
-        scriptsOf(all, index).children[exponent ? 2 : 1] = plain(content);
+        setScript(all, index, exponent, scriptSigns(content, startOfSpecies_));
+    }
+
+    void setScript(FormulaNode& all, qsizetype index, bool exponent, FormulaNode content) {
+        FormulaNode& place = scriptsOf(all, index).children[exponent ? 2 : 1];
+        if (!place.empty())
+            source_.fault(index, QStringLiteral("deux indices ou deux exposants de suite"));
+        place = std::move(content);
     }
 
     /// The scripts of what stands last; of nothing, at the start of a formula.
@@ -205,12 +238,20 @@ private:
         return all.children.back();
     }
 
-    static FormulaNode plain(QString text) {
+    /// A lone small letter is a number that is not told, in italics as all quantities; so are the
+    /// capitals before a nuclide.
+    static FormulaNode scriptSigns(QString text, bool beforeSymbol) {
+        text.replace(u'-', QChar(0x2212)).remove(u' ');
         FormulaNode group;
-        FormulaNode node;
-        node.kind = Kind::Sign;
-        node.text = text.replace(u'-', QChar(0x2212)).remove(u' ');
-        group.children.push_back(std::move(node));
+        for (qsizetype i = 0; i < text.size(); ++i) {
+            const bool isAlone = !(i > 0 && text[i - 1].isLetter()) &&
+                                 !(i + 1 < text.size() && text[i + 1].isLetter());
+            FormulaNode node;
+            node.kind = Kind::Sign;
+            node.text = text[i];
+            node.italic = isAlone && (beforeSymbol ? text[i].isUpper() : text[i].isLower());
+            group.children.push_back(std::move(node));
+        }
         return group;
     }
 
@@ -233,9 +274,8 @@ private:
         if (last.kind == Kind::Sign && last.text.startsWith(u'('))
             source_.fault(index,
                           QStringLiteral("mettre un blanc avant et après « %1 »").arg(shown));
-        FormulaNode& scripts = scriptsOf(all, index);
-        complainAboutCharge(scripts, index);
-        scripts.children[2] = plain(shown);
+        complainAboutCharge(scriptsOf(all, index), index);
+        setScript(all, index, true, scriptSigns(shown, false));
     }
 
     /// "Ca2+" reads as two calcium atoms with one charge between them, which nobody means.
@@ -244,11 +284,16 @@ private:
         const bool single = base.kind == Kind::Sign && !base.text.isEmpty() &&
                             base.text[0].isUpper() && aloneFrom(scripts);
         if (single && !scripts.children[1].empty() && scripts.children[2].empty())
-            source_.fault(
-                index,
-                QStringLiteral("la charge d’un ion simple s’écrit « %1^%2 » : sans le "
-                               "signe « ^ », le chiffre compte les atomes")
-                    .arg(base.text, scripts.children[1].children[0].text + source_.text()[index]));
+            source_.fault(index,
+                          QStringLiteral("la charge d’un ion simple s’écrit « %1^%2 » : sans le "
+                                         "signe « ^ », le chiffre compte les atomes")
+                              .arg(base.text, textOf(scripts.children[1]) + source_.text()[index]));
+    }
+    static QString textOf(const FormulaNode& group) {
+        QString text;
+        for (const FormulaNode& node : group.children)
+            text += node.text;
+        return text;
     }
     /// Whether the element stands alone between blanks.
     bool aloneFrom(const FormulaNode& scripts) const {

@@ -29,8 +29,18 @@ struct CompiledText {
     int lineOf(int compiledLine) const;
 };
 
+/// What a picture shows, in words, for who does not see it. The page language has no place for
+/// them; they go to the course's file of descriptions (coursedata/picture_words.h).
+struct Description {
+    std::string picture; ///< bare file name, UTF-8
+    std::string words;
+    int line = 0; ///< where it stands, counted from 1; columns in characters
+    int column = 0;
+};
+
 struct CompiledPage {
     CompiledText text;
+    std::vector<Description> descriptions;
     std::vector<Fault> faults; ///< in the order of the source
 };
 
@@ -39,6 +49,7 @@ struct CompiledQuestion {
     std::string solution; ///< UTF-8; of choices the five digits
     CompiledText question;
     std::optional<CompiledText> siFaux;
+    std::vector<Description> descriptions;
     std::vector<Fault> faults;
 };
 

@@ -58,6 +58,7 @@ struct Block {
     std::size_t at = 0;
     int level = 0;          ///< of headings, from 1; of ordered lists the first number
     bool ordered = false;   ///< of lists
+    char delimiter = '.';   ///< behind the numbers of a list
     bool tight = true;      ///< of lists: no blank lines between the items
     bool heading = false;   ///< of rows
     Task task = Task::None; ///< of items

@@ -21,7 +21,7 @@ struct FormulaNode {
         Tall,     ///< a bracket as tall as a fraction, drawn by `directive`
         Arrow     ///< of a reaction, drawn by `directive`
     };
-    enum class Role { Ordinary, Relation, Binary, Opening, Closing, Function, Slash };
+    enum class Role { Ordinary, Relation, Binary, Opening, Closing, Function, Slash, Separator };
 
     Kind kind = Kind::Group;
     Role role = Role::Ordinary;

@@ -1,3 +1,4 @@
+#include "authoring/formula_marks.h"
 #include "authoring/formula_signs.h"
 
 #include <QHash>
@@ -12,6 +13,20 @@ constexpr int kMaxFormulaDepth = 12;
 
 /// Far more than a line holds; it also bounds how deep commands may stand in each other.
 constexpr qsizetype kMaxFormulaLength = 1000;
+
+constexpr char16_t kNoBreak = u'\u00A0';
+
+void standUpright(FormulaNode& node) {
+    node.italic = false;
+    for (FormulaNode& child : node.children)
+        standUpright(child);
+}
+
+/// Signs that stand high by themselves, as an exponent too: degrees and primes.
+bool isHighSign(const FormulaNode& node) {
+    return node.children.size() == 1 && node.children.front().kind == Kind::Sign &&
+           (node.children.front().text == u"°" || node.children.front().text == u"′");
+}
 
 class FormulaReader {
 public:
@@ -50,7 +65,7 @@ private:
         const qsizetype index = next_;
         const QChar c = peek();
         if (c.isSpace()) {
-            ++next_;
+            blanks(group);
         } else if (c == u'^' || c == u'_') {
             script(group);
         } else if (c == u'{') {
@@ -65,6 +80,24 @@ private:
         } else {
             add(group, character(), index);
         }
+    }
+
+    /// Blanks say nothing but in an enumeration: "(2 ; 3)", "x, y".
+    void blanks(FormulaNode& group) {
+        const qsizetype index = next_;
+        while (!atEnd() && peek().isSpace())
+            ++next_;
+        const bool inside = !group.children.empty() && !atEnd() && peek() != u'}';
+        const bool after = inside && group.children.back().role == FormulaNode::Role::Separator;
+        if (after || (inside && peek() == u';'))
+            add(group, gap(), index);
+    }
+
+    /// What follows it begins anew: a minus sign belongs to its number.
+    static FormulaNode gap() {
+        FormulaNode node = signOfCharacter(kNoBreak, true);
+        node.role = FormulaNode::Role::Separator;
+        return node;
     }
 
     static void add(FormulaNode& group, FormulaNode node, qsizetype index) {
@@ -85,13 +118,28 @@ private:
         return node;
     }
 
-    /// Digits, and the sign between the whole and the decimals.
+    /// Digits, the sign between the whole and the decimals, and the blanks between groups of
+    /// digits: nobody puts any there but to see them.
     FormulaNode number() {
         FormulaNode node;
         node.kind = Kind::Sign;
-        while (!atEnd() && (peek().isDigit() || isDecimalSign()))
-            node.text += text_[next_++];
+        while (!atEnd())
+            if (peek().isDigit() || isDecimalSign())
+                node.text += text_[next_++];
+            else if (const qsizetype group = nextGroup(); group > next_) {
+                node.text += QChar(kNoBreak);
+                next_ = group;
+            } else {
+                break;
+            }
         return node;
+    }
+    /// Where the digits behind the blanks that come now begin; where we are when none do.
+    qsizetype nextGroup() const {
+        qsizetype at = next_;
+        while (at < text_.size() && text_[at].isSpace())
+            ++at;
+        return at < text_.size() && text_[at].isDigit() ? at : next_;
     }
     bool isDecimalSign() const {
         return (peek() == u',' || (peek() == u'.' && !upright_)) && next_ + 1 < text_.size() &&
@@ -134,6 +182,8 @@ private:
         const qsizetype index = next_;
         const bool isExponent = text_[next_++] == u'^';
         FormulaNode content = argument(index);
+        if (isExponent && isHighSign(content))
+            return add(group, std::move(content.children.front()), index);
         const bool onScripts = !group.children.empty() &&
                                group.children.back().kind == Kind::Scripts &&
                                group.children.back().children[isExponent ? 2 : 1].empty();
@@ -153,7 +203,12 @@ private:
             }
             group.children.push_back(std::move(scripts));
         }
-        group.children.back().children[isExponent ? 2 : 1] = std::move(content);
+        FormulaNode& scripts = group.children.back();
+        // Letters of an index name things ("E_c"), so they stand upright; those before a nuclide
+        // are quantities.
+        if (!isExponent && !scripts.children[0].empty())
+            standUpright(content);
+        scripts.children[isExponent ? 2 : 1] = std::move(content);
     }
 
     void command(FormulaNode& group) {
@@ -166,8 +221,8 @@ private:
                 break;
             name += text_[next_++];
         }
-        if (name == u"!")
-            return; // a little less room: nothing
+        if (name == u"!" || name == u"displaystyle")
+            return; // a little less room, the size that is drawn anyway: nothing
         if (withArguments(group, name, index))
             return;
         if (auto sign = signOfCommand(name)) {
@@ -193,7 +248,9 @@ private:
             {"hat", &FormulaReader::hat},           {"mathrm", &FormulaReader::uprightGroup},
             {"unit", &FormulaReader::uprightGroup}, {"text", &FormulaReader::words},
             {"qty", &FormulaReader::quantity},      {"ce", &FormulaReader::chemistry},
-            {"left", &FormulaReader::left},         {"right", &FormulaReader::right}};
+            {"SI", &FormulaReader::quantity},       {"si", &FormulaReader::uprightGroup},
+            {"num", &FormulaReader::plainGroup},    {"left", &FormulaReader::left},
+            {"right", &FormulaReader::right}};
         const auto form = kForms.find(name);
         if (form == kForms.end())
             return false;
@@ -228,25 +285,11 @@ private:
     void bar(FormulaNode& group, qsizetype index) { marked(group, index, u"VA1"); }
     void hat(FormulaNode& group, qsizetype index) { marked(group, index, u"CHAPEAU"); }
 
-    /// Marks go over bare signs: letters, as a rule.
     void marked(FormulaNode& group, qsizetype index, QStringView directive) {
-        FormulaNode node = argument(index);
-        FormulaNode marked;
-        marked.kind = Kind::Marked;
-        marked.directive = directive.toString();
-        marked.italic = true;
-        for (const FormulaNode& sign : node.children) {
-            if (sign.kind != Kind::Sign)
-                source_.fault(index,
-                              QStringLiteral("un signe au-dessus ne va que sur des lettres ; "
-                                             "l’indice se met après : \\vec{F}_1"));
-            marked.text += sign.text;
-            marked.italic = marked.italic && sign.italic;
-        }
-        if (directive == u"CHAPEAU" && marked.text.size() > 1)
-            source_.fault(index, QStringLiteral("un chapeau ne va que sur une lettre"));
-        add(group, std::move(marked), index);
+        add(group, markedSigns(argument(index), directive, source_), index);
     }
+
+    void plainGroup(FormulaNode& group, qsizetype index) { add(group, argument(index), index); }
 
     void uprightGroup(FormulaNode& group, qsizetype index) {
         const bool before = std::exchange(upright_, true);

@@ -1,5 +1,6 @@
 #include "authoring/formula_setter.h"
 
+#include "authoring/script_signs.h"
 #include "authoring/writer.h"
 #include "page/twips.h"
 
@@ -18,11 +19,12 @@ constexpr int kExponentRise = 3;
 constexpr int kStackedDrop = 3;
 constexpr int kMarkRise = 4;
 constexpr int kFractionRoom = 2;
-/// How far a part of a fraction with an index or an exponent keeps from the bar.
-constexpr int kBarRoom = 3;
-/// What a denominator in letters larger than the text's keeps: its exponents rise further.
-constexpr int kLargeBarRoom = 5;
-constexpr int kTextPoints = 12;
+/// What signs beyond the line keep from the bar of their fraction.
+constexpr int kBarRoom = 2;
+/// An index stays within its line, but would touch the bar below it.
+constexpr int kBelowIndex = 3;
+/// Beside a bar or an arrow, which reach beyond their letters.
+constexpr int kMarkRoom = 2;
 
 /// Scripts are two points smaller from ten points on, as the directives have it.
 constexpr int kSmallestReduced = 10;
@@ -33,12 +35,6 @@ Style reduced(Style style) {
         style.points -= kReduction;
     return style;
 }
-
-/// A text of one slant.
-struct Slanted {
-    QString text;
-    bool italic = false;
-};
 
 class Setter {
 public:
@@ -77,8 +73,9 @@ private:
                 continue;
             }
             const bool unary =
-                node.role == Role::Binary && (before == Role::Opening || before == Role::Relation ||
-                                              before == Role::Binary || before == Role::Slash);
+                node.role == Role::Binary &&
+                (before == Role::Opening || before == Role::Relation || before == Role::Binary ||
+                 before == Role::Slash || before == Role::Separator);
             const bool spaced =
                 !single && !unary && (node.role == Role::Binary || node.role == Role::Relation);
             const bool arrow = node.kind == Kind::Arrow;
@@ -94,7 +91,36 @@ private:
                     blank(boxes.back());
             }
             before = unary ? Role::Relation : node.role;
+            if (!last && !spaced)
+                keepApart(boxes.back(), node, nodes[i + 1]);
         }
+    }
+
+    /// Letters lean into an upright sign behind them; marks reach into it, and into each other.
+    void keepApart(Box& box, const FormulaNode& node, const FormulaNode& next) {
+        const auto stands = [](const FormulaNode& sign, QStringView signs, bool first) {
+            return sign.kind == Kind::Sign && !sign.italic && !sign.text.isEmpty() &&
+                   signs.contains(first ? sign.text.front() : sign.text.back());
+        };
+        const bool before = stands(node, u"([{|‖", false);
+        const bool behind = stands(next, u"′)]}|‖", true);
+        if (isMarked(node) && isMarked(next))
+            return move(box, "PIX", 2 * kMarkRoom);
+        if ((before && isMarked(next)) || (behind && isMarked(node)))
+            return move(box, "PIX", kMarkRoom);
+        if (behind && node.kind == Kind::Sign && node.italic && !node.text.isEmpty())
+            move(box, "PIX", overhang(node.text.back()));
+    }
+    static bool isMarked(const FormulaNode& node) {
+        return node.kind == Kind::Marked ||
+               (node.kind == Kind::Scripts && node.children[0].kind == Kind::Marked);
+    }
+    /// Of letters in italics, as the face has it, in pixels.
+    int overhang(QChar letter) const {
+        static constexpr QStringView kWide = u"FKTVWYvwyγζτ";
+        constexpr double kPixelsAPoint = 96.0 / 72;
+        const double ems = letter == u'f' ? 0.12 : kWide.contains(letter) ? 0.055 : 0;
+        return static_cast<int>(std::lround(ems * kPixelsAPoint * style_.points));
     }
 
     void blank(Box& box) { text(box, {QString(QChar(0xA0)), false}); }
@@ -148,40 +174,11 @@ private:
         }
     }
 
-    /// The signs of an index or exponent, by slant.
-    std::vector<Slanted> signsOf(const FormulaNode& group) {
-        std::vector<Slanted> signs;
-        for (const FormulaNode& node : group.children) {
-            if (node.kind == Kind::Group) {
-                for (Slanted& run : signsOf(node))
-                    signs.push_back(std::move(run));
-            } else if (node.kind == Kind::Sign) {
-                if (signs.empty() || signs.back().italic != node.italic)
-                    signs.push_back({{}, node.italic});
-                signs.back().text += node.text;
-            } else {
-                source_.fault(
-                    node.index,
-                    QStringLiteral("un indice ou un exposant ne contient que des lettres, "
-                                   "des chiffres et des signes"));
-            }
+    void script(Box& box, const char* keyword, const std::vector<Slanted>& runs) {
+        for (const Slanted& run : runs) {
+            const double width = ruler_.width(reduced(slant(run.italic)), run.text);
+            directive(box, QLatin1String(keyword) + run.text, width, run.italic);
         }
-        return signs;
-    }
-
-    /// Letters of an index name things ("E_c"), so they stand upright.
-    QString indexText(const FormulaNode& group) {
-        QString text;
-        for (const Slanted& run : signsOf(group))
-            text += run.text;
-        return text;
-    }
-
-    void script(Box& box, const char* keyword, const Slanted& run) {
-        if (run.text.isEmpty())
-            return;
-        const double width = ruler_.width(reduced(slant(run.italic)), run.text);
-        directive(box, QLatin1String(keyword) + run.text, width, run.italic);
     }
 
     void scripts(Box& box, const FormulaNode& node) {
@@ -190,64 +187,59 @@ private:
             box.append(inner(base));
         else
             this->node(box, base);
-        const QString lower = indexText(node.children[1]);
-        const std::vector<Slanted> upper = signsOf(node.children[2]);
+        const ScriptSigns lower(node.children[1], source_);
+        const ScriptSigns upper(node.children[2], source_);
         if (base.kind == Kind::Tall)
             return tallExponent(box, lower, upper);
-        if (!upper.empty())
+        if (!upper.isEmpty())
             box.rise = std::max(box.rise, kExponentRise);
-        if (lower.isEmpty() || upper.empty()) {
-            script(box, "IND", {lower, false});
-            for (const Slanted& run : upper)
-                script(box, "EXP", run);
-            return;
-        }
-        QString above;
-        for (const Slanted& run : upper)
-            above += run.text;
-        stacked(box, lower, above, base.empty());
+        if (!upper.isEmpty() && base.kind == Kind::Marked)
+            move(box, "PIX", kMarkRoom);
+        const bool both = !lower.isEmpty() && !upper.isEmpty();
+        if (both && lower.isStackable() && upper.isStackable())
+            return stacked(box, lower, upper, base.empty());
+        script(box, "IND", lower.runs());
+        script(box, "EXP", upper.runs());
     }
 
     /// Signs one above the other, as many as both have; the rest of the longer one behind, or, when
     /// the scripts stand before their symbol, in front.
-    void stacked(Box& box, const QString& lower, const QString& upper, bool before) {
+    void stacked(Box& box, const ScriptSigns& lower, const ScriptSigns& upper, bool before) {
         const qsizetype common = std::min(lower.size(), upper.size());
+        const qsizetype low = before ? lower.size() - common : 0;
+        const qsizetype high = before ? upper.size() - common : 0;
         box.drop = std::max(box.drop, kStackedDrop);
-        const auto rest = [&](const QString& text) {
-            return before ? text.chopped(common) : text.sliced(common);
-        };
-        const auto rests = [&] {
-            script(box, "IND", {rest(lower), false});
-            script(box, "EXP", {rest(upper), false});
-        };
-        if (before)
-            rests();
-        const QString low = before ? lower.last(common) : lower.first(common);
-        const QString high = before ? upper.last(common) : upper.first(common);
-        const Style small = reduced(slant(false));
-        for (qsizetype i = 0; i < common; ++i) {
-            const double width = std::max(ruler_.width(small, QString(low[i])),
-                                          ruler_.width(small, QString(high[i])));
-            directive(box, QStringLiteral("POLY") + low[i] + high[i], width);
+        if (before) {
+            script(box, "IND", lower.runs(0, low));
+            script(box, "EXP", upper.runs(0, high));
         }
-        if (!before)
-            rests();
+        for (qsizetype i = 0; i < common; ++i) {
+            const bool italic = ScriptSigns::slantOf(lower, low + i, upper, high + i);
+            const Style small = reduced(slant(italic));
+            const QString below(lower[low + i]);
+            const QString above(upper[high + i]);
+            directive(box, QStringLiteral("POLY") + below + above,
+                      std::max(ruler_.width(small, below), ruler_.width(small, above)), italic);
+        }
+        if (!before) {
+            script(box, "IND", lower.runs(common, lower.size()));
+            script(box, "EXP", upper.runs(common, upper.size()));
+        }
     }
 
     /// Behind a tall bracket scripts stand half a line further out.
-    void tallExponent(Box& box, const QString& lower, const std::vector<Slanted>& upper) {
-        if (lower.size() == 1 && upper.size() == 1 && upper.front().text.size() == 1)
-            return stacked(box, lower, upper.front().text, false); // the bounds of an integral
-        box.rise = std::max(box.rise, halfLine() + (upper.empty() ? 0 : kMarkRise));
-        if (!upper.empty()) {
+    void tallExponent(Box& box, const ScriptSigns& lower, const ScriptSigns& upper) {
+        if (lower.size() == 1 && upper.size() == 1)
+            return stacked(box, lower, upper, false); // the bounds of an integral
+        box.rise = std::max(box.rise, halfLine() + (upper.isEmpty() ? 0 : kMarkRise));
+        if (!upper.isEmpty()) {
             directive(box, QStringLiteral("DECAHADEF"), 0);
-            for (const Slanted& run : upper)
-                script(box, "EXP", run);
+            script(box, "EXP", upper.runs());
             directive(box, QStringLiteral("DECABADEF"), 0);
         }
         if (!lower.isEmpty()) {
             directive(box, QStringLiteral("DECABADEF"), 0);
-            script(box, "IND", {lower, false});
+            script(box, "IND", lower.runs());
             directive(box, QStringLiteral("DECAHADEF"), 0);
         }
     }
@@ -301,33 +293,35 @@ private:
         const auto indent = [&](const Box& part) {
             return static_cast<int>((width - part.width) / 2 / kTwipsPerPixel);
         };
-        const bool raised = hasDirective(upper);
-        const bool lowered = hasDirective(lower);
+        const int raised = roomBelow(upper);
+        const int lowered = lower.rise > 0 ? lower.rise + kBarRoom : 0;
         Box set;
         directive(set, QStringLiteral("NUMERATEUR"), 0);
-        move(set, "PIY", raised ? -kBarRoom : 0);
+        move(set, "PIY", -raised);
         move(set, "PIX", indent(upper));
         set.append(upper);
-        move(set, "PIY", raised ? kBarRoom : 0);
+        move(set, "PIY", raised);
         directive(set, QStringLiteral("DENOMINATEUR"), 0);
-        const int below = !lowered ? 0 : style_.points > kTextPoints ? kLargeBarRoom : kBarRoom;
-        move(set, "PIY", below);
+        move(set, "PIY", lowered);
         move(set, "PIX", indent(lower));
         set.append(lower);
-        move(set, "PIY", -below);
+        move(set, "PIY", -lowered);
         directive(set, QStringLiteral("FINFRAC"), 0);
         for (Piece& piece : set.pieces)
             piece.width = 0;
         set.pieces.back().width = width;
         set.width = width;
-        set.rise = raised ? kBarRoom : 0;
-        set.drop = below;
+        set.rise = halfLine() + upper.rise + raised;
+        set.drop = halfLine() + lower.drop + lowered;
         box.append(set);
     }
 
-    static bool hasDirective(const Box& box) {
-        return std::any_of(box.pieces.begin(), box.pieces.end(),
-                           [](const Piece& piece) { return piece.directive; });
+    static int roomBelow(const Box& box) {
+        const bool hasIndex =
+            std::any_of(box.pieces.begin(), box.pieces.end(), [](const Piece& piece) {
+                return piece.directive && piece.line.startsWith(QStringLiteral("##IND"));
+            });
+        return box.drop > 0 ? box.drop + kBarRoom : hasIndex ? kBelowIndex : 0;
     }
 
     void root(Box& box, const FormulaNode& node) {
@@ -336,8 +330,9 @@ private:
                           QStringLiteral("une racine dans une racine ne se dessine pas"));
         const Box content = inner(node.children[0]);
         const double line = ruler_.height(style_) / kTwipsPerPixel;
-        // The sign is centred on its line.
-        const double beyond = std::max(content.rise, content.drop);
+        // The sign is centred on its line. Its bar keeps off exponents; fractions have room enough.
+        const int room = node.holds(Kind::Fraction) || content.rise == 0 ? 0 : kBarRoom;
+        const double beyond = std::max(content.rise + room, content.drop);
         const double factor = std::ceil((1 + 2 * beyond / line) * 10) / 10;
         directive(box, QStringLiteral("SQD"), 1.5 * ruler_.width(slant(false), U'X'));
         box.append(content);

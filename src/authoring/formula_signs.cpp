@@ -67,9 +67,12 @@ constexpr Command kCommands[] = {
     {"simeq", "≈", Role::Relation},
     {"ll", "≪", Role::Relation},
     {"gg", "≫", Role::Relation},
+    {"equiv", "≡", Role::Relation},
+    {"sim", "∼", Role::Relation},
     {"to", "→", Role::Relation},
     {"rightarrow", "→", Role::Relation},
     {"Rightarrow", "⇒", Role::Relation},
+    {"Leftrightarrow", "⇔", Role::Relation},
     {"propto", "∝", Role::Relation},
     {"parallel", "∥", Role::Relation},
     {"perp", "⊥", Role::Relation},
@@ -86,6 +89,7 @@ constexpr Command kCommands[] = {
     {"rbrace", "}", Role::Closing},
     {"{", "{", Role::Opening},
     {"}", "}", Role::Closing},
+    {"|", "‖"},
     {"%", "%"},
     {"#", "#"},
     {"_", "_"},
@@ -129,6 +133,7 @@ Role roleOf(char32_t c) {
     case U'≈':
     case U'≠':
     case U'→':
+    case U':':
         return Role::Relation;
     case U'+':
     case U'−':
@@ -145,6 +150,9 @@ Role roleOf(char32_t c) {
         return Role::Closing;
     case U'/':
         return Role::Slash;
+    case U',':
+    case U';':
+        return Role::Separator;
     default:
         return Role::Ordinary;
     }

@@ -189,6 +189,8 @@ private:
     }
 
     void questionLink(const Inline& element, const Style& style) {
+        if (!element.title.isEmpty())
+            fault(element.at, u"dans une question, un lien et une réponse n’ont pas de bulle");
         if (isAnswer(element.target))
             return answerField(element, style);
         const auto target = readTarget(element.target, element.at, texts_.faults);

@@ -23,6 +23,7 @@ struct Texts {
     std::optional<TypedAnswer> answer = {}; ///< of a question, once its field was met
     int questionLinks = 0;                  ///< links of a question, which may have one
     int pictureLinks = 0;                   ///< picture links of a page so far
+    std::vector<Description> descriptions = {};
 };
 
 /// Flattens inline elements and composes them as French. `strongInk` is the ink of what is strong;

@@ -1,6 +1,9 @@
 #include "authoring/layout.h"
 
+#include "page/twips.h"
+
 #include <algorithm>
+#include <cmath>
 
 namespace authoring {
 
@@ -17,6 +20,7 @@ constexpr int kBulletLeft = 8;
 constexpr int kBulletText = 22;
 constexpr int kNumberText = 30;
 constexpr int kMarginBulletText = 10;
+constexpr int kNumberGap = 6; ///< at least, behind a number
 
 /// Where the text after a symbol that opens a paragraph stands, in pixels.
 constexpr int kSymbolText = 26;
@@ -109,6 +113,8 @@ void Layout::heading(const Block& block) {
         skip("0.2");
     leave(title ? Flow::Title : Flow::Heading, place_ == Place::Main ? "0.8" : "0.5");
     const InlineText text = flatten(block.inlines, style, texts_);
+    if (text.atoms.empty())
+        fault(block.at, u"ce titre n’a pas de texte");
     writeLines(writer_, breakLines(text, column_.width(), texts_.ruler, texts_.faults), column_,
                Placed::Left, style);
     if (place_ == Place::Main)
@@ -176,7 +182,7 @@ void Layout::hanging(const std::vector<Inline>& inlines) {
 
 void Layout::list(const Block& list) {
     const bool narrow = place_ == Place::Margin;
-    const int indent = narrow ? kMarginBulletText : list.ordered ? kNumberText : kBulletText;
+    const int indent = list.ordered ? numberIndent(list) : narrow ? kMarginBulletText : kBulletText;
     leave(Flow::Item, listDepth_ == 0 ? "0.3" : "0.1");
     ++listDepth_;
     int number = list.level;
@@ -186,13 +192,24 @@ void Layout::list(const Block& list) {
         if (&item != &list.children.front() && !list.tight)
             skip("0.3");
         this->item(item,
-                   list.ordered      ? QString::number(number++) + u'.'
+                   list.ordered      ? QString::number(number++) + QLatin1Char(list.delimiter)
                    : listDepth_ == 1 ? QStringLiteral("•")
                                      : QStringLiteral("–"),
                    indent);
     }
     --listDepth_;
     flow_ = Flow::Item;
+}
+
+/// The text stands behind the widest number.
+int Layout::numberIndent(const Block& list) const {
+    const bool narrow = place_ == Place::Margin;
+    const auto last = list.level + static_cast<int>(list.children.size()) - 1;
+    const double width =
+        texts_.ruler.width(style_, QString::number(last) + QLatin1Char(list.delimiter));
+    const int number = static_cast<int>(std::ceil(width / page::kTwipsPerPixel)) + kNumberGap;
+    return narrow ? std::max(kMarginBulletText, number)
+                  : std::max(kNumberText, kBulletLeft + number);
 }
 
 void Layout::item(const Block& item, const QString& bullet, int indent) {

@@ -41,10 +41,14 @@ private:
     void text(const std::vector<Inline>& inlines, const Label* label = nullptr);
     void hanging(const std::vector<Inline>& inlines);
     void displayFormula(const Inline& formula, bool framed);
+    void severalLines(const std::vector<TextLine>& lines, bool framed);
+    void frameOfFormula(int width, int inside, int pad);
     void picture(const Inline& picture);
+    void describe(const Inline& picture, const QString& file);
     void menu(const Inline& menu, const Block* entries);
     QStringList menuEntries(const Inline& menu, const Block* entries);
     void list(const Block& list);
+    int numberIndent(const Block& list) const;
     void item(const Block& item, const QString& bullet, int indent);
     void quote(const Block& block);
     void code(const Block& block);

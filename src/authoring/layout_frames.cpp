@@ -85,6 +85,8 @@ void Layout::quote(const Block& block) {
                              inside.front().inlines.front().kind == Inline::Kind::DisplayFormula;
     if (onlyFormula && inFlow() && listDepth_ == 0)
         return displayFormula(inside.front().inlines.front(), true);
+    if (inside.empty())
+        fault(block.at, u"ce cadre est vide");
     const QuoteForm form = quoteForm(block);
     if (form.kind != QuoteKind::Frame)
         return fault(block.at, u"la marge et le bandeau s’écrivent au premier niveau d’une page");

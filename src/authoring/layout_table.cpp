@@ -12,6 +12,8 @@ namespace {
 constexpr int kCellMargin = 8;
 constexpr int kAboveText = 3;
 constexpr int kBelowText = 1;
+/// As below a frame.
+constexpr int kBelowTable = 4;
 /// A cell's number has two places, and the renderer a table of thirty edges.
 constexpr std::size_t kMostColumns = 30;
 
@@ -130,6 +132,7 @@ void Layout::table(const Block& block) {
         writer_.style(style_);
         writer_.directive(row.heading ? QStringLiteral("##FINTAC04") : QStringLiteral("##FINTAB"));
     }
+    writer_.movePenY(kBelowTable);
 }
 
 } // namespace authoring

@@ -25,6 +25,8 @@ constexpr int kAroundFormula = 3;
 
 constexpr int kAbovePicture = 6;
 constexpr int kCaptionPoints = 10;
+/// A screen reader says no more of one.
+constexpr qsizetype kLongestDescription = 500;
 /// Menus that a page can fill: the first pictures with links.
 constexpr int kLastMenu = 20;
 constexpr qsizetype kMenuEntries = 10;
@@ -66,28 +68,21 @@ void Layout::displayFormula(const Inline& formula, bool framed) {
     setFormula(readFormula(source), source, style, texts_.ruler, text);
     if (text.atoms.empty())
         return fault(formula.at, u"cette formule est vide");
-    const std::vector<TextLine> lines =
-        breakLines(text, column_.width(), texts_.ruler, texts_.faults);
-    const TextLine& line = lines.front();
+    const int room = column_.width() - (framed ? 2 * kFormulaSides : 0);
+    const std::vector<TextLine> lines = breakLines(text, room, texts_.ruler, texts_.faults);
     leave(Flow::Wide, framed ? "0.1" : "0.2");
     writer_.comesFrom(formula.at);
     writer_.style(style_);
     if (lines.size() > 1)
-        return writeLines(writer_, lines, column_, Placed::Centre, style_);
-    const int width = pixels(line.width);
+        return severalLines(lines, framed);
+    const TextLine& line = lines.front();
     const int pad =
         kFormulaPad + std::max({line.rise - kFormulaSlack, line.drop - kFormulaSlack, 0});
-    writer_.movePenY(framed ? kAbovePicture : kAroundFormula + line.rise);
-    if (framed) {
-        Style ink = style_;
-        ink.ink = kTitleInk;
-        writer_.style(ink);
-        writer_.penX(column_.left + std::max(0, (column_.width() - width) / 2 - kFormulaSides));
-        writer_.directive(QStringLiteral("##LARGEUR") +
-                          threeDigits(std::min(column_.width(), width + 2 * kFormulaSides)));
-        writer_.directive(QStringLiteral("##RECT") + threeDigits(2 * pad + kFormulaLine));
-        writer_.movePenY(pad);
-    }
+    const int width = pixels(line.width);
+    if (framed)
+        frameOfFormula(width, kFormulaLine, pad);
+    else
+        writer_.movePenY(kAroundFormula + line.rise);
     writer_.penX(column_.left + std::max(0, (column_.width() - width) / 2));
     for (const Piece& piece : line.pieces)
         writer_.piece(piece);
@@ -97,6 +92,40 @@ void Layout::displayFormula(const Inline& formula, bool framed) {
     writer_.penX(column_.penLeft);
 }
 
+/// The house's blue frame around `inside` pixels of lines; the pen goes to the first of them.
+void Layout::frameOfFormula(int width, int inside, int pad) {
+    writer_.movePenY(kAbovePicture);
+    Style ink = style_;
+    ink.ink = kTitleInk;
+    writer_.style(ink);
+    writer_.penX(column_.left + std::max(0, (column_.width() - width) / 2 - kFormulaSides));
+    writer_.directive(QStringLiteral("##LARGEUR") +
+                      threeDigits(std::min(column_.width(), width + 2 * kFormulaSides)));
+    writer_.directive(QStringLiteral("##RECT") + threeDigits(2 * pad + inside));
+    writer_.movePenY(pad);
+}
+
+/// A formula that is wider than the column.
+void Layout::severalLines(const std::vector<TextLine>& lines, bool framed) {
+    int inside = 0;
+    double widest = 0;
+    for (const TextLine& line : lines) {
+        inside += kFormulaLine + std::max(0, line.rise - kFormulaSlack) +
+                  std::max(0, line.drop - kFormulaSlack);
+        widest = std::max(widest, line.width);
+    }
+    if (framed)
+        frameOfFormula(pixels(widest), inside, kFormulaPad);
+    else
+        writer_.movePenY(kAroundFormula);
+    writer_.style(style_);
+    // The frame leaves the pen at its left edge.
+    Column anywhere = column_;
+    anywhere.penLeft = -1;
+    writeLines(writer_, lines, framed ? anywhere : column_, Placed::Centre, style_);
+    writer_.movePenY(framed ? kFormulaPad + kBelowFormula : kAroundFormula);
+}
+
 void Layout::picture(const Inline& picture) {
     if (picture.target.endsWith(QStringLiteral(".avi"), Qt::CaseInsensitive))
         return; // the page's film, named at its head
@@ -104,8 +133,10 @@ void Layout::picture(const Inline& picture) {
     if (name.file.isEmpty() || name.wrong)
         return fault(picture.at, u"une image se nomme par son fichier, puis, pour l’étirer, sa "
                                  u"taille en pixels : figure.svg#300x200");
-    if (!picture.title.isEmpty())
-        fault(picture.at, u"une image n’a pas de bulle : sa légende se met entre les crochets");
+    for (const char* ending : {".mp4", ".mov", ".mpg", ".mpeg", ".wmv", ".mkv", ".webm"})
+        if (name.file.endsWith(QLatin1String(ending), Qt::CaseInsensitive))
+            fault(picture.at, u"un film est un fichier AVI : le convertir");
+    describe(picture, name.file);
     leave(Flow::Wide, "0.2");
     writer_.comesFrom(picture.at);
     writer_.style(style_);
@@ -130,6 +161,20 @@ void Layout::picture(const Inline& picture) {
                Placed::Centre, small);
 }
 
+/// The words in quotes behind a picture's file.
+void Layout::describe(const Inline& picture, const QString& file) {
+    if (picture.title.isEmpty())
+        return;
+    const Inline title{Inline::Kind::Text, picture.at, picture.title, {}, {}};
+    const QString words = captionOf({title}, texts_).simplified();
+    if (words.size() > kLongestDescription)
+        fault(picture.at, u"une description d’image a cinq cents caractères au plus");
+    const Fault place = texts_.faults.place(picture.at);
+    const qsizetype folder = std::max(file.lastIndexOf(u'/'), file.lastIndexOf(u'\\'));
+    texts_.descriptions.push_back(
+        {file.mid(folder + 1).toStdString(), words.toStdString(), place.line, place.column});
+}
+
 QStringList Layout::menuEntries(const Inline& menu, const Block* entries) {
     QStringList lines;
     if (!entries || entries->kind != Block::Kind::List) {
@@ -146,6 +191,8 @@ QStringList Layout::menuEntries(const Inline& menu, const Block* entries) {
             continue;
         }
         const Inline& link = inlines->front();
+        if (!link.title.isEmpty())
+            fault(link.at, u"un choix de menu n’a pas de bulle");
         const QString caption = captionOf(link.children, texts_);
         if (const auto target = readTarget(link.target, link.at, texts_.faults))
             lines.append(QStringLiteral("##ADMEN") + caption + u'#' + target->code());
@@ -157,6 +204,8 @@ QStringList Layout::menuEntries(const Inline& menu, const Block* entries) {
 
 void Layout::menu(const Inline& menu, const Block* entries) {
     const auto key = readKey(menu.target, u"menu:", menu.at, texts_.faults);
+    if (!menu.title.isEmpty())
+        fault(menu.at, u"un menu n’a pas de bulle : son titre se met entre les crochets");
     Label label{column_.left, {}};
     label.box = symbolBox(QStringLiteral("##LIERF") + key.value_or(QStringLiteral("ME")), style_);
     const QStringList lines = menuEntries(menu, entries);

@@ -41,7 +41,7 @@ public:
         if (!band_.empty() || !margin_.empty())
             writer_.directive(QStringLiteral("##OBJPRINCIPAL"));
         layOut(kMainSpacing, Place::Main, kMainColumn, {kMainPoints}, main_);
-        return {writer_.text(), faults_.sorted()};
+        return {writer_.text(), std::move(texts_.descriptions), faults_.sorted()};
     }
 
 private:

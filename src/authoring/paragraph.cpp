@@ -192,10 +192,12 @@ int placedX(const TextLine& line, const Column& column, Placed placed) {
 
 void writeLines(Writer& writer, const std::vector<TextLine>& lines, const Column& column,
                 Placed placed, const Style& style, const Label* label) {
+    int above = 0; // of the room between two lines, what the upper one has taken
     for (const TextLine& line : lines) {
         writer.comesFrom(line.at);
         const int x = placedX(line, column, placed);
-        writer.movePenY(std::max(0, line.rise - kSlack));
+        writer.movePenY(std::max(0, line.rise - kSlack + std::min(above, kSlack)));
+        above = line.drop;
         if (label) {
             writer.penX(label->x);
             for (const Piece& piece : label->box.pieces)

@@ -37,6 +37,8 @@ public:
     void add(std::size_t offset, std::string sentence);
     void add(std::size_t offset, const QString& sentence);
     bool any() const { return !faults_.empty(); }
+    /// Line and column of an offset; there need be nothing wrong there.
+    Fault place(std::size_t offset) const { return positions_.fault(offset, {}); }
     /// In the order of the source.
     std::vector<Fault> sorted() const;
 

@@ -26,6 +26,12 @@ bool isChoices(const Block& block) {
                        [](const Block& item) { return item.task != Block::Task::None; });
 }
 
+/// The heading itself is seen nowhere.
+bool isCommentHeading(const Block& block) {
+    QString words = plainText(block.inlines).simplified().toLower();
+    return words.replace(QChar(0x2019), u'\'') == u"si c'est faux";
+}
+
 bool isLinkAlone(const Block& block) {
     return block.kind == Block::Kind::Paragraph && block.inlines.size() == 1 &&
            block.inlines.front().kind == Inline::Kind::Link;
@@ -47,8 +53,14 @@ public:
         findChoices(asked, askedType, compiled);
         compiled.question = questionText(asked, compiled.type);
         finishAnswer(askedType, compiled);
+        if (comment != document_.children.end() && !isCommentHeading(*comment))
+            fault(comment->at,
+                  "ce titre ne se verrait pas : « ## Si c’est faux » annonce ce qui se "
+                  "montre après une réponse fausse, et une question n’a pas d’autre "
+                  "titre ##");
         if (comment != document_.children.end())
             compiled.siFaux = commentText({comment + 1, document_.children.end()});
+        compiled.descriptions = std::move(texts_.descriptions);
         compiled.faults = faults_.sorted();
         if (!compiled.faults.empty())
             compiled.type = 0;

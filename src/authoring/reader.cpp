@@ -1,6 +1,8 @@
 #include "authoring/reader.h"
 
+#include "authoring/coverage.h"
 #include "authoring/entities.h"
+#include "authoring/foreign_marks.h"
 
 #include <md4c.h>
 
@@ -29,10 +31,12 @@ QString fromAttribute(const MD_ATTRIBUTE& attribute) {
 class Reader {
 public:
     Reader(std::string_view source, Faults& faults)
-        : source_(source), faults_(faults), read_(source.size(), false) {}
+        : source_(source), faults_(faults), coverage_(source) {}
 
     Block read() {
         open_.push_back({});
+        if (const std::size_t feed = source_.find('\f'); feed != source_.npos)
+            namePageBreak("page break", feed, faults_);
         MD_PARSER parser{};
         parser.flags = kFlags;
         parser.enter_block = [](MD_BLOCKTYPE type, void* detail, void* self) {
@@ -44,8 +48,8 @@ public:
         parser.enter_span = [](MD_SPANTYPE type, void* detail, void* self) {
             return static_cast<Reader*>(self)->enterSpan(type, detail);
         };
-        parser.leave_span = [](MD_SPANTYPE, void*, void* self) {
-            return static_cast<Reader*>(self)->leaveSpan();
+        parser.leave_span = [](MD_SPANTYPE type, void*, void* self) {
+            return static_cast<Reader*>(self)->leaveSpan(type);
         };
         parser.text = [](MD_TEXTTYPE type, const MD_CHAR* text, MD_SIZE size, void* self) {
             return static_cast<Reader*>(self)->text(type, text, size);
@@ -55,7 +59,7 @@ public:
                 faults_.add(last_, std::string("cette page ne peut pas être lue : la simplifier"));
             return {};
         }
-        nameUnread();
+        coverage_.nameUnread(faults_);
         return std::move(open_.front());
     }
 
@@ -90,6 +94,7 @@ private:
             block.ordered = true;
             block.tight = static_cast<MD_BLOCK_OL_DETAIL*>(detail)->is_tight != 0;
             block.level = static_cast<int>(static_cast<MD_BLOCK_OL_DETAIL*>(detail)->start);
+            block.delimiter = static_cast<MD_BLOCK_OL_DETAIL*>(detail)->mark_delimiter;
             break;
         case MD_BLOCK_LI:
             describeItem(block, *static_cast<MD_BLOCK_LI_DETAIL*>(detail));
@@ -126,7 +131,7 @@ private:
             return;
         block.task = item.task_mark == ' ' ? Block::Task::Open : Block::Task::Ticked;
         block.at = item.task_mark_offset;
-        read_[item.task_mark_offset] = true;
+        coverage_.mark(item.task_mark_offset, 1);
     }
 
     static Alignment alignmentOf(MD_ALIGN align) {
@@ -136,59 +141,57 @@ private:
     }
 
     int leaveBlock(MD_BLOCKTYPE type) {
+        if (!spans_.empty())
+            return entangled();
         if (type == MD_BLOCK_DOC || type == MD_BLOCK_THEAD || type == MD_BLOCK_TBODY)
             return kGoOn;
         closeImplicit();
+        if (type == MD_BLOCK_CODE && !open_.back().lines.empty())
+            nameOpenFence(source_, open_.back(), last_, faults_);
         pop();
         return kGoOn;
     }
 
+    static Inline::Kind kindOf(MD_SPANTYPE type) {
+        using Kind = Inline::Kind;
+        return type == MD_SPAN_STRONG              ? Kind::Strong
+               : type == MD_SPAN_CODE              ? Kind::Code
+               : type == MD_SPAN_LATEXMATH         ? Kind::Formula
+               : type == MD_SPAN_LATEXMATH_DISPLAY ? Kind::DisplayFormula
+               : type == MD_SPAN_A                 ? Kind::Link
+               : type == MD_SPAN_IMG               ? Kind::Picture
+                                                   : Kind::Emphasis;
+    }
+
     int enterSpan(MD_SPANTYPE type, void* detail) {
         Inline span;
+        span.kind = kindOf(type);
         span.at = kUnknown;
-        switch (type) {
-        case MD_SPAN_STRONG:
-            span.kind = Inline::Kind::Strong;
-            break;
-        case MD_SPAN_CODE:
-            span.kind = Inline::Kind::Code;
-            break;
-        case MD_SPAN_LATEXMATH:
-            span.kind = Inline::Kind::Formula;
-            break;
-        case MD_SPAN_LATEXMATH_DISPLAY:
-            span.kind = Inline::Kind::DisplayFormula;
-            break;
-        case MD_SPAN_A:
-            takeTarget(span, Inline::Kind::Link, static_cast<MD_SPAN_A_DETAIL*>(detail)->href,
+        if (type == MD_SPAN_A)
+            takeTarget(span, static_cast<MD_SPAN_A_DETAIL*>(detail)->href,
                        static_cast<MD_SPAN_A_DETAIL*>(detail)->title);
-            break;
-        case MD_SPAN_IMG:
-            takeTarget(span, Inline::Kind::Picture, static_cast<MD_SPAN_IMG_DETAIL*>(detail)->src,
+        else if (type == MD_SPAN_IMG)
+            takeTarget(span, static_cast<MD_SPAN_IMG_DETAIL*>(detail)->src,
                        static_cast<MD_SPAN_IMG_DETAIL*>(detail)->title);
-            break;
-        default:
-            span.kind = Inline::Kind::Emphasis;
-        }
         openImplicit();
         spans_.push_back(std::move(span));
         return deep() ? tooDeep() : kGoOn;
     }
 
     /// A target may be all that a picture has; its own place is the best there is then.
-    void takeTarget(Inline& span, Inline::Kind kind, const MD_ATTRIBUTE& target,
-                    const MD_ATTRIBUTE& title) {
-        span.kind = kind;
+    void takeTarget(Inline& span, const MD_ATTRIBUTE& target, const MD_ATTRIBUTE& title) {
         span.target = fromAttribute(target);
         span.title = fromAttribute(title);
         mark(target);
         mark(title);
         const std::size_t offset = offsetOf(target.text);
-        if (kind == Inline::Kind::Picture && offset != kUnknown)
+        if (span.kind == Inline::Kind::Picture && offset != kUnknown)
             seen(offset);
     }
 
-    int leaveSpan() {
+    int leaveSpan(MD_SPANTYPE type) {
+        if (spans_.empty() || spans_.back().kind != kindOf(type))
+            return entangled();
         Inline span = std::move(spans_.back());
         spans_.pop_back();
         if (span.at == kUnknown)
@@ -200,7 +203,11 @@ private:
     int text(MD_TEXTTYPE type, const MD_CHAR* text, MD_SIZE size) {
         if (const std::size_t offset = offsetOf(text); offset != kUnknown) {
             seen(offset);
-            mark(offset, size);
+            coverage_.mark(offset, size);
+            if (type == MD_TEXT_NORMAL)
+                nameForeignMarks(source_, offset, size, faults_);
+            else if (type == MD_TEXT_HTML)
+                namePageBreak(source_.substr(offset, size), offset, faults_);
         }
         if (type == MD_TEXT_HTML || open_.back().kind == Block::Kind::Code)
             return rawText(type, text, size);
@@ -240,10 +247,11 @@ private:
             return kGoOn;
         }
         std::vector<CodeLine>& lines = open_.back().lines;
-        const bool fresh = lines.empty() || lineEnded_;
-        lineEnded_ = raw.endsWith(u'\n');
-        if (fresh)
+        if (lines.empty() || lineEnded_)
             lines.push_back({last_, {}});
+        else if (lines.back().text.trimmed().isEmpty())
+            lines.back().at = last_; // md4c makes the blanks before it itself
+        lineEnded_ = raw.endsWith(u'\n');
         lines.back().text += lineEnded_ ? raw.chopped(1) : raw;
         return kGoOn;
     }
@@ -301,6 +309,14 @@ private:
         open_.back().children.push_back(std::move(block));
     }
 
+    /// md4c pairs signs within targets with signs outside, and then leaves what it never entered.
+    int entangled() {
+        faults_.add(last_,
+                    std::string("des signes de ce paragraphe s’emmêlent : dans la cible d’un "
+                                "lien, « [ », « * » ou « ` » se font précéder de « \\ »"));
+        return kStop;
+    }
+
     bool deep() const { return open_.size() + spans_.size() > kMaxDepth; }
     int tooDeep() {
         faults_.add(last_, std::string("trop de listes, de cadres ou de styles les uns dans les "
@@ -308,41 +324,14 @@ private:
         return kStop;
     }
 
-    void mark(std::size_t offset, std::size_t size) {
-        const std::size_t end = std::min(offset + size, source_.size());
-        std::fill(read_.begin() + static_cast<std::ptrdiff_t>(offset),
-                  read_.begin() + static_cast<std::ptrdiff_t>(end), true);
-    }
-
     /// One with escapes in it was made anew by md4c; all of its line counts as read then.
     void mark(const MD_ATTRIBUTE& attribute) {
         const std::size_t offset = offsetOf(attribute.text);
         if (offset != kUnknown)
-            return mark(offset, attribute.size);
+            return coverage_.mark(offset, attribute.size);
         if (attribute.size > 0) {
             const std::size_t end = std::min(source_.find('\n', last_), source_.size());
-            mark(last_, end - last_);
-        }
-    }
-
-    /// Cells beyond the last column, definitions of links and words after the opening of a listing
-    /// are passed over by Markdown's own rules. Nobody would miss them before the page is read.
-    void nameUnread() {
-        const auto isLetter = [](char c) {
-            return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c & 0x80) != 0;
-        };
-        for (std::size_t i = 0; i < source_.size(); ++i) {
-            if (read_[i] || !isLetter(source_[i]))
-                continue;
-            std::size_t end = i;
-            while (end < source_.size() && !read_[end] && isLetter(source_[end]))
-                ++end;
-            faults_.add(i, "« " + fromUtf8(source_.data() + i, end - i) +
-                               " » ne serait nulle part sur la page : une cellule de trop, une "
-                               "définition de lien, des mots après ``` ?");
-            i = source_.find('\n', i);
-            if (i == std::string_view::npos)
-                return;
+            coverage_.mark(last_, end - last_);
         }
     }
 
@@ -370,7 +359,7 @@ private:
     std::vector<Block> open_;
     std::vector<Inline> spans_;
     std::size_t last_ = 0;
-    std::vector<bool> read_; ///< by byte: whether it came to us
+    Coverage coverage_;
     bool implicit_ = false;
     bool inHead_ = false;
     bool lineEnded_ = true;

@@ -17,6 +17,11 @@ constexpr std::u32string_view kTied = U";:!?»%‰…)]}";
 /// Operators: they too, when a blank stands on either side.
 constexpr std::u32string_view kOperators = U"=+−-×÷·<>≈≠≤≥±→⇌/";
 
+/// What word processors put between letters to part words or hold them together; nobody sees it.
+constexpr std::u32string_view kUnseen = U"\u00AD\u200B\u200C\u200D\u2060\uFEFF";
+/// The narrow blanks of typeset French, which the faces of a page do not have.
+constexpr std::u32string_view kNarrowBlanks = U"\u202F\u2009\u2007\u2008\u200A";
+
 /// Symbols of units after a number. A word that only begins like one is none.
 constexpr std::array kUnits = {
     U"m",  U"km",  U"hm", U"dm",  U"cm",  U"mm",  U"µm",  U"μm",  U"nm", U"pm",  U"g",    U"kg",
@@ -87,6 +92,10 @@ private:
         std::vector<Atom> kept;
         kept.reserve(atoms_.size());
         for (Atom& atom : atoms_) {
+            if (atom.kind == Atom::Kind::Character && isOneOf(atom.character, kUnseen))
+                continue;
+            if (atom.kind == Atom::Kind::Character && isOneOf(atom.character, kNarrowBlanks))
+                atom.character = kNoBreak;
             if (atom.kind == Atom::Kind::Character &&
                 (atom.character < 0x20 || (atom.character >= 0x7F && atom.character < 0xA0)))
                 atom.character = U' ';

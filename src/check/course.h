@@ -2,6 +2,7 @@
 
 #include "check/source.h"
 #include "coursetool/front_matter.h"
+#include "coursetool/picture_descriptions.h"
 #include "coursetool/tables.h"
 #include "markup/picture_source.h"
 #include "page/text_metrics.h"
@@ -70,6 +71,7 @@ struct Course {
     std::vector<Record> tests;
     std::vector<Question> questions;
     std::set<std::string> ignored; ///< codes that the whole course silences
+    coursetool::PictureDescriptions descriptions;
 
     // What pages are drawn with.
     const page::TextMetrics* metrics = nullptr;

@@ -7,11 +7,9 @@
 #include "platform/file_names.h"
 #include "viewer/video_menu.h"
 
-#include <QFile>
 #include <QFileInfo>
-#include <QXmlStreamReader>
 
-#include <map>
+#include <set>
 
 namespace check {
 
@@ -62,24 +60,24 @@ void forEachVideo(const Course& course, Visit visit) {
     });
 }
 
-/// What a drawing says of itself to those who do not see it: the title of an SVG file.
-bool hasTitle(const QString& path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return true; // another rule's business
-    QXmlStreamReader xml(&file);
-    if (!xml.readNextStartElement())
-        return true;
-    while (xml.readNextStartElement()) {
-        if (xml.name() == u"title")
-            return !xml.readElementText(QXmlStreamReader::SkipChildElements).trimmed().isEmpty();
-        xml.skipCurrentElement();
-    }
-    return xml.hasError();
-}
-
 bool isDrawing(const QString& path) {
     return path.endsWith(QStringLiteral(".svg"), Qt::CaseInsensitive);
+}
+
+/// Calls `visit` once for each drawing, or each other picture, that shows and that nobody
+/// describes.
+template <class Visit>
+void forEachWordless(const Course& course, bool drawings, Visit visit) {
+    std::set<QString> known;
+    forEachPicture(
+        course, [&](const Source& source, const Line& line, QStringView name, const QString& path) {
+            if (path.isEmpty() || isDrawing(path) != drawings || !known.insert(path).second ||
+                !course.descriptions.of(QFileInfo(path).fileName().toStdString()).empty())
+                return;
+            const auto picture = course.pictures->load(path);
+            if (picture && picture->description().isEmpty())
+                visit(source, line, name);
+        });
 }
 
 } // namespace
@@ -154,17 +152,19 @@ void unreadablePicture(const Course& course, Findings& findings) {
         });
 }
 
+void drawingWithoutWords(const Course& course, Findings& findings) {
+    forEachWordless(course, true, [&](const Source& source, const Line& line, QStringView name) {
+        findings.add(source, line.number,
+                     "le dessin " + quoted(name) +
+                         " n’a pas d’élément <title> : rien ne le décrit à qui ne le voit pas");
+    });
+}
+
 void pictureWithoutWords(const Course& course, Findings& findings) {
-    std::map<QString, bool> told;
-    forEachPicture(course, [&](const Source& source, const Line& line, QStringView name,
-                               const QString& path) {
-        if (path.isEmpty() || !isDrawing(path) || told.contains(path))
-            return;
-        told[path] = true;
-        if (!hasTitle(path))
-            findings.add(source, line.number,
-                         "le dessin " + quoted(name) +
-                             " n’a pas d’élément <title> : rien ne le décrit à qui ne le voit pas");
+    forEachWordless(course, false, [&](const Source& source, const Line& line, QStringView name) {
+        findings.add(source, line.number,
+                     "rien ne décrit l’image " + quoted(name) +
+                         " à qui ne la voit pas : une ligne de descriptions.txt le ferait");
     });
 }
 

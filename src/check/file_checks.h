@@ -11,6 +11,7 @@ void missingVideo(const Course& course, Findings& findings);
 void fileNameInOtherCase(const Course& course, Findings& findings);
 void unknownSymbol(const Course& course, Findings& findings);
 void unreadablePicture(const Course& course, Findings& findings);
+void drawingWithoutWords(const Course& course, Findings& findings);
 void pictureWithoutWords(const Course& course, Findings& findings);
 
 } // namespace check

@@ -101,6 +101,7 @@ public:
 
     Course read() {
         course_.ignored = ignoredInCourse(course_.root, report_);
+        course_.descriptions.read(course_.filesFolder, report_);
         readPages();
         readExercises();
         course_.indexPages();
@@ -138,6 +139,7 @@ private:
         auto compiled = coursetool::compileMarkdownPage(path, compiler_, report_);
         if (!compiled)
             return;
+        course_.descriptions.take(compiled->descriptions, path, report_);
         Page page;
         if (compiled->text)
             page.source = compiledSource(Source::Kind::Page, *compiled->text, shown(path));
@@ -150,6 +152,7 @@ private:
         auto compiled = coursetool::compileMarkdownQuestion(path, compiler_, report_);
         if (!compiled)
             return;
+        course_.descriptions.take(compiled->descriptions, path, report_);
         Question question;
         if (compiled->text)
             question.source = compiledSource(Source::Kind::Question, *compiled->text, shown(path));
@@ -263,6 +266,7 @@ public:
 
     Course read() {
         course_.ignored = ignoredInCourse(course_.root, report_);
+        course_.descriptions.read(course_.filesFolder, report_);
         const fs::path cours = findIn(course_.root, coursetool::kCourseFile);
         course_.pagesPlace = shown(cours);
         forEachRecord(cours, coursetool::coursTable(), "page ",

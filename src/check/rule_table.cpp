@@ -218,7 +218,12 @@ std::span<const Rule> ruleTable() {
          "Le fichier n’est ni BMP, ni GIF, ni JPEG, ni PNG, ni SVG, ou il est abîmé ou trop grand.",
          unreadablePicture},
         {"F606", "dessin-sans-description", Advice, "dessin sans description",
-         "L’élément <title> d’un dessin SVG dit ce qu’il montre à qui ne le voit pas.",
+         "L’élément <title> d’un dessin SVG dit ce qu’il montre à qui ne le voit pas ; sinon, une "
+         "ligne de files/descriptions.txt.",
+         drawingWithoutWords},
+        {"F607", "image-sans-description", Advice, "image sans description",
+         "Ce que montre une photo, et qu’un lecteur d’écran dira, s’écrit entre guillemets après "
+         "son nom dans le Markdown, ou dans files/descriptions.txt, une ligne par image.",
          pictureWithoutWords},
         {"Q701", "type-inconnu", Fault, "type de question inconnu",
          "Le type est 1 (cases à cocher), 2 (un seul choix) ou 3 (réponse tapée).",

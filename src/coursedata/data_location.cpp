@@ -25,10 +25,14 @@ QString DataLocation::locatePicture(const QString& name) {
     if (isBlank(name))
         return name;
     const QString fileName = platform::lastComponent(name);
-    if (const auto installed = platform::findWithoutCase(directories_.InstallDir, fileName))
+    if (const auto installed = findInstalled(fileName))
         return *installed;
     // The directory is kept but never read, and every picture searches all drives again: meant so.
     return searchDrives(kPictureFolder, fileName, directories_.PictureDataDir);
+}
+
+std::optional<QString> DataLocation::findInstalled(const QString& fileName) const {
+    return platform::findWithoutCase(directories_.InstallDir, fileName);
 }
 
 QString DataLocation::locateVideo(const QString& name) {

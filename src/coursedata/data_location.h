@@ -35,6 +35,9 @@ public:
     /// The same for a video, on the drives only; leaves DataDirectories::VideoDataDir.
     QString locateVideo(const QString& name);
 
+    /// The path of a file in the installation directory; nothing when it has none of that name.
+    std::optional<QString> findInstalled(const QString& fileName) const;
+
     /// The path of a video in DataDirectories::VideoDataDir, where the last one was found. Nothing
     /// is asked.
     std::optional<QString> findBesideLastVideo(const QString& name);

@@ -5,6 +5,7 @@
 #include "coursetool/source_text.h"
 #include "coursetool/tables.h"
 #include "files/cause.h"
+#include "files/whole_file.h"
 #include "text/utf8.h"
 
 namespace coursetool {
@@ -38,7 +39,7 @@ Place placeOf(const Fields& fields, const fs::path& file) {
 
 CourseBuilder::CourseBuilder(const fs::path& source, StagedCourse& course, const fs::path& output,
                              const CompilerSource& compiler, Report& report)
-    : source_(source), course_(course), compiler_(compiler), report_(report),
+    : source_(source), output_(output), course_(course), compiler_(compiler), report_(report),
       courseDatabase_(course.pathFor(kCourseFile), shown(output / kCourseFile), report),
       exerciseDatabase_(course.pathFor(kExerciseFile), shown(output / kExerciseFile), report),
       cours_(courseDatabase_, coursTable(), report),
@@ -48,6 +49,7 @@ CourseBuilder::CourseBuilder(const fs::path& source, StagedCourse& course, const
       references_(contenuTable().fields.front()) {}
 
 void CourseBuilder::compilePages() {
+    descriptions_.read(source_ / kFilesFolder, report_);
     const fs::path folder = source_ / kPagesFolder;
     std::error_code error;
     if (!fs::is_directory(folder, error)) {
@@ -161,6 +163,7 @@ void CourseBuilder::compileMarkdownPage(const fs::path& file) {
     auto page = compiler ? coursetool::compileMarkdownPage(file, *compiler, report_) : std::nullopt;
     if (!page)
         return;
+    descriptions_.take(page->descriptions, file, report_);
     const Place place = placeOf(page->fields, file);
     page->fields.values.push_back(memo(sourceOf(page->text)));
     appendPage(std::move(page->fields), place);
@@ -172,6 +175,7 @@ void CourseBuilder::compileMarkdownQuestion(const fs::path& file) {
         compiler ? coursetool::compileMarkdownQuestion(file, *compiler, report_) : std::nullopt;
     if (!question)
         return;
+    descriptions_.take(question->descriptions, file, report_);
     Fields& fields = question->fields;
     const Place place = placeOf(fields, file);
     references_.take(fields.values.front(), place, report_);
@@ -246,6 +250,8 @@ void CourseBuilder::copyTree(const fs::path& from, const FileTree& tree, const f
     for (const fs::path& path : tree.directories)
         course_.addDirectory(to / path);
     for (const fs::path& path : tree.files) {
+        if (to.empty() && path == descriptions_.name())
+            continue; // written with what the pages add to it
         std::error_code error;
         fs::copy_file(from / path, course_.pathFor(to / path), error);
         if (error)
@@ -255,7 +261,20 @@ void CourseBuilder::copyTree(const fs::path& from, const FileTree& tree, const f
     }
 }
 
+void CourseBuilder::writeDescriptions() {
+    std::error_code error;
+    // One that the course had before would tell of other pictures.
+    if (descriptions_.isEmpty() && !fs::exists(output_ / descriptions_.name(), error))
+        return;
+    files::WholeFile file(course_.pathFor(descriptions_.name()));
+    file.write(descriptions_.file());
+    if (!file.putInPlace())
+        report_.failure(output_ / descriptions_.name(), files::kFileNotWritten, file.error());
+    course_.add(descriptions_.name());
+}
+
 void CourseBuilder::finishDatabases() {
+    writeDescriptions();
     exerciseDatabase_.finish();
     courseDatabase_.finish();
     // Last, so that whoever reads the new pages finds what they name.

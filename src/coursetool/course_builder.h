@@ -3,6 +3,7 @@
 #include "coursetool/file_list.h"
 #include "coursetool/front_matter.h"
 #include "coursetool/markdown_source.h"
+#include "coursetool/picture_descriptions.h"
 #include "coursetool/report.h"
 #include "coursetool/source_parts.h"
 #include "coursetool/staged_course.h"
@@ -43,8 +44,10 @@ private:
                     const NameTable& reserved);
     void copyTree(const std::filesystem::path& from, const FileTree& tree,
                   const std::filesystem::path& to);
+    void writeDescriptions();
 
     std::filesystem::path source_;
+    std::filesystem::path output_;
     StagedCourse& course_;
     CompilerSource compiler_;
     const authoring::Compiler* markdown_ = nullptr;
@@ -58,6 +61,7 @@ private:
     KeyPlaces pageNumbers_;
     KeyPlaces chapters_;
     KeyPlaces references_;
+    PictureDescriptions descriptions_;
     int numberWarnings_ = 0;
     FileTree files_;
     FileTree disc_;

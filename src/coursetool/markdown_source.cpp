@@ -40,6 +40,7 @@ compileMarkdownPage(const fs::path& file, const authoring::Compiler& compiler, R
         compiler.page(*parts->body, parts->bodyLine, title ? text::toUtf8(*title) : std::string());
     tell(page.faults, file, report);
     compiled.text = std::move(page.text);
+    compiled.descriptions = std::move(page.descriptions);
     return compiled;
 }
 
@@ -69,6 +70,7 @@ compileMarkdownQuestion(const fs::path& file, const authoring::Compiler& compile
     fields.values[kSolution] = std::move(solution.value);
     compiled.text = std::move(question.question);
     compiled.siFaux = std::move(question.siFaux);
+    compiled.descriptions = std::move(question.descriptions);
     return compiled;
 }
 

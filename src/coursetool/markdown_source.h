@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <functional>
 #include <optional>
+#include <vector>
 
 namespace coursetool {
 
@@ -28,6 +29,7 @@ struct CompiledSource {
     Fields fields;
     std::optional<authoring::CompiledText> text;   ///< fpc or question
     std::optional<authoring::CompiledText> siFaux; ///< of a question
+    std::vector<authoring::Description> descriptions;
 };
 
 /// Names every fault with its place in `file`; gives nothing when the file cannot be read at all.

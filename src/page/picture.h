@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QImage>
 #include <QSize>
+#include <QString>
 
 namespace page {
 
@@ -26,6 +27,9 @@ public:
 
     /// The file as it stands, for writers that carry it over whole.
     virtual const QByteArray& bytes() const = 0;
+
+    /// What it shows, in words, for who does not see it; empty when nobody has said it.
+    virtual QString description() const { return {}; }
 };
 
 } // namespace page

@@ -4,8 +4,8 @@
 
 namespace page {
 
-/// What a picture is called for who does not see it: the title that a drawing has inside, otherwise
-/// "Image" and the name of the file in words.
+/// What a picture is called for who does not see it: its description, otherwise "Image" and the
+/// name of the file in words.
 QString pictureTitle(const PictureOperation& picture);
 
 } // namespace page

@@ -1,3 +1,4 @@
+#include "authoring/drawn.h"
 #include "authoring/markdown.h"
 
 #include <gmock/gmock.h>
@@ -52,6 +53,7 @@ TEST(Corpus, printsEveryWord) {
         const QString shown = printed(page.text);
         for (const QString& word : wordsToPrint(body))
             EXPECT_TRUE(shown.contains(word)) << file << ' ' << word.toStdString();
+        EXPECT_EQ(lostLetters(body, shown), QString()) << file;
     }
 }
 
@@ -75,6 +77,8 @@ TEST(Corpus, tellsTheMarkdownLineOfEveryCompiledLine) {
     EXPECT_EQ(lineOf("Un"), 10);
     EXPECT_EQ(lineOf("Deux"), 12);
     EXPECT_EQ(lineOf("Trois"), 13);
+    const auto listing = compiler().page("```\na\n\n    b\n```\n", 10, {}).text;
+    EXPECT_EQ(listing.lineOf(static_cast<int>(listing.markdownLines.size()) - 3), 13);
     EXPECT_EQ(text.lineOf(0), 10);
     EXPECT_EQ(text.lineOf(9999), 13);
     EXPECT_EQ(authoring::CompiledText().lineOf(3), 1);
@@ -104,10 +108,19 @@ TEST(AuthorsCard, hasListingsThatCompile) {
     ASSERT_GE(questions.size(), 2u);
     for (const std::string& page : pages) {
         EXPECT_EQ(faultsOf(page), "") << page;
-        EXPECT_NE(compiled(page), "") << page;
+        const Drawn drawn(compiled(page));
+        EXPECT_EQ(drawn.failures(), "") << page;
+        EXPECT_GT(drawn.right(page::SurfaceId::PictureTexte) +
+                      drawn.right(page::SurfaceId::PictureIllus),
+                  0)
+            << page;
+        EXPECT_LE(drawn.right(page::SurfaceId::PictureTexte), 590) << page;
     }
-    for (const std::string& question : questions)
-        EXPECT_EQ(told(compiler().question(question, 1, {}).faults), "") << question;
+    for (const std::string& text : questions) {
+        const auto question = compiler().question(text, 1, {});
+        EXPECT_EQ(told(question.faults), "") << text;
+        EXPECT_EQ(Drawn(question.question.source).failures(), "") << text;
+    }
 }
 
 } // namespace

@@ -1,6 +1,5 @@
+#include "authoring/drawn.h"
 #include "authoring/markdown.h"
-#include "markup/draw_page.h"
-#include "support/fake_pictures.h"
 
 #include <gmock/gmock.h>
 
@@ -10,39 +9,6 @@ namespace {
 
 using testing::HasSubstr;
 using testing::Not;
-
-/// What the renderer draws of a compiled page.
-struct Drawn {
-    test_support::FakePictures pictures;
-    markup::DrawingState state;
-    markup::DrawnPage page;
-
-    explicit Drawn(const std::string& source) {
-        markup::drawPage({QString::fromStdString(source).replace(u'\n', QStringLiteral("\r\n"))},
-                         {state, pictures, fonts()}, page);
-    }
-
-    /// Right end of what is furthest right on a surface, in pixels.
-    double right(page::SurfaceId surface) const {
-        double furthest = 0;
-        for (const page::Operation& operation : page.recording.operations()) {
-            if (const auto* text = std::get_if<page::TextOperation>(&operation);
-                text && text->surface == surface)
-                furthest = std::max(furthest, text->x + text->width);
-            if (const auto* link = std::get_if<page::LinkOperation>(&operation);
-                link && link->surface == surface)
-                furthest = std::max(furthest, link->x + link->width);
-        }
-        return furthest / 15;
-    }
-    std::string failures() const {
-        std::string text;
-        for (const page::Operation& operation : page.recording.operations())
-            if (const auto* failed = std::get_if<page::FailedOperation>(&operation))
-                text += failed->directive.toStdString() + '\n';
-        return text;
-    }
-};
 
 /// Sentences of words of one to fourteen letters, in all styles.
 std::string randomText(std::mt19937& random, int words) {
@@ -156,6 +122,7 @@ TEST(Layout, writesWhatEachFormStandsFor) {
         {"a<br\n", {"a<br¶"}},
         {"| a |\n|---|\n| b |\n", {"##TAB000590 1\n", "##FINTAC04\n", "##FINTAB\n"}},
         {"1. un\n2. deux\n", {"##POX008\n1.\n##POX030\nun¶\n##POX008\n2.\n"}},
+        {"9) un\n10) deux\n", {"##POX008\n9)\n##POX038\nun¶\n##POX008\n10)\n##POX038\n"}},
         {"---\n", {"##C010\n##LARGEUR590\n##RECT000\n##C000\n"}},
         {"```python\nfor i in x:\n    y = 1\n```\n",
          {"for\u00A0i\u00A0in\u00A0x:¶", "##POX036\ny\u00A0=\u00A0"
@@ -167,6 +134,50 @@ TEST(Layout, writesWhatEachFormStandsFor) {
             EXPECT_THAT(compiled(row.markdown), HasSubstr(part)) << row.markdown;
     }
     EXPECT_THAT(compiled("<!-- note -->\n\nTexte\n"), Not(HasSubstr("note")));
+}
+
+TEST(Layout, handsOverWhatPicturesShow) {
+    const auto page = compiler().page(
+        "![](a/chute.png \"L'objet\ntombe.\")\n\n![Légende](b.svg#30x20 \"B\")\n\n![](c.svg)\n", 7,
+        {});
+    ASSERT_EQ(page.descriptions.size(), 2u);
+    EXPECT_EQ(page.descriptions[0].picture, "chute.png");
+    EXPECT_EQ(page.descriptions[0].words, "L’objet tombe.");
+    EXPECT_EQ(page.descriptions[0].line, 7);
+    EXPECT_EQ(page.descriptions[1].picture, "b.svg");
+    EXPECT_EQ(page.text.source.find("tombe"), std::string::npos);
+    const auto question = compiler().question("![](d.png \"D\")\n\n[a](réponse)\n", 1, {});
+    ASSERT_EQ(question.descriptions.size(), 1u);
+    EXPECT_EQ(question.descriptions[0].words, "D");
+}
+
+TEST(Layout, framesAFormulaOfSeveralLines) {
+    std::string formula = "> $$ x";
+    for (int i = 0; i < 30; ++i)
+        formula += " = 1234";
+    const Drawn drawn(compiled(formula + " $$\n\nmots\n"));
+    double top = 1e9, foot = 0, lowest = 0, after = 0;
+    for (const page::Operation& operation : drawn.page.recording.operations()) {
+        if (const auto* line = std::get_if<page::LineOperation>(&operation)) {
+            top = std::min({top, line->y1, line->y2});
+            foot = std::max({foot, line->y1, line->y2});
+        }
+        const auto* text = std::get_if<page::TextOperation>(&operation);
+        if (text && text->text.contains(u'4'))
+            lowest = text->y;
+        if (text && text->text == "mots")
+            after = text->y;
+    }
+    EXPECT_GT(lowest, top + 40 * 15);
+    EXPECT_GT(foot, lowest + 20 * 15);
+    EXPECT_GT(after, foot);
+}
+
+TEST(Layout, keepsSignsOfTwoLinesApart) {
+    // Each fills the slack between its line and the other one.
+    EXPECT_THAT(compiled("$\\ce{SO4^2-}$  \n$\\ce{SO4^2-}$\n"),
+                HasSubstr("##EXP−\n¶\n##PIY003\nSO\n"));
+    EXPECT_THAT(compiled("$\\ce{SO4^2-}$  \nmots\n"), HasSubstr("##EXP−\n¶\nmots¶\n"));
 }
 
 } // namespace

@@ -66,11 +66,27 @@ QString printed(const authoring::CompiledText& text) {
     return shown.normalized(QString::NormalizationForm_C);
 }
 
+QString lostLetters(const std::string& markdown, const QString& shown) {
+    QString source = QString::fromStdString(markdown).normalized(QString::NormalizationForm_C);
+    // Targets, descriptions, labels and definitions of links, listings' languages, comments,
+    // commands of formulas and the arrow of what settles; the names of the margin and the band.
+    for (const char* aside :
+         {R"(\](\[[^\]]*\]|\((?:<[^>]*>|[^()]|\([^()]*\))*\)))", R"((?m)^[ >]*\[[^\]]*\]:.*$)",
+          R"(```[^\n]*)", R"((?s)<!--.*?-->)", R"(\\[A-Za-z]+)", R"(&[a-zA-Z0-9#]+;)",
+          R"(\sv(?=[\s}]))", "(?i)bandeau", R"((?i)en[\s>]+marge)"})
+        source.replace(QRegularExpression(QString::fromUtf8(aside)), QStringLiteral(" "));
+    QString lost;
+    for (const QChar c : source)
+        if (c.isLower() && !lost.contains(c) && source.count(c) > shown.count(c))
+            lost += c;
+    return lost;
+}
+
 QStringList wordsToPrint(const std::string& markdown) {
     QString source = QString::fromStdString(markdown).normalized(QString::NormalizationForm_C);
     for (const char* aside :
          {R"(\]\([^)]*\))", R"(```[^\n]*)", R"((?s)<!--.*?-->)", R"(\\[A-Za-z]+)", R"(&[a-zA-Z]+;)",
-          R"([_^]\S)", "(?i)bandeau", R"((?i)en[\s>]+marge)"})
+          R"([_^](\{[^}]*|\S))", "(?i)bandeau", R"((?i)en[\s>]+marge)"})
         source.replace(QRegularExpression(QString::fromUtf8(aside)), QStringLiteral(" "));
     QStringList words;
     static const QRegularExpression word(QStringLiteral("\\p{L}{4,}"));

@@ -27,4 +27,7 @@ QString printed(const authoring::CompiledText& text);
 
 /// The words of a Markdown source that have to stand on its page: those of four letters and more
 /// outside targets, commands, fences and comments.
+/// Small letters of the source that stand less often on the page than in it.
+QString lostLetters(const std::string& markdown, const QString& shown);
+
 QStringList wordsToPrint(const std::string& markdown);

@@ -1,5 +1,7 @@
 #include "authoring/markdown.h"
 
+#include <QRegularExpression>
+
 #include <gmock/gmock.h>
 
 #include <random>
@@ -64,16 +66,33 @@ std::string asRead(const std::string& source) {
     return QString::fromStdString(source).remove(QChar(0xFFFD)).remove(u'\r').toStdString();
 }
 
+/// Whether a question compiles without a fault; all that is seen of it must be there then.
+bool isWholeQuestion(const std::string& source) {
+    const auto question = compiler().question(source, 1, {});
+    if (!question.faults.empty())
+        return false;
+    // Ticks, accepted answers and the name of the comment are seen nowhere.
+    static const QRegularExpression unseen(QStringLiteral(
+        "(?im)\\[(?:[^\\[\\]]|\\[[^\\[\\]]*\\])*\\]\\(\\s*r[ée]ponse\\s*\\)|\\[x\\]|^ *## .*$|"
+        "^ *si c['’]est faux *\\n *-+ *$"));
+    const QString seen = QString::fromStdString(source).replace(unseen, QStringLiteral(" "));
+    const QString shown =
+        printed(question.question) + (question.siFaux ? printed(*question.siFaux) : QString());
+    EXPECT_EQ(lostLetters(seen.toStdString(), shown), QString()) << source << shown.toStdString();
+    return true;
+}
+
 TEST(Mutations, giveAFaultOrAPageWithEveryWord) {
     const std::vector<std::string> bodies = seeds();
     const char* const asked = std::getenv("ORVALENTE_MUTATIONS");
     const int count = asked ? std::atoi(asked) : kMutations;
     std::mt19937 random(2026);
     int pages = 0;
+    int questions = 0;
     for (int i = 0; i < count; ++i) {
         const std::string source =
             asRead(mutated(bodies[random() % bodies.size()], bodies, random));
-        compiler().question(source, 1, {});
+        questions += isWholeQuestion(source) ? 1 : 0;
         const auto page = compiler().page(source, 1, {});
         const auto last = 1 + std::count(source.begin(), source.end(), '\n');
         for (const authoring::Fault& fault : page.faults) {
@@ -89,10 +108,13 @@ TEST(Mutations, giveAFaultOrAPageWithEveryWord) {
             EXPECT_TRUE(shown.contains(word, Qt::CaseInsensitive))
                 << i << ": " << word.toStdString() << "\n"
                 << source;
+        EXPECT_EQ(lostLetters(source, shown), QString()) << i << "\n"
+                                                         << source << shown.toStdString();
         if (testing::Test::HasFailure())
             return;
     }
     EXPECT_GT(pages, count / 10);
+    EXPECT_GT(questions, 0);
 }
 
 } // namespace

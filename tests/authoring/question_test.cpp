@@ -82,7 +82,9 @@ TEST(Question, refusesWhatTheJudgeWouldTakeWrongly) {
         {"- [x] a\n- [ ] b\n\nautre\n\n- [x] c\n- [ ] d\n", {}, "une seule liste"},
         {"Rien\n", {}, "il manque la réponse"},
         {"- [x] a\n- [ ] b\n\n[x](page:1) [y](page:2)\n", {}, "un lien au plus"},
-        {"- [x] a\n- [ ] b\n\n## Faux\n\n[fer](réponse)\n", {}, "se met dans la question"},
+        {"[fer](réponse \"b\")\n", {}, "n’ont pas de bulle"},
+        {"- [x] a\n- [ ] b\n\n## Une remarque\n\nc\n", {}, "ce titre ne se verrait pas"},
+        {"- [x] a\n- [ ] b\n\n## Si c'est faux\n\n[fer](réponse)\n", {}, "se met dans la question"},
     };
     for (const auto& row : rows) {
         const auto compiled = question(row.markdown, row.asked);

@@ -34,6 +34,8 @@ TEST(Typography, keepsTogetherWhatBelongsTogether) {
         {"et...", "et…"},
         {"10:30 http://x", "10:30 http://x"},
         {"a   b", "a b"},
+        {"1\u202F000\u2009m", "1_000_m"},
+        {"co\u00ADupe\u200Br\uFEFF", "couper"},
     };
     for (const auto& row : rows)
         EXPECT_THAT(composed(row.typed), HasSubstr(std::string("Texte ") + row.expected))

@@ -174,6 +174,11 @@ std::string options(const std::string& solution) {
     return choice("type = 2\nsolution = \"" + solution + '"', "##EXOOP\nA¶\n##EXOOP\nB¶\n");
 }
 
+const std::string kBareDrawing =
+    "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"9\" height=\"9\"><path d=\"M0 0h9\"/></svg>";
+/// A picture of one pixel.
+const std::string kDot("GIF89a\1\0\1\0\x80\0\0\0\0\0\xff\xff\xff,\0\0\0\0\1\0\1\0\0\2\2D\1\0;", 35);
+
 const CourseRow kCourseRows[] = {
     {"A001", {{kSecond, "sans champs\n"}}, {"pages/2.page:1"}, {{"pages/.2.page~", "x"}}},
     {"A002",
@@ -252,6 +257,18 @@ const CourseRow kCourseRows[] = {
                        "<g><title>non</title></g></svg>"}},
      {"pages/1.page:7"},
      {{kFirst, first("suite = false", "##IXAdessin.svg\nA¶\n")}}},
+    {"F606",
+     {{kFirst, first("suite = false", "##IXAnu.svg\nA¶\n")}, {"files/nu.svg", kBareDrawing}},
+     {"pages/1.page:7"},
+     {{kFirst, first("suite = false", "##IXAnu.svg\nA¶\n")},
+      {"files/nu.svg", kBareDrawing},
+      {"files/descriptions.txt", "NU.svg : Rien\n"}}},
+    {"F607",
+     {{kFirst, first("suite = false", "##IXAp.gif\nA¶\n")}, {"files/p.gif", kDot}},
+     {"pages/1.page:7"},
+     {{kFirst, first("suite = false", "##IXAp.gif\nA¶\n")},
+      {"files/p.gif", kDot},
+      {"files/descriptions.txt", "# Les photos\np.gif : Un point\n"}}},
     {"Q701",
      {{kQuestion, choice("type = 4\nsolution = \"10000\"", "A¶\n")}},
      {"exercises/t/1.question:3"},

@@ -19,7 +19,7 @@ TEST_F(Program, convertsAndBuildsMarkdown) {
     work.write("src/exercises/a/chapter.toml", "Chapitre = 1\nTitre = \"T\"\nNbquest = 2\n");
     work.write("src/exercises/a/1.md", "+++\nREFERENCE = 101\n+++\nQui ?\n\n- [ ] a\n- [x] b\n");
     work.write("src/exercises/a/2.md",
-               "+++\nREFERENCE = 102\n+++\nLe [fer](réponse).\n\n## Si faux\n\nRelire.\n");
+               "+++\nREFERENCE = 102\n+++\nLe [fer](réponse).\n\n## Si c’est faux\n\nRelire.\n");
     const Outcome page = run("convert src/pages/2.md");
     EXPECT_EQ(page.code, 0) << page.err;
     EXPECT_THAT(page.out, StartsWith("+++\nNumeropage = 2\ntitre = \"Deux\"\n+++\n##TITBARDeux\n"));

@@ -1,5 +1,6 @@
 #include "coursedata/course_pictures.h"
 #include "coursedata/symbol_names.h"
+#include "page/picture_title.h"
 #include "shell/shared_state.h"
 #include "support/fake_beeper.h"
 #include "support/fake_message_boxes.h"
@@ -99,6 +100,36 @@ TEST(CoursePictures, readFilesOnceUntilTheyChange) {
         EXPECT_FALSE(pictures.load(name));
     }
     EXPECT_TRUE(old.expired());
+
+    // What the course says of its pictures, from one moment to the next.
+    const auto described = [&] { return pictures.load(path)->description().toStdString(); };
+    EXPECT_EQ(described(), "");
+    test_support::writeFile(
+        course.filePath("Descriptions.TXT"),
+        "\xEF\xBB\xBF# Figures\r\nsans rien\r\nFIG.png\u00A0:  Une  figure : vue de "
+        "près\r\nfig.png : autre\r\n");
+    EXPECT_EQ(described(), "Une figure : vue de près");
+    EXPECT_EQ(pictures.load(path), pictures.load(path));
+    EXPECT_EQ(pictures.load(path)->size(), QSize(300, 300));
+    test_support::writeFile(course.filePath("Descriptions.TXT"), QByteArray(2 << 20, 'x'));
+    EXPECT_EQ(described(), "");
+    QFile::remove(course.filePath("Descriptions.TXT"));
+    EXPECT_EQ(described(), "");
+
+    // A drawing may say it itself; that of a part of it is not meant.
+    const QString drawing = course.filePath("pendule_simple.svg");
+    const auto title = [&] {
+        const page::PictureOperation shown{
+            {}, 0, 0, 0, 0, pictures.load(drawing), "pendule_simple.svg", false};
+        return page::pictureTitle(shown).toStdString();
+    };
+    const QByteArray part = "<svg width='9' height='9'><g><title>Le fil</title></g>";
+    test_support::writeFile(drawing, part + "</svg>");
+    EXPECT_EQ(title(), "Image pendule simple");
+    test_support::writeFile(drawing, part + "<title> Un\npendule </title></svg>");
+    EXPECT_EQ(title(), "Un pendule");
+    test_support::writeFile(course.filePath("descriptions.txt"), "Pendule_simple.SVG:écarté\n");
+    EXPECT_EQ(title(), "écarté");
 
     // Names that are none are not files of the current directory.
     const QString before = QDir::currentPath();

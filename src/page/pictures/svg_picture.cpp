@@ -22,6 +22,9 @@ using decoded::Part;
 
 constexpr double kLargestSide = 1e6;
 
+/// The title of the whole stands before what is drawn; those further in tell of parts.
+constexpr int kMostBeforeTitle = 20;
+
 // What a drawing takes in memory. Elements were measured to take 400 to 1700 bytes; a point of
 // a path is 24 bytes, twice that while there is room for more, and "h1" in the file.
 constexpr qint64 kBytesPerElement = 1700;
@@ -116,6 +119,17 @@ bool SvgPicture::use(const Task& task) const {
     if (*drawing)
         decoded::keep(this, Part::Drawing, *drawing, (*drawing)->bytes);
     return *drawing != nullptr;
+}
+
+QString SvgPicture::description() const {
+    QXmlStreamReader reader(bytes_);
+    reader.readNextStartElement();
+    for (int parts = 0; parts < kMostBeforeTitle && reader.readNextStartElement(); ++parts) {
+        if (reader.name() == u"title")
+            return reader.readElementText(QXmlStreamReader::SkipChildElements).simplified();
+        reader.skipCurrentElement();
+    }
+    return {};
 }
 
 QImage SvgPicture::image(QSize pixels) const {

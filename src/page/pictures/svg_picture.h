@@ -24,6 +24,8 @@ public:
     QImage image(QSize pixels) const override;
     PictureFormat format() const override { return PictureFormat::Svg; }
     const QByteArray& bytes() const override { return bytes_; }
+    /// The title that the drawing has inside.
+    QString description() const override;
 
 private:
     struct Drawing;
