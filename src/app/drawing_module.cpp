@@ -107,7 +107,8 @@ extern "C" Q_DECL_EXPORT coursetool::ExitCode orvalenteCheck(int& argc, char** a
 
 extern "C" Q_DECL_EXPORT void orvalenteBuildWarnings(int& argc, char** argv,
                                                      const std::filesystem::path& source,
+                                                     coursetool::SourceReader& reader,
                                                      coursetool::Report& report) {
     const DrawingEnvironment environment(argc, argv);
-    check::warnOfWrongPages(source, environment.fonts, report);
+    check::warnOfWrongPages(source, reader, environment.fonts, report);
 }

@@ -147,7 +147,8 @@ TEST(BuildWarnings, tellFaultsOnlyAndNoMoreThanAScreenful) {
         body += "##LIERTlà#PAG777\n¶\n";
     course.setBody(body);
     coursetool::Report report;
-    check::warnOfWrongPages(course.work.path("src"), CheckedCourse::fonts(), report);
+    coursetool::PlainSourceReader reader(test_support::courseCompiler());
+    check::warnOfWrongPages(course.work.path("src"), reader, CheckedCourse::fonts(), report);
     EXPECT_FALSE(report.hasFaults());
     ASSERT_EQ(report.lines().size(), 21u);
     EXPECT_THAT(report.lines().front(), HasSubstr("1.page:8:1: avertissement : "));
