@@ -2,6 +2,7 @@
 #include "check/check.h"
 #include "coursetool/drawing_request.h"
 #include "coursetool/markdown_source.h"
+#include "coursetool/page_source.h"
 #include "coursetool/print.h"
 #include "coursetool/render.h"
 #include "coursetool/tool_pictures.h"
@@ -38,12 +39,10 @@ struct DrawingEnvironment {
     page::FontBook fonts;
 };
 
-/// Where pictures lie: in the course, or beside a source that stands alone.
+/// Where pictures lie: in the course, or where a source that stands alone has them.
 std::filesystem::path pictureFolder(const std::filesystem::path& course,
                                     const std::filesystem::path& source) {
-    if (source.empty())
-        return course;
-    return source.has_parent_path() ? source.parent_path() : ".";
+    return source.empty() ? course : coursetool::picturesOf(source);
 }
 
 /// The compiler, and what measuring text needs around it.
