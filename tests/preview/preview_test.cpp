@@ -225,6 +225,16 @@ TEST_F(Preview, copiesThePlaceOfAFault) {
     EXPECT_EQ(strip.geometry().bottom(), 419);
     lines[0]->click();
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "pages/é&2.md:5:7");
+    // More than there is room for: the faults, and how many more there are.
+    for (int i = 0; i < 4; ++i)
+        report.fault({path("pages/1.md").toStdString(), i, 1}, "encore");
+    strip.show(report.remarks(), path("").chopped(1).toStdString());
+    const auto shown = strip.findChildren<QAbstractButton*>();
+    EXPECT_EQ(strip.height(), lines[0]->height() * 4);
+    EXPECT_TRUE(shown.last()->accessibleName().startsWith("et 3 autres")) << shown.size();
+    QGuiApplication::clipboard()->setText("rien");
+    shown.last()->click();
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "rien");
     strip.show({}, {});
     EXPECT_TRUE(strip.isHidden());
 }
