@@ -3,6 +3,7 @@
 #include "check/check.h"
 #include "coursetool/drawing_request.h"
 #include "coursetool/markdown_source.h"
+#include "coursetool/page_source.h"
 #include "coursetool/print.h"
 #include "coursetool/render.h"
 #include "coursetool/tool_pictures.h"
@@ -11,12 +12,10 @@
 
 namespace {
 
-/// Where pictures lie: in the course, or beside a source that stands alone.
+/// Where pictures lie: in the course, or where a source that stands alone has them.
 std::filesystem::path pictureFolder(const std::filesystem::path& course,
                                     const std::filesystem::path& source) {
-    if (source.empty())
-        return course;
-    return source.has_parent_path() ? source.parent_path() : ".";
+    return source.empty() ? course : coursetool::picturesOf(source);
 }
 
 /// The compiler, and what measuring text needs around it.
@@ -80,7 +79,8 @@ extern "C" Q_DECL_EXPORT coursetool::ExitCode orvalenteCheck(int& argc, char** a
 
 extern "C" Q_DECL_EXPORT void orvalenteBuildWarnings(int& argc, char** argv,
                                                      const std::filesystem::path& source,
+                                                     coursetool::SourceReader& reader,
                                                      coursetool::Report& report) {
     const app::DrawingEnvironment environment(argc, argv);
-    check::warnOfWrongPages(source, environment.fonts, report);
+    check::warnOfWrongPages(source, reader, environment.fonts, report);
 }

@@ -1,5 +1,6 @@
 #include "app/preview.h"
 
+#include "check/write_findings.h"
 #include "coursetool/paths.h"
 #include "look/picture_box.h"
 #include "page/numbers.h"
@@ -10,6 +11,7 @@
 #include <QApplication>
 #include <QMouseEvent>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace app {
@@ -23,14 +25,19 @@ constexpr int kAgainMs = 100;
 
 Preview::Preview(preview::PreviewedCourse& course, CourseReload& reload, viewer::Multim& window,
                  const coursedata::BoundRecord& record, const page::FontBook& fonts)
-    : course_(course), reload_(reload), window_(window), record_(record), fonts_(fonts) {
+    : course_(course), reload_(reload), window_(window), record_(record), fonts_(fonts),
+      linter_(course.sources(), fonts) {
     QWidget* const panel = window.pageArea().parentWidget()->parentWidget();
     strip_ = new preview::FaultStrip(panel->geometry(), panel->parentWidget());
     again_.setSingleShot(true);
     again_.setInterval(kAgainMs);
     connect(&again_, &QTimer::timeout, this, [this] { showCourse(); });
+    lookOn_.setSingleShot(true);
+    connect(&lookOn_, &QTimer::timeout, this, [this] { lookOn(); });
     qApp->installEventFilter(this);
     showFaults();
+    linter_.follow(course.records(), true);
+    lookOn_.start();
     watch_.emplace(QString::fromStdString(coursetool::shown(course.sources())),
                    [this] { sourcesChanged(); });
     // What was saved between the first build and the watch, nobody has told.
@@ -38,9 +45,21 @@ Preview::Preview(preview::PreviewedCourse& course, CourseReload& reload, viewer:
 }
 
 void Preview::sourcesChanged() {
-    if (course_.update() != preview::PreviewedCourse::Renewed::Nothing)
+    using Renewed = preview::PreviewedCourse::Renewed;
+    const Renewed renewed = course_.update();
+    if (renewed != Renewed::Nothing)
         showCourse();
     showFaults();
+    // The page comes first.
+    linter_.follow(course_.records(), renewed == Renewed::PagesAndFiles);
+    lookOn_.start();
+}
+
+void Preview::lookOn() {
+    if (linter_.lookOn())
+        lookOn_.start();
+    else
+        showFaults();
 }
 
 void Preview::showCourse() {
@@ -49,7 +68,20 @@ void Preview::showCourse() {
 }
 
 void Preview::showFaults() {
-    strip_->show(course_.remarks(), course_.sources());
+    using coursetool::Remark;
+    std::vector<Remark> remarks = course_.remarks();
+    // While a fault keeps the course from being shown, what the rules would say can wait.
+    if (std::none_of(remarks.begin(), remarks.end(),
+                     [](const Remark& remark) { return remark.kind != Remark::Kind::Warning; }))
+        for (const check::Finding& finding : linter_.findings())
+            remarks.push_back({Remark::Kind::Warning, finding.place, check::withCode(finding)});
+    // Those of the page that is being looked at come first.
+    const auto number = text::toInt32(page::leadingNumber(record_.TextID));
+    const auto shown = number ? course_.placeOf(*number, 0) : std::nullopt;
+    std::stable_partition(remarks.begin(), remarks.end(), [&](const Remark& remark) {
+        return shown && remark.place.file == shown->file;
+    });
+    strip_->show(remarks, course_.sources());
 }
 
 bool Preview::eventFilter(QObject* watched, QEvent* event) {

@@ -3,6 +3,7 @@
 #include "app/course_reload.h"
 #include "page/faces/font_book.h"
 #include "preview/fault_strip.h"
+#include "preview/linter.h"
 #include "preview/previewed_course.h"
 #include "preview/source_watch.h"
 
@@ -29,6 +30,7 @@ private:
     void sourcesChanged();
     void showCourse();
     void showFaults();
+    void lookOn();
     bool writePlace(look::PictureBox& box, QPointF pixels) const;
 
     preview::PreviewedCourse& course_;
@@ -38,6 +40,8 @@ private:
     const page::FontBook& fonts_;
     preview::FaultStrip* strip_;
     QTimer again_;
+    preview::Linter linter_;
+    QTimer lookOn_; ///< when there is nothing else to do
     std::optional<preview::SourceWatch> watch_;
 };
 

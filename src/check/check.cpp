@@ -1,14 +1,14 @@
 #include "check/check.h"
 
-#include "check/check_pictures.h"
+#include "authoring/markdown_compiler.h"
+#include "check/checker.h"
 #include "check/fix.h"
 #include "check/read_course.h"
 #include "check/write_findings.h"
 #include "coursetool/paths.h"
 
 #include <algorithm>
-#include <map>
-#include <tuple>
+#include <iterator>
 
 namespace check {
 
@@ -23,63 +23,6 @@ constexpr int kMostRounds = 4;
 /// Warnings of a build told one by one; `check` tells them all.
 constexpr std::size_t kMostBuildWarnings = 20;
 
-class Checker {
-public:
-    Checker(Course& course, const page::TextMetrics& metrics, const coursetool::Drives& drives,
-            const coursetool::Report& told)
-        : course_(course), told_(told), pictures_(course.filesFolder, drives) {
-        course_.metrics = &metrics;
-        course_.pictures = &pictures_;
-    }
-
-    std::vector<Finding> run() {
-        for (const Page& page : course_.pages)
-            draw(page.source, nullptr);
-        for (const Question& question : course_.questions)
-            draw(question.source, &question.comment);
-        for (const Rule& rule : ruleTable()) {
-            findings_.enter(rule);
-            if (const auto* line = std::get_if<LineCheck>(&rule.run))
-                forEachSource([&](const Source& source) {
-                    for (const Line& each : source.lines())
-                        (*line)(source, each, findings_);
-                });
-            else if (const auto* whole = std::get_if<SourceCheck>(&rule.run))
-                forEachSource([&](const Source& source) { (*whole)(source, findings_); });
-            else if (const auto* all = std::get_if<CourseCheck>(&rule.run))
-                (*all)(course_, findings_);
-        }
-        return std::move(findings_.all());
-    }
-
-private:
-    void draw(const Source& source, const Source* comment) {
-        const DrawnSource drawn(source, comment, *course_.metrics, pictures_);
-        for (const Rule& rule : ruleTable())
-            if (const auto* run = std::get_if<DrawnCheck>(&rule.run)) {
-                findings_.enter(rule);
-                (*run)(drawn, findings_);
-            }
-        told_.progress("pages relues", ++drawn_, course_.pages.size() + course_.questions.size());
-    }
-
-    template <class Visit>
-    void forEachSource(Visit visit) const {
-        for (const Page& page : course_.pages)
-            visit(page.source);
-        for (const Question& question : course_.questions) {
-            visit(question.source);
-            visit(question.comment);
-        }
-    }
-
-    Course& course_;
-    const coursetool::Report& told_;
-    std::size_t drawn_ = 0;
-    CheckPictures pictures_;
-    Findings findings_;
-};
-
 /// What reading the course has told.
 void takeRemarks(const coursetool::Report& report, std::vector<Finding>& findings) {
     for (const Remark& remark : report.remarks())
@@ -88,78 +31,6 @@ void takeRemarks(const coursetool::Report& report, std::vector<Finding>& finding
              remark.place,
              {},
              remark.sentence});
-}
-
-/// The place of each record in its course, so that "page 9" comes before "page 10".
-std::map<std::string, std::size_t> ranksOf(const Course& course) {
-    std::map<std::string, std::size_t> ranks;
-    const auto take = [&](const std::string& name) { ranks.emplace(name, ranks.size()); };
-    for (const Page& page : course.pages)
-        take(page.record.name());
-    for (const Record& test : course.tests)
-        take(test.name());
-    for (const Question& question : course.questions) {
-        take(question.record.name());
-        take(question.comment.record());
-    }
-    return ranks;
-}
-
-void sortByPlace(const Course& course, std::vector<Finding>& findings) {
-    const auto ranks = ranksOf(course);
-    const auto key = [&](const Finding& finding) {
-        const auto rank = ranks.find(finding.record);
-        return std::tuple(std::string_view(finding.place.file),
-                          rank == ranks.end() ? 0 : rank->second, finding.place.line,
-                          finding.place.column, finding.rule->code);
-    };
-    std::stable_sort(findings.begin(), findings.end(),
-                     [&](const Finding& a, const Finding& b) { return key(a) < key(b); });
-}
-
-/// Codes silenced by the file that a finding is about.
-std::map<std::pair<std::string, std::string>, const std::set<std::string>*>
-silencesOf(const Course& course) {
-    std::map<std::pair<std::string, std::string>, const std::set<std::string>*> all;
-    const auto take = [&](const Record& record) {
-        if (!record.ignored.empty())
-            all[{record.place().file, record.name()}] = &record.ignored;
-    };
-    for (const Page& page : course.pages)
-        take(page.record);
-    for (const Record& test : course.tests)
-        take(test);
-    for (const Question& question : course.questions)
-        take(question.record);
-    return all;
-}
-
-void dropSilenced(const Course& course, const std::set<std::string>& ignored,
-                  std::vector<Finding>& findings) {
-    const auto silences = silencesOf(course);
-    std::erase_if(findings, [&](const Finding& finding) {
-        const std::string code(finding.rule->code);
-        const auto own = silences.find({finding.place.file, finding.record});
-        return ignored.contains(code) || course.ignored.contains(code) ||
-               (own != silences.end() && own->second->contains(code));
-    });
-}
-
-/// The rule that only repeats what the renderer says.
-constexpr std::string_view kAbandoned = "directive-abandonnee";
-
-/// A statement that was abandoned says less than the rule that knows why.
-void dropExplained(std::vector<Finding>& findings) {
-    const auto placeOf = [](const Finding& finding) {
-        return std::tuple(finding.place.file, finding.record, finding.place.line);
-    };
-    std::set<std::tuple<std::string, std::string, int>> explained;
-    for (const Finding& finding : findings)
-        if (finding.rule->name != kAbandoned)
-            explained.insert(placeOf(finding));
-    std::erase_if(findings, [&](const Finding& finding) {
-        return finding.rule->name == kAbandoned && explained.contains(placeOf(finding));
-    });
 }
 
 ExitCode explain(const std::string& code, coursetool::OutputBuffer& out,
@@ -179,29 +50,52 @@ ExitCode explain(const std::string& code, coursetool::OutputBuffer& out,
     return ExitCode::Fine;
 }
 
+std::vector<Finding> findingsOf(Course& course, const page::TextMetrics& metrics,
+                                const coursetool::Drives& drives, const coursetool::Report& told) {
+    Checker checker(metrics, course.filesFolder, drives);
+    std::vector<Finding> all;
+    const std::size_t count = course.pages.size() + course.questions.size();
+    std::size_t done = 0;
+    const auto take = [&](std::vector<Finding> found) {
+        std::move(found.begin(), found.end(), std::back_inserter(all));
+        told.progress("pages relues", ++done, count);
+    };
+    for (const Page& page : course.pages)
+        take(checker.lookAt(page));
+    for (const Question& question : course.questions)
+        take(checker.lookAt(question));
+    auto found = checker.lookAtWhole(course);
+    std::move(found.begin(), found.end(), std::back_inserter(all));
+    return all;
+}
+
 bool hasFault(const std::vector<Finding>& findings) {
     return std::any_of(findings.begin(), findings.end(), [](const Finding& finding) {
         return finding.rule->severity == Severity::Fault;
     });
 }
 
+std::vector<Finding> findingsIn(const CheckRequest& request, coursetool::SourceReader& reader,
+                                const page::TextMetrics& metrics, const coursetool::Report& told) {
+    coursetool::Report report;
+    Course course = isInstalledCourse(request.course) ? readInstallation(request.course, report)
+                                                      : readSources(request.course, reader, report);
+    coursetool::Drives drives = request.drives;
+    if (!course.isInstalled)
+        drives.try_emplace('C', course.discFolder);
+    std::vector<Finding> findings = findingsOf(course, metrics, drives, told);
+    takeRemarks(report, findings);
+    settle(course, request.ignored, findings);
+    return findings;
+}
+
 } // namespace
 
 std::vector<Finding> findingsIn(const CheckRequest& request, const page::TextMetrics& metrics,
                                 const coursetool::Report& told) {
-    coursetool::Report report;
-    Course course = isInstalledCourse(request.course)
-                        ? readInstallation(request.course, report)
-                        : readSources(request.course, metrics, report);
-    coursetool::Drives drives = request.drives;
-    if (!course.isInstalled)
-        drives.try_emplace('C', course.discFolder);
-    std::vector<Finding> findings = Checker(course, metrics, drives, told).run();
-    takeRemarks(report, findings);
-    dropSilenced(course, request.ignored, findings);
-    dropExplained(findings);
-    sortByPlace(course, findings);
-    return findings;
+    const authoring::MarkdownCompiler compiler(metrics);
+    coursetool::PlainSourceReader reader([&] { return &compiler; });
+    return findingsIn(request, reader, metrics, told);
 }
 
 namespace {
@@ -246,11 +140,11 @@ ExitCode check(const CheckRequest& request, const page::TextMetrics& metrics,
     return hasFault(findings) ? ExitCode::Faults : ExitCode::Fine;
 }
 
-void warnOfWrongPages(const std::filesystem::path& source, const page::TextMetrics& metrics,
-                      coursetool::Report& report) {
+void warnOfWrongPages(const std::filesystem::path& source, coursetool::SourceReader& reader,
+                      const page::TextMetrics& metrics, coursetool::Report& report) {
     CheckRequest request;
     request.course = source;
-    std::vector<Finding> findings = findingsIn(request, metrics, report);
+    std::vector<Finding> findings = findingsIn(request, reader, metrics, report);
     std::erase_if(findings, [](const Finding& finding) {
         return finding.rule->severity != Severity::Fault || finding.rule->code == kReadingFault;
     });

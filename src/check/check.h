@@ -2,6 +2,7 @@
 
 #include "check/check_request.h"
 #include "check/rule.h"
+#include "coursetool/source_reader.h"
 #include "page/text_metrics.h"
 
 #include <vector>
@@ -19,7 +20,7 @@ coursetool::ExitCode check(const CheckRequest& request, const page::TextMetrics&
                            coursetool::OutputBuffer& out, coursetool::Report& report);
 
 /// Tells as warnings what makes pages of sources wrong, but for what `build` refuses itself.
-void warnOfWrongPages(const std::filesystem::path& source, const page::TextMetrics& metrics,
-                      coursetool::Report& report);
+void warnOfWrongPages(const std::filesystem::path& source, coursetool::SourceReader& reader,
+                      const page::TextMetrics& metrics, coursetool::Report& report);
 
 } // namespace check

@@ -2,6 +2,7 @@
 
 #include "coursetool/drawing_request.h"
 #include "coursetool/exit_code.h"
+#include "coursetool/source_reader.h"
 
 #include <filesystem>
 #include <set>
@@ -36,6 +37,7 @@ inline constexpr char kCheckSymbol[] = "orvalenteCheck";
 
 /// Warns of what makes pages of the sources wrong and does not keep them from being built.
 using BuildWarningsFunction = void (*)(int& argc, char** argv, const std::filesystem::path& source,
+                                       coursetool::SourceReader& reader,
                                        coursetool::Report& report);
 inline constexpr char kBuildWarningsSymbol[] = "orvalenteBuildWarnings";
 

@@ -30,6 +30,8 @@ const coursetool::Place& Record::place(std::string_view field) const {
 }
 
 void Course::indexPages() {
+    byNumber_.clear();
+    byOrder_.clear();
     for (std::size_t i = 0; i < pages.size(); ++i) {
         if (const auto number = pages[i].record.number("Numeropage"))
             byNumber_[*number] = i;

@@ -81,7 +81,7 @@ struct Course {
     const Page* page(std::int32_t number) const;
     /// The last page with this reading-order index; null for none.
     const Page* pageInOrder(std::int32_t index) const;
-    /// To be called once all pages are there.
+    /// To be called once all pages are there, and again when they are others.
     void indexPages();
 
 private:

@@ -1,98 +1,91 @@
 #include "check/read_course.h"
 
-#include "authoring/markdown_compiler.h"
 #include "check/silences.h"
 #include "coursetool/dump.h"
 #include "coursetool/file_list.h"
-#include "coursetool/markdown_source.h"
 #include "coursetool/paths.h"
-#include "coursetool/source_parts.h"
-#include "coursetool/source_text.h"
+#include "coursetool/source_files.h"
 #include "coursetool/table_source.h"
 #include "files/within.h"
 #include "jet/database_file.h"
 
-#include <algorithm>
-
 namespace check {
 
 namespace fs = std::filesystem;
-using coursetool::Place;
+using coursetool::ReadSource;
 using coursetool::Report;
 using coursetool::shown;
+using coursetool::SourceKind;
 
 namespace {
 
-QString fromUtf8(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-bool isMarkdown(const fs::path& path) {
-    return path.extension() == coursetool::kMarkdownEnding;
-}
-
-/// The files of a folder with this ending, and those in Markdown, in record order.
+/// The files of a folder with this ending, and those in Markdown, in record order. What else stands
+/// there is the build's business.
 std::vector<fs::path> sourcesIn(const fs::path& folder, const fs::path& top,
                                 std::string_view ending, Report& report) {
     std::vector<fs::path> files;
     for (const fs::directory_entry& entry : coursetool::entriesOf(folder, report)) {
         std::error_code error;
-        if ((shown(entry.path()).ends_with(ending) || isMarkdown(entry.path())) &&
+        if ((shown(entry.path()).ends_with(ending) || coursetool::isMarkdown(entry.path())) &&
             entry.is_regular_file(error) && coursetool::isFileOf(top, entry, report))
             files.push_back(entry.path());
     }
     return files;
 }
 
-/// What stands in a file of the sources, compiled to the page language where it is written in
-/// another one.
-struct SourceFile {
-    std::string file;
-    coursetool::Fields fields;
-    std::set<std::string> ignored;
-    std::string source; ///< with LF
-    int bodyLine = 0;
-    std::optional<std::string_view> body; ///< into `source`
-};
-
-/// Nothing when it cannot be taken apart, which is reported.
-std::optional<SourceFile> readFile(const fs::path& path, const coursetool::TableRule& table,
-                                   Report& report) {
-    auto source = coursetool::readSource(path, report);
-    if (!source)
-        return std::nullopt;
-    SourceFile file{shown(path), {}, {}, *std::move(source), 0, {}};
-    const auto parts = coursetool::splitFrontMatter(file.source, file.file, report);
-    if (!parts)
-        return std::nullopt;
-    file.fields = coursetool::readFields(parts->frontMatter, 2, file.file,
-                                         coursetool::frontMatterFields(table), report);
-    file.ignored = ignoredIn(parts->frontMatter, 2, file.file, report);
-    file.bodyLine = parts->bodyLine;
-    file.body = parts->body;
-    return file;
-}
-
-Source sourceOf(Source::Kind kind, std::string_view text, const std::string& file, int line) {
-    return {kind, fromUtf8(coursetool::toDatabaseText(text)), {file, line, 1}, {}, true};
-}
-
-/// A source that was compiled from Markdown: its findings name the lines of that.
-Source compiledSource(Source::Kind kind, const authoring::CompiledText& text,
-                      const std::string& file) {
-    Source source{kind, fromUtf8(coursetool::toDatabaseText(text.source)), {file, 1, 1}, {}, false};
+/// A text of a record, as the database will have it; its findings name the lines of the file. What
+/// was compiled is not the author's to mend.
+Source sourceOf(Source::Kind kind, const ReadSource& read, const coursetool::TextPlace& place,
+                const jet::Value& value) {
+    const std::u16string* const text = value.text();
+    if (!text && kind == Source::Kind::Comment)
+        return {};
+    const bool isWritten = place.markdownLines.empty();
+    Source source{kind,
+                  text ? QString::fromStdU16String(*text) : QString(),
+                  {read.file, isWritten ? place.firstLine : 1, 1},
+                  {},
+                  isWritten};
+    if (isWritten)
+        return source;
     std::vector<int> lines;
     // The last is that of what stands after the last line end.
     for (int line = 1; line <= static_cast<int>(source.lines().size()) + 1; ++line)
-        lines.push_back(text.lineOf(line));
+        lines.push_back(place.lineOf(line));
     source.setFileLines(std::move(lines));
     return source;
 }
 
-class SourceReader {
+Record recordOf(const ReadSource& read, const coursetool::TableRule& table, Report& report) {
+    Record record(table, read.fields, read.place, {});
+    record.ignored = ignoredIn(read.frontMatter, read.frontMatterLine, read.file, report);
+    return record;
+}
+
+} // namespace
+
+Page pageOf(const ReadSource& read, Report& report) {
+    return {recordOf(read, coursetool::coursTable(), report),
+            sourceOf(Source::Kind::Page, read, read.text, read.fields.values.back())};
+}
+
+Record testOf(const ReadSource& read, Report& report) {
+    return recordOf(read, coursetool::descriptionTable(), report);
+}
+
+Question questionOf(const ReadSource& read, Report& report) {
+    const std::vector<jet::Value>& values = read.fields.values;
+    return {recordOf(read, coursetool::contenuTable(), report),
+            sourceOf(Source::Kind::Question, read, read.text, values[values.size() - 2]),
+            sourceOf(Source::Kind::Comment, read, read.comment, values.back())};
+}
+
+namespace {
+
+class SourcesReader {
 public:
-    SourceReader(const fs::path& directory, const page::TextMetrics& metrics, Report& report)
-        : compiler_(metrics), report_(report) {
+    SourcesReader(const fs::path& directory, coursetool::SourceReader& reader, Report& report)
+        : reader_(reader), report_(report) {
         course_.root = directory;
         course_.filesFolder = directory / coursetool::kFilesFolder;
         course_.discFolder = directory / coursetool::kDiscFolder;
@@ -118,60 +111,12 @@ private:
         }
         if (!coursetool::isFolderOf(course_.root, folder, report_))
             return;
-        for (const fs::path& path :
-             sourcesIn(folder, course_.root, coursetool::kPageEnding, report_)) {
-            if (isMarkdown(path)) {
-                readMarkdownPage(path);
-                continue;
+        for (const fs::path& file :
+             sourcesIn(folder, course_.root, coursetool::kPageEnding, report_))
+            if (const auto read = reader_.read(SourceKind::Page, file, report_)) {
+                course_.pages.push_back(pageOf(*read, report_));
+                course_.descriptions.take(read->descriptions, file, report_);
             }
-            auto file = readFile(path, coursetool::coursTable(), report_);
-            if (!file)
-                continue;
-            Page page;
-            page.record = record(*std::move(file), coursetool::coursTable());
-            page.source = sourceOf(Source::Kind::Page, file->body.value_or(std::string_view()),
-                                   file->file, file->bodyLine);
-            course_.pages.push_back(std::move(page));
-        }
-    }
-
-    void readMarkdownPage(const fs::path& path) {
-        auto compiled = coursetool::compileMarkdownPage(path, compiler_, report_);
-        if (!compiled)
-            return;
-        course_.descriptions.take(compiled->descriptions, path, report_);
-        Page page;
-        if (compiled->text)
-            page.source = compiledSource(Source::Kind::Page, *compiled->text, shown(path));
-        page.record =
-            record(compiledFile(path, std::move(compiled->fields)), coursetool::coursTable());
-        course_.pages.push_back(std::move(page));
-    }
-
-    void readMarkdownQuestion(const fs::path& path) {
-        auto compiled = coursetool::compileMarkdownQuestion(path, compiler_, report_);
-        if (!compiled)
-            return;
-        course_.descriptions.take(compiled->descriptions, path, report_);
-        Question question;
-        if (compiled->text)
-            question.source = compiledSource(Source::Kind::Question, *compiled->text, shown(path));
-        if (compiled->siFaux)
-            question.comment =
-                compiledSource(Source::Kind::Comment, *compiled->siFaux, shown(path));
-        question.record =
-            record(compiledFile(path, std::move(compiled->fields)), coursetool::contenuTable());
-        course_.questions.push_back(std::move(question));
-    }
-
-    /// The fields are those that compiling gave; what is to be silent stands beside them.
-    SourceFile compiledFile(const fs::path& path, coursetool::Fields fields) {
-        SourceFile file{shown(path), std::move(fields), {}, {}, 0, {}};
-        Report told; // by the compiler already
-        if (const auto source = coursetool::readSource(path, told))
-            if (const auto parts = coursetool::splitFrontMatter(*source, file.file, told))
-                file.ignored = ignoredIn(parts->frontMatter, 2, file.file, report_);
-        return file;
     }
 
     void readExercises() {
@@ -192,54 +137,17 @@ private:
             report_.fault({shown(chapter.path())}, "le fichier manque : y écrire Chapitre, Titre "
                                                    "et Nbquest du test");
         else if (coursetool::isFileOf(course_.root, chapter, report_))
-            readChapter(chapter.path());
-        for (const fs::path& path :
+            if (const auto read = reader_.read(SourceKind::Test, chapter.path(), report_))
+                course_.tests.push_back(testOf(*read, report_));
+        for (const fs::path& file :
              sourcesIn(folder, course_.root, coursetool::kQuestionEnding, report_))
-            readQuestion(path);
+            if (const auto read = reader_.read(SourceKind::Question, file, report_)) {
+                course_.questions.push_back(questionOf(*read, report_));
+                course_.descriptions.take(read->descriptions, file, report_);
+            }
     }
 
-    void readChapter(const fs::path& path) {
-        auto source = coursetool::readSource(path, report_);
-        if (!source)
-            return;
-        SourceFile file{shown(path), {}, {}, *std::move(source), 0, {}};
-        const coursetool::TableRule& table = coursetool::descriptionTable();
-        file.fields = coursetool::readFields(file.source, 1, file.file,
-                                             coursetool::frontMatterFields(table), report_);
-        file.ignored = ignoredIn(file.source, 1, file.file, report_);
-        course_.tests.push_back(record(std::move(file), table));
-    }
-
-    void readQuestion(const fs::path& path) {
-        if (isMarkdown(path))
-            return readMarkdownQuestion(path);
-        auto file = readFile(path, coursetool::contenuTable(), report_);
-        if (!file)
-            return;
-        Question question;
-        question.record = record(*std::move(file), coursetool::contenuTable());
-        const std::string_view body = file->body.value_or(std::string_view());
-        const auto texts = coursetool::splitQuestion(body, file->bodyLine, file->file, report_);
-        question.source =
-            sourceOf(Source::Kind::Question, texts.question, file->file, file->bodyLine);
-        if (texts.siFaux) {
-            const auto before = body.substr(0, body.size() - texts.siFaux->size());
-            const auto lines = std::count(before.begin(), before.end(), '\n');
-            question.comment = sourceOf(Source::Kind::Comment, *texts.siFaux, file->file,
-                                        file->bodyLine + static_cast<int>(lines));
-        }
-        course_.questions.push_back(std::move(question));
-    }
-
-    static Record record(SourceFile&& file, const coursetool::TableRule& table) {
-        Place place = file.fields.places.front().line > 0 ? file.fields.places.front()
-                                                          : Place{file.file, 1, 1};
-        Record record(table, std::move(file.fields), std::move(place), {});
-        record.ignored = std::move(file.ignored);
-        return record;
-    }
-
-    authoring::MarkdownCompiler compiler_;
+    coursetool::SourceReader& reader_;
     Report& report_;
     Course course_;
 };
@@ -346,8 +254,8 @@ bool isInstalledCourse(const fs::path& directory) {
     return !findIn(directory, coursetool::kCourseFile).empty();
 }
 
-Course readSources(const fs::path& directory, const page::TextMetrics& metrics, Report& report) {
-    return SourceReader(directory, metrics, report).read();
+Course readSources(const fs::path& directory, coursetool::SourceReader& reader, Report& report) {
+    return SourcesReader(directory, reader, report).read();
 }
 
 Course readInstallation(const fs::path& directory, Report& report) {

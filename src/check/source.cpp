@@ -14,12 +14,11 @@ Line readLine(QStringView text, int number) {
         return line;
     line.directive = text.sliced(kDirectiveMark.size());
     line.what = formOf(line.directive);
-    for (const markup::Directive& form : markup::directiveTable())
-        if (form.match == markup::Match::Whole && form.keyword.front() == line.directive.front() &&
-            line.directive.size() > form.keyword.size() &&
-            line.directive.startsWith(form.keyword) &&
-            (!line.what || line.what->keyword.size() < form.keyword.size()))
-            line.wholeAhead = &form;
+    for (const markup::Directive* const form : markup::directivesFrom(line.directive.front()))
+        if (form->match == markup::Match::Whole && line.directive.size() > form->keyword.size() &&
+            line.directive.startsWith(form->keyword) &&
+            (!line.what || line.what->keyword.size() < form->keyword.size()))
+            line.wholeAhead = form;
     return line;
 }
 
@@ -57,9 +56,12 @@ int Source::fileLine(int number) const {
 
 const markup::Directive* formOf(QStringView directive) {
     const markup::Directive* longest = nullptr;
-    for (const markup::Directive& form : markup::directiveTable())
-        if (form.matches(directive) && (!longest || form.keyword.size() > longest->keyword.size()))
-            longest = &form;
+    if (directive.isEmpty())
+        return nullptr;
+    for (const markup::Directive* const form : markup::directivesFrom(directive.front()))
+        if (form->matches(directive) &&
+            (!longest || form->keyword.size() > longest->keyword.size()))
+            longest = form;
     return longest;
 }
 

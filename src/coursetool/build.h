@@ -2,14 +2,11 @@
 
 #include "coursetool/markdown_source.h"
 #include "coursetool/report.h"
+#include "coursetool/source_reader.h"
 
 #include <filesystem>
 
 namespace coursetool {
-
-/// What a build renews. Without the files, those of an earlier build stay as they are; they are
-/// checked all the same.
-enum class BuildParts { All, Databases };
 
 /// Compiles the course sources in `source` into the installation directory `output`: both
 /// databases, the files and the disc directories. Every fault of the sources is reported; with one
@@ -18,7 +15,10 @@ enum class BuildParts { All, Databases };
 /// each). `compiler` is asked for when a source is in Markdown; without it such a source is a
 /// fault.
 bool build(const std::filesystem::path& source, const std::filesystem::path& output, Report& report,
-           const CompilerSource& compiler = {}, BuildParts parts = BuildParts::All);
+           const CompilerSource& compiler = {});
+/// The same of what `reader` reads.
+bool build(const std::filesystem::path& source, const std::filesystem::path& output, Report& report,
+           SourceReader& reader);
 
 /// Whether `output` would be read as part of the sources, or is the sources themselves.
 bool liesAmongSources(const std::filesystem::path& source, const std::filesystem::path& output);

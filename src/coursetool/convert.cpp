@@ -10,7 +10,6 @@ namespace coursetool {
 
 namespace {
 
-constexpr std::string_view kReference = "REFERENCE";
 constexpr std::string_view kType = "type";
 
 /// Calls `take` with each line of the fields, its line end included.
@@ -22,12 +21,6 @@ void forEachLine(std::string_view text, Take take) {
         take(text.substr(0, size));
         text.remove_prefix(size);
     }
-}
-
-bool isQuestion(std::string_view fields) {
-    bool found = false;
-    forEachLine(fields, [&](std::string_view line) { found |= line.starts_with(kReference); });
-    return found;
 }
 
 /// The fields of a question with what its text tells: its type and its solution.
@@ -56,17 +49,18 @@ void convert(const std::filesystem::path& file, const authoring::Compiler& compi
     const auto parts = source ? splitFrontMatter(*source, shown(file), report) : std::nullopt;
     if (!parts)
         return;
-    const bool question = isQuestion(parts->frontMatter);
-    const auto compiled = question ? compileMarkdownQuestion(file, compiler, report)
-                                   : compileMarkdownPage(file, compiler, report);
-    if (!compiled || report.hasFaults())
+    const bool question = tellsQuestion(*source);
+    const CompiledSource compiled =
+        question ? compileMarkdownQuestion(*parts, shown(file), compiler, report)
+                 : compileMarkdownPage(*parts, shown(file), compiler, report);
+    if (report.hasFaults())
         return;
-    out.text() += fenced(question ? questionFields(parts->frontMatter, compiled->fields)
+    out.text() += fenced(question ? questionFields(parts->frontMatter, compiled.fields)
                                   : std::string(parts->frontMatter));
-    if (compiled->text)
-        out.text() += '\n' + compiled->text->source;
-    if (compiled->siFaux)
-        out.text() += std::string(kFence) + '\n' + compiled->siFaux->source;
+    if (compiled.text)
+        out.text() += '\n' + compiled.text->source;
+    if (compiled.siFaux)
+        out.text() += std::string(kFence) + '\n' + compiled.siFaux->source;
     if (!out.flush())
         report.outputFailure(out.error());
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "coursetool/markdown_source.h"
 #include "coursetool/output_buffer.h"
 #include "coursetool/render_formats.h"
 #include "coursetool/report.h"
@@ -21,6 +22,7 @@ struct TraceRequest {
     std::filesystem::path source;
     Drives drives;
     std::optional<int> question = {};
+    CompilerSource compiler = {}; ///< for a source in Markdown
 };
 
 /// Bounds of RenderRequest::scale: below, no letter has a pixel left; above, a page as wide as the
@@ -39,6 +41,7 @@ struct RenderRequest {
     RenderFormat format = RenderFormat::Png;
     double scale = 1; ///< pixels of the picture to one of the screen
     Drives drives;
+    CompilerSource compiler = {}; ///< for a source in Markdown
 
     bool all() const { return !page && !question && source.empty(); }
 };

@@ -30,6 +30,8 @@ int lineAt(QStringView source, qsizetype position) {
 }
 
 void warn(const SourcePlace& place, int line, const std::string& sentence, Report& report) {
+    if (!place.lines.empty())
+        line = place.lines[std::min(static_cast<std::size_t>(line), place.lines.size()) - 1];
     if (place.name.empty())
         return report.warning({place.file, line}, sentence);
     report.warning({place.file}, place.name + ", ligne " + std::to_string(line) + " : " + sentence);

@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <string>
+#include <vector>
 
 namespace coursetool {
 
@@ -14,6 +15,7 @@ namespace coursetool {
 struct SourcePlace {
     std::string file;
     std::string name = {}; ///< of the page in a database ("page 12"); empty for a file of its own
+    std::vector<int> lines = {}; ///< of the file, for each line of a text that was compiled
 };
 
 /// Warns of what stands after the last CR LF of a source, neither shown nor run; and of text that

@@ -4,10 +4,11 @@
 #include "coursetool/field_value.h"
 #include "coursetool/front_matter.h"
 #include "coursetool/report.h"
+#include "coursetool/source_parts.h"
 
-#include <filesystem>
 #include <functional>
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace coursetool {
@@ -32,13 +33,11 @@ struct CompiledSource {
     std::vector<authoring::Description> descriptions;
 };
 
-/// Names every fault with its place in `file`; gives nothing when the file cannot be read at all.
-std::optional<CompiledSource> compileMarkdownPage(const std::filesystem::path& file,
-                                                  const authoring::Compiler& compiler,
-                                                  Report& report);
+/// Names every fault with its place in `file`, which `parts` come from.
+CompiledSource compileMarkdownPage(const SourceParts& parts, const std::string& file,
+                                   const authoring::Compiler& compiler, Report& report);
 /// The same for a question. `type` may be left out, `solution` must be: the text tells both.
-std::optional<CompiledSource> compileMarkdownQuestion(const std::filesystem::path& file,
-                                                      const authoring::Compiler& compiler,
-                                                      Report& report);
+CompiledSource compileMarkdownQuestion(const SourceParts& parts, const std::string& file,
+                                       const authoring::Compiler& compiler, Report& report);
 
 } // namespace coursetool

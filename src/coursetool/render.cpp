@@ -15,8 +15,6 @@ namespace coursetool {
 
 namespace {
 
-constexpr char kQuestionEnding[] = ".question";
-
 /// Names for the files of numbered things, each given once.
 class FileNames {
 public:
@@ -88,19 +86,18 @@ public:
     }
 
     void renderSource() {
-        const auto source = readPageSource(request_.source, report_);
+        const auto source = readPageSource(request_.source, request_.compiler, report_);
         if (!source)
             return;
-        const bool isQuestion = request_.source.extension() == kQuestionEnding;
-        const markup::PageText text{*source, isQuestion ? markup::DrawnAs::Question
-                                                        : markup::DrawnAs::CoursePage};
         markup::DrawingState state;
-        const markup::DrawnPage page = markup::drawPage(text, {state, pictures_, fonts_});
-        reportLost(text, page, fonts_, {shown(request_.source)}, report_);
+        const markup::DrawnPage page = markup::drawPage(source->text, {state, pictures_, fonts_});
+        reportLost(source->text, page, fonts_, {shown(request_.source), {}, source->fileLines},
+                   report_);
         if (report_.hasFaults())
             return;
-        writeOne(isQuestion ? viewer::questionSheet(page, fonts_, fields_)
-                            : viewer::bareSheet(page, fonts_));
+        writeOne(source->text.as == markup::DrawnAs::Question
+                     ? viewer::questionSheet(page, fonts_, fields_)
+                     : viewer::bareSheet(page, fonts_));
     }
 
 private:

@@ -21,14 +21,11 @@ std::string locate(const Place& place) {
 } // namespace
 
 void Report::fault(const Place& place, std::string_view sentence) {
-    ++faults_;
-    add(Remark::Kind::Fault, place, sentence);
+    repeat({Remark::Kind::Fault, place, std::string(sentence)});
 }
 
 void Report::failure(const Place& place, std::string_view sentence) {
-    ++faults_;
-    ++failures_;
-    add(Remark::Kind::Failure, place, sentence);
+    repeat({Remark::Kind::Failure, place, std::string(sentence)});
 }
 
 void Report::failure(const std::filesystem::path& path, const char* what, std::error_code cause) {
@@ -36,17 +33,20 @@ void Report::failure(const std::filesystem::path& path, const char* what, std::e
 }
 
 void Report::warning(const Place& place, std::string_view sentence) {
-    add(Remark::Kind::Warning, place, sentence);
+    repeat({Remark::Kind::Warning, place, std::string(sentence)});
+}
+
+void Report::repeat(const Remark& remark) {
+    const bool warning = remark.kind == Remark::Kind::Warning;
+    faults_ += warning ? 0 : 1;
+    failures_ += remark.kind == Remark::Kind::Failure ? 1 : 0;
+    lines_.push_back(text::plainLine(
+        locate(remark.place).append(warning ? "avertissement : " : "").append(remark.sentence)));
+    remarks_.push_back(remark);
 }
 
 void Report::outputFailure(std::error_code error) {
     failure({"sortie standard"}, "tout n’a pas pu être écrit : " + files::causeOf(error));
-}
-
-void Report::add(Remark::Kind kind, const Place& place, std::string_view sentence) {
-    const char* const before = kind == Remark::Kind::Warning ? "avertissement : " : "";
-    lines_.push_back(text::plainLine(locate(place).append(before).append(sentence)));
-    remarks_.push_back({kind, place, std::string(sentence)});
 }
 
 std::string inQuotes(std::string_view words) {

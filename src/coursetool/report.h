@@ -39,6 +39,8 @@ public:
     /// The same with the system's cause: "le fichier ne peut pas être écrit : le disque est plein".
     void failure(const std::filesystem::path& path, const char* what, std::error_code cause);
     void warning(const Place& place, std::string_view sentence);
+    /// What another report was told.
+    void repeat(const Remark& remark);
     /// How far long work has come: done of all that there are of `what` ("pages"). It is done when
     /// both are the same. Told to who asked for it, and not kept.
     void progress(const char* what, std::size_t done, std::size_t all) const {
@@ -60,8 +62,6 @@ public:
     const std::vector<std::string>& lines() const { return lines_; }
 
 private:
-    void add(Remark::Kind kind, const Place& place, std::string_view sentence);
-
     std::size_t faults_ = 0;
     std::size_t failures_ = 0;
     std::vector<Remark> remarks_;

@@ -55,17 +55,26 @@ std::optional<SourceParts> splitFrontMatter(std::string_view source, const std::
     return parts;
 }
 
+bool tellsQuestion(std::string_view source) {
+    constexpr std::string_view kReference = "REFERENCE";
+    const std::size_t end =
+        std::min(source.find(std::string("\n").append(kFence), 1), source.size());
+    const std::string_view fields = source.substr(0, end);
+    return fields.find(std::string("\n").append(kReference)) != kNone;
+}
+
 QuestionParts splitQuestion(std::string_view body, int bodyLine, const std::string& file,
                             Report& report) {
     const std::size_t fence = findFence(body, 0);
     if (fence == kNone)
-        return {body, std::nullopt};
+        return {body, std::nullopt, 0};
     const std::size_t comment = afterFence(body, fence).value_or(body.size());
     for (std::size_t more = findFence(body, comment); more != kNone;
          more = findFence(body, more + kFence.size() + 1))
         report.fault({file, bodyLine + lineEnds(body.substr(0, more)), 1},
                      "« +++ » en trop : pour une ligne de texte, écrire « \\+++ »");
-    return {body.substr(0, fence), body.substr(comment)};
+    return {body.substr(0, fence), body.substr(comment),
+            bodyLine + lineEnds(body.substr(0, comment))};
 }
 
 } // namespace coursetool

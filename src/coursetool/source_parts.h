@@ -20,11 +20,15 @@ struct SourceParts {
 std::optional<SourceParts> splitFrontMatter(std::string_view source, const std::string& file,
                                             Report& report);
 
+/// Whether the fields are those of a question, which alone have REFERENCE.
+bool tellsQuestion(std::string_view source);
+
 /// The body of a question: its text and, after a fence, the comment on a wrong answer. The line end
 /// before the fence belongs to the question.
 struct QuestionParts {
     std::string_view question;
     std::optional<std::string_view> siFaux;
+    int siFauxLine = 0; ///< of the file, on which the comment starts
 };
 QuestionParts splitQuestion(std::string_view body, int bodyLine, const std::string& file,
                             Report& report);

@@ -101,14 +101,16 @@ void checkUtf8(std::string_view text, const std::string& file, Report& report) {
 
 std::optional<std::string> readSource(const std::filesystem::path& file, Report& report) {
     const auto bytes = readBytes(file, report);
-    if (!bytes)
-        return std::nullopt;
+    return bytes ? sourceOfBytes(*bytes, shown(file), report) : std::nullopt;
+}
+
+std::optional<std::string> sourceOfBytes(std::string_view bytes, const std::string& file,
+                                         Report& report) {
     const std::size_t faultsBefore = report.faultCount();
-    std::string_view text = *bytes;
-    if (text.starts_with(kByteOrderMark))
-        text.remove_prefix(kByteOrderMark.size());
-    checkUtf8(text, shown(file), report);
-    std::string source = withoutCarriageReturns(text, shown(file), report);
+    if (bytes.starts_with(kByteOrderMark))
+        bytes.remove_prefix(kByteOrderMark.size());
+    checkUtf8(bytes, file, report);
+    std::string source = withoutCarriageReturns(bytes, file, report);
     if (report.faultCount() != faultsBefore)
         return std::nullopt;
     return source;

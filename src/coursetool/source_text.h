@@ -27,6 +27,9 @@ void checkUtf8(std::string_view text, const std::string& file, Report& report);
 /// a byte order mark at the start is passed over. Other carriage returns and bytes that are no
 /// UTF-8 are faults, each named with its line.
 std::optional<std::string> readSource(const std::filesystem::path& file, Report& report);
+/// The same of bytes that were read from `file`.
+std::optional<std::string> sourceOfBytes(std::string_view bytes, const std::string& file,
+                                         Report& report);
 
 // Text lines of three plus signs would end a part of a source, so they are written with a backslash
 // before them, which reading takes away again (one of however many there are).

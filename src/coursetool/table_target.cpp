@@ -51,22 +51,10 @@ TableTarget::TableTarget(DatabaseTarget& database, const TableRule& rule, Report
     : report_(report), writer_(database.addTable(rule)) {}
 
 void TableTarget::append(std::span<const jet::Value> values, const Place& place) {
-    ++count_;
     if (!writer_ || report_.hasFaults())
         return;
     if (const auto done = writer_->append(values); !done)
         tellAt(place, done.error(), report_);
-}
-
-void KeyPlaces::take(const jet::Value& number, const Place& place, Report& report) {
-    const auto key = number.integer();
-    if (!key)
-        return;
-    const auto [known, isNew] = places_.try_emplace(*key, place);
-    if (!isNew)
-        report.fault(place, inQuotes(std::string(key_.name) + " = " + std::to_string(*key)) +
-                                " est déjà pris par " + known->second.file + ", ligne " +
-                                std::to_string(known->second.line) + " : choisir un autre numéro");
 }
 
 } // namespace coursetool

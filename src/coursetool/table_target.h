@@ -7,7 +7,6 @@
 #include <filesystem>
 #include <optional>
 #include <span>
-#include <unordered_map>
 
 namespace coursetool {
 
@@ -35,25 +34,10 @@ public:
 
     /// `place` is the source that the record comes from.
     void append(std::span<const jet::Value> values, const Place& place);
-    /// Records so far.
-    int count() const { return count_; }
 
 private:
     Report& report_;
     std::optional<jet::TableWriter> writer_;
-    int count_ = 0;
-};
-
-/// The numbers of a key column and where each was given first.
-class KeyPlaces {
-public:
-    explicit KeyPlaces(const FieldRule& key) : key_(key) {}
-    /// Reports a fault when another source has the number.
-    void take(const jet::Value& number, const Place& place, Report& report);
-
-private:
-    const FieldRule& key_;
-    std::unordered_map<std::int32_t, Place> places_;
 };
 
 } // namespace coursetool

@@ -45,8 +45,8 @@ public:
     }
 
     void traceSource() {
-        if (const auto source = readPageSource(request_.source, report_))
-            write({*source}, {coursetool::shown(request_.source)});
+        if (const auto source = readPageSource(request_.source, request_.compiler, report_))
+            write(source->text, {coursetool::shown(request_.source), {}, source->fileLines});
     }
 
 private:

@@ -2,6 +2,9 @@
 
 #include "markup/directives.h"
 
+#include <array>
+#include <vector>
+
 namespace markup {
 
 std::span<const Directive> directiveTable() {
@@ -97,6 +100,18 @@ std::span<const Directive> directiveTable() {
         {u"EXOVI", Prefix, questionVideo, PageLink, {}, Questions},
     };
     return kTable;
+}
+
+std::span<const Directive* const> directivesFrom(QChar first) {
+    // A page asks for every line; keywords are ASCII.
+    static const auto kRows = [] {
+        std::array<std::vector<const Directive*>, 128> rows;
+        for (const Directive& row : directiveTable())
+            rows.at(row.keyword.front().unicode()).push_back(&row);
+        return rows;
+    }();
+    return first.unicode() < kRows.size() ? kRows[first.unicode()]
+                                          : std::span<const Directive* const>();
 }
 
 } // namespace markup

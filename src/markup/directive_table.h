@@ -49,8 +49,7 @@ struct Directive {
         return argument == Argument::File || argument == Argument::SizedFile;
     }
 
-    /// Most directives differ in their first letter already; a page makes this test for every row
-    /// and every line.
+    /// Most directives differ in their first letter already.
     bool matches(QStringView d) const {
         if (d.isEmpty() || d.front() != keyword.front())
             return false;
@@ -61,5 +60,8 @@ struct Directive {
 /// All directives, in the order in which they are tested. Every one that matches runs: there is no
 /// early exit, so the order and the overlaps are part of the language.
 std::span<const Directive> directiveTable();
+
+/// The rows that a directive can match, by its first letter, in the order of the table.
+std::span<const Directive* const> directivesFrom(QChar first);
 
 } // namespace markup

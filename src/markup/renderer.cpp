@@ -158,9 +158,11 @@ void Renderer::tradcode(QStringView ligne) {
     const QStringView d = ligne.sliced(kDirectiveMark.size());
     QString buffer;
     const QStringView composed = page::composedText(d, buffer);
-    for (const Directive& directive : directiveTable())
-        if (directive.matches(d))
-            directive.run(*this, directive.namesAFile() ? d : composed);
+    if (d.isEmpty())
+        return;
+    for (const Directive* const directive : directivesFrom(d.front()))
+        if (directive->matches(d))
+            directive->run(*this, directive->namesAFile() ? d : composed);
 }
 
 void Renderer::printTextLine(const QString& texte, bool finParagraphe) {

@@ -18,11 +18,16 @@ constexpr int kLineHeight = 24;
 constexpr int kMargin = 8;
 constexpr QRgb kGround = 0xfffdf0ee; ///< kRed has 5.8 on it, kInk 14.4
 
-/// A line that can be clicked, or pressed with the keyboard.
+/// A line that can be clicked, or pressed with the keyboard, when it has a place.
 class Line : public QAbstractButton {
 public:
     Line(QString place, QString words, QRgb ink, QWidget* parent)
         : QAbstractButton(parent), place_(std::move(place)), words_(std::move(words)), ink_(ink) {
+        if (place_.isEmpty()) {
+            setAccessibleName(words_);
+            setFocusPolicy(Qt::NoFocus);
+            return;
+        }
         setCursor(Qt::PointingHandCursor);
         setFocusPolicy(Qt::TabFocus); // a click leaves the keyboard to the page
         setAccessibleName(place_ + QStringLiteral(" : ") + words_);
@@ -34,7 +39,7 @@ public:
 protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
-        if (underMouse() || hasFocus())
+        if (!place_.isEmpty() && (underMouse() || hasFocus()))
             painter.fillRect(rect(), QColor::fromRgb(look::kPressedTint));
         const QRect text = rect().adjusted(kMargin, 0, -kMargin, 0);
         painter.setFont(look::interfaceFont(look::kLabelPx, look::Weight::Bold));
@@ -43,7 +48,8 @@ protected:
         const QString place =
             painter.fontMetrics().elidedText(place_, Qt::ElideLeft, text.width() / 2);
         painter.drawText(text, Qt::AlignVCenter | Qt::AlignLeft, place);
-        const int left = painter.fontMetrics().horizontalAdvance(place) + kMargin;
+        const int left =
+            place.isEmpty() ? 0 : painter.fontMetrics().horizontalAdvance(place) + kMargin;
         painter.setFont(look::interfaceFont(look::kLabelPx));
         painter.setPen(QColor::fromRgb(look::kInk));
         const QRect rest = text.adjusted(left, 0, 0, 0);
@@ -102,12 +108,19 @@ void FaultStrip::show(const std::vector<coursetool::Remark>& remarks,
                       const std::filesystem::path& sources) {
     clear();
     using Kind = coursetool::Remark::Kind;
+    const std::size_t told = remarks.size() > kMostLines ? kMostLines - 1 : remarks.size();
     // Warnings last: faults keep the course from being shown.
     for (const bool warnings : {false, true})
         for (const coursetool::Remark& remark : remarks)
-            if ((remark.kind == Kind::Warning) == warnings && lines_.size() < kMostLines)
+            if ((remark.kind == Kind::Warning) == warnings && lines_.size() < told)
                 addLine(placeText(remark.place, sources), QString::fromStdString(remark.sentence),
                         warnings ? look::kMuted : look::kRed);
+    if (told < remarks.size())
+        addLine(
+            {},
+            QStringLiteral("et %1 autres\u00A0: «\u00A0orvalente-cours check\u00A0» les dit toutes")
+                .arg(remarks.size() - told),
+            look::kMuted);
     const int height = static_cast<int>(lines_.size()) * kLineHeight;
     setGeometry(foot_.left(), foot_.bottom() + 1 - height, foot_.width(), height);
     setVisible(!lines_.empty());

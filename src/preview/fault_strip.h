@@ -24,7 +24,7 @@ private:
     void clear();
     void addLine(const QString& place, const QString& words, QRgb ink);
 
-    /// More lines than that would hide the page; the terminal has them all.
+    /// More lines than that would hide the page; the last tells then how many more there are.
     static constexpr std::size_t kMostLines = 4;
 
     QRect foot_;

@@ -147,12 +147,47 @@ TEST(BuildWarnings, tellFaultsOnlyAndNoMoreThanAScreenful) {
         body += "##LIERTlà#PAG777\n¶\n";
     course.setBody(body);
     coursetool::Report report;
-    check::warnOfWrongPages(course.work.path("src"), CheckedCourse::fonts(), report);
+    coursetool::PlainSourceReader reader(test_support::courseCompiler());
+    check::warnOfWrongPages(course.work.path("src"), reader, CheckedCourse::fonts(), report);
     EXPECT_FALSE(report.hasFaults());
     ASSERT_EQ(report.lines().size(), 21u);
     EXPECT_THAT(report.lines().front(), HasSubstr("1.page:8:1: avertissement : "));
     EXPECT_THAT(report.lines().front(), HasSubstr("[N401]"));
     EXPECT_THAT(report.lines().back(), HasSubstr("et 10 autres"));
+}
+
+/// Counts the files that are read from the disk.
+struct CountingReader : coursetool::PlainSourceReader {
+    using PlainSourceReader::PlainSourceReader;
+    std::shared_ptr<const coursetool::ReadSource> read(coursetool::SourceKind kind,
+                                                       const std::filesystem::path& file,
+                                                       coursetool::Report& report) override {
+        ++times;
+        return PlainSourceReader::read(kind, file, report);
+    }
+    int times = 0;
+};
+
+TEST(BuildWarnings, areOfWhatTheBuildHasReadAlready) {
+    const CheckedCourse course;
+    course.work.write("src/pages/2.md", "+++\nNumeropage = 2\nIndex = 2\n+++\n[là](page:777)\n");
+    CountingReader disk(test_support::courseCompiler());
+    coursetool::TwiceReadSources reader(disk);
+    coursetool::Report report;
+    EXPECT_TRUE(
+        coursetool::build(course.work.path("src"), course.work.path("out"), report, reader));
+    EXPECT_EQ(disk.times, 4); // two pages, a test, a question
+    check::warnOfWrongPages(course.work.path("src"), reader, CheckedCourse::fonts(), report);
+    EXPECT_EQ(disk.times, 4);
+    EXPECT_THAT(textOf(report), HasSubstr("2.md:5:1: avertissement : "));
+    // What had a fault is read again, so that whoever reads next is told of it, too.
+    course.work.write("src/pages/3.md", "+++\nNumeropage = 3\n+++\n$\\inconnu$\n");
+    coursetool::Report first;
+    coursetool::Report second;
+    for (coursetool::Report* told : {&first, &second})
+        reader.read(coursetool::SourceKind::Page, course.work.path("src/pages/3.md"), *told);
+    EXPECT_TRUE(first.hasFaults());
+    EXPECT_EQ(first.lines(), second.lines());
 }
 
 TEST(HostileCourse, isReadToItsEnd) {

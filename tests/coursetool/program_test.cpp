@@ -322,6 +322,36 @@ TEST_F(Program, findsPicturesBesideASourceWhateverItsPathLooksLike) {
     }
 }
 
+TEST_F(Program, drawsASourceInMarkdown) {
+    const std::string picture = "<svg width='10' height='20'><path d='M0 0h9v9z'/></svg>";
+    work.write("src/files/fig.svg", picture);
+    work.write("seul/fig.svg", picture);
+    const std::string text = "+++\nNumeropage = 2\ntitre = \"Le prisme\"\n+++\nUn mot.\n\n"
+                             "![Une figure](fig.svg)\n";
+    for (const char* name : {"src/pages/2.md", "seul/page.md"}) {
+        work.write(name, text);
+        const Outcome traced = run({"trace", "--source", name});
+        EXPECT_EQ(traced.err, "") << name;
+        EXPECT_EQ(traced.code, 0) << name;
+        EXPECT_THAT(traced.out, testing::AllOf(HasSubstr(R"("text":"Le prisme")"),
+                                               HasSubstr(R"("name":"fig.svg")")));
+        const Outcome drawn = run({"render", "--source", name, "-o", "page.svg"});
+        EXPECT_EQ(drawn.err, "") << name;
+        EXPECT_THAT(work.read("page.svg"), HasSubstr("<image"));
+    }
+    work.write("src/exercises/a/1.md",
+               "+++\nREFERENCE = 101\n+++\nVrai ?\n\n- [x] oui\n- [ ] non\n");
+    EXPECT_THAT(run("trace --source src/exercises/a/1.md").out, HasSubstr(R"("op":"field")"));
+    work.write("seul/page.md", "+++\nNumeropage = 2\n+++\n$\\inconnu$\n");
+    for (const char* call :
+         {"trace --source seul/page.md", "render --source seul/page.md -o f.svg"}) {
+        const Outcome wrong = run(call);
+        EXPECT_EQ(wrong.code, 1) << call;
+        EXPECT_THAT(wrong.err, testing::StartsWith("seul/page.md:4:")) << call;
+    }
+    EXPECT_FALSE(work.has("f.svg"));
+}
+
 TEST_F(Program, saysThatNothingIsDrawnOfASourceWithOtherLineEnds) {
     for (const char* text : {"Un¶\nDeux¶\n", "Un¶", "Un¶\rDeux¶\r"})
         for (const char* name : {"a.src", "a.question"}) {

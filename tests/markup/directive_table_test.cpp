@@ -26,6 +26,20 @@ TEST(DirectiveTable, someKeywordsStandAloneOthersAreABeginning) {
     EXPECT_EQ(whole, kWhole);
 }
 
+TEST(DirectiveTable, isFoundByFirstLettersInItsOrder) {
+    std::size_t found = 0;
+    for (char16_t first = 0; first < 300; ++first) {
+        std::vector<const markup::Directive*> meant;
+        for (const markup::Directive& directive : markup::directiveTable())
+            if (directive.keyword.front() == QChar(first))
+                meant.push_back(&directive);
+        const auto rows = markup::directivesFrom(QChar(first));
+        EXPECT_EQ(std::vector(rows.begin(), rows.end()), meant) << int{first};
+        found += meant.size();
+    }
+    EXPECT_EQ(found, markup::directiveTable().size());
+}
+
 TEST(DirectiveTable, whatFollowsMakesNoDifferenceWhereABeginningIsEnough) {
     const char* const sources[] = {"##ALCE%1\na\n",
                                    "##UND1\n##UND0%1\na\n",

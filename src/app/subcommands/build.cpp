@@ -33,20 +33,21 @@ struct Build : Subcommand {
     }
 
     int run(ToolRun& run) override {
-        if (coursetool::build(pathFrom(source), pathFrom(output), run.report,
-                              [&run] { return run.compiler(); }))
-            warnOfWrongPages(run);
+        coursetool::PlainSourceReader plain([&run] { return run.compiler(); });
+        coursetool::TwiceReadSources reader(plain);
+        if (coursetool::build(pathFrom(source), pathFrom(output), run.report, reader))
+            warnOfWrongPages(run, reader);
         return run.verdict();
     }
 
 private:
     /// The course stands. That nobody could look at its pages is worth a word, no more.
-    void warnOfWrongPages(ToolRun& run) const {
+    void warnOfWrongPages(ToolRun& run, coursetool::SourceReader& reader) const {
         const auto found =
             platform::loadModuleFunction(ORVALENTE_DRAWING_MODULE, check::kBuildWarningsSymbol);
         if (found.address)
             reinterpret_cast<check::BuildWarningsFunction>(found.address)(
-                run.argc, run.argv, pathFrom(source), run.report);
+                run.argc, run.argv, pathFrom(source), reader, run.report);
         else
             run.report.warning({ORVALENTE_DRAWING_MODULE},
                                "les pages ne sont pas relues : " + found.reason);

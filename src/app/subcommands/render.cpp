@@ -2,6 +2,7 @@
 #include "app/subcommands/subcommand.h"
 #include "app/subcommands/whole_number.h"
 #include "coursetool/drawing_request.h"
+#include "coursetool/source_files.h"
 
 #include <algorithm>
 #include <charconv>
@@ -70,7 +71,7 @@ struct Render : Subcommand {
         options.pageOrQuestion(page, question);
         options.flag("--all", all, "Toutes les pages, puis toutes les questions");
         options.option("--source", "FICHIER", source,
-                       "Le texte d’une page, ses fins de ligne telles quelles");
+                       "Le texte d’une page, ses fins de ligne telles quelles, ou du Markdown");
         options.output("SORTIE", output,
                        "Fichier à écrire ; avec --all un dossier, ou un PDF pour le tout");
         options.option("--format", "FORMAT", format,
@@ -105,6 +106,9 @@ struct Render : Subcommand {
     }
 
     int run(ToolRun& run) override {
+        request.compiler = [&run] { return run.compiler(); };
+        if (coursetool::isMarkdown(request.source))
+            run.compiler(); // made first, it outlives what draws, as what it stands on must
         if (const auto render = run.drawing<coursetool::RenderFunction>(coursetool::kRenderSymbol))
             render(run.argc, run.argv, request, run.report);
         return run.verdict();

@@ -2,6 +2,7 @@
 #include "app/subcommands/subcommand.h"
 #include "app/subcommands/whole_number.h"
 #include "coursetool/drawing_request.h"
+#include "coursetool/source_files.h"
 
 namespace app {
 
@@ -20,8 +21,9 @@ struct Trace : Subcommand {
     void declare(Options& options) override {
         options.course(course);
         options.pageOrQuestion(page, question);
-        options.option("--source", "FICHIER", source,
-                       "Dessine le texte d’une page, ses fins de ligne telles quelles");
+        options.option(
+            "--source", "FICHIER", source,
+            "Dessine le texte d’une page, ses fins de ligne telles quelles, ou du Markdown");
         options.drives(drives);
         options.example("orvalente-cours trace installation --page 1");
         options.example("orvalente-cours trace --source page.txt");
@@ -29,7 +31,7 @@ struct Trace : Subcommand {
 
     Refusal refusal() override {
         request = {
-            pathFrom(course), wholeNumber(page), pathFrom(source), {}, wholeNumber(question)};
+            pathFrom(course), wholeNumber(page), pathFrom(source), {}, wholeNumber(question), {}};
         if (Refusal wrong = readDrives(drives, request.drives))
             return wrong;
         if (!source.empty()) {
@@ -47,6 +49,9 @@ struct Trace : Subcommand {
     }
 
     int run(ToolRun& run) override {
+        request.compiler = [&run] { return run.compiler(); };
+        if (coursetool::isMarkdown(request.source))
+            run.compiler(); // made first, it outlives what draws, as what it stands on must
         if (const auto trace = run.drawing<coursetool::TraceFunction>(coursetool::kTraceSymbol))
             trace(run.argc, run.argv, request, run.out, run.report);
         return run.verdict();
