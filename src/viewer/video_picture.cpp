@@ -60,4 +60,11 @@ void VideoPicture::mousePressEvent(QMouseEvent* event) {
         clicked_();
 }
 
+void VideoPicture::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton || picture_.isNull() || !doubled_)
+        return;
+    clicked_();
+    doubled_();
+}
+
 } // namespace viewer
