@@ -1,5 +1,6 @@
 #include "look/button.h"
 #include "look/check_box.h"
+#include "look/dress.h"
 #include "look/option_button.h"
 #include "look/palette.h"
 #include "look/tool_tip.h"
@@ -7,6 +8,7 @@
 #include <QApplication>
 #include <QHelpEvent>
 #include <QScreen>
+#include <QStyle>
 #include <QTest>
 #include <QToolTip>
 
@@ -83,6 +85,25 @@ TEST(Choices, canBeHitAndShowTheKeyboard) {
         QTest::mouseClick(choice, Qt::LeftButton, {}, QPoint(choice->width() - 2, 23));
         EXPECT_TRUE(choice->isChecked());
     }
+}
+
+TEST(Dress, leavesNothingOfADarkDesktop) {
+    const QPalette before = QApplication::palette();
+    const QFont face = QApplication::font();
+    QApplication::setPalette(QPalette(QColor(250, 250, 250)));
+    dressApplication();
+    const QPalette light = QApplication::palette();
+    QApplication::setPalette(QPalette(QColor(30, 30, 30)));
+    dressApplication();
+    const QPalette dark = QApplication::palette();
+    for (int role = 0; role < QPalette::NColorRoles; ++role)
+        for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+            EXPECT_EQ(dark.color(group, QPalette::ColorRole(role)),
+                      light.color(group, QPalette::ColorRole(role)))
+                << role;
+    EXPECT_EQ(QApplication::style()->name(), "fusion");
+    QApplication::setPalette(before);
+    QApplication::setFont(face);
 }
 
 } // namespace

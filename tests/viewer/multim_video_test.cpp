@@ -1,9 +1,12 @@
+#include "look/reduced_light.h"
 #include "viewer/window_case.h"
 
 #include <QMenu>
 #include <QScrollBar>
 
 #include <gmock/gmock.h>
+
+#include <algorithm>
 
 namespace {
 
@@ -96,6 +99,21 @@ TEST_F(VideoWindow, aVideoIsShownAtDoubleSizeAndBack) {
     show(6);
     EXPECT_FALSE(size->isVisible()) << "a choice of videos has one size";
     EXPECT_EQ(projo->size(), QSize(320, 240));
+}
+
+TEST_F(VideoWindow, aVideoKeepsItsColoursInReducedLight) {
+    show(5);
+    bench.window.setPictureVisible(true);
+    QImage frame(320, 240, QImage::Format_RGB32);
+    // As frames come: red, with nothing in the byte of the opacity.
+    std::fill_n(reinterpret_cast<QRgb*>(frame.bits()), frame.width() * frame.height(), 0x00ff0000U);
+    bench.window.showPicture(frame);
+    look::ReducedLight light;
+    light.setOn(true);
+    const QImage seen = bench.window.grab().toImage();
+    light.setOn(false);
+    EXPECT_EQ(QColor(seen.pixel(QPoint(336, 424))).name(), "#cc0000");
+    EXPECT_LT(QColor(seen.pixel(QPoint(780, 424))).lightness(), 60) << "the frame around it";
 }
 
 TEST_F(VideoWindow, pointerPlaysAndSeeks) {
