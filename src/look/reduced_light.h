@@ -13,7 +13,6 @@ public:
     /// Watches the application object, which must be there, for as long as it lives.
     ReducedLight();
 
-    bool isOn() const { return on_; }
     void setOn(bool on);
 
 protected:

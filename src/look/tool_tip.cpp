@@ -45,13 +45,16 @@ QString asMarkup(const QString& words, const QString& keys) {
            signs + hint + QStringLiteral("</div>");
 }
 
-bool dressTips() {
-    QToolTip::setFont(interfaceFont(kLabelPx));
+/// A face or colours for the whole program would take those of the tooltips away.
+void dressTips() {
+    const QFont face = interfaceFont(kLabelPx);
     QPalette colours = QToolTip::palette();
+    if (QToolTip::font() == face && colours.color(QPalette::ToolTipText).rgb() == kEdge)
+        return;
+    QToolTip::setFont(face);
     colours.setColor(QPalette::ToolTipBase, QColor::fromRgb(kPaper));
     colours.setColor(QPalette::ToolTipText, QColor::fromRgb(kEdge)); // of the border
     QToolTip::setPalette(colours);
-    return true;
 }
 
 /// The key that does what the control does, as a person reads it; empty when there is none.
@@ -109,7 +112,7 @@ void setToolTip(QWidget& control, const QString& words, const QString& keys) {
 }
 
 void showToolTip(QPoint place, const QString& words, QWidget& control) {
-    [[maybe_unused]] static const bool dressed = dressTips();
+    dressTips();
     QToolTip::showText(place, words.isEmpty() ? QString() : asMarkup(words, keysOf(control)),
                        &control);
     placeBeside(control);
