@@ -1,6 +1,7 @@
 #include "common/module_application.h"
 
 #include "look/dress.h"
+#include "look/program_icon.h"
 
 #include <QLocale>
 
@@ -9,6 +10,7 @@ namespace common {
 ModuleApplication::ModuleApplication(int& argc, char** argv) : QApplication(argc, argv) {
     QLocale::setDefault(QLocale(QLocale::French, QLocale::France));
     look::dressApplication();
+    setWindowIcon(look::programIcon());
 }
 
 } // namespace common

@@ -1,6 +1,7 @@
 #include "app/command_line.h"
 #include "app/shell_application.h"
 #include "authoring/markdown_compiler.h"
+#include "look/dress.h"
 #include "look/held_keys.h"
 #include "look/scale.h"
 #include "page/faces/font_book.h"
@@ -92,6 +93,7 @@ int main(int argc, char** argv) {
         qputenv("QT_SCALE_FACTOR", QByteArray::number(scale));
 
     QApplication application(argc, argv);
+    look::dressApplication();
     const look::HeldKeys heldKeys;
     QApplication::setApplicationName(QStringLiteral("orvalente"));
     // The leaving question ends the program, not the closing of some window.

@@ -21,6 +21,9 @@ namespace {
 /// How long a window that stands over the page is waited for before it is looked at again.
 constexpr int kAgainMs = 100;
 
+/// What the strip leaves free at the right, in pixels: the page can be scrolled below it.
+constexpr int kScrollBar = 20;
+
 } // namespace
 
 Preview::Preview(preview::PreviewedCourse& course, CourseReload& reload, viewer::Multim& window,
@@ -28,7 +31,8 @@ Preview::Preview(preview::PreviewedCourse& course, CourseReload& reload, viewer:
     : course_(course), reload_(reload), window_(window), record_(record), fonts_(fonts),
       linter_(course.sources(), fonts) {
     QWidget* const panel = window.pageArea().parentWidget()->parentWidget();
-    strip_ = new preview::FaultStrip(panel->geometry(), panel->parentWidget());
+    strip_ = new preview::FaultStrip(panel->geometry().adjusted(1, 0, -kScrollBar, -1),
+                                     panel->parentWidget());
     again_.setSingleShot(true);
     again_.setInterval(kAgainMs);
     connect(&again_, &QTimer::timeout, this, [this] { showCourse(); });

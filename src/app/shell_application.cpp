@@ -13,7 +13,9 @@
 #include "exercises/exo_opener.h"
 #include "help/help_opener.h"
 #include "look/message_dialog.h"
+#include "look/print_preview.h"
 #include "look/print_setup.h"
+#include "look/reduced_light.h"
 #include "look/zoom.h"
 #include "output/paper/escape_watch.h"
 #include "output/paper/qt_printer.h"
@@ -25,6 +27,7 @@
 #include "platform/qt/qt_screen.h"
 #include "platform/qt/system_display_settings.h"
 #include "platform/qt/system_help_viewer.h"
+#include "platform/qt/system_pdf_opener.h"
 #include "platform/system_program_windows.h"
 #include "search/coordon_opener.h"
 #include "shell/alerte.h"
@@ -168,6 +171,7 @@ struct ShellApplication::Parts {
     page::FontBook fonts;
     platform::QtScreen screen;
     look::Zoom zoom;
+    look::ReducedLight reducedLight;
     look::DialogMessageBoxes messageBoxes;
     platform::QtProcesses processes;
     OtherWindows otherWindows;
@@ -196,12 +200,16 @@ struct ShellApplication::Parts {
     viewer::PageLoader pages;
     output::QtPrinter printer{fonts, &loadPdfPrinter};
     look::QtPrinterSetup printerSetup{printer, messageBoxes};
+    look::QtPrintPreview printPreview{printer, fonts};
+    platform::SystemPdfOpener pdfOpener;
     platform::SystemHelpViewer helpViewer{otherWindows};
-    Help help{state, helpViewer, {printerSetup, printer, messageBoxes}};
+    Help help{
+        state, helpViewer, {printerSetup, printPreview, printer, fonts, messageBoxes, pdfOpener}};
     output::EscapeWatch escape{window};
     viewer::PagePrinter pagePrinter{
         {state, record, tools, printer, [this] { return escape.isAsked(); }}};
-    viewer::PrintCommand printing{printerSetup, pagePrinter, messageBoxes};
+    viewer::PrintCommand printing{
+        {printerSetup, printPreview, pagePrinter, messageBoxes, window, pdfOpener}};
     viewer::ActionDispatcher actions;
     viewer::Collaborators collaborators;
     viewer::MainCommands commands;

@@ -14,6 +14,7 @@
 #include <QMouseEvent>
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace exercises {
 
@@ -27,7 +28,7 @@ constexpr int kTextPx = 16;
 constexpr double kMarkTwips = 16 * page::kTwipsPerPixel;
 
 /// Above and below the middle of a choice, where a click on its words counts.
-constexpr int kWordsReachPx = 10;
+constexpr int kWordsReachPx = 12;
 
 QString nameOf(const char* array, int index) {
     return QString::fromLatin1(array) + QString::number(index);
@@ -255,10 +256,15 @@ bool AnswerPanel::hasAnswer() const {
 }
 
 QAbstractButton* AnswerPanel::choiceWithWordsAt(QPoint place) const {
+    const auto away = [place](const Words& words) {
+        return std::abs(words.where.center().y() - place.y());
+    };
+    const Words* nearest = nullptr; // words on lines that stand close overlap
     for (const Words& words : words_)
-        if (words.where.contains(place) && words.choice->isEnabled())
-            return words.choice;
-    return nullptr;
+        if (words.where.contains(place) && words.choice->isEnabled() &&
+            (!nearest || away(words) < away(*nearest)))
+            nearest = &words;
+    return nearest ? nearest->choice : nullptr;
 }
 
 bool AnswerPanel::eventFilter(QObject* watched, QEvent* event) {

@@ -29,6 +29,7 @@ OptionButton::OptionButton(QWidget* parent) : RadioButton(parent) {
 void OptionButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     look::paintOptionSign(painter, middle(), *this);
+    look::paintChoiceFocus(painter, rect(), *this);
 }
 
 CheckButton::CheckButton(QWidget* parent) : QCheckBox(parent) {
@@ -38,6 +39,7 @@ CheckButton::CheckButton(QWidget* parent) : QCheckBox(parent) {
 void CheckButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     look::paintCheckSign(painter, middle(), *this);
+    look::paintChoiceFocus(painter, rect(), *this);
 }
 
 } // namespace exercises

@@ -236,7 +236,8 @@ bool Exo::reload() {
 }
 
 /// The window stays usable, to be closed at least.
-void Exo::tellUnreadable(const QStringList& reasons) {
+void Exo::tellUnreadable(QStringList reasons) {
+    reasons.removeDuplicates(); // both tables stand in one file
     const QString file = QDir::toNativeSeparators(parts_.shared.InstallDir +
                                                   QString::fromLatin1(coursedata::kExerciseFile));
     QStringList paragraphs{QStringLiteral("Fichier\u00A0: ") + file};

@@ -126,7 +126,7 @@ private:
     void putInTabOrder();
 
     void Form_Load();
-    void tellUnreadable(const QStringList& reasons);
+    void tellUnreadable(QStringList reasons);
     void place();
     void makeWritable();
 

@@ -1,19 +1,21 @@
 #include "help/help_window.h"
 
-#include "help/document_printer.h"
 #include "help/help_browser.h"
 #include "help/help_list.h"
 #include "help/help_search.h"
 #include "help/hit_bar.h"
+#include "help/manual_proposal.h"
 #include "help/page_document.h"
 #include "look/accessible_role.h"
 #include "look/button.h"
 #include "look/mnemonics.h"
+#include "look/outcome_line.h"
 #include "look/palette.h"
 #include "look/pixels.h"
 #include "look/program_icon.h"
 #include "look/text_field.h"
 #include "look/tool_tip.h"
+#include "platform/printed_words.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -28,12 +30,11 @@ namespace {
 
 using look::Button;
 
-constexpr QSize kSize(880, 648); ///< all of the contents at once
+constexpr QSize kSize(880, 680); ///< all of the contents at once
 constexpr QSize kSmallest(560, 400);
 constexpr int kGrid = 8;
 constexpr int kToolbar = 64;
 constexpr QSize kButton(64, 56);
-constexpr int kPageRule = 1;
 constexpr int kListWidth = 232;
 constexpr int kFieldHeight = 32;
 constexpr int kLongestQuery = 200; ///< nobody types more; each letter is searched for at once
@@ -59,7 +60,7 @@ Button* addButton(QBoxLayout& row, const QString& caption, const QString& toolTi
 HelpWindow::HelpWindow(const HelpBook& book, const HelpPrinting& printing)
     : book_(book), printing_(printing), words_(new look::TextField(this)),
       list_(new HelpList(book, this)), browser_(new HelpBrowser(book, this)),
-      hitBar_(new HitBar(this)) {
+      hitBar_(new HitBar(this)), printed_(new look::OutcomeLine(this)) {
     look::setAccessibleRole(*this, QAccessible::Window);
     setObjectName(QStringLiteral("aide"));
     setWindowTitle(kTitle);
@@ -131,10 +132,12 @@ QBoxLayout* HelpWindow::newPagePart() {
     column->setSpacing(kGrid);
     // The rule around the page is the window's; paintEvent() draws it.
     auto* framed = new QVBoxLayout;
-    framed->setContentsMargins(kPageRule, kPageRule, kPageRule, kPageRule);
+    framed->setContentsMargins(look::kInsideFrame);
     framed->addWidget(browser_);
     column->addLayout(framed, 1);
     column->addWidget(hitBar_);
+    printed_->setFixedHeight(kFieldHeight);
+    column->addWidget(printed_);
     return column;
 }
 
@@ -202,7 +205,8 @@ void HelpWindow::openFound(int page) {
 void HelpWindow::pageShown() {
     list_->choosePage(browser_->page());
     hitBar_->showHits(browser_->currentHit(), browser_->hitCount());
-    update(); // the bar moves the edge of the page, which the window draws
+    printed_->hide();
+    update(); // the bars move the edge of the page, which the window draws
 }
 
 void HelpWindow::stepHit(int by) {
@@ -214,14 +218,23 @@ void HelpWindow::print() {
     if (book_.pages().isEmpty() ||
         printing_.setup.ask() != platform::PrinterSetup::Outcome::Confirmed)
         return;
-    const HelpPage& page = book_.pages()[browser_->page()];
-    PageDocument document(book_, page);
-    if (help::printDocument(printing_.printer, document,
-                            kTitle + QStringLiteral(" – ") + page.title))
+    ManualProposal proposal(book_, browser_->page(), printing_.metrics);
+    const auto choice = printing_.preview.ask(proposal);
+    if (!choice)
         return;
-    printing_.messageBoxes.ask(
-        {QStringLiteral("Imprimer"), QStringLiteral("La page n’a pas pu être imprimée."),
-         platform::Message::Icon::Exclamation, platform::Message::Buttons::Ok});
+    if (!proposal.print(*choice, printing_.printer)) {
+        printing_.messageBoxes.ask(
+            {QStringLiteral("Imprimer"), QStringLiteral("La page n’a pas pu être imprimée."),
+             platform::Message::Icon::Exclamation, platform::Message::Buttons::Ok});
+        return;
+    }
+    const platform::PrintTarget target = printing_.printer.target();
+    const auto show = platform::showingOf(target, printing_.opener, printing_.messageBoxes);
+    printed_->tell(look::OutcomeLine::Kind::Done,
+                   platform::printedWords(proposal.pageCount(*choice), target),
+                   {show ? QStringLiteral("Ouvrir") : QString(), show});
+    layout()->activate();
+    update(); // the line moves the edge of the page
 }
 
 void HelpWindow::leaveSearchOrClose() {
@@ -252,7 +265,7 @@ void HelpWindow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(QRectF(0, kToolbar, width(), look::crisp(painter)),
                      QColor::fromRgb(look::kRule));
-    const QRect page = browser_->geometry().adjusted(-kPageRule, -kPageRule, kPageRule, kPageRule);
+    const QRect page = browser_->geometry().marginsAdded(look::kInsideFrame);
     look::drawFrame(painter, page, 0, look::kRule, QColor::fromRgb(look::kPaper));
 }
 

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "help/help_book.h"
-#include "output/paper/qt_printer.h"
+#include "page/text_metrics.h"
 #include "platform/message_box.h"
+#include "platform/pdf_opener.h"
+#include "platform/printer.h"
 
 #include <QWidget>
 
@@ -10,6 +12,7 @@ class QBoxLayout;
 
 namespace look {
 class Button;
+class OutcomeLine;
 class TextField;
 } // namespace look
 
@@ -22,8 +25,11 @@ class HitBar;
 /// What a page of the manual is printed with.
 struct HelpPrinting {
     platform::PrinterSetup& setup;
-    output::QtPrinter& printer;
+    platform::PrintPreview& preview;
+    platform::Printer& printer;
+    const page::TextMetrics& metrics;
     platform::MessageBoxes& messageBoxes;
+    platform::PdfOpener& opener;
 };
 
 /// The window with the manual: contents or search results at the left, the page at the right.
@@ -55,6 +61,7 @@ private:
     HelpList* list_;
     HelpBrowser* browser_;
     HitBar* hitBar_;
+    look::OutcomeLine* printed_;
     look::Button* back_ = nullptr;
     look::Button* forward_ = nullptr;
 };

@@ -62,6 +62,7 @@ QString pageStyle(double zoom) {
                "th { text-align: left; background-color: %8; }"
                "b.bouton { color: %5; }"
                "code { font-family: 'Liberation Sans'; background-color: %8; }"
+               "p.commande { line-height: 150%; margin-bottom: 4px; }"
                "p.conseil { background-color: %7; margin-top: 10px; margin-bottom: 12px; }"
                "p.image { line-height: 100%; margin-top: 4px; margin-bottom: 14px; }"
                "img { vertical-align: middle; }"

@@ -2,6 +2,7 @@
 
 #include "look/interface_font.h"
 #include "look/palette.h"
+#include "look/pixels.h"
 
 #include <QAbstractButton>
 #include <QPainter>
@@ -16,10 +17,12 @@ constexpr double kDotRadius = 3.25;
 constexpr double kBoxCorner = 2;
 constexpr double kLine = 1.25;
 constexpr double kFocusLine = 2;
+constexpr double kFocusCorner = 3;
 constexpr double kTickLine = 2;
 
 constexpr int kCaptionLeft = 20;
-constexpr int kCaptionHeight = 20;
+constexpr int kCaptionHeight = 24;
+constexpr int kCaptionMargin = 4; ///< beside the words, for the frame of the keyboard
 
 QColor ink(const QAbstractButton& button) {
     return QColor::fromRgb(!button.isEnabled() ? kEdge : button.isDown() ? kDarkBlue : kBlue);
@@ -66,6 +69,11 @@ void paintCheckSign(QPainter& painter, QPointF centre, const QAbstractButton& bu
     painter.restore();
 }
 
+void paintChoiceFocus(QPainter& painter, const QRectF& place, const QAbstractButton& button) {
+    if (button.hasFocus())
+        drawFrame(painter, place, kFocusCorner, kBlue, Qt::NoBrush, kFocusLine);
+}
+
 void prepareChoice(QAbstractButton& button) {
     button.setFont(interfaceFont(kLabelPx));
     button.setAttribute(Qt::WA_Hover);
@@ -74,7 +82,7 @@ void prepareChoice(QAbstractButton& button) {
 
 QSize choiceSize(const QAbstractButton& button) {
     const int words = button.fontMetrics().size(Qt::TextShowMnemonic, button.text()).width();
-    return {kCaptionLeft + words + kChoiceSignMargin, kCaptionHeight};
+    return {kCaptionLeft + words + kCaptionMargin, kCaptionHeight};
 }
 
 void paintChoiceCaption(QPainter& painter, const QAbstractButton& button) {
@@ -85,6 +93,9 @@ void paintChoiceCaption(QPainter& painter, const QAbstractButton& button) {
                              : Qt::TextHideMnemonic;
     painter.drawText(button.rect().adjusted(kCaptionLeft, 0, 0, 0),
                      Qt::AlignLeft | Qt::AlignVCenter | mnemonic, button.text());
+    const double left = kCaptionLeft - kCaptionMargin;
+    paintChoiceFocus(painter, {left, 0, choiceSize(button).width() - left, double(button.height())},
+                     button);
 }
 
 } // namespace look

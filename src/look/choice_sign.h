@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPointF>
+#include <QRectF>
 #include <QSize>
 
 class QPainter;
@@ -10,13 +11,17 @@ namespace look {
 
 /// Side of a check box and diameter of an option button, in logical pixels.
 inline constexpr int kChoiceSignPx = 13;
-/// What the sign needs on every side of that for the line that shows the keyboard.
-inline constexpr int kChoiceSignMargin = 1;
+/// What a sign without a caption has on every side of that: for the frame that shows the keyboard,
+/// and so that it can be hit with a finger or a trembling hand (25 pixels in all).
+inline constexpr int kChoiceSignMargin = 6;
 
 /// Paints the circle of an option button, or the box of a check box, with its middle at `centre`,
 /// as the state of the button asks for.
 void paintOptionSign(QPainter& painter, QPointF centre, const QAbstractButton& button);
 void paintCheckSign(QPainter& painter, QPointF centre, const QAbstractButton& button);
+
+/// Paints the frame that shows that the control has the keyboard, when it has, inside `place`.
+void paintChoiceFocus(QPainter& painter, const QRectF& place, const QAbstractButton& button);
 
 /// A choice whose caption stands right of its sign, at the left edge: face and name, size, caption.
 void prepareChoice(QAbstractButton& button);

@@ -1,22 +1,26 @@
 #include "look/dress.h"
 
+#include "look/icon.h"
 #include "look/interface_font.h"
 #include "look/palette.h"
-#include "look/program_icon.h"
+#include "look/tool_tip.h"
 
 #include <QApplication>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPalette>
 #include <QPushButton>
 #include <QSlider>
 #include <QSpinBox>
+#include <QStyle>
 #include <QStyleFactory>
 #include <QStyledItemDelegate>
 #include <QTabWidget>
 #include <QTableView>
+#include <QToolButton>
 
 namespace look {
 
@@ -80,6 +84,19 @@ QTableView {
     selection-background-color: %pressed; selection-color: %ink; }
 )";
 
+constexpr char16_t kFiles[] = uR"(
+QAbstractItemView {
+    background: %paper; color: %ink; border: 1px solid %edge; outline: none;
+    selection-background-color: %pressed; selection-color: %ink; }
+QAbstractItemView:focus { border-color: %blue; }
+QAbstractItemView::item { min-height: 24px; }
+)";
+
+constexpr char16_t kTool[] = uR"(
+QToolButton { background: transparent; border: 1px solid transparent; border-radius: 4px; }
+QToolButton:hover, QToolButton:focus { background: %tint; border-color: %blue; }
+)";
+
 QString rulesOf(const char16_t* forms) {
     QString rules = QString::fromUtf16(forms);
     const std::pair<const char*, QRgb> colours[] = {
@@ -92,15 +109,31 @@ QString rulesOf(const char16_t* forms) {
     return rules;
 }
 
-QPalette colours(QPalette palette) {
-    const std::pair<QPalette::ColorRole, QRgb> roles[] = {
-        {QPalette::Window, kIvory},        {QPalette::Base, kPaper},
-        {QPalette::AlternateBase, kIvory}, {QPalette::Button, kIvory},
-        {QPalette::WindowText, kInk},      {QPalette::Text, kInk},
-        {QPalette::ButtonText, kInk},      {QPalette::PlaceholderText, kMuted},
-        {QPalette::Highlight, kBlue},      {QPalette::HighlightedText, kPaper}};
+/// All of a palette: nothing of the desktop's is left, whose lines and shadows may be made for a
+/// dark one.
+QPalette colours() {
+    QPalette palette(QColor::fromRgb(kIvory), QColor::fromRgb(kIvory));
+    const std::pair<QPalette::ColorRole, QRgb> roles[] = {{QPalette::Window, kIvory},
+                                                          {QPalette::Base, kPaper},
+                                                          {QPalette::AlternateBase, kIvory},
+                                                          {QPalette::Button, kIvory},
+                                                          {QPalette::WindowText, kInk},
+                                                          {QPalette::Text, kInk},
+                                                          {QPalette::ButtonText, kInk},
+                                                          {QPalette::PlaceholderText, kMuted},
+                                                          {QPalette::Highlight, kBlue},
+                                                          {QPalette::HighlightedText, kPaper},
+                                                          {QPalette::Link, kBlue},
+                                                          {QPalette::LinkVisited, kBlue},
+                                                          {QPalette::ToolTipBase, kPaper},
+                                                          {QPalette::ToolTipText, kInk},
+                                                          {QPalette::Mid, kRule},
+                                                          {QPalette::Dark, kEdge}};
     for (const auto& [role, colour] : roles)
         palette.setColor(role, QColor::fromRgb(colour));
+    for (const QPalette::ColorRole role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, QColor::fromRgb(kEdge));
     return palette;
 }
 
@@ -110,17 +143,50 @@ void dressEach(const QWidget& window, const QString& rules) {
         control->setStyleSheet(rules);
 }
 
+QIcon drawn(const QString& name, int pixels) {
+    constexpr double kDensest = 3; // made smaller on coarser screens
+    QPixmap picture(QSize(1, 1) * qRound(pixels * kDensest));
+    picture.setDevicePixelRatio(kDensest);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    Icon(name).paint(painter, QRectF(0, 0, pixels, pixels), Icon::Style::Coloured);
+    return picture;
+}
+
+/// The toolkit's buttons have drawings of their own, and its lists borders of their style.
+void dressFileDialog(QFileDialog& dialog) {
+    constexpr int kIcon = 24;
+    constexpr int kButton = 32;
+    const std::pair<const char*, const char*> icons[] = {{"backButton", "previous-page"},
+                                                         {"forwardButton", "next-page"},
+                                                         {"toParentButton", "parent-folder"},
+                                                         {"newFolderButton", "new-folder"}};
+    for (const auto& [name, icon] : icons)
+        if (auto* button = dialog.findChild<QToolButton*>(QLatin1String(name))) {
+            button->setIcon(drawn(QLatin1String(icon), kIcon));
+            button->setIconSize({kIcon, kIcon});
+            button->setFixedSize(kButton, kButton);
+            button->setStyleSheet(rulesOf(kTool));
+            setToolTip(*button, button->toolTip());
+        }
+    for (const char* name : {"listModeButton", "detailModeButton"}) // one way to show them will do
+        if (auto* button = dialog.findChild<QToolButton*>(QLatin1String(name)))
+            button->hide();
+    dressEach<QAbstractItemView>(dialog, rulesOf(kFiles));
+}
+
 } // namespace
 
 void dressApplication() {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    QApplication::setPalette(colours(QApplication::palette()));
+    const QString style = QStringLiteral("fusion");
+    if (QApplication::style()->name() != style) // as it is without a desktop's theme
+        QApplication::setStyle(QStyleFactory::create(style));
+    QApplication::setPalette(colours());
     QApplication::setFont(interfaceFont(kLabelPx));
-    QApplication::setWindowIcon(programIcon());
 }
 
 void dress(QWidget& window) {
-    window.setPalette(colours(window.palette()));
+    window.setPalette(colours());
     window.setFont(interfaceFont(kLabelPx));
     // Each control by itself: below a window with rules, what is painted by hand and what shows
     // mnemonics would lose its own style.
@@ -131,8 +197,10 @@ void dress(QWidget& window) {
         list->setStyleSheet(rules);
     }
     dressEach<QAbstractSpinBox>(window, rules);
-    if (qobject_cast<QFileDialog*>(&window))
+    if (auto* files = qobject_cast<QFileDialog*>(&window)) {
         dressEach<QLineEdit>(window, rules);
+        dressFileDialog(*files);
+    }
     dressEach<QSlider>(window, rulesOf(kSlider));
     dressEach<QTabWidget>(window, rulesOf(kTabs));
     dressEach<QTableView>(window, rulesOf(kTable));

@@ -38,7 +38,7 @@ void Notice::paintEvent(QPaintEvent*) {
 }
 
 void Notice::resizeEvent(QResizeEvent*) {
-    text_->setGeometry(rect().adjusted(1, 1, -1, -1)); // inside the frame
+    text_->setGeometry(rect().marginsRemoved(kInsideFrame));
 }
 
 } // namespace look

@@ -106,6 +106,23 @@ void PictureBox::paintSelection(QPainter& painter) const {
     painter.restore();
 }
 
+QRegion PictureBox::keptArea() const {
+    QRegion pictures;
+    for (const page::Operation& operation : recording_.operations()) {
+        const auto* clear = std::get_if<page::ClearOperation>(&operation);
+        if (clear && clear->surface == id_)
+            pictures = {};
+        const auto* picture = std::get_if<page::PictureOperation>(&operation);
+        if (picture && picture->surface == id_ && !picture->symbol)
+            pictures |= QRectF(picture->x / page::kTwipsPerPixel + inset_,
+                               picture->y / page::kTwipsPerPixel + inset_,
+                               picture->width / page::kTwipsPerPixel,
+                               picture->height / page::kTwipsPerPixel)
+                            .toAlignedRect();
+    }
+    return pictures;
+}
+
 /// The tints are multiplied with what is drawn: letters stay as dark as they are. A frame tells the
 /// current mark from the others for who does not see the tints apart.
 void PictureBox::paintMarks(QPainter& painter, const QRect& exposed) const {

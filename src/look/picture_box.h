@@ -1,5 +1,6 @@
 #pragma once
 
+#include "look/keeps_colours.h"
 #include "output/raster/raster_surface.h"
 #include "page/faces/font_book.h"
 #include "page/readable_page.h"
@@ -16,7 +17,7 @@ namespace look {
 
 /// Shows what a recording has on one surface, at the density of the screen; screen readers get the
 /// text that stands there.
-class PictureBox : public QWidget {
+class PictureBox : public QWidget, public KeepsColours {
 public:
     /// `widthPx` is the width to draw on; the control itself may be larger, see setInset().
     PictureBox(page::SurfaceId id, int widthPx, QRgb ground, const page::FontBook& fonts,
@@ -90,6 +91,9 @@ public:
     QString readableText() const { return readablePage().text(); }
     /// Counts the drawings: what was read of one that is gone is gone too.
     int drawing() const { return drawing_; }
+
+    /// The pictures of the page; symbols are drawn in the page's inks.
+    QRegion keptArea() const override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

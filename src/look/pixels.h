@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMargins>
 #include <QPaintDevice>
 #include <QPainter>
 
@@ -19,6 +20,10 @@ inline double snapped(const QPainter& painter, double position) {
     const double ratio = painter.device()->devicePixelRatioF();
     return std::round(position * ratio) / ratio;
 }
+
+/// What a child keeps free at the edges of a window part with a frame of a pixel: at one and a half
+/// pixels of the screen to a logical one, the frame takes more than the first.
+inline constexpr QMargins kInsideFrame{2, 2, 2, 2};
 
 /// Draws a frame of `thickness` logical pixels just inside `outside`.
 inline void drawFrame(QPainter& painter, const QRectF& outside, double radius, QRgb edge,

@@ -5,7 +5,7 @@
 #include "look/enter_once.h"
 #include "look/mnemonics.h"
 #include "look/no_settings.h"
-#include "look/option_button.h"
+#include "look/paper_controls.h"
 #include "look/text_field.h"
 
 #include <QComboBox>
@@ -28,13 +28,6 @@ constexpr int kButtonWidth = 96;
 /// Margins in millimetres. The widest leave room on the smallest paper, lying.
 constexpr int kLeastMargin = 5;
 constexpr int kWidestMargin = 40;
-
-constexpr QPageSize::PageSizeId kSizes[] = {QPageSize::A4, QPageSize::A3, QPageSize::A5,
-                                            QPageSize::Letter};
-
-QString sizeName(QPageSize::PageSizeId size) {
-    return size == QPageSize::Letter ? QStringLiteral("US Letter") : QPageSize::name(size);
-}
 
 /// As a person means a name: without an ending, it is a PDF file all the same.
 QString fileNamed(const QString& typed) {
@@ -73,7 +66,7 @@ PrintSetupDialog::PrintSetupDialog(const PrintSettings& settings,
     : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                           Qt::WindowCloseButtonHint),
       messageBoxes_(messageBoxes), rows_(new QGridLayout(this)), file_(new TextField(this)),
-      size_(new QComboBox(this)) {
+      paper_(new PaperControls(settings.layout, this)) {
     setWindowTitle(QStringLiteral("Imprimer"));
     rows_->setContentsMargins(2 * kGrid, 2 * kGrid, 2 * kGrid, 2 * kGrid);
     rows_->setHorizontalSpacing(2 * kGrid);
@@ -86,12 +79,10 @@ PrintSetupDialog::PrintSetupDialog(const PrintSettings& settings,
     rows_->setRowMinimumHeight(0, 3 * kGrid);
     addRow(QStringLiteral("&Fichier"), file_, fileRow(settings.file));
     auto* sizes = newRow();
-    sizes->addWidget(size_);
+    sizes->addWidget(&paper_->size());
     sizes->addStretch();
-    addRow(QStringLiteral("&Papier"), size_, sizes);
-    chooseSize(settings.layout.pageSize());
-    QLayout* orientation = orientationRow(settings.layout.orientation());
-    addRow(QStringLiteral("Orientation"), nullptr, orientation);
+    addRow(QStringLiteral("&Papier"), &paper_->size(), sizes);
+    addRow(QStringLiteral("Orientation"), nullptr, paper_->orientationRow());
     QLayout* margins = marginRow(settings.layout.margins(QPageLayout::Millimeter));
     addRow(QStringLiteral("Marges"), nullptr, margins);
     rows_->setRowMinimumHeight(rows_->rowCount(), kGrid);
@@ -125,19 +116,8 @@ QLayout* PrintSetupDialog::fileRow(const QString& file) {
     browsing->setFixedSize(kButtonWidth, kFieldHeight);
     browsing->setAutoDefault(false);
     connect(browsing, &QPushButton::clicked, this, &PrintSetupDialog::browse);
+    setTabOrder(file_, browsing);
     row->addWidget(browsing);
-    return row;
-}
-
-QLayout* PrintSetupDialog::orientationRow(QPageLayout::Orientation orientation) {
-    auto* row = newRow();
-    row->setSpacing(3 * kGrid);
-    portrait_ = new OptionButton(QStringLiteral("Po&rtrait"), this);
-    landscape_ = new OptionButton(QStringLiteral("Pa&ysage"), this);
-    (orientation == QPageLayout::Portrait ? portrait_ : landscape_)->setChecked(true);
-    row->addWidget(portrait_);
-    row->addWidget(landscape_);
-    row->addStretch();
     return row;
 }
 
@@ -181,21 +161,12 @@ QLayout* PrintSetupDialog::buttonRow() {
     return row;
 }
 
-void PrintSetupDialog::chooseSize(const QPageSize& size) {
-    for (const QPageSize::PageSizeId id : kSizes)
-        size_->addItem(sizeName(id), id);
-    size_->setCurrentIndex(qMax(0, size_->findData(size.id())));
-    size_->setFixedHeight(kFieldHeight);
-}
-
 PrintSettings PrintSetupDialog::settings() const {
-    const auto size = static_cast<QPageSize::PageSizeId>(size_->currentData().toInt());
     const QMarginsF margins(margins_[0]->value(), margins_[1]->value(), margins_[2]->value(),
                             margins_[3]->value());
-    return {QPageLayout(QPageSize(size),
-                        portrait_->isChecked() ? QPageLayout::Portrait : QPageLayout::Landscape,
-                        margins, QPageLayout::Millimeter),
-            fileNamed(file_->text())};
+    const QPageLayout plain(QPageSize(QPageSize::A4), QPageLayout::Portrait, margins,
+                            QPageLayout::Millimeter);
+    return {paper_->applied(plain), fileNamed(file_->text())};
 }
 
 void PrintSetupDialog::browse() {

@@ -7,7 +7,6 @@
 
 #include <array>
 
-class QComboBox;
 class QGridLayout;
 class QLabel;
 class QLineEdit;
@@ -15,7 +14,7 @@ class QSpinBox;
 
 namespace look {
 
-class OptionButton;
+class PaperControls;
 
 /// What can be set up where pages are printed into a PDF file.
 struct PrintSettings {
@@ -39,19 +38,15 @@ public:
 private:
     void addRow(const QString& caption, QWidget* field, QLayout* row);
     QLayout* fileRow(const QString& file);
-    QLayout* orientationRow(QPageLayout::Orientation orientation);
     QLayout* marginRow(const QMarginsF& margins);
     QLayout* buttonRow();
-    void chooseSize(const QPageSize& size);
     void browse();
     void refuse(const QString& sentence);
 
     platform::MessageBoxes& messageBoxes_;
     QGridLayout* rows_;
     QLineEdit* file_;
-    QComboBox* size_;
-    OptionButton* portrait_ = nullptr;
-    OptionButton* landscape_ = nullptr;
+    PaperControls* paper_;
     std::array<QSpinBox*, 4> margins_{}; ///< left, top, right, bottom; millimetres
 };
 

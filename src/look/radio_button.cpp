@@ -17,6 +17,8 @@ void RadioButton::takeTabStop() {
         return;
     for (auto* option :
          parentWidget()->findChildren<QRadioButton*>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (option->group() != group())
+            continue;
         const int others = option->focusPolicy() & ~Qt::TabFocus;
         option->setFocusPolicy(
             static_cast<Qt::FocusPolicy>(option == this ? others | Qt::TabFocus : others));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "page/recording.h"
+#include "page/sheet.h"
 #include "text/bounded_array.h"
 
 #include <QPointF>
@@ -69,6 +70,9 @@ struct DrawnPage {
     page::Recording recording;
     LinkTable links;     ///< of a course page on screen; empty otherwise
     AnswerFields fields; ///< of a question; all hidden otherwise
+    /// The links that were printed as parts of the text, where no control can stand: on paper,
+    /// which may be a file in which they can be followed.
+    std::vector<page::LinkArea> printedLinks;
 
     QString title;                    ///< of the title given, what the title band has room for
     std::optional<QString> caption;   ///< of the main window, where the page asks for one

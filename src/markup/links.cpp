@@ -84,6 +84,16 @@ void printPicture(Renderer& renderer, const page::LinkOperation& link) {
         drawPlaceholder(surface, link.x, link.y);
 }
 
+void keepPrinted(Renderer& renderer, const page::LinkOperation& link) {
+    renderer.page().printedLinks.push_back({link.surface, link.x, link.y, link.width, link.height,
+                                            link.tag, link.tooltip, link.caption.simplified()});
+}
+
+void printLink(Renderer& renderer, const page::LinkOperation& link) {
+    printCaption(renderer, link);
+    keepPrinted(renderer, link);
+}
+
 page::LinkOperation linkAtPen(Renderer& renderer, page::LinkControl control) {
     const page::Surface& surface = renderer.surface();
     page::LinkOperation link;
@@ -118,6 +128,8 @@ std::optional<int> placePicture(Renderer& renderer, QStringView key, const QStri
         index = placeControl(renderer, renderer.page().links.Imagelien, link);
     else
         printPicture(renderer, link);
+    if (!renderer.onCoursePage())
+        keepPrinted(renderer, link);
     renderer.surface().setPenX(link.x + link.width);
     renderer.surface().setPenY(link.y);
     return index;
@@ -146,7 +158,7 @@ void textLink(Renderer& renderer, QStringView d) {
     if (renderer.onCoursePage())
         placeControl(renderer, renderer.page().links.Labelien, link);
     else
-        printCaption(renderer, link);
+        printLink(renderer, link);
     surface.setPenX(link.x + link.width);
 }
 

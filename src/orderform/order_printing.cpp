@@ -16,7 +16,7 @@ PrintOutcome printOrder(const Order& order, const PrintingParts& parts) {
         break;
     }
     platform::Printer& printer = parts.printer;
-    const bool printed = printer.begin(QStringLiteral("Orvalente - Bon de commande")) &&
+    const bool printed = printer.begin({QStringLiteral("Orvalente - Bon de commande")}) &&
                          printer.print(orderSheet(order, printer.paper(), parts.metrics));
     return printer.end() && printed ? PrintOutcome::Printed : PrintOutcome::Failed;
 }

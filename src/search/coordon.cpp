@@ -41,8 +41,8 @@ constexpr auto kHighHeight = static_cast<int>(4200 / page::kTwipsPerPixel);
 
 constexpr QRect kPrompt(16, 8, 336, 22);
 constexpr QRect kWords(16, 32, 336, 28);
-constexpr QPoint kAllWords(16, 72);
-constexpr QPoint kAccents(152, 72);
+constexpr QPoint kAllWords(16, 70);
+constexpr QPoint kAccents(152, 70);
 constexpr QRect kSearchButton(360, 32, 104, 28);
 constexpr QRect kCancelButton(360, 68, 104, 28);
 constexpr QRect kNotice(16, 103, 448, 20);
@@ -175,7 +175,7 @@ void Coordon::addExtract() {
                              look::Weight::Regular, this);
     extractText_ = new look::ReadingText(kExtractMargin, this);
     extractText_->setAccessibleName(QStringLiteral("Extrait de la page"));
-    extractText_->setGeometry(kExtract.adjusted(1, 1, -1, -1)); // inside the frame
+    extractText_->setGeometry(kExtract.marginsRemoved(look::kInsideFrame));
 }
 
 void Coordon::nameControls() {

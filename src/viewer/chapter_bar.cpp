@@ -9,7 +9,6 @@
 #include "look/tool_tip.h"
 
 #include <QLabel>
-#include <QPainter>
 
 namespace viewer {
 
@@ -19,12 +18,13 @@ using look::Button;
 
 constexpr QRect kPrevious(0, 0, 152, 32);
 constexpr QRect kWords(160, 0, 304, 32);
-constexpr QRect kStatus(188, 0, 276, 32); ///< beside the sign
-constexpr QRectF kSign(162, 6, 20, 20);
 constexpr QRect kNext(472, 0, 152, 32);
 
 /// Long enough to notice a line of some ten words and read it twice.
-constexpr int kStatusMs = 20'000;
+constexpr int kReadMs = 20'000;
+
+/// The same, and to decide whether to press its button.
+constexpr int kDecidedMs = 60'000;
 
 Button* addButton(const QString& name, const QString& caption, const QString& toolTip,
                   const Button::Look& look, const QRect& place, QWidget* parent) {
@@ -37,15 +37,6 @@ Button* addButton(const QString& name, const QString& caption, const QString& to
     return button;
 }
 
-/// Leaves the last words out, for the tooltip to tell, until the text fits the label's height.
-void shortenToFit(QLabel& label) {
-    QString words = label.text();
-    while (!words.isEmpty() && label.heightForWidth(label.width()) > label.height()) {
-        words.truncate(words.lastIndexOf(u' '));
-        label.setText(words + u'…');
-    }
-}
-
 } // namespace
 
 ChapterBar::ChapterBar(QWidget* parent) : QWidget(parent) {
@@ -55,18 +46,22 @@ ChapterBar::ChapterBar(QWidget* parent) : QWidget(parent) {
     avantcours_ = addButton(QStringLiteral("avantcours"), QStringLiteral("Page précédente"),
                             QStringLiteral("Page précédente dans ce chapitre"),
                             {.icon = QStringLiteral("previous-in-chapter")}, kPrevious, this);
-    words_ = new QLabel(this);
+    words_ = new QLabel(QStringLiteral("Dans ce chapitre"), this);
     words_->setObjectName(QStringLiteral("status"));
     words_->setTextFormat(Qt::PlainText);
-    words_->setWordWrap(true);
+    words_->setAlignment(Qt::AlignCenter);
+    words_->setFont(look::interfaceFont(look::kSmallPx));
+    words_->setGeometry(kWords);
+    look::setInk(*words_, look::kMuted);
+    line_ = new look::OutcomeLine(this);
+    line_->setGeometry(kWords);
     suite_ =
         addButton(QStringLiteral("suite"), QStringLiteral("Page suivante"),
                   QStringLiteral("Page suivante dans ce chapitre"),
                   {.icon = QStringLiteral("next-in-chapter"), .place = Button::IconPlace::Right},
                   kNext, this);
     untilRead_.setSingleShot(true);
-    untilRead_.setInterval(kStatusMs);
-    connect(&untilRead_, &QTimer::timeout, this, [this] { clearStatus(); });
+    connect(&untilRead_, &QTimer::timeout, this, [this] { clearLine(); });
     showWords();
 }
 
@@ -76,41 +71,23 @@ void ChapterBar::setButtonsVisible(bool previous, bool next) {
     showWords();
 }
 
-void ChapterBar::showStatus(const QString& line) {
-    status_ = line;
-    untilRead_.start();
+void ChapterBar::showLine(look::OutcomeLine::Kind kind, const QString& line,
+                          const look::LineAction& action) {
+    line_->tell(kind, line, action);
+    untilRead_.start(action.run ? kDecidedMs : kReadMs);
     showWords();
     look::announce(*this, line);
 }
 
-void ChapterBar::clearStatus() {
-    status_.clear();
+void ChapterBar::clearLine() {
+    line_->hide();
     untilRead_.stop();
     showWords();
 }
 
 void ChapterBar::showWords() {
-    using namespace look;
-    const bool hasStatus = !status_.isEmpty();
     const bool hasButtons = !avantcours_->isHidden() || !suite_->isHidden();
-    words_->setGeometry(hasStatus ? kStatus : kWords);
-    words_->setAlignment(hasStatus ? Qt::AlignVCenter | Qt::AlignLeft : Qt::AlignCenter);
-    words_->setFont(interfaceFont(kSmallPx));
-    setInk(*words_, hasStatus ? kInk : kMuted);
-    words_->setText(hasStatus    ? status_
-                    : hasButtons ? QStringLiteral("Dans ce chapitre")
-                                 : QString());
-    look::setToolTip(*words_, status_);
-    if (hasStatus)
-        shortenToFit(*words_);
-    update();
-}
-
-void ChapterBar::paintEvent(QPaintEvent*) {
-    if (status_.isEmpty())
-        return;
-    QPainter painter(this);
-    sign_.paint(painter, kSign, look::Icon::Style::Coloured);
+    words_->setVisible(line_->isHidden() && hasButtons);
 }
 
 } // namespace viewer

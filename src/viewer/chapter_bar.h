@@ -1,6 +1,6 @@
 #pragma once
 
-#include "look/icon.h"
+#include "look/outcome_line.h"
 
 #include <QTimer>
 #include <QWidget>
@@ -11,20 +11,18 @@ namespace viewer {
 
 /// The frame `Framebase` below the page: the buttons `avantcours` and `suite` to the neighbours in
 /// the chapter, and between them the words "Dans ce chapitre". A line about something that could
-/// not be done takes the place of the words for a while.
+/// not be done, or has been, takes the place of the words for a while.
 class ChapterBar : public QWidget {
 public:
     explicit ChapterBar(QWidget* parent);
 
     void setButtonsVisible(bool previous, bool next);
 
-    /// Shows `line` until the next page, or until it had time to be read.
-    void showStatus(const QString& line);
-    void clearStatus();
-    const QString& status() const { return status_; }
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
+    /// Shows the line until the next page, or until it had time to be read; one with a button stays
+    /// three times as long.
+    void showLine(look::OutcomeLine::Kind kind, const QString& line,
+                  const look::LineAction& action = {});
+    void clearLine();
 
 private:
     void showWords();
@@ -32,9 +30,8 @@ private:
     QWidget* avantcours_;
     QWidget* suite_;
     QLabel* words_;
-    QString status_;
+    look::OutcomeLine* line_;
     QTimer untilRead_;
-    look::Icon sign_{QStringLiteral("warning")};
 };
 
 } // namespace viewer

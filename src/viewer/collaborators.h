@@ -2,6 +2,10 @@
 
 #include "viewer/found_words.h"
 
+#include <QString>
+
+#include <functional>
+
 namespace viewer {
 
 // What stands beside the main window, each as narrow as its callers need it.
@@ -42,6 +46,15 @@ public:
     virtual ~PagePrinting() = default;
     /// Prints what the page belongs to, after the print dialog.
     virtual void print() = 0;
+};
+
+/// Where it is told what was printed.
+class PrintNotices {
+public:
+    virtual ~PrintNotices() = default;
+    /// `line` is a French sentence; `show`, where it is not empty, has the file shown that was
+    /// written.
+    virtual void tellPrinted(const QString& line, const std::function<void()>& show) = 0;
 };
 
 /// The links that the page has placed on the main window.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "look/keeps_colours.h"
+
 #include <QImage>
 #include <QString>
 #include <QWidget>
@@ -8,7 +10,7 @@ namespace viewer {
 
 /// The cover picture over the page area while the program sets itself up, centred, with a line
 /// just below it. A picture larger than the area is shown smaller.
-class Cover : public QWidget {
+class Cover : public QWidget, public look::KeepsColours {
 public:
     explicit Cover(QWidget* parent);
 
@@ -20,6 +22,8 @@ public:
     QRect pictureRect() const;
     /// Where the line goes.
     QRect labelRect() const;
+
+    QRegion keptArea() const override { return pictureRect(); }
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -191,7 +191,12 @@ void Multim::pumpPendingMessages() {
 }
 
 void Multim::report(const QString& line) {
-    Framebase_->showStatus(line);
+    Framebase_->showLine(look::OutcomeLine::Kind::Warning, line);
+}
+
+void Multim::tellPrinted(const QString& line, const std::function<void()>& show) {
+    Framebase_->showLine(look::OutcomeLine::Kind::Done, line,
+                         {show ? QStringLiteral("Ouvrir") : QString(), show});
 }
 
 void Multim::tellUnreadable(const QString& file, const QString& reason) {

@@ -53,7 +53,8 @@ class Multim : public QWidget,
                public VideoView,
                public markup::DrawingWatcher,
                public shell::StartUpWindow,
-               public shell::ReportSink {
+               public shell::ReportSink,
+               public PrintNotices {
 public:
     Multim(shell::SharedState& state, const page::FontBook& fonts, const platform::Screen& screen);
     ~Multim() override;
@@ -79,7 +80,7 @@ public:
     markup::DrawnPage& shownPage() { return shown_; }
 
     /// The frame of the video buttons, and where the video's picture goes.
-    enum class VideoLayout { None, Closed, Open };
+    enum class VideoLayout { None, Closed, Open, Double };
     void setVideoLayout(VideoLayout layout);
 
     look::PictureBox& pageArea() { return *PictureTEXTE_; }
@@ -140,6 +141,9 @@ public:
     // shell::ReportSink
     void report(const QString& line) override;
 
+    // PrintNotices
+    void tellPrinted(const QString& line, const std::function<void()>& show) override;
+
     /// Says in the place of the page that the course's database cannot be read, why, and what to
     /// do.
     void tellUnreadable(const QString& file, const QString& reason);
@@ -198,6 +202,7 @@ private:
     void Image4_Click(int index);
     void projo_Click();
     bool hasVideoMenu() const;
+    void toggleVideoSize();
     void chooseVideo(const QString& caption);
 
     shell::SharedState& state_;

@@ -75,6 +75,7 @@ void Multim::connectHandlers() {
         if (parts_)
             parts_->collaborators.video.refresh();
     });
+    videoFrame_->onSizeToggled([this] { toggleVideoSize(); });
     videoFrame_->onSought([this](double share) {
         if (!hasVideoMenu())
             work([this, share] { parts_->collaborators.video.seek(share); });
@@ -198,8 +199,11 @@ void Multim::perform(KeyCommand command) {
     case KeyCommand::FindPrevious:
         return work([this] { finder_->previous(); });
     case KeyCommand::LeaveFind:
-        if (!finder_->isOpen() &&
-            (selection_->clear() || (parts_ && parts_->zoom.leaveFilledScreen())))
+        if (!finder_->isOpen() && selection_->clear())
+            return;
+        if (!finder_->isOpen() && videoLayout_ == VideoLayout::Double)
+            return toggleVideoSize();
+        if (!finder_->isOpen() && parts_ && parts_->zoom.leaveFilledScreen())
             return;
         return work([this] { finder_->close(); });
     case KeyCommand::Home:

@@ -69,7 +69,7 @@ void Multim::clearPictures() {
     shown_ = {};
     for (look::PictureBox* box : {PictureTEXTE_, PICTUREILLUS_, titre_})
         box->empty();
-    Framebase_->clearStatus();
+    Framebase_->clearLine();
 }
 
 void Multim::setCaption(const QString& caption) {

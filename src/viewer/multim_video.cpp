@@ -16,6 +16,7 @@ namespace {
 
 constexpr QRect kVideoClosed(168, 488, 624, 64);
 constexpr QRect kVideoOpen(168, 296, 624, 256);
+constexpr QRect kVideoDouble(8, 64, 784, 536); ///< over all but the toolbar
 
 struct Heights {
     int panel;
@@ -39,10 +40,14 @@ void Multim::setVideoLayout(VideoLayout layout) {
     videoLayout_ = layout;
     const Heights heights = heightsBeside(layout);
     panel_->setPanelHeight(heights.panel, heights.view);
+    using Shape = VideoFrame::Shape;
+    const bool isDouble = layout == VideoLayout::Double;
     const bool open = layout == VideoLayout::Open;
-    videoFrame_->setGeometry(open ? kVideoOpen : kVideoClosed);
-    videoFrame_->setOpen(open);
+    videoFrame_->setGeometry(isDouble ? kVideoDouble : open ? kVideoOpen : kVideoClosed);
+    videoFrame_->setShape(isDouble ? Shape::Double : open ? Shape::Open : Shape::Closed);
     videoFrame_->setVisible(layout != VideoLayout::None);
+    if (isDouble)
+        videoFrame_->raise();
 }
 
 void Multim::showVideoFrame() {
@@ -61,10 +66,18 @@ bool Multim::hasVideoMenu() const {
 void Multim::setPictureVisible(bool visible) {
     // Without the frame, on a page without a video, there is nothing to show.
     const VideoLayout layout = visible ? VideoLayout::Open : VideoLayout::Closed;
-    if (videoLayout_ == VideoLayout::None || videoLayout_ == layout)
+    if (videoLayout_ == VideoLayout::None || videoLayout_ == layout ||
+        (visible && videoLayout_ == VideoLayout::Double))
         return;
     setVideoLayout(layout);
     panel_->fitView();
+}
+
+void Multim::toggleVideoSize() {
+    if (videoLayout_ == VideoLayout::Open)
+        setVideoLayout(VideoLayout::Double);
+    else if (videoLayout_ == VideoLayout::Double)
+        setVideoLayout(VideoLayout::Open);
 }
 
 QSize Multim::pictureSize() const {

@@ -1,17 +1,11 @@
 #pragma once
 
-#include "coursedata/bound_record.h"
-#include "markup/draw_page.h"
 #include "platform/printer.h"
-#include "shell/shared_state.h"
+#include "viewer/printed_pages.h"
 
-#include <cstdint>
 #include <functional>
 
 namespace viewer {
-
-/// Most pages of one job: two reams of paper. A range that a course gives wrongly ends there.
-inline constexpr int kMaxPrintedPages = 1000;
 
 /// What became of a job.
 struct PrintRun {
@@ -38,25 +32,26 @@ public:
     /// All references must outlive the printer.
     explicit PagePrinter(const Parts& parts) : parts_(parts) {}
 
-    /// Prints the range of the current record as one job, to the end or until it is stopped. What
-    /// fails is passed over: without a printer, nothing happens. Afterwards the record is current
-    /// that was so before, and the page on screen is as it was.
-    PrintRun imprimepage();
+    /// Prints the range of the current record, or that record alone, as one job, to the end or
+    /// until it is stopped. What fails is passed over: without a printer, nothing happens.
+    /// Afterwards the record is current that was so before, and the page on screen is as it was.
+    PrintRun imprimepage(PrintPart part = PrintPart::Chapter);
+
+    /// The pages that would be printed, for who draws them beforehand.
+    PrintedPages::Parts pages() const { return {parts_.state, parts_.record, parts_.tools}; }
+    platform::PrintTarget target() const { return parts_.printer.target(); }
 
 private:
-    /// Fixed page numbers; nothing is printed when the first exceeds the last.
-    struct Range {
-        std::int64_t first, last;
-    };
-    Range range() const;
-
     void setBusy(bool busy);
-    void makeCurrentByNumber(std::int64_t number);
-    /// The sheets of the current record; false when one of them is missing. `isStopped` is set when
-    /// no more are to follow.
-    bool printPage(const QString& footer, bool& isStopped);
+    /// The sheets of a page; false when one of them is missing. `isStopped` is set when no more are
+    /// to follow.
+    bool printPage(const PaperPage& page, bool& isStopped);
 
     Parts parts_;
 };
+
+/// The sheets of paper that a page of the course takes, with its title and number.
+std::vector<page::Sheet> sheetsOf(const PaperPage& page, const platform::Paper& paper,
+                                  const page::TextMetrics& metrics);
 
 } // namespace viewer

@@ -89,8 +89,9 @@ Footer fitted(Footer footer, double width, const page::TextMetrics& metrics) {
 class Layout {
 public:
     /// Sheets are laid out at least `enlargement` times as large as the paper, 1 or more.
-    Layout(const page::Recording& drawing, const Footer& footer, const platform::Paper& paper,
-           const page::TextMetrics& metrics, double enlargement = 1)
+    Layout(const page::Recording& drawing, const std::vector<page::LinkArea>& links,
+           const Footer& footer, const platform::Paper& paper, const page::TextMetrics& metrics,
+           double enlargement = 1)
         : paper_(paper), metrics_(metrics),
           enlargement_(std::max(enlargement, kColumn / std::max(1.0, paper.printableWidth))),
           width_(paper.printableWidth * enlargement_),
@@ -98,6 +99,7 @@ public:
           footer_(fitted(footer, width_, metrics)), footerHeight_(metrics.height(footer_.font)),
           room_(height_ - std::min(2.5 * footerHeight_, kFooterShare * height_)) {
         page::putOnSheet(drawing, metrics, page_);
+        page_.links = links;
         for (const page::DrawnOperation& operation : page_.operations)
             measure(operation);
         std::sort(byTop_.begin(), byTop_.end(),
@@ -221,6 +223,11 @@ private:
                 page::moved(page_.operations[i], (width_ - kColumn) / 2, -start));
             isCutThrough = isCutThrough || extent->innerBottom() > end;
         }
+        for (const page::LinkArea& link : page_.links)
+            if (const double middle = link.y + link.height / 2; middle >= from && middle < end)
+                sheet.links.push_back({link.surface, link.x + (width_ - kColumn) / 2,
+                                       link.y - start, link.width, link.height, link.tag,
+                                       link.tooltip, link.caption});
         // What goes on on the next sheet does not run through the foot of this one.
         if (isCutThrough)
             sheet.operations.emplace_back(
@@ -253,12 +260,12 @@ private:
 } // namespace
 
 std::vector<page::Sheet> layOnPaper(const page::Recording& drawing, const Footer& footer,
-                                    const platform::Paper& paper,
-                                    const page::TextMetrics& metrics) {
-    Layout layout(drawing, footer, paper, metrics);
+                                    const platform::Paper& paper, const page::TextMetrics& metrics,
+                                    const std::vector<page::LinkArea>& links) {
+    Layout layout(drawing, links, footer, paper, metrics);
     const double wanted = layout.enlargementForOneSheet();
     if (wanted > 1 && wanted <= kMostReduction)
-        return Layout(drawing, footer, paper, metrics, wanted).sheets();
+        return Layout(drawing, links, footer, paper, metrics, wanted).sheets();
     return layout.sheets();
 }
 

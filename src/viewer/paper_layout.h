@@ -24,7 +24,9 @@ struct Footer {
 /// sign would be; what is taller than a sheet by itself shows in part on each. The footer stands on
 /// the last sheet, in smaller letters when it is wider than the paper. Room for it is kept on every
 /// sheet.
+/// `links` stand on SurfaceId::Printer, as the drawing does.
 std::vector<page::Sheet> layOnPaper(const page::Recording& drawing, const Footer& footer,
-                                    const platform::Paper& paper, const page::TextMetrics& metrics);
+                                    const platform::Paper& paper, const page::TextMetrics& metrics,
+                                    const std::vector<page::LinkArea>& links = {});
 
 } // namespace viewer

@@ -1,5 +1,8 @@
 #include "viewer/print_command.h"
 
+#include "platform/printed_words.h"
+#include "viewer/page_proposal.h"
+
 namespace viewer {
 
 using Outcome = platform::PrinterSetup::Outcome;
@@ -18,15 +21,35 @@ QString sentenceOn(const PrintRun& run) {
 } // namespace
 
 void PrintCommand::print() {
-    auto outcome = setup_.ask();
+    auto outcome = parts_.setup.ask();
     while (outcome == Outcome::Cancelled)
-        outcome = setup_.ask();
+        outcome = parts_.setup.ask();
     if (outcome != Outcome::Confirmed)
         return;
-    const PrintRun run = pages_.imprimepage();
-    if (run.isCut())
-        messageBoxes_.ask({QStringLiteral("Imprimer"), sentenceOn(run),
-                           platform::Message::Icon::Exclamation, platform::Message::Buttons::Ok});
+    if (const auto part = chosenPart())
+        tell(parts_.pages.imprimepage(*part));
+}
+
+std::optional<PrintPart> PrintCommand::chosenPart() {
+    PageProposal proposal(parts_.pages.pages());
+    if (!proposal.hasPages()) // a range that ends before it begins prints nothing, meant so
+        return std::nullopt;
+    const auto choice = parts_.preview.ask(proposal);
+    return choice ? std::optional(proposal.part(*choice)) : std::nullopt;
+}
+
+void PrintCommand::tell(const PrintRun& run) {
+    if (run.isCut()) {
+        parts_.messageBoxes.ask({QStringLiteral("Imprimer"), sentenceOn(run),
+                                 platform::Message::Icon::Exclamation,
+                                 platform::Message::Buttons::Ok});
+        return;
+    }
+    if (!run.hasBegun || run.wanted == 0)
+        return;
+    const platform::PrintTarget target = parts_.pages.target();
+    parts_.notices.tellPrinted(platform::printedWords(run.printed, target),
+                               platform::showingOf(target, parts_.opener, parts_.messageBoxes));
 }
 
 } // namespace viewer

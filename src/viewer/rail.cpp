@@ -26,12 +26,12 @@ constexpr QRect kBack(0, 464, 72, 56);
 constexpr QRect kForward(80, 464, 72, 56);
 
 Button* addHistoryButton(const QString& name, const QString& caption, const QString& toolTip,
-                         const QString& icon, QWidget* parent) {
+                         const QString& icon, const QString& keys, QWidget* parent) {
     auto* button = new Button(
         caption, {.kind = Button::Kind::Ordinary, .icon = icon, .place = Button::IconPlace::Top},
         parent);
     button->setObjectName(name);
-    look::setToolTip(*button, toolTip);
+    look::setToolTip(*button, toolTip, keys);
     button->setAccessibleDescription(toolTip);
     button->setEnabled(false);
     return button;
@@ -60,10 +60,12 @@ Rail::Rail(QWidget* parent) : QWidget(parent) {
     setReturnToTestVisible(false);
 
     addHistoryButton(QStringLiteral("avant"), QStringLiteral("&Précédent"),
-                     QStringLiteral("Page précédente"), QStringLiteral("previous-page"), this)
+                     QStringLiteral("Page précédente"), QStringLiteral("previous-page"),
+                     QStringLiteral("Alt + ←"), this)
         ->setGeometry(kBack);
     addHistoryButton(QStringLiteral("apres"), QStringLiteral("S&uivant"),
-                     QStringLiteral("Page suivante"), QStringLiteral("next-page"), this)
+                     QStringLiteral("Page suivante"), QStringLiteral("next-page"),
+                     QStringLiteral("Alt + →"), this)
         ->setGeometry(kForward);
 }
 

@@ -26,20 +26,23 @@ struct Row {
     const char* toolTip;
     const char* icon;
     int x;
+    const char* keys =
+        ""; ///< beside the mnemonic of the caption, which the tooltip names otherwise
 };
 
 constexpr std::array<Row, 11> kRows = {{
-    {"Command2", "Accueil", "Afficher le sommaire général", "home", 8},
+    {"Command2", "Accueil", "Afficher le sommaire général", "home", 8, "Alt + S"},
     {"command6", "Ph&ysique", "Sommaire physique", "physics", 72},
     {"command5", "C&himie", "Sommaire chimie", "chemistry", 136},
-    {"command4", "&Rechercher", "Moteur de recherche", "search", 216},
+    {"command4", "&Rechercher", "Moteur de recherche", "search", 216, "Ctrl + L"},
     {"Command3", "&Calculatrice", "Machine à calculer", "calculator", 280},
-    {"CommandIMPRIME", "&Imprimer", "Imprimer ou configurer l'imprimante", "print", 344},
+    {"CommandIMPRIME", "&Imprimer", "Imprimer ou configurer l'imprimante", "print", 344,
+     "Ctrl + P"},
     {"Command12", "Int&ernet", "", "internet", 424},
     {"Command13", "C&rédits", "", "credits", 488},
-    {"Command10", "&Aide", "Aide pour utiliser le logiciel", "help", 552},
+    {"Command10", "&Aide", "Aide pour utiliser le logiciel", "help", 552, "F1"},
     {"Command8", "Actualiser", "Actualiser le logiciel", "update", 616},
-    {"Command14", "&Quitter", "Quitter l'application", "quit", 728},
+    {"Command14", "&Quitter", "Quitter l'application", "quit", 728, "Ctrl + Q"},
 }};
 
 constexpr std::array<double, 2> kSeparators = {208, 416};
@@ -59,7 +62,7 @@ Toolbar::Toolbar(QWidget* parent) : QWidget(parent) {
                                    .place = Button::IconPlace::Top},
                                   this);
         button->setObjectName(QString::fromLatin1(row.name));
-        look::setToolTip(*button, QString::fromUtf8(row.toolTip));
+        look::setToolTip(*button, QString::fromUtf8(row.toolTip), QString::fromLatin1(row.keys));
         button->setAccessibleDescription(button->toolTip());
         button->setGeometry(QRect(QPoint(row.x, kTop), kButton));
     }

@@ -1,7 +1,6 @@
 #include "viewer/video_frame.h"
 
 #include "look/accessible_role.h"
-#include "look/button.h"
 #include "look/interface_font.h"
 #include "look/palette.h"
 #include "look/pixels.h"
@@ -33,6 +32,15 @@ constexpr QSizeF kMarker(217, 8);
 /// Around the track, where a click is meant for it.
 constexpr double kReach = 8;
 
+// At double size everything stands below the picture.
+constexpr QRect kDoublePicture(72, 8, 640, 480);
+constexpr QPoint kDoubleButtons(72, 496);
+constexpr QRectF kDoubleTrack(305, 508, 271, 8);
+
+// The button for the size of the picture: beside the picture below the words, or at the right.
+constexpr QRect kSizeButton(344, 64, 120, 32);
+constexpr QRect kDoubleSizeButton(592, 496, 120, 32);
+
 // Sign and words, from the left: beside the picture, or at the left end when it is closed.
 constexpr double kWordsLeftOpen = 344;
 constexpr double kWordsLeftClosed = 8;
@@ -62,14 +70,18 @@ constexpr std::array<Row, 7> kRows = {{
 } // namespace
 
 VideoFrame::VideoFrame(QWidget* parent)
-    : QWidget(parent), projo_(new VideoPicture(this)), buttons_(new QWidget(this)) {
+    : QWidget(parent), projo_(new VideoPicture(this)), buttons_(new QWidget(this)),
+      size_(new Button({}, {.icon = {}}, this)) {
     look::setAccessibleRole(*this, QAccessible::Grouping);
     setObjectName(QStringLiteral("videoFrame"));
     setAccessibleName(QStringLiteral("Vidéo de la page"));
     setFocusPolicy(Qt::TabFocus);
     projo_->setGeometry(kPicture);
     projo_->hide();
+    projo_->onDoubleClick([this] { toggleSize(); });
     addButtons();
+    size_->setObjectName(QStringLiteral("videoSize"));
+    connect(size_, &QPushButton::clicked, this, [this] { toggleSize(); });
 }
 
 void VideoFrame::addButtons() {
@@ -88,15 +100,26 @@ void VideoFrame::addButtons() {
     }
 }
 
-void VideoFrame::setOpen(bool open) {
-    open_ = open;
-    projo_->setVisible(open);
-    buttons_->move(kButtonsLeft, height() - kButtonsAbove);
+void VideoFrame::setShape(Shape shape) {
+    shape_ = shape;
+    const bool isDouble = shape == Shape::Double;
+    projo_->setGeometry(isDouble ? kDoublePicture : kPicture);
+    projo_->setVisible(shape != Shape::Closed);
+    buttons_->move(isDouble ? kDoubleButtons : QPoint(kButtonsLeft, height() - kButtonsAbove));
+    size_->setCaption(isDouble ? QStringLiteral("Taille normale")
+                               : QStringLiteral("Double taille"));
+    size_->setGeometry(isDouble ? kDoubleSizeButton : kSizeButton);
+    size_->setVisible(shape != Shape::Closed && projo_->isVideo());
     update();
 }
 
+void VideoFrame::toggleSize() {
+    if (sizeToggled_ && projo_->isVideo())
+        sizeToggled_();
+}
+
 void VideoFrame::setMarkerWidth(double twips) {
-    markerPx_ = qBound(0.0, twips / page::kTwipsPerPixel, kMarker.width());
+    share_ = qBound(0.0, twips / page::kTwipsPerPixel / kMarker.width(), 1.0);
     update();
 }
 
@@ -128,6 +151,8 @@ void VideoFrame::playOrPause() {
 }
 
 QRectF VideoFrame::track() const {
+    if (shape_ == Shape::Double)
+        return kDoubleTrack;
     return {QPointF(kButtonsLeft, height() - kMarkerAbove), kMarker};
 }
 
@@ -179,6 +204,8 @@ bool VideoFrame::pressForKey(int key) {
 void VideoFrame::keyPressEvent(QKeyEvent* event) {
     if (event->modifiers() & ~Qt::KeyboardModifiers(Qt::KeypadModifier))
         QWidget::keyPressEvent(event);
+    else if (event->key() == Qt::Key_Escape && shape_ == Shape::Double)
+        toggleSize();
     else if (event->key() == Qt::Key_Space)
         playOrPause();
     else if (!pressForKey(event->key()))
@@ -202,14 +229,8 @@ void VideoFrame::paintEvent(QPaintEvent*) {
     drawFrame(painter, rect(), 0, hasFocus() ? kBlue : kRule, QColor::fromRgb(kPaper),
               hasFocus() ? 2 : 1);
 
-    const double left = open_ ? kWordsLeftOpen : kWordsLeftClosed;
-    sign_.paint(painter, {left, kSignTop, kSignPx, kSignPx}, Icon::Style::Coloured);
-    painter.setPen(QColor::fromRgb(kBlue));
-    painter.setFont(interfaceFont(kLabelPx, Weight::Bold));
-    painter.drawText(QPointF(left + kWordsIndent, kHeadingFoot), accessibleName());
-    painter.setPen(QColor::fromRgb(kMuted));
-    painter.setFont(interfaceFont(kButtonPx));
-    painter.drawText(QPointF(left + kWordsIndent, kStatusFoot), status_);
+    if (shape_ != Shape::Double)
+        paintWords(painter);
 
     const QRectF keys = buttons_->geometry();
     drawFrame(painter, keys, 4, kEdge, QColor::fromRgb(kPaper));
@@ -218,6 +239,18 @@ void VideoFrame::paintEvent(QPaintEvent*) {
                                 keys.top() + 1, crisp(painter), keys.height() - 2),
                          QColor::fromRgb(kRule));
     paintMarker(painter);
+}
+
+void VideoFrame::paintWords(QPainter& painter) const {
+    using namespace look;
+    const double left = shape_ == Shape::Open ? kWordsLeftOpen : kWordsLeftClosed;
+    sign_.paint(painter, {left, kSignTop, kSignPx, kSignPx}, Icon::Style::Coloured);
+    painter.setPen(QColor::fromRgb(kBlue));
+    painter.setFont(interfaceFont(kLabelPx, Weight::Bold));
+    painter.drawText(QPointF(left + kWordsIndent, kHeadingFoot), accessibleName());
+    painter.setPen(QColor::fromRgb(kMuted));
+    painter.setFont(interfaceFont(kButtonPx));
+    painter.drawText(QPointF(left + kWordsIndent, kStatusFoot), status_);
 }
 
 void VideoFrame::paintMarker(QPainter& painter) const {
@@ -229,7 +262,7 @@ void VideoFrame::paintMarker(QPainter& painter) const {
     painter.drawRoundedRect(marker, 2, 2);
     // The marker is not told of the last frame: the bar is full all the same.
     if (!atEnd_)
-        marker.setWidth(markerPx_);
+        marker.setWidth(share_ * marker.width());
     painter.setBrush(QColor::fromRgb(kBlue));
     painter.drawRoundedRect(marker, 2, 2);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "look/icon.h"
+#include "look/button.h"
 #include "viewer/video_picture.h"
 
 #include <QWidget>
@@ -13,7 +13,8 @@ namespace viewer {
 /// while a video is open, its picture `projo`. With the keyboard on it, or on one of its buttons,
 /// the arrows go from frame to frame, Home and End to the first and the last; Space plays and
 /// pauses. It takes the keyboard when it is clicked. A click or a drag on the marker's track leads
-/// to that place of the video.
+/// to that place of the video. A button, or a double click on the picture, shows it at double size,
+/// and again as it was; so does Escape then.
 class VideoFrame : public QWidget {
 public:
     explicit VideoFrame(QWidget* parent);
@@ -25,8 +26,13 @@ public:
     /// Where a menu comes up: at the pointer, or on the picture for who pressed a key.
     QPoint menuPlace() const;
 
-    /// Lays the frame out with or without the picture.
-    void setOpen(bool open);
+    /// How the frame is laid out: without the picture, with it, or with it at double size and all
+    /// else below it.
+    enum class Shape { Closed, Open, Double };
+    void setShape(Shape shape);
+
+    /// `toggled` is called when the other of the two sizes of the picture is asked for.
+    void onSizeToggled(std::function<void()> toggled) { sizeToggled_ = std::move(toggled); }
 
     /// `sought` gets the place in the video that was chosen on the marker's track, 0 to 1.
     void onSought(std::function<void(double)> sought) { sought_ = std::move(sought); }
@@ -49,20 +55,24 @@ protected:
 
 private:
     void addButtons();
+    void toggleSize();
     void press(int index);
     bool pressForKey(int key);
     QRectF track() const;
     void seekTo(double x);
+    void paintWords(QPainter& painter) const;
     void paintMarker(QPainter& painter) const;
 
     std::function<void(int)> pressed_;
     std::function<void(double)> sought_;
+    std::function<void()> sizeToggled_;
     bool seeking_ = false;
     look::Icon sign_{QStringLiteral("video")};
     VideoPicture* projo_;
     QWidget* buttons_;
-    bool open_ = false;
-    double markerPx_ = 0;
+    look::Button* size_;
+    Shape shape_ = Shape::Closed;
+    double share_ = 0; ///< of the video that the marker shows
     QString status_;
     bool playing_ = false;
     bool atEnd_ = false;

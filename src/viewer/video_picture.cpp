@@ -4,6 +4,7 @@
 #include "look/interface_font.h"
 #include "look/palette.h"
 
+#include <QGraphicsEffect>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -45,6 +46,12 @@ void VideoPicture::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     if (!picture_.isNull()) {
         painter.drawImage(rect(), picture_);
+        // Below an effect the window is painted on a ground that lets through, and the frames of a
+        // video leave the byte of the opacity empty.
+        if (window()->graphicsEffect()) {
+            painter.setCompositionMode(QPainter::CompositionMode_Plus);
+            painter.fillRect(rect(), Qt::black);
+        }
         if (picture_.size() != pictureSize() && asked_ != pictureSize() && resized_) {
             asked_ = pictureSize();
             QMetaObject::invokeMethod(this, resized_, Qt::QueuedConnection);
@@ -60,6 +67,13 @@ void VideoPicture::paintEvent(QPaintEvent*) {
 void VideoPicture::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton && clicked_)
         clicked_();
+}
+
+void VideoPicture::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton || picture_.isNull() || !doubled_)
+        return;
+    clicked_();
+    doubled_();
 }
 
 } // namespace viewer

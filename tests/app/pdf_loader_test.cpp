@@ -23,7 +23,7 @@ TEST(PdfLoader, theModuleWritesWhatTheProgramLaidOut) {
     page::putOnSheet(recording, fonts, sheet);
     const auto printer = app::loadPdfPrinter(path, fonts, platform::kPlainPaper);
     ASSERT_TRUE(printer);
-    EXPECT_TRUE(printer->begin(QStringLiteral("essai")));
+    EXPECT_TRUE(printer->begin({QStringLiteral("essai")}));
     EXPECT_TRUE(printer->print(sheet));
     EXPECT_TRUE(printer->end()) << qPrintable(printer->error());
     const auto words = test_support::PrintedPdf(path).words();

@@ -42,8 +42,8 @@ TEST_F(Test, aWrongAnswerIsCorrected) {
         auto& box = control(qPrintable(QStringLiteral("Check1_%1").arg(i)));
         EXPECT_FALSE(box.isEnabled());
         EXPECT_EQ(box.isChecked(), i == 1);
-        // The mark begins 36 pixels left of the box and 1 above; the box is 1 inside the control.
-        EXPECT_EQ(colourAt(box.pos() + QPoint(1 - 36 + 2, 1 - 1 + 8)), marks[i]) << i;
+        // The mark begins 36 pixels left of the box and 1 above; the box is 6 inside the control.
+        EXPECT_EQ(colourAt(box.pos() + QPoint(6 - 36 + 2, 6 - 1 + 8)), marks[i]) << i;
     }
     EXPECT_EQ(textOf(area(), QAccessible::Name), u"Question 1 / 4, réponse fausse");
 }
@@ -67,8 +67,8 @@ TEST_F(Test, controlsStandWhereTheQuestionPutsThem) {
     openAt(1);
     for (const auto& operation : {0, 1, 2}) {
         auto& box = control(qPrintable(QStringLiteral("Check1_%1").arg(operation)));
-        EXPECT_EQ(box.x(), 48 - 1);
-        EXPECT_EQ(box.size(), QSize(15, 15));
+        EXPECT_EQ(box.x(), 48 - 6);
+        EXPECT_EQ(box.size(), QSize(25, 25)) << "large enough to be hit";
     }
     openAt(3);
     EXPECT_EQ(control<QWidget>("Text1").geometry().top(), 0); // not cut by the view

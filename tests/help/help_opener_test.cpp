@@ -1,6 +1,8 @@
 #include "help/help_opener.h"
+#include "output/paper/qt_printer.h"
 #include "platform/qt/system_help_viewer.h"
 #include "support/fake_message_boxes.h"
+#include "support/fake_print_preview.h"
 #include "support/fake_processes.h"
 #include "support/files.h"
 
@@ -35,7 +37,10 @@ protected:
     page::FontBook fonts;
     output::QtPrinter printer{fonts};
     test_support::FakeMessageBoxes messageBoxes;
-    help::HelpOpener opener{installDir, viewer, {setup, printer, messageBoxes}};
+    test_support::FakePrintPreview preview;
+    test_support::FakePdfOpener pdfs;
+    help::HelpOpener opener{
+        installDir, viewer, {setup, preview, printer, fonts, messageBoxes, pdfs}};
 
 private:
     QByteArray path_;

@@ -1,9 +1,13 @@
 #include "help/help_browser.h"
 #include "help/help_list.h"
 #include "help/help_window.h"
+#include "help/page_document.h"
 #include "look/print_setup.h"
+#include "output/paper/qt_printer.h"
+#include "output/pdf/pdf_printer.h"
 #include "printing/printed_pdf.h"
 #include "support/fake_message_boxes.h"
+#include "support/fake_print_preview.h"
 #include "support/printing.h"
 
 #include <QLabel>
@@ -34,6 +38,11 @@ private:
     QString file_;
 };
 
+std::unique_ptr<platform::Printer> newPdf(const QString& path, const page::FontBook& fonts,
+                                          const platform::Paper& paper) {
+    return std::make_unique<output::PdfPrinter>(path, fonts, paper);
+}
+
 class Window : public testing::Test {
 protected:
     Window() {
@@ -54,10 +63,12 @@ protected:
     HelpBook book;
     QTemporaryDir directory;
     page::FontBook fonts;
-    output::QtPrinter printer{fonts};
+    output::QtPrinter printer{fonts, &newPdf};
     IntoFile setup{printer, directory.filePath("page.pdf")};
     test_support::FakeMessageBoxes messageBoxes;
-    HelpWindow window{book, {setup, printer, messageBoxes}};
+    test_support::FakePrintPreview preview;
+    test_support::FakePdfOpener opener;
+    HelpWindow window{book, {setup, preview, printer, fonts, messageBoxes, opener}};
     HelpBrowser* browser = static_cast<HelpBrowser*>(window.findChild<QTextBrowser*>());
     HelpList* list = static_cast<HelpList*>(window.findChild<QListWidget*>());
     QLineEdit* field = window.findChild<QLineEdit*>();
@@ -158,11 +169,17 @@ TEST_F(Window, printsThePageShown) {
     EXPECT_EQ(sheets[0].first(), "Toutes les touches");
     EXPECT_EQ(QString(sheets[0].last()).remove(u' '),
               QStringLiteral("Aided’Orvalente–Touteslestouches1/%1").arg(sheets.size()));
-    EXPECT_TRUE(sheets.last().join(u' ').contains("sinon ferme l’aide"));
+    const QString end = sheets.last().join(u'\n');
+    EXPECT_TRUE(end.contains("sinon ferme l’aide")) << qPrintable(end);
+    EXPECT_EQ(preview.choices.size(), 2);
+    auto* told = window.findChild<QLabel*>("outcome");
+    EXPECT_TRUE(told->isVisible() && told->text().contains("page.pdf")) << qPrintable(told->text());
+    window.findChild<QPushButton*>("outcomeAction")->click();
+    EXPECT_EQ(opener.files, QStringList{directory.filePath("page.pdf")});
 
     printer.device().setOutputFileName(directory.path());
     IntoFile nowhere(printer, directory.filePath("nulle/part.pdf"));
-    HelpWindow other(book, {nowhere, printer, messageBoxes});
+    HelpWindow other(book, {nowhere, preview, printer, fonts, messageBoxes, opener});
     other.show();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&other));
     hit(Qt::Key_P, Qt::ControlModifier);
@@ -170,16 +187,37 @@ TEST_F(Window, printsThePageShown) {
     EXPECT_TRUE(messageBoxes.messages[0].text.contains("n’a pas pu être imprimée"));
 }
 
+TEST_F(Window, theWholeHelpIsOneFileWithItsContentsAndLinks) {
+    preview.answer = 1;
+    hit(Qt::Key_P, Qt::ControlModifier);
+    using test_support::PrintedPdf;
+    const QString path = directory.filePath("page.pdf");
+    const QString outline = PrintedPdf::run("pdftohtml", {"-xml", "-stdout", "-i", path});
+    EXPECT_EQ(outline.count("<item"), book.pages().size()) << "a line for each page of the help";
+    const QString json = PrintedPdf::run("qpdf", {"--json=1", "--json-key=objects", path});
+    EXPECT_GT(json.count("\"/Subtype\": \"/Link\""), 20);
+    // A heading goes with what follows it.
+    QStringList headings;
+    for (const HelpPage& page : book.pages()) {
+        PageDocument document(book, page);
+        for (auto block = document.begin(); block.isValid(); block = block.next())
+            if (block.blockFormat().headingLevel() > 0)
+                headings.append(block.text().simplified());
+    }
+    for (const QStringList& sheet : PrintedPdf(path).sheets())
+        EXPECT_FALSE(headings.contains(sheet.value(sheet.size() - 2))) << qPrintable(sheet.last());
+}
+
 TEST_F(Window, aJobOfTheCourseIsNotCut) {
     look::QtPrinterSetup asking(printer, messageBoxes);
-    HelpWindow other(book, {asking, printer, messageBoxes});
+    HelpWindow other(book, {asking, preview, printer, fonts, messageBoxes, opener});
     other.show();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&other));
     setup.ask();
     page::Sheet sheet;
     sheet.width = 11906;
     sheet.height = 16838;
-    ASSERT_TRUE(printer.begin("Cours"));
+    ASSERT_TRUE(printer.begin({"Cours"}));
     EXPECT_TRUE(printer.print(sheet));
     hit(Qt::Key_P, Qt::ControlModifier);
     ASSERT_EQ(messageBoxes.messages.size(), 1U);

@@ -26,7 +26,7 @@ public:
 class Paper : public platform::Printer {
 public:
     platform::Paper paper() const override { return platform::kPlainPaper; }
-    bool begin(const QString&) override { return works; }
+    bool begin(const platform::PrintJob&) override { return works; }
     bool print(const page::Sheet&) override { return ++sheets > 0; }
     bool end() override { return works; }
     QString error() const override { return QStringLiteral("l’encre manque"); }

@@ -1,5 +1,6 @@
 #include "look/scroll_bar.h"
 #include "output/paper/escape_watch.h"
+#include "output/pdf/pdf_printer.h"
 #include "printing/print_case.h"
 
 #include <QCoreApplication>
@@ -155,6 +156,34 @@ TEST_F(PagePrinter, aJobIsBoundedAndEndsAfterTheSheetInWorkWhenStopped) {
         EXPECT_EQ(stopped.ended, 1);
         EXPECT_EQ(bench->bound.TextID, "1");
     }
+}
+
+TEST_F(PagePrinter, aFileHasTheOutlineAndTheLinksBetweenItsPages) {
+    const QString links = QStringLiteral("##LIERTsuite#PAG012\r\n##LIERTailleurs#PAG001\r\n"
+                                         "##LIERTabsente#PAG013\r\n##LIERTmodule#EXE012\r\n");
+    // Number 13 has no page; the first record is printed in its place.
+    open({record(1, "11", "13", QStringLiteral("Accueil¶\r\n")),
+          record(11, "11", "13", links + QStringLiteral("Une ligne¶\r\n").repeated(90)),
+          record(12, "", "")});
+    bench->bound.moveTo(1);
+    output::PdfPrinter pdf(path(), fonts);
+    ASSERT_FALSE(pages(pdf).imprimepage().isCut());
+    using test_support::PrintedPdf;
+    const QString outline = PrintedPdf::run("pdftohtml", {"-xml", "-stdout", path()});
+    EXPECT_EQ(outline.count("<item"), 3) << "one line for a page of several sheets\n"
+                                         << qPrintable(outline);
+    EXPECT_GT(PrintedPdf(path()).sheets().size(), 3);
+    // To 12 only: neither to a page of another run, nor to what is not there, nor to a module.
+    const QString json = PrintedPdf::run("qpdf", {"--json=1", "--json-key=objects", path()});
+    EXPECT_EQ(json.count("\"/Subtype\": \"/Link\""), 1) << qPrintable(json);
+    EXPECT_TRUE(json.contains("\"/Dest\": \"page12\"")) << qPrintable(json);
+
+    // A job that is stopped before a page that others lead to is a file all the same.
+    output::PdfPrinter stopped(path(), fonts);
+    int asked = 0;
+    EXPECT_TRUE(pages(stopped, [&] { return ++asked == 1; }).imprimepage().isCut());
+    EXPECT_EQ(stopped.error(), QString());
+    EXPECT_EQ(test_support::PrintedPdf(path()).sheets().size(), 1);
 }
 
 TEST_F(PagePrinter, withoutAPrinterNothingHappens) {

@@ -10,11 +10,25 @@
 
 namespace test_support {
 
+/// What a sheet shows, in a line an operation: texts, and where all stands.
+inline QString textOf(const page::Sheet& sheet) {
+    QString all = QStringLiteral("%1 %2\n").arg(sheet.title).arg(sheet.number);
+    for (const page::DrawnOperation& operation : sheet.operations) {
+        const auto* text = std::get_if<page::TextOperation>(&operation);
+        const auto* fill = std::get_if<page::FillOperation>(&operation);
+        all += text   ? QStringLiteral("%1 %2 %3\n").arg(text->x).arg(text->y).arg(text->text)
+               : fill ? QStringLiteral("%1 %2 %3\n").arg(fill->x).arg(fill->y).arg(fill->height)
+                      : QStringLiteral("%1\n").arg(operation.index());
+    }
+    return all;
+}
+
 /// A printer that counts; nothing is printed.
 class CountingPrinter : public platform::Printer {
 public:
     platform::Paper paper() const override { return platform::kPlainPaper; }
-    bool begin(const QString&) override { return ++jobs > 0; }
+    platform::PrintTarget target() const override { return where; }
+    bool begin(const platform::PrintJob&) override { return ++jobs > 0; }
     bool print(const page::Sheet&) override {
         ++sheets;
         if (whilePrinting)
@@ -27,6 +41,7 @@ public:
     std::function<void()> whilePrinting;
     int refused = -1;   ///< the sheet that it does not take, counted from 1
     bool canEnd = true; ///< whether it can hand a job over
+    platform::PrintTarget where;
     int jobs = 0, sheets = 0, ended = 0;
 };
 

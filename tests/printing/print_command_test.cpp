@@ -4,7 +4,9 @@
 #include "printing/print_case.h"
 #include "support/course_compiler.h"
 #include "support/fake_message_boxes.h"
+#include "support/fake_print_preview.h"
 #include "viewer/print_command.h"
+#include "viewer/window_case.h"
 
 namespace {
 
@@ -17,21 +19,35 @@ public:
     int asked = 0;
 };
 
-using PrintCommand = test_support::PrintCase;
+class PrintCommand : public test_support::PrintCase, public viewer::PrintNotices {
+protected:
+    void tellPrinted(const QString& line, const std::function<void()>& show) override {
+        told = line;
+        showFile = show;
+    }
+    void run(platform::PrinterSetup& setup, viewer::PagePrinter& printing) {
+        viewer::PrintCommand({setup, preview, printing, messageBoxes, *this, opener}).print();
+    }
+
+    test_support::FakePrintPreview preview;
+    test_support::FakePdfOpener opener;
+    test_support::FakeMessageBoxes messageBoxes;
+    QString told;
+    std::function<void()> showFile;
+};
 
 TEST_F(PrintCommand, theSetupComesBackUntilItIsConfirmed) {
     open({record(1, "1", "1")});
     test_support::CountingPrinter counting;
     viewer::PagePrinter printing = pages(counting);
     Person setup;
-    test_support::FakeMessageBoxes messageBoxes;
-    viewer::PrintCommand(setup, printing, messageBoxes).print();
+    run(setup, printing);
     EXPECT_EQ(setup.asked, 5);
     EXPECT_EQ(counting.sheets, 1);
     Person ending;
     for (const Outcome outcome : {Outcome::Gone, Outcome::Busy}) {
         ending.last = outcome;
-        viewer::PrintCommand(ending, printing, messageBoxes).print();
+        run(ending, printing);
         EXPECT_EQ(counting.sheets, 1) << "the program ends, or another job is under way";
     }
     EXPECT_TRUE(messageBoxes.messages.empty());
@@ -54,13 +70,107 @@ TEST_F(PrintCommand, aJobThatIsCutIsTold) {
         counting.refused = row.refused;
         counting.canEnd = row.canEnd;
         auto printing = pages(counting, [&] { return counting.sheets == row.stoppedAfter; });
-        test_support::FakeMessageBoxes messageBoxes;
-        viewer::PrintCommand(setup, printing, messageBoxes).print();
+        messageBoxes.messages.clear();
+        told.clear();
+        run(setup, printing);
+        EXPECT_EQ(told.isEmpty(), row.told != nullptr);
         ASSERT_EQ(messageBoxes.messages.size(), row.told ? 1U : 0U);
         if (row.told) {
             EXPECT_EQ(messageBoxes.messages[0].text, QString(row.told));
         }
     }
+}
+
+TEST_F(PrintCommand, thePreviewDecidesWhatIsPrinted) {
+    Person setup;
+    const struct {
+        const char *first, *last;
+        std::optional<int> answer;
+        QStringList choices; ///< as the preview is given them
+        int sheets;
+        const char* told;
+    } rows[] = {
+        {"1", "3", 0, {"Le chapitre (3 pages)", "Cette page"}, 3, "3 pages imprimées."},
+        {"1", "3", 1, {"Le chapitre (3 pages)", "Cette page"}, 1, "1 page imprimée."},
+        {"1", "3", std::nullopt, {"Le chapitre (3 pages)", "Cette page"}, 0, ""},
+        {"2", "2", 0, {"Cette page"}, 1, "1 page imprimée."},
+        {"3", "3", 0, {"Le chapitre (1 page)", "Cette page"}, 1, "1 page imprimée."},
+        {"3", "2", 0, {}, 0, ""}, // nothing to print is nothing to look at
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.first + std::string(" to ") + row.last);
+        open({record(2, row.first, row.last), record(1, "", ""), record(3, "", "")});
+        test_support::CountingPrinter counting;
+        auto printing = pages(counting);
+        bench->bound.moveTo(0);
+        preview.answer = row.answer;
+        preview.choices.clear();
+        told.clear();
+        run(setup, printing);
+        EXPECT_EQ(preview.choices, row.choices);
+        EXPECT_EQ(counting.sheets, row.sheets);
+        EXPECT_EQ(told, QString(row.told));
+        EXPECT_EQ(bench->bound.TextID, "2");
+    }
+}
+
+/// What a page leaves behind, here the caption of a link, shows on the next in the preview as it
+/// will on paper, whatever was looked at before.
+TEST_F(PrintCommand, thePreviewShowsTheSheetsThatAreThenPrinted) {
+    const QString leaving = QStringLiteral("Texte¶\r\n##LIER1perdu\r\n");
+    open(
+        {record(1, "1", "3", leaving),
+         record(2, "", "", QStringLiteral("##LIERTseul#X\r\n") + test_support::lines(90) + leaving),
+         record(3, "", "", QStringLiteral("##LIERTlien#X\r\n"))});
+    class Keeping : public test_support::CountingPrinter {
+    public:
+        bool print(const page::Sheet& sheet) override {
+            sheetsPrinted.push_back(test_support::textOf(sheet));
+            return CountingPrinter::print(sheet);
+        }
+        std::vector<QString> sheetsPrinted;
+    } keeping;
+    auto printing = pages(keeping);
+    std::vector<QString> shown;
+    const QString before = bench->bound.code;
+    preview.look = [&](platform::PrintProposal& proposal) {
+        for (const int page : {2, 0, 1}) // in any order
+            proposal.sheets(0, page, platform::kPlainPaper);
+        proposal.sheets(1, 0, platform::kPlainPaper);
+        EXPECT_EQ(bench->bound.code, before);
+        EXPECT_EQ(bench->bound.position(), 0);
+        for (int page = 0; page < proposal.pageCount(0); ++page)
+            for (const page::Sheet& sheet : proposal.sheets(0, page, platform::kPlainPaper))
+                shown.push_back(test_support::textOf(sheet));
+    };
+    Person setup;
+    run(setup, printing);
+    EXPECT_GT(shown.size(), 3U);
+    EXPECT_EQ(shown, keeping.sheetsPrinted);
+}
+
+TEST_F(PrintCommand, theFileThatWasWrittenIsShownOnDemand) {
+    open({record(1, "1", "1")});
+    Person setup;
+    test_support::CountingPrinter counting;
+    auto printing = pages(counting);
+    run(setup, printing);
+    EXPECT_FALSE(showFile) << "paper cannot be opened";
+    counting.where.printer = "Salle 12";
+    run(setup, printing);
+    EXPECT_EQ(told, QStringLiteral("1 page envoyée à l’imprimante «\u00A0Salle 12\u00A0»."));
+
+    counting.where = {"/tmp/un%1/La réfraction.pdf", {}};
+    run(setup, printing);
+    EXPECT_EQ(told, QStringLiteral("1 page écrite dans «\u00A0La réfraction.pdf\u00A0»."));
+    ASSERT_TRUE(showFile);
+    showFile();
+    EXPECT_EQ(opener.files, QStringList{counting.where.file});
+    EXPECT_TRUE(messageBoxes.messages.empty());
+    opener.canOpen = false;
+    showFile();
+    ASSERT_EQ(messageBoxes.messages.size(), 1U);
+    EXPECT_TRUE(messageBoxes.messages[0].text.contains(counting.where.file));
 }
 
 /// The demonstration course, printed by the tool.

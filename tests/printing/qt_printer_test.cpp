@@ -26,7 +26,7 @@ protected:
     }
 
     void printTo(platform::Printer& device) const {
-        EXPECT_TRUE(device.begin("essai"));
+        EXPECT_TRUE(device.begin({"essai"}));
         for (const auto& sheet :
              viewer::layOnPaper(recording, {"pied", {}}, platform::kPlainPaper, fonts))
             EXPECT_TRUE(device.print(sheet));
@@ -192,9 +192,9 @@ TEST_F(QtPrinter, lettersOfSignFacesAreFoundInFiles) {
         qt.device().setOutputFileName(path("file.pdf"));
         qt.device().setPageSize(QPageSize(row.size));
         qt.device().setPageOrientation(row.lie);
-        ASSERT_TRUE(qt.begin("essai"));
+        ASSERT_TRUE(qt.begin({"essai"}));
         EXPECT_TRUE(qt.isBusy());
-        EXPECT_FALSE(qt.begin("un autre")) << "one job at a time";
+        EXPECT_FALSE(qt.begin({"un autre"})) << "one job at a time";
         for (const auto& sheet : viewer::layOnPaper(recording, {"pied", {}}, qt.paper(), fonts))
             EXPECT_TRUE(qt.print(sheet));
         EXPECT_TRUE(qt.end()) << qPrintable(qt.error());
@@ -205,7 +205,7 @@ TEST_F(QtPrinter, lettersOfSignFacesAreFoundInFiles) {
         EXPECT_TRUE(told.contains(row.points)) << qPrintable(told);
     }
     qt.device().setOutputFileName(path("nulle/part.pdf"));
-    EXPECT_FALSE(qt.begin("essai"));
+    EXPECT_FALSE(qt.begin({"essai"}));
     EXPECT_TRUE(qt.error().startsWith(QStringLiteral("le fichier ne peut pas être créé")))
         << qPrintable(qt.error());
     EXPECT_FALSE(qt.isBusy());

@@ -304,16 +304,30 @@ TEST_F(Window, videoFrameMakesTheViewShorterUntilTheNextPage) {
 }
 
 TEST_F(Window, reportsShowUntilTheNextPage) {
-    auto* words = bench.control<QLabel>("status");
+    auto* words = bench.control<QLabel>("outcome");
+    auto* chapter = bench.control<QLabel>("status");
     bench.window.report(QStringLiteral("Le module est introuvable."));
     EXPECT_EQ(words->text(), QStringLiteral("Le module est introuvable."));
     bench.window.report(QStringLiteral("Un très long message. ").repeated(20));
     EXPECT_LE(words->heightForWidth(words->width()), words->height());
     EXPECT_EQ(words->toolTip(), QStringLiteral("Un très long message. ").repeated(20));
+    EXPECT_FALSE(chapter->isVisible());
     show(2);
-    EXPECT_EQ(words->text(), QStringLiteral("Dans ce chapitre"));
+    EXPECT_FALSE(words->isVisible());
+    EXPECT_EQ(chapter->text(), QStringLiteral("Dans ce chapitre"));
+    EXPECT_TRUE(chapter->isVisible());
     show(3);
-    EXPECT_EQ(words->text(), QString());
+    EXPECT_FALSE(chapter->isVisible());
+
+    // What was printed has a button that shows it; a warning afterwards has none.
+    int shown = 0;
+    bench.window.tellPrinted(QStringLiteral("1 page écrite."), [&] { ++shown; });
+    auto* open = bench.control<QPushButton>("outcomeAction");
+    QTest::mouseClick(open, Qt::LeftButton);
+    EXPECT_EQ(shown, 1);
+    EXPECT_LE(words->geometry().right(), open->geometry().left());
+    bench.window.report(QStringLiteral("Le module est introuvable."));
+    EXPECT_FALSE(open->isVisible());
 }
 
 TEST_F(Window, movingThePointerResetsTheLinks) {

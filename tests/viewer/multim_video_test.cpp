@@ -1,9 +1,12 @@
+#include "look/reduced_light.h"
 #include "viewer/window_case.h"
 
 #include <QMenu>
 #include <QScrollBar>
 
 #include <gmock/gmock.h>
+
+#include <algorithm>
 
 namespace {
 
@@ -55,6 +58,62 @@ TEST_F(VideoWindow, keysWorkOnTheFrameAndItsButtons) {
     EXPECT_EQ(shown(), QStringLiteral("1"));
     EXPECT_TRUE(bench.control<QWidget>("PictureTEXTE")->hasFocus())
         << "the video goes with its page, the keyboard stays with the next one";
+}
+
+TEST_F(VideoWindow, aVideoIsShownAtDoubleSizeAndBack) {
+    auto* projo = bench.control<QWidget>("projo");
+    auto* size = bench.control("videoSize");
+    const auto isDouble = [&] { return projo->size() == QSize(640, 480); };
+    show(5);
+    EXPECT_FALSE(size->isVisible()) << "there is no picture yet";
+    bench.window.setPictureVisible(true);
+    ASSERT_TRUE(size->isVisible());
+    click("videoSize");
+    EXPECT_TRUE(isDouble());
+    EXPECT_EQ(size->text(), "Taille normale");
+    EXPECT_TRUE(frame()->rect().contains(projo->geometry()));
+    bench.window.setPictureVisible(true); // it is opened anew
+    EXPECT_TRUE(isDouble());
+    for (const char* name : {"Image4_6", "Image4_5", "videoSize"}) {
+        const QWidget* control = bench.control(name);
+        const QRect place(control->mapTo(frame(), QPoint()), control->size());
+        EXPECT_FALSE(place.intersects(projo->geometry())) << name;
+        EXPECT_TRUE(frame()->rect().contains(place)) << name;
+    }
+    // The track is wider here; a click leads as far into the video as it stands on it.
+    bench.collaborators.log.clear();
+    QTest::mouseClick(frame(), Qt::LeftButton, {}, QPoint(305 + 271 / 2, 512));
+    EXPECT_TRUE(bench.collaborators.log.last().startsWith("seek 0.49"))
+        << qPrintable(bench.collaborators.log.last());
+    QTest::keyClick(frame(), Qt::Key_Escape);
+    EXPECT_EQ(projo->size(), QSize(320, 240));
+
+    bench.window.showPicture(QImage(4, 4, QImage::Format_RGB32));
+    bench.collaborators.log.clear();
+    QTest::mouseClick(projo, Qt::LeftButton);
+    QMouseEvent second(QEvent::MouseButtonDblClick, QPointF(5, 5), projo->mapToGlobal(QPoint(5, 5)),
+                       Qt::LeftButton, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(projo, &second);
+    EXPECT_TRUE(isDouble());
+    EXPECT_EQ(bench.collaborators.log.size() % 2, 0) << "what the first click did is taken back";
+    show(6);
+    EXPECT_FALSE(size->isVisible()) << "a choice of videos has one size";
+    EXPECT_EQ(projo->size(), QSize(320, 240));
+}
+
+TEST_F(VideoWindow, aVideoKeepsItsColoursInReducedLight) {
+    show(5);
+    bench.window.setPictureVisible(true);
+    QImage frame(320, 240, QImage::Format_RGB32);
+    // As frames come: red, with nothing in the byte of the opacity.
+    std::fill_n(reinterpret_cast<QRgb*>(frame.bits()), frame.width() * frame.height(), 0x00ff0000U);
+    bench.window.showPicture(frame);
+    look::ReducedLight light;
+    light.setOn(true);
+    const QImage seen = bench.window.grab().toImage();
+    light.setOn(false);
+    EXPECT_EQ(QColor(seen.pixel(QPoint(336, 424))).name(), "#cc0000");
+    EXPECT_LT(QColor(seen.pixel(QPoint(780, 424))).lightness(), 60) << "the frame around it";
 }
 
 TEST_F(VideoWindow, pointerPlaysAndSeeks) {

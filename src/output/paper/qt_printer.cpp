@@ -3,6 +3,7 @@
 #include "files/cause.h"
 #include "output/paper/paper_painter.h"
 
+#include <QFileInfo>
 #include <QPrinter>
 
 namespace output {
@@ -76,17 +77,24 @@ platform::Paper QtPrinter::paper() const {
             double(printable.top()), double(printable.width()), double(printable.height())};
 }
 
-bool QtPrinter::begin(const QString& title) {
+platform::PrintTarget QtPrinter::target() const {
+    if (device().outputFormat() != QPrinter::PdfFormat)
+        return {{}, device().printerName()};
+    const QString file = device().outputFileName();
+    return {file.isEmpty() ? file : QFileInfo(file).absoluteFilePath(), {}};
+}
+
+bool QtPrinter::begin(const platform::PrintJob& job) {
     if (isBusy())
         return false;
     error_.clear();
     if (makePdf_ && device().outputFormat() == QPrinter::PdfFormat)
         pdf_ = makePdf_(device().outputFileName(), fonts_, paper());
     if (!pdf_) {
-        device().setDocName(title);
+        device().setDocName(job.title);
         return beginOnDevice();
     }
-    if (pdf_->begin(title))
+    if (pdf_->begin(job))
         return true;
     error_ = pdf_->error();
     pdf_.reset();

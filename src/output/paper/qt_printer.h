@@ -31,7 +31,8 @@ public:
     QPrinter& device() const;
 
     platform::Paper paper() const override;
-    bool begin(const QString& title) override;
+    platform::PrintTarget target() const override;
+    bool begin(const platform::PrintJob& job) override;
     bool print(const page::Sheet& sheet) override;
     bool end() override;
     QString error() const override { return error_; }

@@ -66,6 +66,7 @@ public:
     bool addSheet(const page::Sheet& sheet, double width) {
         if (!error_.isEmpty())
             return false;
+        endPage();
         const double wanted = width > 0 && sheet.width > 0 ? width / sheet.width : 1;
         const double longest = std::max(sheet.width, sheet.height) / kTwipsPerPoint;
         scale_ = std::min(wanted, kMaxPagePoints / longest) / kTwipsPerPoint;
@@ -77,8 +78,6 @@ public:
         cairo_restore(context_.get());
         for (const page::LinkArea& link : sheet.links)
             addLink(link, sheet);
-        cairo_show_page(context_.get());
-        pictures_.endPage();
         return check();
     }
 
@@ -87,6 +86,12 @@ public:
             error_ = QStringLiteral("il n’y a aucune page à écrire");
         if (!error_.isEmpty())
             return false;
+        // Links to a sheet that never came, because the job was stopped, end here: a document with
+        // links to nowhere would not be written at all.
+        for (const int number : linked_)
+            if (!targets_.contains(number))
+                addDestination(number);
+        endPage();
         cairo_tag_end(context_.get(), "Document");
         cairo_surface_finish(pdf_.get());
         if (!check())
@@ -99,6 +104,14 @@ public:
     const QString& error() const { return error_; }
 
 private:
+    /// The page begun last is complete.
+    void endPage() {
+        if (pages_ == 0)
+            return;
+        cairo_show_page(context_.get());
+        pictures_.endPage();
+    }
+
     void beginPage(double width, double height) {
         if (++pages_ == 1)
             beginDocument(width, height);
@@ -133,15 +146,23 @@ private:
         QByteArray target = "page=" + QByteArray::number(pages_) + " pos=[0 0]";
         if (numbered && targets_.insert(sheet.number).second) {
             target = "dest='" + destination(sheet.number) + "'";
-            const QByteArray place = "name='" + destination(sheet.number) + "' x=0 y=0";
-            cairo_tag_begin(context_.get(), CAIRO_TAG_DEST, place.constData());
-            cairo_tag_end(context_.get(), CAIRO_TAG_DEST);
+            addDestination(sheet.number);
         }
         QByteArray title = sheet.title.simplified().toUtf8();
         if (title.isEmpty())
             title = "Page " + label;
-        cairo_pdf_surface_add_outline(pdf_.get(), CAIRO_PDF_OUTLINE_ROOT, title.constData(),
-                                      target.constData(), cairo_pdf_outline_flags_t{});
+        // A page of the course that goes on on a further sheet has one line in the outline.
+        if (!numbered || sheet.number != numberBefore_ || sheet.title != titleBefore_)
+            cairo_pdf_surface_add_outline(pdf_.get(), CAIRO_PDF_OUTLINE_ROOT, title.constData(),
+                                          target.constData(), cairo_pdf_outline_flags_t{});
+        numberBefore_ = sheet.number;
+        titleBefore_ = sheet.title;
+    }
+
+    void addDestination(int number) {
+        const QByteArray place = "name='" + destination(number) + "' x=0 y=0";
+        cairo_tag_begin(context_.get(), CAIRO_TAG_DEST, place.constData());
+        cairo_tag_end(context_.get(), CAIRO_TAG_DEST);
     }
 
     void addLink(const page::LinkArea& link, const page::Sheet& sheet) {
@@ -156,6 +177,7 @@ private:
             surface & QRectF(place->x + link.x, place->y + link.y, link.width, link.height);
         if (shown.isEmpty())
             return;
+        linked_.insert(*number);
         const QByteArray attributes = "rect=[" +
                                       numbers({shown.x() * scale_, shown.y() * scale_,
                                                shown.width() * scale_, shown.height() * scale_}) +
@@ -187,6 +209,9 @@ private:
     double scale_ = 1 / kTwipsPerPoint;
     int pages_ = 0;
     std::set<int> targets_;
+    std::set<int> linked_; ///< numbers that links lead to
+    int numberBefore_ = 0; ///< of the sheet before, and its title
+    QString titleBefore_;
     QString error_;
 };
 

@@ -2,8 +2,8 @@
 
 namespace output {
 
-bool PdfPrinter::begin(const QString& title) {
-    file_.emplace(path_, fonts_, PdfDocument{title, {}, {}});
+bool PdfPrinter::begin(const platform::PrintJob& job) {
+    file_.emplace(path_, fonts_, PdfDocument{job.title, {}, job.sheetOfTag});
     error_ = file_->error();
     return error_.isEmpty();
 }

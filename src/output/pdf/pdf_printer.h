@@ -18,7 +18,8 @@ public:
         : path_(std::move(path)), fonts_(fonts), paper_(paper) {}
 
     platform::Paper paper() const override { return paper_.value_or(platform::kPlainPaper); }
-    bool begin(const QString& title) override;
+    platform::PrintTarget target() const override { return {path_, {}}; }
+    bool begin(const platform::PrintJob& job) override;
     bool print(const page::Sheet& sheet) override;
     bool end() override;
     QString error() const override { return error_; }
