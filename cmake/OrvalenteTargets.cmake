@@ -25,6 +25,17 @@ add_library(orvalente_options INTERFACE)
 target_link_libraries(orvalente_options INTERFACE orvalente_flags)
 target_include_directories(orvalente_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
 
+# Whether a library or a test can be linked: in a build without Qt, what links to something that is not
+# there is not there either. With Qt everything is there, and a wrong name is a fault of the linker's.
+function(orvalente_can_link result)
+    set(${result} ON PARENT_SCOPE)
+    foreach(link IN LISTS ARGN)
+        if(NOT ORVALENTE_QT AND NOT TARGET ${link})
+            set(${result} OFF PARENT_SCOPE)
+        endif()
+    endforeach()
+endfunction()
+
 # A folder of src/ as a static library. It links only what it names: a stray use of a higher layer
 # fails to link.
 #   orvalente_library(markup SOURCES a.cpp b.cpp LINKS text platform)
@@ -32,6 +43,10 @@ target_include_directories(orvalente_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
 # too. It links libraries of its kind only, and OrvalenteWeb.cmake compiles it for wasm32.
 function(orvalente_library name)
     cmake_parse_arguments(ARG "WEB" "" "SOURCES;LINKS" ${ARGN})
+    orvalente_can_link(possible ${ARG_LINKS})
+    if(NOT possible)
+        return()
+    endif()
     add_library(${name} STATIC ${ARG_SOURCES})
     target_link_libraries(${name} PUBLIC orvalente_options ${ARG_LINKS})
     if(ARG_WEB)
@@ -47,18 +62,34 @@ function(orvalente_library name)
     endif()
 endfunction()
 
+# Compiles for Windows what needs no Qt, and runs its tests under Wine, where these are installed.
+function(orvalente_windows_test)
+    add_test(NAME windows.compiles COMMAND ${CMAKE_SOURCE_DIR}/scripts/windows compile)
+    add_test(NAME windows.passesItsTests COMMAND ${CMAKE_SOURCE_DIR}/scripts/windows try)
+    set_tests_properties(windows.compiles windows.passesItsTests PROPERTIES
+        SKIP_RETURN_CODE 77 TIMEOUT 3600)
+    set_tests_properties(windows.passesItsTests PROPERTIES DEPENDS windows.compiles)
+endfunction()
+
 # The tests of one folder, as one GoogleTest binary whose cases CTest lists one by one.
 #   orvalente_test(text_tests SOURCES a_test.cpp LINKS text)
 # QT: the binary brings its own main with an offscreen application (tests/support).
 # DISPLAYS: some cases start X servers of their own; they run one at a time.
 function(orvalente_test name)
     cmake_parse_arguments(ARG "QT;DISPLAYS" "" "SOURCES;LINKS" ${ARGN})
+    orvalente_can_link(possible ${ARG_LINKS})
+    if(NOT possible)
+        return()
+    endif()
     add_executable(${name} ${ARG_SOURCES})
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
     if(ARG_QT)
         target_link_libraries(${name} PRIVATE orvalente_options ${ARG_LINKS} test_support GTest::gmock)
     else()
         target_link_libraries(${name} PRIVATE orvalente_options ${ARG_LINKS} GTest::gmock GTest::gtest_main)
+    endif()
+    if(CMAKE_CROSSCOMPILING)
+        return() # scripts/windows runs the binaries whole
     endif()
     set(lock)
     if(ARG_DISPLAYS)

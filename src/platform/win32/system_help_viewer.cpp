@@ -2,8 +2,9 @@
 
 #include <QDir>
 
-#include <shellapi.h>
 #include <windows.h>
+// Needs the one above.
+#include <shellapi.h>
 
 namespace platform {
 
