@@ -20,6 +20,14 @@ constexpr std::size_t kMostLandmarks = 8;
 /// Numbers that come out of a calculation are as close as this to those typed.
 constexpr double kRounding = 1e-9;
 
+/// In any letter case.
+std::optional<World> worldNamed(const QString& name) {
+    const auto* found = std::find_if(kWorlds.begin(), kWorlds.end(), [&](const World& world) {
+        return QString::fromUtf16(world.name).compare(name, Qt::CaseInsensitive) == 0;
+    });
+    return found == kWorlds.end() ? std::nullopt : std::optional(*found);
+}
+
 /// Turns the entries of a file, one by one, into an exercise. Each step says whether it understood.
 class Reader {
 public:
@@ -128,7 +136,7 @@ private:
         const bool fits = x && y && std::fabs(*x) <= kFarthest && std::fabs(*y) <= kFarthest &&
                           exercise.landmarks.size() < kMostLandmarks;
         if (fits)
-            exercise.landmarks.push_back({{*x, *y}, name});
+            exercise.landmarks.push_back({*x, *y, name.toStdU16String()});
         return fits;
     }
 

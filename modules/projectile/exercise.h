@@ -1,44 +1,29 @@
 #pragma once
 
-#include "projectile/launch.h"
+#include "projectile/situation.h"
 
-#include <QPointF>
 #include <QString>
 #include <QStringList>
 
 #include <optional>
-#include <set>
-#include <vector>
 
 namespace projectile {
-
-/// A mark in the drawing: a ring, a wall, a line on the ground.
-struct Landmark {
-    QPointF place; ///< m
-    QString name;
-};
 
 enum class Answer { NoNumber, Wrong, Right };
 
 /// A task for the pupil: a situation, of which some numbers may be changed and others not, and a
 /// question that a number answers.
-struct Exercise {
+struct Exercise : Situation {
     QString title;
     QStringList statement; ///< paragraphs
     QString question;
-    Launch launch;
-    std::set<Parameter> locked;
-    bool dragLocked = false;
     bool hidesResults = false; ///< until a right answer was given
-    std::vector<Landmark> landmarks;
 
     double answer = 0;
     double tolerance = 0; ///< in the same unit; both ends still right
     QString unit;
     QString whenRight; ///< explanations
     QString whenWrong;
-
-    bool isLocked(Parameter parameter) const { return locked.count(parameter) > 0; }
 
     /// What the pupil typed, with or without the unit behind it.
     Answer judge(const QString& typed) const;

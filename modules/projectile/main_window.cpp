@@ -68,7 +68,7 @@ QVBoxLayout* column(QWidget* widget) {
 MainWindow::MainWindow(const Opening& opening) {
     setWindowTitle(common::windowTitle(QStringLiteral("Mouvement d’un projectile"), kModule));
     if (opening.exercise)
-        experiment_.setExercise(*opening.exercise);
+        experiment_.setSituation(*opening.exercise);
     auto* centre = new QWidget;
     auto* layout = new QHBoxLayout(centre);
     layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "projectile/exercise.h"
 #include "projectile/experiment.h"
 
 #include <QMainWindow>

@@ -7,14 +7,9 @@
 #include <QKeyEvent>
 #include <QSignalBlocker>
 
-#include <cmath>
-
 namespace projectile {
 
 namespace {
-
-/// Of a slider that gives each factor of ten the same room.
-constexpr int kLogarithmicPositions = 200;
 
 constexpr int kFieldWidth = 104;
 
@@ -53,7 +48,7 @@ QuantityRow::QuantityRow(Experiment& experiment, Parameter parameter, QWidget* p
     field_->setFixedWidth(kFieldWidth);
     field_->setAccessibleName(name);
 
-    slider_->setRange(0, positionOf(quantity_.most));
+    slider_->setRange(0, positionOf(quantity_, quantity_.most));
     slider_->setPageStep(10);
     slider_->setAccessibleName(name);
     slider_->setAccessibleDescription(QStringLiteral("en %1").arg(text(quantity_.unit)));
@@ -68,8 +63,9 @@ QuantityRow::QuantityRow(Experiment& experiment, Parameter parameter, QWidget* p
 
     connect(field_, &QDoubleSpinBox::valueChanged, this,
             [this, parameter](double value) { experiment_.set(parameter, value); });
-    connect(slider_, &QSlider::valueChanged, this,
-            [this, parameter](int position) { experiment_.set(parameter, valueAt(position)); });
+    connect(slider_, &QSlider::valueChanged, this, [this, parameter](int position) {
+        experiment_.set(parameter, valueAt(quantity_, position));
+    });
     experiment_.onChanged([this] { show(experiment_.launch().*quantity_.value); });
     show(experiment_.launch().*quantity_.value);
     setEnabled(!experiment_.isLocked(parameter));
@@ -79,26 +75,8 @@ void QuantityRow::show(double value) {
     const QSignalBlocker field(field_);
     const QSignalBlocker slider(slider_);
     field_->setValue(value);
-    slider_->setValue(positionOf(value));
+    slider_->setValue(positionOf(quantity_, value));
     slider_->update(); // its filled part, which follows a signal otherwise
-}
-
-int QuantityRow::positionOf(double value) const {
-    if (!quantity_.logarithmic)
-        return static_cast<int>(std::lround((value - quantity_.least) / quantity_.step));
-    const double share =
-        std::log(value / quantity_.least) / std::log(quantity_.most / quantity_.least);
-    return static_cast<int>(std::lround(share * kLogarithmicPositions));
-}
-
-double QuantityRow::valueAt(int position) const {
-    if (!quantity_.logarithmic)
-        return std::min(quantity_.most, quantity_.least + position * quantity_.step);
-    const double share = static_cast<double>(position) / kLogarithmicPositions;
-    const double value = quantity_.least * std::pow(quantity_.most / quantity_.least, share);
-    // Two significant digits: 0,63 kg is a better mass than 0,6309 kg.
-    const double power = std::pow(10, std::floor(std::log10(value)) - 1);
-    return std::min(quantity_.most, std::round(value / power) * power);
 }
 
 } // namespace projectile

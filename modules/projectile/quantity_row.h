@@ -26,8 +26,6 @@ public:
 
 private:
     void show(double value);
-    int positionOf(double value) const;
-    double valueAt(int position) const;
 
     Experiment& experiment_;
     const Quantity& quantity_;
