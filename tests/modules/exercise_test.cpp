@@ -36,9 +36,9 @@ double simulated(const QString& number) {
         const Flight flight(launch);
         // The longest throw, or the one that comes down nearest to the ring.
         const Landmark ring = angle ? Landmark() : shipped(number).landmarks.front();
-        const double score =
-            angle ? flight.range()
-                  : 1 / std::fabs(flight.at(ring.x / flight.start().vx).y - ring.y);
+        const double score = angle
+                                 ? flight.range()
+                                 : 1 / std::fabs(flight.at(ring.x / flight.start().vx).y - ring.y);
         if (score > best) {
             best = score;
             found = tried;
