@@ -92,7 +92,7 @@ RESULTS = [
     ("Q108", "= {0,667}, soit θ = {41,8}°", [1 / 1.5, limit(1.5)]),
     ("Q207", "{0,042} est le quotient renversé", [0.5 / 12]),
     ("Q207", "{6,0} est le produit", [6]),
-    ("Q308", "Que vaut alors son pH ? 2,0 {4,0}", [3 + 1]),
+    ("Q1003", "Que vaut alors son pH ? 2,0 {4,0}", [3 + 1]),
 ]
 
 

@@ -38,10 +38,17 @@ def page_lines(source):
         yield number, line.replace("¶", " ")
 
 
+def words_of_block(block):
+    """The words of raw directives; of a program nothing but its lines."""
+    lines = [line.removeprefix(block[1]) for line in block[3].split("\n")]
+    words = [line if block[2] == "directives" else "" for _, line in page_lines("\n".join(lines))]
+    return "\n".join(["", *words])
+
+
 def markdown_lines(source):
-    """The same of one in Markdown: runs of one line, without their formulas and raw directives."""
-    source = re.sub(r"^```directives\n.*?^```$", lambda block: "\n" * block[0].count("\n"), source,
-                    flags=re.S | re.M)
+    """The same of one in Markdown: runs of one line, without formulas and programs."""
+    source = re.sub(r"^((?:> ?)*)```([a-z]+)\n(.*?)^\1```$", words_of_block, source, flags=re.S | re.M)
+    source = re.sub(r"`[^`\n]*`", " ", source)
     source = re.sub(r"\$\$.*?\$\$|\$[^$\n]*\$", lambda formula: "\n" * formula[0].count("\n") or " ", source,
                     flags=re.S)
     source = re.sub(r"(?<=\])\([^()]*\)", " ", source)

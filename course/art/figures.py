@@ -13,6 +13,12 @@ from pathlib import Path
 import figures_atoms
 import figures_changes
 import figures_circuits
+import figures_ex_chemistry
+import figures_ex_circuits
+import figures_ex_forces
+import figures_ex_lenses
+import figures_ex_motion
+import figures_ex_waves
 import figures_forces
 import figures_inertia
 import figures_light
@@ -25,7 +31,8 @@ import figures_species
 
 CHAPTERS = [figures_measures, figures_motion, figures_forces, figures_inertia, figures_mixtures,
             figures_species, figures_solutions, figures_sound, figures_atoms, figures_changes,
-            figures_light, figures_circuits]
+            figures_light, figures_circuits, figures_ex_waves, figures_ex_lenses, figures_ex_motion,
+            figures_ex_forces, figures_ex_circuits, figures_ex_chemistry]
 
 
 def main(directory, *names):

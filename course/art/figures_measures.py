@@ -170,13 +170,35 @@ def graph_and_model():
     d.line(high[0], low[1], *high, GREEN, 1.4, "4 3")
     d.text((low[0] + high[0]) / 2, low[1] + 17, "200 g", ink=GREEN, anchor="middle")
     d.text(high[0] + 8, (low[1] + high[1]) / 2 + 8, f"{french(200 * SLOPE, 1)} cm", ink=GREEN)
+    d.rect(74, 58, 162, 24, WHITE)
     d.text(80, 76, f"modèle : *a* = {french(SLOPE, 3)} × *m*", 15, BLUE)
+    return d
+
+
+# Three quantities that grow with another one; only the first is proportional to it.
+GROWING = [("une droite par l’origine", "proportionnelles", GREEN, lambda x: 0.9 * x),
+           ("une droite qui n’y passe pas", "pas proportionnelles", ORANGE, lambda x: 2 + 0.7 * x),
+           ("une courbe", "pas proportionnelles", ORANGE, lambda x: 0.1 * x * x)]
+
+
+def proportionality():
+    d = Drawing(560, 190, "Trois graphiques : une droite qui passe par l’origine, une droite qui n’y "
+                          "passe pas, une courbe ; seule la première dit une proportionnalité")
+    for index, (shape, verdict, ink, law) in enumerate(GROWING):
+        left = 30 + 190 * index
+        plot = Plot(d, left, 24, 130, 110, (0, 10), (0, 10))
+        d.arrow(left, 134, left, 14, "#23211c", 1.6, head=10)
+        d.arrow(left, 134, left + 142, 134, "#23211c", 1.6, head=10)
+        plot.curve(law, ink, 0, 9.5)
+        d.dot(*plot.at(0, law(0)), ink, 3.5)
+        d.text(left + 65, 160, shape, anchor="middle")
+        d.text(left + 65, 180, verdict, ink=ink, anchor="middle", bold=True)
     return d
 
 
 FIGURES = {"mesures-histogramme": histogram, "mesures-cibles": targets, "mesures-regle": ruler_reading,
            "resultat-intervalles": intervals, "chiffres-significatifs": significant_figures,
-           "graphique-modele": graph_and_model}
+           "graphique-modele": graph_and_model, "proportionnalite": proportionality}
 
 if __name__ == "__main__":
     print(f"{MEAN=} {SPREAD=} {UNCERTAINTY=} {REFERENCE=} {SLOPE=}")

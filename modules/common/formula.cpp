@@ -27,6 +27,7 @@ constexpr double kBarMargin = 0.12;
 constexpr double kBarThickness = 0.065;
 constexpr double kRootWidth = 0.62;
 constexpr double kArrowHead = 0.2;
+constexpr double kOverlineGap = 0.1;
 
 /// Commands inside commands; the formulas of a textbook have three.
 constexpr int kDeepest = 8;
@@ -120,6 +121,8 @@ private:
             return Node::Kind::Root;
         if (name == QStringLiteral("vec"))
             return Node::Kind::Vector;
+        if (name == QStringLiteral("overline"))
+            return Node::Kind::Overline;
         return std::nullopt;
     }
 
@@ -165,6 +168,8 @@ Extent extentOf(const Node& node, double pixels) {
                 first.descent};
     case Node::Kind::Vector:
         return {first.width, first.ascent + pixels * 0.22, first.descent};
+    case Node::Kind::Overline:
+        return {first.width, first.ascent + pixels * kOverlineGap * 2, first.descent};
     case Node::Kind::Text:
         break;
     }
@@ -216,6 +221,9 @@ private:
             return;
         case Node::Kind::Vector:
             setVector(node, at, pixels);
+            return;
+        case Node::Kind::Overline:
+            setOverline(node, at, pixels);
         }
     }
 
@@ -255,6 +263,13 @@ private:
         set(node.first, at, pixels);
         draw({{left, y}, {right, y}}, pixels);
         draw({{right - head, y - head * 0.6}, {right, y}, {right - head, y + head * 0.6}}, pixels);
+    }
+
+    void setOverline(const Node& node, QPointF at, double pixels) {
+        const Extent inside = extentOf(node.first, pixels);
+        const double y = at.y() - inside.ascent - pixels * kOverlineGap;
+        set(node.first, at, pixels);
+        draw({{at.x() + 1, y}, {at.x() + inside.width - 1, y}}, pixels);
     }
 
     /// Letters without a stem carry their arrow lower.

@@ -14,6 +14,7 @@ namespace common {
 ///   v_0  v_{0x}  v^2      index, exponent (of one character or in braces)
 ///   \frac{a}{b}  \sqrt{a} fraction, root
 ///   \vec{v}               vector
+///   \overline{a}          bar over it
 ///   \text{portée}         upright words; \cos, \sin, \tan for short
 ///
 /// Blanks are printed. An unknown or unfinished command stands as it was written.
@@ -40,12 +41,12 @@ private:
 
 /// Part of a formula.
 struct Formula::Node {
-    enum class Kind { Text, Scripts, Fraction, Root, Vector };
+    enum class Kind { Text, Scripts, Fraction, Root, Vector, Overline };
 
     Kind kind = Kind::Text;
     QString text;        ///< Text
     bool italic = false; ///< Text
-    Row first;           ///< index; numerator; what is under the root or the arrow
+    Row first;           ///< index; numerator; what is under root, arrow or bar
     Row second;          ///< exponent; denominator
 };
 

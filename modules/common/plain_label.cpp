@@ -19,4 +19,10 @@ QLabel* paragraph(const QString& words, const LabelLook& look) {
     return label;
 }
 
+QLabel* heading(const QString& words) {
+    QLabel* label = plainLabel(words, {.weight = look::Weight::Bold, .ink = look::kBlue});
+    label->setContentsMargins(0, 6, 0, 0);
+    return label;
+}
+
 } // namespace common

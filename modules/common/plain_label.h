@@ -22,4 +22,7 @@ QLabel* plainLabel(const QString& words, const LabelLook& look = {});
 /// The same over as many lines as they take.
 QLabel* paragraph(const QString& words, const LabelLook& look = {});
 
+/// The heading of a group of controls.
+QLabel* heading(const QString& words);
+
 } // namespace common

@@ -2,10 +2,11 @@
 // are in the units of launch.h and integration.h.
 
 #include "browser/exchange.h"
+#include "common/ticks.h"
 #include "projectile/experiment.h"
-#include "projectile/ticks.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace {
@@ -69,7 +70,7 @@ ORVALENTE_EXPORTED(projectileLaunch) std::size_t projectileLaunch() {
     for (const Quantity& one : kQuantities) {
         const double value = launch.*one.value;
         all.insert(all.end(),
-                   {value, double(positionOf(one, value)), double(positionOf(one, one.most))});
+                   {value, double(one.positionOf(value)), double(one.positionOf(one.most))});
     }
     all.push_back(static_cast<int>(launch.drag));
     const std::optional<World> world = worldOf(launch);
@@ -82,17 +83,17 @@ ORVALENTE_EXPORTED(projectileLaunch) std::size_t projectileLaunch() {
 }
 
 ORVALENTE_EXPORTED(projectileSet) void projectileSet(int parameter, double value) {
-    if (value == value) // what was typed may be no number
+    if (std::isfinite(value)) // what was typed may be no number
         experiment.set(itemOf(kQuantities, parameter).parameter, value);
 }
 
 ORVALENTE_EXPORTED(projectileSlide) void projectileSlide(int parameter, int position) {
     const Quantity& which = itemOf(kQuantities, parameter);
-    experiment.set(which.parameter, valueAt(which, position));
+    experiment.set(which.parameter, which.valueAt(position));
 }
 
 ORVALENTE_EXPORTED(projectileAim) void projectileAim(double speed, double angle) {
-    if (speed == speed && angle == angle)
+    if (std::isfinite(speed) && std::isfinite(angle))
         experiment.aim(speed, angle);
 }
 
@@ -159,28 +160,32 @@ ORVALENTE_EXPORTED(projectileNow) std::size_t projectileNow() {
 }
 
 ORVALENTE_EXPORTED(projectileToggle) void projectileToggle() {
-    experiment.play([](Playback& playback) { playback.toggle(); });
+    experiment.player().play([](common::Playback& playback) { playback.toggle(); });
 }
 
 ORVALENTE_EXPORTED(projectilePause) void projectilePause() {
-    experiment.play([](Playback& playback) { playback.pause(); });
+    experiment.player().play([](common::Playback& playback) { playback.pause(); });
 }
 
 ORVALENTE_EXPORTED(projectileReset) void projectileReset() {
-    experiment.play([](Playback& playback) { playback.reset(); });
+    experiment.player().play([](common::Playback& playback) { playback.reset(); });
 }
 
 ORVALENTE_EXPORTED(projectileStep) void projectileStep(double seconds) {
-    experiment.play([=](Playback& playback) { playback.step(seconds); });
+    if (std::isfinite(seconds))
+        experiment.player().play([=](common::Playback& playback) { playback.step(seconds); });
 }
 
 ORVALENTE_EXPORTED(projectileSeek) void projectileSeek(double seconds) {
-    experiment.play([=](Playback& playback) { playback.seek(seconds); });
+    if (std::isfinite(seconds))
+        experiment.player().play([=](common::Playback& playback) { playback.seek(seconds); });
 }
 
 /// `seconds` of the clock on the wall have passed, at `rate` seconds of the flight in each.
 ORVALENTE_EXPORTED(projectileAdvance) void projectileAdvance(double seconds, double rate) {
-    experiment.play([=](Playback& playback) {
+    if (!std::isfinite(seconds) || !std::isfinite(rate))
+        return;
+    experiment.player().play([=](common::Playback& playback) {
         playback.setRate(rate);
         playback.advance(seconds);
     });
@@ -200,9 +205,9 @@ ORVALENTE_EXPORTED(projectileKept) int projectileKept() {
 
 /// The decimals that labels of an axis need, then the values where they stand.
 ORVALENTE_EXPORTED(axisTicks) std::size_t axisTicks(double from, double to, int most) {
-    const double step = tickStep(to - from, std::max(1, most));
-    std::vector<double> all = {double(tickDecimals(step))};
-    for (const double value : ticks(from, to, step))
+    const double step = common::tickStep(to - from, std::max(1, most));
+    std::vector<double> all = {double(common::tickDecimals(step))};
+    for (const double value : common::ticks(from, to, step))
         all.push_back(value);
     return browser::giveNumbers(all);
 }

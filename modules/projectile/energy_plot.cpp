@@ -1,10 +1,10 @@
 #include "projectile/energy_plot.h"
 
+#include "common/axes.h"
 #include "common/formula.h"
 #include "common/french_number.h"
 #include "look/interface_font.h"
 #include "look/palette.h"
-#include "projectile/axes.h"
 
 #include <QPainter>
 
@@ -38,7 +38,8 @@ const Curve kCurves[] = {
      [](const Energies& e) { return e.mechanical(); }},
 };
 
-void paintCurve(QPainter& painter, const Axes& axes, const Flight& flight, const Curve& curve) {
+void paintCurve(QPainter& painter, const common::Axes& axes, const Flight& flight,
+                const Curve& curve) {
     QPolygonF line;
     for (int i = 0; i <= kCurvePoints; ++i) {
         const double t = flight.duration() * i / kCurvePoints;
@@ -86,15 +87,16 @@ void EnergyPlot::paintEvent(QPaintEvent*) {
     const Flight& flight = experiment_.flight();
     // Without an engine the mechanical energy is never more than at the start.
     const double most = std::max(kLeastEnergy, flight.energies(flight.start()).mechanical());
-    const Axes axes(QRectF(rect()).adjusted(Axes::kLeft, kTop + 14, -kRight, -Axes::kBelow),
-                    {0, std::max(kLeastTime, flight.duration())}, {0, most * (1 + kAir)});
+    const common::Axes axes(
+        QRectF(rect()).adjusted(common::Axes::kLeft, kTop + 14, -kRight, -common::Axes::kBelow),
+        {0, std::max(kLeastTime, flight.duration())}, {0, most * (1 + kAir)});
     axes.paint(painter, QStringLiteral("t\\text{ (s)}"), QStringLiteral("E\\text{ (J)}"));
     painter.setRenderHint(QPainter::Antialiasing);
     const Moment now = experiment_.now();
     painter.setPen(QPen(QColor::fromRgb(look::kEdge), 1));
-    const double cursor = sharp(painter, axes.pixel(now.t, 0).x());
+    const double cursor = common::sharp(painter, axes.pixel(now.t, 0).x());
     painter.drawLine(QPointF(cursor, axes.area().top()), QPointF(cursor, axes.area().bottom()));
-    double x = Axes::kLeft;
+    double x = common::Axes::kLeft;
     const double room = (width() - x) / static_cast<double>(std::size(kCurves));
     for (const Curve& curve : kCurves) {
         const double energy = curve.value(flight.energies(now));

@@ -1,33 +1,16 @@
 #pragma once
 
+#include "common/task.h"
 #include "projectile/situation.h"
 
 #include <QString>
-#include <QStringList>
 
 #include <optional>
 
 namespace projectile {
 
-enum class Answer { NoNumber, Wrong, Right };
-
-/// A task for the pupil: a situation, of which some numbers may be changed and others not, and a
-/// question that a number answers.
-struct Exercise : Situation {
-    QString title;
-    QStringList statement; ///< paragraphs
-    QString question;
-    bool hidesResults = false; ///< until a right answer was given
-
-    double answer = 0;
-    double tolerance = 0; ///< in the same unit; both ends still right
-    QString unit;
-    QString whenRight; ///< explanations
-    QString whenWrong;
-
-    /// What the pupil typed, with or without the unit behind it.
-    Answer judge(const QString& typed) const;
-};
+/// A task in a situation of which some numbers may be changed and others not.
+struct Exercise : common::Task, Situation {};
 
 /// Reads a file of modules/README.md's format. Absent, with one French sentence in `why`, when it
 /// is not there, or anything in it is missing, unknown or out of range.

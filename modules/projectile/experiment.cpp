@@ -1,6 +1,6 @@
 #include "projectile/experiment.h"
 
-#include "projectile/ticks.h"
+#include "common/ticks.h"
 
 #include <algorithm>
 #include <utility>
@@ -14,14 +14,14 @@ constexpr int kStrobePoints = 20;
 } // namespace
 
 Experiment::Experiment() : flight_(Launch{}) {
-    playback_.setDuration(flight_.duration());
+    player_.setDuration(flight_.duration());
 }
 
 void Experiment::setLaunch(const Launch& launch) {
     if (launch == flight_.launch())
         return;
     flight_ = Flight(launch);
-    playback_.setDuration(flight_.duration());
+    player_.setDuration(flight_.duration());
     changed_.tell();
 }
 
@@ -35,7 +35,7 @@ void Experiment::set(Parameter parameter, double number) {
         return;
     const Quantity& which = quantity(parameter);
     Launch launch = flight_.launch();
-    launch.*which.value = std::clamp(number, which.least, which.most);
+    launch.*which.value = which.held(number);
     setLaunch(launch);
 }
 
@@ -45,7 +45,7 @@ void Experiment::aim(double speed, double angle) {
          {std::pair(Parameter::Speed, speed), std::pair(Parameter::Angle, angle)}) {
         const Quantity& which = quantity(parameter);
         if (!isLocked(parameter))
-            launch.*which.value = std::clamp(number, which.least, which.most);
+            launch.*which.value = which.held(number);
     }
     setLaunch(launch);
 }
@@ -86,7 +86,7 @@ void Experiment::forgetKept() {
 }
 
 double strobeInterval(double duration) {
-    return duration > 0 ? tickStep(duration, kStrobePoints) : 1;
+    return duration > 0 ? common::tickStep(duration, kStrobePoints) : 1;
 }
 
 std::vector<Moment> strobeMoments(const Flight& flight) {

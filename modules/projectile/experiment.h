@@ -1,8 +1,8 @@
 #pragma once
 
 #include "common/listeners.h"
+#include "common/player.h"
 #include "projectile/flight.h"
-#include "projectile/playback.h"
 #include "projectile/situation.h"
 
 #include <vector>
@@ -20,8 +20,8 @@ public:
 
     const Flight& flight() const { return flight_; }
     const Launch& launch() const { return flight_.launch(); }
-    const Playback& playback() const { return playback_; }
-    Moment now() const { return flight_.at(playback_.time()); }
+    const common::Playback& playback() const { return player_.playback(); }
+    Moment now() const { return flight_.at(playback().time()); }
 
     /// The given numbers of an exercise: nothing below changes those any more that are locked.
     void setSituation(const Situation& situation);
@@ -35,12 +35,8 @@ public:
     void setWorld(const World& world);
     void setDrag(Drag drag);
 
-    /// Playback, with word to those who look.
-    template <class Change>
-    void play(Change change) {
-        change(playback_);
-        moved_.tell();
-    }
+    /// What runs, stops and steps.
+    common::Player& player() { return player_; }
 
     /// In the order in which they were kept; a flight's place is also its ink.
     const std::vector<Flight>& kept() const { return kept_; }
@@ -52,7 +48,9 @@ public:
     // What is to be called when something has changed. Whoever asks lives as long as this does.
     using Listener = std::function<void()>;
     void onChanged(Listener show) { changed_.add(std::move(show)); } ///< the launch, so everything
-    void onMoved(Listener show) { moved_.add(std::move(show)); } ///< the moment, or whether it runs
+    void onMoved(Listener show) {
+        player_.onMoved(std::move(show));
+    } ///< the moment, or whether it runs
     void onKeptChanged(Listener show) { keptChanged_.add(std::move(show)); }
 
 private:
@@ -60,10 +58,9 @@ private:
 
     Situation situation_;
     Flight flight_;
-    Playback playback_;
+    common::Player player_;
     std::vector<Flight> kept_;
     common::Listeners changed_;
-    common::Listeners moved_;
     common::Listeners keptChanged_;
 };
 

@@ -1,16 +1,6 @@
 #include "projectile/launch.h"
 
-#include <algorithm>
-#include <cmath>
-
 namespace projectile {
-
-namespace {
-
-/// Of a slider that gives each factor of ten the same room.
-constexpr int kLogarithmicPositions = 200;
-
-} // namespace
 
 const Quantity& quantity(Parameter parameter) {
     return kQuantities.at(static_cast<std::size_t>(parameter));
@@ -21,24 +11,6 @@ std::optional<World> worldOf(const Launch& launch) {
         if (world.gravity == launch.gravity && world.airDensity == launch.airDensity)
             return world;
     return std::nullopt;
-}
-
-int positionOf(const Quantity& quantity, double value) {
-    if (!quantity.logarithmic)
-        return static_cast<int>(std::lround((value - quantity.least) / quantity.step));
-    const double share =
-        std::log(value / quantity.least) / std::log(quantity.most / quantity.least);
-    return static_cast<int>(std::lround(share * kLogarithmicPositions));
-}
-
-double valueAt(const Quantity& quantity, int position) {
-    if (!quantity.logarithmic)
-        return std::min(quantity.most, quantity.least + position * quantity.step);
-    const double share = static_cast<double>(position) / kLogarithmicPositions;
-    const double value = quantity.least * std::pow(quantity.most / quantity.least, share);
-    // Two significant digits: 0,63 kg is a better mass than 0,6309 kg.
-    const double power = std::pow(10, std::floor(std::log10(value)) - 1);
-    return std::min(quantity.most, std::round(value / power) * power);
 }
 
 std::vector<Distinction> distinctions(const Launch& launch) {

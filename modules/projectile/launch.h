@@ -1,5 +1,7 @@
 #pragma once
 
+#include "common/number.h"
+
 #include <array>
 #include <optional>
 #include <vector>
@@ -31,34 +33,38 @@ struct Launch {
 /// What a launch's numbers are called, and where their sliders end.
 enum class Parameter { Speed, Angle, Height, Gravity, Mass, Diameter, LinearCoefficient };
 
-struct Quantity {
+struct Quantity : common::Number {
     Parameter parameter;
     double Launch::*value;
-    const char16_t* key;    ///< in files of exercises
-    const char16_t* name;   ///< as a pupil reads it
-    const char16_t* symbol; ///< a formula
-    const char16_t* unit;
-    double least;
-    double most;
-    double step;
-    int decimals;
-    bool logarithmic; ///< the slider gives each factor of ten the same room
+    const char16_t* key; ///< in files of exercises
 };
 
 inline constexpr std::array<Quantity, 7> kQuantities = {{
-    {Parameter::Speed, &Launch::speed, u"vitesse", u"Vitesse initiale", u"v_0", u"m/s", 0, 60, 0.5,
-     2, false},
-    {Parameter::Angle, &Launch::angle, u"angle", u"Angle de lancement", u"α", u"°", -45, 90, 1, 1,
-     false},
-    {Parameter::Height, &Launch::height, u"hauteur", u"Hauteur de départ", u"h", u"m", 0, 100, 0.5,
-     2, false},
-    {Parameter::Gravity, &Launch::gravity, u"pesanteur", u"Pesanteur", u"g", u"m/s²", 0.5, 30, 0.1,
-     2, false},
-    {Parameter::Mass, &Launch::mass, u"masse", u"Masse", u"m", u"kg", 0.01, 10, 0.05, 3, true},
-    {Parameter::Diameter, &Launch::diameter, u"diametre", u"Diamètre", u"d", u"m", 0.01, 0.5, 0.01,
-     3, true},
-    {Parameter::LinearCoefficient, &Launch::linearCoefficient, u"coefficient", u"Coefficient", u"k",
-     u"kg/s", 0, 0.2, 0.005, 3, false},
+    {{u"Vitesse initiale", u"v_0", u"m/s", 0, 60, 0.5, 2},
+     Parameter::Speed,
+     &Launch::speed,
+     u"vitesse"},
+    {{u"Angle de lancement", u"α", u"°", -45, 90, 1, 1},
+     Parameter::Angle,
+     &Launch::angle,
+     u"angle"},
+    {{u"Hauteur de départ", u"h", u"m", 0, 100, 0.5, 2},
+     Parameter::Height,
+     &Launch::height,
+     u"hauteur"},
+    {{u"Pesanteur", u"g", u"m/s²", 0.5, 30, 0.1, 2},
+     Parameter::Gravity,
+     &Launch::gravity,
+     u"pesanteur"},
+    {{u"Masse", u"m", u"kg", 0.01, 10, 0.05, 3, true}, Parameter::Mass, &Launch::mass, u"masse"},
+    {{u"Diamètre", u"d", u"m", 0.01, 0.5, 0.01, 3, true},
+     Parameter::Diameter,
+     &Launch::diameter,
+     u"diametre"},
+    {{u"Coefficient", u"k", u"kg/s", 0, 0.2, 0.005, 3},
+     Parameter::LinearCoefficient,
+     &Launch::linearCoefficient,
+     u"coefficient"},
 }};
 
 const Quantity& quantity(Parameter parameter);
@@ -82,13 +88,6 @@ inline constexpr std::array<World, 4> kWorlds = {{
 
 /// The world with the gravity and air of `launch`; absent when somebody chose their own gravity.
 std::optional<World> worldOf(const Launch& launch);
-
-/// Where a slider stands for a value: whole positions from 0 on, each step's or, for a logarithmic
-/// one, each 200th of the way's.
-int positionOf(const Quantity& quantity, double value);
-
-/// The value at such a position; of two significant digits for a logarithmic slider.
-double valueAt(const Quantity& quantity, int position);
 
 /// One thing that tells a launch from others: a symbol (a formula) with its value and unit, or,
 /// when there is no symbol, words.

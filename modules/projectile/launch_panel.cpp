@@ -1,9 +1,10 @@
 #include "projectile/launch_panel.h"
 
 #include "common/formula_button.h"
+#include "common/number_row.h"
 #include "common/plain_label.h"
+#include "common/segment_row.h"
 #include "look/tool_tip.h"
-#include "projectile/quantity_row.h"
 
 #include <QButtonGroup>
 #include <QLabel>
@@ -18,31 +19,6 @@ namespace {
 
 const look::Button::Look kSegment = {.kind = look::Button::Kind::Segment, .icon = {}};
 
-QLabel* heading(const QString& text) {
-    QLabel* label = common::plainLabel(text, {.weight = look::Weight::Bold, .ink = look::kBlue});
-    label->setContentsMargins(0, 6, 0, 0);
-    return label;
-}
-
-/// Buttons of which one is pressed, in a row. The Tab key stops at the pressed one, as the arrow
-/// keys lead to the others.
-QWidget* row(QButtonGroup* group) {
-    QObject::connect(group, &QButtonGroup::buttonToggled, group,
-                     [group](const QAbstractButton* pressed, bool down) {
-                         for (QAbstractButton* button : group->buttons())
-                             if (down)
-                                 button->setFocusPolicy(button == pressed ? Qt::TabFocus
-                                                                          : Qt::NoFocus);
-                     });
-    auto* widget = new QWidget;
-    auto* layout = new QHBoxLayout(widget);
-    layout->setContentsMargins(0, 2, 0, 2);
-    layout->setSpacing(4);
-    for (QAbstractButton* button : group->buttons())
-        layout->addWidget(button, 1);
-    return widget;
-}
-
 } // namespace
 
 LaunchPanel::LaunchPanel(Experiment& experiment, QWidget* parent)
@@ -51,26 +27,22 @@ LaunchPanel::LaunchPanel(Experiment& experiment, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(4);
-    const auto add = [&](Parameter parameter) {
-        auto* added = new QuantityRow(experiment_, parameter);
-        layout->addWidget(added);
-        return added;
-    };
-    layout->addWidget(heading(QStringLiteral("Lancement")));
+    const auto add = [&](Parameter parameter) { layout->addWidget(row(parameter)); };
+    layout->addWidget(common::heading(QStringLiteral("Lancement")));
     for (const Parameter parameter : {Parameter::Speed, Parameter::Angle, Parameter::Height})
         add(parameter);
-    layout->addWidget(heading(QStringLiteral("Astre")));
+    layout->addWidget(common::heading(QStringLiteral("Astre")));
     layout->addWidget(worlds());
     add(Parameter::Gravity);
-    layout->addWidget(heading(QStringLiteral("Projectile")));
+    layout->addWidget(common::heading(QStringLiteral("Projectile")));
     add(Parameter::Mass);
-    layout->addWidget(heading(QStringLiteral("Frottements de l’air")));
+    layout->addWidget(common::heading(QStringLiteral("Frottements de l’air")));
     layout->addWidget(drags());
     auto* factor = new QStackedWidget;
     noDrag_ = common::plainLabel(QStringLiteral("Seul le poids agit\u00A0: chute libre."),
                                  {.ink = look::kMuted});
-    coefficient_ = new QuantityRow(experiment_, Parameter::LinearCoefficient);
-    diameter_ = new QuantityRow(experiment_, Parameter::Diameter);
+    coefficient_ = row(Parameter::LinearCoefficient);
+    diameter_ = row(Parameter::Diameter);
     for (QWidget* widget : {noDrag_, coefficient_, diameter_})
         factor->addWidget(widget);
     layout->addWidget(factor);
@@ -84,6 +56,18 @@ LaunchPanel::LaunchPanel(Experiment& experiment, QWidget* parent)
     show();
 }
 
+QWidget* LaunchPanel::row(Parameter parameter) {
+    const Quantity& which = quantity(parameter);
+    auto* added = new common::NumberRow(
+        which, [this, parameter](double value) { experiment_.set(parameter, value); });
+    const auto show = [this, added, &which] { added->show(experiment_.launch().*which.value); };
+    experiment_.onChanged(show);
+    show();
+    // A number that the exercise gives cannot be changed.
+    added->setEnabled(!experiment_.isLocked(parameter));
+    return added;
+}
+
 QWidget* LaunchPanel::worlds() {
     for (std::size_t i = 0; i < kWorlds.size(); ++i) {
         const QString name = QString::fromUtf16(kWorlds.at(i).name);
@@ -93,7 +77,7 @@ QWidget* LaunchPanel::worlds() {
         experiment_.setWorld(kWorlds.at(static_cast<std::size_t>(which)));
         show();
     });
-    QWidget* buttons = row(worlds_);
+    QWidget* buttons = common::segmentRow(worlds_);
     buttons->setEnabled(!experiment_.isLocked(Parameter::Gravity));
     return buttons;
 }
@@ -115,7 +99,7 @@ QWidget* LaunchPanel::drags() {
         experiment_.setDrag(static_cast<Drag>(which));
         show();
     });
-    QWidget* buttons = row(drags_);
+    QWidget* buttons = common::segmentRow(drags_);
     buttons->setEnabled(!experiment_.isDragLocked());
     return buttons;
 }

@@ -18,6 +18,8 @@ public:
     explicit LaunchPanel(Experiment& experiment, QWidget* parent = nullptr);
 
 private:
+    /// A number of the launch with its controls.
+    QWidget* row(Parameter parameter);
     QWidget* worlds();
     QWidget* drags();
     QWidget* keepButtons();

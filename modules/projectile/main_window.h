@@ -1,44 +1,44 @@
 #pragma once
 
+#include "common/simulation.h"
+#include "common/simulation_window.h"
 #include "projectile/exercise.h"
 #include "projectile/experiment.h"
 
-#include <QMainWindow>
+class QTabWidget;
 
-#include <functional>
+namespace common {
+class TransportBar;
+}
 
 namespace projectile {
 
-class ExercisePanel;
 class Readings;
 class TrajectoryPlot;
-class TransportBar;
 
-/// What the window opens with.
-struct Opening {
-    std::optional<Exercise> exercise;
-    QString notice;  ///< a line for the pupil, when the exercise asked for cannot be opened
-    QString edition; ///< of the course; may be empty
-    std::function<void()> next = {}; ///< opens the exercise after this one; null for the last
-};
+using Opening = common::ExerciseOpening<Exercise>;
 
 /// The simulator: controls at the left, drawing, table and formulas at the right.
-class MainWindow : public QMainWindow {
+class MainWindow : public common::SimulationWindow {
 public:
     explicit MainWindow(const Opening& opening);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void showResults() override;
 
 private:
-    QWidget* left(const QString& edition);
-    QWidget* right(const Opening& opening);
+    QTabWidget* tabs();
     QWidget* trajectoryTab();
+    common::TransportBar* transport();
 
     Experiment experiment_;
     TrajectoryPlot* plot_ = nullptr;
-    TransportBar* transport_ = nullptr;
+    common::TransportBar* transport_ = nullptr;
     Readings* readings_ = nullptr;
 };
+
+/// Module 23.
+common::SimulationKind simulationKind();
 
 } // namespace projectile

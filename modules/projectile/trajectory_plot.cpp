@@ -2,11 +2,11 @@
 
 #include "common/formula.h"
 #include "common/french_number.h"
+#include "common/vector_painter.h"
 #include "look/interface_font.h"
 #include "look/palette.h"
 #include "look/pixels.h"
 #include "projectile/launch_text.h"
-#include "projectile/vector_painter.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -20,6 +20,13 @@
 namespace projectile {
 
 namespace {
+
+// Vectors are drawn in the same scales whatever the flight, so that they can be compared.
+constexpr double kPixelsPerSpeed = 4;        ///< px for 1 m/s
+constexpr double kPixelsPerAcceleration = 5; ///< px for 1 m/s²
+
+constexpr QRgb kSpeedInk = 0xffb3261e;
+constexpr QRgb kAccelerationInk = 0xff6a3d9a;
 
 constexpr double kTop = 30; ///< room for the name of the axis
 constexpr double kRight = 16;
@@ -98,10 +105,11 @@ void TrajectoryPlot::fit() {
     std::for_each(experiment_.kept().begin(), experiment_.kept().end(), includeFlight);
     for (const Landmark& mark : experiment_.landmarks())
         include(mark.x, mark.y);
-    const QRectF area = QRectF(rect()).adjusted(Axes::kLeft, kTop, -kRight, -Axes::kBelow);
+    const QRectF area =
+        QRectF(rect()).adjusted(common::Axes::kLeft, kTop, -kRight, -common::Axes::kBelow);
     const double extent = std::max(right, top);
-    axes_ = Axes::withEqualScales(area, {-kGround * extent, right + kAir * extent},
-                                  {-kGround * extent, top * (1 + kAir)});
+    axes_ = common::Axes::withEqualScales(area, {-kGround * extent, right + kAir * extent},
+                                          {-kGround * extent, top * (1 + kAir)});
 }
 
 void TrajectoryPlot::paintEvent(QPaintEvent*) {
@@ -128,7 +136,7 @@ void TrajectoryPlot::paintEvent(QPaintEvent*) {
 
 void TrajectoryPlot::paintGround(QPainter& painter) const {
     const QRectF area = axes_.area();
-    const double ground = sharp(painter, axes_.pixel(0, 0).y());
+    const double ground = common::sharp(painter, axes_.pixel(0, 0).y());
     const double edge = axes_.pixel(0, 0).x();
     const double height = experiment_.launch().height;
     QPainterPath solid;
@@ -141,7 +149,7 @@ void TrajectoryPlot::paintGround(QPainter& painter) const {
     painter.setPen(QPen(QColor::fromRgb(look::kEdge), 1.5));
     QPolygonF outline = {{area.right(), ground}, {edge, ground}};
     if (height > 0) {
-        const double top = sharp(painter, axes_.pixel(0, height).y());
+        const double top = common::sharp(painter, axes_.pixel(0, height).y());
         outline << QPointF(edge, top) << QPointF(area.left(), top);
     } else {
         outline << QPointF(area.left(), ground);
@@ -209,25 +217,26 @@ void TrajectoryPlot::paintVectors(QPainter& painter) const {
     const QPointF from = projectilePixel();
     const QPointF head = speedHead();
     painter.save();
-    painter.setClipRect(axes_.area().adjusted(-Axes::kLeft, -kTop, kRight, Axes::kBelow));
+    painter.setClipRect(
+        axes_.area().adjusted(-common::Axes::kLeft, -kTop, kRight, common::Axes::kBelow));
     if (shown_.components) {
-        paintVector(painter, from, {head.x(), from.y()}, kSpeedInk, QStringLiteral("\\vec{v}_x"),
-                    Qt::DashLine);
-        paintVector(painter, from, {from.x(), head.y()}, kSpeedInk, QStringLiteral("\\vec{v}_y"),
-                    Qt::DashLine);
+        common::paintVector(painter, from, {head.x(), from.y()}, kSpeedInk,
+                            QStringLiteral("\\vec{v}_x"), Qt::DashLine);
+        common::paintVector(painter, from, {from.x(), head.y()}, kSpeedInk,
+                            QStringLiteral("\\vec{v}_y"), Qt::DashLine);
         painter.setPen(QPen(QColor::fromRgb(kSpeedInk), 1, Qt::DotLine));
         painter.drawLine(head, {head.x(), from.y()});
         painter.drawLine(head, {from.x(), head.y()});
     }
     if (shown_.acceleration) {
         const Acceleration a = experiment_.flight().acceleration(now);
-        paintVector(painter, from, from + QPointF(a.x, -a.y) * kPixelsPerAcceleration,
-                    kAccelerationInk, QStringLiteral("\\vec{a}"));
+        common::paintVector(painter, from, from + QPointF(a.x, -a.y) * kPixelsPerAcceleration,
+                            kAccelerationInk, QStringLiteral("\\vec{a}"));
     }
     const bool atStart = now.t == 0;
     if (shown_.speed)
-        paintVector(painter, from, head, kSpeedInk,
-                    atStart ? QStringLiteral("\\vec{v}_0") : QStringLiteral("\\vec{v}"));
+        common::paintVector(painter, from, head, kSpeedInk,
+                            atStart ? QStringLiteral("\\vec{v}_0") : QStringLiteral("\\vec{v}"));
     painter.restore();
     // The handle by which the throw is aimed.
     if (pointer_ && (aiming_ || canAimAt(*pointer_))) {
@@ -270,11 +279,11 @@ void TrajectoryPlot::paintLegend(QPainter& painter) const {
 }
 
 void TrajectoryPlot::paintScales(QPainter& painter) const {
-    const double y = axes_.area().bottom() + Axes::kBelow - 10;
+    const double y = axes_.area().bottom() + common::Axes::kBelow - 10;
     double x = axes_.area().left();
     painter.setFont(look::interfaceFont(look::kSmallPx));
     const auto scale = [&](QRgb ink, double length, const QString& text) {
-        paintVector(painter, {x, y}, {x + length, y}, ink, {});
+        common::paintVector(painter, {x, y}, {x + length, y}, ink, {});
         painter.setPen(QColor::fromRgb(look::kMuted));
         painter.drawText(QPointF(x + length + 6, y + 4), text);
         x += length + 70;

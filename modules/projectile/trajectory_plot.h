@@ -1,6 +1,6 @@
 #pragma once
 
-#include "projectile/axes.h"
+#include "common/axes.h"
 #include "projectile/experiment.h"
 
 #include <QWidget>
@@ -51,7 +51,7 @@ private:
 
     Experiment& experiment_;
     Shown shown_;
-    Axes axes_;
+    common::Axes axes_;
     bool aiming_ = false;
     std::optional<QPointF> pointer_;
 };

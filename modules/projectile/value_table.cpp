@@ -1,17 +1,6 @@
 #include "projectile/value_table.h"
 
-#include "common/formula.h"
 #include "common/french_number.h"
-#include "look/interface_font.h"
-#include "look/palette.h"
-#include "look/scroll_bar.h"
-#include "look/tool_tip.h"
-
-#include <QClipboard>
-#include <QGuiApplication>
-#include <QHeaderView>
-#include <QKeyEvent>
-#include <QPainter>
 
 #include <algorithm>
 #include <cmath>
@@ -29,8 +18,6 @@ constexpr Head kHeads[] = {{"t", "s"},   {"x", "m"},   {"y", "m"},   {"v_x", "m/
                            {"v", "m/s"}, {"E_c", "J"}, {"E_p", "J"}, {"E_m", "J"}};
 constexpr int kColumns = static_cast<int>(std::size(kHeads));
 constexpr int kFirstEnergy = 6; ///< the columns from here on
-constexpr int kRowHeight = 24;
-constexpr int kHeadHeight = 28;
 
 double valueOf(const Flight& flight, const Moment& moment, int column) {
     const Energies energies = flight.energies(moment);
@@ -46,32 +33,11 @@ QString plainHead(int column) {
                                          QString::fromUtf8(kHeads[column].unit));
 }
 
-/// Numbers as spreadsheets read them: without blanks, with the minus sign of the keyboard.
-QString plainNumber(QString number) {
-    return number.remove(QChar(0x202F)).replace(QChar(0x2212), u'-');
+/// The same as a formula.
+QString formulaHead(int column) {
+    return QStringLiteral("%1\\text{ (%2)}")
+        .arg(QString::fromUtf8(kHeads[column].symbol), QString::fromUtf8(kHeads[column].unit));
 }
-
-/// Heads of columns set as formulas.
-class FormulaHeader : public QHeaderView {
-public:
-    explicit FormulaHeader(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {
-        setSectionResizeMode(QHeaderView::Stretch);
-        setFixedHeight(kHeadHeight);
-    }
-
-protected:
-    void paintSection(QPainter* painter, const QRect& rect, int column) const override {
-        painter->fillRect(rect, QColor::fromRgb(look::kIvory));
-        painter->setPen(QColor::fromRgb(look::kRule));
-        painter->drawLine(rect.bottomLeft(), rect.bottomRight());
-        painter->setPen(QColor::fromRgb(look::kInk));
-        const common::Formula head(QStringLiteral("%1\\text{ (%2)}")
-                                       .arg(QString::fromUtf8(kHeads[column].symbol),
-                                            QString::fromUtf8(kHeads[column].unit)),
-                                   look::kLabelPx);
-        head.paint(*painter, {rect.right() - head.width() - 4, rect.top() + 18.0});
-    }
-};
 
 } // namespace
 
@@ -99,7 +65,7 @@ int ValueModel::columnCount(const QModelIndex& parent) const {
 
 QVariant ValueModel::data(const QModelIndex& index, int role) const {
     if (role == Qt::TextAlignmentRole)
-        return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+        return common::numberAlignment();
     if (role != Qt::DisplayRole || !index.isValid())
         return {};
     const Moment& moment = moments_.at(static_cast<std::size_t>(index.row()));
@@ -109,9 +75,11 @@ QVariant ValueModel::data(const QModelIndex& index, int role) const {
 }
 
 QVariant ValueModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+    if (orientation != Qt::Horizontal)
         return {};
-    return plainHead(section);
+    return role == Qt::DisplayRole        ? QVariant(plainHead(section))
+           : role == common::kFormulaRole ? QVariant(formulaHead(section))
+                                          : QVariant();
 }
 
 int ValueModel::rowAt(double t) const {
@@ -121,18 +89,12 @@ int ValueModel::rowAt(double t) const {
 }
 
 ValueTable::ValueTable(Experiment& experiment, QWidget* parent)
-    : QTableView(parent), experiment_(experiment), model_(new ValueModel(experiment, this)) {
-    setModel(model_);
-    setAccessibleName(QStringLiteral("Tableau de valeurs"));
-    look::setToolTip(*this, QStringLiteral("Ctrl+C copie tout le tableau pour un tableur."));
-    setVerticalScrollBar(new look::ScrollBar(this, look::ScrollBar::Top::Minimum));
-    setSelectionBehavior(QAbstractItemView::SelectRows);
-    setSelectionMode(QAbstractItemView::SingleSelection);
-    setTabKeyNavigation(false);
-    setFrameShape(QFrame::NoFrame);
-    verticalHeader()->hide();
-    verticalHeader()->setDefaultSectionSize(kRowHeight);
-    setHorizontalHeader(new FormulaHeader(this));
+    : ValueTable(experiment, new ValueModel(experiment), parent) {}
+
+ValueTable::ValueTable(Experiment& experiment, ValueModel* model, QWidget* parent)
+    : DataTable(model, QStringLiteral("Tableau de valeurs"), parent), experiment_(experiment),
+      model_(model) {
+    model_->setParent(this);
     experiment_.onMoved([this] { follow(); });
     connect(model_, &QAbstractItemModel::modelReset, this, &ValueTable::follow);
     connect(selectionModel(), &QItemSelectionModel::currentRowChanged, this,
@@ -142,7 +104,8 @@ ValueTable::ValueTable(Experiment& experiment, QWidget* parent)
                     return;
                 const double t = model_->moment(row.row()).t;
                 if (row.row() != model_->rowAt(experiment_.playback().time()))
-                    experiment_.play([t](Playback& playback) { playback.seek(t); });
+                    experiment_.player().play(
+                        [t](common::Playback& playback) { playback.seek(t); });
             });
     follow();
 }
@@ -151,30 +114,6 @@ void ValueTable::follow() {
     const int row = model_->rowAt(experiment_.playback().time());
     if (currentIndex().row() != row)
         setCurrentIndex(model_->index(row, 0));
-}
-
-void ValueTable::keyPressEvent(QKeyEvent* event) {
-    if (event->matches(QKeySequence::Copy))
-        copyAll();
-    else if (event->key() == Qt::Key_Space)
-        event->ignore(); // starts and stops the simulation
-    else
-        QTableView::keyPressEvent(event);
-}
-
-void ValueTable::copyAll() const {
-    QStringList lines;
-    QStringList cells;
-    for (int column = 0; column < kColumns; ++column)
-        cells += plainHead(column);
-    lines += cells.join(u'\t');
-    for (int row = 0; row < model_->rowCount(); ++row) {
-        cells.clear();
-        for (int column = 0; column < kColumns; ++column)
-            cells += plainNumber(model_->index(row, column).data().toString());
-        lines += cells.join(u'\t');
-    }
-    QGuiApplication::clipboard()->setText(lines.join(u'\n'));
 }
 
 } // namespace projectile

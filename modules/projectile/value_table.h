@@ -1,9 +1,9 @@
 #pragma once
 
+#include "common/data_table.h"
 #include "projectile/experiment.h"
 
 #include <QAbstractTableModel>
-#include <QTableView>
 
 namespace projectile {
 
@@ -29,17 +29,14 @@ private:
     std::vector<Moment> moments_;
 };
 
-/// The table, whose selected row follows the simulation. Copies its rows for a spreadsheet.
-class ValueTable : public QTableView {
+/// The table, whose selected row follows the simulation.
+class ValueTable : public common::DataTable {
 public:
     explicit ValueTable(Experiment& experiment, QWidget* parent = nullptr);
 
-protected:
-    void keyPressEvent(QKeyEvent* event) override;
-
 private:
+    ValueTable(Experiment& experiment, ValueModel* model, QWidget* parent);
     void follow();
-    void copyAll() const;
 
     Experiment& experiment_;
     ValueModel* model_;

@@ -1,14 +1,18 @@
+#include "common/playback.h"
+#include "common/ticks.h"
 #include "projectile/experiment.h"
 #include "projectile/flight.h"
 #include "projectile/launch_text.h"
-#include "projectile/playback.h"
-#include "projectile/ticks.h"
 
 #include <gmock/gmock.h>
 
 #include <cmath>
 
 using namespace projectile;
+using common::Playback;
+using common::tickDecimals;
+using common::ticks;
+using common::tickStep;
 using testing::DoubleEq;
 using testing::DoubleNear;
 using testing::ElementsAre;

@@ -29,6 +29,8 @@ TEST(Formula, takesTheRoomOfItsParts) {
     EXPECT_LT(width("v_0^2"), width("v_{00}^{22}")); // one above the other
     EXPECT_GT(rises("\\frac{a}{b}"), rises("a"));
     EXPECT_GT(rises("\\vec{v}"), rises("v"));
+    EXPECT_GT(rises("\\overline{v}"), rises("v"));
+    EXPECT_EQ(width("\\overline{\\text{OA}}"), width("\\text{OA}"));
     EXPECT_EQ(width("\\text{a b}"), width("\\text{a}") + width("\\text{ b}"));
     // Unfinished commands are shown, not lost.
     for (const char* source : {"\\frac{a", "\\inconnu{a}", "a_", "}", "\\", "{{{{", "\\text{"})

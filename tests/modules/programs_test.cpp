@@ -25,6 +25,8 @@ protected:
         for (const auto& [name, value] : environment())
             qputenv(name, value);
         ASSERT_TRUE(QFile::copy(MODULE_23, directory_.filePath("Simu23.exe")));
+        ASSERT_TRUE(QFile::copy(MODULE_02, directory_.filePath("Simu21.exe")));
+        ASSERT_TRUE(QFile::copy(MODULE_10, directory_.filePath("Simu22.exe")));
         ASSERT_TRUE(QFile::copy(MODULE_07, directory_.filePath("SIMU07.EXE")));
         ASSERT_TRUE(QFile::copy(PROJECTILE_EXERCISES "/Exercice 05.E21",
                                 directory_.filePath("Exercice 05.E21")));
@@ -33,7 +35,7 @@ protected:
         state_.StatusFilePath = directory_.filePath(raw_status_file::kName);
     }
     ~Programs() override {
-        for (const int module : {7, 23}) {
+        for (const int module : {2, 7, 10, 23}) {
             if (pid(module) > 0)
                 kill(pid(module), SIGKILL);
         }
@@ -85,6 +87,8 @@ protected:
 
 TEST_F(Programs, areStartedByTheShellAndEndWhenAsked) {
     for (const auto& [code, module, title] : {std::tuple(235, 23, "- Orvalente, module 23"),
+                                              std::tuple(21, 2, "- Orvalente, module 02"),
+                                              std::tuple(105, 10, "- Orvalente, module 10"),
                                               std::tuple(70, 7, "- Orvalente, module 07")}) {
         launcher_.launchModule(static_cast<std::int16_t>(code));
         EXPECT_TRUE(shows(title, module)) << windows().constData();

@@ -1,19 +1,16 @@
+#include "common/number_row.h"
+#include "common/simulation.h"
+#include "modules/window_case.h"
 #include "projectile/main_window.h"
-#include "projectile/quantity_row.h"
-#include "projectile/simulation.h"
 #include "shell/raw_status_file.h"
 #include "shell/status_file.h"
-#include "support/files.h"
 
 #include <QCheckBox>
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QTableView>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <algorithm>
 
@@ -22,39 +19,9 @@ using test_support::eventually;
 
 namespace {
 
-class SimulatorTest : public testing::Test {
+class SimulatorTest : public WindowCase {
 protected:
-    void open(const Opening& opening) {
-        QLocale::setDefault(QLocale(QLocale::French, QLocale::France));
-        window_ = std::make_unique<MainWindow>(opening);
-        window_->show();
-        window_->activateWindow();
-    }
-    template <class Widget>
-    Widget* named(const QString& name) {
-        for (auto* widget : window_->findChildren<Widget*>()) {
-            if (widget->accessibleName() == name)
-                return widget;
-        }
-        ADD_FAILURE() << qPrintable(name);
-        return nullptr;
-    }
-    QPushButton* button(const QString& caption) {
-        for (auto* found : window_->findChildren<QPushButton*>()) {
-            if (found->text() == caption)
-                return found;
-        }
-        return nullptr;
-    }
-    bool says(const QString& text) {
-        for (const QLabel* label : window_->findChildren<QLabel*>()) {
-            if (label->isVisibleTo(window_.get()) && label->text().contains(text))
-                return true;
-        }
-        return false;
-    }
-
-    std::unique_ptr<MainWindow> window_;
+    void open(const Opening& opening) { WindowCase::open<MainWindow>(opening); }
 };
 
 } // namespace
@@ -65,7 +32,7 @@ TEST_F(SimulatorTest, theSpaceBarRunsAndStopsAndArrowsMoveSliders) {
     const int before = angle->value();
     QTest::keyClick(angle, Qt::Key_Right);
     EXPECT_EQ(angle->value(), before + 1);
-    EXPECT_EQ(named<NumberField>("Angle de lancement")->value(), 46);
+    EXPECT_EQ(named<common::NumberField>("Angle de lancement")->value(), 46);
     QTest::keyClick(angle, Qt::Key_Space);
     EXPECT_TRUE(button("Pause"));
     auto* time = named<QSlider>("Temps");
@@ -92,7 +59,7 @@ TEST_F(SimulatorTest, tabStopsAtThePressedButtonOfARow) {
 
 TEST_F(SimulatorTest, theDecimalPointOfTheKeyboardIsAComma) {
     open({});
-    auto* speed = named<NumberField>("Vitesse initiale");
+    auto* speed = named<common::NumberField>("Vitesse initiale");
     speed->setFocus();
     speed->selectAll();
     QTest::keyClicks(speed, "12.5");
@@ -162,15 +129,16 @@ TEST_F(SimulatorTest, takesTheExerciseThatTheCourseAsksForWhileItRuns) {
     const auto ask = [&](const char* exercise) {
         course.write(shell::StatusFile::kArgumentRecord, QString::fromLatin1(exercise));
     };
-    const auto titles = [](const MainWindow& window) {
+    const auto titles = [](const QWidget& window) {
         QStringList all;
         for (const QLabel* label : window.findChildren<QLabel*>())
             all += label->text();
         return all;
     };
     ask("Exercice 03.E21");
-    Simulation simulation(common::StatusRecord(directory.path(), 23), directory.path());
-    const MainWindow* const first = &simulation.window();
+    common::Simulation simulation(simulationKind(), common::StatusRecord(directory.path(), 23),
+                                  directory.path());
+    const QWidget* const first = &simulation.window();
     const QStringList shown = titles(*first);
     for (const char* const other : {"Exercice 03.E21", "", "Exercice 05.E20"}) {
         ask(other);
@@ -192,7 +160,8 @@ TEST_F(SimulatorTest, offersTheNextExerciseAfterARightAnswer) {
     raw_status_file::writeAllNon(directory.path());
     shell::StatusFile(directory.filePath(raw_status_file::kName))
         .write(shell::StatusFile::kArgumentRecord, QStringLiteral("Exercice 03.E21"));
-    Simulation simulation(common::StatusRecord(directory.path(), 23), directory.path());
+    common::Simulation simulation(simulationKind(), common::StatusRecord(directory.path(), 23),
+                                  directory.path());
     const auto next = [&] {
         for (auto* found : simulation.window().findChildren<QPushButton*>())
             if (found->text() == QStringLiteral("Exercice suivant"))
@@ -214,7 +183,7 @@ TEST_F(SimulatorTest, offersTheNextExerciseAfterARightAnswer) {
     EXPECT_FALSE(next()->isVisible());
     answer("Exercice 03.E21", QStringLiteral("2.02"));
     ASSERT_TRUE(next()->isVisible());
-    const MainWindow* const first = &simulation.window();
+    const QWidget* const first = &simulation.window();
     next()->click();
     ASSERT_TRUE(eventually([&] { return &simulation.window() != first; }));
     EXPECT_FALSE(next()->isVisible());

@@ -97,7 +97,7 @@ TEST_F(ToolPrint, theSheetsOfThePrintButton) {
         text += sheet.join(u' ');
     }
     EXPECT_EQ(footers, 3) << "pages 3 to 5";
-    for (const char16_t* words : {u"alpha α Α", u"Des unités qui en découlent", u"Voltmètre"})
+    for (const char16_t* words : {u"alpha α Α", u"Des unités qui en découlent", u"Doublet"})
         EXPECT_TRUE(text.contains(QString::fromUtf16(words)));
 }
 

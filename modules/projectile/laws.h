@@ -1,0 +1,11 @@
+#pragma once
+
+#include "common/law_page.h"
+#include "projectile/flight.h"
+
+namespace projectile {
+
+/// The laws that hold for a flight, in the order of their derivation, with its numbers.
+std::vector<common::Law> lawsOf(const Flight& flight);
+
+} // namespace projectile
