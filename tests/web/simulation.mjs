@@ -3,7 +3,7 @@
 // Ends with 77 when there is no browser or what drives it.
 import { deepStrictEqual, ok, strictEqual } from 'node:assert';
 import { execFileSync } from 'node:child_process';
-import { existsSync, mkdtempSync, readFileSync, rmSync } from 'node:fs';
+import { cpSync, existsSync, mkdtempSync, readFileSync, readdirSync, rmSync } from 'node:fs';
 import { createRequire } from 'node:module';
 import { tmpdir } from 'node:os';
 import { join } from 'node:path';
@@ -25,7 +25,10 @@ if (!executablePath || !chromium) {
 
 const folder = mkdtempSync(join(tmpdir(), 'orvalente-simulation-'));
 process.on('exit', () => rmSync(folder, { recursive: true, force: true }));
-execFileSync(tool, ['build', sources, '-o', join(folder, 'course')], { stdio: 'ignore' });
+const source = join(folder, 'source');
+cpSync(sources, source, { recursive: true });
+for (const name of readdirSync(join(source, 'files')).filter((file) => file.endsWith('.avi'))) rmSync(join(source, 'files', name)); // films take their time
+execFileSync(tool, ['build', source, '-o', join(folder, 'course')], { stdio: 'ignore' });
 execFileSync(tool, ['publish', join(folder, 'course'), '-o', join(folder, 'site')], { stdio: ['ignore', 'ignore', 'pipe'] });
 const address = pathToFileURL(join(folder, 'site', 'index.html')).href;
 const browser = await chromium.launch({ executablePath, args: ['--no-sandbox'] });
@@ -116,7 +119,7 @@ await page.keyboard.press('ArrowRight');
 strictEqual(await now(), 't = 0,02 s');
 await page.keyboard.press('Home');
 await page.getByLabel('Vitesse de la simulation').selectOption('10');
-await page.locator('h1').focus();
+await page.locator('.graphe:visible').click({ position: { x: 5, y: 5 } });
 await page.keyboard.press(' ');
 await page.waitForFunction(() => document.querySelector('.temps').textContent.includes('2,88'));
 ok((await page.locator('#annonce').textContent()).includes('40,77 m'), 'the landing is not told');
@@ -143,6 +146,10 @@ strictEqual(await page.getByLabel('Vitesse initiale, en m/s').inputValue(), fren
 function frenchHalf(value) {
     return (Math.round(value * 2) / 2).toFixed(2).replace('.', ',');
 }
+
+await page.keyboard.press('Control+p');
+ok((await page.locator('dialog.message[open]').textContent()).includes('ne s’imprime pas'));
+await page.keyboard.press('Escape');
 
 // ---- Nothing runs that nobody sees, and what was set is there again
 

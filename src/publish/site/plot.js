@@ -54,8 +54,8 @@ function symbolInWords(symbol) {
  */
 function symbolInDrawing(symbol, { x, y, ink, isVector = false, behind = '' }) {
     const { letter, below } = symbolParts(symbol);
-    const text = drawn('text', { x, y, fill: ink, 'font-size': 15 }, drawn('tspan', { class: 'lettre', 'font-style': 'italic' }, letter));
-    if (below) text.append(drawn('tspan', { dy: 4, 'font-size': 10, class: 'lettre' }, below));
+    const text = drawn('text', { x, y, fill: ink, 'font-size': 15 }, drawn('tspan', { 'font-style': 'italic' }, letter));
+    if (below) text.append(drawn('tspan', { dy: 4, 'font-size': 10 }, below));
     if (behind) text.append(drawn('tspan', { 'font-size': 13, ...(below ? { dy: -4 } : {}) }, behind));
     if (!isVector) return text;
     return drawn('g', {}, text, drawn('path', { d: `M${x} ${y - 11}h8m-2.5 -2l2.5 2l-2.5 2`, fill: 'none', stroke: ink, 'stroke-width': 1.1 }));

@@ -22,7 +22,7 @@ class ProjectileView {
             ['Trajectoire', [this.trajectory.element, this.legend, this.scales, this.choices()]],
             ['Énergies', [this.energies.element, this.energies.legend]],
             ['Tableau', [this.table.element]]]);
-        this.element = element('section', { class: 'simulation', 'aria-labelledby': 'titre-simulation', keydown: (/** @type {KeyboardEvent} */ event) => this.transport.pressed(event) },
+        this.element = element('section', { class: 'simulation', tabindex: '-1', 'aria-labelledby': 'titre-simulation', keydown: (/** @type {KeyboardEvent} */ event) => this.transport.pressed(event) },
             element('h1', { id: 'titre-simulation', tabindex: '-1' }, this.title),
             element('div', { class: 'simulation-corps' }, this.panel.element,
                 element('div', { class: 'vues' }, this.tabs.element, this.readings.element, this.transport.element)));

@@ -211,6 +211,7 @@ class Site {
     }
 
     async askPrint() {
+        if (this.module) return void tell('Imprimer', 'Une simulation ne s’imprime pas : seules les pages du cours s’impriment.');
         const entry = this.course.entry(this.page);
         if (!entry?.imprimable) return void tell('Imprimer', 'Cette page n’est pas prévue pour être imprimée.');
         const chapter = this.course.data.pages.filter(({ numero, imprimable }) => imprimable && numero >= entry.de && numero <= entry.a).sort((a, b) => a.numero - b.numero);

@@ -116,7 +116,7 @@ class TransportBar {
      */
     pressed(event) {
         if (event.ctrlKey || event.altKey || event.metaKey) return;
-        if (/** @type {Element} */ (event.target).closest('input, select, button, [role="tab"]')) return;
+        if (/** @type {Element} */ (event.target).closest('input, select, button, [role="region"]')) return;
         if (event.key === ' ' && !event.repeat) this.toggle();
         else if (event.key === 'Home') this.do('Reset');
         else if (event.key === 'ArrowLeft') this.do('Step', -STEP);
