@@ -2,7 +2,8 @@
 # a second compiler and linked. Without that compiler (scripts/setup web) everything else is built
 # all the same, and the course tool says that it cannot publish.
 
-set(ORVALENTE_WEB_FLAGS --target=wasm32-wasi -std=c++20 -Oz -fno-exceptions -I${CMAKE_SOURCE_DIR}/src)
+set(ORVALENTE_WEB_FLAGS --target=wasm32-wasi -std=c++20 -Oz -fno-exceptions 
+    -I${CMAKE_SOURCE_DIR}/src -I${CMAKE_SOURCE_DIR}/modules)
 set(ORVALENTE_WEB_PROGRAM ${CMAKE_BINARY_DIR}/bin/orvalente-web.wasm)
 
 find_program(ORVALENTE_WEB_COMPILER clang++-19)

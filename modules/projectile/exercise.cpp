@@ -14,6 +14,14 @@ using common::Entry;
 /// More would hide the drawing; the exercises have one.
 constexpr std::size_t kMostLandmarks = 8;
 
+/// In any letter case.
+std::optional<World> worldNamed(const QString& name) {
+    for (const World& world : kWorlds)
+        if (QString::fromUtf16(world.name).compare(name, Qt::CaseInsensitive) == 0)
+            return world;
+    return std::nullopt;
+}
+
 /// Turns the entries of a situation, one by one, into that of an exercise. Each step says whether
 /// it understood.
 class Reader {
@@ -85,7 +93,7 @@ private:
         const bool fits = x && y && std::fabs(*x) <= kFarthest && std::fabs(*y) <= kFarthest &&
                           exercise.landmarks.size() < kMostLandmarks;
         if (fits)
-            exercise.landmarks.push_back({{*x, *y}, name});
+            exercise.landmarks.push_back({*x, *y, name.toStdU16String()});
         return fits;
     }
 

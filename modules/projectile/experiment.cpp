@@ -1,9 +1,6 @@
 #include "projectile/experiment.h"
 
-#include "common/french_number.h"
 #include "common/ticks.h"
-
-#include <QStringList>
 
 #include <algorithm>
 #include <utility>
@@ -13,19 +10,6 @@ namespace projectile {
 namespace {
 
 constexpr int kStrobePoints = 20;
-
-/// "v_0 = 20 m/s": the name is a formula, the unit upright.
-QString value(const char16_t* name, double number, const char16_t* unit) {
-    const QString blank =
-        QString::fromUtf16(unit) == QStringLiteral("°") ? QString() : QStringLiteral("\u00A0");
-    return QStringLiteral("%1\u00A0=\u00A0%2\\text{%3%4}")
-        .arg(QString::fromUtf16(name), common::frenchDigits(number, 3), blank,
-             QString::fromUtf16(unit));
-}
-
-QString words(const QString& text) {
-    return QStringLiteral("\\text{%1}").arg(text);
-}
 
 } // namespace
 
@@ -41,9 +25,9 @@ void Experiment::setLaunch(const Launch& launch) {
     changed_.tell();
 }
 
-void Experiment::setExercise(const Exercise& exercise) {
-    exercise_ = exercise;
-    setLaunch(exercise.launch);
+void Experiment::setSituation(const Situation& situation) {
+    situation_ = situation;
+    setLaunch(situation.launch);
 }
 
 void Experiment::set(Parameter parameter, double number) {
@@ -101,28 +85,17 @@ void Experiment::forgetKept() {
     keptChanged_.tell();
 }
 
-QString describe(const Launch& launch) {
-    QStringList parts = {value(u"v_0", launch.speed, u"m/s"), value(u"α", launch.angle, u"°")};
-    if (launch.height > 0)
-        parts += value(u"h", launch.height, u"m");
-    const std::optional<World> world = worldOf(launch);
-    if (!world)
-        parts += value(u"g", launch.gravity, u"m/s²");
-    else if (world->gravity != kWorlds.front().gravity)
-        parts += words(QString::fromUtf16(world->name));
-    // Somebody's own gravity keeps the air of the world before: drag may have nothing to act with.
-    if (launch.drag != Drag::None && launch.airDensity == 0)
-        parts += words(QStringLiteral("sans air"));
-    else if (launch.drag == Drag::Linear)
-        parts += value(u"k", launch.linearCoefficient, u"kg/s");
-    else if (launch.drag == Drag::Quadratic)
-        parts += value(u"m", launch.mass, u"kg") + QStringLiteral(", ") +
-                 value(u"d", launch.diameter, u"m");
-    return parts.join(QStringLiteral(", "));
-}
-
 double strobeInterval(double duration) {
     return duration > 0 ? common::tickStep(duration, kStrobePoints) : 1;
+}
+
+std::vector<Moment> strobeMoments(const Flight& flight) {
+    const double interval = strobeInterval(flight.duration());
+    std::vector<Moment> moments;
+    for (int i = 0; i * interval < flight.duration(); ++i)
+        moments.push_back(flight.at(i * interval));
+    moments.push_back(flight.landing());
+    return moments;
 }
 
 } // namespace projectile

@@ -2,10 +2,8 @@
 
 #include "common/listeners.h"
 #include "common/player.h"
-#include "projectile/exercise.h"
 #include "projectile/flight.h"
-
-#include <QString>
+#include "projectile/situation.h"
 
 #include <vector>
 
@@ -25,11 +23,11 @@ public:
     const common::Playback& playback() const { return player_.playback(); }
     Moment now() const { return flight_.at(playback().time()); }
 
-    /// The given numbers of an exercise, which nothing below changes any more.
-    void setExercise(const Exercise& exercise);
-    bool isLocked(Parameter parameter) const { return exercise_ && exercise_->isLocked(parameter); }
-    bool isDragLocked() const { return exercise_ && exercise_->dragLocked; }
-    const std::optional<Exercise>& exercise() const { return exercise_; }
+    /// The given numbers of an exercise: nothing below changes those any more that are locked.
+    void setSituation(const Situation& situation);
+    bool isLocked(Parameter parameter) const { return situation_.isLocked(parameter); }
+    bool isDragLocked() const { return situation_.dragLocked; }
+    const std::vector<Landmark>& landmarks() const { return situation_.landmarks; }
 
     /// These hold the numbers within the sliders' limits, and leave locked ones alone.
     void set(Parameter parameter, double value);
@@ -58,7 +56,7 @@ public:
 private:
     void setLaunch(const Launch& launch);
 
-    std::optional<Exercise> exercise_;
+    Situation situation_;
     Flight flight_;
     common::Player player_;
     std::vector<Flight> kept_;
@@ -66,12 +64,10 @@ private:
     common::Listeners keptChanged_;
 };
 
-/// What tells a launch from others, as a formula: "v₀ = 20 m/s, α = 45°, h = 2 m, g = 5 m/s², sans
-/// air", symbols in italics, units upright. What it shares with most (no height, on the Earth, no
-/// drag) is left out.
-QString describe(const Launch& launch);
-
 /// The time between two points of a stroboscope, s: easy to count with, ten to twenty a flight.
 double strobeInterval(double duration);
+
+/// The moments of those points, and the landing.
+std::vector<Moment> strobeMoments(const Flight& flight);
 
 } // namespace projectile

@@ -58,4 +58,9 @@ Energies Flight::energies(const Moment& moment) const {
     return {launch_.mass * speed * speed / 2, launch_.mass * launch_.gravity * moment.y};
 }
 
+int Flight::energyDecimals() const {
+    const double most = energies(start_).mechanical();
+    return most > 0 ? std::clamp(3 - static_cast<int>(std::floor(std::log10(most))), 0, 4) : 0;
+}
+
 } // namespace projectile

@@ -36,6 +36,10 @@ public:
     }
     Energies energies(const Moment& moment) const;
 
+    /// Decimals that energies need: those of a ping-pong ball are small, those of a shot large, and
+    /// about four digits say enough.
+    int energyDecimals() const;
+
 private:
     bool isClosed() const { return steps_.empty(); }
     Moment closedForm(double t) const;

@@ -4,8 +4,7 @@
 
 #include <array>
 #include <optional>
-
-class QString;
+#include <vector>
 
 namespace projectile {
 
@@ -90,7 +89,17 @@ inline constexpr std::array<World, 4> kWorlds = {{
 /// The world with the gravity and air of `launch`; absent when somebody chose their own gravity.
 std::optional<World> worldOf(const Launch& launch);
 
-/// The world of that name, in any letter case.
-std::optional<World> worldNamed(const QString& name);
+/// One thing that tells a launch from others: a symbol (a formula) with its value and unit, or,
+/// when there is no symbol, words.
+struct Distinction {
+    const char16_t* symbol = nullptr;
+    double value = 0;
+    const char16_t* unit = u"";
+    const char16_t* words = u"";
+};
+
+/// What tells a launch from others: "v₀ = 20 m/s, α = 45°, h = 2 m, g = 5 m/s², sans air". What it
+/// shares with most (no height, on the Earth, no drag) is left out.
+std::vector<Distinction> distinctions(const Launch& launch);
 
 } // namespace projectile

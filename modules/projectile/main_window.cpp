@@ -28,7 +28,7 @@ MainWindow::MainWindow(const Opening& opening)
     : SimulationWindow(QStringLiteral("Mouvement d’un projectile"), kModule, opening,
                        opening.exercise ? &*opening.exercise : nullptr) {
     if (opening.exercise)
-        experiment_.setExercise(*opening.exercise);
+        experiment_.setSituation(*opening.exercise);
     readings_ = new Readings(experiment_);
     readings_->setFlightHidden(opening.exercise && opening.exercise->hidesResults);
     transport_ = transport();

@@ -2,6 +2,7 @@
 
 #include "common/simulation.h"
 #include "common/simulation_window.h"
+#include "projectile/exercise.h"
 #include "projectile/experiment.h"
 
 class QTabWidget;

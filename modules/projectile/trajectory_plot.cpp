@@ -7,6 +7,7 @@
 #include "look/interface_font.h"
 #include "look/palette.h"
 #include "look/pixels.h"
+#include "projectile/launch_text.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -104,10 +105,8 @@ void TrajectoryPlot::fit() {
     };
     includeFlight(experiment_.flight());
     std::for_each(experiment_.kept().begin(), experiment_.kept().end(), includeFlight);
-    if (experiment_.exercise()) {
-        for (const Landmark& mark : experiment_.exercise()->landmarks)
-            include(mark.place.x(), mark.place.y());
-    }
+    for (const Landmark& mark : experiment_.landmarks())
+        include(mark.x, mark.y);
     const QRectF area =
         QRectF(rect()).adjusted(common::Axes::kLeft, kTop, -kRight, -common::Axes::kBelow);
     const double extent = std::max(right, top);
@@ -161,18 +160,16 @@ void TrajectoryPlot::paintGround(QPainter& painter) const {
 }
 
 void TrajectoryPlot::paintLandmarks(QPainter& painter) const {
-    if (!experiment_.exercise())
-        return;
     painter.setFont(look::interfaceFont(look::kButtonPx));
-    for (const Landmark& mark : experiment_.exercise()->landmarks) {
-        const QPointF at = axes_.pixel(mark.place.x(), mark.place.y());
+    for (const Landmark& mark : experiment_.landmarks()) {
+        const QPointF at = axes_.pixel(mark.x, mark.y);
         painter.setPen(QPen(QColor::fromRgb(0xffa65a00), 2));
         painter.setBrush(QColor::fromRgb(look::kPaper));
         painter.drawEllipse(at, 9, 4);
         painter.drawLine(at - QPointF(3, 0), at + QPointF(3, 0));
         painter.drawLine(at - QPointF(0, 3), at + QPointF(0, 3));
         painter.setPen(QColor::fromRgb(0xff8a4b00));
-        painter.drawText(at + QPointF(14, 4), mark.name);
+        painter.drawText(at + QPointF(14, 4), QString::fromStdU16String(mark.name));
     }
 }
 

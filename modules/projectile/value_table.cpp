@@ -27,12 +27,6 @@ double valueOf(const Flight& flight, const Moment& moment, int column) {
     return values[column];
 }
 
-/// Energies of a ping-pong ball are small, those of a shot large: about four digits.
-int energyDecimals(const Flight& flight) {
-    const double most = flight.energies(flight.start()).mechanical();
-    return most > 0 ? std::clamp(3 - static_cast<int>(std::floor(std::log10(most))), 0, 4) : 0;
-}
-
 /// "v_x (m/s)", plain.
 QString plainHead(int column) {
     return QStringLiteral("%1 (%2)").arg(QString::fromUtf8(kHeads[column].symbol),
@@ -58,12 +52,7 @@ ValueModel::ValueModel(Experiment& experiment, QObject* parent)
 }
 
 void ValueModel::refill() {
-    const Flight& flight = experiment_.flight();
-    const double interval = strobeInterval(flight.duration());
-    moments_.clear();
-    for (int i = 0; i * interval < flight.duration(); ++i)
-        moments_.push_back(flight.at(i * interval));
-    moments_.push_back(flight.landing());
+    moments_ = strobeMoments(experiment_.flight());
 }
 
 int ValueModel::rowCount(const QModelIndex& parent) const {
@@ -82,7 +71,7 @@ QVariant ValueModel::data(const QModelIndex& index, int role) const {
     const Moment& moment = moments_.at(static_cast<std::size_t>(index.row()));
     const double value = valueOf(experiment_.flight(), moment, index.column());
     return common::frenchNumber(
-        value, index.column() < kFirstEnergy ? 2 : energyDecimals(experiment_.flight()));
+        value, index.column() < kFirstEnergy ? 2 : experiment_.flight().energyDecimals());
 }
 
 QVariant ValueModel::headerData(int section, Qt::Orientation orientation, int role) const {

@@ -28,6 +28,13 @@ std::size_t give(std::u16string_view answer) {
     return answer.size();
 }
 
+std::size_t giveNumbers(std::span<const double> answer) {
+    buffer.resize(answer.size_bytes() / sizeof(char16_t));
+    if (!answer.empty())
+        std::memcpy(buffer.data(), answer.data(), answer.size_bytes());
+    return answer.size();
+}
+
 std::u16string decimal(int number) {
     const std::string digits = std::to_string(number);
     return {digits.begin(), digits.end()};

@@ -32,6 +32,9 @@ std::span<const std::uint8_t> takenBytes(std::size_t bytes);
 /// Puts an answer there; gives its length in UTF-16 units.
 std::size_t give(std::u16string_view answer);
 
+/// Puts numbers there, as they are in memory; gives their count.
+std::size_t giveNumbers(std::span<const double> answer);
+
 /// A number as fields hold it.
 std::u16string decimal(int number);
 

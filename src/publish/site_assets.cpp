@@ -5,14 +5,35 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <span>
+
 namespace publish {
 
 namespace {
 
 /// In the order in which they need each other.
-constexpr const char* kScripts[] = {"program.js", "course.js",     "dialogs.js",  "page.js",
-                                    "search.js",  "calculator.js", "progress.js", "test.js",
-                                    "film.js",    "scorm.js",      "site.js"};
+constexpr const char* kScripts[] = {"program.js",
+                                    "course.js",
+                                    "dialogs.js",
+                                    "page.js",
+                                    "search.js",
+                                    "calculator.js",
+                                    "progress.js",
+                                    "test.js",
+                                    "film.js",
+                                    "scorm.js",
+                                    "numbers.js",
+                                    "plot.js",
+                                    "tabs.js",
+                                    "transport.js",
+                                    "projectile.js",
+                                    "projectile-plots.js",
+                                    "projectile-panel.js",
+                                    "projectile-readings.js",
+                                    "projectile-view.js",
+                                    "modules.js",
+                                    "site.js"};
+constexpr const char* kStyles[] = {"style.css", "simulation.css"};
 
 QByteArray resource(const QString& name) {
     QFile file(name);
@@ -21,6 +42,13 @@ QByteArray resource(const QString& name) {
 
 QByteArray asset(const QString& name) {
     return resource(QStringLiteral(":/publish/") + name);
+}
+
+QByteArray together(std::span<const char* const> names) {
+    QByteArray all;
+    for (const char* name : names)
+        all += asset(QStringLiteral("site/") + QLatin1String(name));
+    return all;
 }
 
 /// The drawings of the shell's buttons, by their names.
@@ -41,18 +69,15 @@ QByteArray SiteAssets::plan(const QString& title, const QByteArray& texts) {
 
 QByteArray SiteAssets::write(const QString& title, const QByteArray& faces,
                              const QByteArray& course, const QByteArray& texts) {
-    QByteArray scripts = iconsScript();
-    for (const char* name : kScripts)
-        scripts += asset(QStringLiteral("site/") + QLatin1String(name));
     site_.add(QStringLiteral("polices/LICENCES"), ".txt",
               asset(QStringLiteral("site/licences.txt")));
     QByteArray index = asset(QStringLiteral("site/index.html"));
     const auto put = [&](const char* place, const QString& text) {
         index.replace(place, text.toHtmlEscaped().toUtf8());
     };
-    put("{style}", site_.add(QStringLiteral("style"), ".css",
-                             faces + asset(QStringLiteral("site/style.css"))));
-    put("{programme}", site_.add(QStringLiteral("orvalente"), ".js", scripts));
+    put("{style}", site_.add(QStringLiteral("style"), ".css", faces + together(kStyles)));
+    put("{programme}",
+        site_.add(QStringLiteral("orvalente"), ".js", iconsScript() + together(kScripts)));
     put("{cours}", site_.add(QStringLiteral("cours"), ".js", course));
     put("{icone}", site_.add(QStringLiteral("icone"), ".svg",
                              resource(QStringLiteral(":/look/icons/orvalente.svg"))));

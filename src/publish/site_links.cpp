@@ -14,6 +14,14 @@ QString address(char16_t kind, int number) {
     return QStringLiteral("#") + QChar(kind) + QString::number(number);
 }
 
+/// A launch code is ten times a module's number, with an exercise in its last digit.
+QString ofLaunchCode(int code) {
+    if (code < 10)
+        return {};
+    const QString module = address(u'm', code / 10);
+    return code % 10 == 0 ? module : module + u'-' + QString::number(code % 10);
+}
+
 } // namespace
 
 QString SiteLinks::ofCode(const QString& code) const {
@@ -29,7 +37,7 @@ QString SiteLinks::ofCode(const QString& code) const {
     if (prefix == u"EXO")
         return tests_.contains(*number) ? address(u't', *number) : QString();
     if (prefix == u"EXE")
-        return address(u'm', *number);
+        return ofLaunchCode(*number);
     return {};
 }
 

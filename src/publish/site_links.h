@@ -10,8 +10,8 @@
 namespace publish {
 
 /// Where the links of a course lead within its site: "#p12" is page 12, "#t3" the test of chapter
-/// 3, "#m23" what is said of module 23, "#f2" the floating menu of picture 2. What has no place
-/// there, as the order form, and codes of another kind lead nowhere.
+/// 3, "#m23" module 23 or what is said of it, "#m23-4" its exercise 4, "#f2" the floating menu of
+/// picture 2. What has no place there, as the order form, and codes of another kind lead nowhere.
 class SiteLinks {
 public:
     /// `pages` outlives it.

@@ -32,10 +32,10 @@ double simulated(const QString& number) {
         (angle ? launch.angle : launch.speed) = tried;
         const Flight flight(launch);
         // The longest throw, or the one that comes down nearest to the ring.
-        const QPointF ring = angle ? QPointF() : shipped(number).landmarks.front().place;
-        const double score =
-            angle ? flight.range()
-                  : 1 / std::fabs(flight.at(ring.x() / flight.start().vx).y - ring.y());
+        const Landmark ring = angle ? Landmark() : shipped(number).landmarks.front();
+        const double score = angle
+                                 ? flight.range()
+                                 : 1 / std::fabs(flight.at(ring.x / flight.start().vx).y - ring.y);
         if (score > best) {
             best = score;
             found = tried;

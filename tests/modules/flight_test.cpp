@@ -2,6 +2,7 @@
 #include "common/ticks.h"
 #include "projectile/experiment.h"
 #include "projectile/flight.h"
+#include "projectile/launch_text.h"
 
 #include <gmock/gmock.h>
 
@@ -194,10 +195,10 @@ TEST(Experiment, holdsNumbersWithinLimitsAndLeavesLockedOnesAlone) {
     experiment.set(Parameter::Mass, -3);
     EXPECT_EQ(experiment.launch().speed, 60);
     EXPECT_EQ(experiment.launch().mass, 0.01);
-    Exercise exercise;
-    exercise.locked = {Parameter::Speed, Parameter::Gravity};
-    exercise.dragLocked = true;
-    experiment.setExercise(exercise);
+    Situation situation;
+    situation.locked = {Parameter::Speed, Parameter::Gravity};
+    situation.dragLocked = true;
+    experiment.setSituation(situation);
     experiment.aim(33, 30);
     experiment.setWorld(kWorlds[1]);
     experiment.setDrag(Drag::Quadratic);

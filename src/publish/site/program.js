@@ -55,6 +55,17 @@ class Program {
     }
 
     /**
+     * The answer of a function that gives numbers.
+     * @param {string} name
+     * @param {...number} values
+     * @returns {number[]}
+     */
+    askNumbers(name, ...values) {
+        const count = this.functions[name](...values);
+        return [...new Float64Array(this.functions.memory.buffer, this.functions.room(0), count)];
+    }
+
+    /**
      * @param {string} name
      * @param {...number} values
      * @returns {string[][]}

@@ -4,7 +4,7 @@
 /** Height of a printed sheet in pixels of the drawing, 800 to the width: A4 with its margins. */
 const PRINTED_HEIGHT = 1125;
 
-/** The site: one page of HTML, "#p12" is page 12 of the course, "#t3" the test of chapter 3. */
+/** The site: one page of HTML, "#p12" is page 12 of the course, "#t3" the test of chapter 3, "#m23" the simulation 23. */
 class Site {
     /** @param {CourseData} data */
     constructor(data) {
@@ -19,6 +19,10 @@ class Site {
         this.marked = null;
         /** @type {Map<string, number>} */
         this.scrolls = new Map();
+        /** @type {Map<number, ModuleView>} */
+        this.modules = new Map();
+        /** @type {ModuleView | null} */
+        this.module = null;
         this.shown = '';
         this.search = new SearchBox(this.course, (number, words, ignoreAccents) => this.showFound(number, words, ignoreAccents));
         this.calculator = new CalculatorBox(this.course);
@@ -51,12 +55,14 @@ class Site {
     }
 
     async route() {
-        const [, kind, number] = /^#([ptm])(-?\d{1,6})$/.exec(location.hash) ?? [undefined, 'p', String(this.page)];
+        const [, kind, number, exercise] = /^#([ptm])(-?\d{1,6})(?:-(\d))?$/.exec(location.hash) ?? [undefined, 'p', String(this.page)];
         if (this.shown) this.scrolls.set(this.shown, window.scrollY);
         const key = `${kind}${number}`;
+        this.module?.leave();
+        this.module = null;
         try {
             if (kind === 't') await this.showTest(Number(number));
-            else if (kind === 'm') await this.tellOfModule(Number(number));
+            else if (kind === 'm') await this.showModule(Number(number), exercise !== undefined);
             else await this.showPage(Number(number));
             this.shown = key;
         } catch {
@@ -143,6 +149,26 @@ class Site {
         window.scrollTo(0, 0);
     }
 
+    /**
+     * @param {number} module
+     * @param {boolean} isExercise one was asked for
+     */
+    async showModule(module, isExercise) {
+        const make = WEB_MODULES[module];
+        if (!make) return this.tellOfModule(module);
+        const view = this.modules.get(module) ?? make(await this.course.program());
+        this.modules.set(module, view);
+        this.module = view;
+        const notice = element('p', { class: 'avis-simulation', role: 'note' }, 'Cet exercice se fait, avec sa correction, dans la simulation du cours installé sur un ordinateur. Ici, la simulation est à vous : réglez-la comme l’exercice le demande.');
+        this.main.replaceChildren(...(isExercise ? [notice] : []), view.element);
+        this.foot.replaceChildren(element('nav', { 'aria-label': 'Retour au cours' },
+            element('a', { class: 'bouton', href: `#p${this.page}` }, icon('previous-page'), element('span', {}, 'Retour au cours'))));
+        document.title = view.title;
+        announce(view.title);
+        window.scrollTo(0, 0);
+        view.element.querySelector('h1')?.focus({ preventScroll: true });
+    }
+
     /** @param {number} module */
     async tellOfModule(module) {
         history.replaceState(null, '', `#p${this.page}`);
@@ -185,6 +211,7 @@ class Site {
     }
 
     async askPrint() {
+        if (this.module) return void tell('Imprimer', 'Une simulation ne s’imprime pas : seules les pages du cours s’impriment.');
         const entry = this.course.entry(this.page);
         if (!entry?.imprimable) return void tell('Imprimer', 'Cette page n’est pas prévue pour être imprimée.');
         const chapter = this.course.data.pages.filter(({ numero, imprimable }) => imprimable && numero >= entry.de && numero <= entry.a).sort((a, b) => a.numero - b.numero);
