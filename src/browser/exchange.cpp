@@ -4,6 +4,7 @@
 #include "text/rounding.h"
 
 #include <algorithm>
+#include <cstring>
 #include <vector>
 
 namespace browser {
