@@ -218,8 +218,8 @@ TEST_F(Svg, linksLeadWhereTheAddressSays) {
     link.index = 1;
     link.tag = QStringLiteral("PAG014");
     recording.add(link);
-    const auto address = [](const page::LinkArea& link) {
-        return link.tag == u"PAG013" ? QStringLiteral("page-013.svg") : QString();
+    const auto address = [](const page::LinkArea& area) {
+        return area.tag == u"PAG013" ? QStringLiteral("page-013.svg") : QString();
     };
     const QByteArray svg = document(address);
     EXPECT_THAT(values(svg, "a", "xlink:href"), ElementsAre(QStringLiteral("page-013.svg")));
