@@ -3,7 +3,7 @@
 // other work on the machine changes less.
 //   node bench/web/publishing.mjs ORVALENTE-COURS COURSE-SOURCES [ROUNDS]
 import { execFileSync, spawnSync } from 'node:child_process';
-import { rmSync, statSync } from 'node:fs';
+import { readFileSync, rmSync, statSync, writeFileSync } from 'node:fs';
 import { dirname, join, resolve } from 'node:path';
 import { fileURLToPath } from 'node:url';
 import { median, rounded, temporaryFolder } from './browser.mjs';
@@ -29,10 +29,13 @@ function timed(command, made) {
     return { clock, processor: user + system };
 }
 
+// Debian's wkhtmltopdf takes one document, with the pages on sheets of their own.
+const bodies = pages.map((name) => /<body>([\s\S]*)<\/body>/.exec(readFileSync(join(plain, name), 'utf8'))[1]);
+writeFileSync(join(plain, 'all.html'), `<!DOCTYPE html><meta charset="utf-8"><link rel="stylesheet" href="style.css">${bodies.map((body) => `<section style="page-break-after: always">${body}</section>`).join('\n')}`);
 const list = pages.join(' ');
 const ways = {
     ours: [`${tool} publish ${course} -o ${work}/made`, `${work}/made/index.html`],
-    wkhtmltopdf: [`wkhtmltopdf --quiet --enable-local-file-access ${list} ${work}/made.pdf`, `${work}/made.pdf`],
+    wkhtmltopdf: [`wkhtmltopdf --quiet --enable-local-file-access all.html ${work}/made.pdf`, `${work}/made.pdf`],
     // One process for all, which saves the peer 599 starts; into HTML, and into as many files of an EPUB.
     'pandoc, into one page of HTML': [`pandoc --standalone ${list} -o ${work}/made.html`, `${work}/made.html`],
     'pandoc, into an EPUB': [`pandoc --epub-chapter-level=1 --metadata title=Cours ${list} -o ${work}/made.epub`, `${work}/made.epub`],

@@ -40,7 +40,8 @@ QByteArray SiteAssets::plan(const QString& title, const QByteArray& texts) {
 }
 
 QByteArray SiteAssets::write(const QString& title, const QByteArray& faces,
-                             const QByteArray& course, const QByteArray& texts) {
+                             const QByteArray& course, const QString& firstPage,
+                             const QByteArray& texts) {
     QByteArray scripts = iconsScript();
     for (const char* name : kScripts)
         scripts += asset(QStringLiteral("site/") + QLatin1String(name));
@@ -54,6 +55,7 @@ QByteArray SiteAssets::write(const QString& title, const QByteArray& faces,
                              faces + asset(QStringLiteral("site/style.css"))));
     put("{programme}", site_.add(QStringLiteral("orvalente"), ".js", scripts));
     put("{cours}", site_.add(QStringLiteral("cours"), ".js", course));
+    put("{premiere}", firstPage);
     put("{icone}", site_.add(QStringLiteral("icone"), ".svg",
                              resource(QStringLiteral(":/look/icons/orvalente.svg"))));
     put("{texte}", site_.add(QStringLiteral("texte"), ".html", plan(title, texts)));
