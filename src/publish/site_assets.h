@@ -15,7 +15,7 @@ public:
 
     /// Writes all but the first page, which it gives. `faces` are rules of the style sheet,
     /// `course` the script that tells of the pages, `firstPage` the name of the first one's, which
-    /// browsers fetch at once, `texts` what the pages say, as HTML.
+    /// comes with them, `texts` what the pages say, as HTML.
     QByteArray write(const QString& title, const QByteArray& faces, const QByteArray& course,
                      const QString& firstPage, const QByteArray& texts);
 
