@@ -78,8 +78,9 @@ public:
         if (report_.hasFaults())
             return nullptr;
         SiteAssets assets(site_);
-        const QByteArray index = assets.write(pages_.title(), faces_.write(site_),
-                                              script(QStringLiteral("cours"), course_), plan_);
+        const QByteArray index =
+            assets.write(pages_.title(), faces_.write(site_),
+                         script(QStringLiteral("cours"), course_), firstPage_, plan_);
         return !report_.hasFaults() && site_.finish(index) ? &site_ : nullptr;
     }
 
@@ -90,14 +91,17 @@ private:
             report_.progress("pages publiées", static_cast<std::size_t>(position) + 1,
                              static_cast<std::size_t>(pages_.count()));
             const auto number = pages_.number(position);
+            // Another record of the first one's number may be what is shown.
+            if (number && !course_.contains(QStringLiteral("debut")))
+                course_.insert(QStringLiteral("debut"), *number);
             if (!number || pages_.positionShown(*number) != position)
                 continue; // no link leads there
             const coursetool::DrawnCoursePage drawn =
                 pages_.drawn(position, fonts_, pictures_, report_);
-            inOrder.emplace(std::pair(wholeNumber(drawn.record.TextIndex), *number),
-                            addPage(*number, drawn));
-            if (position == 0)
-                course_.insert(QStringLiteral("debut"), *number);
+            const QJsonObject entry = addPage(*number, drawn);
+            if (*number == course_.value(QStringLiteral("debut")).toInt())
+                firstPage_ = entry.value(QStringLiteral("fichier")).toString();
+            inOrder.emplace(std::pair(wholeNumber(drawn.record.TextIndex), *number), entry);
         }
         QJsonArray list;
         for (const auto& [order, entry] : inOrder)
@@ -159,6 +163,7 @@ private:
     DrawingWriter drawings_;
     Films films_;
     QJsonObject course_; ///< what the site knows of all its pages
+    QString firstPage_;  ///< its script
     QByteArray plan_;    ///< all texts, for who has no scripts
 };
 

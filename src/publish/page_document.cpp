@@ -77,9 +77,13 @@ private:
     }
 
     void write(const page::ReadablePiece& piece) {
-        const auto index = piece.source->isCaption ? linkOf(piece) : std::nullopt;
-        const QString to = index ? links_.of(sheet_.links[*index]) : QString();
         const QString text = textOf(piece);
+        const auto index = piece.source->isCaption ? linkOf(piece) : std::nullopt;
+        if (!index) {
+            html_ += text;
+            return;
+        }
+        const QString to = links_.of(sheet_.links[*index]);
         html_ += to.isEmpty() ? text : linkStart(to, *index) + text + QStringLiteral("</a>");
     }
 

@@ -68,7 +68,8 @@ QByteArray SiteAssets::plan(const QString& title, const QByteArray& texts) {
 }
 
 QByteArray SiteAssets::write(const QString& title, const QByteArray& faces,
-                             const QByteArray& course, const QByteArray& texts) {
+                             const QByteArray& course, const QString& firstPage,
+                             const QByteArray& texts) {
     site_.add(QStringLiteral("polices/LICENCES"), ".txt",
               asset(QStringLiteral("site/licences.txt")));
     QByteArray index = asset(QStringLiteral("site/index.html"));
@@ -79,6 +80,7 @@ QByteArray SiteAssets::write(const QString& title, const QByteArray& faces,
     put("{programme}",
         site_.add(QStringLiteral("orvalente"), ".js", iconsScript() + together(kScripts)));
     put("{cours}", site_.add(QStringLiteral("cours"), ".js", course));
+    put("{premiere}", firstPage);
     put("{icone}", site_.add(QStringLiteral("icone"), ".svg",
                              resource(QStringLiteral(":/look/icons/orvalente.svg"))));
     put("{texte}", site_.add(QStringLiteral("texte"), ".html", plan(title, texts)));

@@ -14,9 +14,10 @@ public:
     explicit SiteAssets(SiteFolder& site) : site_(site) {}
 
     /// Writes all but the first page, which it gives. `faces` are rules of the style sheet,
-    /// `course` the script that tells of the pages, `texts` what the pages say, as HTML.
+    /// `course` the script that tells of the pages, `firstPage` the name of the first one's, which
+    /// comes with them, `texts` what the pages say, as HTML.
     QByteArray write(const QString& title, const QByteArray& faces, const QByteArray& course,
-                     const QByteArray& texts);
+                     const QString& firstPage, const QByteArray& texts);
 
 private:
     QByteArray plan(const QString& title, const QByteArray& texts);

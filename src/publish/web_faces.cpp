@@ -37,21 +37,27 @@ QByteArray rule(const QString& name, FaceStyle style, const QString& file) {
 } // namespace
 
 void WebFaces::note(const page::Font& font, const QString& text) {
-    const QStringList families = page::FontBook::families(font.face);
+    Used* used = nullptr; // nearly always one face for all of the text
+    int fallback = 0;
     for (const page::FontBook::PlacedGlyph& glyph : fonts_.glyphs(font, text)) {
         if (glyph.character == 0)
             continue;
-        // What only measures here is drawn with the next family that has it.
-        int fallback = glyph.fallback;
-        if (nameOf(families.value(fallback)).isEmpty())
-            ++fallback;
-        Used& used = used_[{families.value(fallback), font.bold, font.italic}];
-        if (used.characters.empty()) {
-            used.font = font;
-            used.fallback = fallback;
+        if (!used || glyph.fallback != fallback) {
+            fallback = glyph.fallback;
+            used = &faceOf(font, fallback);
         }
-        used.characters.insert(glyph.character);
+        used->characters.insert(glyph.character);
     }
+}
+
+WebFaces::Used& WebFaces::faceOf(const page::Font& font, int fallback) {
+    const QStringList families = page::FontBook::families(font.face);
+    // What only measures here is drawn with the next family that has it.
+    if (nameOf(families.value(fallback)).isEmpty())
+        ++fallback;
+    return used_
+        .try_emplace({families.value(fallback), font.bold, font.italic}, Used{font, fallback, {}})
+        .first->second;
 }
 
 QString WebFaces::families(const QString& face) {

@@ -35,6 +35,8 @@ private:
         std::set<char32_t> characters;
     };
 
+    Used& faceOf(const page::Font& font, int fallback);
+
     const page::FontBook& fonts_;
     std::map<Style, Used> used_;
 };

@@ -58,6 +58,8 @@ const gzipped = (name) => gzipSync(readFileSync(join(site, name)), { level: 9 })
 const firstPage = all().filter((name) => /^(index|style|orvalente|cours|polices|pages\/p1-)/.test(name));
 const firstBytes = firstPage.reduce((sum, name) => sum + gzipped(name), 0);
 ok(firstBytes < 250 * 1024, `${firstBytes} bytes for the first page`);
+// The first page comes with the scripts, before they have asked for it.
+strictEqual(/<script src="(pages[^"]+)" defer>/.exec(readFileSync(join(site, 'index.html'), 'utf8'))[1], firstPage.find((name) => name.startsWith('pages')));
 ok(all().every((name) => name === 'index.html' || /-[0-9a-f]{10}\.\w+$/.test(name)), 'a name without a hash');
 strictEqual(all().filter((name) => readFileSync(join(site, name)).includes('Liberation') && name.endsWith('.css')).length, 0);
 
