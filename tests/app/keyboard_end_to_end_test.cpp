@@ -37,6 +37,8 @@ TEST_F(Keyboard, reachesEveryFunction) {
     press("ctrl+a");
     type(directory_.filePath("feuille.pdf"));
     press("Return");
+    ASSERT_TRUE(isActive("Aperçu avant impression"));
+    press("Return");
     EXPECT_TRUE(eventually([&] { return QFile::exists(directory_.filePath("feuille.pdf")); }));
     ASSERT_TRUE(isActive("Orvalente - "));
 
