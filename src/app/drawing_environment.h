@@ -4,30 +4,16 @@
 
 #include <QGuiApplication>
 
-#include <optional>
+#include <memory>
 
 namespace app {
 
-/// To be made before the application object.
-struct NoDisplay {
-    NoDisplay() {
-        // What Qt remarks about the system it runs on is no fault of a course.
-        qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
-        // Fonts need an application object, but no display.
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
-};
-
-/// What drawing needs around it. A subcommand that compiles and then draws has two of them, one
-/// after the other or one within the other, and there is one application object.
+/// What drawing needs around it, without a display. A subcommand that compiles and then draws has
+/// two of them, one after the other or one within the other, and there is one application object.
 struct DrawingEnvironment {
-    DrawingEnvironment(int& argc, char** argv) {
-        if (!QCoreApplication::instance())
-            application.emplace(argc, argv);
-    }
+    DrawingEnvironment(int& argc, char** argv);
 
-    NoDisplay noDisplay;
-    std::optional<QGuiApplication> application;
+    std::unique_ptr<QGuiApplication> application; ///< null in the inner one
     page::FontBook fonts;
 };
 

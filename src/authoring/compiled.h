@@ -23,10 +23,6 @@ struct Fault {
 struct CompiledText {
     std::string source;
     std::vector<int> markdownLines; ///< for each line of `source`, the line that it comes from
-
-    /// The line of the Markdown file that a line of `source` comes from, both counted from 1; lines
-    /// beyond the last give that of the last, and 1 when there is none.
-    int lineOf(int compiledLine) const;
 };
 
 /// What a picture shows, in words, for who does not see it. The page language has no place for

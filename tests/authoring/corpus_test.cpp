@@ -72,16 +72,14 @@ TEST(Corpus, tellsTheMarkdownLineOfEveryCompiledLine) {
     const std::string& source = text.source;
     const auto lineOf = [&](const char* words) {
         const auto before = source.substr(0, source.find(words));
-        return text.lineOf(1 + static_cast<int>(std::count(before.begin(), before.end(), '\n')));
+        return text.markdownLines.at(
+            static_cast<std::size_t>(std::count(before.begin(), before.end(), '\n')));
     };
     EXPECT_EQ(lineOf("Un"), 10);
     EXPECT_EQ(lineOf("Deux"), 12);
     EXPECT_EQ(lineOf("Trois"), 13);
     const auto listing = compiler().page("```\na\n\n    b\n```\n", 10, {}).text;
-    EXPECT_EQ(listing.lineOf(static_cast<int>(listing.markdownLines.size()) - 3), 13);
-    EXPECT_EQ(text.lineOf(0), 10);
-    EXPECT_EQ(text.lineOf(9999), 13);
-    EXPECT_EQ(authoring::CompiledText().lineOf(3), 1);
+    EXPECT_EQ(listing.markdownLines.at(listing.markdownLines.size() - 4), 13);
 }
 
 /// The listings of a document between fences.
