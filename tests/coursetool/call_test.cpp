@@ -38,6 +38,8 @@ TEST_F(Program, helpsInFrenchWithExamples) {
                                   "REQUIRED|Subcommand|Positional|TEXT[^E]")));
         if (name == "preview")
             continue; // shows a window until somebody closes it
+        if (name == "publish" && !CAN_PUBLISH)
+            continue; // without the compiler for browsers it says so
         for (const QString& line : QString::fromStdString(help.out).split('\n'))
             if (line.startsWith("  orvalente-cours ")) {
                 const Outcome example = run(QProcess::splitCommand(line).sliced(1));
