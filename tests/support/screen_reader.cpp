@@ -163,6 +163,7 @@ QList<ScreenReader::Object> ScreenReader::children(const Object& object) const {
         list.endStructure();
         all.append({program, path.path()});
     }
+    list.endArray(); // what reads the list is let go of
     return all;
 }
 
