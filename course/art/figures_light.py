@@ -142,4 +142,4 @@ def eye():
     return d
 
 
-FIGURES = {"spectres-continus-et-raies": spectra, "grandissement": magnification, "oeil-reduit": eye}
+FIGURES = {"spectres": spectra, "grandissement": magnification, "oeil-reduit": eye}

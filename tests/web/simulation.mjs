@@ -1,38 +1,21 @@
 // The projectile's page in a real browser, from a folder: what pupils do with it.
 //   node simulation.mjs ORVALENTE-COURS COURSE-SOURCES NPM-FOLDER
-// Ends with 77 when there is no browser or what drives it.
 import { deepStrictEqual, ok, strictEqual } from 'node:assert';
 import { execFileSync } from 'node:child_process';
-import { cpSync, existsSync, mkdtempSync, readFileSync, readdirSync, rmSync } from 'node:fs';
-import { createRequire } from 'node:module';
-import { tmpdir } from 'node:os';
+import { cpSync, readdirSync, rmSync } from 'node:fs';
 import { join } from 'node:path';
 import { pathToFileURL } from 'node:url';
+import { begin } from './browser.mjs';
 
 const [, , tool, sources, npm] = process.argv;
-const require = createRequire(join(npm, 'x.js'));
-const executablePath = ['/usr/bin/chromium', '/usr/bin/google-chrome'].find((path) => existsSync(path));
-let chromium;
-try {
-    ({ chromium } = require('playwright-core'));
-} catch {
-    // told below
-}
-if (!executablePath || !chromium) {
-    console.log('Ni Chromium ni playwright-core : rien n’a été essayé dans un navigateur.');
-    process.exit(77);
-}
-
-const folder = mkdtempSync(join(tmpdir(), 'orvalente-simulation-'));
-process.on('exit', () => rmSync(folder, { recursive: true, force: true }));
+const { folder, launch, axe } = await begin(npm, 'simulation');
 const source = join(folder, 'source');
 cpSync(sources, source, { recursive: true });
 for (const name of readdirSync(join(source, 'files')).filter((file) => file.endsWith('.avi'))) rmSync(join(source, 'files', name)); // films take their time
 execFileSync(tool, ['build', source, '-o', join(folder, 'course')], { stdio: 'ignore' });
 execFileSync(tool, ['publish', join(folder, 'course'), '-o', join(folder, 'site')], { stdio: ['ignore', 'ignore', 'pipe'] });
 const address = pathToFileURL(join(folder, 'site', 'index.html')).href;
-const browser = await chromium.launch({ executablePath, args: ['--no-sandbox'] });
-const axe = readFileSync(require.resolve('axe-core/axe.min.js'), 'utf8');
+const browser = await launch();
 
 async function opened(options = {}, hash = '#m23') {
     const context = await browser.newContext({ viewport: { width: 1100, height: 900 }, ...options });

@@ -1,32 +1,16 @@
 // A published course in a real browser, from a folder and from a server: what pupils do with it.
 //   node site.mjs ORVALENTE-COURS COURSE-SOURCES NPM-FOLDER
-// Ends with 77 when there is no browser or what drives it.
 import { deepStrictEqual, ok, strictEqual } from 'node:assert';
 import { execFileSync } from 'node:child_process';
-import { cpSync, existsSync, mkdirSync, mkdtempSync, readFileSync, readdirSync, rmSync, statSync, writeFileSync } from 'node:fs';
+import { cpSync, existsSync, mkdirSync, readFileSync, readdirSync, rmSync, statSync, writeFileSync } from 'node:fs';
 import { createServer } from 'node:http';
-import { createRequire } from 'node:module';
-import { tmpdir } from 'node:os';
 import { extname, join, normalize } from 'node:path';
 import { pathToFileURL } from 'node:url';
 import { gzipSync } from 'node:zlib';
+import { begin } from './browser.mjs';
 
 const [, , tool, sources, npm] = process.argv;
-const require = createRequire(join(npm, 'x.js'));
-const executablePath = ['/usr/bin/chromium', '/usr/bin/google-chrome'].find((path) => existsSync(path));
-let chromium;
-try {
-    ({ chromium } = require('playwright-core'));
-} catch {
-    // told below
-}
-if (!executablePath || !chromium) {
-    console.log('Ni Chromium ni playwright-core : rien n’a été essayé dans un navigateur.');
-    process.exit(77);
-}
-
-const folder = mkdtempSync(join(tmpdir(), 'orvalente-site-'));
-process.on('exit', () => rmSync(folder, { recursive: true, force: true }));
+const { folder, launch, axe } = await begin(npm, 'site');
 
 // ---- A course with a page that means harm, and one short film of which each image is known
 
@@ -93,8 +77,7 @@ const server = createServer((request, response) => {
 });
 await new Promise((resolve) => { server.listen(0, '127.0.0.1', resolve); });
 const addresses = { folder: pathToFileURL(join(site, 'index.html')).href, server: `http://127.0.0.1:${server.address().port}/index.html` };
-const browser = await chromium.launch({ executablePath, args: ['--no-sandbox'] });
-const axe = readFileSync(require.resolve('axe-core/axe.min.js'), 'utf8');
+const browser = await launch();
 
 async function opened(address, options = {}) {
     const context = await browser.newContext({ viewport: { width: 1100, height: 900 }, bypassCSP: false, ...options });
