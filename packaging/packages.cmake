@@ -57,7 +57,7 @@ French. This package holds the program that shows a course: any course that
 was made with orvalente-cours will do."
     DEPENDS ${drawing}
     RECOMMENDS orvalente-cours-demonstration ${drawing_recommends} qt6-translations-l10n
-    SUGGESTS orvalente-doc wine)
+    SUGGESTS orvalente-doc wine qt6-wayland)
 set(CPACK_DEBIAN_SHELL_PACKAGE_CONTROL_EXTRA ${CMAKE_CURRENT_SOURCE_DIR}/debian/postinst)
 
 orvalente_package(modules NATIVE
