@@ -47,7 +47,7 @@ foreach(component IN LISTS components)
 endforeach()
 
 # For who writes courses; what is for developers stays with the sources.
-set(manuals calculatrice check course-format cours langage manuel-auteur markdown tests)
+set(manuals calculatrice check course-format cours langage manuel-auteur markdown publier tests)
 list(TRANSFORM manuals REPLACE "(.+)" "${CMAKE_SOURCE_DIR}/docs/\\1.md")
 set(manuals_dir ${CMAKE_INSTALL_DATADIR}/doc/${package_of_manuals})
 install(FILES ${manuals} DESTINATION ${manuals_dir} COMPONENT manuals)

@@ -57,13 +57,14 @@ French. This package holds the program that shows a course: any course that
 was made with orvalente-cours will do."
     DEPENDS ${drawing}
     RECOMMENDS orvalente-cours-demonstration ${drawing_recommends} qt6-translations-l10n
-    SUGGESTS orvalente-doc wine)
+    SUGGESTS orvalente-doc wine qt6-wayland)
 set(CPACK_DEBIAN_SHELL_PACKAGE_CONTROL_EXTRA ${CMAKE_CURRENT_SOURCE_DIR}/debian/postinst)
 
 orvalente_package(modules NATIVE
     SUMMARY "simulations for Orvalente's physics and chemistry course"
-    DESCRIPTION "The programs that pages of the demonstration course start: a simulator of
-projectiles with exercises, and a page of useful links."
+    DESCRIPTION "The programs that pages of the demonstration course start: an optical bench
+with a lens, a reaction with its limiting reactant and the motion of a
+projectile, each with exercises, and a page of useful links."
     DEPENDS qt6-qpa-plugins fonts-liberation2
     RECOMMENDS "orvalente-cours-demonstration")
 
@@ -77,7 +78,7 @@ orvalente_package(tool NATIVE
     SUMMARY "writes, checks and publishes courses for Orvalente"
     DESCRIPTION "The command-line tool with which teachers write courses of pages, tests and
 pictures, in Markdown or in the page language: it compiles, checks, draws,
-prints and searches them."
+prints and searches them, and publishes them as web sites."
     DEPENDS ${drawing}
     RECOMMENDS "orvalente ${same_version}" orvalente-doc ${drawing_recommends})
 

@@ -7,7 +7,8 @@
 
 namespace common {
 
-ModuleApplication::ModuleApplication(int& argc, char** argv) : QApplication(argc, argv) {
+ModuleApplication::ModuleApplication(int& argc, char** argv, const platform::X11First&)
+    : QApplication(argc, argv) {
     QLocale::setDefault(QLocale(QLocale::French, QLocale::France));
     look::dressApplication();
     setWindowIcon(look::programIcon());

@@ -2,16 +2,18 @@
 
 #include "look/held_keys.h"
 #include "look/reduced_light.h"
+#include "platform/x11_first.h"
 
 #include <QApplication>
 
 namespace common {
 
 /// The application object of a module: French numbers, the look of the house, keys held down that
-/// act once, and the light-reduced view.
+/// act once, the light-reduced view, and X11 before Wayland as the shell.
 class ModuleApplication : public QApplication {
 public:
-    ModuleApplication(int& argc, char** argv);
+    /// `x11First` has its effect while Qt looks for the screen, and ends then.
+    ModuleApplication(int& argc, char** argv, const platform::X11First& x11First = {});
 
 private:
     look::HeldKeys heldKeys_;

@@ -6,6 +6,7 @@
 #include "look/scale.h"
 #include "page/faces/font_book.h"
 #include "platform/terminal.h"
+#include "platform/x11_first.h"
 #include "preview/previewed_course.h"
 
 #include <QApplication>
@@ -88,11 +89,13 @@ int main(int argc, char** argv) {
         std::fputs(line.isError ? "\n" : "", stderr);
         return line.isError ? 2 : 0;
     }
+    std::optional<platform::X11First> x11First(std::in_place);
     const double scale = chooseScale(line, argc, argv);
     if (scale != 1)
         qputenv("QT_SCALE_FACTOR", QByteArray::number(scale));
 
     QApplication application(argc, argv);
+    x11First.reset();
     look::dressApplication();
     const look::HeldKeys heldKeys;
     QApplication::setApplicationName(QStringLiteral("orvalente"));

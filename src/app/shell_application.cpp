@@ -29,6 +29,7 @@
 #include "platform/qt/system_help_viewer.h"
 #include "platform/qt/system_pdf_opener.h"
 #include "platform/system_program_windows.h"
+#include "platform/unseen_windows.h"
 #include "search/coordon_opener.h"
 #include "shell/alerte.h"
 #include "shell/closing.h"
@@ -134,7 +135,7 @@ private:
 struct ShellApplication::Parts {
     Parts(const CommandLine& commandLine, double scale)
         : screen(scale), zoom(scale), window(state, fonts, screen),
-          launcher(state, messageBoxes, processes, activator, window), modules(launcher),
+          launcher(state, messageBoxes, processes, *activator, window), modules(launcher),
           links(window, fonts, window.shownPage().links),
           orderForm({printerSetup, printer, fonts}, messageBoxes, window),
           installation(state, processes, messageBoxes, window), search(state, fonts, window),
@@ -157,12 +158,19 @@ struct ShellApplication::Parts {
                        [this] { return startUp.run() == shell::StartUp::Outcome::GoOn; }});
     }
 
-    /// Where the desktop is of another kind than X11, X11 does not know of all windows: nothing can
-    /// then be said about one that it does not find.
-    platform::PatientActivator::GivenUp whenNotFound() {
-        if (QGuiApplication::platformName() != QStringLiteral("xcb"))
-            return {};
-        return [this](const QString& program) { launcher.reportHidden(program); };
+    /// What brings the windows of modules to the front on the desktop that there is.
+    std::unique_ptr<platform::WindowActivator> moduleActivator() {
+        const QString desktop = QGuiApplication::platformName();
+        if (desktop.startsWith(QStringLiteral("wayland")))
+            return std::make_unique<platform::UnseenWindows>(
+                otherWindows,
+                [this](const QString& program) { launcher.reportLeftBehind(program); });
+        // Where the desktop is of yet another kind than X11, X11 does not know of all windows:
+        // nothing can then be said about one that it does not find.
+        platform::PatientActivator::GivenUp notFound;
+        if (desktop == QStringLiteral("xcb"))
+            notFound = [this](const QString& program) { launcher.reportHidden(program); };
+        return std::make_unique<platform::PatientActivator>(otherWindows, std::move(notFound));
     }
 
     shell::SharedState state;
@@ -175,7 +183,7 @@ struct ShellApplication::Parts {
     look::DialogMessageBoxes messageBoxes;
     platform::QtProcesses processes;
     OtherWindows otherWindows;
-    platform::PatientActivator activator{otherWindows, whenNotFound()};
+    std::unique_ptr<platform::WindowActivator> activator = moduleActivator();
 
     viewer::Multim window;
     shell::Launcher launcher;

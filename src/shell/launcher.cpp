@@ -156,6 +156,13 @@ void Launcher::reportHidden(const QString& program) {
                       .arg(program));
 }
 
+void Launcher::reportLeftBehind(const QString& program) {
+    reportFailure(reports_,
+                  QStringLiteral("Le module «\u00A0%1\u00A0» est déjà ouvert\u00A0; ce bureau ne "
+                                 "laisse pas Orvalente l’amener au premier plan.")
+                      .arg(program));
+}
+
 bool Launcher::mayStartBesideOthers() const {
     return messageBoxes_.ask(kOtherModuleRuns) == Answer::Yes;
 }

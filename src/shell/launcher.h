@@ -33,6 +33,10 @@ public:
     /// Reports that the module with the file name `program` has no window to bring to the front.
     void reportHidden(const QString& program);
 
+    /// Reports that the module with the file name `program` is open, and that the desktop lets
+    /// nobody bring it to the front.
+    void reportLeftBehind(const QString& program);
+
     /// Whether the status file lets the software be updated: all modules say "NON".
     bool updateIsPossible() const;
 

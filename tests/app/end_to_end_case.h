@@ -19,8 +19,9 @@ using test_support::X11Session;
 /// The real program on the real demonstration course, on a display with a window manager.
 class EndToEnd : public testing::Test {
 protected:
-    explicit EndToEnd(QSize screen = {1024, 768})
-        : session_(X11Session::Manager::Openbox, screen) {}
+    explicit EndToEnd(QSize screen = {1024, 768},
+                      X11Session::Manager manager = X11Session::Manager::Openbox)
+        : session_(manager, screen) {}
 
     void SetUp() override {
         ASSERT_FALSE(session_.display().isEmpty()) << "Xvfb is missing";

@@ -8,7 +8,9 @@
 #include <QTemporaryDir>
 
 #include <unistd.h>
+#include <xcb/xcb.h>
 
+#include <cstdlib>
 #include <memory>
 
 using platform::X11ProgramWindows;
@@ -38,6 +40,25 @@ void change(const X11Session& session, quint64 window, const Property& property)
 
 Property pid(qint64 number) {
     return {"_NET_WM_PID", "32c", QString::number(number)};
+}
+
+/// Has the display say that a manager runs, by `window` as the one that it shows itself by: on the
+/// root window and on this one.
+void nameManager(const QByteArray& display, xcb_window_t window) {
+    xcb_connection_t* connection = xcb_connect(display.constData(), nullptr);
+    const QByteArray name = "_NET_SUPPORTING_WM_CHECK";
+    auto* check = xcb_intern_atom_reply(
+        connection,
+        xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(name.size()), name.constData()),
+        nullptr);
+    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
+    for (const xcb_window_t shown : {root, window})
+        EXPECT_EQ(xcb_request_check(connection, xcb_change_property_checked(
+                                                    connection, XCB_PROP_MODE_REPLACE, shown,
+                                                    check->atom, XCB_ATOM_WINDOW, 32, 1, &window)),
+                  nullptr);
+    std::free(check);
+    xcb_disconnect(connection);
 }
 
 } // namespace
@@ -137,6 +158,20 @@ TEST(X11ProgramWindows, tellDialogsOfAnotherWindow) {
     // Without a window before which it could stand, a dialog is its program's main window.
     for (const platform::ProgramWindow& window : windows.list())
         EXPECT_EQ(window.hasParent, window.title != "Optique");
+    program.kill();
+    program.waitForFinished();
+}
+
+TEST(X11ProgramWindows, areSeenWhereTheManagerKeepsNoList) {
+    const X11Session session(X11Session::Manager::None);
+    const X11ProgramWindows windows(session.display());
+    qputenv("DISPLAY", session.display());
+    QProcess program;
+    program.start(PLAIN_WINDOW, {"-platform", "xcb", "Optique"});
+    ASSERT_TRUE(eventually([&] { return windows.list().size() == 1; }));
+    nameManager(session.display(), static_cast<xcb_window_t>(windows.list().front().id));
+    ASSERT_EQ(windows.list().size(), 1U);
+    EXPECT_EQ(windows.list().front().title, "Optique");
     program.kill();
     program.waitForFinished();
 }

@@ -151,6 +151,8 @@ TEST_F(LauncherTest, aFailedStartIsToldInALineAndKeepsTheOldProcess) {
     }
     launcher_.reportHidden("SIMU07.EXE");
     EXPECT_TRUE(reports_.lines.takeLast().contains("SIMU07.EXE"));
+    launcher_.reportLeftBehind("SIMU07.EXE");
+    EXPECT_TRUE(reports_.lines.takeLast().contains("SIMU07.EXE\u00A0» est déjà ouvert"));
     EXPECT_EQ(pidOf(7), 12);
     EXPECT_TRUE(activator_.requests.empty());
     EXPECT_TRUE(messageBoxes_.messages.empty());

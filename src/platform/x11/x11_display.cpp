@@ -54,8 +54,13 @@ X11Display::X11Display(const QByteArray& name) {
 }
 
 std::vector<xcb_window_t> X11Display::programWindows() const {
-    return hasManager() ? cardinals(root_, "_NET_CLIENT_LIST", XCB_ATOM_WINDOW)
-                        : unmanagedProgramWindows();
+    if (hasManager()) {
+        const auto listed = cardinals(root_, "_NET_CLIENT_LIST", XCB_ATOM_WINDOW);
+        if (!listed.empty())
+            return listed;
+    }
+    // Not every manager keeps a list: that of Weston, a Wayland desktop, does not.
+    return unlistedProgramWindows();
 }
 
 std::uint32_t X11Display::processId(xcb_window_t window) const {
@@ -173,13 +178,13 @@ std::vector<xcb_window_t> X11Display::children(xcb_window_t parent) const {
     return {first, first + xcb_query_tree_children_length(reply.get())};
 }
 
-std::vector<xcb_window_t> X11Display::unmanagedProgramWindows() const {
+std::vector<xcb_window_t> X11Display::unlistedProgramWindows() const {
     std::vector<xcb_window_t> found;
     const auto keepIfShown = [&](xcb_window_t window) {
         if (isShown(window) && (processId(window) != 0 || !classNames(window).isEmpty()))
             found.push_back(window);
     };
-    // Two levels: a manager that knows nothing of the hints may have put a frame around each.
+    // Two levels: a manager may have put a frame around each.
     for (const xcb_window_t top : children(root_)) {
         keepIfShown(top);
         for (const xcb_window_t inner : children(top))

@@ -67,7 +67,7 @@ private:
     std::vector<xcb_window_t> children(xcb_window_t parent) const;
     /// Toolkits keep windows of their own that are never shown, or that are menus.
     bool isShown(xcb_window_t window) const;
-    std::vector<xcb_window_t> unmanagedProgramWindows() const;
+    std::vector<xcb_window_t> unlistedProgramWindows() const;
 
     std::unique_ptr<xcb_connection_t, Disconnect> connection_;
     xcb_window_t root_ = XCB_WINDOW_NONE;
