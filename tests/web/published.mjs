@@ -29,6 +29,7 @@ function hostileSources(sources, source) {
  */
 export function publishedCourse(tool, sources, folder) {
     const [source, course, site] = ['source', 'course', 'site'].map((name) => join(folder, name));
+    process.env.XDG_CACHE_HOME = join(folder, 'cache'); // converted films are kept there
     hostileSources(sources, source);
     execFileSync(tool, ['build', source, '-o', course], { stdio: 'ignore' });
     execFileSync(tool, ['publish', course, '-o', site], { stdio: ['ignore', 'ignore', 'pipe'] });

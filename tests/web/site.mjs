@@ -6,6 +6,7 @@ import { mkdirSync, readFileSync, readdirSync, statSync, writeFileSync } from 'n
 import { join } from 'node:path';
 import { gzipSync } from 'node:zlib';
 import { begin } from './browser.mjs';
+import { belongsToItsPlace, kept, progress } from './progress.mjs';
 import { publishedCourse, served } from './published.mjs';
 
 const [, , tool, sources, npm] = process.argv;
@@ -15,7 +16,8 @@ const { course, site, images } = publishedCourse(tool, sources, folder);
 
 // ---- What a first page costs
 
-const all = (under = '') => readdirSync(join(site, under), { withFileTypes: true }).flatMap((entry) => (entry.isDirectory() ? all(join(under, entry.name)) : [join(under, entry.name)]));
+const LIST = 'fichiers-publies.txt'; // what publishing has written; no part of the site
+const all = (under = '') => readdirSync(join(site, under), { withFileTypes: true }).filter(({ name }) => name !== LIST).flatMap((entry) => (entry.isDirectory() ? all(join(under, entry.name)) : [join(under, entry.name)]));
 const gzipped = (name) => gzipSync(readFileSync(join(site, name)), { level: 9 }).length;
 const firstPage = all().filter((name) => /^(index|style|orvalente|cours|polices|pages\/p1-)/.test(name));
 const firstBytes = firstPage.reduce((sum, name) => sum + gzipped(name), 0);
@@ -39,6 +41,15 @@ try {
     strictEqual(error.status, 1);
 }
 strictEqual(readFileSync(join(folder, 'other', 'index.html'), 'utf8'), 'mine');
+
+// ---- What a drawing refers to stands in it: two pages may be shown together, and share their pictures
+
+for (const name of readdirSync(join(site, 'pages'))) {
+    const { dessin } = JSON.parse(/^orvalente\.recevoir\("p-?\d+",(.*)\);\s*$/s.exec(readFileSync(join(site, 'pages', name), 'utf8'))[1]);
+    const found = (pattern) => [...dessin.matchAll(pattern)].map(([, id]) => id);
+    const missing = found(/(?:<use [^>]*href="|url\()#([^)"]+)/g).filter((id) => !dessin.includes(`id="${id}"`));
+    deepStrictEqual([missing, found(/ id="([^"]+)"/g).filter((id) => !id.startsWith(`p${/p(-?\d+)-/.exec(name)[1]}-`))], [[], []], name);
+}
 
 // ---- A server, and the browser
 
@@ -246,6 +257,8 @@ for (const [where, address] of Object.entries(addresses)) {
     await page.reload();
     await page.waitForSelector('.page svg');
     strictEqual(await page.evaluate(() => new Progress(orvalente.received.get('cours')).test(1).justes), 10);
+    await progress(page);
+    if (where === 'server') await belongsToItsPlace(page);
     deepStrictEqual(faults, [], where);
     await context.close();
 }
@@ -270,11 +283,16 @@ await isAccessible(page, 'contents');
 async function onPlatform() {
     const context = await browser.newContext();
     const lms = await context.newPage();
+    // What another pupil has left on the device is not told as this one's.
+    await lms.goto(addresses.server);
+    await lms.evaluate((other) => localStorage.setItem('orvalente : /', other), kept({}));
+    strictEqual(await lms.evaluate(() => new Progress(orvalente.received.get('cours')).test(1).donnees), 2);
     await lms.goto(addresses.server.replace('index.html', 'plateforme.html'));
     const value = (name) => lms.evaluate((key) => window.API.lmsGetValue(key), name);
     const frame = lms.frame({ url: /index/ });
     await frame.waitForSelector('.page svg');
     strictEqual(await value('cmi.core.lesson_status'), 'incomplete');
+    deepStrictEqual(JSON.parse(await value('cmi.suspend_data')).tests, {});
     await frame.evaluate(() => { location.hash = '#t1'; });
     await frame.waitForSelector('.champs input');
     await frame.locator('.champs input').first().check();
@@ -309,7 +327,8 @@ async function onPlatform() {
 await onPlatform();
 
 const archive = join(folder, 'cours.zip');
-execFileSync(tool, ['publish', course, '--scorm', '-o', archive], { stdio: 'ignore' });
+// Its films have been converted for the site: nothing is needed for them again.
+execFileSync(tool, ['publish', course, '--scorm', '-o', archive], { stdio: 'ignore', env: { ...process.env, PATH: folder } });
 const packed = execFileSync('python3', ['-c', 'import sys, zipfile; z = zipfile.ZipFile(sys.argv[1]); assert z.testzip() is None; print("\\n".join(z.namelist()))', archive], { encoding: 'utf8' }).trim().split('\n');
 deepStrictEqual(packed.filter((name) => name !== 'imsmanifest.xml').sort(), all().sort());
 
