@@ -51,7 +51,10 @@ async function ourTurn(page, from, to, byContents, byKey) {
             observer.observe(document.getElementById('contenu'), { childList: true });
         });
     }, `p${to.numero}`);
-    if (byContents) await page.getByRole('button', { name: 'Sommaire' }).click();
+    if (byContents) {
+        await page.getByRole('button', { name: 'Sommaire' }).click();
+        await page.evaluate(() => { for (const thread of document.querySelectorAll('.chapitres details')) thread.open = true; });
+    }
     await follow(page, byContents ? `.chapitres a[href="#p${to.numero}"]` : 'footer a[rel=next]', byKey);
     return page.evaluate(async () => (await turned) - Number(sessionStorage.getItem('clicked')));
 }

@@ -1,11 +1,13 @@
 #pragma once
 
 #include "page/faces/font_book.h"
+#include "page/picture.h"
 #include "page/sheet.h"
 #include "publish/site_links.h"
 #include "publish/web_faces.h"
 
 #include <QByteArray>
+#include <QHash>
 
 namespace publish {
 
@@ -19,8 +21,16 @@ public:
                   const std::function<QString(const page::LinkArea&)>& address);
 
 private:
+    struct Inlined {
+        QByteArray id; ///< in the place of that of a page
+        QByteArray drawing;
+    };
+
+    QByteArray inlined(const page::Picture& picture, const QString& id);
+
     const page::FontBook& fonts_;
     WebFaces& faces_;
+    QHash<QByteArray, Inlined> inlined_; ///< by what the file holds: pages share their drawings
 };
 
 } // namespace publish

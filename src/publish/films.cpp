@@ -10,6 +10,7 @@
 #include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 
 namespace publish {
 
@@ -61,9 +62,8 @@ QJsonObject Films::film(const QString& name) {
     const bool isThere = path && files::isFileWithin(coursetool::pathFrom(path->toStdString()),
                                                      coursetool::pathFrom(course_.toStdString()));
     const QJsonObject film =
-        !isThere            ? absent(fileName, QStringLiteral("ce film n’est pas dans le cours"))
-        : ffmpeg_.isEmpty() ? absent(fileName, QStringLiteral("il manque ffmpeg pour le convertir"))
-                            : converted(*path, fileName);
+        isThere ? converted(*path, fileName)
+                : absent(fileName, QStringLiteral("ce film n’est pas dans le cours"));
     known_.insert(fileName, film);
     return film;
 }
@@ -85,47 +85,54 @@ QJsonObject Films::converted(const QString& path, const QString& name) {
     if (!header || header->framesPerSecond == 0 || header->frames == 0)
         return absent(name, QStringLiteral("ce n’est pas un film AVI lisible"));
     file.seek(0);
-    const QString target = QStringLiteral("films/%1-%2.webm")
-                               .arg(plainName(name), QLatin1String(hashOf(file).first(10)));
-    if (!site_.has(target) && !convert(path, target))
-        return absent(name, QStringLiteral("ffmpeg n’a pas pu le convertir"));
-    site_.keep(target);
+    const QByteArray hash = hashOf(file);
+    const QString target =
+        QStringLiteral("films/%1-%2.webm").arg(plainName(name), QLatin1String(hash.first(10)));
+    if (site_.has(target))
+        site_.keep(target);
+    else if (const QString why = put(path, hash, target); !why.isEmpty())
+        return absent(name, why);
     return {{QStringLiteral("fichier"), target},
             {QStringLiteral("images"), header->frames},
             {QStringLiteral("cadence"), header->framesPerSecond}};
 }
 
-/// Under another name first: a film that is half there must not be taken over next time.
-bool Films::convert(const QString& path, const QString& target) const {
-    const std::filesystem::path whole = site_.pathOf(target);
-    std::filesystem::path half = whole;
-    half += ".part";
-    std::error_code error;
-    if (!files::isFreeOfLinks(whole, site_.pathOf({})))
-        return false;
-    std::filesystem::create_directories(whole.parent_path(), error);
-    std::filesystem::remove(half, error);
+/// Puts the film into the site; gives why it could not.
+QString Films::put(const QString& path, const QByteArray& hash, const QString& target) {
+    std::optional<QByteArray> film = cache_.find(hash);
+    if (!film) {
+        if (ffmpeg_.isEmpty())
+            return QStringLiteral("il manque ffmpeg pour le convertir");
+        film = convert(path);
+        if (film->isEmpty())
+            return QStringLiteral("ffmpeg n’a pas pu le convertir");
+        cache_.keep(hash, *film);
+    }
+    return site_.write(target, *film) ? QString() : QStringLiteral("il n’a pas pu être écrit");
+}
+
+/// The converted film; empty when ffmpeg could not.
+QByteArray Films::convert(const QString& path) const {
+    const QTemporaryDir folder;
+    QFile film(folder.filePath(QStringLiteral("film.webm")));
     QProcess process;
     process.setStandardInputFile(QProcess::nullDevice());
     process.setStandardOutputFile(QProcess::nullDevice());
     process.setStandardErrorFile(QProcess::nullDevice());
     // "file:" keeps a name from being taken for an address.
-    process.start(
-        ffmpeg_,
-        QStringList{QStringLiteral("-nostdin"), QStringLiteral("-y"),
-                    QStringLiteral("-protocol_whitelist"), QStringLiteral("file"),
-                    QStringLiteral("-i"), QStringLiteral("file:") + path} +
-            settings() +
-            QStringList{QStringLiteral("file:") + QString::fromStdString(coursetool::shown(half))});
+    process.start(ffmpeg_,
+                  QStringList{QStringLiteral("-nostdin"), QStringLiteral("-y"),
+                              QStringLiteral("-protocol_whitelist"), QStringLiteral("file"),
+                              QStringLiteral("-i"), QStringLiteral("file:") + path} +
+                      settings() + QStringList{QStringLiteral("file:") + film.fileName()});
     if (!process.waitForFinished(kLongestMs)) {
         process.kill();
         process.waitForFinished();
     }
-    if (process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0)
-        std::filesystem::rename(half, whole, error);
-    const bool isThere = std::filesystem::exists(whole, error);
-    std::filesystem::remove(half, error);
-    return isThere;
+    if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0 ||
+        !film.open(QIODevice::ReadOnly))
+        return {};
+    return film.readAll();
 }
 
 } // namespace publish

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "coursetool/report.h"
+#include "publish/film_cache.h"
 #include "publish/site_folder.h"
 
 #include <QHash>
@@ -10,7 +11,7 @@
 namespace publish {
 
 /// The films of a course, converted for browsers (WebM with VP9) by ffmpeg, each once. One that the
-/// site has from an earlier publishing is taken over.
+/// site or the cache has from an earlier publishing is taken over.
 class Films {
 public:
     /// `course` is the folder that they are looked for in.
@@ -23,11 +24,13 @@ public:
 private:
     QJsonObject converted(const QString& path, const QString& name);
     QJsonObject absent(const QString& name, const QString& why);
-    bool convert(const QString& path, const QString& target) const;
+    QString put(const QString& path, const QByteArray& hash, const QString& target);
+    QByteArray convert(const QString& path) const;
 
     QString course_;
     SiteFolder& site_;
     coursetool::Report& report_;
+    FilmCache cache_;
     QString ffmpeg_; ///< empty when it is not installed
     QHash<QString, QJsonObject> known_;
 };

@@ -24,13 +24,15 @@ constexpr qint64 kHeadBytes = 4096;
 
 bool isOurs(const fs::path& folder) {
     QFile index(QString::fromStdString(coursetool::shown(folder / kIndex)));
+    if (!index.exists())
+        return SiteList::isIn(folder); // its first publishing did not come to an end
     return index.open(QIODevice::ReadOnly) && index.read(kHeadBytes).contains(kGeneratorMark);
 }
 
 } // namespace
 
 SiteFolder::SiteFolder(fs::path folder, coursetool::Report& report)
-    : folder_(std::move(folder)), report_(report) {}
+    : folder_(std::move(folder)), report_(report), list_(folder_, report) {}
 
 bool SiteFolder::open() {
     std::error_code error;
@@ -42,6 +44,7 @@ bool SiteFolder::open() {
                           "n’est ni un dossier vide ni un site publié : choisir un autre dossier");
             return false;
         }
+        list_.open();
         return true;
     }
     fs::create_directories(folder_, error);
@@ -73,7 +76,10 @@ fs::path SiteFolder::pathOf(const QString& name) const {
 }
 
 bool SiteFolder::finish(const QByteArray& index) {
-    return write(QString::fromLatin1(kIndex), index);
+    if (!write(QString::fromLatin1(kIndex), index))
+        return false;
+    list_.finish(names_);
+    return true;
 }
 
 bool SiteFolder::makeFolderOf(const QString& name) {
@@ -91,7 +97,7 @@ bool SiteFolder::makeFolderOf(const QString& name) {
 }
 
 bool SiteFolder::write(const QString& name, const QByteArray& content) {
-    if (!makeFolderOf(name))
+    if (!list_.begin(name) || !makeFolderOf(name))
         return false;
     const fs::path path = pathOf(name);
     std::error_code error;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "coursetool/report.h"
+#include "publish/site_list.h"
 
 #include <QByteArray>
 #include <QString>
@@ -27,11 +28,13 @@ public:
     static QString nameOf(const QString& stem, const char* ending, const QByteArray& content);
     /// Whether that file is there already.
     bool has(const QString& name) const;
-    /// A file that was written there by another program; it counts as added.
+    /// The same for a file whose name is known.
+    bool write(const QString& name, const QByteArray& content);
+    /// A file that is there already; it counts as added.
     void keep(const QString& name) { names_.push_back(name); }
     std::filesystem::path pathOf(const QString& name) const;
 
-    /// Writes the first page.
+    /// Writes the first page, then removes what this site needed formerly.
     bool finish(const QByteArray& index);
 
     /// What belongs to the site now, the first page included once it is there.
@@ -39,11 +42,11 @@ public:
 
 private:
     bool makeFolderOf(const QString& name);
-    bool write(const QString& name, const QByteArray& content);
 
     std::filesystem::path folder_;
     coursetool::Report& report_;
     std::vector<QString> names_;
+    SiteList list_;
 };
 
 /// What the first page of a site of ours has in its head.

@@ -5,6 +5,19 @@ import { createRequire } from 'node:module';
 import { tmpdir } from 'node:os';
 import { join } from 'node:path';
 
+/** @param {string} why */
+export function skip(why) {
+    console.log(why);
+    process.exit(77);
+}
+
+/** @param {string} name a part of the folder's */
+export function aFolder(name) {
+    const folder = mkdtempSync(join(tmpdir(), `orvalente-${name}-`));
+    process.on('exit', () => rmSync(folder, { recursive: true, force: true }));
+    return folder;
+}
+
 /**
  * @param {string} npm folder of the packages
  * @param {string} name of the folder
@@ -18,14 +31,9 @@ export async function begin(npm, name) {
     } catch {
         // told below
     }
-    if (!executablePath || !chromium) {
-        console.log('Ni Chromium ni playwright-core : rien n’a été essayé dans un navigateur.');
-        process.exit(77);
-    }
-    const folder = mkdtempSync(join(tmpdir(), `orvalente-${name}-`));
-    process.on('exit', () => rmSync(folder, { recursive: true, force: true }));
+    if (!executablePath || !chromium) skip('Ni Chromium ni playwright-core : rien n’a été essayé dans un navigateur.');
     return {
-        folder,
+        folder: aFolder(name),
         launch: () => chromium.launch({ executablePath, args: ['--no-sandbox'] }),
         axe: readFileSync(require.resolve('axe-core/axe.min.js'), 'utf8'),
     };

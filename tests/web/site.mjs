@@ -2,42 +2,22 @@
 //   node site.mjs ORVALENTE-COURS COURSE-SOURCES NPM-FOLDER
 import { deepStrictEqual, ok, strictEqual } from 'node:assert';
 import { execFileSync } from 'node:child_process';
-import { cpSync, existsSync, mkdirSync, readFileSync, readdirSync, rmSync, statSync, writeFileSync } from 'node:fs';
-import { createServer } from 'node:http';
-import { extname, join, normalize } from 'node:path';
-import { pathToFileURL } from 'node:url';
+import { mkdirSync, readFileSync, readdirSync, statSync, writeFileSync } from 'node:fs';
+import { join } from 'node:path';
 import { gzipSync } from 'node:zlib';
 import { begin } from './browser.mjs';
+import { belongsToItsPlace, kept, progress } from './progress.mjs';
+import { publishedCourse, served } from './published.mjs';
 
 const [, , tool, sources, npm] = process.argv;
 const { folder, launch, axe } = await begin(npm, 'site');
 
-// ---- A course with a page that means harm, and one short film of which each image is known
-
-const HOSTILE = '</script><script>window.harm = 1</script><img src=x onerror="window.harm = 1">';
-const images = 40;
-function makeCourse() {
-    const source = join(folder, 'source');
-    cpSync(sources, source, { recursive: true });
-    const films = readdirSync(join(source, 'files')).filter((name) => name.endsWith('.avi'));
-    for (const name of films) rmSync(join(source, 'files', name));
-    execFileSync('ffmpeg', ['-v', 'error', '-f', 'lavfi', '-i', `color=c=black:s=160x120:r=25:d=${images / 25}`, '-vf', 'geq=lum=20+5*N:cb=128:cr=128', '-c:v', 'mjpeg', '-q:v', '2', join(source, 'files', 'chute.avi')]);
-    writeFileSync(join(source, 'files', 'piege.svg'), `<svg xmlns="http://www.w3.org/2000/svg" xmlns:xlink="http://www.w3.org/1999/xlink" width="100" height="40" viewBox="0 0 100 40" onload="window.harm = 2">
-<title>piège</title><script>window.harm = 3</script><a xlink:href="javascript:window.harm = 4"><rect width="100" height="40" fill="#d3e3f6" onclick="window.harm = 5"/></a>
-<foreignObject width="100" height="40"><iframe xmlns="http://www.w3.org/1999/xhtml" src="javascript:parent.harm = 6"/></foreignObject><text x="5" y="25" font-family="Arial">piège</text></svg>`);
-    writeFileSync(join(source, 'pages', '300-piege.page'), ['+++', 'Numeropage = 300', 'Index = 9000', `titre = '${HOSTILE}'`, 'imprimable = true', 'moteur = true', 'debutimp = 300', 'finimp = 300', 'sommaire = 28', '+++',
-        '##OBJPRINCIPAL', `${HOSTILE}¶`, '##IMApiege.svg', '##PIY080', `##LIEL${HOSTILE}`, 'fin¶', ''].join('\n'));
-    const course = join(folder, 'course');
-    execFileSync(tool, ['build', source, '-o', course], { stdio: 'ignore' });
-    return course;
-}
-const course = makeCourse();
-const site = join(folder, 'site');
-execFileSync(tool, ['publish', course, '-o', site], { stdio: ['ignore', 'ignore', 'pipe'] });
+const { course, site, images } = publishedCourse(tool, sources, folder);
 
 // ---- What a first page costs
 
-const all = (under = '') => readdirSync(join(site, under), { withFileTypes: true }).flatMap((entry) => (entry.isDirectory() ? all(join(under, entry.name)) : [join(under, entry.name)]));
+const LIST = 'fichiers-publies.txt'; // what publishing has written; no part of the site
+const all = (under = '') => readdirSync(join(site, under), { withFileTypes: true }).filter(({ name }) => name !== LIST).flatMap((entry) => (entry.isDirectory() ? all(join(under, entry.name)) : [join(under, entry.name)]));
 const gzipped = (name) => gzipSync(readFileSync(join(site, name)), { level: 9 }).length;
 const firstPage = all().filter((name) => /^(index|style|orvalente|cours|polices|pages\/p1-)/.test(name));
 const firstBytes = firstPage.reduce((sum, name) => sum + gzipped(name), 0);
@@ -62,21 +42,24 @@ try {
 }
 strictEqual(readFileSync(join(folder, 'other', 'index.html'), 'utf8'), 'mine');
 
+// ---- What a drawing refers to stands in it: two pages may be shown together, and share their pictures
+
+for (const name of readdirSync(join(site, 'pages'))) {
+    const { dessin } = JSON.parse(/^orvalente\.recevoir\("p-?\d+",(.*)\);\s*$/s.exec(readFileSync(join(site, 'pages', name), 'utf8'))[1]);
+    const found = (pattern) => [...dessin.matchAll(pattern)].map(([, id]) => id);
+    const missing = found(/(?:<use [^>]*href="|url\()#([^)"]+)/g).filter((id) => !dessin.includes(`id="${id}"`));
+    deepStrictEqual([missing, found(/ id="([^"]+)"/g).filter((id) => !id.startsWith(`p${/p(-?\d+)-/.exec(name)[1]}-`))], [[], []], name);
+}
+
 // ---- A server, and the browser
 
-const types = { '.html': 'text/html', '.js': 'text/javascript', '.css': 'text/css', '.woff2': 'font/woff2', '.webm': 'video/webm', '.txt': 'text/plain' };
 const platform = `<!DOCTYPE html><title>Plateforme</title><script src="/scorm.js"></script>
 <script>window.API = new Scorm12API({ autocommit: false, logLevel: 5 }); window.API.loadFromJSON({ suspend_data: localStorage.getItem('plateforme') || '' }, 'cmi');</script>
 <iframe src="/index.html" width="1100" height="800"></iframe>`;
-const server = createServer((request, response) => {
-    if (request.url === '/plateforme.html') return response.writeHead(200, { 'Content-Type': 'text/html' }).end(platform);
-    if (request.url === '/scorm.js') return response.writeHead(200, { 'Content-Type': 'text/javascript' }).end(readFileSync(join(npm, 'node_modules/scorm-again/dist/scorm12.js')));
-    const path = normalize(join(site, decodeURIComponent(new URL(request.url, 'http://x').pathname)));
-    if (!path.startsWith(site) || !existsSync(path) || !statSync(path).isFile()) return response.writeHead(404).end();
-    return response.writeHead(200, { 'Content-Type': types[extname(path)] ?? 'application/octet-stream' }).end(readFileSync(path));
+const { server, addresses } = await served(site, {
+    '/plateforme.html': () => platform,
+    '/scorm.js': () => readFileSync(join(npm, 'node_modules/scorm-again/dist/scorm12.js')),
 });
-await new Promise((resolve) => { server.listen(0, '127.0.0.1', resolve); });
-const addresses = { folder: pathToFileURL(join(site, 'index.html')).href, server: `http://127.0.0.1:${server.address().port}/index.html` };
 const browser = await launch();
 
 async function opened(address, options = {}) {
@@ -274,6 +257,8 @@ for (const [where, address] of Object.entries(addresses)) {
     await page.reload();
     await page.waitForSelector('.page svg');
     strictEqual(await page.evaluate(() => new Progress(orvalente.received.get('cours')).test(1).justes), 10);
+    await progress(page);
+    if (where === 'server') await belongsToItsPlace(page);
     deepStrictEqual(faults, [], where);
     await context.close();
 }
@@ -298,11 +283,16 @@ await isAccessible(page, 'contents');
 async function onPlatform() {
     const context = await browser.newContext();
     const lms = await context.newPage();
+    // What another pupil has left on the device is not told as this one's.
+    await lms.goto(addresses.server);
+    await lms.evaluate((other) => localStorage.setItem('orvalente : /', other), kept({}));
+    strictEqual(await lms.evaluate(() => new Progress(orvalente.received.get('cours')).test(1).donnees), 2);
     await lms.goto(addresses.server.replace('index.html', 'plateforme.html'));
     const value = (name) => lms.evaluate((key) => window.API.lmsGetValue(key), name);
     const frame = lms.frame({ url: /index/ });
     await frame.waitForSelector('.page svg');
     strictEqual(await value('cmi.core.lesson_status'), 'incomplete');
+    deepStrictEqual(JSON.parse(await value('cmi.suspend_data')).tests, {});
     await frame.evaluate(() => { location.hash = '#t1'; });
     await frame.waitForSelector('.champs input');
     await frame.locator('.champs input').first().check();
@@ -337,7 +327,8 @@ async function onPlatform() {
 await onPlatform();
 
 const archive = join(folder, 'cours.zip');
-execFileSync(tool, ['publish', course, '--scorm', '-o', archive], { stdio: 'ignore' });
+// Its films have been converted for the site: nothing is needed for them again.
+execFileSync(tool, ['publish', course, '--scorm', '-o', archive], { stdio: 'ignore', env: { ...process.env, PATH: folder } });
 const packed = execFileSync('python3', ['-c', 'import sys, zipfile; z = zipfile.ZipFile(sys.argv[1]); assert z.testzip() is None; print("\\n".join(z.namelist()))', archive], { encoding: 'utf8' }).trim().split('\n');
 deepStrictEqual(packed.filter((name) => name !== 'imsmanifest.xml').sort(), all().sort());
 

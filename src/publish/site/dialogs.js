@@ -84,6 +84,22 @@ function tell(title, text, answers = ['OK']) {
     });
 }
 
+/** How much of the window's height the buttons at its foot leave. */
+function seenHeight() {
+    return window.innerHeight - (document.getElementById('pied')?.getBoundingClientRect().height ?? 0);
+}
+
+/**
+ * Scrolls no more than needed. Browsers' own scrollIntoView() does not know the foot, and in Firefox
+ * leaves parts of a drawing where they are.
+ * @param {Element} shown
+ */
+function bringIntoView(shown) {
+    const { top, bottom } = shown.getBoundingClientRect();
+    if (top < 0) window.scrollBy(0, top - 8);
+    else if (bottom > seenHeight()) window.scrollBy(0, Math.min(top - 8, bottom + 8 - seenHeight()));
+}
+
 /**
  * A menu below the element that asked for it; arrows, Escape and a click elsewhere work as in any.
  * @param {Element} below
@@ -115,8 +131,7 @@ function popUpMenu(below, entries, name) {
     const place = below.getBoundingClientRect();
     const room = document.documentElement.clientWidth - menu.offsetWidth - 8;
     menu.style.left = `${Math.max(8, Math.min(place.left, room)) + window.scrollX}px`;
-    const foot = document.getElementById('pied')?.getBoundingClientRect().height ?? 0;
-    const isBelow = place.bottom + 4 + menu.offsetHeight <= window.innerHeight - foot || place.top < menu.offsetHeight + 4;
+    const isBelow = place.bottom + 4 + menu.offsetHeight <= seenHeight() || place.top < menu.offsetHeight + 4;
     menu.style.top = `${(isBelow ? place.bottom + 4 : place.top - 4 - menu.offsetHeight) + window.scrollY}px`;
     document.addEventListener('pointerdown', outside, true);
     menu.firstElementChild?.focus();

@@ -82,7 +82,7 @@ class Sheet {
         this.drawing.querySelectorAll('.cible').forEach((/** @type {Element} */ old) => old.classList.remove('cible'));
         const shown = this.drawnLink(link);
         shown?.classList.add('cible');
-        shown?.scrollIntoView({ block: 'nearest' });
+        if (shown) bringIntoView(shown);
     }
 
     /**

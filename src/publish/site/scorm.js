@@ -36,6 +36,7 @@ class Scorm {
             this.api = null;
             return;
         }
+        progress.leaveDevice();
         try {
             progress.take(JSON.parse(this.api.LMSGetValue('cmi.suspend_data') || '{}'));
         } catch {

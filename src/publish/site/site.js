@@ -27,7 +27,7 @@ class Site {
         this.search = new SearchBox(this.course, (number, words, ignoreAccents) => this.showFound(number, words, ignoreAccents));
         this.calculator = new CalculatorBox(this.course);
         this.test = new TestView(this.course, this.progress, { openCalculator: () => void this.calculator.open(), leave: () => { location.hash = `#p${this.page}`; } });
-        this.contents = makeDialog('Sommaire', 'sommaire');
+        this.contents = new ContentsBox(this.course, this.progress, () => this.startAgain());
         this.buildHead();
         history.scrollRestoration = 'manual';
         window.addEventListener('hashchange', () => void this.route());
@@ -38,7 +38,7 @@ class Site {
     buildHead() {
         const home = element('a', { class: 'marque', href: `#p${this.course.data.debut}` }, icon('orvalente'), element('span', {}, 'Orvalente'));
         const tools = element('nav', { 'aria-label': 'Outils' },
-            button('Sommaire', 'summary', () => this.openContents(), { title: 'Sommaire (Alt+S)' }),
+            button('Sommaire', 'summary', () => this.contents.open(this.page), { title: 'Sommaire (Alt+S)' }),
             button('Rechercher', 'search', () => this.search.open(), { title: 'Rechercher dans le cours (Ctrl+L)' }),
             button('Calculatrice', 'calculator', () => void this.calculator.open(), { title: 'Calculatrice scientifique' }),
             button('Imprimer', 'print', () => void this.askPrint(), { title: 'Imprimer la page ou le chapitre' }));
@@ -48,7 +48,7 @@ class Site {
     /** @param {KeyboardEvent} event */
     pressed(event) {
         if (event.ctrlKey && event.key === 'l') this.search.open();
-        else if (event.altKey && event.key === 's') this.openContents();
+        else if (event.altKey && event.key === 's') this.contents.open(this.page);
         else if (event.ctrlKey && event.key === 'p') void this.askPrint();
         else return;
         event.preventDefault();
@@ -68,6 +68,13 @@ class Site {
         } catch {
             this.tellMissing(key);
         }
+    }
+
+    /** Shows what progress has become: a test that is shown would write over it. */
+    startAgain() {
+        this.page = this.progress.data.page ?? this.course.data.debut;
+        if (location.hash === `#p${this.page}`) void this.route();
+        else location.hash = `#p${this.page}`;
     }
 
     /** @param {string} key */
@@ -186,28 +193,6 @@ class Site {
         this.scrolls.delete(`p${number}`);
         if (location.hash === `#p${number}`) void this.route();
         else location.hash = `#p${number}`;
-    }
-
-    openContents() {
-        const body = /** @type {HTMLElement} */ (this.contents.querySelector('.corps'));
-        const list = element('div', { class: 'chapitres' });
-        for (const chapter of this.course.chapters())
-            list.append(element('ul', {}, ...chapter.map((page) => element('li', {}, element('a', { href: `#p${page.numero}`, click: () => this.contents.close(), ...(page.numero === this.page ? { 'aria-current': 'page' } : {}) }, page.titre || `Page ${page.numero}`)))));
-        const tests = element('ul', {}, ...this.course.data.tests.map((test) => {
-            const done = this.progress.test(test.chapitre);
-            return element('li', {}, element('a', { href: `#t${test.chapitre}`, click: () => this.contents.close() }, test.titre || `Test ${test.chapitre}`), done && element('small', {}, ` ${done.justes}/${done.nombre}`));
-        }));
-        body.replaceChildren(element('h3', {}, 'Pages'), list, element('h3', {}, 'Tests'), tests,
-            element('h3', {}, 'Ma progression'), element('p', {}, 'Elle reste sur cet appareil.'),
-            element('div', { class: 'boutons' }, button('Enregistrer dans un fichier', '', () => this.progress.exportFile()),
-                button('Effacer', 'erase', async () => {
-                    if (await tell('Effacer', 'Effacer toutes les réponses gardées sur cet appareil ?', ['Effacer', 'Annuler']) === 0) {
-                        this.progress.erase();
-                        this.contents.close();
-                    }
-                })));
-        this.contents.showModal();
-        /** @type {HTMLElement | null} */ (body.querySelector('[aria-current]'))?.focus();
     }
 
     async askPrint() {
