@@ -1,6 +1,8 @@
 #include "app/command_line.h"
 #include "app/shell_application.h"
 #include "authoring/markdown_compiler.h"
+#include "files/cause.h"
+#include "files/passing_folder.h"
 #include "look/dress.h"
 #include "look/held_keys.h"
 #include "look/scale.h"
@@ -11,7 +13,6 @@
 
 #include <QApplication>
 #include <QScreen>
-#include <QTemporaryDir>
 #include <QTimer>
 
 #include <cstdio>
@@ -58,23 +59,22 @@ void warnOfMissingFaces() {
                                      .arg(missing.join(QStringLiteral(", "))));
 }
 
-/// A course that is being written, and the directory that it is compiled into.
+/// What the course tool ends with, too, when it cannot write.
+constexpr int kNotWritten = 74;
+
+/// A course that is being written, with what it is compiled by.
 class WrittenCourse {
 public:
-    explicit WrittenCourse(const QString& sources)
-        : course_(pathOf(sources), pathOf(directory_.path()), compiler_) {
+    WrittenCourse(const QString& sources, const std::filesystem::path& installation)
+        : course_(sources.toStdU16String(), installation, compiler_) {
         if (course_.update() == preview::PreviewedCourse::Renewed::Nothing)
             course_.showInstead("# Ce cours a des fautes\n\nElles sont dites au pied de la page. "
                                 "Le cours s'ouvrira dès qu'elles seront corrigées.\n");
     }
 
-    QString directory() const { return directory_.path(); }
     preview::PreviewedCourse& course() { return course_; }
 
 private:
-    static std::filesystem::path pathOf(const QString& path) { return path.toStdU16String(); }
-
-    QTemporaryDir directory_;
     page::FontBook fonts_;
     authoring::MarkdownCompiler compiler_{fonts_};
     preview::PreviewedCourse course_;
@@ -102,10 +102,20 @@ int main(int argc, char** argv) {
     // The leaving question ends the program, not the closing of some window.
     QApplication::setQuitOnLastWindowClosed(false);
 
+    std::optional<files::PassingFolder> compiled;
     std::optional<WrittenCourse> written;
     if (line.preview) {
-        written.emplace(*line.preview);
-        line.course = written->directory();
+        std::error_code error;
+        compiled.emplace(error);
+        if (error) {
+            platform::tellOnTerminal(
+                QStringLiteral(
+                    "il n’y a pas de place pour l’aperçu dans le dossier temporaire : ") +
+                QString::fromStdString(files::causeOf(error)));
+            return kNotWritten;
+        }
+        written.emplace(*line.preview, compiled->path());
+        line.course = QString::fromStdU16String(compiled->path().u16string());
     }
     app::ShellApplication shell(line, scale);
     if (!shell.start())

@@ -114,12 +114,14 @@ public:
         const std::int64_t index = before ? *before->number(kIndex) + 1 : 1;
         const auto summary = before ? before->number(kSommaire) : std::nullopt;
         const std::string text = pageText(number, index, title, summary);
-        if (!write(pageFile(number, title), text, coursTable()))
+        const fs::path file = pageFile(number, title);
+        if (!write(file, text, coursTable()))
             return;
         numbers_.insert(number);
         // Without its arrow nothing might lead to the new page.
         if (before && before->fields.values[kSuite].integer().value_or(0) == 0)
             setField(before->file, "suite", "true", 2, coursTable());
+        takeBackIfFailed(file);
         pages_.clear();
         readPages();
     }
@@ -139,13 +141,15 @@ public:
         const std::string text = "+++\nREFERENCE = " + std::to_string(*reference) +
                                  "\n+++\nLa question ?\n\n- [x] la bonne réponse\n- [ ] une autre\n"
                                  "- [ ] une autre encore\n\n## Si c'est faux\n\nPourquoi.\n";
-        if (!write(test->folder / (std::to_string(*reference) + ".md"), text, contenuTable()))
+        const fs::path file = test->folder / (std::to_string(*reference) + ".md");
+        if (!write(file, text, contenuTable()))
             return;
         references_.insert(*reference);
         // A test of which it was told otherwise is left to its author.
         if (test->chapter.number(kNbquest) == test->questions)
             setField(test->chapter.file, "Nbquest", std::to_string(test->questions + 1), 1,
                      descriptionTable());
+        takeBackIfFailed(file);
         readTests();
     }
 
@@ -302,6 +306,17 @@ private:
         if (!report_.hasFailures())
             out_.text() += shown(file) + '\n';
         return !report_.hasFailures();
+    }
+
+    /// What leads to a new file could not be written: the next call would make a second one.
+    void takeBackIfFailed(const fs::path& file) {
+        if (!report_.hasFailures())
+            return;
+        std::error_code ignored;
+        fs::remove(file, ignored);
+        const std::string line = shown(file) + '\n';
+        if (out_.text().ends_with(line))
+            out_.text().resize(out_.text().size() - line.size());
     }
 
     /// In the file's own bytes; a warning when the field is not written the plain way.

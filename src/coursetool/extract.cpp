@@ -10,6 +10,7 @@
 #include "coursetool/table_source.h"
 #include "coursetool/tables.h"
 #include "files/cause.h"
+#include "files/copy_file.h"
 #include "files/publication.h"
 #include "files/within.h"
 #include "jet/database_file.h"
@@ -235,7 +236,7 @@ private:
         if (!isOwn(to))
             return;
         fs::create_directories(to.parent_path(), error);
-        fs::copy_file(course_ / file, to, fs::copy_options::overwrite_existing, error);
+        error = files::copyFile(course_ / file, to);
         if (error)
             report_.failure(course_ / file, "le fichier ne peut pas être copié", error);
     }

@@ -2,71 +2,44 @@
 
 #include "coursetool/paths.h"
 #include "coursetool/source_writer.h"
+#include "coursetool/staged_course.h"
 #include "coursetool/template_files.h"
-#include "files/cause.h"
+#include "files/publication.h"
 
-#include <vector>
+#include <algorithm>
 
 namespace coursetool {
 
 namespace fs = std::filesystem;
-
-namespace {
-
-/// What has been made, to be taken away again unless all is well.
-class Made {
-public:
-    ~Made() {
-        std::error_code ignored; // what is not empty is not ours alone
-        for (auto path = paths_.rbegin(); path != paths_.rend(); ++path)
-            fs::remove(*path, ignored);
-    }
-    void add(const fs::path& path) { paths_.push_back(path); }
-    void keep() { paths_.clear(); }
-
-private:
-    std::vector<fs::path> paths_;
-};
-
-/// Makes the directory and those it lies in, and notes those that were not there.
-bool makeDirectories(const fs::path& directory, Made& made, Report& report) {
-    std::error_code error;
-    if (directory.empty() || fs::is_directory(directory, error))
-        return true;
-    if (!makeDirectories(directory.parent_path(), made, report))
-        return false;
-    if (fs::create_directory(directory, error))
-        made.add(directory);
-    if (error)
-        report.failure(directory, files::kFolderNotCreated, error);
-    return !error;
-}
-
-} // namespace
 
 bool isFreeForCourse(const fs::path& directory) {
     std::error_code error;
     // With a separator behind it a link would be followed.
     const fs::path plain = directory.has_filename() ? directory : directory.parent_path();
     const fs::file_status status = fs::symlink_status(plain, error);
-    return status.type() == fs::file_type::not_found ||
-           (fs::is_directory(status) && fs::is_empty(plain, error) && !error);
+    if (status.type() == fs::file_type::not_found)
+        return true;
+    // What a call that was killed has begun is no course yet.
+    const auto isBegun = [](const fs::directory_entry& entry) {
+        return entry.path().filename() == files::Publication::kFolder;
+    };
+    const fs::directory_iterator entries(plain, error);
+    return fs::is_directory(status) && !error && std::all_of(begin(entries), end(entries), isBegun);
 }
 
 void writeNewCourse(const fs::path& directory, OutputBuffer& out, Report& report) {
-    Made made;
+    StagedCourse course(directory);
+    if (!course.open(report))
+        return;
     SourceWriter writer(report);
     for (const TemplateFile& file : kTemplateFiles) {
-        const fs::path path = directory / pathFrom(file.path);
-        if (!makeDirectories(path.parent_path(), made, report))
-            return;
-        writer.writeFile(std::string(file.text), path);
-        if (report.hasFailures())
-            return;
-        made.add(path);
-        out.text() += shown(path) + '\n';
+        const fs::path path = pathFrom(file.path);
+        writer.writeFile(std::string(file.text), course.pathFor(path));
+        course.add(path);
+        out.text() += shown(directory / path) + '\n';
     }
-    made.keep();
+    if (report.hasFailures() || !course.publish(report))
+        return;
     if (!out.flush())
         report.outputFailure(out.error());
 }

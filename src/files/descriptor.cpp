@@ -12,6 +12,7 @@
 #include <io.h>
 #include <share.h>
 #else
+#include <sys/file.h>
 #include <unistd.h>
 #endif
 
@@ -24,6 +25,7 @@ namespace {
 int openFile(const std::filesystem::path& path, Descriptor::Mode mode) {
     const int flags = mode == Descriptor::Mode::Read       ? _O_RDONLY
                       : mode == Descriptor::Mode::Existing ? _O_WRONLY | _O_TRUNC
+                      : mode == Descriptor::Mode::Change   ? _O_RDWR
                                                            : _O_RDWR | _O_CREAT | _O_EXCL;
     int number = -1;
     _wsopen_s(&number, path.c_str(), flags | _O_BINARY | _O_NOINHERIT, _SH_DENYNO,
@@ -50,6 +52,18 @@ int flushToDisk(int number) {
 int closeFile(int number) {
     return _close(number);
 }
+int resize(int number, std::uint64_t length) {
+    return _chsize_s(number, static_cast<long long>(length)) == 0 ? 0 : -1;
+}
+int duplicate(int) {
+    return -1;
+}
+Descriptor::Lock lockFile(int) {
+    return Descriptor::Lock::Unknown;
+}
+bool isSame(int, const std::filesystem::path&) {
+    return false;
+}
 using Status = struct _stat64;
 bool statusOf(int number, Status& status) {
     return _fstat64(number, &status) == 0;
@@ -60,6 +74,7 @@ constexpr auto kKind = _S_IFMT;
 int openFile(const std::filesystem::path& path, Descriptor::Mode mode) {
     const int flags = mode == Descriptor::Mode::Read       ? O_RDONLY | O_NONBLOCK
                       : mode == Descriptor::Mode::Existing ? O_WRONLY | O_TRUNC
+                      : mode == Descriptor::Mode::Change   ? O_RDWR
                                                            : O_RDWR | O_CREAT | O_EXCL;
     return ::open(path.c_str(), flags | O_CLOEXEC | O_NOCTTY, 0666);
 }
@@ -79,6 +94,23 @@ int flushToDisk(int number) {
 }
 int closeFile(int number) {
     return ::close(number);
+}
+int resize(int number, std::uint64_t length) {
+    return ::ftruncate(number, static_cast<off_t>(length));
+}
+int duplicate(int number) {
+    return ::fcntl(number, F_DUPFD_CLOEXEC, 0);
+}
+Descriptor::Lock lockFile(int number) {
+    if (::flock(number, LOCK_EX | LOCK_NB) == 0)
+        return Descriptor::Lock::Taken;
+    return errno == EWOULDBLOCK ? Descriptor::Lock::Held : Descriptor::Lock::Unknown;
+}
+bool isSame(int number, const std::filesystem::path& path) {
+    struct stat own = {};
+    struct stat named = {};
+    return ::fstat(number, &own) == 0 && ::lstat(path.c_str(), &named) == 0 &&
+           own.st_dev == named.st_dev && own.st_ino == named.st_ino;
 }
 using Status = struct stat;
 bool statusOf(int number, Status& status) {
@@ -159,6 +191,13 @@ bool Descriptor::writeAt(std::uint64_t offset, std::span<const std::uint8_t> byt
     return moveAll(bytes.size(), once, error);
 }
 
+bool Descriptor::setLength(std::uint64_t length, std::error_code& error) const {
+    if (resize(number_, length) == 0)
+        return true;
+    error = lastError();
+    return false;
+}
+
 bool Descriptor::sync(std::error_code& error) const {
     if (flushToDisk(number_) == 0)
         return true;
@@ -171,6 +210,20 @@ bool Descriptor::close(std::error_code& error) {
         return true;
     error = lastError();
     return false;
+}
+
+Descriptor::Lock Descriptor::takeLock() const {
+    return lockFile(number_);
+}
+
+Descriptor Descriptor::again() const {
+    Descriptor other;
+    other.number_ = duplicate(number_);
+    return other;
+}
+
+bool Descriptor::isNamed(const std::filesystem::path& path) const {
+    return isSame(number_, path);
 }
 
 void syncDirectory(const std::filesystem::path& directory) {

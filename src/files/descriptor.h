@@ -12,9 +12,10 @@ namespace files {
 class Descriptor {
 public:
     enum class Mode {
-        Read,    ///< does not wait for whoever would write into a pipe
-        Create,  ///< to write; fails when the name is taken, be it by a link
-        Existing ///< to write over what is there, from its start
+        Read,     ///< does not wait for whoever would write into a pipe
+        Create,   ///< to write; fails when the name is taken, be it by a link
+        Existing, ///< to write over what is there, from its start
+        Change    ///< to write into what is there
     };
 
     Descriptor() = default;
@@ -34,10 +35,25 @@ public:
     bool write(std::span<const std::uint8_t> bytes, std::error_code& error) const;
     bool writeAt(std::uint64_t offset, std::span<const std::uint8_t> bytes,
                  std::error_code& error) const;
+    /// Cuts the file off there, or has it grow with zeros.
+    bool setLength(std::uint64_t length, std::error_code& error) const;
     /// Returns when all that was written is on the disk, as far as its file system knows of that.
     bool sync(std::error_code& error) const;
     /// False when what was written last turns out to be lost.
     bool close(std::error_code& error);
+
+    enum class Lock {
+        Taken,
+        Held,   ///< by who opened the file before
+        Unknown ///< the file system, or the system, knows no locks
+    };
+    /// Keeps others that ask for it away, until all descriptors of this opening are closed or the
+    /// program dies.
+    Lock takeLock() const;
+    /// The same opening once more, for who keeps its lock beyond close(). None when it fails.
+    Descriptor again() const;
+    /// Whether this file is what `path` names now, and no link to it. False where that is unknown.
+    bool isNamed(const std::filesystem::path& path) const;
 
 private:
     int number_ = -1;

@@ -21,7 +21,8 @@ DirectoryLock::DirectoryLock(const std::filesystem::path& directory) {
     const auto path = directory / ".orvalente-cours.verrou";
     _wsopen_s(&number_, path.c_str(), _O_RDWR | _O_CREAT | _O_TEMPORARY | _O_NOINHERIT, _SH_DENYRW,
               _S_IREAD | _S_IWRITE);
-    held_ = number_ >= 0 || errno != EACCES;
+    taken_ = number_ >= 0;
+    held_ = taken_ || errno != EACCES;
 }
 DirectoryLock::~DirectoryLock() {
     if (number_ >= 0)
@@ -30,7 +31,8 @@ DirectoryLock::~DirectoryLock() {
 #else
 DirectoryLock::DirectoryLock(const std::filesystem::path& directory)
     : number_(::open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
-    held_ = number_ < 0 || flock(number_, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
+    taken_ = number_ >= 0 && flock(number_, LOCK_EX | LOCK_NB) == 0;
+    held_ = taken_ || number_ < 0 || errno != EWOULDBLOCK;
 }
 DirectoryLock::~DirectoryLock() {
     if (number_ >= 0)

@@ -15,10 +15,13 @@ public:
     /// False when another program has it. File systems that know no locks do without: then it is
     /// held by all.
     bool isHeld() const { return held_; }
+    /// Whether it keeps others out for sure.
+    bool isTaken() const { return taken_; }
 
 private:
     int number_ = -1;
     bool held_ = true;
+    bool taken_ = false;
 };
 
 } // namespace files

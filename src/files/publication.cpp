@@ -99,9 +99,13 @@ bool Publication::isPending() const {
 
 bool Publication::begin(std::vector<Replacement> replacements) {
     steps_ = std::move(replacements);
-    for (std::size_t i = 0; i < steps_.size(); ++i)
-        if (!keepOld(i))
+    for (std::size_t i = 0; i < steps_.size(); ++i) {
+        // Once there is a journal, a new file that is not there is one that has been moved.
+        if (!stands(newFile(steps_[i].target)))
+            error_ = std::make_error_code(std::errc::no_such_file_or_directory);
+        if (error_ || !keepOld(i))
             return fail(directory_ / steps_[i].target);
+    }
     if (!syncFileSystem(folder(), error_))
         return fail(folder());
     WholeFile file(journal());

@@ -1,11 +1,5 @@
 #include "files/whole_file.h"
 
-#ifdef _WIN32
-#include <process.h>
-#else
-#include <unistd.h>
-#endif
-
 namespace files {
 
 namespace fs = std::filesystem;
@@ -14,17 +8,6 @@ namespace {
 
 /// Bytes written at once.
 constexpr std::size_t kPiece = 64 * 1024;
-
-/// Names that a single program tries: others of it write beside.
-constexpr int kNamesTried = 100;
-
-int processNumber() {
-#ifdef _WIN32
-    return _getpid();
-#else
-    return getpid();
-#endif
-}
 
 /// Names that stand for what the program already has open, whatever that is: to put another file
 /// in their place would leave the reader with the old one.
@@ -45,7 +28,7 @@ fs::path withoutLinks(const fs::path& target, std::error_code& error) {
 
 WholeFile::WholeFile(const fs::path& target) : target_(target) {
     if (isSystemName(target)) { // links there need not lead to names
-        openDirectly();
+        direct_ = Descriptor(target_, Descriptor::Mode::Existing, error_);
         return;
     }
     target_ = withoutLinks(target, error_);
@@ -56,40 +39,25 @@ WholeFile::WholeFile(const fs::path& target) : target_(target) {
     if (fs::is_directory(status))
         error_ = std::make_error_code(std::errc::is_a_directory);
     else if (fs::exists(status) && !fs::is_regular_file(status))
-        openDirectly();
+        direct_ = Descriptor(target_, Descriptor::Mode::Existing, error_);
     else
         openBeside();
 }
 
-void WholeFile::openDirectly() {
-    file_ = Descriptor(target_, Descriptor::Mode::Existing, error_);
-}
-
 void WholeFile::openBeside() {
-    std::error_code error;
-    for (int i = 0; i < kNamesTried && !file_; ++i) {
-        beside_ = target_.parent_path() /
-                  (".partiel-" + std::to_string(processNumber()) + '-' + std::to_string(i));
-        error.clear();
-        file_ = Descriptor(beside_, Descriptor::Mode::Create, error);
-        if (error && error != std::errc::file_exists)
-            break;
-    }
-    error_ = error;
-    if (!file_)
-        return beside_.clear();
+    beside_.emplace(target_.parent_path(), error_);
     // Whoever could read the old one can read the new one, and nobody else.
     std::error_code absent;
     if (const fs::file_status old = fs::status(target_, absent); fs::exists(old))
-        fs::permissions(beside_, old.permissions(), absent);
+        setPermissions(old.permissions());
 }
 
-WholeFile::~WholeFile() {
+WholeFile::~WholeFile() = default;
+
+void WholeFile::setPermissions(fs::perms permissions) {
     std::error_code ignored;
-    if (file_)
-        file_.close(ignored);
-    if (!beside_.empty())
-        fs::remove(beside_, ignored);
+    if (beside_ && !error_)
+        fs::permissions(beside_->path(), permissions, ignored);
 }
 
 bool WholeFile::write(std::span<const std::uint8_t> bytes) {
@@ -102,29 +70,26 @@ bool WholeFile::write(std::string_view bytes) {
 }
 
 bool WholeFile::flush() {
-    if (!error_ && file_)
-        file_.write(waiting_, error_);
+    if (!error_)
+        file().write(waiting_, error_);
     waiting_.clear();
     return !error_;
 }
 
 bool WholeFile::writeAt(std::uint64_t offset, std::span<const std::uint8_t> bytes) {
-    if (!error_ && file_)
-        file_.writeAt(offset, bytes, error_);
+    if (!error_)
+        file().writeAt(offset, bytes, error_);
     return !error_;
 }
 
 bool WholeFile::putInPlace(Care care) {
-    const bool waits = care == Care::Lasting && !beside_.empty();
-    if (!flush() || (waits && !file_.sync(error_)) || !file_.close(error_))
+    if (!flush())
         return false;
-    if (beside_.empty())
-        return true;
-    fs::rename(beside_, target_, error_);
-    if (error_)
+    if (!beside_)
+        return direct_.close(error_);
+    if ((care == Care::Lasting && !file().sync(error_)) || !beside_->becomes(target_, error_))
         return false;
-    beside_.clear();
-    if (waits)
+    if (care == Care::Lasting)
         syncDirectory(target_.parent_path());
     return true;
 }

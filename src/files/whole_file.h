@@ -1,9 +1,11 @@
 #pragma once
 
 #include "files/descriptor.h"
+#include "files/passing_file.h"
 
 #include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -34,6 +36,8 @@ public:
     /// How sure it must be, when putInPlace() returns, that a power failure leaves the one or the
     /// other: a picture that is drawn again in no time need not wait for the disk.
     enum class Care { Quick, Lasting };
+    /// Who may do what with it. What it replaces says so otherwise.
+    void setPermissions(std::filesystem::perms permissions);
     /// To be called once, at the end.
     bool putInPlace(Care care = Care::Quick);
 
@@ -41,13 +45,13 @@ public:
     std::error_code error() const { return error_; }
 
 private:
-    void openDirectly();
     void openBeside();
+    const Descriptor& file() const { return beside_ ? beside_->content() : direct_; }
     bool flush();
 
     std::filesystem::path target_;
-    std::filesystem::path beside_; ///< empty when the target is written directly, or in place
-    Descriptor file_;
+    std::optional<PassingFile> beside_; ///< none when the target is written directly
+    Descriptor direct_;
     std::vector<std::uint8_t> waiting_; ///< to be written in one piece
     std::error_code error_;
 };

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "files/descriptor.h"
 #include "jet/page_sink.h"
 
 #include <cstdint>
-#include <cstdio>
 #include <filesystem>
 #include <memory>
 
@@ -16,18 +16,15 @@ public:
     /// The failure is of kind System: no such file, write-protected, or being changed by another
     /// program.
     static Result<std::unique_ptr<PageSink>> open(const std::filesystem::path& path);
-    ~PageFile() override;
-    PageFile(const PageFile&) = delete;
-    PageFile& operator=(const PageFile&) = delete;
 
     Result<void> write(std::uint32_t number, Bytes page) override;
     Result<void> sync() override;
     void cutBack() override;
 
 private:
-    PageFile(std::FILE* file, std::filesystem::path path, std::uint64_t size);
+    PageFile(files::Descriptor file, std::filesystem::path path);
 
-    std::FILE* file_;
+    files::Descriptor file_;
     std::filesystem::path path_;
     std::uint64_t size_;
 };

@@ -4,6 +4,8 @@
 #include "coursetool/course_sheets.h"
 #include "coursetool/installed_course.h"
 #include "coursetool/paths.h"
+#include "files/cause.h"
+#include "files/passing_folder.h"
 #include "page/numbers.h"
 #include "publish/films.h"
 #include "publish/page_data.h"
@@ -15,9 +17,9 @@
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QTemporaryDir>
 
 #include <map>
+#include <optional>
 #include <set>
 
 namespace publish {
@@ -75,12 +77,12 @@ public:
         addTests();
         addLarge(QStringLiteral("programme"), program);
         addLarge(QStringLiteral("recherche"), database);
+        const QByteArray faces = report_.hasFaults() ? QByteArray() : faces_.write(site_);
         if (report_.hasFaults())
             return nullptr;
         SiteAssets assets(site_);
-        const QByteArray index =
-            assets.write(pages_.title(), faces_.write(site_),
-                         script(QStringLiteral("cours"), course_), firstPage_, plan_);
+        const QByteArray index = assets.write(
+            pages_.title(), faces, script(QStringLiteral("cours"), course_), firstPage_, plan_);
         return !report_.hasFaults() && site_.finish(index) ? &site_ : nullptr;
     }
 
@@ -192,9 +194,13 @@ void publishCourse(const PublishRequest& request, const std::filesystem::path& p
         return;
     coursedata::ExerciseTables tables =
         coursedata::openExerciseTables(QString::fromStdString(coursetool::shown(request.course)));
-    const QTemporaryDir packed;
-    const std::filesystem::path folder =
-        request.scorm ? coursetool::pathFrom(packed.path().toStdString()) : request.output;
+    std::optional<files::PassingFolder> packed; // becomes the package
+    std::error_code error;
+    if (request.scorm)
+        packed.emplace(error);
+    if (error)
+        return report.failure(request.output, files::kFolderNotCreated, error);
+    const std::filesystem::path folder = packed ? packed->path() : request.output;
     Publisher publisher(request, fonts, pictures, fields, *pages, std::move(tables), folder,
                         report);
     const SiteFolder* const site =

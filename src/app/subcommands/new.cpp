@@ -2,6 +2,7 @@
 #include "app/subcommands/subcommand.h"
 #include "coursetool/course_addition.h"
 #include "coursetool/new_course.h"
+#include "files/publication.h"
 
 namespace app {
 
@@ -28,6 +29,7 @@ struct New : Subcommand {
             return notADirectory(course, "le dossier des sources");
         if (course.empty())
             return "il manque le dossier à écrire";
+        files::finishPublication(pathFrom(course)); // of a call that was killed
         if (!coursetool::isFreeForCourse(pathFrom(course)))
             return inQuotes(course) + " n’est pas vide, ou est un lien : choisir un dossier neuf "
                                       "ou vide";
