@@ -92,7 +92,7 @@ void paintChoiceCaption(QPainter& painter, const QAbstractButton& button) {
                              ? Qt::TextShowMnemonic
                              : Qt::TextHideMnemonic;
     painter.drawText(button.rect().adjusted(kCaptionLeft, 0, 0, 0),
-                     Qt::AlignLeft | Qt::AlignVCenter | mnemonic, button.text());
+                     static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter) | mnemonic, button.text());
     const double left = kCaptionLeft - kCaptionMargin;
     paintChoiceFocus(painter, {left, 0, choiceSize(button).width() - left, double(button.height())},
                      button);
