@@ -2,9 +2,9 @@
 // published site and its plain pages from nginx, and the same plain pages as a ZIM archive from
 // kiwix-serve, in turn.
 //   node bench/web/opening.mjs SITE [RUNS]
-import { execFileSync } from 'node:child_process';
 import { statSync } from 'node:fs';
 import { join } from 'node:path';
+import { writeArchive } from './archive.mjs';
 import { launched, median, rounded, temporaryFolder } from './browser.mjs';
 import { courseOf, writePlainPages } from './plain_pages.mjs';
 import { freePort, serve, startServer } from './server.mjs';
@@ -15,11 +15,9 @@ const plain = join(work, 'plain');
 writePlainPages(site, plain);
 const { debut } = courseOf(site);
 
-/** The archive's first page is the course's; archives want a picture of 48 by 48 pixels. */
 async function serveArchive() {
     const archive = join(work, 'cours.zim');
-    execFileSync('ffmpeg', ['-v', 'error', '-f', 'lavfi', '-i', 'color=c=blue:s=48x48', '-frames:v', '1', join(plain, 'signe.png')]);
-    execFileSync('zimwriterfs', [`--welcome=p${debut}.html`, '--illustration=signe.png', '--language=fra', '--title=Cours', '--description=Cours', '--creator=Cours', '--publisher=Cours', '--withoutFTIndex', plain, archive], { stdio: 'ignore' });
+    writeArchive(plain, debut, archive);
     const port = await freePort();
     const address = `http://127.0.0.1:${port}/`;
     await startServer('kiwix-serve', ['--address=127.0.0.1', `--port=${port}`, archive], address);
