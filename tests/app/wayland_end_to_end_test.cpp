@@ -49,11 +49,17 @@ protected:
         xdotool.waitForFinished();
     }
 
-    /// A click on a place of the main window.
+    /// A click on a place of the main window, once the desktop has followed the pointer there.
     void clickThere(int x, int y) {
         const QPoint place = this->place().topLeft() + QPoint(x, y);
-        outside({"mousemove", QString::number(place.x()), QString::number(place.y()), "sleep",
-                 "0.2", "click", "1"});
+        const QByteArray there =
+            QStringLiteral("x:%1 y:%2 ").arg(place.x()).arg(place.y()).toLatin1();
+        ASSERT_TRUE(eventually([&] {
+            outside({"mousemove", "0", "0", "mousemove", QString::number(place.x()),
+                     QString::number(place.y())});
+            return run("xdotool", {"getmouselocation"}).startsWith(there);
+        }));
+        outside({"click", "1"});
     }
 
     /// The plugin by which the process `pid` shows its windows.
