@@ -1,6 +1,8 @@
 // @ts-check
 'use strict';
 
+/** Left and right of what is in a window, in pixels (style.css). */
+const BODY_MARGIN = 16;
 const KEY_STYLES = ['fonction', 'chiffre', 'operation', 'egal'];
 
 /** The scientific calculator: its keys, their places and rules are the shell's. */
@@ -24,6 +26,7 @@ class CalculatorBox {
             this.keys);
         this.dialog.addEventListener('keydown', (/** @type {KeyboardEvent} */ event) => this.pressed(event));
         this.dialog.addEventListener('paste', (/** @type {ClipboardEvent} */ event) => this.pasted(event));
+        window.addEventListener('resize', () => { if (this.dialog.open) this.fit(); });
         this.dialog.addEventListener('copy', (/** @type {ClipboardEvent} */ event) => this.copied(event));
     }
 
@@ -49,6 +52,7 @@ class CalculatorBox {
             this.dialog.show();
             this.show(this.program.ask('calculatorOpen'));
             this.setOptions();
+            this.fit();
         }
         this.display.focus();
     }
@@ -69,6 +73,19 @@ class CalculatorBox {
             Object.assign(key.style, { left: `${x - left}px`, top: `${y - top}px`, width: `${w}px`, height: `${h}px`, fontSize: `${size}px` });
             this.keys.append(key);
         });
+    }
+
+    /** On a narrow screen the keys take all the room that there is, for fingers. */
+    fit() {
+        this.keys.style.transform = '';
+        this.keys.style.marginBottom = '';
+        if (!narrow.matches) return;
+        const { offsetWidth, offsetHeight } = this.keys;
+        const around = this.dialog.offsetHeight - offsetHeight;
+        const wide = /** @type {HTMLElement} */ (this.keys.parentElement).clientWidth - 2 * BODY_MARGIN;
+        const scale = Math.max(1, Math.min(wide / offsetWidth, (window.innerHeight - around) / offsetHeight));
+        this.keys.style.transform = `scale(${scale})`;
+        this.keys.style.marginBottom = `${(scale - 1) * offsetHeight}px`;
     }
 
     /** @param {string} answer */

@@ -42,6 +42,18 @@ function button(words, iconName, click, attributes = {}) {
     return element('button', { type: 'button', click, ...attributes }, iconName ? icon(iconName) : null, element('span', {}, words));
 }
 
+/**
+ * Makes something when it is first asked for: the first page need not wait for what it does not show.
+ * @template T
+ * @param {() => T} make
+ * @returns {() => T}
+ */
+function later(make) {
+    /** @type {T | undefined} */
+    let made;
+    return () => (made ??= make());
+}
+
 /** @param {string} words */
 function announce(words) {
     const place = document.getElementById('annonce');

@@ -13,7 +13,7 @@ class FilmBox {
         this.bar = element('input', { type: 'range', min: 0, max: this.count - 1, step: 1, value: 0, 'aria-label': 'Image du film', input: () => void this.seek(Number(this.bar.value)) });
         this.place = element('output', { class: 'image-du-film' });
         this.playButton = button('Lire', 'play', () => void this.toggle(), { class: 'principal' });
-        const row = element('div', { class: 'boutons' },
+        const row = element('div', { class: 'boutons pas' },
             button('Au début', 'to-start', () => void this.seek(0)), button('Image précédente', 'back-step', () => void this.seek(this.image - 1)),
             this.playButton, button('Image suivante', 'step', () => void this.seek(this.image + 1)), button('À la fin', 'to-end', () => void this.seek(this.count - 1)));
         this.dialog = makeDialog('Film', 'film', this.video, this.bar, this.place, row);

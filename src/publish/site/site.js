@@ -24,10 +24,11 @@ class Site {
         /** @type {ModuleView | null} */
         this.module = null;
         this.shown = '';
-        this.search = new SearchBox(this.course, (number, words, ignoreAccents) => this.showFound(number, words, ignoreAccents));
-        this.calculator = new CalculatorBox(this.course);
-        this.test = new TestView(this.course, this.progress, { openCalculator: () => void this.calculator.open(), leave: () => { location.hash = `#p${this.page}`; } });
-        this.contents = new ContentsBox(this.course, this.progress, () => this.startAgain());
+        this.search = later(() => new SearchBox(this.course, (number, words, ignoreAccents) => this.showFound(number, words, ignoreAccents)));
+        this.calculator = later(() => new CalculatorBox(this.course));
+        /** @type {TestView | null} */
+        this.test = null;
+        this.contents = later(() => new ContentsBox(this.course, this.progress, () => this.startAgain()));
         this.buildHead();
         history.scrollRestoration = 'manual';
         window.addEventListener('hashchange', () => void this.route());
@@ -38,17 +39,17 @@ class Site {
     buildHead() {
         const home = element('a', { class: 'marque', href: `#p${this.course.data.debut}` }, icon('orvalente'), element('span', {}, 'Orvalente'));
         const tools = element('nav', { 'aria-label': 'Outils' },
-            button('Sommaire', 'summary', () => this.contents.open(this.page), { title: 'Sommaire (Alt+S)' }),
-            button('Rechercher', 'search', () => this.search.open(), { title: 'Rechercher dans le cours (Ctrl+L)' }),
-            button('Calculatrice', 'calculator', () => void this.calculator.open(), { title: 'Calculatrice scientifique' }),
+            button('Sommaire', 'summary', () => this.contents().open(this.page), { title: 'Sommaire (Alt+S)' }),
+            button('Rechercher', 'search', () => this.search().open(), { title: 'Rechercher dans le cours (Ctrl+L)' }),
+            button('Calculatrice', 'calculator', () => void this.calculator().open(), { title: 'Calculatrice scientifique' }),
             button('Imprimer', 'print', () => void this.askPrint(), { title: 'Imprimer la page ou le chapitre' }));
         this.head.append(home, tools);
     }
 
     /** @param {KeyboardEvent} event */
     pressed(event) {
-        if (event.ctrlKey && event.key === 'l') this.search.open();
-        else if (event.altKey && event.key === 's') this.contents.open(this.page);
+        if (event.ctrlKey && event.key === 'l') this.search().open();
+        else if (event.altKey && event.key === 's') this.contents().open(this.page);
         else if (event.ctrlKey && event.key === 'p') void this.askPrint();
         else return;
         event.preventDefault();
@@ -133,11 +134,12 @@ class Site {
         const after = this.course.neighbour(number, 1);
         const link = (/** @type {PageEntry} */ page, /** @type {string} */ name, /** @type {string} */ words, /** @type {string} */ rel) =>
             element('a', { class: 'bouton', href: `#p${page.numero}`, rel, title: page.titre }, icon(name), element('span', {}, words));
-        const back = this.test.data && this.test.data.questions.length > 0 && this.progress.test(this.test.data.chapitre) && !this.isComplete(this.test.data.chapitre);
+        const begun = this.test?.data;
+        const back = begun && begun.questions.length > 0 && this.progress.test(begun.chapitre) && !this.isComplete(begun.chapitre);
         this.foot.replaceChildren(
             element('nav', { 'aria-label': 'Dans ce chapitre' },
                 before ? link(before, 'previous-in-chapter', 'Page précédente', 'prev') : element('span', {}),
-                back ? element('a', { class: 'bouton principal', href: `#t${this.test.data?.chapitre}` }, icon('back-to-test'), element('span', {}, 'Retrouver le test')) : element('span', { class: 'mots' }, before || after ? 'Dans ce chapitre' : ''),
+                back ? element('a', { class: 'bouton principal', href: `#t${begun?.chapitre}` }, icon('back-to-test'), element('span', {}, 'Retrouver le test')) : element('span', { class: 'mots' }, before || after ? 'Dans ce chapitre' : ''),
                 after ? link(after, 'next-in-chapter', 'Page suivante', 'next') : element('span', {})));
     }
 
@@ -149,6 +151,7 @@ class Site {
 
     /** @param {number} chapter */
     async showTest(chapter) {
+        this.test ??= new TestView(this.course, this.progress, { openCalculator: () => void this.calculator().open(), leave: () => { location.hash = `#p${this.page}`; } });
         this.main.replaceChildren(this.test.element);
         this.foot.replaceChildren();
         await this.test.open(chapter);

@@ -6,6 +6,9 @@ function plainAnswer(text) {
     return text.replace(/[\x00-\x1f]/g, ' ');
 }
 
+/** Width and height of a tick, in pixels of the drawing: it leaves its words 2 pixels. */
+const TICK = 18;
+
 /** @param {string} number */
 function colourOf(number) {
     return `#${Number(number).toString(16).padStart(6, '0')}`;
@@ -41,7 +44,7 @@ class TestView {
         this.validate = button('Valider', 'validate', () => this.validateNow(), { class: 'principal' });
         this.score = button('Score', 'score', () => this.run('testScore'));
         this.summary = button('Bilan', 'summary', () => this.showSummary());
-        const calculator = button('Calculatrice', 'calculator', () => this.ways.openCalculator());
+        const calculator = button('Calculatrice', 'calculator', () => this.ways.openCalculator(), { class: 'aussi-en-tete' });
         const close = button('Fermer', 'close', () => void this.close());
         this.element = element('section', { class: 'test', 'aria-label': 'Test' },
             element('div', { class: 'titre-test' }, this.title, calculator, close),
@@ -174,7 +177,9 @@ class TestView {
         const isText = field.sorte === 'text';
         const control = element('input', { type: isText ? 'text' : field.sorte === 'check' ? 'checkbox' : 'radio', name: isText ? 'reponse' : `choix-${field.sorte}`,
             'aria-label': field.nom || (isText ? 'Réponse' : `Choix ${field.rang + 1}`), autocomplete: 'off', spellcheck: 'false', class: `champ-${field.sorte}` });
-        Object.assign(control.style, { left: `${field.x}px`, top: `${field.y}px`, width: isText ? `${field.l}px` : '20px', height: isText ? `${Math.max(field.h, 24)}px` : '20px' });
+        // A tick stands before its words, in the middle of their line.
+        Object.assign(control.style, isText ? { left: `${field.x}px`, top: `${field.y}px`, width: `${field.l}px`, height: `${Math.max(field.h, 24)}px` }
+            : { left: `${field.x - 2}px`, top: `${field.y + (field.h - TICK) / 2}px`, width: `${TICK}px`, height: `${TICK}px` });
         if (isText) control.addEventListener('keydown', (/** @type {KeyboardEvent} */ event) => { if (event.key === 'Enter') this.validateNow(); });
         this.controls.set(`${field.sorte}${field.rang}`, control);
         if (!isText) this.overlay.append(this.wordsOf(field, control));
@@ -188,7 +193,7 @@ class TestView {
      */
     wordsOf(field, control) {
         const words = element('span', { class: 'mots-du-choix', 'aria-hidden': 'true', click: () => { if (!control.disabled) control.click(); } });
-        Object.assign(words.style, { left: `${field.x - 4}px`, top: `${field.y - 4}px`, width: `${Math.max(28, (field.fin ?? field.x) - field.x + 8)}px` });
+        Object.assign(words.style, { left: `${field.x - 4}px`, top: `${field.y + field.h / 2 - 15}px`, width: `${Math.max(28, (field.fin ?? field.x) - field.x + 8)}px` });
         return words;
     }
 
