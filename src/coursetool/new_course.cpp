@@ -6,11 +6,29 @@
 #include "coursetool/template_files.h"
 #include "files/publication.h"
 
-#include <algorithm>
-
 namespace coursetool {
 
 namespace fs = std::filesystem;
+
+namespace {
+
+/// Whether a call that was killed has left its folder there, and nothing but directories beside it.
+bool isBegun(const fs::path& directory) {
+    std::error_code error;
+    const fs::path folder = directory / files::Publication::kFolder;
+    if (!fs::is_directory(fs::symlink_status(folder, error)))
+        return false;
+    for (fs::recursive_directory_iterator entry(directory, error), end; !error && entry != end;
+         entry.increment(error)) {
+        if (entry->path() == folder)
+            entry.disable_recursion_pending();
+        else if (!fs::is_directory(entry->symlink_status(error)))
+            return false;
+    }
+    return !error;
+}
+
+} // namespace
 
 bool isFreeForCourse(const fs::path& directory) {
     std::error_code error;
@@ -19,12 +37,7 @@ bool isFreeForCourse(const fs::path& directory) {
     const fs::file_status status = fs::symlink_status(plain, error);
     if (status.type() == fs::file_type::not_found)
         return true;
-    // What a call that was killed has begun is no course yet.
-    const auto isBegun = [](const fs::directory_entry& entry) {
-        return entry.path().filename() == files::Publication::kFolder;
-    };
-    const fs::directory_iterator entries(plain, error);
-    return fs::is_directory(status) && !error && std::all_of(begin(entries), end(entries), isBegun);
+    return fs::is_directory(status) && (fs::is_empty(plain, error) || isBegun(plain)) && !error;
 }
 
 void writeNewCourse(const fs::path& directory, OutputBuffer& out, Report& report) {

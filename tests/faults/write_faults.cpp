@@ -50,7 +50,7 @@ struct Manner {
 
 constexpr Manner kManners[] = {
     {"full", kMake | kWrite, ENOSPC, false},
-    {"short", kMake | kWrite, ENOSPC, false}, ///< half of what is written fits
+    {"short", kMake | kWrite, ENOSPC, false}, ///< one write gets half through
     {"denied", kMake | kOpen | kMove | kRemove, EACCES, false},
     {"readonly", kAny & ~(kSync | kClose), EROFS, false},
     {"io", kAny, EIO, true},
@@ -155,11 +155,27 @@ bool fails(const char* call, Kind kind, int directory, const char* path) {
     return judge(call, kind, placeOf(directory, path)).fails;
 }
 
-/// Of so many bytes, those that get through; none when the call fails.
-std::size_t let(const char* call, int descriptor, std::size_t count, bool& fails) {
+/// Discs give room by the block: the part of a write up to one of its ends gets through, or
+/// nothing.
+constexpr off_t kBlock = 4096;
+
+/// Of so many bytes at an offset, those that get through; none when the call fails.
+std::size_t let(const char* call, int descriptor, std::size_t count, off_t offset, bool& fails) {
     const Verdict verdict = judge(call, kWrite, descriptor);
     fails = verdict.fails;
-    return verdict.isShort ? std::max<std::size_t>(count / 2, 1) : count;
+    if (!verdict.isShort)
+        return count;
+    const off_t middle = offset + static_cast<off_t>(count / 2);
+    const off_t end = (middle + kBlock - 1) / kBlock * kBlock;
+    if (end < offset + static_cast<off_t>(count))
+        return static_cast<std::size_t>(end - offset);
+    fails = true;
+    errno = ENOSPC;
+    return 0;
+}
+
+off_t positionOf(int descriptor) {
+    return std::max<off_t>(syscall(SYS_lseek, descriptor, 0, SEEK_CUR), 0);
 }
 
 int openFile(int directory, const char* path, int flags, unsigned mode) {
@@ -197,12 +213,12 @@ int openat64(int directory, const char* path, int flags, ...) {
 }
 ssize_t write(int descriptor, const void* bytes, size_t count) {
     bool fails = false;
-    const std::size_t some = let("write", descriptor, count, fails);
+    const std::size_t some = let("write", descriptor, count, positionOf(descriptor), fails);
     return fails ? -1 : syscall(SYS_write, descriptor, bytes, some);
 }
 ssize_t pwrite(int descriptor, const void* bytes, size_t count, off_t offset) {
     bool fails = false;
-    const std::size_t some = let("pwrite", descriptor, count, fails);
+    const std::size_t some = let("pwrite", descriptor, count, offset, fails);
     return fails ? -1 : syscall(SYS_pwrite64, descriptor, bytes, some, offset);
 }
 ssize_t pwrite64(int descriptor, const void* bytes, size_t count, off64_t offset) {
@@ -215,7 +231,7 @@ ssize_t writev(int descriptor, const iovec* pieces, int count) {
 }
 ssize_t sendfile(int to, int from, off_t* offset, size_t count) noexcept {
     bool fails = false;
-    const std::size_t some = let("sendfile", to, count, fails);
+    const std::size_t some = let("sendfile", to, count, positionOf(to), fails);
     return fails ? -1 : syscall(SYS_sendfile, to, from, offset, some);
 }
 ssize_t sendfile64(int to, int from, off64_t* offset, size_t count) noexcept {
@@ -224,7 +240,7 @@ ssize_t sendfile64(int to, int from, off64_t* offset, size_t count) noexcept {
 ssize_t copy_file_range(int from, off64_t* at, int to, off64_t* offset, size_t count,
                         unsigned flags) {
     bool fails = false;
-    const std::size_t some = let("copy_file_range", to, count, fails);
+    const std::size_t some = let("copy_file_range", to, count, positionOf(to), fails);
     return fails ? -1 : syscall(SYS_copy_file_range, from, at, to, offset, some, flags);
 }
 int renameat2(int from, const char* name, int to, const char* newName, unsigned flags) noexcept {
