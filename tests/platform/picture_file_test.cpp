@@ -290,8 +290,12 @@ TEST(PictureFile, everyKindOfPngIsReadAndNoneIsTalkedAbout) {
         for (const qsizetype place : {30, 34, 42, int(bytes.size()) / 2, int(bytes.size()) - 14}) {
             QByteArray damaged = bytes;
             damaged[place] = static_cast<char>(damaged[place] ^ 0x55);
-            pictureFrom(damaged);
-            pictureFrom(bytes.left(place));
+            for (const QByteArray& broken : {damaged, bytes.left(place)}) {
+                pictureFrom(broken);
+                pictureFrom(svg("width='8' height='8'", "<image width='4' height='4' xlink:href='"
+                                                        "data:image/png;base64," +
+                                                            broken.toBase64() + "'/>"));
+            }
         }
     }
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
