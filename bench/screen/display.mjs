@@ -10,6 +10,9 @@ function started(server) {
     });
 }
 
+const open = new Set();
+process.on('exit', () => { for (const display of open) display.close(); });
+
 export class Display {
     /** `folder` is the home of what runs there. */
     static async open({ width, height }, folder, measure) {
@@ -29,7 +32,7 @@ export class Display {
         const { QT_QPA_PLATFORM, ...inherited } = process.env;
         this.#environment = { ...inherited, DISPLAY: name, HOME: folder, LC_ALL: 'C.UTF-8' };
         this.#measure = measure;
-        process.on('exit', () => this.close());
+        open.add(this);
     }
 
     start(command, args, environment) {
@@ -70,6 +73,7 @@ export class Display {
     }
 
     close() {
+        open.delete(this);
         for (const each of this.#processes.splice(0).reverse()) each.kill();
     }
 }

@@ -103,8 +103,8 @@ std::optional<Key> parsed(std::string_view text) {
     constexpr std::pair<std::string_view, xcb_keysym_t> kModifiers[] = {{"Ctrl+", 0xffe3},
                                                                         {"Alt+", 0xffe9}};
     constexpr std::pair<std::string_view, xcb_keysym_t> kNames[] = {
-        {"Return", 0xff0d}, {"Left", 0xff51}, {"Right", 0xff53},
-        {"Prior", 0xff55},  {"Next", 0xff56}, {"F3", 0xffc0}};
+        {"BackSpace", 0xff08}, {"Return", 0xff0d}, {"Left", 0xff51}, {"Right", 0xff53},
+        {"Prior", 0xff55},     {"Next", 0xff56},   {"F3", 0xffc0}};
     Key key;
     for (const auto& [name, sign] : kModifiers)
         if (text.substr(0, name.size()) == name && text.size() > name.size()) {

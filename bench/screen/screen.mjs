@@ -3,7 +3,7 @@
 //   node bench/screen/screen.mjs PROGRAMS COURSE SITE [TIMES [PICTURES]]
 // PROGRAMS is the folder with our own; a picture of each screen goes into the folder PICTURES.
 import { execFileSync, spawnSync } from 'node:child_process';
-import { mkdirSync, writeFileSync } from 'node:fs';
+import { mkdirSync, mkdtempSync, writeFileSync } from 'node:fs';
 import { join } from 'node:path';
 import { setTimeout as pause } from 'node:timers/promises';
 import { median, rounded, temporaryFolder } from '../web/browser.mjs';
@@ -20,10 +20,13 @@ const plain = join(work, 'plain');
 execFileSync(join(programs, 'orvalente-cours'), ['render', course, '--all', '-o', document]);
 writePlainPages(site, plain);
 
-/** Windows have 800 by 600 pixels, times the scale, like ours; around them is room for a step. */
-const sizes = [
-    { name: '800 × 600', scale: 1, width: 1024, height: 768 },
-    { name: '2400 × 1800 (scale 3)', scale: 3, width: 2560, height: 1920 },
+const acts = { turn: 'a page turned', found: 'a found page opened', zoom: 'a step of the zoom' };
+/** All windows have the size of ours; where it has no room for its frame, it fills the screen. */
+const scenes = [
+    { screen: { width: 800, height: 600 }, scale: 1, window: { width: 800, height: 600 }, acts: ['turn', 'found'] },
+    { screen: { width: 2560, height: 1920 }, scale: 3, window: { width: 2560, height: 1920 }, acts: ['turn', 'found'] },
+    { screen: { width: 1024, height: 768 }, scale: 1, window: { width: 800, height: 600 }, acts: ['zoom'] },
+    { screen: { width: 2560, height: 1920 }, scale: 2.5, window: { width: 2000, height: 1500 }, acts: ['zoom'] },
 ];
 
 /** Okular without side panel, one page at a time, and without films of its own making. */
@@ -33,25 +36,26 @@ function okularSettings(home) {
 }
 
 /** Gives the one window there the size that ours has. */
-async function resized(display, { scale }) {
+async function resized(display, { window: { width, height } }) {
     const window = await display.window();
-    display.tool('windowsize', window, 800 * scale, 600 * scale);
+    display.tool('windowsize', window, width, height);
     display.tool('windowmove', window, 0, 0);
     await pause(2000);
     display.tool('windowfocus', window);
 }
 
 /** Presses on the middle of a window's page, so that no text cursor blinks. */
-async function clickOnPage(display, { scale }) {
-    display.tool('mousemove', 760 * scale, 400 * scale, 'click', 1);
+async function clickOnPage(display, { window: { width, height } }) {
+    display.tool('mousemove', Math.round(width * .95), Math.round(height * .67), 'click', 1);
     await pause(500);
 }
 
-/** There and back, never beyond what ours has room for. */
-const zoomed = (held) => (i, display, { scale }) => `${held}${(i % 2 === 0) === (scale === 1) ? '+' : '-'}`;
+/** There and back. */
+const zoomed = (held) => (i) => `${held}${i % 2 === 0 ? '+' : '-'}`;
 
 // Each: how it starts, what comes before an act, and for the act itself the key that is measured.
-// Ours and Kiwix turn back to pages that they walked through before, and keep none of.
+// Ours and Kiwix turn back to pages that they walked through before. (Alt with an arrow would do in
+// ours, too, but Alt alone has it underline letters, which is another picture.)
 const readers = {
     ours: {
         command: join(programs, 'orvalente'),
@@ -59,9 +63,8 @@ const readers = {
             display.start(this.command, ['--course', course, '--scale', String(scale)], {});
             await pause(3000);
         },
-        async toTurn(display, { scale }) {
-            const window = await display.window();
-            display.tool('mousemove', '--window', window, 710 * scale, 568 * scale); // "Page suivante"
+        async toTurn(display, { window: { width, height } }) {
+            display.tool('mousemove', Math.round(width * .8875), Math.round(height * .95)); // "Page suivante"
             for (let i = 0; i < Number(times); ++i) {
                 display.tool('click', 1);
                 await pause(300);
@@ -69,7 +72,7 @@ const readers = {
             display.tool('mousemove', 0, 0);
             await pause(1000);
         },
-        turn: () => 'Alt+Left',
+        turn: () => 'BackSpace',
         zoom: zoomed('Ctrl+'),
         async found(i, display) {
             await display.keys('ctrl+l');
@@ -145,39 +148,42 @@ for (const [name, { command }] of Object.entries(readers))
     }
 if (readers.Kiwix) writeArchive(plain, courseOf(site).debut, archive);
 
-async function opened(name, size) {
-    const home = join(work, `${name}-${size.scale}`);
-    mkdirSync(home, { recursive: true });
-    const display = await Display.open(size, home, join(programs, 'key_to_pixels'));
-    await readers[name].start(display, size, home);
+async function opened(name, scene) {
+    const home = mkdtempSync(join(work, 'home-'));
+    const display = await Display.open(scene.screen, home, join(programs, 'key_to_pixels'));
+    await readers[name].start(display, scene, home);
     return display;
 }
 
-function tell(what, size, all) {
+function tell({ window, scale }, act, all) {
+    if (all.ours.length === 0) throw new Error(`${acts[act]}: nothing measured of ours`);
     const ours = median(all.ours);
-    const peers = Object.entries(all).filter(([name]) => name !== 'ours');
-    console.log(`${size.name}, ${what}: ours ${rounded(ours)}${peers.map(([name, found]) => `, ${name} ${rounded(median(found))} (${rounded(median(found) / ours)} ×${found.length < all.ours.length ? `, of ${found.length}` : ''})`).join('')}`
-        + `; slowest of ours ${rounded(Math.max(...all.ours))}${size.scale === 3 ? ' (limit 33.3 for the median)' : ''}`);
+    const beside = Object.entries(all).filter(([name, found]) => name !== 'ours' && found.length > 0)
+        .map(([name, found]) => `${name} ${rounded(median(found))} (of ${found.length}; / ours ${rounded(median(found) / ours)})`);
+    console.log(`${window.width} × ${window.height}, ${acts[act]}: ours ${rounded(ours)} (of ${all.ours.length}, ${rounded(Math.min(...all.ours))} to ${rounded(Math.max(...all.ours))}${scale > 1 ? '; goal: within 33.3' : ''}), ${beside.join(', ')}`);
 }
 
-const acts = { turn: 'a page turned', zoom: 'a step of the zoom', found: 'a found page opened' };
-for (const size of sizes) {
+async function measured(act, names, displays, scene) {
+    const before = { turn: 'toTurn', found: 'toFind' }[act];
+    for (const name of names) await readers[name][before]?.(displays[name], scene);
+    const found = Object.fromEntries(names.map((name) => [name, []]));
+    for (let i = 0; i < Number(times); ++i)
+        for (const name of names) {
+            const key = await readers[name][act](i, displays[name], scene);
+            await pause(300);
+            const time = await displays[name].press(key);
+            if (time > 0) found[name].push(time);
+        }
+    return found;
+}
+
+for (const scene of scenes) {
     const displays = {};
-    for (const name of Object.keys(readers)) displays[name] = await opened(name, size);
-    for (const [act, what] of Object.entries(acts)) {
-        const with_ = Object.keys(readers).filter((name) => readers[name][act]);
-        const first = { turn: 'toTurn', found: 'toFind' }[act];
-        for (const name of with_) await readers[name][first]?.(displays[name], size);
-        const found = Object.fromEntries(with_.map((name) => [name, []]));
-        for (let i = 0; i < Number(times); ++i)
-            for (const name of with_) {
-                const key = await readers[name][act](i, displays[name], size);
-                await pause(300);
-                const time = await displays[name].press(key);
-                if (time > 0) found[name].push(time);
-            }
-        tell(what, size, found);
-        if (pictures) for (const name of with_) displays[name].picture(join(pictures, `${act}-${size.scale}-${name}.png`));
+    for (const name of Object.keys(readers)) displays[name] = await opened(name, scene);
+    for (const act of scene.acts) {
+        const names = Object.keys(readers).filter((name) => readers[name][act]);
+        tell(scene, act, await measured(act, names, displays, scene));
+        if (pictures) for (const name of names) displays[name].picture(join(pictures, `${act}-${scene.window.width}-${name}.png`));
     }
     for (const display of Object.values(displays)) display.close();
 }

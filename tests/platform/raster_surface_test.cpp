@@ -2,6 +2,8 @@
 #include "page/readable_text.h"
 #include "page/surface.h"
 
+#include <QPainter>
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -89,6 +91,29 @@ TEST_F(Raster, whatIsFarOutsideCostsNothing) {
     raster.play(recording);
     EXPECT_LE(raster.drawnHeightPx(), page::kMaxSurfaceHeightPx);
     EXPECT_EQ(raster.image(1).pixel(599, 0), kTint);
+}
+
+TEST_F(Raster, paintedPartByPartItShowsTheSamePixels) {
+    surface.setFontPoints(14);
+    surface.print(QStringLiteral("Une phrase en travers de toutes les parties de la page"));
+    surface.line(0, 10, 9000, 1500);
+    for (const double ratio : {1.0, 1.1, 1.5, 2.5, 3.2}) {
+        raster.setDevicePixelRatio(ratio);
+        raster.play(recording);
+        const QImage whole = raster.image(100);
+        QImage parts(whole.size(), QImage::Format_RGB32);
+        parts.fill(kTint);
+        parts.setDevicePixelRatio(ratio);
+        QPainter painter(&parts);
+        for (int x = 0; x < 600; x += 67)
+            for (int y = 0; y < 100; y += 7) {
+                painter.setClipRect(QRect(x, y, 67, 7));
+                raster.paint(painter, QRect(x, y, 67, 7));
+            }
+        painter.end();
+        EXPECT_GT(inked(whole, whole.rect()), 500) << ratio;
+        EXPECT_TRUE(parts == whole) << ratio;
+    }
 }
 
 TEST_F(Raster, clearingWipesAndOtherSurfacesDoNotShow) {

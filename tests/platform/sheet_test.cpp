@@ -68,7 +68,7 @@ TEST_F(SheetTest, theRasterIsThatOfTheScreenCutAtTheSurfacesEdge) {
     surface.fill(150, 0, 900, 300, 0xffdce6ff, page::FillMode::Mask);
     surface.fill(3000, 2900, 900, 900, 0xffff0000, page::FillMode::Copy);
     surface.paint(std::make_shared<test_support::PlainPicture>(QSize(20, 20)), 300, 300, {}, false);
-    for (const double scale : {1.0, 1.5, 2.0}) {
+    for (const double scale : {1.0, 1.5, 2.0, 3.2}) {
         output::RasterSurface screen(SurfaceId::PictureTexte, 300, fonts, 0xffffffff);
         screen.setDevicePixelRatio(scale);
         screen.play(recording);

@@ -59,6 +59,31 @@ OperationPainter::span(const page::PictureOperation& picture) const {
     return Span{picture.y, picture.y + picture.height};
 }
 
+/// What a face measures leaves out underlines, and the slant that it has not itself. Letters keep
+/// within a few ems of their places, so that only those near an edge are measured.
+bool OperationPainter::staysWithin(const page::TextOperation& text, const QRectF& area) const {
+    const auto rows = inkSpan(text);
+    if (!rows || text.font.italic || text.font.underline)
+        return false;
+    const double em = page::fontPixels(text.font.points) * ratio_;
+    const bool rowsAreInside =
+        toDevice(rows->top) >= area.top() && toDevice(rows->bottom) <= area.bottom();
+    const QPointF origin(toDevice(text.x), std::round(toDevice(text.y + fonts_.ascent(text.font))));
+    for (const page::FontBook::Run& run : fonts_.place(text.font, text.text)) {
+        const QRawFont font = fonts_.deviceFont(text.font, run.fallback, em);
+        for (qsizetype i = 0; i < run.glyphs.size(); ++i) {
+            const QPointF place = origin + QPointF(toDevice(run.offsets[i]), 0);
+            if (rowsAreInside && place.x() - 2 * em >= area.left() &&
+                place.x() + 4 * em <= area.right())
+                continue;
+            const QRectF ink = font.boundingRect(run.glyphs[i]).translated(place);
+            if (!ink.isEmpty() && !area.contains(ink.adjusted(-1, -1, 1, 1)))
+                return false;
+        }
+    }
+    return true;
+}
+
 void OperationPainter::draw(const page::TextOperation& text) {
     const double x = toDevice(text.x);
     const double foot = std::round(toDevice(text.y + fonts_.ascent(text.font)));

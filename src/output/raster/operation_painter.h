@@ -44,6 +44,9 @@ public:
         return Span{ink->top - grace, ink->bottom + grace};
     }
 
+    /// Whether no letter of a text leans out of `area`, in device pixels; false in doubt.
+    bool staysWithin(const page::TextOperation& text, const QRectF& area) const;
+
     /// Draws what has a span.
     void draw(const page::TextOperation& text);
     void draw(const page::LineOperation& line);

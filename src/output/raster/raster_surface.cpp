@@ -25,6 +25,12 @@ constexpr int kFirstRowsPx = 448;
 /// A picture no taller than this is used again for the next page, in logical pixels.
 constexpr int kKeptRowsPx = 2000;
 
+void fillRows(QImage& image, int first, int count, QRgb colour) {
+    if (count > 0)
+        QImage(image.scanLine(first), image.width(), count, image.bytesPerLine(), image.format())
+            .fill(colour);
+}
+
 } // namespace
 
 /// Draws operations on the image, which grows as they need it. Links and fields are controls of
@@ -104,9 +110,9 @@ public:
         : surface_(surface), painter_(painter), fonts_(fonts), operations_(painter, fonts, ratio),
           ratio_(ratio), size_(size), exposed_(exposed) {
         // The surface itself covers the pixels that it shares with its margin.
-        const QRect inner(0, 0, qFloor(size.width() / page::kTwipsPerPixel * ratio),
-                          qFloor(size.height() / page::kTwipsPerPixel * ratio));
-        ring_ = QRegion(pixels(page::withInkMargin(size))) - inner;
+        inner_ = QRect(0, 0, qFloor(size.width() / page::kTwipsPerPixel * ratio),
+                       qFloor(size.height() / page::kTwipsPerPixel * ratio));
+        ring_ = QRegion(pixels(page::withInkMargin(size))) - inner_;
     }
 
     using PassOver::operator();
@@ -125,12 +131,21 @@ private:
             ink->top > (exposed_.bottom() + 1) * page::kTwipsPerPixel)
             return;
         const QRectF area = page::inkArea(drawing, size_, fonts_);
-        if (area.isEmpty() || area == QRectF({}, size_))
+        if (area.isEmpty() || area == QRectF({}, size_) || staysWithin(drawing))
             return;
         painter_.save();
         painter_.setClipRegion(ring_ & pixels(area), Qt::IntersectClip);
         operations_.draw(drawing);
         painter_.restore();
+    }
+
+    // Drawing a whole text to show nothing of it would take a tenth of a page's time.
+    bool staysWithin(const page::TextOperation& text) const {
+        return operations_.staysWithin(text, inner_);
+    }
+    template <class Drawing>
+    static bool staysWithin(const Drawing&) {
+        return false;
     }
 
     QRect pixels(const QRectF& twips) const {
@@ -146,6 +161,7 @@ private:
     double ratio_;
     QSizeF size_;
     QRect exposed_;
+    QRect inner_;
     QRegion ring_;
 };
 
@@ -178,11 +194,7 @@ void RasterSurface::wipe() {
     // The next page finds the picture of this one in place; that of a very tall page goes.
     if (image_.height() > kKeptRowsPx * ratio_)
         image_ = QImage();
-    const int rows = std::min(image_.height(), inkedRows_);
-    if (rows > 0)
-        std::fill_n(reinterpret_cast<QRgb*>(image_.bits()),
-                    static_cast<std::size_t>(rows) * static_cast<std::size_t>(image_.width()),
-                    background_);
+    fillRows(image_, 0, std::min(image_.height(), inkedRows_), background_);
     lowestPx_ = 0;
     inkedRows_ = 0;
 }
@@ -202,9 +214,7 @@ void RasterSurface::growTo(int heightPx) {
     if (copied > 0)
         std::memcpy(larger.bits(), image_.constBits(), copied);
     const int kept = image_.height();
-    std::fill_n(reinterpret_cast<QRgb*>(larger.scanLine(kept)),
-                static_cast<std::size_t>(rows - kept) * static_cast<std::size_t>(width),
-                background_);
+    fillRows(larger, kept, rows - kept, background_);
     image_ = std::move(larger);
 }
 
@@ -212,14 +222,18 @@ void RasterSurface::paint(QPainter& painter, const QRect& exposed) const {
     painter.fillRect(exposed, QColor::fromRgb(background_));
     if (isBlank() || image_.isNull())
         return;
-    const QRectF source(exposed.x() * ratio_, exposed.y() * ratio_, exposed.width() * ratio_,
-                        exposed.height() * ratio_);
-    const QRectF held = source & QRectF(image_.rect());
+    const QRect held = QRectF(exposed.x() * ratio_, exposed.y() * ratio_, exposed.width() * ratio_,
+                              exposed.height() * ratio_)
+                           .toAlignedRect() &
+                       image_.rect();
     if (held.isEmpty())
         return;
-    painter.drawImage(
-        QRectF(held.x() / ratio_, held.y() / ratio_, held.width() / ratio_, held.height() / ratio_),
-        image_, held);
+    // Pixel on pixel, and said in whole pixels: a painter that has to find that out from fractions
+    // takes each pixel by itself.
+    painter.save();
+    painter.scale(1 / ratio_, 1 / ratio_);
+    painter.drawImage(held, image_, held);
+    painter.restore();
 }
 
 void RasterSurface::paintMargin(QPainter& painter, const page::Recording& recording, int heightPx,
