@@ -48,6 +48,8 @@ endfunction()
 # Pages are drawn with these faces, on every platform of Qt.
 set(drawing qt6-qpa-plugins fonts-liberation2 fonts-urw-base35)
 set(drawing_recommends fonts-symbola fonts-comic-neue fonts-dejavu-core)
+# Read aloud by whatever voice there is; without one the shell says so.
+set(voice qt6-speech-speechd-plugin speech-dispatcher-espeak-ng)
 set(same_version "(= ${PROJECT_VERSION})")
 
 orvalente_package(shell NATIVE
@@ -56,7 +58,7 @@ orvalente_package(shell NATIVE
 French. This package holds the program that shows a course: any course that
 was made with orvalente-cours will do."
     DEPENDS ${drawing}
-    RECOMMENDS orvalente-cours-demonstration ${drawing_recommends} qt6-translations-l10n
+    RECOMMENDS orvalente-cours-demonstration ${drawing_recommends} ${voice} qt6-translations-l10n
     SUGGESTS orvalente-doc wine qt6-wayland)
 set(CPACK_DEBIAN_SHELL_PACKAGE_CONTROL_EXTRA ${CMAKE_CURRENT_SOURCE_DIR}/debian/postinst)
 

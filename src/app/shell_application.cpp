@@ -6,6 +6,7 @@
 #include "app/pdf_loader.h"
 #include "app/preview.h"
 #include "app/video_loader.h"
+#include "app/voice_loader.h"
 #include "calculator/machine_opener.h"
 #include "coursedata/course_directory.h"
 #include "coursedata/course_pictures.h"
@@ -145,8 +146,8 @@ struct ShellApplication::Parts {
                             commandLine.author}),
           pages(state, record, window, tools, window.shownPage(), video),
           actions(state, pages, window, modules, exercise, orderForm),
-          collaborators{video,  links,      printing, modules,      exercise,  orderForm,
-                        search, calculator, help,     installation, exitScreen},
+          collaborators{video,  links,      printing, modules,      exercise,   orderForm,
+                        search, calculator, help,     installation, exitScreen, reading},
           commands(state, actions, window, collaborators, messageBoxes),
           course(record, [this](const QString& file,
                                 const QString& reason) { window.tellUnreadable(file, reason); }),
@@ -193,6 +194,7 @@ struct ShellApplication::Parts {
     InstallationWindow installation;
     search::CoordonOpener search;
     Calculator calculator;
+    viewer::ReadingAloud reading{&loadVoice};
     std::unique_ptr<platform::ProgramWindows> programs = platform::systemProgramWindows();
     shell::Closing closing{state, launcher, *programs, processes};
     ExitScreen exitScreen{window, closing};

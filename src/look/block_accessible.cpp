@@ -33,25 +33,6 @@ QAccessible::Role roleOf(BlockKind kind) {
     return QAccessible::NoRole;
 }
 
-QString counted(std::size_t count, const QString& one, const QString& many) {
-    return QString::number(count) + u' ' + (count == 1 ? one : many);
-}
-
-/// Tables and lists tell how large they are: what is in them, their children tell.
-QString wordsOf(const page::ReadableBlock& block) {
-    if (block.kind == BlockKind::List)
-        return QStringLiteral("Liste de ") + counted(block.children.size(),
-                                                     QStringLiteral("élément"),
-                                                     QStringLiteral("éléments"));
-    if (block.kind == BlockKind::Table)
-        return QStringLiteral("Tableau : ") +
-               counted(block.children.size(), QStringLiteral("ligne"), QStringLiteral("lignes")) +
-               QStringLiteral(", ") +
-               counted(block.children.front().children.size(), QStringLiteral("colonne"),
-                       QStringLiteral("colonnes"));
-    return block.spoken();
-}
-
 /// The toolkit has no other place for it. The title stands above all that is on the page.
 QString detailsOf(const page::ReadableBlock& block, page::SurfaceId surface) {
     if (block.kind != BlockKind::Heading)
@@ -64,7 +45,7 @@ QString detailsOf(const page::ReadableBlock& block, page::SurfaceId surface) {
 BlockAccessible::BlockAccessible(PictureBox* box, const page::ReadableBlock& block,
                                  QAccessibleInterface* parent)
     : box_(box), drawing_(box->drawing()), parent_(parent), kind_(block.kind), area_(block.area),
-      words_(wordsOf(block)), details_(detailsOf(block, box->surfaceId())) {
+      words_(block.introduction()), details_(detailsOf(block, box->surfaceId())) {
     QAccessible::registerAccessibleInterface(this);
     // A cell with one text is that text.
     if (block.kind == BlockKind::Cell && block.children.size() <= 1)

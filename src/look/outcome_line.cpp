@@ -20,6 +20,18 @@ constexpr int kWordsLeft = 28;
 constexpr int kGap = 8;
 constexpr int kButtonMargin = 12;
 
+QString signOf(OutcomeLine::Kind kind) {
+    switch (kind) {
+    case OutcomeLine::Kind::Warning:
+        return QStringLiteral("warning");
+    case OutcomeLine::Kind::Done:
+        return QStringLiteral("validate");
+    case OutcomeLine::Kind::Voice:
+        return QStringLiteral("voice");
+    }
+    return {};
+}
+
 /// Leaves the last words out, for the tooltip to tell, until the text fits the label's height.
 void shortenToFit(QLabel& label) {
     QString words = label.text();
@@ -49,7 +61,7 @@ OutcomeLine::OutcomeLine(QWidget* parent)
 }
 
 void OutcomeLine::tell(Kind kind, const QString& words, const LineAction& action) {
-    sign_ = Icon(kind == Kind::Warning ? QStringLiteral("warning") : QStringLiteral("validate"));
+    sign_ = Icon(signOf(kind));
     all_ = words;
     run_ = action.run;
     if (!action.caption.isEmpty())

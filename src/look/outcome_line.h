@@ -18,11 +18,11 @@ struct LineAction {
     std::function<void()> run = {};
 };
 
-/// A line about what happened: a sign, the words in one or two lines, shortened where they are too
-/// long, with the whole in the tooltip, and perhaps a button.
+/// A line about what happened, or goes on: a sign, the words in one or two lines, shortened where
+/// they are too long, with the whole in the tooltip, and perhaps a button.
 class OutcomeLine : public QWidget {
 public:
-    enum class Kind { Warning, Done };
+    enum class Kind { Warning, Done, Voice };
 
     explicit OutcomeLine(QWidget* parent);
 

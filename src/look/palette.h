@@ -28,6 +28,7 @@ inline constexpr QRgb kRed = 0xffb3261e;         ///< wrong, with the square cro
 // and 4.5 on the second, black and the blue of links more than 13.
 inline constexpr QRgb kMarkTint = 0xfffff0a0;
 inline constexpr QRgb kSelectionTint = 0xffbcd6f2;   ///< multiplied with the text of a page
+inline constexpr QRgb kSpokenTint = 0xffdfeedd;      ///< the same, of what is being read aloud
 inline constexpr QRgb kCurrentMarkTint = 0xffffdb80; ///< the one in turn, which has a frame
 
 /// `top` at `share` (0 to 1) over `below`.

@@ -1,5 +1,6 @@
 #include "look/picture_box.h"
 
+#include "look/coloured_area.h"
 #include "look/palette.h"
 #include "look/picture_accessible.h"
 #include "look/pixels.h"
@@ -12,6 +13,20 @@
 #include <cmath>
 
 namespace look {
+
+namespace {
+
+/// In logical pixels of the surface.
+QRegion keptOf(const page::PictureOperation& picture) {
+    const QRect place =
+        QRectF(picture.x / page::kTwipsPerPixel, picture.y / page::kTwipsPerPixel,
+               picture.width / page::kTwipsPerPixel, picture.height / page::kTwipsPerPixel)
+            .toAlignedRect();
+    const QImage pixels = picture.picture ? picture.picture->image(place.size()) : QImage();
+    return pixels.isNull() ? QRegion(place) : colouredArea(pixels).translated(place.topLeft());
+}
+
+} // namespace
 
 PictureBox::PictureBox(page::SurfaceId id, int widthPx, QRgb ground, const page::FontBook& fonts,
                        const page::Recording& recording, QWidget* parent)
@@ -30,6 +45,7 @@ void PictureBox::empty() {
     controlsFoot_ = 0;
     marks_ = {};
     selection_.clear();
+    spoken_ = {};
     update();
     updateMargin();
 }
@@ -80,6 +96,7 @@ const page::ReadablePage& PictureBox::readablePage() const {
 void PictureBox::forgetReadable() {
     ++drawing_;
     readable_.reset();
+    kept_.reset();
 }
 
 void PictureBox::setMarks(Marks marks) {
@@ -93,6 +110,20 @@ void PictureBox::setSelection(std::vector<QRectF> areas) {
 }
 
 /// As one region, so that letters which overlap are tinted once.
+void PictureBox::setSpoken(const QRectF& area) {
+    spoken_ = area;
+    update();
+}
+
+void PictureBox::paintSpoken(QPainter& painter) const {
+    if (spoken_.isNull())
+        return;
+    painter.save();
+    painter.setCompositionMode(QPainter::CompositionMode_Multiply);
+    painter.fillRect(spoken_.toAlignedRect(), QColor::fromRgb(kSpokenTint));
+    painter.restore();
+}
+
 void PictureBox::paintSelection(QPainter& painter) const {
     if (selection_.empty())
         return;
@@ -107,6 +138,8 @@ void PictureBox::paintSelection(QPainter& painter) const {
 }
 
 QRegion PictureBox::keptArea() const {
+    if (kept_)
+        return *kept_;
     QRegion pictures;
     for (const page::Operation& operation : recording_.operations()) {
         const auto* clear = std::get_if<page::ClearOperation>(&operation);
@@ -114,12 +147,9 @@ QRegion PictureBox::keptArea() const {
             pictures = {};
         const auto* picture = std::get_if<page::PictureOperation>(&operation);
         if (picture && picture->surface == id_ && !picture->symbol)
-            pictures |= QRectF(picture->x / page::kTwipsPerPixel + inset_,
-                               picture->y / page::kTwipsPerPixel + inset_,
-                               picture->width / page::kTwipsPerPixel,
-                               picture->height / page::kTwipsPerPixel)
-                            .toAlignedRect();
+            pictures |= keptOf(*picture).translated(inset_, inset_);
     }
+    kept_ = pictures;
     return pictures;
 }
 
@@ -180,6 +210,7 @@ void PictureBox::paintEvent(QPaintEvent* event) {
         paintMargin(painter, event->rect());
         painter.restore();
     }
+    paintSpoken(painter);
     paintSelection(painter);
     paintMarks(painter, exposed.adjusted(-1, -1, 1, 1));
 }

@@ -11,6 +11,7 @@
 #include <QWidget>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace look {
@@ -71,6 +72,10 @@ public:
     /// Shows text as selected, given in logical pixels of the surface; as marks otherwise.
     void setSelection(std::vector<QRectF> areas);
 
+    /// Shows what of the page is being read aloud, in logical pixels of the surface; null for
+    /// nothing. As marks otherwise.
+    void setSpoken(const QRectF& area);
+
     /// The control that shows paintMargin() around this one, and goes with it.
     void setRim(QWidget* rim) { rim_ = rim; }
     /// Has it painted anew.
@@ -92,7 +97,8 @@ public:
     /// Counts the drawings: what was read of one that is gone is gone too.
     int drawing() const { return drawing_; }
 
-    /// The pictures of the page; symbols are drawn in the page's inks.
+    /// What of the page's pictures has its colours for their own sake; symbols are drawn in the
+    /// page's inks.
     QRegion keptArea() const override;
 
 protected:
@@ -101,6 +107,7 @@ protected:
 private:
     void paintMarks(QPainter& painter, const QRect& exposed) const;
     void paintSelection(QPainter& painter) const;
+    void paintSpoken(QPainter& painter) const;
     void forgetReadable();
 
     const page::Recording& recording_;
@@ -112,9 +119,11 @@ private:
     bool followsPage_ = false;
     Marks marks_;
     std::vector<QRectF> selection_;
+    QRectF spoken_;
     QPointer<QWidget> rim_;
     int drawing_ = 0;
     mutable std::unique_ptr<const page::ReadablePage> readable_; ///< made when it is asked for
+    mutable std::optional<QRegion> kept_;                        ///< as well
 };
 
 } // namespace look

@@ -81,6 +81,10 @@ ReadableBlock pictureBlock(const PictureOperation& picture) {
     return block;
 }
 
+QString counted(std::size_t count, const QString& one, const QString& many) {
+    return QString::number(count) + u' ' + (count == 1 ? one : many);
+}
+
 /// Items of a list that follow each other, as a list.
 std::vector<ReadableBlock> withLists(std::vector<ReadableBlock> blocks) {
     std::vector<ReadableBlock> all;
@@ -111,6 +115,19 @@ QString ReadableBlock::spoken() const {
     for (const ReadableBlock& child : children)
         text += child.spoken() + u' ';
     return text.simplified();
+}
+
+QString ReadableBlock::introduction() const {
+    if (kind == BlockKind::List)
+        return QStringLiteral("Liste de ") +
+               counted(children.size(), QStringLiteral("élément"), QStringLiteral("éléments"));
+    if (kind == BlockKind::Table)
+        return QStringLiteral("Tableau : ") +
+               counted(children.size(), QStringLiteral("ligne"), QStringLiteral("lignes")) +
+               QStringLiteral(", ") +
+               counted(children.front().children.size(), QStringLiteral("colonne"),
+                       QStringLiteral("colonnes"));
+    return spoken();
 }
 
 std::vector<TextOperation> ReadablePage::roughCaption(const LinkOperation& link) {

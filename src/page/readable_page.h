@@ -39,6 +39,9 @@ struct ReadableBlock {
 
     /// Its text as a voice should say it, children included.
     QString spoken() const;
+    /// What is said of it before its children are: of lists and tables how large they are, of all
+    /// others spoken().
+    QString introduction() const;
 };
 
 /// What stands on a surface since it was last cleared, as a document for those who read it another

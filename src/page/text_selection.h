@@ -27,13 +27,13 @@ public:
     void extend(Step step, const ReadablePage& page, const TextMetrics& metrics);
 
     qsizetype end() const { return end_; }
+    qsizetype first() const { return std::min(anchor_, end_); }
 
     QString text(const ReadablePage& page) const;
     /// What of the surface is selected, in twips.
     std::vector<QRectF> areas(const ReadablePage& page, const TextMetrics& metrics) const;
 
 private:
-    qsizetype first() const { return std::min(anchor_, end_); }
     qsizetype behind() const { return std::max(anchor_, end_); }
 
     qsizetype anchor_ = 0;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "viewer/found_words.h"
+#include "viewer/reading_aloud.h"
 
 #include <QString>
 
@@ -96,6 +97,7 @@ struct Collaborators {
     ModalWindow& help;       ///< not modal: open() returns at once
     ModalWindow& installation;
     ModalWindow& exitScreen;
+    ReadingAloud& reading;
 };
 
 } // namespace viewer

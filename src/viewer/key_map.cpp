@@ -13,7 +13,7 @@ struct Row {
     KeyCommand command;
 };
 
-constexpr std::array<Row, 20> kRows = {{
+constexpr std::array<Row, 21> kRows = {{
     {Qt::Key_Up, Qt::NoModifier, KeyCommand::LineUp},
     {Qt::Key_Down, Qt::NoModifier, KeyCommand::LineDown},
     {Qt::Key_PageUp, Qt::NoModifier, KeyCommand::ScreenUp},
@@ -31,6 +31,7 @@ constexpr std::array<Row, 20> kRows = {{
     {Qt::Key_Escape, Qt::NoModifier, KeyCommand::LeaveFind},
     {Qt::Key_Home, Qt::AltModifier, KeyCommand::Home},
     {Qt::Key_L, Qt::ControlModifier, KeyCommand::Search},
+    {Qt::Key_L, Qt::ControlModifier | Qt::ShiftModifier, KeyCommand::ReadAloud},
     {Qt::Key_P, Qt::ControlModifier, KeyCommand::Print},
     {Qt::Key_F1, Qt::NoModifier, KeyCommand::Help},
     {Qt::Key_Q, Qt::ControlModifier, KeyCommand::Quit},

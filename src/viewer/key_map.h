@@ -22,6 +22,7 @@ enum class KeyCommand {
     LeaveFind,
     Home,
     Search,
+    ReadAloud,
     Print,
     Help,
     Quit,

@@ -112,9 +112,11 @@ void Multim::addControls() {
 
     finder_ = std::make_unique<PageFinder>(PageFinder::Parts{
         *findBar, *panel_, {PictureTEXTE_, PICTUREILLUS_, titre_}, shown_.recording, fonts_});
-    selection_ = new PageSelection(*PictureTEXTE_, *panel_, fonts_, [this] {
-        return parts_ ? pageCode(parts_->pages.record().TextID.toInt()) : QString();
-    });
+    selection_ = new PageSelection(
+        *PictureTEXTE_, *panel_, fonts_,
+        {[this] { return parts_ ? pageCode(parts_->pages.record().TextID.toInt()) : QString(); },
+         [this] { return parts_ && parts_->collaborators.reading.isReading(); },
+         [this] { perform(KeyCommand::ReadAloud); }});
     setVideoLayout(videoLayout_);
     panel_->fitView();
     button("Command2").setLastingMnemonic(u'S');

@@ -4,6 +4,7 @@
 #include "markup/draw_page.h"
 #include "page/faces/font_book.h"
 #include "page/recording.h"
+#include "page/spoken_page.h"
 #include "platform/screen.h"
 #include "shell/report_sink.h"
 #include "shell/shared_state.h"
@@ -22,6 +23,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace look {
 class Button;
@@ -149,6 +151,7 @@ public:
     void tellUnreadable(const QString& file, const QString& reason);
 
 protected:
+    bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -201,6 +204,11 @@ private:
     void Command14_Click();
     void Image4_Click(int index);
     void projo_Click();
+    void readAloud();
+    bool stopReading();
+    void readingEnded();
+    std::vector<page::SpokenPart> partsToRead() const;
+    void follow(const page::SpokenPart& part);
     bool hasVideoMenu() const;
     void toggleVideoSize();
     void chooseVideo(const QString& caption);
@@ -219,6 +227,7 @@ private:
     look::PagePanel* panel_ = nullptr;
     VideoFrame* videoFrame_ = nullptr;
     VideoLayout videoLayout_ = VideoLayout::None;
+    bool videoPlays_ = false;
     ChapterBar* Framebase_ = nullptr;
     Cover* cover_ = nullptr;
     look::PictureBox* PictureTEXTE_ = nullptr;

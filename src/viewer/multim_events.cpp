@@ -198,7 +198,11 @@ void Multim::perform(KeyCommand command) {
         return work([this] { finder_->next(); });
     case KeyCommand::FindPrevious:
         return work([this] { finder_->previous(); });
+    case KeyCommand::ReadAloud:
+        return working_ || !parts_ ? void() : readAloud();
     case KeyCommand::LeaveFind:
+        if (stopReading())
+            return;
         if (!finder_->isOpen() && selection_->clear())
             return;
         if (!finder_->isOpen() && videoLayout_ == VideoLayout::Double)

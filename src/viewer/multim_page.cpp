@@ -64,6 +64,7 @@ void Multim::hideScrollBarAndVideoFrame() {
 }
 
 void Multim::clearPictures() {
+    stopReading();
     finder_->pageGoes();
     selection_->clear();
     shown_ = {};

@@ -93,10 +93,12 @@ void Multim::setMarkerWidth(double twips) {
 }
 
 void Multim::setVideoStatus(const QString& words, bool playing, bool atEnd) {
+    videoPlays_ = playing;
     videoFrame_->setStatus(words, playing, atEnd);
 }
 
 void Multim::Image4_Click(int index) {
+    stopReading(); // one of them is heard at a time
     if (hasVideoMenu())
         projo_Click();
     else

@@ -1,5 +1,6 @@
 #include "viewer/page_selection.h"
 
+#include "look/dress.h"
 #include "look/page_panel.h"
 #include "look/picture_box.h"
 #include "page/twips.h"
@@ -44,9 +45,13 @@ constexpr int kFasterPx = 24;
 } // namespace
 
 PageSelection::PageSelection(look::PictureBox& box, look::PagePanel& panel,
-                             const page::TextMetrics& metrics, std::function<QString()> address)
-    : QObject(&box), box_(box), panel_(panel), metrics_(metrics), address_(std::move(address)) {
+                             const page::TextMetrics& metrics, Offers offers)
+    : QObject(&box), box_(box), panel_(panel), metrics_(metrics), offers_(std::move(offers)) {
     box.installEventFilter(this);
+}
+
+std::optional<qsizetype> PageSelection::start() const {
+    return selection_.isEmpty() ? std::nullopt : std::optional(selection_.first());
 }
 
 bool PageSelection::clear() {
@@ -182,11 +187,17 @@ void PageSelection::openMenu(QPoint at, bool byKey) {
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->setObjectName(QStringLiteral("pageMenu"));
     menu->setAccessibleName(QStringLiteral("Texte de la page"));
+    look::dress(*menu); // desktops change the fonts of programs that run
     QAction* copying = menu->addAction(QStringLiteral("Copier"), this, [this] { copy(); });
     copying->setEnabled(!selection_.isEmpty());
     QAction* address = menu->addAction(QStringLiteral("Copier l’adresse de la page"), this, [this] {
-        QGuiApplication::clipboard()->setText(address_());
+        QGuiApplication::clipboard()->setText(offers_.address());
     });
+    menu->addSeparator();
+    menu->addAction((offers_.isReading() ? QStringLiteral("Arrêter la lecture")
+                                         : QStringLiteral("Lire à voix haute")) +
+                        QStringLiteral("\tCtrl+Maj+L"),
+                    this, [this] { offers_.readAloud(); });
     menu->popup(at);
     if (byKey)
         menu->setActiveAction(copying->isEnabled() ? copying : address);

@@ -1,3 +1,4 @@
+#include "look/coloured_area.h"
 #include "look/keeps_colours.h"
 #include "look/light_filter.h"
 #include "look/palette.h"
@@ -58,6 +59,41 @@ TEST(LightFilter, whatIsReadCanStillBeRead) {
     EXPECT_NEAR(QColor(withReducedLight(kLink)).hue(), QColor(kLink).hue(), 3);
     EXPECT_NEAR(QColor(withReducedLight(kPageRed)).hue(), QColor(kPageRed).hue(), 3);
     EXPECT_EQ(withReducedLight(0), 0U) << "what shows nothing";
+}
+
+/// A drawing on a transparent ground: a line, a letter, an area as light as paper, a spectrum with
+/// a white letter on it.
+class Drawing : public testing::Test {
+protected:
+    Drawing() {
+        drawing.fill(Qt::transparent);
+        QPainter painter(&drawing);
+        painter.fillRect(5, 5, 90, 2, Qt::black);
+        painter.fillRect(kLight, QColor::fromRgb(kIvory));
+        painter.fillRect(kSpectrum, Qt::black);
+        painter.fillRect(30, 60, 4, 30, Qt::yellow);
+        painter.fillRect(kLetter, Qt::white);
+    }
+
+    static constexpr QRect kLight{5, 15, 90, 30};
+    static constexpr QRect kSpectrum{5, 60, 90, 30};
+    static constexpr QRect kLetter{70, 70, 2, 10};
+    QImage drawing{100, 100, QImage::Format_ARGB32_Premultiplied};
+};
+
+TEST_F(Drawing, keepsTheColoursOfItsAreasAlone) {
+    EXPECT_EQ(colouredArea(drawing), QRegion(kSpectrum)); // the letter in it too
+}
+
+TEST_F(Drawing, onAGroundOfItsOwnIsKeptWhole) {
+    EXPECT_EQ(colouredArea(drawing.convertToFormat(QImage::Format_RGB32)), drawing.rect());
+    QImage photograph(100, 100, QImage::Format_ARGB32_Premultiplied);
+    photograph.fill(Qt::white);
+    QPainter corner(&photograph);
+    corner.setCompositionMode(QPainter::CompositionMode_Clear);
+    corner.fillRect(0, 0, 4, 4, Qt::transparent);
+    corner.end();
+    EXPECT_EQ(colouredArea(photograph), QRegion(photograph.rect()) - QRect(0, 0, 4, 4));
 }
 
 /// Paper with a picture on it that is blue.

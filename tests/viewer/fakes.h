@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/fake_voice.h"
 #include "viewer/action_dispatcher.h"
 #include "viewer/collaborators.h"
 
@@ -80,8 +81,8 @@ struct FakeCollaborators {
 
     viewer::Collaborators all() { return allWith(links); }
     viewer::Collaborators allWith(viewer::PageLinks& pageLinks) {
-        return {video,  pageLinks,  printing, updates,      exercise,  orderForm,
-                search, calculator, help,     installation, exitScreen};
+        return {video,  pageLinks,  printing, updates,      exercise,   orderForm,
+                search, calculator, help,     installation, exitScreen, reading};
     }
 
     QStringList log;
@@ -97,6 +98,8 @@ struct FakeCollaborators {
     Window help{log, QStringLiteral("help")};
     Window installation{log, QStringLiteral("installation")};
     Window exitScreen{log, QStringLiteral("exit screen")};
+    FakeVoices voices;
+    viewer::ReadingAloud reading{voices.maker()};
 };
 
 } // namespace test_support

@@ -1,8 +1,10 @@
+#include "look/interface_font.h"
 #include "look/picture_box.h"
 #include "support/files.h"
 #include "viewer/link_case.h"
 #include "viewer/window_case.h"
 
+#include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QGuiApplication>
@@ -143,6 +145,21 @@ TEST_F(PageSelection, thePointerTellsWhereTextIs) {
     QTest::mouseMove(area(), QPoint(20, 8));
     show(5); // is another page until the pointer moves
     EXPECT_EQ(area()->cursor().shape(), Qt::ArrowCursor);
+}
+
+/// Settings programs of desktops give programs that run another font.
+TEST_F(PageSelection, itsMenuKeepsTheHousesFont) {
+    const QFont before = QApplication::font();
+    QFont other = before;
+    other.setPixelSize(2 * before.pixelSize());
+    QApplication::setFont(other);
+    QContextMenuEvent asked(QContextMenuEvent::Mouse, QPoint(5, 5),
+                            area()->mapToGlobal(QPoint(5, 5)));
+    QCoreApplication::sendEvent(area(), &asked);
+    auto* menu = area()->findChild<QMenu*>(QStringLiteral("pageMenu"));
+    EXPECT_EQ(menu->font().pixelSize(), look::kLabelPx);
+    menu->close();
+    QApplication::setFont(before);
 }
 
 } // namespace
