@@ -50,7 +50,7 @@ function(orvalente_library name)
     add_library(${name} STATIC ${ARG_SOURCES})
     target_link_libraries(${name} PUBLIC orvalente_options ${ARG_LINKS})
     if(ARG_WEB)
-        orvalente_for_browsers(${name} SOURCES ${ARG_SOURCES} LINKS ${ARG_LINKS})
+        orvalente_for_browsers(${name} ORVALENTE_WEB_SOURCES SOURCES ${ARG_SOURCES} LINKS ${ARG_LINKS})
     endif()
 endfunction()
 
@@ -63,8 +63,8 @@ function(orvalente_windows_test)
     set_tests_properties(windows.passesItsTests PROPERTIES DEPENDS windows.compiles)
 endfunction()
 
-# Lets the program for browsers have a library too.
-function(orvalente_for_browsers name)
+# Lets a program for browsers have a library too: the one whose sources that global property holds.
+function(orvalente_for_browsers name program)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
     foreach(link IN LISTS ARG_LINKS)
         get_target_property(web ${link} ORVALENTE_WEB)
@@ -74,7 +74,7 @@ function(orvalente_for_browsers name)
     endforeach()
     set_target_properties(${name} PROPERTIES ORVALENTE_WEB ON)
     list(TRANSFORM ARG_SOURCES PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
-    set_property(GLOBAL APPEND PROPERTY ORVALENTE_WEB_SOURCES ${ARG_SOURCES})
+    set_property(GLOBAL APPEND PROPERTY ${program} ${ARG_SOURCES})
 endfunction()
 
 # The tests of one folder, as one GoogleTest binary whose cases CTest lists one by one.

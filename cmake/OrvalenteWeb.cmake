@@ -1,10 +1,12 @@
-# The program that published courses bring along: the libraries declared WEB, compiled for wasm32 by
-# a second compiler and linked. Without that compiler (scripts/setup web) everything else is built
+# The programs that published courses bring along: the libraries declared WEB, compiled for wasm32 by
+# a second compiler and linked. One has the course's own, the other the simulations, which not every
+# pupil opens. Without that compiler (scripts/setup web) everything else is built
 # all the same, and the course tool says that it cannot publish.
 
 set(ORVALENTE_WEB_FLAGS --target=wasm32-wasi -std=c++20 -Oz -fno-exceptions 
     -I${CMAKE_SOURCE_DIR}/src -I${CMAKE_SOURCE_DIR}/modules)
 set(ORVALENTE_WEB_PROGRAM ${CMAKE_BINARY_DIR}/bin/orvalente-web.wasm)
+set(ORVALENTE_WEB_SIMULATIONS ${CMAKE_BINARY_DIR}/bin/orvalente-simulations.wasm)
 
 find_program(ORVALENTE_WEB_COMPILER clang++-19)
 set(ORVALENTE_WEB OFF)
@@ -49,14 +51,14 @@ function(orvalente_web_objects variable)
 endfunction()
 
 # Links objects into a library for browsers.
-#   orvalente_web_link(FILE.wasm OBJECTS... [FLAGS...])
+#   orvalente_web_link(FILE.wasm OBJECTS... [LIBRARY objects...] [FLAGS...])
 function(orvalente_web_link file)
-    cmake_parse_arguments(ARG "" "" "OBJECTS;FLAGS" ${ARGN})
+    cmake_parse_arguments(ARG "" "" "OBJECTS;LIBRARY;FLAGS" ${ARGN})
     add_custom_command(
         OUTPUT ${file}
         COMMAND ${ORVALENTE_WEB_COMPILER} ${ORVALENTE_WEB_FLAGS} -mexec-model=reactor ${ARG_OBJECTS}
-                -o ${file} ${ARG_FLAGS}
-        DEPENDS ${ARG_OBJECTS}
+                -Wl,--start-lib ${ARG_LIBRARY} -Wl,--end-lib -o ${file} ${ARG_FLAGS}
+        DEPENDS ${ARG_OBJECTS} ${ARG_LIBRARY}
         VERBATIM)
 endfunction()
 
@@ -68,7 +70,13 @@ function(orvalente_web_program)
     get_property(sources GLOBAL PROPERTY ORVALENTE_WEB_SOURCES)
     orvalente_web_objects(objects ${sources})
     orvalente_web_link(${ORVALENTE_WEB_PROGRAM} OBJECTS ${objects} FLAGS -Wl,--gc-sections,--strip-all)
-    add_custom_target(web_program ALL DEPENDS ${ORVALENTE_WEB_PROGRAM})
+    # Of the course's objects the simulations take what they need.
+    get_property(sources GLOBAL PROPERTY ORVALENTE_WEB_MODULE_SOURCES)
+    orvalente_web_objects(module_objects ${sources})
+    orvalente_web_link(${ORVALENTE_WEB_SIMULATIONS} OBJECTS ${module_objects} LIBRARY ${objects}
+                       FLAGS -Wl,--gc-sections,--strip-all)
+    add_custom_target(web_program ALL
+                      DEPENDS ${ORVALENTE_WEB_PROGRAM} ${ORVALENTE_WEB_SIMULATIONS})
     if(ORVALENTE_TESTS)
         # With every function, whether the program calls it or not, and what only the tests call.
         orvalente_web_objects(test_objects ${CMAKE_SOURCE_DIR}/tests/web/numbers.cpp)

@@ -2,6 +2,7 @@
 
 #include "common/formula.h"
 #include "common/french_number.h"
+#include "common/qt_text.h"
 #include "common/ticks.h"
 #include "look/interface_font.h"
 #include "look/palette.h"
@@ -60,7 +61,7 @@ void Axes::paintAcross(QPainter& painter, const QString& name) const {
         painter.drawLine(QPointF(x, area_.top()), QPointF(x, area_.bottom()));
         painter.setPen(QColor::fromRgb(look::kMuted));
         painter.drawText(QRectF(x - 40, area_.bottom() + kLabelGap, 80, 14), Qt::AlignHCenter,
-                         frenchNumber(value, tickDecimals(step)));
+                         qtText(frenchNumber(value, tickDecimals(step))));
     }
     painter.setPen(QColor::fromRgb(look::kInk));
     const Formula formula(name, kNamePx);
@@ -79,7 +80,7 @@ void Axes::paintUp(QPainter& painter, const QString& name) const {
         painter.setPen(QColor::fromRgb(look::kMuted));
         painter.drawText(QRectF(0, y - 8, area_.left() - kLabelGap, 16),
                          Qt::AlignRight | Qt::AlignVCenter,
-                         frenchNumber(value, tickDecimals(step)));
+                         qtText(frenchNumber(value, tickDecimals(step))));
     }
     painter.setPen(QColor::fromRgb(look::kInk));
     const Formula formula(name, kNamePx);

@@ -3,25 +3,14 @@
 #include <QString>
 
 #include <optional>
-#include <vector>
+#include <string>
 
 namespace common {
 
-/// One line "key = value" of a file.
-struct Entry {
-    QString key;
-    QString value;
-    int line = 0; ///< counted from 1
-};
+/// The text of a file of the modules' data (entries.h), UTF-8; absent when it is not there, is no
+/// file, or is longer than kLargestFile.
+std::optional<std::u16string> readEntryFile(const QString& path);
 
-/// The plain text format of the modules' data: UTF-8, one "key = value" a line, blanks around both
-/// left aside; empty lines and lines that start with "#" say nothing. A key may come several times.
-///
-/// Reading fails, with absence, on a file that is not there, is longer than kLargestFile or has a
-/// line without "=" or without a key: half a file is worse than none.
 inline constexpr qint64 kLargestFile = 64 * 1024; ///< bytes; the longest of ours has three thousand
-
-std::optional<std::vector<Entry>> readEntries(const QString& path);
-std::optional<std::vector<Entry>> parseEntries(const QString& text);
 
 } // namespace common

@@ -1,6 +1,7 @@
 #include "common/exercise_panel.h"
 
 #include "common/plain_label.h"
+#include "common/qt_text.h"
 #include "look/announcement.h"
 #include "look/button.h"
 #include "look/icon.h"
@@ -58,22 +59,23 @@ ExercisePanel::ExercisePanel(const Task& task, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(14, 10, 14, 12);
     layout->setSpacing(6);
-    layout->addWidget(paragraph(
-        task_.title, {.pixels = kHeadingPx, .weight = look::Weight::Bold, .ink = look::kBlue}));
-    for (const QString& text : task_.statement)
-        layout->addWidget(paragraph(text));
+    layout->addWidget(
+        paragraph(qtText(task_.title),
+                  {.pixels = kHeadingPx, .weight = look::Weight::Bold, .ink = look::kBlue}));
+    for (const std::u16string& text : task_.statement)
+        layout->addWidget(paragraph(qtText(text)));
 
     field_->setMaxLength(kLongestAnswer);
     field_->setFixedSize(kFieldWidth, kFieldHeight);
     field_->setAlignment(Qt::AlignRight);
-    field_->setAccessibleName(task_.question);
+    field_->setAccessibleName(qtText(task_.question));
     auto* button = new look::Button(QStringLiteral("Vérifier"),
                                     {.kind = look::Button::Kind::Main, .icon = {}}, this);
     auto* row = new QHBoxLayout;
     row->setSpacing(kGap);
-    row->addWidget(paragraph(task_.question, {.weight = look::Weight::Bold}), 1);
+    row->addWidget(paragraph(qtText(task_.question), {.weight = look::Weight::Bold}), 1);
     row->addWidget(field_);
-    row->addWidget(plainLabel(task_.unit));
+    row->addWidget(plainLabel(qtText(task_.unit)));
     row->addSpacing(kGap);
     row->addWidget(button);
     layout->addLayout(row);
@@ -94,17 +96,11 @@ ExercisePanel::ExercisePanel(const Task& task, QWidget* parent)
 }
 
 void ExercisePanel::check() {
-    const Answer answer = task_.judge(field_->text());
+    const Answer answer = task_.judge(utf16(field_->text()));
     const bool right = answer == Answer::Right;
     static_cast<Sign*>(sign_)->setRight(right);
     sign_->setVisible(answer != Answer::NoNumber);
-    if (answer == Answer::NoNumber) {
-        verdict_->setText(QStringLiteral("Tapez un nombre, par exemple 12,5."));
-    } else {
-        verdict_->setText(
-            (right ? QStringLiteral("Juste\u00A0! ") : QStringLiteral("Ce n’est pas cela. ")) +
-            (right ? task_.whenRight : task_.whenWrong));
-    }
+    verdict_->setText(qtText(task_.verdict(answer)));
     look::setInk(*verdict_, answer == Answer::NoNumber ? look::kMuted
                             : right                    ? look::kGreen
                                                        : look::kRed);

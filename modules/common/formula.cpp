@@ -1,5 +1,6 @@
 #include "common/formula.h"
 
+#include "common/qt_text.h"
 #include "look/interface_font.h"
 
 #include <QFontMetricsF>
@@ -7,14 +8,13 @@
 
 #include <algorithm>
 #include <cmath>
-#include <optional>
 
 namespace common {
 
 namespace {
 
-using Node = Formula::Node;
-using Row = Formula::Row;
+using Node = FormulaPart;
+using Row = FormulaRow;
 
 // Proportions of the letters' size, as printed formulas have them.
 constexpr double kScriptSize = 0.72;
@@ -28,107 +28,6 @@ constexpr double kBarThickness = 0.065;
 constexpr double kRootWidth = 0.62;
 constexpr double kArrowHead = 0.2;
 constexpr double kOverlineGap = 0.1;
-
-/// Commands inside commands; the formulas of a textbook have three.
-constexpr int kDeepest = 8;
-
-class Parser {
-public:
-    explicit Parser(const QString& source) : source_(source) {}
-
-    Row row(QChar end = {}, int depth = 0) {
-        Row nodes;
-        while (at_ < source_.size() && (end.isNull() || source_[at_] != end))
-            parseOne(nodes, depth);
-        ++at_; // the end
-        return nodes;
-    }
-
-private:
-    void parseOne(Row& nodes, int depth) {
-        const QChar c = source_[at_];
-        if ((c == u'_' || c == u'^') && depth < kDeepest) {
-            ++at_;
-            addScript(nodes, c == u'_', argument(depth));
-        } else if (c == u'\\') {
-            parseCommand(nodes, depth);
-        } else {
-            ++at_;
-            addText(nodes, c, c.isLetter());
-        }
-    }
-
-    static void addScript(Row& nodes, bool isIndex, Row script) {
-        const bool joins = !nodes.empty() && nodes.back().kind == Node::Kind::Scripts;
-        if (!joins)
-            nodes.push_back({Node::Kind::Scripts, {}, false, {}, {}});
-        (isIndex ? nodes.back().first : nodes.back().second) = std::move(script);
-    }
-
-    static void addText(Row& nodes, const QString& text, bool italic) {
-        const bool joins = !nodes.empty() && nodes.back().kind == Node::Kind::Text &&
-                           nodes.back().italic == italic;
-        if (joins)
-            nodes.back().text += text;
-        else
-            nodes.push_back({Node::Kind::Text, text, italic, {}, {}});
-    }
-
-    Row argument(int depth) {
-        if (at_ < source_.size() && source_[at_] == u'{') {
-            ++at_;
-            return row(u'}', depth + 1);
-        }
-        Row one;
-        if (at_ < source_.size())
-            addText(one, source_[at_], source_[at_].isLetter());
-        ++at_;
-        return one;
-    }
-
-    QString words() {
-        const qsizetype end = source_.indexOf(u'}', at_);
-        const QString text = source_.mid(at_ + 1, end - at_ - 1);
-        at_ = end + 1;
-        return text;
-    }
-
-    void parseCommand(Row& nodes, int depth) {
-        const qsizetype start = at_++;
-        while (at_ < source_.size() && source_[at_].isLetter())
-            ++at_;
-        const QString name = source_.mid(start + 1, at_ - start - 1);
-        const bool closes = source_.indexOf(u'}', at_) > at_ && source_[at_] == u'{';
-        if (name == QStringLiteral("text") && closes) {
-            addText(nodes, words(), false);
-        } else if (name == QStringLiteral("cos") || name == QStringLiteral("sin") ||
-                   name == QStringLiteral("tan")) {
-            addText(nodes, name, false);
-        } else if (const auto kind = kindOf(name); kind && closes && depth < kDeepest) {
-            Node node{*kind, {}, false, argument(depth), {}};
-            if (*kind == Node::Kind::Fraction)
-                node.second = argument(depth);
-            nodes.push_back(std::move(node));
-        } else {
-            addText(nodes, source_.mid(start, at_ - start), false);
-        }
-    }
-
-    static std::optional<Node::Kind> kindOf(const QString& name) {
-        if (name == QStringLiteral("frac"))
-            return Node::Kind::Fraction;
-        if (name == QStringLiteral("sqrt"))
-            return Node::Kind::Root;
-        if (name == QStringLiteral("vec"))
-            return Node::Kind::Vector;
-        if (name == QStringLiteral("overline"))
-            return Node::Kind::Overline;
-        return std::nullopt;
-    }
-
-    QString source_;
-    qsizetype at_ = 0;
-};
 
 double riseOf(const Node& node) {
     return node.first.empty() ? kExponentRise : kRiseAboveIndex;
@@ -176,7 +75,7 @@ Extent extentOf(const Node& node, double pixels) {
     const QFontMetricsF metrics(fontOf(node, pixels));
     // A letter's foot is at 0.21, its top at 0.73 of the size in this face; ascent() has room for
     // accents that would part lines of fractions.
-    return {metrics.horizontalAdvance(node.text), pixels * 0.74, pixels * 0.21};
+    return {metrics.horizontalAdvance(qtText(node.text)), pixels * 0.74, pixels * 0.21};
 }
 
 Extent extentOf(const Row& row, double pixels) {
@@ -206,7 +105,7 @@ private:
         switch (node.kind) {
         case Node::Kind::Text:
             painter_.setFont(fontOf(node, pixels));
-            painter_.drawText(at, node.text);
+            painter_.drawText(at, qtText(node.text));
             return;
         case Node::Kind::Scripts:
             set(node.first, at + QPointF(0, pixels * kIndexDrop), pixels * kScriptSize);
@@ -274,10 +173,10 @@ private:
 
     /// Letters without a stem carry their arrow lower.
     static bool isLowerCase(const Row& row) {
-        static const QString kLow = QStringLiteral("acegmnopqrsuvwxyz");
+        constexpr std::u16string_view kLow = u"acegmnopqrsuvwxyz";
         return !row.empty() && row.front().kind == Node::Kind::Text &&
                std::all_of(row.front().text.begin(), row.front().text.end(),
-                           [](QChar c) { return kLow.contains(c); });
+                           [=](char16_t c) { return kLow.find(c) != kLow.npos; });
     }
 
     void draw(const QPolygonF& line, double pixels) {
@@ -297,7 +196,7 @@ private:
 } // namespace
 
 Formula::Formula(const QString& source, double pixels)
-    : row_(Parser(source).row()), pixels_(pixels) {}
+    : row_(formulaParts(utf16(source))), pixels_(pixels) {}
 
 double Formula::width() const {
     return extentOf(row_, pixels_).width;

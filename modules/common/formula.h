@@ -1,9 +1,9 @@
 #pragma once
 
+#include "common/formula_parts.h"
+
 #include <QPointF>
 #include <QString>
-
-#include <vector>
 
 class QPainter;
 
@@ -31,23 +31,9 @@ public:
     /// Paints in the painter's pen, the foot of the first letter at `baseline`.
     void paint(QPainter& painter, QPointF baseline) const;
 
-    struct Node;
-    using Row = std::vector<Node>;
-
 private:
-    Row row_;
+    FormulaRow row_;
     double pixels_ = 0;
-};
-
-/// Part of a formula.
-struct Formula::Node {
-    enum class Kind { Text, Scripts, Fraction, Root, Vector, Overline };
-
-    Kind kind = Kind::Text;
-    QString text;        ///< Text
-    bool italic = false; ///< Text
-    Row first;           ///< index; numerator; what is under root, arrow or bar
-    Row second;          ///< exponent; denominator
 };
 
 } // namespace common

@@ -1,8 +1,13 @@
 #include "common/french_number.h"
 
-#include <QLocale>
+#include "common/words.h"
+#include "text/numeric_reader.h"
 
+#include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
+#include <cstdio>
 
 namespace common {
 
@@ -12,67 +17,106 @@ constexpr char16_t kMinus = 0x2212;
 constexpr char16_t kThinBlank = 0x202F;
 
 /// No number that anyone types is longer.
-constexpr qsizetype kLongestNumber = 64;
+constexpr std::size_t kLongestNumber = 64;
 
 /// Four digits stand together.
-constexpr qsizetype kLeastGrouped = 5;
+constexpr std::size_t kLeastGrouped = 5;
 
-void groupDigits(QString& number) {
-    const qsizetype first = number.startsWith(QChar(kMinus)) ? 1 : 0;
-    const qsizetype comma = number.indexOf(u',');
-    const qsizetype end = comma < 0 ? number.size() : comma;
-    if (end - first < kLeastGrouped)
+/// A number has 309 digits before the point at most, and few after it are asked for.
+using Digits = std::array<char, 400>;
+
+std::string_view fixed(double magnitude, int decimals, Digits& buffer) {
+#ifdef __cpp_lib_to_chars
+    const char* const end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), magnitude,
+                                          std::chars_format::fixed, decimals)
+                                .ptr;
+    return {buffer.data(), static_cast<std::size_t>(end - buffer.data())};
+#else
+    // In browsers: no locale gives another point there, and to_chars would bring 100 KB of tables.
+    const int length = std::snprintf(buffer.data(), buffer.size(), "%.*f", decimals, magnitude);
+    return {buffer.data(), static_cast<std::size_t>(std::max(0, length))};
+#endif
+}
+
+void groupDigits(std::u16string& number) {
+    const std::size_t end = std::min(number.find(u','), number.size());
+    if (end < kLeastGrouped)
         return;
-    for (qsizetype at = end - 3; at > first; at -= 3)
-        number.insert(at, QChar(kThinBlank));
+    for (std::size_t at = end; at > 3;)
+        number.insert(at -= 3, 1, kThinBlank);
+}
+
+/// Digits with a point at most, then an exponent at most; a sign may stand before both.
+bool isNumber(std::u16string_view plain) {
+    const auto take = [&](std::u16string_view any) {
+        const bool found = !plain.empty() && any.find(plain.front()) != any.npos;
+        plain.remove_prefix(found ? 1 : 0);
+        return found;
+    };
+    const auto digits = [&] {
+        bool any = false;
+        while (take(u"0123456789"))
+            any = true;
+        return any;
+    };
+    take(u"+-");
+    bool any = digits();
+    if (take(u"."))
+        any = digits() || any;
+    if (any && take(u"eE")) {
+        take(u"+-");
+        any = digits();
+    }
+    return any && plain.empty();
 }
 
 } // namespace
 
-std::optional<double> numberFrom(const QString& text) {
+std::optional<double> numberFrom(std::u16string_view text) {
     if (text.size() > kLongestNumber)
         return std::nullopt;
-    QString plain;
-    for (const QChar character : text) {
-        if (character == QChar(kMinus))
+    std::u16string plain;
+    for (const char16_t character : text) {
+        if (character == kMinus)
             plain += u'-';
         else if (character == u',')
             plain += u'.';
-        else if (!character.isSpace())
+        else if (!isBlank(character))
             plain += character;
     }
-    bool isNumber = false;
-    const double value = QLocale::c().toDouble(plain, &isNumber);
-    // The C locale would take "1,000" for a thousand; here every comma is a decimal one.
-    if (!isNumber || !std::isfinite(value) || plain.count(u'.') > 1)
-        return std::nullopt;
-    return value;
+    const double value = isNumber(plain) ? text::leadingNumber(plain) : NAN;
+    return std::isfinite(value) ? std::optional(value) : std::nullopt;
 }
 
-QString frenchNumber(double value, int decimals) {
+std::u16string frenchNumber(double value, int decimals) {
     if (!std::isfinite(value))
-        return QStringLiteral("∞");
-    QString number = QString::number(std::fabs(value), 'f', decimals);
-    const bool isZero = number.count(u'0') + number.count(u'.') == number.size();
-    number.replace(u'.', u',');
-    if (value < 0 && !isZero)
-        number.prepend(QChar(kMinus));
+        return u"∞";
+    Digits buffer;
+    const std::string_view digits = fixed(std::fabs(value), decimals, buffer);
+    const bool isZero = digits.find_first_of("123456789") == digits.npos;
+    std::u16string number(digits.begin(), digits.end());
+    std::replace(number.begin(), number.end(), u'.', u',');
     groupDigits(number);
+    if (value < 0 && !isZero)
+        number.insert(0, 1, kMinus);
     return number;
 }
 
-QString frenchDigits(double value, int digits) {
+std::u16string frenchDigits(double value, int digits) {
     if (value == 0 || !std::isfinite(value))
         return frenchNumber(value, 0);
     const int beforeComma = static_cast<int>(std::floor(std::log10(std::fabs(value)))) + 1;
-    QString number = frenchNumber(value, qBound(0, digits - beforeComma, 6));
-    if (number.contains(u',')) {
-        while (number.endsWith(u'0'))
-            number.chop(1);
-        if (number.endsWith(u','))
-            number.chop(1);
+    std::u16string number = frenchNumber(value, std::clamp(digits - beforeComma, 0, 6));
+    if (number.find(u',') != number.npos) {
+        number.erase(number.find_last_not_of(u'0') + 1);
+        if (number.back() == u',')
+            number.pop_back();
     }
     return number;
+}
+
+std::u16string signedNumber(double value, int decimals) {
+    return (value > 0 ? u"+" : u"") + frenchNumber(value, decimals);
 }
 
 } // namespace common

@@ -1,6 +1,7 @@
 #include "common/law_page.h"
 
 #include "common/formula.h"
+#include "common/qt_text.h"
 #include "look/interface_font.h"
 #include "look/palette.h"
 #include "look/scroll_bar.h"
@@ -34,10 +35,10 @@ void LawPage::refresh() {
     double height = kMargin;
     double widest = 0;
     for (const Law& law : laws_) {
-        const Formula formula(law.formula, kFormulaPx);
+        const Formula formula(qtText(law.formula), kFormulaPx);
         widest = std::max(widest, formula.width());
-        height += law.formula.isEmpty() ? kHeadingHeight
-                                        : formula.ascent() + formula.descent() + kGapBelow;
+        height +=
+            law.formula.empty() ? kHeadingHeight : formula.ascent() + formula.descent() + kGapBelow;
     }
     setMinimumHeight(qCeil(height + kMargin));
     setMinimumWidth(qCeil(kFormulaLeft + widest + kMargin)); // narrower, one scrolls
@@ -49,18 +50,18 @@ void LawPage::paintEvent(QPaintEvent*) {
     painter.fillRect(rect(), QColor::fromRgb(look::kPaper));
     double y = kMargin;
     for (const Law& law : laws_) {
-        if (law.formula.isEmpty()) {
+        if (law.formula.empty()) {
             painter.setPen(QColor::fromRgb(look::kBlue));
             painter.setFont(look::interfaceFont(look::kLabelPx, look::Weight::Bold));
-            painter.drawText(QPointF(kMargin, y + 15), law.words);
+            painter.drawText(QPointF(kMargin, y + 15), qtText(law.words));
             y += kHeadingHeight;
             continue;
         }
-        const Formula formula(law.formula, kFormulaPx);
+        const Formula formula(qtText(law.formula), kFormulaPx);
         const double baseline = y + formula.ascent();
         painter.setPen(QColor::fromRgb(look::kMuted));
         painter.setFont(look::interfaceFont(look::kLabelPx));
-        painter.drawText(QPointF(kMargin, baseline), law.words);
+        painter.drawText(QPointF(kMargin, baseline), qtText(law.words));
         painter.setPen(QColor::fromRgb(look::kInk));
         formula.paint(painter, {kFormulaLeft, baseline});
         y = baseline + formula.descent() + kGapBelow;

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QString>
+#include "common/law.h"
+
 #include <QWidget>
 
 #include <functional>
@@ -9,12 +10,6 @@
 class QScrollArea;
 
 namespace common {
-
-/// A heading (without a formula) or a formula with what it is called.
-struct Law {
-    QString words;
-    QString formula;
-};
 
 /// Laws below each other, with their numbers.
 class LawPage : public QWidget {

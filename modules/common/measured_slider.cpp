@@ -1,6 +1,7 @@
 #include "common/measured_slider.h"
 
 #include "common/french_number.h"
+#include "common/qt_text.h"
 
 #include <QAccessibleWidget>
 
@@ -18,7 +19,8 @@ public:
         // "45°" but "20 m/s".
         const QString blank = scale.unit == u"°" ? QString() : QStringLiteral("\u00A0");
         if (kind == QAccessible::Value)
-            return frenchNumber(value(slider().value()), scale.decimals) + blank + scale.unit;
+            return qtText(frenchNumber(value(slider().value()), scale.decimals)) + blank +
+                   scale.unit;
         return QAccessibleWidget::text(kind);
     }
 

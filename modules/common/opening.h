@@ -1,5 +1,7 @@
 #pragma once
 
+#include "common/exercise_file.h"
+
 #include <QString>
 
 #include <functional>
@@ -29,14 +31,15 @@ struct Asked {
 /// The line for the pupil: `why` is one French sentence.
 QString notOpened(const QString& exercise, const QString& why);
 
-/// `read` takes a path, and gives an exercise or a reason.
+/// `parse` takes the text of an exercise's file, and gives an exercise or a reason.
 template <class Exercise>
 ExerciseOpening<Exercise> openingOf(const Asked& asked,
-                                    std::optional<Exercise> (*read)(const QString&, QString&)) {
+                                    std::optional<Exercise> (*parse)(std::u16string_view,
+                                                                     std::u16string&)) {
     ExerciseOpening<Exercise> opening{asked.opening, std::nullopt};
     QString why;
     if (!asked.exercise.isEmpty())
-        opening.exercise = read(asked.path, why);
+        opening.exercise = readExercise(asked.path, why, parse);
     if (!asked.exercise.isEmpty() && !opening.exercise)
         opening.notice = notOpened(asked.exercise, why);
     return opening;

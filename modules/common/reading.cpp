@@ -1,48 +1,15 @@
 #include "common/reading.h"
 
-#include "common/formula.h"
-#include "look/interface_font.h"
-#include "look/palette.h"
-
-#include <QPainter>
-#include <QStringList>
-
 namespace common {
 
-namespace {
-
-constexpr double kLeft = 10;
-constexpr double kNameWidth = 78;
-constexpr double kBaseline = 18;
-
-} // namespace
-
-double paintReadings(QPainter& painter, double top, double width, const ReadingGroup& group) {
-    const auto& [name, readings, perLine] = group;
-    painter.setFont(look::interfaceFont(look::kButtonPx));
-    painter.setPen(QColor::fromRgb(look::kMuted));
-    painter.drawText(QPointF(kLeft, top + kBaseline), name);
-    const double cell = (width - kNameWidth - 8) / static_cast<double>(perLine);
-    for (std::size_t i = 0; i < readings.size(); ++i) {
-        if (i > 0 && i % perLine == 0)
-            top += kReadingHeight;
-        const double x = kNameWidth + static_cast<double>(i % perLine) * cell;
-        painter.setPen(QColor::fromRgb(look::kMuted));
-        const Formula symbol(readings[i].name + QStringLiteral("\u00A0=\u00A0"), look::kLabelPx);
-        symbol.paint(painter, {x, top + kBaseline});
-        painter.setPen(QColor::fromRgb(look::kInk));
-        painter.setFont(look::interfaceFont(look::kLabelPx, look::Weight::Bold));
-        painter.drawText(QPointF(x + symbol.width(), top + kBaseline), readings[i].value);
+std::u16string readingsInWords(const ReadingGroup& group) {
+    std::u16string words = group.name + u"\u00A0:";
+    for (std::size_t i = 0; i < group.readings.size(); ++i) {
+        const Reading& one = group.readings[i];
+        words.append(i > 0 ? u" ; " : u" ").append(one.spoken.empty() ? one.name : one.spoken);
+        words.append(u"\u00A0= ").append(one.value);
     }
-    return top + kReadingHeight;
-}
-
-QString readingsInWords(const ReadingGroup& group) {
-    QStringList numbers;
-    for (const Reading& reading : group.readings)
-        numbers.append((reading.spoken.isEmpty() ? reading.name : reading.spoken) +
-                       QStringLiteral("\u00A0= ") + reading.value);
-    return group.name + QStringLiteral("\u00A0: ") + numbers.join(QStringLiteral(" ; ")) + u'.';
+    return words + u'.';
 }
 
 } // namespace common

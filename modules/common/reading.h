@@ -1,34 +1,26 @@
 #pragma once
 
-#include <QString>
-
+#include <string>
 #include <vector>
-
-class QPainter;
 
 namespace common {
 
-/// A quantity and what is read of it.
+/// A quantity and what is read of it; without a name the value, words or a formula, stands alone.
 struct Reading {
-    QString name;        ///< a formula
-    QString value;       ///< plain, with its unit
-    QString spoken = {}; ///< the name as a screen reader says it; empty when that is the same
+    std::u16string name;  ///< a formula
+    std::u16string value; ///< plain, with its unit
+    std::u16string spoken =
+        {}; ///< the name as a screen reader says it; empty when that is the same
 };
 
 /// Readings with a name in common, `perLine` at most beside each other.
 struct ReadingGroup {
-    QString name;
+    std::u16string name;
     std::vector<Reading> readings;
-    std::size_t perLine;
+    std::size_t perLine = 1;
 };
 
-inline constexpr int kReadingHeight = 26; ///< of a line, pixels
-
-/// Paints readings behind the name of their group. Returns the top of the next line. Pixels;
-/// `width` is that of the whole line.
-double paintReadings(QPainter& painter, double top, double width, const ReadingGroup& group);
-
-/// The same for who does not see it: "À l’instant : x = 2,00 m ; y = 3,00 m."
-QString readingsInWords(const ReadingGroup& group);
+/// For who does not see it: "À l’instant : x = 2,00 m ; y = 3,00 m."
+std::u16string readingsInWords(const ReadingGroup& group);
 
 } // namespace common

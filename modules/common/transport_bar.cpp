@@ -4,6 +4,7 @@
 #include "common/french_number.h"
 #include "common/measured_slider.h"
 #include "common/plain_label.h"
+#include "common/qt_text.h"
 #include "look/button.h"
 #include "look/tool_tip.h"
 
@@ -108,7 +109,7 @@ int TransportBar::positionAt(double time) const {
 void TransportBar::addRates() {
     auto* rates = new QComboBox;
     for (const double rate : kRates)
-        rates->addItem(QStringLiteral("×\u00A0") + frenchDigits(rate, 2));
+        rates->addItem(QStringLiteral("×\u00A0") + qtText(frenchDigits(rate, 2)));
     rates->setCurrentIndex(kUsualRate);
     rates->setAccessibleName(QStringLiteral("Vitesse de la simulation"));
     // Where the toolkit takes the line chosen for the name.

@@ -1,5 +1,7 @@
 #include "lens/bench.h"
 
+#include "common/words.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -84,24 +86,23 @@ void Bench::forgetMeasures() {
     measured_.tell();
 }
 
-QString describe(const Image& image) {
+std::u16string describe(const Image& image) {
     if (image.isAtInfinity())
-        return QStringLiteral("à l’infini\u00A0: les rayons sortent parallèles");
+        return u"à l’infini\u00A0: les rayons sortent parallèles";
     const double size = std::fabs(image.magnification());
-    return QStringLiteral("%1, %2, %3")
-        .arg(image.isReal() ? QStringLiteral("réelle") : QStringLiteral("virtuelle"),
-             image.isUpright() ? QStringLiteral("droite") : QStringLiteral("renversée"),
-             std::fabs(size - 1) < kSameSize ? QStringLiteral("de même taille")
-             : size > 1                      ? QStringLiteral("agrandie")
-                                             : QStringLiteral("réduite"));
+    return common::filled(u"%1, %2, %3", {image.isReal() ? u"réelle" : u"virtuelle",
+                                          image.isUpright() ? u"droite" : u"renversée",
+                                          std::fabs(size - 1) < kSameSize ? u"de même taille"
+                                          : size > 1                      ? u"agrandie"
+                                                                          : u"réduite"});
 }
 
-QString describeScreen(const Bench& bench) {
+std::u16string describeScreen(const Bench& bench) {
     if (bench.isSharp())
-        return QStringLiteral("image nette");
+        return u"image nette";
     if (!bench.hidesResults() && !bench.image().isReal())
-        return QStringLiteral("pas d’image ici");
-    return QStringLiteral("image floue");
+        return u"pas d’image ici";
+    return u"image floue";
 }
 
 } // namespace lens

@@ -69,9 +69,9 @@ private:
 };
 
 /// What the image is like: "réelle, renversée, agrandie"; "à l’infini".
-QString describe(const Image& image);
+std::u16string describe(const Image& image);
 
 /// What the screen shows: "image nette", "image floue".
-QString describeScreen(const Bench& bench);
+std::u16string describeScreen(const Bench& bench);
 
 } // namespace lens

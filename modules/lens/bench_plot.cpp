@@ -1,6 +1,6 @@
 #include "lens/bench_plot.h"
 
-#include "common/ticks.h"
+#include "lens/extent.h"
 #include "look/accessible_role.h"
 #include "look/interface_font.h"
 #include "look/palette.h"
@@ -24,22 +24,8 @@ constexpr double kReach = 10; ///< how near the pointer must be to what it moves
 constexpr double kPoint = 3;
 constexpr double kNamePx = 13;
 
-/// The drawing ends at multiples of this, cm, so that it mostly stands still.
-constexpr double kStep = 25;
-
-/// Of the drawing, around what stands in it.
-constexpr double kAir = 1.08;
-
-/// Images that are farther or higher than this, cm, lie outside of the drawing.
-constexpr double kFarthest = 250;
-constexpr double kHighest = 16;
-
 /// The colours of the rays in the course's figures.
 constexpr QRgb kRayInks[] = {look::kRed, look::kGreen, 0xffb46400};
-
-double roundedUp(double length) {
-    return std::ceil(length * kAir / kStep) * kStep;
-}
 
 QPen linePen(QRgb ink, double width, Qt::PenStyle style = Qt::SolidLine) {
     return QPen(QColor::fromRgb(ink), width, style, Qt::FlatCap);
@@ -83,27 +69,10 @@ void BenchPlot::fit() {
     // A scale that changes under the pointer while it pulls would be a nuisance.
     if (grip_ != Grip::None)
         return;
-    const Arrangement& arrangement = bench_.arrangement();
-    double before = arrangement.distance;
-    double behind = arrangement.screen;
-    double high = std::max(arrangement.height, kLensRadius);
-    if (!bench_.hidesLens()) {
-        before = std::max(before, arrangement.focalLength);
-        behind = std::max(behind, arrangement.focalLength);
-        const Image image = bench_.image();
-        const bool inSight = !image.isAtInfinity() && std::fabs(image.place()) <= kFarthest &&
-                             std::fabs(image.height()) <= kHighest;
-        if (inSight) {
-            (image.isReal() ? behind : before) =
-                std::max(image.isReal() ? behind : before, std::fabs(image.place()));
-            high = std::max(high, std::fabs(image.height()));
-        }
-    }
-    const double step = common::tickStep(high * kAir, 4);
-    const double most = std::ceil(high * kAir / step) * step;
+    const Extent extent = extentOf(bench_);
     const QRectF area =
         QRectF(rect()).adjusted(common::Axes::kLeft, kTop, -kRight, -common::Axes::kBelow);
-    axes_ = common::Axes(area, {-roundedUp(before), roundedUp(behind)}, {-most, most});
+    axes_ = common::Axes(area, {-extent.before, extent.behind}, {-extent.high, extent.high});
 }
 
 double BenchPlot::left() const {
@@ -198,11 +167,7 @@ void BenchPlot::paintBeam(QPainter& painter) const {
     QPainterPath beam;
     beam.setFillRule(Qt::WindingFill);
     // Straight lines stay so on axes with two scales: three corners each are enough.
-    const auto behind = [&](double height) {
-        // Through B′: where the line from the lens' rim is at the end of the drawing.
-        const double inverse = bench_.image().vergence() / 100;
-        return height + end * ((arrangement.height / arrangement.object()) - height * inverse);
-    };
+    const auto behind = [&](double height) { return beamHeight(arrangement, height, end); };
     beam.addPolygon(
         QPolygonF({pixel(tip), pixel({0, kLensRadius}), pixel({0, -kLensRadius}), pixel(tip)}));
     beam.addPolygon(QPolygonF({pixel({0, kLensRadius}), pixel({end, behind(kLensRadius)}),
@@ -215,8 +180,8 @@ void BenchPlot::paintRays(QPainter& painter) const {
     for (const Ray& ray : principalRays(bench_.arrangement(), left(), right())) {
         const QRgb ink = kRayInks[ray.number - 1];
         for (const Segment& part : ray.light) {
-            const QPointF from = pixel(part.from);
-            const QPointF to = pixel(part.to);
+            const QPointF from = axes_.pixel(part.from.x, part.from.y);
+            const QPointF to = axes_.pixel(part.to.x, part.to.y);
             painter.setPen(linePen(ink, 1.8));
             painter.drawLine(from, to);
             paintHead(painter, from, from + (to - from) * 0.45, 9, ink);
@@ -227,7 +192,8 @@ void BenchPlot::paintRays(QPainter& painter) const {
         pen.setDashPattern({4, 4});
         painter.setPen(pen);
         for (const Segment& part : ray.extension)
-            painter.drawLine(pixel(part.from), pixel(part.to));
+            painter.drawLine(axes_.pixel(part.from.x, part.from.y),
+                             axes_.pixel(part.to.x, part.to.y));
     }
 }
 

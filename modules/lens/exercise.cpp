@@ -1,8 +1,7 @@
 #include "lens/exercise.h"
 
 #include "common/french_number.h"
-
-#include <algorithm>
+#include "common/words.h"
 
 namespace lens {
 
@@ -10,16 +9,9 @@ namespace {
 
 using common::Entry;
 
-const Quantity* quantityOf(const QString& key) {
-    const auto* found =
-        std::find_if(kQuantities.begin(), kQuantities.end(),
-                     [&](const Quantity& one) { return key == QStringView(one.key); });
-    return found == kQuantities.end() ? nullptr : found;
-}
-
-bool takeLocks(Exercise& exercise, const QString& keys) {
-    for (const QString& key : keys.split(u' ', Qt::SkipEmptyParts)) {
-        const Quantity* found = quantityOf(key);
+bool takeLocks(Exercise& exercise, std::u16string_view keys) {
+    for (const std::u16string_view key : common::splitAtBlanks(keys)) {
+        const Quantity* found = common::ofKey(kQuantities, key);
         if (found == nullptr)
             return false;
         exercise.locked.insert(found->parameter);
@@ -29,7 +21,7 @@ bool takeLocks(Exercise& exercise, const QString& keys) {
 
 bool takeNumber(Arrangement& arrangement, const Entry& entry) {
     const std::optional<double> number = common::numberFrom(entry.value);
-    const Quantity* found = quantityOf(entry.key);
+    const Quantity* found = common::ofKey(kQuantities, entry.key);
     if (!number || found == nullptr)
         return false;
     // A diverging lens has a negative focal length.
@@ -44,17 +36,17 @@ bool takeNumber(Arrangement& arrangement, const Entry& entry) {
 }
 
 bool take(Exercise& exercise, const Entry& entry) {
-    if (entry.key == QStringLiteral("verrou"))
+    if (entry.key == u"verrou")
         return takeLocks(exercise, entry.value);
-    if (entry.key == QStringLiteral("cache"))
-        return exercise.hidesLens = entry.value == QStringLiteral("lentille");
+    if (entry.key == u"cache")
+        return exercise.hidesLens = entry.value == u"lentille";
     return takeNumber(exercise.arrangement, entry);
 }
 
 } // namespace
 
-std::optional<Exercise> readExercise(const QString& path, QString& why) {
-    return common::readExercise(path, take, why);
+std::optional<Exercise> parseExercise(std::u16string_view text, std::u16string& why) {
+    return common::parseExercise(text, take, why);
 }
 
 } // namespace lens

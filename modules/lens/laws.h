@@ -1,7 +1,10 @@
 #pragma once
 
-#include "common/law_page.h"
+#include "common/law.h"
 #include "lens/bench.h"
+
+#include <string>
+#include <vector>
 
 namespace lens {
 
@@ -9,7 +12,7 @@ namespace lens {
 std::vector<common::Law> lawsOf(const Bench& bench);
 
 /// "1/OA′ − 1/OA = 1,67 + 3,33 = 5,00 m⁻¹", a formula.
-QString conjugation(const Arrangement& arrangement);
+std::u16string conjugation(const Arrangement& arrangement);
 
 // Lengths with a sign, as formulas.
 inline constexpr const char16_t* kObjectPlace = u"\\overline{\\text{OA}}";
@@ -18,6 +21,6 @@ inline constexpr const char16_t* kObjectHeight = u"\\overline{\\text{AB}}";
 inline constexpr const char16_t* kImageHeight = u"\\overline{\\text{A′B′}}";
 
 /// "+60,0 cm"; a length with its sign.
-QString signedLength(double centimetres);
+std::u16string signedLength(double centimetres);
 
 } // namespace lens

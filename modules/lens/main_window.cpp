@@ -1,6 +1,7 @@
 #include "lens/main_window.h"
 
 #include "common/choices.h"
+#include "common/law_page.h"
 #include "common/plain_label.h"
 #include "lens/bench_panel.h"
 #include "lens/bench_plot.h"
@@ -99,7 +100,7 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
 common::SimulationKind simulationKind() {
     return {kModule, QStringLiteral(".E24"),
             [](const common::Asked& asked) -> std::unique_ptr<QWidget> {
-                return std::make_unique<MainWindow>(common::openingOf(asked, readExercise));
+                return std::make_unique<MainWindow>(common::openingOf(asked, parseExercise));
             }};
 }
 

@@ -2,16 +2,22 @@
 
 #include "lens/arrangement.h"
 
-#include <QPointF>
-
 #include <vector>
 
 namespace lens {
 
-/// Straight from one point to another, cm: x along the axis from O, y up from the axis.
+/// A place, cm: x along the axis from O, y up from the axis.
+struct Point {
+    double x = 0;
+    double y = 0;
+
+    bool operator==(const Point&) const = default;
+};
+
+/// Straight from one point to another.
 struct Segment {
-    QPointF from;
-    QPointF to;
+    Point from;
+    Point to;
 };
 
 /// One of the three rays from B by which one finds B′ without a calculation.

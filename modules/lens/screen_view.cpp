@@ -1,6 +1,7 @@
 #include "lens/screen_view.h"
 
 #include "common/french_number.h"
+#include "common/qt_text.h"
 #include "look/interface_font.h"
 #include "look/palette.h"
 #include "look/pixels.h"
@@ -98,7 +99,8 @@ ScreenView::ScreenView(Bench& bench, QWidget* parent) : QWidget(parent), bench_(
 }
 
 void ScreenView::show() {
-    setAccessibleName(QStringLiteral("Sur l’écran\u00A0: ") + describeScreen(bench_));
+    setAccessibleName(QStringLiteral("Sur l’écran\u00A0: ") +
+                      common::qtText(describeScreen(bench_)));
     update();
 }
 
@@ -127,13 +129,14 @@ void ScreenView::paintEvent(QPaintEvent*) {
     const double y = look::snapped(painter, kSide - 8);
     painter.drawLine(QPointF(6, y), QPointF(6 + length, y));
     painter.setFont(look::interfaceFont(look::kSmallPx));
-    painter.drawText(QPointF(6, y - 5), common::frenchDigits(bar, 2) + QStringLiteral("\u00A0cm"));
+    painter.drawText(QPointF(6, y - 5),
+                     common::qtText(common::frenchDigits(bar, 2)) + QStringLiteral("\u00A0cm"));
     const bool sharp = bench_.isSharp();
     painter.setFont(
         look::interfaceFont(look::kButtonPx, sharp ? look::Weight::Bold : look::Weight::Regular));
     painter.setPen(QColor::fromRgb(sharp ? look::kGreen : look::kMuted));
     painter.drawText(QRectF(0, kSide, kSide, kCaption), Qt::AlignHCenter | Qt::AlignBottom,
-                     describeScreen(bench_));
+                     common::qtText(describeScreen(bench_)));
 }
 
 } // namespace lens

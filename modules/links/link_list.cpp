@@ -1,6 +1,7 @@
 #include "links/link_list.h"
 
-#include "common/entry_file.h"
+#include "common/entries.h"
+#include "common/qt_text.h"
 
 #include <QFile>
 
@@ -27,23 +28,23 @@ bool areComplete(const std::vector<LinkGroup>& groups) {
 
 /// Takes one line; false when it is out of place.
 bool take(const common::Entry& entry, std::vector<LinkGroup>& groups) {
-    if (entry.key == QStringLiteral("groupe")) {
-        groups.push_back({entry.value, {}});
+    if (entry.key == u"groupe") {
+        groups.push_back({common::qtText(entry.value), {}});
         return true;
     }
     if (groups.empty())
         return false;
     std::vector<Link>& links = groups.back().links;
-    if (entry.key == QStringLiteral("nom")) {
-        links.push_back({entry.value, {}, {}});
+    if (entry.key == u"nom") {
+        links.push_back({common::qtText(entry.value), {}, {}});
         return true;
     }
     if (links.empty())
         return false;
-    if (entry.key == QStringLiteral("texte"))
-        links.back().description = entry.value;
-    else if (entry.key == QStringLiteral("adresse"))
-        links.back().address = QUrl(entry.value, QUrl::StrictMode);
+    if (entry.key == u"texte")
+        links.back().description = common::qtText(entry.value);
+    else if (entry.key == u"adresse")
+        links.back().address = QUrl(common::qtText(entry.value), QUrl::StrictMode);
     else
         return false;
     return true;
@@ -52,7 +53,7 @@ bool take(const common::Entry& entry, std::vector<LinkGroup>& groups) {
 } // namespace
 
 std::optional<std::vector<LinkGroup>> parseLinks(const QString& text) {
-    const auto entries = common::parseEntries(text);
+    const auto entries = common::parseEntries(common::utf16(text));
     if (!entries)
         return std::nullopt;
     std::vector<LinkGroup> groups;

@@ -3,6 +3,7 @@
 #include "common/axes.h"
 #include "common/formula.h"
 #include "common/french_number.h"
+#include "common/qt_text.h"
 #include "look/accessible_role.h"
 #include "look/interface_font.h"
 #include "look/palette.h"
@@ -58,10 +59,10 @@ double paintLegend(QPainter& painter, double x, double room, const Curve& curve,
     constexpr double kSample = 26;
     constexpr double kGaps = 24; ///< behind the piece of curve and behind the legend
     const auto legendWith = [&](const QString& words) {
-        return common::Formula(
-            QStringLiteral("%1\\text{%2\u00A0: %3\u00A0J}")
-                .arg(QString::fromUtf8(curve.name), words, common::frenchDigits(energy, 4)),
-            look::kLabelPx);
+        return common::Formula(QStringLiteral("%1\\text{%2\u00A0: %3\u00A0J}")
+                                   .arg(QString::fromUtf8(curve.name), words,
+                                        common::qtText(common::frenchDigits(energy, 4))),
+                               look::kLabelPx);
     };
     common::Formula legend = legendWith(u' ' + QString::fromUtf8(curve.words));
     if (kSample + legend.width() + kGaps > room)

@@ -1,6 +1,8 @@
 #include "projectile/exercise.h"
 
 #include "common/french_number.h"
+#include "common/words.h"
+#include "text/letters.h"
 
 #include <algorithm>
 #include <cmath>
@@ -15,9 +17,12 @@ using common::Entry;
 constexpr std::size_t kMostLandmarks = 8;
 
 /// In any letter case.
-std::optional<World> worldNamed(const QString& name) {
+std::optional<World> worldNamed(std::u16string_view name) {
+    const auto isSame = [](char16_t a, char16_t b) {
+        return text::lowerCase(a) == text::lowerCase(b);
+    };
     for (const World& world : kWorlds)
-        if (QString::fromUtf16(world.name).compare(name, Qt::CaseInsensitive) == 0)
+        if (std::ranges::equal(std::u16string_view(world.name), name, isSame))
             return world;
     return std::nullopt;
 }
@@ -35,7 +40,7 @@ private:
         const std::optional<double> number = common::numberFrom(entry.value);
         if (!number)
             return false;
-        const Quantity* found = quantityOf(entry.key);
+        const Quantity* found = common::ofKey(kQuantities, entry.key);
         if (found == nullptr || *number < found->least || *number > found->most)
             return false;
         exercise.launch.*found->value = *number;
@@ -43,18 +48,18 @@ private:
     }
 
     bool takeSituation(const Entry& entry) {
-        if (entry.key == QStringLiteral("astre"))
+        if (entry.key == u"astre")
             return takeWorld(entry.value);
-        if (entry.key == QStringLiteral("frottements"))
+        if (entry.key == u"frottements")
             return takeDrag(entry.value);
-        if (entry.key == QStringLiteral("verrou"))
+        if (entry.key == u"verrou")
             return takeLocks(entry.value);
-        if (entry.key == QStringLiteral("repere"))
+        if (entry.key == u"repere")
             return takeLandmark(entry.value);
         return false;
     }
 
-    bool takeWorld(const QString& name) {
+    bool takeWorld(std::u16string_view name) {
         const std::optional<World> world = worldNamed(name);
         if (!world)
             return false;
@@ -63,22 +68,21 @@ private:
         return true;
     }
 
-    bool takeDrag(const QString& name) {
-        const QStringList names = {QStringLiteral("aucun"), QStringLiteral("linéaires"),
-                                   QStringLiteral("quadratiques")};
-        const qsizetype which = names.indexOf(name);
-        if (which < 0)
+    bool takeDrag(std::u16string_view name) {
+        constexpr std::u16string_view kNames[] = {u"aucun", u"linéaires", u"quadratiques"};
+        const auto which = std::ranges::find(kNames, name) - std::begin(kNames);
+        if (which == std::ssize(kNames))
             return false;
         exercise.launch.drag = static_cast<Drag>(which);
         return true;
     }
 
-    bool takeLocks(const QString& keys) {
-        for (const QString& key : keys.split(u' ', Qt::SkipEmptyParts)) {
-            const Quantity* found = quantityOf(key);
+    bool takeLocks(std::u16string_view keys) {
+        for (const std::u16string_view key : common::splitAtBlanks(keys)) {
+            const Quantity* found = common::ofKey(kQuantities, key);
             if (found != nullptr)
                 exercise.locked.insert(found->parameter);
-            else if (key == QStringLiteral("frottements"))
+            else if (key == u"frottements")
                 exercise.dragLocked = true;
             else
                 return false;
@@ -86,22 +90,20 @@ private:
         return true;
     }
 
-    bool takeLandmark(const QString& text) {
-        const auto x = common::numberFrom(text.section(u' ', 0, 0));
-        const auto y = common::numberFrom(text.section(u' ', 1, 1));
-        const QString name = text.section(u' ', 2);
+    bool takeLandmark(std::u16string_view text) {
+        const auto word = [&text] {
+            const std::size_t end = std::min(text.find(u' '), text.size());
+            const std::u16string_view first = text.substr(0, end);
+            text.remove_prefix(std::min(end + 1, text.size()));
+            return first;
+        };
+        const auto x = common::numberFrom(word());
+        const auto y = common::numberFrom(word());
         const bool fits = x && y && std::fabs(*x) <= kFarthest && std::fabs(*y) <= kFarthest &&
                           exercise.landmarks.size() < kMostLandmarks;
         if (fits)
-            exercise.landmarks.push_back({*x, *y, name.toStdU16String()});
+            exercise.landmarks.push_back({*x, *y, std::u16string(text)});
         return fits;
-    }
-
-    static const Quantity* quantityOf(const QString& key) {
-        const auto* found =
-            std::find_if(kQuantities.begin(), kQuantities.end(),
-                         [&](const Quantity& one) { return key == QStringView(one.key); });
-        return found == kQuantities.end() ? nullptr : found;
     }
 
     /// Beyond any throw of the sliders' limits; m.
@@ -110,14 +112,7 @@ private:
 
 } // namespace
 
-std::optional<Exercise> readExercise(const QString& path, QString& why) {
-    Reader reader;
-    const auto take = [&](const Entry& entry) { return reader.take(entry); };
-    return common::readTask(path, reader.exercise, take, why) ? std::optional(reader.exercise)
-                                                              : std::nullopt;
-}
-
-std::optional<Exercise> parseExercise(const QString& text, QString& why) {
+std::optional<Exercise> parseExercise(std::u16string_view text, std::u16string& why) {
     Reader reader;
     const auto take = [&](const Entry& entry) { return reader.take(entry); };
     return common::parseTask(text, reader.exercise, take, why) ? std::optional(reader.exercise)

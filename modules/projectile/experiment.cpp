@@ -25,9 +25,15 @@ void Experiment::setLaunch(const Launch& launch) {
     changed_.tell();
 }
 
-void Experiment::setSituation(const Situation& situation) {
-    situation_ = situation;
-    setLaunch(situation.launch);
+void Experiment::setExercise(const Exercise& exercise) {
+    situation_ = exercise;
+    hidden_ = exercise.hidesResults;
+    setLaunch(exercise.launch);
+}
+
+void Experiment::reveal() {
+    hidden_ = false;
+    changed_.tell();
 }
 
 void Experiment::set(Parameter parameter, double number) {

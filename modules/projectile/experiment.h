@@ -2,8 +2,8 @@
 
 #include "common/listeners.h"
 #include "common/player.h"
+#include "projectile/exercise.h"
 #include "projectile/flight.h"
-#include "projectile/situation.h"
 
 #include <vector>
 
@@ -24,7 +24,10 @@ public:
     Moment now() const { return flight_.at(playback().time()); }
 
     /// The given numbers of an exercise: nothing below changes those any more that are locked.
-    void setSituation(const Situation& situation);
+    void setExercise(const Exercise& exercise);
+    /// What the flight comes to is withheld until a right answer was given.
+    bool hidesResults() const { return hidden_; }
+    void reveal();
     bool isLocked(Parameter parameter) const { return situation_.isLocked(parameter); }
     bool isDragLocked() const { return situation_.dragLocked; }
     const std::vector<Landmark>& landmarks() const { return situation_.landmarks; }
@@ -57,6 +60,7 @@ private:
     void setLaunch(const Launch& launch);
 
     Situation situation_;
+    bool hidden_ = false;
     Flight flight_;
     common::Player player_;
     std::vector<Flight> kept_;

@@ -1,30 +1,29 @@
 #include "projectile/launch_text.h"
 
 #include "common/french_number.h"
-
-#include <QStringList>
+#include "common/words.h"
 
 namespace projectile {
 
 namespace {
 
 /// "v_0 = 20 m/s": the name is a formula, the unit upright.
-QString formulaOf(const Distinction& one) {
+std::u16string formulaOf(const Distinction& one) {
     if (one.symbol == nullptr)
-        return QStringLiteral("\\text{%1}").arg(QString::fromUtf16(one.words));
-    const QString unit = QString::fromUtf16(one.unit);
-    const QString blank = unit == QStringLiteral("°") ? QString() : QStringLiteral("\u00A0");
-    return QStringLiteral("%1\u00A0=\u00A0%2\\text{%3%4}")
-        .arg(QString::fromUtf16(one.symbol), common::frenchDigits(one.value, 3), blank, unit);
+        return common::filled(u"\\text{%1}", {one.words});
+    const std::u16string_view unit = one.unit;
+    return common::filled(
+        u"%1\u00A0=\u00A0%2\\text{%3%4}",
+        {one.symbol, common::frenchDigits(one.value, 3), unit == u"°" ? u"" : u"\u00A0", unit});
 }
 
 } // namespace
 
-QString describe(const Launch& launch) {
-    QStringList parts;
+std::u16string describe(const Launch& launch) {
+    std::vector<std::u16string> parts;
     for (const Distinction& one : distinctions(launch))
-        parts += formulaOf(one);
-    return parts.join(QStringLiteral(", "));
+        parts.push_back(formulaOf(one));
+    return common::joined(parts, u", ");
 }
 
 } // namespace projectile

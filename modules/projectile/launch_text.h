@@ -2,12 +2,12 @@
 
 #include "projectile/launch.h"
 
-#include <QString>
+#include <string>
 
 namespace projectile {
 
 /// What tells a launch from others (distinctions()), as a formula: "v₀ = 20 m/s, α = 45°, sans
 /// air", symbols in italics, units upright.
-QString describe(const Launch& launch);
+std::u16string describe(const Launch& launch);
 
 } // namespace projectile

@@ -1,7 +1,9 @@
 #pragma once
 
-#include "common/law_page.h"
+#include "common/law.h"
 #include "projectile/flight.h"
+
+#include <vector>
 
 namespace projectile {
 

@@ -2,6 +2,8 @@
 
 #include "common/choices.h"
 #include "common/french_number.h"
+#include "common/law_page.h"
+#include "common/qt_text.h"
 #include "common/transport_bar.h"
 #include "projectile/energy_plot.h"
 #include "projectile/launch_panel.h"
@@ -28,12 +30,10 @@ MainWindow::MainWindow(const Opening& opening)
     : SimulationWindow(QStringLiteral("Mouvement d’un projectile"), kModule, opening,
                        opening.exercise ? &*opening.exercise : nullptr) {
     if (opening.exercise)
-        experiment_.setSituation(*opening.exercise);
-    readings_ = new Readings(experiment_);
-    readings_->setFlightHidden(opening.exercise && opening.exercise->hidesResults);
+        experiment_.setExercise(*opening.exercise);
     transport_ = transport();
     QTabWidget* const views = tabs();
-    arrange(new LaunchPanel(experiment_), {views, readings_, transport_}, views);
+    arrange(new LaunchPanel(experiment_), {views, new Readings(experiment_), transport_}, views);
 }
 
 QTabWidget* MainWindow::tabs() {
@@ -58,7 +58,8 @@ QWidget* MainWindow::trajectoryTab() {
 
 common::TransportBar* MainWindow::transport() {
     const auto reading = [this] {
-        const QString seconds = common::frenchNumber(experiment_.playback().time(), 2);
+        const QString seconds =
+            common::qtText(common::frenchNumber(experiment_.playback().time(), 2));
         return std::pair(QStringLiteral("t\u00A0=\u00A0%1\\text{\u00A0s}").arg(seconds),
                          QStringLiteral("t\u00A0=\u00A0%1\u00A0s").arg(seconds));
     };
@@ -76,14 +77,10 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
         SimulationWindow::keyPressEvent(event);
 }
 
-void MainWindow::showResults() {
-    readings_->setFlightHidden(false);
-}
-
 common::SimulationKind simulationKind() {
     return {kModule, QStringLiteral(".E21"),
             [](const common::Asked& asked) -> std::unique_ptr<QWidget> {
-                return std::make_unique<MainWindow>(common::openingOf(asked, readExercise));
+                return std::make_unique<MainWindow>(common::openingOf(asked, parseExercise));
             }};
 }
 

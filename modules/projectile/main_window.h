@@ -13,7 +13,6 @@ class TransportBar;
 
 namespace projectile {
 
-class Readings;
 class TrajectoryPlot;
 
 using Opening = common::ExerciseOpening<Exercise>;
@@ -25,7 +24,7 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
-    void showResults() override;
+    void showResults() override { experiment_.reveal(); }
 
 private:
     QTabWidget* tabs();
@@ -35,7 +34,6 @@ private:
     Experiment experiment_;
     TrajectoryPlot* plot_ = nullptr;
     common::TransportBar* transport_ = nullptr;
-    Readings* readings_ = nullptr;
 };
 
 /// Module 23.

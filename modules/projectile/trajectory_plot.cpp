@@ -2,6 +2,7 @@
 
 #include "common/formula.h"
 #include "common/french_number.h"
+#include "common/qt_text.h"
 #include "common/vector_painter.h"
 #include "look/accessible_role.h"
 #include "look/interface_font.h"
@@ -61,7 +62,8 @@ constexpr std::array<Stroke, Experiment::kMostKept> kStrokes = {{
 /// Part of a formula.
 QString metres(double value, double perPixel) {
     const int decimals = std::clamp(static_cast<int>(std::ceil(-std::log10(perPixel))), 0, 3);
-    return common::frenchNumber(value, decimals) + QStringLiteral("\\text{\u00A0m}");
+    return common::qtText(common::frenchNumber(value, decimals)) +
+           QStringLiteral("\\text{\u00A0m}");
 }
 
 } // namespace
@@ -258,7 +260,7 @@ void TrajectoryPlot::paintLegend(QPainter& painter) const {
         common::Formula formula;
     };
     const auto row = [](const Stroke& stroke, const Flight& flight) {
-        return Row{stroke, {describe(flight.launch()), look::kButtonPx}};
+        return Row{stroke, {common::qtText(describe(flight.launch())), look::kButtonPx}};
     };
     std::vector<Row> rows = {row({look::kBlue, Qt::SolidLine}, experiment_.flight())};
     for (std::size_t i = 0; i < experiment_.kept().size(); ++i)
@@ -300,9 +302,9 @@ void TrajectoryPlot::paintScales(QPainter& painter) const {
         painter.drawEllipse(QPointF(x + 4, y), kPoint, kPoint);
         painter.setPen(QColor::fromRgb(look::kMuted));
         const double interval = strobeInterval(experiment_.flight().duration());
-        painter.drawText(
-            QPointF(x + 14, y + 4),
-            QStringLiteral("un point toutes les %1\u00A0s").arg(common::frenchDigits(interval, 2)));
+        painter.drawText(QPointF(x + 14, y + 4),
+                         QStringLiteral("un point toutes les %1\u00A0s")
+                             .arg(common::qtText(common::frenchDigits(interval, 2))));
     }
 }
 

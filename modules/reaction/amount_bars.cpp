@@ -3,6 +3,7 @@
 #include "common/axes.h"
 #include "common/formula.h"
 #include "common/french_number.h"
+#include "common/qt_text.h"
 #include "look/accessible_role.h"
 #include "look/interface_font.h"
 #include "look/palette.h"
@@ -48,7 +49,7 @@ void AmountBars::show() {
     for (std::size_t i = 0; i < experiment_.reaction().count; ++i)
         amounts += QStringLiteral("%1\u00A0: %2\u00A0mol")
                        .arg(QString::fromUtf16(experiment_.reaction().all.at(i).name),
-                            common::frenchNumber(experiment_.amountNow(i), 2));
+                            common::qtText(common::frenchNumber(experiment_.amountNow(i), 2)));
     setAccessibleDescription(amounts.join(QStringLiteral(", ")));
     update();
 }
@@ -111,13 +112,14 @@ void AmountBars::paintBar(QPainter& painter, const common::Axes& axes, std::size
     painter.setPen(QColor::fromRgb(inks.edge));
     painter.drawText(
         QRectF(middle(axes, species) - room(axes) / 2, bar(now).top() - 20, room(axes), 18),
-        Qt::AlignCenter, common::frenchNumber(now, 2) + QStringLiteral("\u00A0mol"));
+        Qt::AlignCenter,
+        common::qtText(common::frenchNumber(now, 2)) + QStringLiteral("\u00A0mol"));
 }
 
 /// The formula, and below it what becomes of the species: words, since a colour is not enough.
 void AmountBars::paintName(QPainter& painter, const common::Axes& axes, std::size_t species) const {
     const Species& which = experiment_.reaction().all.at(species);
-    const common::Formula formula(formulaOf(which.formula), 15);
+    const common::Formula formula(common::qtText(formulaOf(which.formula)), 15);
     const double x = middle(axes, species);
     painter.setPen(QColor::fromRgb(look::kInk));
     formula.paint(painter, {x - formula.width() / 2, axes.area().bottom() + 20});

@@ -1,8 +1,8 @@
 #include "reaction/equation.h"
 
-#include <QStringList>
+#include "common/entries.h"
+#include "common/words.h"
 
-#include <algorithm>
 #include <optional>
 
 namespace reaction {
@@ -55,75 +55,66 @@ enum class Line { On, Below, Above };
 
 struct Sign {
     Line line;
-    QChar plain;
+    char16_t plain;
 };
 
 /// Where a sign stands, and as what.
-Sign signOf(QChar written) {
-    static const QString kBelow = QStringLiteral("₀₁₂₃₄₅₆₇₈₉");
-    static const QString kAbove = QStringLiteral("⁰¹²³⁴⁵⁶⁷⁸⁹⁺⁻");
-    static const QString kPlain = QStringLiteral("0123456789+−");
-    if (const qsizetype at = kBelow.indexOf(written); at >= 0)
+Sign signOf(char16_t written) {
+    constexpr std::u16string_view kBelow = u"₀₁₂₃₄₅₆₇₈₉";
+    constexpr std::u16string_view kAbove = u"⁰¹²³⁴⁵⁶⁷⁸⁹⁺⁻";
+    constexpr std::u16string_view kPlain = u"0123456789+−";
+    if (const std::size_t at = kBelow.find(written); at != kBelow.npos)
         return {Line::Below, kPlain[at]};
-    if (const qsizetype at = kAbove.indexOf(written); at >= 0)
+    if (const std::size_t at = kAbove.find(written); at != kAbove.npos)
         return {Line::Above, kPlain[at]};
     return {Line::On, written};
 }
 
-QString opening(Line line) {
-    return line == Line::Below   ? QStringLiteral("_{")
-           : line == Line::Above ? QStringLiteral("^{")
-                                 : QStringLiteral("\\text{");
+std::u16string_view opening(Line line) {
+    return line == Line::Below ? u"_{" : line == Line::Above ? u"^{" : u"\\text{";
 }
 
 /// The two sides, each species written by `write`.
 template <class Write>
-QString sides(const Reaction& reaction, Write write) {
-    QStringList reactants;
-    QStringList products;
-    for (const Species& one : reaction.species()) {
-        QStringList& side =
-            static_cast<std::size_t>(reactants.size()) < kReactants ? reactants : products;
-        const QString coefficient =
-            one.coefficient > 1 ? QString::number(one.coefficient) + u'\u00A0' : QString();
-        side += coefficient + write(one);
+std::u16string sides(const Reaction& reaction, Write write) {
+    std::u16string text;
+    for (std::size_t i = 0; i < reaction.count; ++i) {
+        const Species& one = reaction.all.at(i);
+        text += i == 0 ? u"" : i == kReactants ? u" → " : u" + ";
+        if (one.coefficient > 1)
+            text += common::decimal(one.coefficient) + u'\u00A0';
+        text += write(one);
     }
-    return reactants.join(QStringLiteral(" + ")) + QStringLiteral(" → ") +
-           products.join(QStringLiteral(" + "));
+    return text;
 }
 
 } // namespace
 
-const Reaction* reactionOf(const QString& key) {
-    const auto* found =
-        std::find_if(kReactions.begin(), kReactions.end(),
-                     [&](const Reaction& one) { return key == QStringView(one.key); });
-    return found == kReactions.end() ? nullptr : found;
+const Reaction* reactionOf(std::u16string_view key) {
+    return common::ofKey(kReactions, key);
 }
 
-QString formulaOf(const char16_t* species) {
-    QString formula;
+std::u16string formulaOf(std::u16string_view species) {
+    std::u16string formula;
     std::optional<Line> now;
-    for (const QChar written : QString::fromUtf16(species)) {
+    for (const char16_t written : species) {
         const Sign sign = signOf(written);
         if (now != sign.line)
-            formula += (now ? QStringLiteral("}") : QString()) + opening(sign.line);
+            formula.append(now ? u"}" : u"").append(opening(sign.line));
         now = sign.line;
         formula += sign.plain;
     }
     return formula + u'}';
 }
 
-QString equation(const Reaction& reaction) {
-    return sides(reaction, [](const Species& one) {
-        return QString::fromUtf16(one.formula) + QString::fromUtf16(one.state);
-    });
+std::u16string equation(const Reaction& reaction) {
+    return sides(reaction,
+                 [](const Species& one) { return std::u16string(one.formula) + one.state; });
 }
 
-QString equationFormula(const Reaction& reaction) {
+std::u16string equationFormula(const Reaction& reaction) {
     return sides(reaction, [](const Species& one) {
-        return formulaOf(one.formula) +
-               QStringLiteral("\\text{%1}").arg(QString::fromUtf16(one.state));
+        return formulaOf(one.formula) + common::filled(u"\\text{%1}", {one.state});
     });
 }
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QString>
-
 #include <array>
 #include <span>
+#include <string>
+#include <string_view>
 
 namespace reaction {
 
@@ -34,15 +34,15 @@ struct Reaction {
 extern const std::array<Reaction, 6> kReactions;
 
 /// The reaction of that key; null when there is none.
-const Reaction* reactionOf(const QString& key);
+const Reaction* reactionOf(std::u16string_view key);
 
 /// "Cu²⁺" as common::Formula sets it: letters upright, figures below and above the line.
-QString formulaOf(const char16_t* species);
+std::u16string formulaOf(std::u16string_view species);
 
 /// "CH₄(g) + 2 O₂(g) → CO₂(g) + 2 H₂O(g)", plain.
-QString equation(const Reaction& reaction);
+std::u16string equation(const Reaction& reaction);
 
 /// The same as a formula.
-QString equationFormula(const Reaction& reaction);
+std::u16string equationFormula(const Reaction& reaction);
 
 } // namespace reaction

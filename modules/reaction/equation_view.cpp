@@ -1,6 +1,7 @@
 #include "reaction/equation_view.h"
 
 #include "common/formula.h"
+#include "common/qt_text.h"
 #include "look/accessible_role.h"
 #include "look/interface_font.h"
 #include "look/palette.h"
@@ -28,23 +29,17 @@ EquationView::EquationView(Experiment& experiment, QWidget* parent)
     show();
 }
 
-QString EquationView::verdict() const {
-    return experiment_.hidesResults()
-               ? QStringLiteral("Réactif limitant\u00A0: à vous de le trouver.")
-               : describe(experiment_.mixture());
-}
-
 void EquationView::show() {
     look::setAccessibleRole(*this, QAccessible::StaticText);
-    setAccessibleName(equation(experiment_.reaction()));
-    setAccessibleDescription(verdict());
+    setAccessibleName(common::qtText(equation(experiment_.reaction())));
+    setAccessibleDescription(common::qtText(verdictOf(experiment_)));
     update();
 }
 
 void EquationView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     look::drawFrame(painter, rect(), 0, look::kRule, QColor::fromRgb(look::kPaper));
-    const QString source = equationFormula(experiment_.reaction());
+    const QString source = common::qtText(equationFormula(experiment_.reaction()));
     common::Formula formula(source, kFormulaPx);
     if (formula.width() > width() - 2 * kMargin)
         formula = common::Formula(source, kNarrowPx);
@@ -52,7 +47,8 @@ void EquationView::paintEvent(QPaintEvent*) {
     formula.paint(painter, {(width() - formula.width()) / 2, kEquationFoot});
     painter.setFont(look::interfaceFont(look::kLabelPx, look::Weight::Bold));
     painter.setPen(QColor::fromRgb(showsEnd(experiment_) ? look::kBlue : look::kMuted));
-    painter.drawText(QRectF(kMargin, 38, width() - 2 * kMargin, 20), Qt::AlignCenter, verdict());
+    painter.drawText(QRectF(kMargin, 38, width() - 2 * kMargin, 20), Qt::AlignCenter,
+                     common::qtText(verdictOf(experiment_)));
 }
 
 } // namespace reaction

@@ -15,7 +15,6 @@ protected:
     void paintEvent(QPaintEvent*) override;
 
 private:
-    QString verdict() const;
     void show();
 
     Experiment& experiment_;

@@ -1,6 +1,7 @@
 #include "reaction/exercise.h"
 
 #include "common/french_number.h"
+#include "common/words.h"
 
 namespace reaction {
 
@@ -9,16 +10,16 @@ namespace {
 using common::Entry;
 
 /// Place of the reactant that a key of a file names: "n1", "n2".
-std::optional<std::size_t> reactantOf(const QString& key) {
-    if (key == QStringLiteral("n1"))
+std::optional<std::size_t> reactantOf(std::u16string_view key) {
+    if (key == u"n1")
         return 0;
-    if (key == QStringLiteral("n2"))
+    if (key == u"n2")
         return 1;
     return std::nullopt;
 }
 
-bool takeLocks(Exercise& exercise, const QString& keys) {
-    for (const QString& key : keys.split(u' ', Qt::SkipEmptyParts)) {
+bool takeLocks(Exercise& exercise, std::u16string_view keys) {
+    for (const std::u16string_view key : common::splitAtBlanks(keys)) {
         const auto reactant = reactantOf(key);
         if (!reactant)
             return false;
@@ -28,9 +29,9 @@ bool takeLocks(Exercise& exercise, const QString& keys) {
 }
 
 bool take(Exercise& exercise, const Entry& entry) {
-    if (entry.key == QStringLiteral("verrou"))
+    if (entry.key == u"verrou")
         return takeLocks(exercise, entry.value);
-    if (entry.key == QStringLiteral("reaction")) {
+    if (entry.key == u"reaction") {
         const Reaction* found = reactionOf(entry.value);
         if (found != nullptr)
             exercise.mixture.reaction = found;
@@ -46,8 +47,8 @@ bool take(Exercise& exercise, const Entry& entry) {
 
 } // namespace
 
-std::optional<Exercise> readExercise(const QString& path, QString& why) {
-    return common::readExercise(path, take, why);
+std::optional<Exercise> parseExercise(std::u16string_view text, std::u16string& why) {
+    return common::parseExercise(text, take, why);
 }
 
 } // namespace reaction

@@ -14,8 +14,8 @@ struct Exercise : common::Task {
     std::array<bool, kReactants> locked = {};
 };
 
-/// Reads a file of modules/README.md's format. Absent, with one French sentence in `why`, when it
-/// is not there, or anything in it is missing, unknown or out of range.
-std::optional<Exercise> readExercise(const QString& path, QString& why);
+/// Reads the text of a file of modules/README.md's format. Absent, with one French sentence in
+/// `why`, when anything in it is missing, unknown or out of range.
+std::optional<Exercise> parseExercise(std::u16string_view text, std::u16string& why);
 
 } // namespace reaction

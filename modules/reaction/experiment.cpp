@@ -10,10 +10,10 @@ namespace {
 constexpr double kDuration = 5;
 
 /// "le dioxygène", "l’eau", "l’ion zinc".
-QString withArticle(const Species& species) {
-    const QString name = QString::fromUtf16(species.name);
-    const bool elided = QStringLiteral("aeiouéh").contains(name.front());
-    return (elided ? QStringLiteral("l’") : QStringLiteral("le ")) + name;
+std::u16string withArticle(const Species& species) {
+    const std::u16string_view name = species.name;
+    const bool elided = std::u16string_view(u"aeiouéh").find(name.front()) != name.npos;
+    return std::u16string(elided ? u"l’" : u"le ").append(name);
 }
 
 } // namespace
@@ -91,10 +91,9 @@ void Experiment::balance() {
         setMixture(*mixture);
 }
 
-QString describe(const Mixture& mixture) {
+std::u16string describe(const Mixture& mixture) {
     const auto limits = [&](std::size_t which) {
-        return QStringLiteral("Réactif limitant\u00A0: %1.")
-            .arg(withArticle(mixture.reaction->reactant(which)));
+        return u"Réactif limitant\u00A0: " + withArticle(mixture.reaction->reactant(which)) + u'.';
     };
     switch (mixture.limiting()) {
     case Limiting::First:
@@ -102,11 +101,16 @@ QString describe(const Mixture& mixture) {
     case Limiting::Second:
         return limits(1);
     case Limiting::Both:
-        return QStringLiteral("Mélange stœchiométrique\u00A0: il ne reste aucun réactif.");
+        return u"Mélange stœchiométrique\u00A0: il ne reste aucun réactif.";
     case Limiting::Nothing:
         break;
     }
-    return QStringLiteral("Il manque un réactif\u00A0: rien ne réagit.");
+    return u"Il manque un réactif\u00A0: rien ne réagit.";
+}
+
+std::u16string verdictOf(const Experiment& experiment) {
+    return experiment.hidesResults() ? u"Réactif limitant\u00A0: à vous de le trouver."
+                                     : describe(experiment.mixture());
 }
 
 } // namespace reaction

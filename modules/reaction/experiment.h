@@ -60,6 +60,9 @@ inline bool showsEnd(const Experiment& experiment) {
 }
 
 /// What is limiting, a sentence: "Réactif limitant : le dioxygène."
-QString describe(const Mixture& mixture);
+std::u16string describe(const Mixture& mixture);
+
+/// The same, as far as it may be told.
+std::u16string verdictOf(const Experiment& experiment);
 
 } // namespace reaction

@@ -1,38 +1,40 @@
 #include "reaction/laws.h"
 
 #include "common/french_number.h"
+#include "common/words.h"
 
 namespace reaction {
 
 namespace {
 
-QString mol(double amount) {
-    return common::frenchNumber(amount, 2) + QStringLiteral("\\text{\u00A0mol}");
+using common::decimal;
+using common::filled;
+using common::frenchNumber;
+
+std::u16string mol(double amount) {
+    return frenchNumber(amount, 2) + u"\\text{\u00A0mol}";
 }
 
-QString amountOf(const Species& species) {
-    return QStringLiteral("n\\text{(}%1\\text{)}").arg(formulaOf(species.formula));
+std::u16string amountOf(const Species& species) {
+    return filled(u"n\\text{(}%1\\text{)}", {formulaOf(species.formula)});
 }
 
 /// "n(O₂)/2 = 3,00 mol/2 = 1,50 mol", a formula.
-QString quotient(const Mixture& mixture, std::size_t reactant) {
+std::u16string quotient(const Mixture& mixture, std::size_t reactant) {
     const Species& species = mixture.reaction->reactant(reactant);
-    return QStringLiteral("\\frac{%1}{%2} = \\frac{%3}{%2} = %4")
-        .arg(amountOf(species), QString::number(species.coefficient),
-             mol(mixture.initial.at(reactant)), mol(mixture.quotient(reactant)));
+    return filled(u"\\frac{%1}{%2} = \\frac{%3}{%2} = %4",
+                  {amountOf(species), decimal(species.coefficient),
+                   mol(mixture.initial.at(reactant)), mol(mixture.quotient(reactant))});
 }
 
-QString atTheEnd(const Mixture& mixture, std::size_t species) {
+std::u16string atTheEnd(const Mixture& mixture, std::size_t species) {
     const Species& which = mixture.reaction->all.at(species);
     const double most = mixture.maximum();
-    const QString change = QStringLiteral("%1 × %2").arg(QString::number(which.coefficient),
-                                                         common::frenchNumber(most, 2));
-    const QString start =
-        species < kReactants
-            ? common::frenchNumber(mixture.initial.at(species), 2) + QStringLiteral(" − ")
-            : QString();
-    return QStringLiteral("%1 = %2%3 = %4")
-        .arg(amountOf(which), start, change, mol(mixture.amount(species, most)));
+    const std::u16string start =
+        species < kReactants ? frenchNumber(mixture.initial.at(species), 2) + u" − " : u"";
+    return filled(u"%1 = %2%3 × %4 = %5",
+                  {amountOf(which), start, decimal(which.coefficient), frenchNumber(most, 2),
+                   mol(mixture.amount(species, most))});
 }
 
 } // namespace
@@ -40,24 +42,20 @@ QString atTheEnd(const Mixture& mixture, std::size_t species) {
 std::vector<common::Law> lawsOf(const Experiment& experiment) {
     const Mixture& mixture = experiment.mixture();
     std::vector<common::Law> laws = {
-        {QStringLiteral("Équation"), {}},
-        {QStringLiteral("Réaction"), equationFormula(*mixture.reaction)},
-        {QStringLiteral("Quel réactif s’épuise le premier\u00A0?"), {}},
+        {u"Équation"},
+        {u"Réaction", equationFormula(*mixture.reaction)},
+        {u"Quel réactif s’épuise le premier\u00A0?"},
     };
     if (experiment.hidesResults()) {
-        laws.push_back({QStringLiteral("Le plus petit des"),
-                        QStringLiteral("\\frac{n}{\\text{nombre stœchiométrique}}")});
+        laws.push_back({u"Le plus petit des", u"\\frac{n}{\\text{nombre stœchiométrique}}"});
         return laws;
     }
     for (std::size_t i = 0; i < kReactants; ++i)
-        laws.push_back(
-            {QString::fromUtf16(mixture.reaction->reactant(i).name), quotient(mixture, i)});
-    laws.push_back({QStringLiteral("Le plus petit"),
-                    QStringLiteral("x_{\\text{max}} = %1").arg(mol(mixture.maximum()))});
-    laws.push_back({QStringLiteral("À l’état final"), {}});
+        laws.push_back({mixture.reaction->reactant(i).name, quotient(mixture, i)});
+    laws.push_back({u"Le plus petit", filled(u"x_{\\text{max}} = %1", {mol(mixture.maximum())})});
+    laws.push_back({u"À l’état final"});
     for (std::size_t i = 0; i < mixture.reaction->count; ++i)
-        laws.push_back(
-            {QString::fromUtf16(mixture.reaction->all.at(i).name), atTheEnd(mixture, i)});
+        laws.push_back({mixture.reaction->all.at(i).name, atTheEnd(mixture, i)});
     return laws;
 }
 

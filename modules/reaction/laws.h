@@ -1,7 +1,9 @@
 #pragma once
 
-#include "common/law_page.h"
+#include "common/law.h"
 #include "reaction/experiment.h"
+
+#include <vector>
 
 namespace reaction {
 

@@ -1,6 +1,8 @@
 #include "reaction/main_window.h"
 
 #include "common/french_number.h"
+#include "common/law_page.h"
+#include "common/qt_text.h"
 #include "common/transport_bar.h"
 #include "reaction/amount_bars.h"
 #include "reaction/equation_view.h"
@@ -46,7 +48,7 @@ QTabWidget* MainWindow::tabs() {
 
 common::TransportBar* MainWindow::transport() {
     const auto reading = [this] {
-        const QString x = common::frenchNumber(experiment_.progress(), 2);
+        const QString x = common::qtText(common::frenchNumber(experiment_.progress(), 2));
         return std::pair(QStringLiteral("x\u00A0=\u00A0%1\\text{\u00A0mol}").arg(x),
                          QStringLiteral("x\u00A0=\u00A0%1\u00A0mol").arg(x));
     };
@@ -66,7 +68,7 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
 common::SimulationKind simulationKind() {
     return {kModule, QStringLiteral(".E20"),
             [](const common::Asked& asked) -> std::unique_ptr<QWidget> {
-                return std::make_unique<MainWindow>(common::openingOf(asked, readExercise));
+                return std::make_unique<MainWindow>(common::openingOf(asked, parseExercise));
             }};
 }
 

@@ -2,6 +2,7 @@
 
 #include "common/number_row.h"
 #include "common/plain_label.h"
+#include "common/qt_text.h"
 #include "look/button.h"
 #include "look/tool_tip.h"
 
@@ -65,8 +66,9 @@ void MixturePanel::show() {
     for (std::size_t i = 0; i < kReactants; ++i) {
         const Species& species = reaction.reactant(i);
         const QString name = QString::fromUtf16(species.name);
-        rows_.at(i)->setName(QStringLiteral("\\text{%1 }%2").arg(name, formulaOf(species.formula)),
-                             QStringLiteral("Quantité initiale, ") + name);
+        rows_.at(i)->setName(
+            QStringLiteral("\\text{%1 }%2").arg(name, common::qtText(formulaOf(species.formula))),
+            QStringLiteral("Quantité initiale, ") + name);
         rows_.at(i)->show(experiment_.mixture().initial.at(i));
     }
     balance_->setEnabled(experiment_.canBalance());

@@ -6,9 +6,10 @@
 
 namespace {
 
-/// Stands beside this module.
-std::filesystem::path browserProgram() {
-    return platform::directoryOfModule([] {}) / ORVALENTE_WEB_PROGRAM;
+/// They stand beside this module.
+publish::BrowserPrograms browserPrograms() {
+    const std::filesystem::path directory = platform::directoryOfModule([] {});
+    return {directory / ORVALENTE_WEB_PROGRAM, directory / ORVALENTE_WEB_SIMULATIONS};
 }
 
 } // namespace
@@ -18,6 +19,6 @@ extern "C" Q_DECL_EXPORT void orvalentePublish(int& argc, char** argv,
                                                coursetool::Report& report) {
     const app::DrawingEnvironment environment(argc, argv);
     coursetool::ToolPictures pictures(request.course, request.drives, report);
-    publish::publishCourse(request, browserProgram(), environment.fonts, pictures,
+    publish::publishCourse(request, browserPrograms(), environment.fonts, pictures,
                            look::fieldPictures(), report);
 }

@@ -7,6 +7,7 @@
 #include "files/cause.h"
 #include "files/passing_folder.h"
 #include "page/numbers.h"
+#include "publish/exercise_files.h"
 #include "publish/films.h"
 #include "publish/page_data.h"
 #include "publish/scorm_package.h"
@@ -21,6 +22,7 @@
 #include <map>
 #include <optional>
 #include <set>
+#include <utility>
 
 namespace publish {
 
@@ -55,6 +57,13 @@ std::set<int> testChapters(const coursedata::ExerciseTables& tables) {
     return chapters;
 }
 
+/// What a site brings along whole.
+struct SiteParts {
+    QByteArray program;
+    QByteArray simulations;
+    QByteArray search; ///< the database
+};
+
 class Publisher {
 public:
     Publisher(const PublishRequest& request, const page::FontBook& fonts,
@@ -64,19 +73,22 @@ public:
         : fonts_(fonts), pictures_(pictures), fields_(fields), pages_(pages),
           tests_(testChapters(tables)), links_(pages, tests_), report_(report),
           site_(folder, report), faces_(fonts), drawings_(fonts, faces_),
-          films_(QString::fromStdString(coursetool::shown(request.course)), site_, report) {
+          folder_(QString::fromStdString(coursetool::shown(request.course))),
+          films_(folder_, site_, report) {
         records_.read(std::move(tables));
     }
 
     /// Where the site is, when it is whole.
-    const SiteFolder* publish(const QByteArray& program, const QByteArray& database) {
+    const SiteFolder* publish(const SiteParts& parts) {
         if (!site_.open())
             return nullptr;
         course_.insert(QStringLiteral("titre"), pages_.title());
         addPages();
         addTests();
-        addLarge(QStringLiteral("programme"), program);
-        addLarge(QStringLiteral("recherche"), database);
+        addExercises();
+        addLarge(QStringLiteral("programme"), parts.program);
+        addLarge(QStringLiteral("simulateur"), parts.simulations);
+        addLarge(QStringLiteral("recherche"), parts.search);
         const QByteArray faces = report_.hasFaults() ? QByteArray() : faces_.write(site_);
         if (report_.hasFaults())
             return nullptr;
@@ -147,6 +159,16 @@ private:
         course_.insert(QStringLiteral("tests"), list);
     }
 
+    void addExercises() {
+        QJsonObject files;
+        for (const auto& [module, exercises] : exercisesOfCourse(folder_)) {
+            const QString key = QStringLiteral("m%1").arg(module);
+            files.insert(key, site_.add(QStringLiteral("simulations/") + key, ".js",
+                                        script(key, exercises)));
+        }
+        course_.insert(QStringLiteral("simulations"), files);
+    }
+
     void addLarge(const QString& key, const QByteArray& bytes) {
         course_.insert(
             key, site_.add(QStringLiteral("programme/") + key, ".js", base64Script(key, bytes)));
@@ -163,6 +185,7 @@ private:
     SiteFolder site_;
     WebFaces faces_;
     DrawingWriter drawings_;
+    QString folder_; ///< of the course
     Films films_;
     QJsonObject course_; ///< what the site knows of all its pages
     QString firstPage_;  ///< its script
@@ -178,15 +201,20 @@ std::optional<QByteArray> read(const std::filesystem::path& path) {
 
 } // namespace
 
-void publishCourse(const PublishRequest& request, const std::filesystem::path& program,
+void publishCourse(const PublishRequest& request, const BrowserPrograms& programs,
                    const page::FontBook& fonts, markup::PictureSource& pictures,
                    const page::FieldPictures& fields, coursetool::Report& report) {
-    const auto browserProgram = read(program);
-    if (!browserProgram) {
-        report.fault({coursetool::shown(program.filename())},
-                     "le programme des navigateurs manque : « scripts/setup web » installe de quoi "
-                     "le construire");
-        return;
+    SiteParts parts;
+    for (const auto& [path, part] : {std::pair(&programs.course, &parts.program),
+                                     std::pair(&programs.simulations, &parts.simulations)}) {
+        const auto program = read(*path);
+        if (!program) {
+            report.fault({coursetool::shown(path->filename())},
+                         "le programme des navigateurs manque : « scripts/setup web » installe de "
+                         "quoi le construire");
+            return;
+        }
+        *part = *program;
     }
     auto pages = coursetool::CourseSheets::open(request.course, report);
     const auto database = coursetool::findDatabase(request.course, coursetool::kCourseFile, report);
@@ -203,8 +231,8 @@ void publishCourse(const PublishRequest& request, const std::filesystem::path& p
     const std::filesystem::path folder = packed ? packed->path() : request.output;
     Publisher publisher(request, fonts, pictures, fields, *pages, std::move(tables), folder,
                         report);
-    const SiteFolder* const site =
-        publisher.publish(*browserProgram, read(*database).value_or(QByteArray()));
+    parts.search = read(*database).value_or(QByteArray());
+    const SiteFolder* const site = publisher.publish(parts);
     if (site && request.scorm)
         packScorm(*site, pages->title(), request.output, report);
 }

@@ -53,15 +53,6 @@ QString programOf(int module) {
     return {};
 }
 
-/// Exercise that a launch code carries; empty for none.
-QString exerciseOf(int code) {
-    for (const LaunchExercise& exercise : kExercises) {
-        if (exercise.code == code)
-            return QString::fromLatin1(exercise.fileName);
-    }
-    return {};
-}
-
 const QString kRunning = QStringLiteral("OUI");
 const QString kNotRunning = QStringLiteral("NON");
 
@@ -99,6 +90,14 @@ QString programOfCode(std::int16_t code) {
     return programOf(code / 10);
 }
 
+QString exerciseOfCode(std::int16_t code) {
+    for (const LaunchExercise& exercise : kExercises) {
+        if (exercise.code == code)
+            return QString::fromLatin1(exercise.fileName);
+    }
+    return {};
+}
+
 Launcher::Launcher(SharedState& state, platform::MessageBoxes& messageBoxes,
                    platform::ProcessStarter& starter, platform::WindowActivator& activator,
                    ReportSink& reports)
@@ -126,7 +125,7 @@ void Launcher::launchModule(std::int16_t code) {
     if (module == 0)
         return reportUnknown(code);
     // Written before anything else is known, also when nothing is started in the end: meant so.
-    StatusFile(state_.StatusFilePath).write(StatusFile::kArgumentRecord, exerciseOf(code));
+    StatusFile(state_.StatusFilePath).write(StatusFile::kArgumentRecord, exerciseOfCode(code));
     const QString program = programOfCode(code);
     if (program.isEmpty())
         return reportUnknown(code);

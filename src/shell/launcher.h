@@ -12,6 +12,9 @@ namespace shell {
 /// File name of the program that a launch code starts; empty for a code that starts none.
 QString programOfCode(std::int16_t code);
 
+/// File name of the exercise that it carries; empty for none.
+QString exerciseOfCode(std::int16_t code);
+
 /// Starts the sibling programs ("modules") of the installation directory, and reads in the status
 /// file which of them run. The file is found through SharedState::InstallDir at every call.
 class Launcher {

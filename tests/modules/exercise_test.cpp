@@ -12,7 +12,7 @@ using common::Answer;
 namespace {
 
 Exercise shipped(const QString& number) {
-    return ::shipped(PROJECTILE_EXERCISES, number + ".E21", readExercise);
+    return ::shipped(PROJECTILE_EXERCISES, number + ".E21", parseExercise);
 }
 
 /// What the simulation itself answers to the question of an exercise.
@@ -57,22 +57,29 @@ TEST(Exercises, theShippedOnesAreAnsweredByTheSimulation) {
 }
 
 TEST(Exercises, readNumbersAsTheyAreTyped) {
-    QString why;
+    std::u16string why;
     const Exercise exercise =
-        parseExercise(QString::fromUtf8(kLeastTask) + "unite=m/s", why).value_or(Exercise());
+        parseExercise(common::utf16(QString::fromUtf8(kLeastTask) + "unite=m/s"), why)
+            .value_or(Exercise());
+    const auto judge = [&](const char* typed) {
+        return exercise.judge(QString::fromUtf8(typed).toStdU16String());
+    };
     for (const char* right : {"2,5", "2.5", " 2,40 ", "2,6", "2,5 m/s", "2,5m/s", "25e-1"})
-        EXPECT_EQ(exercise.judge(QString::fromUtf8(right)), Answer::Right) << right;
+        EXPECT_EQ(judge(right), Answer::Right) << right;
     for (const char* wrong : {"2,39", "-2,5", "\u22122,5", "2,5e300"})
-        EXPECT_EQ(exercise.judge(QString::fromUtf8(wrong)), Answer::Wrong) << wrong;
+        EXPECT_EQ(judge(wrong), Answer::Wrong) << wrong;
     for (const char* none :
          {"", "deux", "2,5 kg", "m/s 2,5", "2 m/s 5", "2,5 m/s m/s", "2,5,1", "nan", "inf", "m/s"})
-        EXPECT_EQ(exercise.judge(QString::fromUtf8(none)), Answer::NoNumber) << none;
+        EXPECT_EQ(judge(none), Answer::NoNumber) << none;
 }
 
 TEST(Exercises, damagedFilesAreRefusedWithAReason) {
     const QTemporaryDir directory;
     const QString path = directory.filePath("Exercice 03.E21");
     QString why;
+    const auto readExercise = [](const QString& file, QString& reason) {
+        return common::readExercise(file, reason, parseExercise);
+    };
     EXPECT_FALSE(readExercise(path, why));
     EXPECT_TRUE(why.contains("dossier")) << qPrintable(why);
     const QByteArray least = kLeastTask;

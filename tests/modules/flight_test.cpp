@@ -195,10 +195,10 @@ TEST(Experiment, holdsNumbersWithinLimitsAndLeavesLockedOnesAlone) {
     experiment.set(Parameter::Mass, -3);
     EXPECT_EQ(experiment.launch().speed, 60);
     EXPECT_EQ(experiment.launch().mass, 0.01);
-    Situation situation;
+    Exercise situation;
     situation.locked = {Parameter::Speed, Parameter::Gravity};
     situation.dragLocked = true;
-    experiment.setSituation(situation);
+    experiment.setExercise(situation);
     experiment.aim(33, 30);
     experiment.setWorld(kWorlds[1]);
     experiment.setDrag(Drag::Quadratic);
@@ -209,12 +209,12 @@ TEST(Experiment, holdsNumbersWithinLimitsAndLeavesLockedOnesAlone) {
 
 TEST(Experiment, isDescribedWithSymbolsInItalicsAndUnitsUpright) {
     Launch launch;
-    EXPECT_EQ(describe(launch), "v_0\u00A0=\u00A020\\text{\u00A0m/s}, α\u00A0=\u00A045\\text{°}");
+    EXPECT_EQ(describe(launch), u"v_0\u00A0=\u00A020\\text{\u00A0m/s}, α\u00A0=\u00A045\\text{°}");
     launch.gravity = 5;
     launch.drag = Drag::Quadratic;
-    EXPECT_TRUE(describe(launch).endsWith("d\u00A0=\u00A00,24\\text{\u00A0m}"));
+    EXPECT_TRUE(describe(launch).ends_with(u"d\u00A0=\u00A00,24\\text{\u00A0m}"));
     launch.airDensity = 0; // says where there is no air to act with
-    EXPECT_TRUE(describe(launch).endsWith("g\u00A0=\u00A05\\text{\u00A0m/s²}, \\text{sans air}"));
+    EXPECT_TRUE(describe(launch).ends_with(u"g\u00A0=\u00A05\\text{\u00A0m/s²}, \\text{sans air}"));
 }
 
 TEST(Experiment, keepsEachPathOnce) {

@@ -19,10 +19,10 @@ Arrangement arrangementOf(double distance, double focal) {
 }
 
 /// How far `point` is from the line through both ends, cm.
-double distance(const Segment& line, QPointF point) {
-    const QPointF along = line.to - line.from;
-    const QPointF to = point - line.from;
-    return std::fabs(along.x() * to.y() - along.y() * to.x()) / std::hypot(along.x(), along.y());
+double distance(const Segment& line, Point point) {
+    const Point along{line.to.x - line.from.x, line.to.y - line.from.y};
+    const Point to{point.x - line.from.x, point.y - line.from.y};
+    return std::fabs(along.x * to.y - along.y * to.x) / std::hypot(along.x, along.y);
 }
 
 } // namespace
@@ -44,7 +44,7 @@ TEST(Image, standsWhereTextbooksPutIt) {
         EXPECT_NEAR(image.place(), row.place, 1e-9) << row.distance << ' ' << row.focal;
         EXPECT_NEAR(image.magnification(), row.magnification, 1e-9) << row.distance;
         EXPECT_NEAR(image.height(), 2 * row.magnification, 1e-9);
-        EXPECT_EQ(describe(image), QString::fromUtf8(row.like));
+        EXPECT_EQ(common::qtText(describe(image)), QString::fromUtf8(row.like));
     }
     const Image far(arrangementOf(20, 20));
     EXPECT_TRUE(far.isAtInfinity());
@@ -67,28 +67,28 @@ TEST(Rays, meetInTheImageOfTheTipWhateverTheSetup) {
             const Image image(arrangement);
             if (image.isAtInfinity())
                 continue;
-            const QPointF tip(image.place(), image.height());
+            const Point tip{image.place(), image.height()};
             const std::vector<Ray> rays = principalRays(arrangement, -400, 400);
             ASSERT_EQ(rays.size(), 3U) << where << ' ' << focal;
             for (const Ray& ray : rays) {
-                EXPECT_EQ(ray.light[0].from, QPointF(-where, 2));
+                EXPECT_EQ(ray.light[0].from, (Point{-where, 2}));
                 EXPECT_EQ(ray.light[0].to, ray.light[1].from); // at the lens
-                EXPECT_EQ(ray.light[0].to.x(), 0);
+                EXPECT_EQ(ray.light[0].to.x, 0);
                 EXPECT_LT(distance(ray.light[1], tip), 1e-7) << where << ' ' << focal;
             }
             // What makes each of them easy to draw.
             EXPECT_LT(distance(rays[0].light[1], rays[0].light[0].from), 1e-9);
-            EXPECT_EQ(rays[1].light[0].to.y(), 2);
+            EXPECT_EQ(rays[1].light[0].to.y, 2);
             EXPECT_LT(distance(rays[1].light[1], {focal, 0}), 1e-9);
             EXPECT_LT(distance(rays[2].light[0], {-focal, 0}), 1e-9);
-            EXPECT_EQ(rays[2].light[1].to.y(), rays[2].light[1].from.y());
+            EXPECT_EQ(rays[2].light[1].to.y, rays[2].light[1].from.y);
         }
     }
 }
 
 TEST(Rays, areExtendedWhereLightOnlySeemsToComeFrom) {
     const auto ends = [](const Arrangement& arrangement, double left) {
-        std::vector<std::vector<QPointF>> all;
+        std::vector<std::vector<Point>> all;
         for (const Ray& ray : principalRays(arrangement, left, 100)) {
             all.emplace_back();
             for (const Segment& one : ray.extension)
@@ -96,7 +96,7 @@ TEST(Rays, areExtendedWhereLightOnlySeemsToComeFrom) {
         }
         return all;
     };
-    using Ends = std::vector<std::vector<QPointF>>;
+    using Ends = std::vector<std::vector<Point>>;
     EXPECT_EQ(ends(arrangementOf(30, 20), -100), (Ends{{}, {}, {}}));
     // A magnifying glass: back to B′, and the third ray as if it came from F.
     EXPECT_EQ(ends(arrangementOf(10, 20), -100),
@@ -104,11 +104,11 @@ TEST(Rays, areExtendedWhereLightOnlySeemsToComeFrom) {
     // B′ lies on the ray through O; the second comes from F′, the third goes to F.
     const Ends spread = ends(arrangementOf(30, -15), -100);
     EXPECT_TRUE(spread[0].empty());
-    EXPECT_EQ(spread[1].back(), QPointF(-15, 0));
-    EXPECT_EQ(spread[2].back(), QPointF(15, 0));
+    EXPECT_EQ(spread[1].back(), (Point{-15, 0}));
+    EXPECT_EQ(spread[2].back(), (Point{15, 0}));
     for (const auto& ray : ends(arrangementOf(19.9, 20), -50)) // far off the drawing
-        for (const QPointF& end : ray)
-            EXPECT_GE(end.x(), -50.001);
+        for (const Point& end : ray)
+            EXPECT_GE(end.x, -50.001);
     EXPECT_EQ(principalRays(arrangementOf(20, 20), -100, 100).size(),
               2U); // the third never meets the lens
 }
@@ -161,16 +161,16 @@ TEST(Bench, withholdsWhatAnExerciseAsksFor) {
     EXPECT_FALSE(bench.canFocus());
     // Not even that there is no image to be looked for.
     bench.set(Parameter::Distance, 10);
-    EXPECT_EQ(describeScreen(bench), "image floue");
+    EXPECT_EQ(describeScreen(bench), u"image floue");
     bench.reveal();
     EXPECT_FALSE(bench.hidesResults() || bench.hidesLens());
-    EXPECT_EQ(describeScreen(bench), "pas d’image ici");
+    EXPECT_EQ(describeScreen(bench), u"pas d’image ici");
 }
 
 TEST(LensExercises, theShippedOnesAreAnsweredByTheBench) {
     const auto answer = [](const QString& number) {
         Arrangement arrangement =
-            shipped(LENS_EXERCISES, number + ".E24", readExercise).arrangement;
+            shipped(LENS_EXERCISES, number + ".E24", parseExercise).arrangement;
         if (number == "01") // from where the image is, as a pupil finds it
             return 1 / (1 / Image(arrangement).place() + 1 / arrangement.distance);
         if (number == "03")
@@ -180,12 +180,13 @@ TEST(LensExercises, theShippedOnesAreAnsweredByTheBench) {
         return arrangement.distance;
     };
     for (const QString number : {"01", "02", "03"})
-        expectAnswered(shipped(LENS_EXERCISES, number + ".E24", readExercise), answer(number));
-    EXPECT_TRUE(shipped(LENS_EXERCISES, "01.E24", readExercise).hidesLens);
-    EXPECT_EQ(shipped(LENS_EXERCISES, "03.E24", readExercise).arrangement.kind, Kind::Diverging);
+        expectAnswered(shipped(LENS_EXERCISES, number + ".E24", parseExercise), answer(number));
+    EXPECT_TRUE(shipped(LENS_EXERCISES, "01.E24", parseExercise).hidesLens);
+    EXPECT_EQ(shipped(LENS_EXERCISES, "03.E24", parseExercise).arrangement.kind, Kind::Diverging);
 }
 
 TEST(LensExercises, damagedSituationsAreRefusedWithAReason) {
-    expectRefused(readExercise, {"distance=4", "distance=151", "focale=-4", "focale=0", "taille=-2",
-                                 "ecran=loin", "verrou=tout", "cache=tout", "vitesse=3"});
+    expectRefused(parseExercise,
+                  {"distance=4", "distance=151", "focale=-4", "focale=0", "taille=-2", "ecran=loin",
+                   "verrou=tout", "cache=tout", "vitesse=3"});
 }

@@ -82,7 +82,7 @@ TEST_F(LensWindow, pullsObjectAndScreenWithTheMouse) {
 
 TEST_F(LensWindow, anUnknownLensIsToldByTheScreenAloneUntilItIsFound) {
     Opening opening;
-    opening.exercise = shipped(LENS_EXERCISES, "01.E24", readExercise);
+    opening.exercise = shipped(LENS_EXERCISES, "01.E24", parseExercise);
     open(opening);
     EXPECT_EQ(image(), "image à trouver");
     EXPECT_FALSE(named<QSlider>("Distance focale")->isVisible());
@@ -93,7 +93,7 @@ TEST_F(LensWindow, anUnknownLensIsToldByTheScreenAloneUntilItIsFound) {
     for (auto* choice : window_->findChildren<QCheckBox*>())
         choice->toggle(); // as if somebody could
     EXPECT_EQ(plot->grab().toImage(), before);
-    auto* field = named<QLineEdit>(opening.exercise->question);
+    auto* field = named<QLineEdit>(common::qtText(opening.exercise->question));
     for (const auto& [typed, said] :
          {std::pair("20", "Ce n’est pas cela"), std::pair("12", "Juste")}) {
         field->setText(typed);

@@ -7,13 +7,13 @@
 #include <set>
 
 TEST(FrenchNumber, isWrittenAsInFrenchTexts) {
-    EXPECT_EQ(common::frenchNumber(-1234.5, 1), QStringLiteral("−1234,5"));
-    EXPECT_EQ(common::frenchNumber(-0.004, 2), "0,00");
-    EXPECT_EQ(common::frenchNumber(1234567.5, 0), QStringLiteral("1\u202F234\u202F568"));
-    EXPECT_EQ(common::frenchNumber(INFINITY, 2), QStringLiteral("∞"));
-    EXPECT_EQ(common::frenchDigits(0.058, 3), "0,058");
-    EXPECT_EQ(common::frenchDigits(12.4, 4), "12,4");
-    EXPECT_EQ(common::frenchDigits(1250.4, 3), "1250");
+    EXPECT_EQ(common::frenchNumber(-1234.5, 1), u"−1234,5");
+    EXPECT_EQ(common::frenchNumber(-0.004, 2), u"0,00");
+    EXPECT_EQ(common::frenchNumber(1234567.5, 0), u"1\u202F234\u202F568");
+    EXPECT_EQ(common::frenchNumber(INFINITY, 2), u"∞");
+    EXPECT_EQ(common::frenchDigits(0.058, 3), u"0,058");
+    EXPECT_EQ(common::frenchDigits(12.4, 4), u"12,4");
+    EXPECT_EQ(common::frenchDigits(1250.4, 3), u"1250");
     EXPECT_EQ(common::numberFrom(common::frenchNumber(-12345.5, 1)), -12345.5);
 }
 

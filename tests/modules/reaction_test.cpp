@@ -10,7 +10,7 @@ using namespace reaction;
 namespace {
 
 Mixture mixtureOf(const char* key, double first, double second) {
-    return {reactionOf(QString::fromUtf8(key)), {first, second}};
+    return {reactionOf(QString::fromUtf8(key).toStdU16String()), {first, second}};
 }
 
 /// Atoms and charge of a formula such as "Cu(OH)₂" or "Zn²⁺"; the charge under "+".
@@ -58,20 +58,19 @@ TEST(Reactions, keepAtomsAndCharge) {
                 balance[element] += (i < kReactants ? 1 : -1) * count * reaction.all[i].coefficient;
         }
         for (const auto& [element, count] : balance)
-            EXPECT_EQ(count, 0) << qPrintable(equation(reaction) + ' ' + element);
-        EXPECT_EQ(reactionOf(QString::fromUtf16(reaction.key)), &reaction);
+            EXPECT_EQ(count, 0) << qPrintable(common::qtText(equation(reaction)) + ' ' + element);
+        EXPECT_EQ(reactionOf(reaction.key), &reaction);
     }
-    EXPECT_EQ(reactionOf("feu"), nullptr);
+    EXPECT_EQ(reactionOf(u"feu"), nullptr);
 }
 
 TEST(Reactions, areWrittenAsInTextbooks) {
-    EXPECT_EQ(equation(kReactions[1]),
-              QStringLiteral("C₃H₈(g) + 5\u00A0O₂(g) → 3\u00A0CO₂(g) + 4\u00A0H₂O(g)"));
-    EXPECT_EQ(equation(kReactions[2]), QStringLiteral("2\u00A0H₂(g) + O₂(g) → 2\u00A0H₂O(g)"));
-    EXPECT_EQ(formulaOf(u"C₃H₈"), "\\text{C}_{3}\\text{H}_{8}");
-    EXPECT_EQ(formulaOf(u"Zn²⁺"), QStringLiteral("\\text{Zn}^{2+}"));
-    EXPECT_EQ(formulaOf(u"HO⁻"), QStringLiteral("\\text{HO}^{−}"));
-    EXPECT_EQ(formulaOf(u"Al"), "\\text{Al}");
+    EXPECT_EQ(equation(kReactions[1]), u"C₃H₈(g) + 5\u00A0O₂(g) → 3\u00A0CO₂(g) + 4\u00A0H₂O(g)");
+    EXPECT_EQ(equation(kReactions[2]), u"2\u00A0H₂(g) + O₂(g) → 2\u00A0H₂O(g)");
+    EXPECT_EQ(formulaOf(u"C₃H₈"), u"\\text{C}_{3}\\text{H}_{8}");
+    EXPECT_EQ(formulaOf(u"Zn²⁺"), u"\\text{Zn}^{2+}");
+    EXPECT_EQ(formulaOf(u"HO⁻"), u"\\text{HO}^{−}");
+    EXPECT_EQ(formulaOf(u"Al"), u"\\text{Al}");
 }
 
 TEST(Mixture, endsWhenTheLimitingReactantIsUsedUp) {
@@ -116,8 +115,7 @@ TEST(ReactionExperiment, runsFromTheStartToTheEndAndStartsOverWithAnotherMixture
     experiment.setInitial(0, -1); // held at nothing
     EXPECT_FALSE(experiment.player().playback().duration() > 0);
     EXPECT_EQ(experiment.progress(), 0);
-    EXPECT_EQ(describe(experiment.mixture()),
-              QStringLiteral("Il manque un réactif\u00A0: rien ne réagit."));
+    EXPECT_EQ(describe(experiment.mixture()), u"Il manque un réactif\u00A0: rien ne réagit.");
     experiment.setInitial(0, 100);
     EXPECT_EQ(experiment.mixture().initial[0], 6);
 }
@@ -153,7 +151,7 @@ TEST(ReactionExperiment, changesOneAmountSoThatNothingRemains) {
 
 TEST(ReactionExercises, theShippedOnesAreAnsweredByTheReaction) {
     const auto exercise = [](const char* number) {
-        return shipped(REACTION_EXERCISES, QString::fromUtf8(number) + ".E20", readExercise);
+        return shipped(REACTION_EXERCISES, QString::fromUtf8(number) + ".E20", parseExercise);
     };
     const Mixture propane = exercise("03").mixture;
     expectAnswered(exercise("03"), propane.amount(2, propane.maximum()));
@@ -171,6 +169,6 @@ TEST(ReactionExercises, theShippedOnesAreAnsweredByTheReaction) {
 }
 
 TEST(ReactionExercises, damagedSituationsAreRefusedWithAReason) {
-    expectRefused(readExercise,
+    expectRefused(parseExercise,
                   {"reaction=feu", "n1=7", "n2=-1", "n3=1", "n1=peu", "verrou=n3", "cache=tout"});
 }

@@ -20,7 +20,8 @@ protected:
     QString amounts() { return named<QWidget>("Quantités de matière")->accessibleDescription(); }
     /// What a screen reader hears below the equation.
     QString verdict(std::size_t reaction = 0) {
-        return named<QWidget>(equation(kReactions.at(reaction)))->accessibleDescription();
+        return named<QWidget>(common::qtText(equation(kReactions.at(reaction))))
+            ->accessibleDescription();
     }
     /// The table as it is copied for a spreadsheet.
     QStringList table() {
@@ -73,13 +74,13 @@ TEST_F(ReactionWindow, theTableTellsEachStateOfEachReaction) {
 
 TEST_F(ReactionWindow, withholdsTheEndUntilARightAnswer) {
     Opening opening;
-    opening.exercise = shipped(REACTION_EXERCISES, "03.E20", readExercise);
+    opening.exercise = shipped(REACTION_EXERCISES, "03.E20", parseExercise);
     open(opening);
     EXPECT_FALSE(named<QComboBox>("Réaction")->isEnabled());
     EXPECT_FALSE(named<QSlider>("Quantité initiale, propane")->isEnabled());
     EXPECT_EQ(verdict(1), QStringLiteral("Réactif limitant\u00A0: à vous de le trouver."));
     EXPECT_EQ(table().last(), "état final\t?\t?\t?\t?\t?");
-    auto* field = named<QLineEdit>(opening.exercise->question);
+    auto* field = named<QLineEdit>(common::qtText(opening.exercise->question));
     for (const auto& [typed, said] :
          {std::pair("4,5", "Ce n’est pas cela"), std::pair("3.6 mol", "Juste")}) {
         field->setText(typed);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "common/exercise_file.h"
+#include "common/qt_text.h"
 #include "common/task.h"
 #include "support/files.h"
 
@@ -17,10 +19,10 @@ inline constexpr const char* kLeastTask =
 /// "Exercice 03.E21" for "03.E21" of a module's folder of exercises.
 template <class Exercise>
 Exercise shipped(const char* folder, const QString& end,
-                 std::optional<Exercise> (*read)(const QString&, QString&)) {
+                 std::optional<Exercise> (*parse)(std::u16string_view, std::u16string&)) {
     QString why;
-    const auto found =
-        read(QStringLiteral("%1/Exercice %2").arg(QString::fromUtf8(folder), end), why);
+    const auto found = common::readExercise(
+        QStringLiteral("%1/Exercice %2").arg(QString::fromUtf8(folder), end), why, parse);
     EXPECT_TRUE(found) << qPrintable(end + ' ' + why);
     return found.value_or(Exercise());
 }
@@ -29,26 +31,27 @@ Exercise shipped(const char* folder, const QString& end,
 /// explained.
 inline void expectAnswered(const common::Task& task, double found) {
     const QString answer = QString::number(found, 'f', 3).replace('.', ',');
-    EXPECT_EQ(task.judge(answer), common::Answer::Right) << qPrintable(task.title + ' ' + answer);
-    EXPECT_EQ(task.judge("1"), common::Answer::Wrong);
-    EXPECT_FALSE(task.whenRight.isEmpty() || task.whenWrong.isEmpty());
+    EXPECT_EQ(task.judge(common::utf16(answer)), common::Answer::Right)
+        << qPrintable(common::qtText(task.title) + ' ' + answer);
+    EXPECT_EQ(task.judge(u"1"), common::Answer::Wrong);
+    EXPECT_FALSE(task.whenRight.empty() || task.whenWrong.empty());
 }
 
 /// That each of these lines makes a file invalid that is right without it.
 template <class Exercise>
-void expectRefused(std::optional<Exercise> (*read)(const QString&, QString&),
+void expectRefused(std::optional<Exercise> (*parse)(std::u16string_view, std::u16string&),
                    const std::vector<const char*>& lines) {
     const QTemporaryDir directory;
     const QString path = directory.filePath("Exercice.txt");
     QString why;
-    EXPECT_FALSE(read(path, why));
+    EXPECT_FALSE(common::readExercise(path, why, parse));
     EXPECT_TRUE(why.contains("dossier")) << qPrintable(why);
     test_support::writeFile(path, kLeastTask);
-    EXPECT_TRUE(read(path, why)) << qPrintable(why);
+    EXPECT_TRUE(common::readExercise(path, why, parse)) << qPrintable(why);
     for (const char* line : lines) {
         test_support::writeFile(path, QByteArray(kLeastTask) + line + '\n');
         why.clear();
-        EXPECT_FALSE(read(path, why)) << line;
+        EXPECT_FALSE(common::readExercise(path, why, parse)) << line;
         EXPECT_FALSE(why.isEmpty()) << line;
     }
 }

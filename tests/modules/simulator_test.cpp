@@ -1,4 +1,5 @@
 #include "common/number_row.h"
+#include "common/qt_text.h"
 #include "common/simulation.h"
 #include "modules/window_case.h"
 #include "projectile/main_window.h"
@@ -98,12 +99,13 @@ TEST_F(SimulatorTest, theTableIsCopiedForASpreadsheet) {
 TEST_F(SimulatorTest, anExerciseIsAnsweredAndExplained) {
     Opening opening;
     QString why;
-    opening.exercise = readExercise(PROJECTILE_EXERCISES "/Exercice 03.E21", why);
+    opening.exercise =
+        common::readExercise(PROJECTILE_EXERCISES "/Exercice 03.E21", why, parseExercise);
     ASSERT_TRUE(opening.exercise) << qPrintable(why);
     open(opening);
     EXPECT_FALSE(named<QSlider>("Angle de lancement")->isEnabled());
     EXPECT_TRUE(named<QSlider>("Vitesse initiale")->isEnabled());
-    auto* field = named<QLineEdit>(opening.exercise->question);
+    auto* field = named<QLineEdit>(common::qtText(opening.exercise->question));
     for (const auto& [typed, said] :
          {std::pair("abc", "Tapez un nombre"), std::pair("3", "Ce n’est pas cela"),
           std::pair("2.02", "Juste")}) {
@@ -188,10 +190,11 @@ TEST_F(SimulatorTest, offersTheNextExerciseAfterARightAnswer) {
     };
     const auto answer = [&](const char* exercise, const QString& typed) {
         QString why;
-        const auto read = readExercise(
-            QStringLiteral(PROJECTILE_EXERCISES "/") + QString::fromLatin1(exercise), why);
+        const auto read = common::readExercise(QStringLiteral(PROJECTILE_EXERCISES "/") +
+                                                   QString::fromLatin1(exercise),
+                                               why, parseExercise);
         for (auto* field : simulation.window().findChildren<QLineEdit*>())
-            if (field->accessibleName() == read->question) {
+            if (field->accessibleName() == common::qtText(read->question)) {
                 field->setText(typed);
                 QTest::keyClick(field, Qt::Key_Return);
             }
@@ -207,9 +210,10 @@ TEST_F(SimulatorTest, offersTheNextExerciseAfterARightAnswer) {
     EXPECT_FALSE(next()->isVisible());
     simulation.lookForExercise(); // coming to the front again changes nothing
     QString why;
-    const auto last = readExercise(PROJECTILE_EXERCISES "/Exercice 05.E21", why);
+    const auto last =
+        common::readExercise(PROJECTILE_EXERCISES "/Exercice 05.E21", why, parseExercise);
     QStringList labels;
     for (const QLabel* label : simulation.window().findChildren<QLabel*>())
         labels += label->text();
-    EXPECT_TRUE(labels.contains(last->title)) << qPrintable(labels.join('|'));
+    EXPECT_TRUE(labels.contains(common::qtText(last->title))) << qPrintable(labels.join('|'));
 }

@@ -12,7 +12,8 @@
  * @typedef {{sorte: string, rang: number, x: number, y: number, l: number, h: number, nom: string, vers?: string, fin?: number}} FieldData
  * @typedef {{dessin: string, texte: string, champs: FieldData[]}} QuestionData
  * @typedef {{chapitre: number, titre: string, nombre: number, questions: {type: number, solution: string | null, seule: QuestionData, commentaire: QuestionData}[]}} TestData
- * @typedef {{titre: string, debut: number, pages: PageEntry[], tests: TestEntry[], programme: string, recherche: string}} CourseData
+ * @typedef {{exercices: {nom: string, texte: string}[], codes: Record<string, string>}} ExerciseFiles
+ * @typedef {{titre: string, debut: number, simulations: Record<string, string>, pages: PageEntry[], tests: TestEntry[], programme: string, simulateur: string, recherche: string}} CourseData
  */
 const orvalente = {
     /** @type {Map<string, any>} */
@@ -63,8 +64,8 @@ class Course {
     /** @param {CourseData} data */
     constructor(data) {
         this.data = data;
-        /** @type {Promise<Program> | null} */
-        this.starting = null;
+        /** @type {Map<'programme' | 'simulateur', Promise<Program>>} */
+        this.starting = new Map();
         /** @type {Promise<string> | null} */
         this.opening = null;
     }
@@ -116,11 +117,28 @@ class Course {
         return entry ? orvalente.load(`t${chapter}`, entry.fichier) : Promise.reject(new Error(`t${chapter}`));
     }
 
-    /** @returns {Promise<Program>} */
-    program() {
-        this.starting ??= orvalente.load('programme', this.data.programme).then((base64) => Program.load(bytesOf(base64)));
-        this.starting.catch(() => { this.starting = null; });
-        return this.starting;
+    /**
+     * The exercises of a simulation.
+     * @param {number} module
+     * @returns {Promise<ExerciseFiles>}
+     */
+    exercises(module) {
+        const file = this.data.simulations[`m${module}`];
+        return file ? orvalente.load(`m${module}`, file) : Promise.resolve({ exercices: [], codes: {} });
+    }
+
+    /**
+     * Calculator, tests and search, or the simulations.
+     * @param {'programme' | 'simulateur'} [name]
+     * @returns {Promise<Program>}
+     */
+    program(name = 'programme') {
+        const known = this.starting.get(name);
+        if (known) return known;
+        const starting = orvalente.load(name, this.data[name]).then((base64) => Program.load(bytesOf(base64)));
+        this.starting.set(name, starting);
+        starting.catch(() => this.starting.delete(name));
+        return starting;
     }
 
     /** The program with the pages ready to be searched. */

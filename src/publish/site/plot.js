@@ -38,16 +38,6 @@ function symbolParts(symbol) {
 }
 
 /**
- * A symbol within words: letters in italics, numbers below them upright.
- * @param {string} symbol
- * @returns {HTMLElement}
- */
-function symbolInWords(symbol) {
-    const { letter, below } = symbolParts(symbol);
-    return element('span', { class: 'symbole' }, element('i', {}, letter), below && element('sub', {}, below));
-}
-
-/**
  * A symbol in a drawing; with an arrow over it for a vector.
  * @param {string} symbol
  * @param {{x: number, y: number, ink: string, isVector?: boolean, behind?: string}} how `x`, `y`: where its baseline starts
@@ -97,6 +87,16 @@ class Axes {
         return this.area.bottom - (value - this.rangeY.from) / (this.rangeY.to - this.rangeY.from) * (this.area.bottom - this.area.top);
     }
 
+    /** @param {number} pixel */
+    valueX(pixel) {
+        return this.rangeX.from + (pixel - this.area.left) / (this.area.right - this.area.left) * (this.rangeX.to - this.rangeX.from);
+    }
+
+    /** @param {number} pixel */
+    valueY(pixel) {
+        return this.rangeY.from + (this.area.bottom - pixel) / (this.area.bottom - this.area.top) * (this.rangeY.to - this.rangeY.from);
+    }
+
     /**
      * A line through points of quantities.
      * @param {[number, number][]} points
@@ -115,24 +115,50 @@ class Axes {
         const { left, right, top, bottom } = this.area;
         const lines = drawn('g', { stroke: INKS.grid, 'shape-rendering': 'crispEdges' });
         const labels = drawn('g', { fill: INKS.muted, 'font-size': 12 });
-        const ticksOf = (/** @type {AxisPart} */ { from, to }, /** @type {number} */ length, /** @type {number} */ each) =>
-            program.askNumbers('axisTicks', from, to, Math.floor(length / each));
-        const [decimalsX, ...across] = ticksOf(this.rangeX, right - left, PIXELS_PER_TICK.across);
+        const [decimals, ...across] = program.askNumbers('axisTicks', this.rangeX.from, this.rangeX.to, Math.floor((right - left) / PIXELS_PER_TICK.across));
         for (const value of across) {
             const x = this.x(value);
             lines.append(drawn('line', { x1: x, x2: x, y1: top, y2: bottom }));
-            labels.append(drawn('text', { x, y: bottom + 17, 'text-anchor': 'middle' }, frenchNumber(value, decimalsX)));
-        }
-        const [decimalsY, ...up] = ticksOf(this.rangeY, bottom - top, PIXELS_PER_TICK.up);
-        for (const value of up) {
-            const y = this.y(value);
-            lines.append(drawn('line', { x1: left, x2: right, y1: y, y2: y }));
-            labels.append(drawn('text', { x: left - 6, y: y + 4, 'text-anchor': 'end' }, frenchNumber(value, decimalsY)));
+            labels.append(drawn('text', { x, y: bottom + 17, 'text-anchor': 'middle' }, program.frenchNumber(value, decimals)));
         }
         const ofX = symbolInDrawing(nameX[0], { x: right, y: bottom + 35, ink: INKS.ink, behind: ` (${nameX[1]})` });
         ofX.setAttribute('text-anchor', 'end');
-        return drawn('g', { 'aria-hidden': 'true' }, lines, labels, ofX, symbolInDrawing(nameY[0], { x: 8, y: top - 10, ink: INKS.ink, behind: ` (${nameY[1]})` }));
+        return drawn('g', { 'aria-hidden': 'true' }, lines, labels, ofX, this.drawUp(program, nameY));
     }
+
+    /**
+     * The lines across and the labels of the upright axis alone, for bars.
+     * @param {Program} program
+     * @param {[string, string]} name
+     */
+    drawUp(program, name) {
+        const { left, right, top, bottom } = this.area;
+        const lines = drawn('g', { stroke: INKS.grid, 'shape-rendering': 'crispEdges' });
+        const labels = drawn('g', { fill: INKS.muted, 'font-size': 12 });
+        const [decimals, ...up] = program.askNumbers('axisTicks', this.rangeY.from, this.rangeY.to, Math.floor((bottom - top) / PIXELS_PER_TICK.up));
+        for (const value of up) {
+            const y = this.y(value);
+            lines.append(drawn('line', { x1: left, x2: right, y1: y, y2: y }));
+            labels.append(drawn('text', { x: left - 6, y: y + 4, 'text-anchor': 'end' }, program.frenchNumber(value, decimals)));
+        }
+        return drawn('g', { 'aria-hidden': 'true' }, lines, labels, symbolInDrawing(name[0], { x: 8, y: top - 10, ink: INKS.ink, behind: ` (${name[1]})` }));
+    }
+}
+
+/**
+ * A filled head at the end of a line; nothing when the line is shorter.
+ * @param {[number, number]} from pixels
+ * @param {[number, number]} to
+ * @param {number} size
+ * @param {string} ink
+ */
+function head(from, to, size, ink) {
+    const [dx, dy] = [to[0] - from[0], to[1] - from[1]];
+    const length = Math.hypot(dx, dy);
+    if (length < size || length === 0) return drawn('g');
+    const [ux, uy] = [dx / length, dy / length];
+    const [neckX, neckY, half] = [to[0] - ux * size, to[1] - uy * size, size * 0.43];
+    return drawn('path', { d: `M${to[0]} ${to[1]}L${neckX - uy * half} ${neckY + ux * half}L${neckX + uy * half} ${neckY - ux * half}Z`, fill: ink });
 }
 
 /**
@@ -149,10 +175,10 @@ function arrow(from, to, ink, symbol, isPart = false) {
     const length = Math.hypot(dx, dy);
     if (length < 4) return group;
     const [ux, uy] = [dx / length, dy / length];
-    const head = Math.min(10, length * 0.6);
-    const neck = [to[0] - ux * head, to[1] - uy * head];
+    const size = Math.min(10, length * 0.6);
+    const neck = [to[0] - ux * size, to[1] - uy * size];
     group.append(drawn('line', { x1: from[0], y1: from[1], x2: neck[0], y2: neck[1], stroke: ink, 'stroke-width': isPart ? 1.5 : 2.5, ...(isPart ? { 'stroke-dasharray': '6 3' } : {}) }),
-        drawn('path', { d: `M${to[0]} ${to[1]}L${neck[0] - uy * 4.5} ${neck[1] + ux * 4.5}L${neck[0] + uy * 4.5} ${neck[1] - ux * 4.5}Z`, fill: ink }));
+        head(from, to, size, ink));
     // Beyond the head and to its left, off the path that the vector touches.
     if (symbol) group.append(symbolInDrawing(symbol, { x: to[0] + ux * 10 + uy * 12 - 6, y: to[1] + uy * 10 - ux * 12 + 5, ink, isVector: true }));
     return group;

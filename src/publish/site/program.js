@@ -75,6 +75,24 @@ class Program {
     }
 
     /**
+     * A number as French texts write it (modules/common/french_number.h).
+     * @param {number} value
+     * @param {number} decimals
+     */
+    frenchNumber(value, decimals) {
+        return this.ask('frenchNumber', value, decimals);
+    }
+
+    /**
+     * The same with about so many significant digits, and no needless zeros: 0,0583; 12,4; 1250.
+     * @param {number} value
+     * @param {number} digits
+     */
+    frenchDigits(value, digits) {
+        return this.ask('frenchDigits', value, digits);
+    }
+
+    /**
      * As `orvalente-cours calc`.
      * @param {string} expression
      * @param {boolean} degrees

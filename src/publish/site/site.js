@@ -19,9 +19,9 @@ class Site {
         this.marked = null;
         /** @type {Map<string, number>} */
         this.scrolls = new Map();
-        /** @type {Map<number, ModuleView>} */
+        /** @type {Map<number, {asked: string, view: SimulationView}>} */
         this.modules = new Map();
-        /** @type {ModuleView | null} */
+        /** @type {SimulationView | null} */
         this.module = null;
         this.shown = '';
         this.search = later(() => new SearchBox(this.course, (number, words, ignoreAccents) => this.showFound(number, words, ignoreAccents)));
@@ -63,7 +63,7 @@ class Site {
         this.module = null;
         try {
             if (kind === 't') await this.showTest(Number(number));
-            else if (kind === 'm') await this.showModule(Number(number), exercise !== undefined);
+            else if (kind === 'm') await this.showModule(Number(number), exercise ?? '');
             else await this.showPage(Number(number));
             this.shown = key;
         } catch {
@@ -161,16 +161,25 @@ class Site {
 
     /**
      * @param {number} module
-     * @param {boolean} isExercise one was asked for
+     * @param {string} digit of the launch code: the exercise asked for; empty for none
      */
-    async showModule(module, isExercise) {
-        const make = WEB_MODULES[module];
-        if (!make) return this.tellOfModule(module);
-        const view = this.modules.get(module) ?? make(await this.course.program());
-        this.modules.set(module, view);
+    async showModule(module, digit) {
+        if (!WEB_MODULES[module]) return this.tellOfModule(module);
+        const known = this.modules.get(module);
+        // What was set and answered is there again.
+        if (known?.asked === digit) return this.putModule(known.view);
+        const { codes } = await this.course.exercises(module);
+        const put = (/** @type {SimulationView} */ view) => {
+            this.modules.set(module, { asked: digit, view });
+            this.putModule(view);
+        };
+        put(await openModule(this.course, module, codes[digit] ?? '', put));
+    }
+
+    /** @param {SimulationView} view */
+    putModule(view) {
         this.module = view;
-        const notice = element('p', { class: 'avis-simulation', role: 'note' }, 'Cet exercice se fait, avec sa correction, dans la simulation du cours installé sur un ordinateur. Ici, la simulation est à vous : réglez-la comme l’exercice le demande.');
-        this.main.replaceChildren(...(isExercise ? [notice] : []), view.element);
+        this.main.replaceChildren(view.element);
         this.foot.replaceChildren(element('nav', { 'aria-label': 'Retour au cours' },
             element('a', { class: 'bouton', href: `#p${this.page}` }, icon('previous-page'), element('span', {}, 'Retour au cours'))));
         document.title = view.title;

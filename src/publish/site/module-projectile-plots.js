@@ -5,8 +5,8 @@
 const PER_SPEED = 4;
 const PER_ACCELERATION = 5;
 
-/** Parts of a path's time; enough for a smooth line. */
-const PATH_PARTS = 240;
+/** Lines of the paths kept: distinct in colour, in lightness and in their dashes. */
+const STROKES = [['#1c7540', '8 4'], ['#a65a00', '8 4 2 4'], ['#00737d', '2 4'], ['#5b4a2f', '8 4 2 4 2 4'], ['#a0326a', '8 4']];
 
 /** Of the drawing's extent, left free around what happens. */
 const AIR = 0.1;
@@ -18,13 +18,13 @@ const GROUND = 0.05;
  */
 class TrajectoryPlot extends Plot {
     /**
-     * @param {Projectile} projectile
-     * @param {() => void} aimed to be called when the launch has changed
+     * @param {SimulationView} page
+     * @param {Flights} flights
      */
-    constructor(projectile, aimed) {
+    constructor(page, flights) {
         super('Trajectoire du projectile');
-        this.projectile = projectile;
-        this.aimed = aimed;
+        this.page = page;
+        this.flights = flights;
         this.shown = { speed: true, components: false, acceleration: false, points: true };
         this.axes = new Axes({ left: 0, top: 0, right: 1, bottom: 1 }, { from: 0, to: 1 }, { from: 0, to: 1 });
         this.isAiming = false;
@@ -33,16 +33,22 @@ class TrajectoryPlot extends Plot {
         this.handle.addEventListener('pointerdown', (/** @type {PointerEvent} */ event) => this.grip(event));
         this.handle.addEventListener('pointermove', (/** @type {PointerEvent} */ event) => this.aim(event));
         for (const end of ['pointerup', 'pointercancel']) this.handle.addEventListener(end, () => this.letGo());
+        /** @type {SimulationPart} */
+        this.legend = { element: element('ul', { class: 'legende' }), draw: () => this.showLegend(), drawMoment: () => {} };
+        /** @type {SimulationPart} */
+        this.scales = { element: element('ul', { class: 'legende echelles' }), draw: () => this.showScales(), drawMoment: () => {} };
     }
 
     draw() {
         if (!this.width) return;
-        const flight = this.projectile.flight(THIS_FLIGHT, PATH_PARTS);
-        const kept = Array.from({ length: this.projectile.keptCount }, (_, i) => this.projectile.flight(i, PATH_PARTS));
-        this.strobe = this.projectile.strobe();
-        this.svg.setAttribute('aria-label', `${this.name} : portée ${frenchNumber(flight.range, 2)} m, sommet ${frenchNumber(flight.apex.y, 2)} m, durée ${frenchNumber(flight.duration, 2)} s`);
+        const flight = this.flights.path();
+        const kept = Array.from({ length: this.flights.now().kept }, (_, i) => this.flights.path(i));
+        const landmarks = this.flights.landmarks();
+        this.strobe = this.flights.strobe();
+        // What is read of it is told beside it, and may be what is looked for.
+        this.svg.setAttribute('aria-label', this.name);
         // A scale that changes under the pointer would be a nuisance.
-        if (!this.isAiming) this.fit([flight, ...kept]);
+        if (!this.isAiming) this.fit([flight, ...kept], landmarks);
         const { area } = this.axes;
         const clip = drawn('clipPath', { id: 'cadre-trajectoire' }, drawn('rect', { x: area.left, y: area.top - 12, width: area.right - area.left, height: area.bottom - area.top + 12 }));
         const paths = drawn('g', { 'clip-path': 'url(#cadre-trajectoire)', fill: 'none', 'stroke-width': 2, 'stroke-linecap': 'round', 'stroke-linejoin': 'round' }, this.ground(flight.height));
@@ -50,13 +56,44 @@ class TrajectoryPlot extends Plot {
             drawn('path', { d: this.axes.path(moments.map(({ x, y }) => [x, y])), stroke, 'stroke-dasharray': dashes });
         kept.forEach((one, i) => paths.append(path(one, STROKES[i][0], STROKES[i][1])));
         paths.append(path(flight, INKS.blue, 'none'));
-        this.fixed.replaceChildren(clip, this.axes.draw(this.projectile.program, ['x', 'm'], ['y', 'm']), paths);
+        this.fixed.replaceChildren(clip, this.axes.draw(this.page.program, ['x', 'm'], ['y', 'm']), paths, ...landmarks.map((mark) => this.landmark(mark)));
     }
 
-    /** @param {{range: number, apex: {y: number}}[]} flights */
-    fit(flights) {
-        const right = Math.max(1, ...flights.map(({ range }) => range));
-        const top = Math.max(1, ...flights.map(({ apex }) => apex.y));
+    /**
+     * A ring with its name.
+     * @param {{name: string, x: number, y: number}} mark
+     */
+    landmark({ name, x, y }) {
+        const [cx, cy] = [this.axes.x(x), this.axes.y(y)];
+        return drawn('g', { stroke: '#a65a00', 'stroke-width': 2, fill: INKS.paper }, drawn('ellipse', { cx, cy, rx: 9, ry: 4 }), drawn('path', { d: `M${cx - 3} ${cy}h6M${cx} ${cy - 3}v6` }),
+            drawn('text', { x: cx + 14, y: cy + 4, fill: '#8a4b00', stroke: 'none' }, name));
+    }
+
+    showLegend() {
+        const descriptions = this.flights.descriptions();
+        const ink = (/** @type {number} */ i) => i === 0 ? [INKS.blue, 'none'] : STROKES[i - 1];
+        this.legend.element.hidden = descriptions.length < 2;
+        this.legend.element.replaceChildren(...descriptions.map((words, i) => element('li', {}, sampleLine(ink(i)[0], ink(i)[1]), formula(this.page.program, words))));
+    }
+
+    showScales() {
+        const { speed, components, acceleration, points } = this.shown;
+        const length = (/** @type {number} */ pixels, /** @type {string} */ ink, /** @type {string} */ words) =>
+            element('li', {}, drawn('svg', { width: pixels, height: 12, 'aria-hidden': 'true' }, arrow([0, 6], [pixels, 6], ink, '')), words);
+        const dot = drawn('svg', { width: 10, height: 12, 'aria-hidden': 'true' }, drawn('circle', { cx: 5, cy: 6, r: 3.5, stroke: INKS.blue, 'stroke-width': 1.3, fill: '#bcd0e8' }));
+        this.scales.element.replaceChildren(...[
+            (speed || components) && length(10 * PER_SPEED, INKS.red, `10${BLANK}m/s`),
+            acceleration && length(10 * PER_ACCELERATION, INKS.violet, `10${BLANK}m/s²`),
+            points && element('li', {}, dot, `un point toutes les ${this.page.program.frenchDigits(this.flights.strobe().interval, 2)}${BLANK}s`)].filter(Boolean));
+    }
+
+    /**
+     * @param {{range: number, apex: {y: number}}[]} flights
+     * @param {{x: number, y: number}[]} landmarks
+     */
+    fit(flights, landmarks) {
+        const right = Math.max(1, ...flights.map(({ range }) => range), ...landmarks.map(({ x }) => x));
+        const top = Math.max(1, ...flights.map(({ apex }) => apex.y), ...landmarks.map(({ y }) => y));
         const extent = Math.max(right, top);
         this.axes = Axes.withEqualScales({ left: AXIS_ROOM.left, top: 30, right: this.width - AXIS_ROOM.right, bottom: this.height - AXIS_ROOM.below },
             { from: -GROUND * extent, to: right + AIR * extent }, { from: -GROUND * extent, to: top * (1 + AIR) });
@@ -74,7 +111,7 @@ class TrajectoryPlot extends Plot {
 
     drawMoment() {
         if (!this.width) return;
-        const now = this.projectile.now();
+        const now = this.flights.now();
         const at = /** @type {[number, number]} */ ([this.axes.x(now.x), this.axes.y(now.y)]);
         const head = /** @type {[number, number]} */ ([at[0] + now.vx * PER_SPEED, at[1] - now.vy * PER_SPEED]);
         const layer = [];
@@ -106,12 +143,12 @@ class TrajectoryPlot extends Plot {
     aim(event) {
         if (!this.isAiming) return;
         const frame = this.svg.getBoundingClientRect();
-        const start = this.projectile.now();
+        const start = this.flights.now();
         const dx = event.clientX - frame.left - this.axes.x(start.x);
         const dy = this.axes.y(start.y) - (event.clientY - frame.top);
         // As fine as the sliders: whole degrees, half metres a second.
-        this.projectile.tell('Aim', Math.round(Math.hypot(dx, dy) / PER_SPEED * 2) / 2, Math.round(Math.atan2(dy, dx) * 180 / Math.PI));
-        this.aimed();
+        this.page.simulation.pull(0, Math.round(Math.hypot(dx, dy) / PER_SPEED * 2) / 2, Math.round(Math.atan2(dy, dx) * 180 / Math.PI));
+        this.page.show();
     }
 
     letGo() {
@@ -130,29 +167,34 @@ const ENERGIES = [
 
 /** Energies over time. */
 class EnergyPlot extends Plot {
-    /** @param {Projectile} projectile */
-    constructor(projectile) {
+    /**
+     * @param {SimulationView} page
+     * @param {Flights} flights
+     */
+    constructor(page, flights) {
         super('Énergies au cours du temps');
-        this.projectile = projectile;
+        this.page = page;
+        this.flights = flights;
         this.axes = new Axes({ left: 0, top: 0, right: 1, bottom: 1 }, { from: 0, to: 1 }, { from: 0, to: 1 });
         this.values = ENERGIES.map(() => element('b', {}));
-        this.legend = element('ul', { class: 'legende' }, ...ENERGIES.map(({ ink, dashes, symbol, words }, i) =>
-            element('li', {}, sampleLine(ink, dashes), element('span', {}, symbolInWords(symbol), ` ${words}${BLANK}: `, this.values[i]))));
+        /** @type {SimulationPart} */
+        this.legend = { element: element('ul', { class: 'legende' }, ...ENERGIES.map(({ ink, dashes, symbol, words }, i) =>
+            element('li', {}, sampleLine(ink, dashes), element('span', {}, formula(page.program, symbol), ` ${words}${BLANK}: `, this.values[i])))), draw: () => {}, drawMoment: () => {} };
     }
 
     draw() {
         if (!this.width) return;
-        const { duration, moments } = this.projectile.flight(THIS_FLIGHT, PATH_PARTS);
+        const { duration, moments } = this.flights.path();
         const most = Math.max(1e-3, ENERGIES[2].of(moments[0]));
         this.axes = new Axes({ left: AXIS_ROOM.left, top: 30, right: this.width - AXIS_ROOM.right, bottom: this.height - AXIS_ROOM.below },
             { from: 0, to: Math.max(0.1, duration) }, { from: 0, to: most * 1.08 });
-        this.fixed.replaceChildren(this.axes.draw(this.projectile.program, ['t', 's'], ['E', 'J']),
+        this.fixed.replaceChildren(this.axes.draw(this.page.program, ['t', 's'], ['E', 'J']),
             ...ENERGIES.map(({ ink, dashes, of }) => drawn('path', { d: this.axes.path(moments.map((one) => [one.t, of(one)])), fill: 'none', stroke: ink, 'stroke-width': 2, 'stroke-dasharray': dashes })));
     }
 
     drawMoment() {
-        const now = this.projectile.now();
-        ENERGIES.forEach(({ of }, i) => { this.values[i].textContent = `${frenchDigits(of(now), 4)}${BLANK}J`; });
+        const now = this.flights.now();
+        ENERGIES.forEach(({ of }, i) => { this.values[i].textContent = `${this.page.program.frenchDigits(of(now), 4)}${BLANK}J`; });
         if (!this.width) return;
         const { area } = this.axes;
         const x = this.axes.x(now.t);
