@@ -11,7 +11,7 @@ import { writeArchive } from '../web/archive.mjs';
 import { courseOf, writePlainPages } from '../web/plain_pages.mjs';
 import { Display } from './display.mjs';
 
-const [, , programs, course, site, times = '15', pictures] = process.argv;
+const [, , programs, course, site, times = '9', pictures] = process.argv;
 const WORDS = 'savoir avant'; // stands once on most pages
 const work = temporaryFolder();
 const document = join(work, 'cours.pdf');

@@ -5,17 +5,22 @@ import { cpSync, mkdirSync, readFileSync, readdirSync, writeFileSync } from 'nod
 import { extname, join } from 'node:path';
 
 const [, , sources, count, folder] = process.argv;
-const NUMBERS = /^(Numeropage|Index|debutimp|finimp|sommaire) = (\d+)$/gm;
-const ROUND = 165; // more than the course's highest number; six times fit under 1,000, where numbers of pages end
+const NUMBERS = /^(Numeropage|debutimp|finimp|sommaire) = (\d+)$/gm;
+const INDEXES_OF_A_ROUND = 10_000;
 
 cpSync(join(sources, 'files'), join(folder, 'files'), { recursive: true, filter: (name) => !name.endsWith('.avi') });
 mkdirSync(join(folder, 'pages'), { recursive: true });
 const names = readdirSync(join(sources, 'pages')).sort();
+// Numbers end at 999, so that those of a round stand without gaps, in the order of the course.
+const numbers = names.map((name) => Number(/^Numeropage = (\d+)$/m.exec(readFileSync(join(sources, 'pages', name), 'utf8'))[1])).sort((a, b) => a - b);
+const places = new Map(numbers.map((number, i) => [number, i + 1]));
 for (let i = 0; i < Number(count); ++i) {
     const name = names[i % names.length];
-    const shift = Math.floor(i / names.length) * ROUND;
+    const round = Math.floor(i / names.length);
+    const renumbered = (number) => (places.has(Number(number)) ? round * names.length + places.get(Number(number)) : Number(number));
     const page = readFileSync(join(sources, 'pages', name), 'utf8')
-        .replace(NUMBERS, (_, field, number) => `${field} = ${Number(number) + shift}`)
-        .replace(/(#PAG|\(page:)(\d+)/g, (_, start, number) => start + String(Number(number) + shift).padStart(3, '0'));
+        .replace(NUMBERS, (_, field, number) => `${field} = ${renumbered(number)}`)
+        .replace(/^Index = (\d+)$/m, (_, index) => `Index = ${Number(index) + round * INDEXES_OF_A_ROUND}`)
+        .replace(/(#PAG|\(page:)(\d+)/g, (_, start, number) => start + String(renumbered(number)).padStart(3, '0'));
     writeFileSync(join(folder, 'pages', `${String(i).padStart(4, '0')}${extname(name)}`), page);
 }
