@@ -23,6 +23,7 @@ const port = await new Promise((resolve) => {
 });
 const driver = spawn('xvfb-run', ['-a', '-s', '-screen 0 1280x1100x24', 'WebKitWebDriver', `--port=${port}`], { stdio: 'ignore', detached: true, env: { ...process.env, HOME: folder } });
 process.on('exit', () => { try { process.kill(-driver.pid); } catch { /* it has ended */ } });
+process.on('SIGTERM', () => process.exit(1));
 
 async function command(method, path, body) {
     const answer = await fetch(`http://127.0.0.1:${port}${path}`, { method, ...(body ? { body: JSON.stringify(body) } : {}) });
