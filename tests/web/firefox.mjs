@@ -38,8 +38,6 @@ for (const [where, address] of Object.entries(addresses)) {
         point: (x, y) => page.mouse.click(x, y),
         type: (text) => page.keyboard.type(text),
         press: (key) => page.keyboard.press(key),
-        picture: () => page.screenshot({ encoding: 'base64' }),
-        resize: (width, height) => page.setViewport({ width, height }),
     }, address, images);
     deepStrictEqual(faults, [], where);
     await page.close();

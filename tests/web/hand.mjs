@@ -1,5 +1,5 @@
 // The hand of a pupil in any browser. What drives the browser can do little: go to an address, run
-// a script in the page, point, type, press a key and take a picture; everything else is made of it.
+// a script in the page, point, type and press a key; everything else is made of it.
 
 const KEPT_WAITING_MS = 20000;
 
@@ -9,9 +9,7 @@ const KEPT_WAITING_MS = 20000;
  * @property {(script: string) => Promise<any>} run the value, or what it promises, of an expression in the page
  * @property {(x: number, y: number) => Promise<void>} point clicks there, in pixels of the window
  * @property {(text: string) => Promise<void>} type
- * @property {(key: 'Enter' | 'Escape' | 'ArrowDown' | 'Tab') => Promise<void>} press
- * @property {() => Promise<string>} picture of the window, a PNG in base64
- * @property {(width: number, height: number) => Promise<void>} resize
+ * @property {(key: 'Enter' | 'Escape' | 'ArrowDown') => Promise<void>} press
  */
 
 export class Hand {

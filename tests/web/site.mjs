@@ -337,6 +337,11 @@ const wide = await phone.page.evaluate(() => document.documentElement.scrollWidt
 ok(wide <= 390, `${wide} pixels wide on a phone`);
 const small = await phone.page.locator('header button, footer a').evaluateAll((all) => all.map((b) => b.getBoundingClientRect().height).filter((h) => h < 44));
 deepStrictEqual(small, []);
+// The calculator's keys are as large as the screen lets them be.
+await phone.page.getByRole('button', { name: 'Calculatrice' }).click();
+await phone.page.waitForSelector('.touches button');
+const [right, bottom] = await phone.page.locator('.touches button').evaluateAll((all) => all.map((key) => key.getBoundingClientRect()).reduce(([x, y], box) => [Math.max(x, box.right), Math.max(y, box.bottom)], [0, 0]));
+ok(right > 360 && right <= 390 && bottom <= 800, `keys up to ${right}, ${bottom}`);
 
 await browser.close();
 server.close();

@@ -23,6 +23,7 @@ const port = await new Promise((resolve) => {
 });
 const driver = spawn('xvfb-run', ['-a', '-s', '-screen 0 1280x1100x24', 'WebKitWebDriver', `--port=${port}`], { stdio: 'ignore', detached: true, env: { ...process.env, HOME: folder } });
 process.on('exit', () => { try { process.kill(-driver.pid); } catch { /* it has ended */ } });
+process.on('SIGTERM', () => process.exit(1));
 
 async function command(method, path, body) {
     const answer = await fetch(`http://127.0.0.1:${port}${path}`, { method, ...(body ? { body: JSON.stringify(body) } : {}) });
@@ -41,7 +42,7 @@ async function begun() {
     return `/session/${sessionId}`;
 }
 
-const KEYS = { Enter: '\uE007', Escape: '\uE00C', ArrowDown: '\uE015', Tab: '\uE004' };
+const KEYS = { Enter: '\uE007', Escape: '\uE00C', ArrowDown: '\uE015' };
 
 function hand(session) {
     const send = (path, body) => command('POST', session + path, body);
@@ -53,14 +54,12 @@ function hand(session) {
         point: (x, y) => send('/actions', { actions: [{ type: 'pointer', id: 'mouse', actions: [{ type: 'pointerMove', x: Math.round(x), y: Math.round(y) }, { type: 'pointerDown', button: 0 }, { type: 'pointerUp', button: 0 }] }] }),
         type: (text) => keys([...text]),
         press: (key) => keys([KEYS[key]]),
-        picture: () => command('GET', `${session}/screenshot`),
-        resize: (width, height) => send('/window/rect', { width, height }),
     };
 }
 
 for (const address of Object.values(addresses)) {
     const session = await begun();
-    await hand(session).resize(1200, 1000);
+    await command('POST', `${session}/window/rect`, { width: 1200, height: 1000 });
     await aLesson(hand(session), address, images);
     await command('DELETE', session);
 }
