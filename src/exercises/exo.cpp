@@ -216,7 +216,9 @@ void Exo::Form_Load() {
     coursedata::ExerciseTables tables = coursedata::openExerciseTables(parts_.shared.InstallDir);
     for (const QString& failure : std::as_const(tables.failures))
         platform::tellOnTerminal(failure);
-    if (!tables.failures.isEmpty())
+    if (tables.failures.isEmpty())
+        notice_->hide(); // an author may have mended them
+    else
         tellUnreadable(tables.failures);
     records_.read(std::move(tables));
     session_->load();

@@ -127,6 +127,7 @@ private:
 
     void Form_Load();
     void tellUnreadable(QStringList reasons);
+    bool hasQuestions() const;
     void place();
     void makeWritable();
 

@@ -11,6 +11,7 @@
 #include "exercises/verdict_line.h"
 #include "look/announcement.h"
 #include "look/button.h"
+#include "look/notice.h"
 #include "look/page_panel.h"
 #include "look/picture_box.h"
 #include "look/tool_tip.h"
@@ -103,16 +104,21 @@ void Exo::setButtonVisible(look::Button& button, bool visible) {
     button.setVisible(visible);
 }
 
+/// Beside the notice that there are none, nothing offers to go to one or to answer it.
+bool Exo::hasQuestions() const {
+    return notice_->isHidden();
+}
+
 void Exo::setPreviousVisible(bool visible) {
-    setButtonVisible(*Command3_, visible);
+    setButtonVisible(*Command3_, visible && hasQuestions());
 }
 
 void Exo::setNextVisible(bool visible) {
-    setButtonVisible(*command4_, visible);
+    setButtonVisible(*command4_, visible && hasQuestions());
 }
 
 void Exo::setValidateVisible(bool visible) {
-    setButtonVisible(*command5_, visible);
+    setButtonVisible(*command5_, visible && hasQuestions());
 }
 
 void Exo::setScoreVisible(bool visible) {

@@ -4,7 +4,6 @@
 #include "look/button.h"
 #include "look/palette.h"
 #include "look/pixels.h"
-#include "look/reading_text.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
@@ -16,7 +15,6 @@ namespace {
 
 using look::Button;
 
-constexpr int kRule = 1;
 constexpr int kGrid = 8;
 constexpr double kMargin = 16;
 constexpr int kMarkPx = 16;
@@ -43,7 +41,8 @@ Summary::Summary(QWidget* parent) : QWidget(parent), text_(new SummaryText(kMarg
     text_->setObjectName(QStringLiteral("summaryText"));
     text_->setAccessibleName(accessibleName());
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(kRule, kRule, kRule, kGrid);
+    column->setContentsMargins(look::kInsideFrame.left(), look::kInsideFrame.top(),
+                               look::kInsideFrame.right(), kGrid);
     column->setSpacing(kGrid);
     column->addWidget(text_, 1);
     auto* row = new QHBoxLayout;
@@ -89,7 +88,7 @@ void Summary::follow(const QUrl& link) {
 
 void Summary::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    look::drawFrame(painter, rect(), 0, look::kRule, QColor::fromRgb(look::kPaper));
+    text_->paintFrame(painter, rect(), 0, look::kRule);
 }
 
 } // namespace exercises

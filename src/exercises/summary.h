@@ -1,10 +1,10 @@
 #pragma once
 
+#include "look/reading_text.h"
+
 #include <QWidget>
 
 #include <functional>
-
-class QTextBrowser;
 
 namespace look {
 class Button;
@@ -38,7 +38,7 @@ protected:
 private:
     void follow(const QUrl& link);
 
-    QTextBrowser* text_;
+    look::ReadingText* text_;
     look::Button* wholeTest_;
     look::Button* wrongAnswers_;
     Ways ways_;

@@ -34,7 +34,7 @@ void Notice::tell(const QString& title, const QStringList& paragraphs) {
 
 void Notice::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    drawFrame(painter, rect(), 0, kRule, QColor::fromRgb(kPaper));
+    text_->paintFrame(painter, rect(), 0, kRule);
 }
 
 void Notice::resizeEvent(QResizeEvent*) {

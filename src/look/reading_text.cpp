@@ -2,7 +2,10 @@
 
 #include "look/interface_font.h"
 #include "look/palette.h"
+#include "look/pixels.h"
 #include "look/scroll_bar.h"
+
+#include <QPainter>
 
 namespace look {
 
@@ -26,6 +29,22 @@ ReadingText::ReadingText(double margin, QWidget* parent) : QTextBrowser(parent) 
 
 QVariant ReadingText::loadResource(int, const QUrl&) {
     return {};
+}
+
+void ReadingText::paintFrame(QPainter& painter, const QRect& place, double radius,
+                             QRgb edge) const {
+    look::drawFrame(painter, place, radius, hasFocus() ? kBlue : edge, QColor::fromRgb(kPaper),
+                    hasFocus() ? 2 : 1);
+}
+
+void ReadingText::focusInEvent(QFocusEvent* event) {
+    QTextBrowser::focusInEvent(event);
+    parentWidget()->update();
+}
+
+void ReadingText::focusOutEvent(QFocusEvent* event) {
+    QTextBrowser::focusOutEvent(event);
+    parentWidget()->update();
 }
 
 void ReadingText::contextMenuEvent(QContextMenuEvent*) {} // Qt's own menu is not in French

@@ -393,7 +393,7 @@ void Coordon::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), QColor::fromRgb(look::kIvory));
     if (List2_->isVisible())
-        look::drawFrame(painter, kExtract, 3, look::kEdge, QColor::fromRgb(look::kPaper));
+        extractText_->paintFrame(painter, kExtract, 3, look::kEdge);
 }
 
 } // namespace search

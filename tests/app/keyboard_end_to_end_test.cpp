@@ -1,6 +1,9 @@
 // The real program without a mouse.
 
 #include "app/screen_reading_case.h"
+#include "platform_mpv/clips.h"
+
+#include <QScopeGuard>
 
 namespace app::test {
 namespace {
@@ -11,6 +14,10 @@ protected:
         return eventually([&] { return activeTitle().startsWith(title); });
     }
     void type(const QString& text) { run("xdotool", {"type", text}); }
+    bool filmIs(const QString& status) {
+        const Object film = reader_.find(window("Orvalente"), "panel", "Vidéo de la page");
+        return eventually([&] { return reader_.description(film) == status; });
+    }
 };
 
 TEST_F(Keyboard, reachesEveryFunction) {
@@ -106,6 +113,63 @@ TEST_F(Keyboard, reachesEveryFunction) {
     press("Return");
     ASSERT_TRUE(shell_.waitForFinished(30'000));
     EXPECT_EQ(shell_.exitCode(), 0);
+}
+
+TEST_F(Keyboard, reachesFilmsTheOrderFormAndTheUpdate) {
+    qputenv("ORVALENTE_NO_SOUND", "1");
+    const auto audible = qScopeGuard([] { qunsetenv("ORVALENTE_NO_SOUND"); });
+    const test_support::Clip clip{"film", "mpeg4", "12.5", 30, 0, "-g 10 -qscale:v 3"};
+    ASSERT_TRUE(QFile::rename(clip.make(directory_), course() + "/film.avi"));
+    start();
+    ASSERT_TRUE(isAt("document La chute")) << focus();
+    press("ctrl+l");
+    ASSERT_TRUE(isActive("Rechercher"));
+    type("commander");
+    press("Return");
+    ASSERT_TRUE(hears("1 page trouvée. Essayez « Ignorer les accents »."));
+    press("Return");
+    ASSERT_TRUE(isAt("document Le film")) << focus();
+
+    // The film, by its buttons and by its keys.
+    ASSERT_TRUE(tabTo("push button Aller à la fin"));
+    press("space");
+    EXPECT_TRUE(filmIs("À la fin"));
+    press("Home");
+    EXPECT_TRUE(filmIs("Au début"));
+    press("Right");
+    EXPECT_TRUE(filmIs("En pause"));
+    ASSERT_TRUE(tabTo("push button Double taille"));
+    press("Return");
+    ASSERT_TRUE(isAt("push button Taille normale")) << focus();
+    press("Escape");
+    ASSERT_TRUE(isAt("push button Double taille")) << focus();
+
+    // The order form: a field that is wrong has the keyboard again; then a sheet of it.
+    ASSERT_TRUE(tabTo("link le commander"));
+    press("Return");
+    ASSERT_TRUE(isAt("text Nom")) << focus();
+    press("alt+i");
+    ASSERT_TRUE(isAt("text Nom")) << focus();
+    for (const char* words : {"Curie", "Marie", "1 rue Cuvier", "", "75005", "Paris"}) {
+        type(QString::fromUtf8(words));
+        press("Tab");
+    }
+    press("alt+i");
+    ASSERT_TRUE(isActive("Imprimer"));
+    press("ctrl+a");
+    type(directory_.filePath("bon.pdf"));
+    press("Return");
+    EXPECT_TRUE(eventually([&] { return QFile::exists(directory_.filePath("bon.pdf")); }));
+    ASSERT_TRUE(isActive("Bon de commande"));
+    press("Escape");
+    ASSERT_TRUE(isActive("Orvalente - "));
+
+    ASSERT_TRUE(tabTo("push button Actualiser"));
+    press("Return");
+    ASSERT_TRUE(isActive("Mise à jour"));
+    ASSERT_TRUE(isAt("push button Fermer")) << focus();
+    press("Return");
+    ASSERT_TRUE(isActive("Orvalente - "));
 }
 
 } // namespace

@@ -8,7 +8,8 @@ namespace app::test {
 using test_support::ScreenReader;
 using Object = ScreenReader::Object;
 
-/// A course of two pages, a test of two questions and a simulation, with somebody who listens.
+/// A course of two pages and one with a film and the order form, a test of two questions and a
+/// simulation, with somebody who listens.
 class ScreenReading : public EndToEnd {
 protected:
     QString sources() override {
@@ -29,6 +30,9 @@ protected:
         write("pages/2.page", "+++\nNumeropage = 2\nIndex = 2\ntitre = \"Les lois\"\nimprimable = "
                               "true\nmoteur = true\n+++\n"
                               "##SI12\nRien ne change la chute sinon l’air.¶\n");
+        write("pages/3.page", "+++\nNumeropage = 3\nIndex = 3\ntitre = \"Le film\"\nmoteur = true\n"
+                              "+++\n##SI12\nOn peut \n##LIERTle commander#BDC000\n.¶\n"
+                              "##VIDEOfilm.avi\n");
         write("exercises/chute/chapter.toml", "Chapitre = 3\nTitre = \"La chute\"\nNbquest = 2\n");
         write("exercises/chute/301.question",
               "+++\nREFERENCE = 301\ntype = 2\nsolution = \"01000\"\n+++\n##SI12\nQui tombe ?¶\n"

@@ -70,6 +70,8 @@ TEST_F(BadInput, aMissingDatabaseIsSaidInTheWindow) {
     EXPECT_TRUE(said.contains(folder.path() + QStringLiteral("/qekx.mdb"))) << said.toStdString();
     EXPECT_TRUE(said.contains(QStringLiteral("absente du dossier"))) << said.toStdString();
     EXPECT_TRUE(said.contains(QStringLiteral("Réinstallez le cours")));
+    for (const char* toQuestions : {"Command3", "command4", "command5"})
+        EXPECT_FALSE(control(toQuestions).isVisible()) << toQuestions;
     control("command5").click();
     messageBoxes.answers = {platform::Answer::Yes};
     control("Image2").click();

@@ -181,6 +181,14 @@ TEST_F(CoordonWindow, showsTheWordsInAnExtractOfTheChosenPage) {
     EXPECT_EQ(extract.toPlainText(), QStringLiteral("Un <i>Prisme</i> de verre."));
     EXPECT_TRUE(extract.toHtml().contains(QStringLiteral("background-color:#fff0a0;\">Prisme")));
     EXPECT_TRUE(has(extract.grab().toImage(), look::kMarkTint));
+    const auto frame = [&] { // half way along its upper edge, inside
+        const QPoint at(extract.geometry().center().x(), extract.y() - 1);
+        return extract.parentWidget()->grab(QRect(at, QSize(1, 1))).toImage().pixel(0, 0);
+    };
+    EXPECT_EQ(frame(), look::kPaper);
+    extract.setFocus();
+    EXPECT_EQ(frame(), look::kBlue);
+    list().setFocus();
     QTest::keyClick(&list(), Qt::Key_End);
     QTest::keyClick(&list(), Qt::Key_Up);
     EXPECT_TRUE(extract.toPlainText().startsWith(QStringLiteral("Rien de cela ne se lit")));
