@@ -297,6 +297,24 @@ TEST(PictureFile, everyKindOfPngIsReadAndNoneIsTalkedAbout) {
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 
+/// What is told before the pixels is read without a word on standard error; what Qt says later goes
+/// through its handler.
+TEST(PictureFile, brokenPngsInDrawingsAreLeftOut) {
+    const QByteArray bytes = file(halves(40, 20), "png");
+    testing::internal::CaptureStderr();
+    for (qsizetype place = 8; place < bytes.indexOf("IDAT"); ++place) {
+        QByteArray damaged = bytes;
+        damaged[place] = static_cast<char>(damaged[place] ^ 0x55);
+        const auto drawing =
+            pictureFrom(svg("width='8' height='8'",
+                            "<image width='4' height='4' xlink:href='data:image/png;base64," +
+                                damaged.toBase64() + "'/>"));
+        ASSERT_TRUE(drawing) << place;
+        EXPECT_EQ(drawing->image({8, 8}).size(), QSize(8, 8)) << place;
+    }
+    EXPECT_EQ(testing::internal::GetCapturedStderr().find("libpng error"), std::string::npos);
+}
+
 TEST(PictureFile, brokenFilesAreNullOrWhole) {
     std::mt19937 random(4711);
     std::vector<QByteArray> files{kGif, svg("width='8' height='8'", "<path d='M0 0h9'/>")};

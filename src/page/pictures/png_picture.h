@@ -11,4 +11,8 @@ namespace page {
 /// error.
 QImage readPng(const QByteArray& bytes);
 
+/// Its size in pixels as the file tells it before the pixels; empty when what
+/// stands there is damaged, or for sizes far beyond those of pictures. In silence, as well.
+QSize pngSize(const QByteArray& bytes);
+
 } // namespace page

@@ -70,11 +70,17 @@ std::shared_ptr<const RasterPicture> RasterPicture::read(const QByteArray& bytes
 }
 
 QSize RasterPicture::toldSize(const QByteArray& bytes, PictureFormat format) {
-    QByteArray read = bytes;
-    QBuffer buffer(&read);
-    QImageReader reader(&buffer, readerName(format));
-    reader.setAutoDetectImageFormat(false);
-    return isPictureSize(reader.size()) ? reader.size() : QSize(0, 0);
+    const auto told = [&] {
+        if (format == PictureFormat::Png)
+            return pngSize(bytes);
+        QByteArray read = bytes;
+        QBuffer buffer(&read);
+        QImageReader reader(&buffer, readerName(format));
+        reader.setAutoDetectImageFormat(false);
+        return reader.size();
+    };
+    const QSize size = told();
+    return isPictureSize(size) ? size : QSize(0, 0);
 }
 
 bool RasterPicture::isReadable(const QByteArray& bytes, PictureFormat format) {
