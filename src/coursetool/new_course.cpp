@@ -44,14 +44,17 @@ void writeNewCourse(const fs::path& directory, OutputBuffer& out, Report& report
     StagedCourse course(directory);
     if (!course.open(report))
         return;
-    SourceWriter writer(report);
+    Report passing; // where files stand until all are there is nobody's matter
+    SourceWriter writer(passing);
     for (const TemplateFile& file : kTemplateFiles) {
         const fs::path path = pathFrom(file.path);
         writer.writeFile(std::string(file.text), course.pathFor(path));
+        if (passing.hasFailures())
+            return report.failure({shown(directory / path)}, passing.remarks().back().sentence);
         course.add(path);
         out.text() += shown(directory / path) + '\n';
     }
-    if (report.hasFailures() || !course.publish(report))
+    if (!course.publish(report))
         return;
     if (!out.flush())
         report.outputFailure(out.error());

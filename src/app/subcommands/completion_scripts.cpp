@@ -25,7 +25,7 @@ std::string escaped(std::string_view text, std::string_view stops) {
     return line;
 }
 
-std::string quoted(std::string_view text) {
+std::string inQuotes(std::string_view text) {
     std::string word = "'";
     for (const char c : text)
         word += c == '\'' ? std::string("'\\''") : std::string(1, c);
@@ -50,9 +50,9 @@ std::string bashScript(const std::vector<CompletedCall>& calls) {
         std::string options;
         for (const CompletedOption& option : call.options)
             options += "--" + option.word + ' ';
-        cases += "    " + call.name + ")\n        options=" + quoted(options) +
-                 "\n        folders=" + quoted(bashWords(call, Values::Folders)) +
-                 "\n        words=" + quoted(bashWords(call, Values::Words)) + " ;;\n";
+        cases += "    " + call.name + ")\n        options=" + inQuotes(options) +
+                 "\n        folders=" + inQuotes(bashWords(call, Values::Folders)) +
+                 "\n        words=" + inQuotes(bashWords(call, Values::Words)) + " ;;\n";
     }
     return R"(_orvalente_cours() {
     local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD-1]}
@@ -95,7 +95,7 @@ std::string zshOption(const CompletedOption& option) {
     const std::string names = option.letter.empty() ? word
                                                     : "'(-" + option.letter + ' ' + word + ")'{-" +
                                                           option.letter + ',' + word + '}';
-    return names + quoted('[' + escaped(option.description, "[]\\") + ']' +
+    return names + inQuotes('[' + escaped(option.description, "[]\\") + ']' +
                           (option.kind.empty() ? "" : zshValue(option.kind)));
 }
 
@@ -103,12 +103,12 @@ std::string zshScript(const std::vector<CompletedCall>& calls) {
     std::string names;
     std::string cases;
     for (const CompletedCall& call : calls) {
-        names += "        " + quoted(call.name + ':' + escaped(call.description, "\\")) + '\n';
+        names += "        " + inQuotes(call.name + ':' + escaped(call.description, "\\")) + '\n';
         cases += "    " + call.name + ") _arguments";
         for (const CompletedOption& option : call.options)
             cases += " \\\n        " + zshOption(option);
         for (const std::string& argument : call.arguments)
-            cases += " \\\n        " + quoted(':' + zshValue(argument).substr(1));
+            cases += " \\\n        " + inQuotes(':' + zshValue(argument).substr(1));
         cases += " ;;\n";
     }
     return "#compdef orvalente-cours\n_orvalente_cours() {\n    local -a calls\n    calls=(\n" +
@@ -133,14 +133,14 @@ std::string fishOption(const CompletedCall& call, const CompletedOption& option)
         line += " -s " + option.letter;
     if (!option.kind.empty())
         line += valuesOf(option.kind) == Values::Words ? " -x" : " -r -F";
-    return line + " -d " + quoted(escaped(option.description, "\\")) + '\n';
+    return line + " -d " + inQuotes(escaped(option.description, "\\")) + '\n';
 }
 
 std::string fishScript(const std::vector<CompletedCall>& calls) {
     std::string script = "complete -c orvalente-cours -f\n";
     for (const CompletedCall& call : calls) {
         script += "complete -c orvalente-cours -n __fish_use_subcommand -a " + call.name + " -d " +
-                  quoted(escaped(call.description, "\\")) + '\n';
+                  inQuotes(escaped(call.description, "\\")) + '\n';
         for (const CompletedOption& option : call.options)
             script += fishOption(call, option);
         for (const std::string& argument : call.arguments)

@@ -1,0 +1,103 @@
+// Preloaded into a program: a directory on a share that goes away and comes back, as often as a
+// file of the tests is there or not. Meanwhile all that is read below it fails with ESTALE, open
+// files included, as those of a share do whose server was restarted.
+//
+//   AWAY_BELOW  the directory, canonical
+//   AWAY_WHILE  the file
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <climits>
+#include <cstdarg>
+#include <cstdlib>
+#include <string>
+
+namespace {
+
+const std::string& variable(const char* name) {
+    static const std::string kBelow = std::getenv("AWAY_BELOW") ? std::getenv("AWAY_BELOW") : "/-";
+    static const std::string kWhile = std::getenv("AWAY_WHILE") ? std::getenv("AWAY_WHILE") : "/-";
+    return name[5] == 'B' ? kBelow : kWhile;
+}
+
+bool isAway(const std::string& place) {
+    if (!place.starts_with(variable("AWAY_BELOW")) ||
+        syscall(SYS_faccessat, AT_FDCWD, variable("AWAY_WHILE").c_str(), F_OK) != 0)
+        return false;
+    errno = ESTALE;
+    return true;
+}
+
+bool isAway(int descriptor) {
+    char path[PATH_MAX];
+    const std::string link = "/proc/self/fd/" + std::to_string(descriptor);
+    const long length = syscall(SYS_readlinkat, AT_FDCWD, link.c_str(), path, sizeof path);
+    return length > 0 && isAway(std::string(path, static_cast<std::size_t>(length)));
+}
+
+int openFile(int directory, const char* path, int flags, unsigned mode) {
+    return isAway(path) ? -1 : static_cast<int>(syscall(SYS_openat, directory, path, flags, mode));
+}
+
+} // namespace
+
+#define OPEN_WITH_MODE(directory, path, flags)                                                     \
+    va_list rest;                                                                                  \
+    va_start(rest, flags);                                                                         \
+    const unsigned mode = (flags) & (O_CREAT | O_TMPFILE) ? va_arg(rest, unsigned) : 0;            \
+    va_end(rest);                                                                                  \
+    return openFile(directory, path, flags, mode)
+
+extern "C" {
+
+int open(const char* path, int flags, ...) {
+    OPEN_WITH_MODE(AT_FDCWD, path, flags);
+}
+int open64(const char* path, int flags, ...) {
+    OPEN_WITH_MODE(AT_FDCWD, path, flags);
+}
+int openat(int directory, const char* path, int flags, ...) {
+    OPEN_WITH_MODE(directory, path, flags);
+}
+int openat64(int directory, const char* path, int flags, ...) {
+    OPEN_WITH_MODE(directory, path, flags);
+}
+DIR* opendir(const char* path) {
+    const int directory = open(path, O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    return directory < 0 ? nullptr : fdopendir(directory);
+}
+ssize_t read(int descriptor, void* bytes, size_t count) {
+    return isAway(descriptor) ? -1 : syscall(SYS_read, descriptor, bytes, count);
+}
+ssize_t pread(int descriptor, void* bytes, size_t count, off_t offset) {
+    return isAway(descriptor) ? -1 : syscall(SYS_pread64, descriptor, bytes, count, offset);
+}
+ssize_t pread64(int descriptor, void* bytes, size_t count, off64_t offset) {
+    return pread(descriptor, bytes, count, offset);
+}
+int statx(int directory, const char* path, int flags, unsigned mask,
+          struct statx* status) noexcept {
+    if (*path ? isAway(path) : isAway(directory))
+        return -1;
+    return static_cast<int>(syscall(SYS_statx, directory, path, flags, mask, status));
+}
+int fstatat(int directory, const char* path, struct stat* status, int flags) noexcept {
+    if (isAway(path))
+        return -1;
+    return static_cast<int>(syscall(SYS_newfstatat, directory, path, status, flags));
+}
+int stat(const char* path, struct stat* status) noexcept {
+    return fstatat(AT_FDCWD, path, status, 0);
+}
+int lstat(const char* path, struct stat* status) noexcept {
+    return fstatat(AT_FDCWD, path, status, AT_SYMLINK_NOFOLLOW);
+}
+int access(const char* path, int mode) noexcept {
+    return isAway(path) ? -1 : static_cast<int>(syscall(SYS_faccessat, AT_FDCWD, path, mode));
+}
+}
