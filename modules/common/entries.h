@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -21,11 +22,10 @@ std::optional<std::vector<Entry>> parseEntries(std::u16string_view text);
 
 /// The one of `all` that files know under that key; null when there is none.
 template <class All>
-const typename All::value_type* ofKey(const All& all, std::u16string_view key) {
-    for (const auto& one : all)
-        if (key == one.key)
-            return &one;
-    return nullptr;
+const auto* ofKey(const All& all, std::u16string_view key) {
+    const auto one =
+        std::find_if(all.begin(), all.end(), [key](const auto& each) { return key == each.key; });
+    return one == all.end() ? nullptr : &*one;
 }
 
 } // namespace common

@@ -96,7 +96,7 @@ std::string zshOption(const CompletedOption& option) {
                                                     : "'(-" + option.letter + ' ' + word + ")'{-" +
                                                           option.letter + ',' + word + '}';
     return names + inQuotes('[' + escaped(option.description, "[]\\") + ']' +
-                          (option.kind.empty() ? "" : zshValue(option.kind)));
+                            (option.kind.empty() ? "" : zshValue(option.kind)));
 }
 
 std::string zshScript(const std::vector<CompletedCall>& calls) {
