@@ -23,10 +23,11 @@ QRegion keptIn(const QWidget& window) {
             continue;
         const QPoint corner = child->mapTo(&window, QPoint());
         for (const QRect& part : keeping->keptArea() & child->visibleRegion()) {
-            const QRect placed = part.translated(corner);
-            all |= QRectF(placed.x() * ratio, placed.y() * ratio, placed.width() * ratio,
-                          placed.height() * ratio)
-                       .toAlignedRect();
+            // To the nearest edges: rows of a region stay side by side, and none takes pixels of
+            // the ground along.
+            const QRectF placed = part.translated(corner);
+            all |= QRect((placed.topLeft() * ratio).toPoint(),
+                         (placed.bottomRight() * ratio).toPoint() - QPoint(1, 1));
         }
     }
     return all;
