@@ -30,8 +30,9 @@ public:
     int position() const { return records_ ? records_->absolutePosition() : -1; }
     /// Moves to the record at `position` and takes over its fields; no change when there is none. A
     /// field of it that cannot be read leaves what its control held; NULL and a field that the
-    /// table does not have show as empty or unchecked.
-    void moveTo(int position);
+    /// table does not have show as empty or unchecked. False when the table has the record and it,
+    /// or one of its fields, cannot be read: the file is damaged, or its disc or share has gone.
+    bool moveTo(int position);
 
 private:
     Recordset* records_ = nullptr;

@@ -25,7 +25,7 @@ constexpr qint64 kLongestBytes = 16 << 20;
 /// Files are ours by their names too: somebody may have written in the list.
 bool isOurName(const QString& name) {
     static const QRegularExpression ours(
-        QStringLiteral("^(?:(?:pages|tests|programme|polices|films)/"
+        QStringLiteral("^(?:(?:pages|tests|programme|polices|films|simulations)/"
                        ")?[A-Za-z0-9-]+-[0-9a-f]{10}\\.[a-z0-9]{2,5}$"));
     return ours.match(name).hasMatch();
 }

@@ -55,6 +55,12 @@ constexpr QRect kExtract(480, 32, 288, 232);
 constexpr double kExtractMargin = 7;
 constexpr int kHintGap = 10;
 
+const QString kNothingFound = QStringLiteral("Aucune page trouvée.");
+/// A share that has gone must not pass for a course without the word.
+const QString kNothingRead =
+    QStringLiteral("Aucune page trouvée\u00A0: ce cours ne peut pas être lu.");
+const QString kPartlyRead = QStringLiteral(" Une partie du cours ne peut pas être lue.");
+
 /// So few pages found may be due to an accent.
 constexpr std::size_t kFewPages = 2;
 
@@ -126,7 +132,7 @@ void Coordon::addControls() {
     Checkmots_ = addBox(QStringLiteral("&Tous les mots"), kAllWords);
     accents_ = addBox(QStringLiteral("&Ignorer les accents"), kAccents);
 
-    Label2_ = newLabel(QStringLiteral("Aucune page trouvée."), kNotice, look::Weight::Bold, this);
+    Label2_ = newLabel(kNothingFound, kNotice, look::Weight::Bold, this);
     count_ = newLabel({}, kNotice, look::Weight::Regular, this);
     hint_ = newLabel({}, kNotice, look::Weight::Regular, this);
     look::setInk(*hint_, look::kMuted);
@@ -240,6 +246,8 @@ void Coordon::Command2_Click() {
     query_ = query;
     last_ = {Text1_->text(), query.allWords, query.ignoreAccents};
     again_->hide();
+    if (!isCourseRead()) // its share may be back
+        pages_ = searchablePages(state_.InstallDir);
     // Nothing of a course that cannot be opened is found.
     if (!pages_) {
         showFound({});
@@ -256,6 +264,11 @@ void Coordon::Command2_Click() {
     Label2_->hide();
     say({}, {});
     searchOn();
+}
+
+/// Whether nothing of the course has been passed over so far because it cannot be read.
+bool Coordon::isCourseRead() const {
+    return pages_ && pages_->problems().empty();
 }
 
 /// Searches for a turn of the window's loop.
@@ -288,13 +301,17 @@ void Coordon::showFound(std::vector<FoundPage> pages) {
     // In the order of the course; behind them those on which nobody reads the words.
     const auto hidden = std::stable_partition(pages.begin(), pages.end(),
                                               [](const FoundPage& page) { return !page.hidden; });
-    const QString result = countWords(count, static_cast<std::size_t>(pages.end() - hidden));
+    QString result = countWords(count, static_cast<std::size_t>(pages.end() - hidden));
+    const bool isRead = isCourseRead();
+    if (!isRead)
+        result += kPartlyRead;
+    Label2_->setText(isRead ? kNothingFound : kNothingRead);
     found_.setPages(std::move(pages));
     Pbar1_->hide();
     Label2_->setVisible(!some);
     showList(some);
     say(some ? result : Label2_->text(),
-        count <= kFewPages && !query_->ignoreAccents
+        isRead && count <= kFewPages && !query_->ignoreAccents
             ? QStringLiteral("Essayez «\u00A0Ignorer les accents\u00A0».")
             : QString());
     if (!some)

@@ -68,6 +68,7 @@ private:
     void Command3_Click();
     void List2_DblClick(const QModelIndex& line);
 
+    bool isCourseRead() const;
     void searchOn();
     void showFound(std::vector<FoundPage> pages);
     void showList(bool shown);

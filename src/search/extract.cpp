@@ -40,10 +40,11 @@ QString Extract::html(int position, const Query& query) {
             return {};
         cours_ = std::move(*opened);
     }
-    if (!cours_->setAbsolutePosition(position))
-        return {};
-    const auto field = cours_->field(QStringLiteral("fpc"));
+    const bool isThere = cours_->setAbsolutePosition(position);
+    const auto field = isThere ? cours_->field(QStringLiteral("fpc")) : std::nullopt;
     const QString* const source = field ? std::get_if<QString>(&*field) : nullptr;
+    if (!field) // what could not be read may be there again the next time
+        cours_.reset();
     return source ? extractHtml(textOf(*source, fonts_), query) : QString();
 }
 

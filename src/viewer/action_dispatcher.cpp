@@ -33,20 +33,19 @@ void ActionDispatcher::runAction(QString& code) {
 
 void ActionDispatcher::showPageByNumber(double number) {
     const auto n = text::toInt16(number);
-    if (const auto position = n ? coursedata::positionOfCode(state_, *n) : std::nullopt)
-        loader_.record().moveTo(*position);
-    show();
+    show(n ? coursedata::positionOfCode(state_, *n) : std::nullopt);
 }
 
 void ActionDispatcher::showPageByOrder(std::int32_t index) {
-    if (const auto position = coursedata::positionByOrder(state_, index))
-        loader_.record().moveTo(*position);
-    show();
+    show(coursedata::positionByOrder(state_, index));
 }
 
-void ActionDispatcher::show() {
+void ActionDispatcher::show(std::optional<std::int16_t> position) {
+    const bool isRead = !position || loader_.record().moveTo(*position);
     loader_.takeOverOrderIndex();
     loader_.showCurrentRecord();
+    if (!isRead) // a new page clears such a line
+        view_.tellUnreadablePage();
 }
 
 void ActionDispatcher::openExercise(QString& code) {

@@ -8,6 +8,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <optional>
 
 namespace viewer {
 
@@ -36,7 +37,7 @@ public:
 private:
     void showPageByNumber(double number);
     void openExercise(QString& code);
-    void show();
+    void show(std::optional<std::int16_t> position);
 
     shell::SharedState& state_;
     PageLoader& loader_;

@@ -120,6 +120,7 @@ public:
     void setPrintable(bool printable) override;
     void setSummary(const QString& code, const QString& caption) override;
     void setReturnToTestVisible(bool visible) override;
+    void tellUnreadablePage() override;
     void markWords(const FoundWords& words) override;
     void showHourglass() override;
     void restorePointer() override;

@@ -135,6 +135,11 @@ void Multim::setReturnToTestVisible(bool visible) {
     changeButtons([&] { rail_->setReturnToTestVisible(visible); });
 }
 
+void Multim::tellUnreadablePage() {
+    report(
+        QStringLiteral("La page demandée ne peut pas être lue. Vérifiez le disque ou le réseau."));
+}
+
 void Multim::markWords(const FoundWords& words) {
     finder_->mark(words);
 }

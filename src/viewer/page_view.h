@@ -52,6 +52,10 @@ public:
     /// Shows or hides the button that leads back to the test.
     virtual void setReturnToTestVisible(bool visible) = 0;
 
+    /// Says in a line that the page that was wanted cannot be read, or not all of it; what is shown
+    /// is the one before, or what could be read.
+    virtual void tellUnreadablePage() = 0;
+
     /// Marks these words on the page that is shown, until another comes, and scrolls to the first.
     virtual void markWords(const FoundWords& words) = 0;
 

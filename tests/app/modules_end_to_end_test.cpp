@@ -93,6 +93,45 @@ TEST_F(Leaving, endsNeitherStrangersNorAnotherShellWithItsHelpOpen) {
     EXPECT_EQ(activeTitle().isEmpty(), false);
 }
 
+TEST_F(Leaving, letsAnotherShellOnTheSameCourseGoOn) {
+    test_support::writeProgram(course() + "/terminus.exe", "#!/bin/sh\necho there > trace\n");
+    start();
+    QProcess other;
+    other.setProcessEnvironment(environment());
+    other.start(ORVALENTE, {"--course", course()});
+    const auto windowOf = [this](const QProcess& program) {
+        return QString::fromLatin1(
+                   run("xdotool", {"search", "--all", "--onlyvisible", "--pid",
+                                   QString::number(program.processId()), "--name", "Orvalente - "}))
+            .section(u'\n', 0, 0);
+    };
+    const auto titleOf = [&](const QProcess& program) {
+        return run("xdotool", {"getwindowname", windowOf(program)});
+    };
+    const auto turnsThePage = [&](const QProcess& program, const QString& key) {
+        const QByteArray before = titleOf(program);
+        run("xdotool", {"windowactivate", "--sync", windowOf(program)});
+        press(key);
+        return eventually([&] { return titleOf(program) != before; });
+    };
+    ASSERT_TRUE(eventually([&] { return !windowOf(other).isEmpty(); }));
+    moduleSays(9, "OUI"); // what a module has written since both have started
+    const QByteArray status = raw_status_file::all(course());
+    for (const QString key : {"alt+y", "alt+h"}) // Physique, Chimie
+        for (const QProcess* program : {&shell_, &other})
+            EXPECT_TRUE(turnsThePage(*program, key)) << titleOf(*program).data();
+    leave();
+    EXPECT_TRUE(eventually([&] { return QFile::exists(course() + "/trace"); }));
+    EXPECT_EQ(raw_status_file::all(course()), status) << "leaving writes nothing in it";
+    EXPECT_TRUE(turnsThePage(other, "alt+y"));
+    // A third start sets it back, whatever runs: meant so.
+    start();
+    EXPECT_TRUE(eventually([&] { return raw_status_file::characters(course(), 9) == "NON"; }));
+    EXPECT_TRUE(turnsThePage(other, "alt+h"));
+    other.kill();
+    other.waitForFinished();
+}
+
 TEST_F(Leaving, goesWithTheModuleThatTheInternetButtonStarted) {
     ASSERT_TRUE(QFile::copy(QStringLiteral(LINKS_MODULE), course() + "/SIMU07.EXE"));
     for (const bool installed : {false, true}) {

@@ -9,6 +9,7 @@
 #include <QDialog>
 #include <QFile>
 #include <QLabel>
+#include <QLineEdit>
 #include <QTimer>
 
 #include <cstdio>
@@ -22,22 +23,45 @@ QWidget* mainWindow() {
     return nullptr;
 }
 
-/// Windows that wait for an answer are told of and closed.
-void closeDialogs() {
-    if (QWidget* const dialog = QApplication::activeModalWidget()) {
-        for (const QLabel* label : dialog->findChildren<QLabel*>())
-            std::printf("dialog %s\n", qUtf8Printable(label->text()));
-        dialog->close();
-    }
+/// The words of labels that are seen, a line each.
+void tellLabels(const QWidget& window, const char* what) {
+    for (const QLabel* label : window.findChildren<QLabel*>())
+        if (label->isVisible() && !label->text().isEmpty())
+            std::printf("%s %s\n", what, qUtf8Printable(label->text()));
 }
 
-/// What a screen reader would find in the main window, and its title.
+/// In the window of the search, what is on one page only.
+void search(const QDialog& window) {
+    window.findChild<QLineEdit*>(QStringLiteral("Text1"))->setText(QStringLiteral("prisme"));
+    window.findChild<QAbstractButton*>(QStringLiteral("Command2"))->click();
+    const auto* const bar = window.findChild<QWidget*>(QStringLiteral("Pbar1"));
+    while (!bar->isHidden())
+        QCoreApplication::processEvents();
+    tellLabels(window, "search");
+}
+
+/// Windows that wait for an answer are told of and closed.
+void closeDialogs() {
+    const auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    if (!dialog)
+        return;
+    if (dialog->objectName() == QStringLiteral("coordon"))
+        search(*dialog);
+    else
+        tellLabels(*dialog, "dialog");
+    QApplication::activeModalWidget()->close();
+}
+
+/// What a screen reader would find in the main window, its title, and what it says in a line.
 void tell(const char* what) {
     std::printf("%s: %s\n", what, qUtf8Printable(mainWindow()->windowTitle().simplified()));
     for (const QWidget* each : mainWindow()->findChildren<QWidget*>())
         if (each->isVisible() && !each->accessibleDescription().isEmpty() &&
             !qobject_cast<const QAbstractButton*>(each))
             std::printf("  %s\n", qUtf8Printable(each->accessibleDescription()));
+    const auto* const line = mainWindow()->findChild<QLabel*>(QStringLiteral("outcome"));
+    if (line->isVisible())
+        std::printf("  says %s\n", qUtf8Printable(line->text()));
 }
 
 void press(const char* name) {

@@ -31,6 +31,27 @@ State withoutPassing(State state) {
     return state;
 }
 
+/// What a published site says of itself, before it changes anything and once more at the end:
+/// between the two it names files that are not there yet, and those that came last by what they
+/// were before. Meant so: what it does not name would never be removed.
+constexpr char kSite[] = "site/";
+constexpr char kSiteList[] = "site/fichiers-publies.txt";
+constexpr char kSiteIndex[] = "site/index.html";
+
+/// The files of a site that its list does not name, a line each.
+std::string unlistedIn(const State& state) {
+    const auto list = state.find(kSiteList);
+    const std::string named = list != state.end() ? list->second : std::string();
+    std::string unlisted;
+    for (const auto& [name, content] : state) {
+        const bool isPart = name.starts_with(kSite) && !name.ends_with('/') && name != kSiteList &&
+                            name != kSiteIndex;
+        if (isPart && named.find(' ' + name.substr(std::size(kSite) - 1) + '\n') == named.npos)
+            unlisted += name + '\n';
+    }
+    return unlisted;
+}
+
 std::string namesOf(const State& state) {
     std::string names;
     for (const auto& [name, content] : state)
@@ -87,15 +108,16 @@ protected:
         const auto isOf = [](const State& state, const std::string& name,
                              const std::string& content) {
             const auto found = state.find(name);
-            return found != state.end() && found->second == content;
+            return found != state.end() && (found->second == content || name == kSiteList);
         };
         for (const auto& [name, content] : now)
             EXPECT_TRUE(isOf(before_, name, content) || isOf(after_, name, content) ||
                         name.ends_with('/'))
                 << name;
+        EXPECT_EQ(unlistedIn(now), "");
         for (const auto& [name, content] : before_)
             EXPECT_TRUE(now.contains(name) || !after_.contains(name)) << name << " is lost";
-        const bool isNew = isOf(now, "site/index.html", fileOf(after_, "site/index.html"));
+        const bool isNew = isOf(now, kSiteIndex, fileOf(after_, kSiteIndex));
         if (scenario().unit == Unit::EachThenLast && isNew) {
             for (const auto& [name, content] : after_)
                 EXPECT_TRUE(isOf(now, name, content)) << name;

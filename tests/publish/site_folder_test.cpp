@@ -101,6 +101,19 @@ TEST_F(Editions, keepTheFilesOfTheOneBefore) {
     EXPECT_TRUE(fs::exists(place / "index.html"));
 }
 
+TEST_F(Editions, leaveNothingBehindInAnyFolder) {
+    const char* const stems[] = {"style",           "pages/p1",        "tests/t1",  "programme/a",
+                                 "polices/cours-a", "simulations/m10", "films/clip"};
+    for (const char* text : {"a", "b", "c"}) {
+        Content files;
+        for (const char* stem : stems)
+            files.emplace_back(stem, text);
+        publish(files);
+    }
+    for (const char* stem : stems)
+        EXPECT_FALSE(has(stem, "a")) << stem;
+}
+
 TEST_F(Editions, forgetNothingOfAnInterruptedOne) {
     publish({{"pages/p1", "first"}}, End::Died);
     publish({{"pages/p1", "a"}});

@@ -33,7 +33,7 @@ constexpr int kFirstNumber = 101;
 class CoordonWindow : public testing::Test {
 protected:
     void write(const std::vector<Page>& pages) {
-        auto file = jet::createDatabase(folder_.filePath("ZEKX.MDB").toStdString());
+        auto file = jet::createDatabase(database().toStdString());
         ASSERT_TRUE(file);
         const auto& rule = coursetool::coursTable();
         const auto columns = coursetool::columnsOf(rule);
@@ -54,6 +54,8 @@ protected:
         }
         ASSERT_TRUE(file->finish());
     }
+
+    QString database() const { return folder_.filePath("ZEKX.MDB"); }
 
     void open() {
         window.reset();
@@ -297,13 +299,39 @@ TEST_F(CoordonWindow, leavesThePageThatWasChosen) {
 TEST_F(CoordonWindow, searchesShortTablesAndCoursesThatAreNotThere) {
     open();
     search(QStringLiteral("lumière"));
-    EXPECT_TRUE(control<QLabel>("Label2").isVisible());
+    auto& notice = control<QLabel>("Label2");
+    EXPECT_TRUE(notice.isVisible());
+    const QString unread =
+        QStringLiteral("Aucune page trouvée\u00A0: ce cours ne peut pas être lu.");
+    EXPECT_EQ(notice.text(), unread);
+    write(kCourse); // it comes back under the window
+    search(QStringLiteral("lumière"));
+    EXPECT_EQ(lines(), "La lumière 102");
+    search(QStringLiteral("absent"));
+    EXPECT_EQ(notice.text(), QStringLiteral("Aucune page trouvée."));
     for (std::size_t records = 0; records <= 2; ++records) {
         write({kCourse.begin(), kCourse.begin() + static_cast<std::ptrdiff_t>(records)});
         open();
         search(QStringLiteral("lumière"));
         EXPECT_EQ(lines(), records == 2 ? "La lumière 102" : "-") << records;
     }
+}
+
+TEST_F(CoordonWindow, saysWhenAPartOfTheCourseCannotBeRead) {
+    const std::u16string longText = u"indice " + std::u16string(3'000, u'x');
+    write({kCourse[0], {u"Longue", longText.c_str()}, {u"L’indice", u"Un indice"}});
+    QByteArray file = test_support::readFile(database());
+    const qsizetype at = file.indexOf(QByteArray(100, 'x'));
+    ASSERT_GT(at, 0);
+    constexpr int kPage = 4096;
+    file[at / kPage * kPage] = '\x7F'; // a page of no kind
+    test_support::writeFile(database(), file);
+    open();
+    search(QStringLiteral("indice"));
+    EXPECT_EQ(lines(), "L’indice 103");
+    EXPECT_EQ(control<QLabel>("count").text(),
+              QStringLiteral("1 page trouvée. Une partie du cours ne peut pas être lue."));
+    EXPECT_TRUE(control<QLabel>("hint").isHidden());
 }
 
 TEST_F(CoordonWindow, staysAliveDuringALongSearch) {

@@ -20,7 +20,7 @@ public:
     int absolutePosition() const override { return position_; }
 
     bool setAbsolutePosition(int position) override {
-        if (position < 0 || position >= recordCount())
+        if (isGone || position < 0 || position >= recordCount())
             return false;
         position_ = position;
         return true;
@@ -49,6 +49,7 @@ public:
 
     QList<Record> records;
     QStringList unreadable; ///< fields that exist but cannot be read
+    bool isGone = false;    ///< no record can be read any more
 
 private:
     int position_ = -1;

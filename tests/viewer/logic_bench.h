@@ -47,6 +47,7 @@ public:
         note(QStringLiteral("summary ") + summary);
     }
     void setReturnToTestVisible(bool on) override { returnToTest = on; }
+    void tellUnreadablePage() override { note(QStringLiteral("page unread")); }
     void markWords(const viewer::FoundWords& found) override {
         for (const QString& word : found.words)
             note(QStringLiteral("mark ") + word);

@@ -115,6 +115,31 @@ TEST(PageLoader, showsAPageWithWhateverFieldsItHas) {
               QStringLiteral("print 0,0 \"un\" Arial 10"));
 }
 
+TEST(PageLoader, tellsOfAPageThatCannotBeReadBehindWhatItShows) {
+    test_support::LogicBench bench({page(1), page(2)});
+    const auto linesOf = [&bench](const auto& show) {
+        bench.collaborators.log.clear();
+        show();
+        QStringList& log = bench.collaborators.log;
+        return log.mid(log.indexOf(QStringLiteral("show page")) + 1);
+    };
+    const QString told = QStringLiteral("page unread");
+    const auto byNumber = [&] { bench.actions.run(QStringLiteral("PAG002")); };
+    const auto byOrder = [&] { bench.actions.showPageByOrder(2); };
+    EXPECT_FALSE(linesOf(byNumber).contains(told));
+    for (const char* const field : {"fpc", "Numeropage", "suite"}) {
+        bench.cours.unreadable = QStringList{QString::fromLatin1(field)};
+        EXPECT_TRUE(linesOf(byNumber).contains(told)) << field;
+        EXPECT_TRUE(linesOf(byOrder).contains(told)) << field;
+    }
+    bench.cours.unreadable.clear();
+    EXPECT_FALSE(linesOf(byOrder).contains(told));
+    bench.cours.isGone = true; // the whole record, though the table counts it
+    EXPECT_TRUE(linesOf(byNumber).contains(told));
+    const auto nowhere = [&] { bench.actions.run(QStringLiteral("PAG900")); };
+    EXPECT_FALSE(linesOf(nowhere).contains(told)) << "no page was wanted that there is";
+}
+
 TEST(PageLoader, withoutDatabaseShowsAnEmptyPage) {
     test_support::LogicBench bench({});
     bench.actions.run(QStringLiteral("PAG001"));
