@@ -13,6 +13,16 @@ constexpr std::string_view kKeyCharacters = "ABCDEFGHIJKLMNOPQRSTUVWXYZ"
 constexpr std::string_view kValueCharacters = "ABCDEFGHIJKLMNOPQRSTUVWXYZ"
                                               "abcdefghijklmnopqrstuvwxyz0123456789_-+.: ";
 
+/// Whether a single character stands alone behind a blank. The only blank within a value is that
+/// between a date and its time, and no time is that short: of "1979-05-27 1" toml++ expects more.
+bool hasLoneCharacter(std::string_view plain) {
+    for (std::size_t at = plain.find(' '); at != plain.npos; at = plain.find(' ', at + 1))
+        if (at + 1 < plain.size() && plain[at + 1] != ' ' &&
+            (at + 2 == plain.size() || plain[at + 2] == ' '))
+            return true;
+    return false;
+}
+
 class Check {
 public:
     explicit Check(std::string_view toml) : toml_(toml) {}
@@ -55,8 +65,11 @@ private:
         const std::size_t value = at_;
         if (startsWith("_"))
             return value;
-        if (!skipString())
+        if (!skipString()) {
             skip(kValueCharacters);
+            if (hasLoneCharacter(toml_.substr(value, at_ - value)))
+                return value;
+        }
         skip(kBlanks);
         return atLineEnd() || skipComment() ? Fault() : value;
     }

@@ -6,9 +6,11 @@
 
 #include <QBuffer>
 #include <QPainter>
+#include <QPainterPath>
 
 #include <gtest/gtest.h>
 
+#include <random>
 #include <thread>
 
 namespace {
@@ -132,6 +134,66 @@ TEST(SvgBounds, dashesWithoutEndAreALine) {
                             ->image({90, 90});
     EXPECT_EQ(dashes.pixel(5, 45), 0xffff0000u);
     EXPECT_EQ(dashes.pixel(15, 45), 0u);
+}
+
+/// Lines all over a picture 900 pixels wide. Thousands of them, drawn smooth, take a minute.
+QPainterPath tangle(int lines) {
+    std::mt19937 random(4711);
+    QPainterPath path;
+    for (int line = 0; line < lines; ++line) {
+        const int x = static_cast<int>(random() % 900);
+        path.lineTo(x, static_cast<int>(random() % 900));
+    }
+    return path;
+}
+
+struct Colours {
+    int of = 0;      ///< pixels of the pen's very colour
+    int between = 0; ///< of smooth edges
+};
+
+Colours coloursIn(const QImage& image, QRgb pen) {
+    Colours colours;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x) {
+            const QRgb pixel = image.pixel(x, y);
+            colours.of += pixel == pen ? 1 : 0;
+            colours.between += pixel != pen && pixel != 0 ? 1 : 0;
+        }
+    return colours;
+}
+
+/// What a drawing costs is reckoned by what is in it, not measured: a busy machine draws the same.
+TEST(BoundedCanvas, dearDrawingsLoseTheirFinenessNotTheProgram) {
+    const page::GivenUp never = false;
+    const auto draw = [&never](const auto& content) {
+        page::BoundedCanvas canvas({900, 900}, never);
+        QPainter painter(&canvas);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::red);
+        content(painter);
+        painter.end();
+        return canvas.image();
+    };
+    const Colours cheap =
+        coloursIn(draw([](QPainter& painter) { painter.drawPath(tangle(9)); }), 0xffff0000u);
+    EXPECT_GT(cheap.between, 1000) << "a few lines are smooth";
+
+    const QImage dear = draw([](QPainter& painter) {
+        painter.drawPath(tangle(400));
+        painter.fillRect(0, 0, 90, 90, Qt::blue); // there is enough left for what follows
+    });
+    EXPECT_EQ(dear.pixel(45, 45), 0xff0000ffu);
+    EXPECT_GT(coloursIn(dear.copy(90, 90, 800, 800), 0xffff0000u).of, 100'000);
+    EXPECT_EQ(coloursIn(dear.copy(90, 90, 800, 800), 0xffff0000u).between, 0);
+
+    const QImage spent = draw([](QPainter& painter) {
+        for (int i = 0; i < 9; ++i)
+            painter.drawPath(tangle(4000));
+        painter.fillRect(0, 0, 900, 900, Qt::blue); // what comes last is left out
+    });
+    EXPECT_EQ(coloursIn(spent, 0xff0000ffu).of, 0);
+    EXPECT_GT(coloursIn(spent, 0xffff0000u).of, 100'000);
 }
 
 TEST(BoundedCanvas, drawsNothingMoreOnceItIsGivenUp) {
