@@ -17,6 +17,7 @@
 #include "look/text_field.h"
 #include "page/twips.h"
 #include "platform/file_names.h"
+#include "search/result_words.h"
 
 #include <QElapsedTimer>
 #include <QKeyEvent>
@@ -55,25 +56,8 @@ constexpr QRect kExtract(480, 32, 288, 232);
 constexpr double kExtractMargin = 7;
 constexpr int kHintGap = 10;
 
-const QString kNothingFound = QStringLiteral("Aucune page trouvée.");
-/// A share that has gone must not pass for a course without the word.
-const QString kNothingRead =
-    QStringLiteral("Aucune page trouvée\u00A0: ce cours ne peut pas être lu.");
-const QString kPartlyRead = QStringLiteral(" Une partie du cours ne peut pas être lue.");
-
 /// So few pages found may be due to an accent.
 constexpr std::size_t kFewPages = 2;
-
-QString countWords(std::size_t pages, std::size_t hidden) {
-    QString words = QString::number(pages) + (pages == 1 ? QStringLiteral(" page trouvée")
-                                                         : QStringLiteral(" pages trouvées"));
-    if (hidden == pages)
-        return words + QStringLiteral(", où rien ne se lit.");
-    if (hidden > 0)
-        words += QStringLiteral(", dont ") + QString::number(hidden) +
-                 QStringLiteral(" où rien ne se lit");
-    return words + u'.';
-}
 
 /// The bar moves smoothly, and in an ordinary course all is found before it would show.
 constexpr int kTurnMs = 20;
@@ -132,7 +116,7 @@ void Coordon::addControls() {
     Checkmots_ = addBox(QStringLiteral("&Tous les mots"), kAllWords);
     accents_ = addBox(QStringLiteral("&Ignorer les accents"), kAccents);
 
-    Label2_ = newLabel(kNothingFound, kNotice, look::Weight::Bold, this);
+    Label2_ = newLabel(noticeOfNone(true), kNotice, look::Weight::Bold, this);
     count_ = newLabel({}, kNotice, look::Weight::Regular, this);
     hint_ = newLabel({}, kNotice, look::Weight::Regular, this);
     look::setInk(*hint_, look::kMuted);
@@ -301,11 +285,10 @@ void Coordon::showFound(std::vector<FoundPage> pages) {
     // In the order of the course; behind them those on which nobody reads the words.
     const auto hidden = std::stable_partition(pages.begin(), pages.end(),
                                               [](const FoundPage& page) { return !page.hidden; });
-    QString result = countWords(count, static_cast<std::size_t>(pages.end() - hidden));
     const bool isRead = isCourseRead();
-    if (!isRead)
-        result += kPartlyRead;
-    Label2_->setText(isRead ? kNothingFound : kNothingRead);
+    const QString result =
+        resultWords({count, static_cast<std::size_t>(pages.end() - hidden), isRead});
+    Label2_->setText(noticeOfNone(isRead));
     found_.setPages(std::move(pages));
     Pbar1_->hide();
     Label2_->setVisible(!some);
