@@ -28,7 +28,7 @@ process.on('SIGTERM', () => process.exit(1));
 async function command(method, path, body) {
     const answer = await fetch(`http://127.0.0.1:${port}${path}`, { method, ...(body ? { body: JSON.stringify(body) } : {}) });
     const { value } = await answer.json();
-    if (!answer.ok) throw new Error(`${path}: ${value.error}: ${value.message}`);
+    if (!answer.ok) throw Object.assign(new Error(`${path}: ${value.error}: ${value.message}`), { code: value.error });
     return value;
 }
 
@@ -50,6 +50,8 @@ function hand(session) {
     return {
         go: (url) => send('/url', { url }),
         run: (script) => send('/execute/async', { args: [], script: `const done = arguments[0]; Promise.resolve(${script}).then((value) => done([value]), (error) => done([null, String(error)]));` })
+            // A page that is being left has no answer; whoever waits for one asks the next page.
+            .catch((error) => { if (error.code === 'no such frame') return []; throw error; })
             .then(([value, error]) => { strictEqual(error, undefined); return value; }),
         point: (x, y) => send('/actions', { actions: [{ type: 'pointer', id: 'mouse', actions: [{ type: 'pointerMove', x: Math.round(x), y: Math.round(y) }, { type: 'pointerDown', button: 0 }, { type: 'pointerUp', button: 0 }] }] }),
         type: (text) => keys([...text]),
