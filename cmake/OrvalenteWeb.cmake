@@ -39,7 +39,7 @@ function(orvalente_web_objects variable)
         file(RELATIVE_PATH target ${CMAKE_BINARY_DIR} ${object})
         add_custom_command(
             OUTPUT ${object}
-            COMMAND ${launcher} ${ORVALENTE_WEB_COMPILER} ${ORVALENTE_WEB_FLAGS} ${ORVALENTE_WARNINGS}
+            COMMAND ${launcher} ${ORVALENTE_WEB_COMPILER} ${ORVALENTE_WEB_FLAGS} ${ORVALENTE_WARNINGS} -Werror
                     -MD -MF ${object}.d -MT ${target} -c ${source} -o ${object}
             DEPENDS ${source}
             DEPFILE ${object}.d

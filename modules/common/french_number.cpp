@@ -98,7 +98,7 @@ std::u16string frenchNumber(double value, int decimals) {
     std::replace(number.begin(), number.end(), u'.', u',');
     groupDigits(number);
     if (value < 0 && !isZero)
-        number.insert(0, 1, kMinus);
+        return kMinus + number;
     return number;
 }
 
@@ -116,7 +116,8 @@ std::u16string frenchDigits(double value, int digits) {
 }
 
 std::u16string signedNumber(double value, int decimals) {
-    return (value > 0 ? u"+" : u"") + frenchNumber(value, decimals);
+    const std::u16string number = frenchNumber(value, decimals);
+    return value > 0 ? u'+' + number : number;
 }
 
 } // namespace common
