@@ -36,7 +36,7 @@ export async function progress(page) {
     deepStrictEqual(await now(), before);
     await page.getByRole('button', { name: 'Effacer' }).click();
     await answer('Effacer');
-    await page.waitForSelector('.page svg');
+    await page.locator('dialog.sommaire').waitFor({ state: 'hidden' }); // once all is erased
     deepStrictEqual((await now()).tests, {});
     await page.getByRole('button', { name: 'Sommaire' }).click();
     await chosen(file);
