@@ -5,6 +5,8 @@
 //   AWAY_BELOW  the directory, canonical
 //   AWAY_WHILE  the file
 
+#include "faults/open_calls.h"
+
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -13,7 +15,6 @@
 
 #include <cerrno>
 #include <climits>
-#include <cstdarg>
 #include <cstdlib>
 #include <string>
 
@@ -40,33 +41,14 @@ bool isAway(int descriptor) {
     return length > 0 && isAway(std::string(path, static_cast<std::size_t>(length)));
 }
 
-int openFile(int directory, const char* path, int flags, unsigned mode) {
+} // namespace
+
+int preloaded::openFile(int directory, const char* path, int flags, unsigned mode) {
     return isAway(path) ? -1 : static_cast<int>(syscall(SYS_openat, directory, path, flags, mode));
 }
 
-} // namespace
-
-#define OPEN_WITH_MODE(directory, path, flags)                                                     \
-    va_list rest;                                                                                  \
-    va_start(rest, flags);                                                                         \
-    const unsigned mode = (flags) & (O_CREAT | O_TMPFILE) ? va_arg(rest, unsigned) : 0;            \
-    va_end(rest);                                                                                  \
-    return openFile(directory, path, flags, mode)
-
 extern "C" {
 
-int open(const char* path, int flags, ...) {
-    OPEN_WITH_MODE(AT_FDCWD, path, flags);
-}
-int open64(const char* path, int flags, ...) {
-    OPEN_WITH_MODE(AT_FDCWD, path, flags);
-}
-int openat(int directory, const char* path, int flags, ...) {
-    OPEN_WITH_MODE(directory, path, flags);
-}
-int openat64(int directory, const char* path, int flags, ...) {
-    OPEN_WITH_MODE(directory, path, flags);
-}
 DIR* opendir(const char* path) {
     const int directory = open(path, O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     return directory < 0 ? nullptr : fdopendir(directory);

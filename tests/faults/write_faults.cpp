@@ -10,6 +10,8 @@
 // library calls within itself, as fopen() and fwrite() do, passes by: the programs write through
 // neither, standard output aside.
 
+#include "faults/open_calls.h"
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
@@ -21,7 +23,6 @@
 #include <cerrno>
 #include <climits>
 #include <csignal>
-#include <cstdarg>
 #include <cstdlib>
 #include <string>
 #include <string_view>
@@ -178,7 +179,9 @@ off_t positionOf(int descriptor) {
     return std::max<off_t>(syscall(SYS_lseek, descriptor, 0, SEEK_CUR), 0);
 }
 
-int openFile(int directory, const char* path, int flags, unsigned mode) {
+} // namespace
+
+int preloaded::openFile(int directory, const char* path, int flags, unsigned mode) {
     struct stat status = {};
     const bool isThere = syscall(SYS_newfstatat, directory, path, &status, 0) == 0;
     const bool makes = (flags & O_CREAT) && !isThere;
@@ -188,29 +191,8 @@ int openFile(int directory, const char* path, int flags, unsigned mode) {
     return static_cast<int>(syscall(SYS_openat, directory, path, flags, mode));
 }
 
-} // namespace
-
-#define OPEN_WITH_MODE(directory, path, flags)                                                     \
-    va_list rest;                                                                                  \
-    va_start(rest, flags);                                                                         \
-    const unsigned mode = (flags) & (O_CREAT | O_TMPFILE) ? va_arg(rest, unsigned) : 0;            \
-    va_end(rest);                                                                                  \
-    return openFile(directory, path, flags, mode)
-
 extern "C" {
 
-int open(const char* path, int flags, ...) {
-    OPEN_WITH_MODE(AT_FDCWD, path, flags);
-}
-int open64(const char* path, int flags, ...) {
-    OPEN_WITH_MODE(AT_FDCWD, path, flags);
-}
-int openat(int directory, const char* path, int flags, ...) {
-    OPEN_WITH_MODE(directory, path, flags);
-}
-int openat64(int directory, const char* path, int flags, ...) {
-    OPEN_WITH_MODE(directory, path, flags);
-}
 ssize_t write(int descriptor, const void* bytes, size_t count) {
     bool fails = false;
     const std::size_t some = let("write", descriptor, count, positionOf(descriptor), fails);
