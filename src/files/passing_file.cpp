@@ -62,6 +62,8 @@ bool PassingFile::make(const fs::path& path, std::error_code& error) {
 }
 
 PassingFile::~PassingFile() {
+    // There are systems that take no open file away. The lock stays until the name is gone.
+    content_ = {};
     std::error_code ignored;
     if (!path_.empty())
         fs::remove(path_, ignored);
