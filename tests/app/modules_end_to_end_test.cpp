@@ -24,7 +24,12 @@ protected:
         programs_.push_back(std::make_unique<QProcess>());
         programs_.back()->setProcessEnvironment(environment());
         programs_.back()->start(program, arguments);
-        EXPECT_TRUE(eventually([&] { return activeTitle().startsWith(title); })) << title.data();
+        // Two shells have the same title; who is too early speaks to the wrong one.
+        const auto isThere = [&, pid = QByteArray::number(programs_.back()->processId())] {
+            return run("xdotool", {"getactivewindow", "getwindowpid"}).trimmed() == pid &&
+                   activeTitle().startsWith(title);
+        };
+        EXPECT_TRUE(eventually(isThere)) << title.data();
         return *programs_.back();
     }
 
