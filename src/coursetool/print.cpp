@@ -34,11 +34,16 @@ void print(const PrintRequest& request, const page::FontBook& fonts,
 
     output::PdfPrinter printer(QString::fromStdString(shown(request.output)), fonts);
     viewer::PagePrinter pages({state, record, tools, printer, {}});
-    if (pages.imprimepage().wanted == 0)
+    const viewer::PrintRun run = pages.imprimepage();
+    if (run.wanted == 0)
         report.fault({course->file}, "la page " + std::to_string(request.page) +
                                          " n’a rien à imprimer : debutimp dépasse finimp");
     else if (!printer.error().isEmpty())
         report.failure({shown(request.output)}, printer.error().toStdString());
+    else if (run.unread > 0)
+        report.fault({course->file},
+                     "des pages n’ont pas pu être lues (" + std::to_string(run.unread) + " sur " +
+                         std::to_string(run.wanted) + ") : leurs feuilles le disent");
 }
 
 } // namespace coursetool

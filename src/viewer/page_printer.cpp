@@ -10,7 +10,8 @@ void PagePrinter::setBusy(bool busy) {
 }
 
 PrintRun PagePrinter::imprimepage(PrintPart part) {
-    const int remembered = parts_.record.position();
+    const coursedata::BoundRecord remembered = parts_.record;
+    const int position = remembered.position();
     const QString title = parts_.record.Textitre.simplified();
     PrintedPages pages(this->pages(), part);
     PrintRun run;
@@ -23,11 +24,14 @@ PrintRun PagePrinter::imprimepage(PrintPart part) {
     bool isStopped = false;
     for (int i = 0; i < pages.count() && !isStopped; ++i) {
         setBusy(true);
-        run.printed += printPage(pages.draw(i), isStopped);
+        const PaperPage page = pages.draw(i);
+        run.unread += !page.isRead;
+        run.printed += printPage(page, isStopped);
         setBusy(false);
     }
     run.hasEnded = parts_.printer.end();
-    parts_.record.moveTo(remembered);
+    parts_.record = remembered; // its text too, if it cannot be read any more
+    parts_.record.moveTo(position);
     return run;
 }
 

@@ -13,9 +13,10 @@ struct PrintRun {
     int printed = 0;       ///< of these, as far as the printer took them
     bool hasBegun = false; ///< there was a printer
     bool hasEnded = false; ///< what was printed was handed over
+    int unread = 0; ///< pages that are printed as a line which says that they could not be read
 
     /// Whether a part of the pages is missing on paper that was not missing from the start.
-    bool isCut() const { return hasBegun && (printed < wanted || !hasEnded); }
+    bool isCut() const { return hasBegun && (printed < wanted || !hasEnded || unread > 0); }
 };
 
 /// Prints the pages that belong together with the one shown: each is drawn anew, on paper.

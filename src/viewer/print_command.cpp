@@ -9,12 +9,20 @@ using Outcome = platform::PrinterSetup::Outcome;
 
 namespace {
 
+QString pages(int count) {
+    return count == 1 ? QStringLiteral("1 page") : QStringLiteral("%1 pages").arg(count);
+}
+
 QString sentenceOn(const PrintRun& run) {
     if (!run.hasEnded)
         return QStringLiteral("L’impression n’a pas pu être terminée\u00A0: des pages manquent.");
-    return QStringLiteral("L’impression a été interrompue\u00A0: %1 sur\u00A0%2.")
-        .arg(run.printed == 1 ? QStringLiteral("1 page")
-                              : QStringLiteral("%1 pages").arg(run.printed))
+    if (run.printed < run.wanted)
+        return QStringLiteral("L’impression a été interrompue\u00A0: %1 sur\u00A0%2.")
+            .arg(pages(run.printed))
+            .arg(run.wanted);
+    return QStringLiteral("Le cours n’a pas pu être lu en entier\u00A0: il manque %1 sur\u00A0%2. "
+                          "Vérifiez le disque ou le réseau.")
+        .arg(pages(run.unread))
         .arg(run.wanted);
 }
 

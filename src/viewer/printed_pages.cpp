@@ -51,26 +51,41 @@ PrintedPages::PrintedPages(const Parts& parts, PrintPart part)
       count_(part == PrintPart::Chapter ? countOf(parts.record) : 1),
       numberAtStart_(firstNumber(parts.record)) {}
 
-void PrintedPages::makeCurrent(std::int64_t number) {
+/// False when the text of the page cannot be read.
+bool PrintedPages::makeCurrent(std::int64_t number) {
     // Outside the table the record before stays current and is printed again, meant so.
     const auto position =
         coursedata::positionInPrint(parts_.state, static_cast<std::int32_t>(number));
-    if (position)
-        parts_.record.moveTo(*position);
+    coursedata::BoundRecord& record = parts_.record;
+    // What else of it is damaged does not show on paper.
+    return !position || record.moveTo(*position) ||
+           (record.position() == *position && record.records()->field(QStringLiteral("fpc")));
 }
 
 PaperPage PrintedPages::draw(int index) {
-    if (part_ == PrintPart::Chapter)
-        makeCurrent(first_ + index);
+    if (part_ == PrintPart::Chapter && !makeCurrent(first_ + index))
+        return unreadPage(index);
     markup::DrawnPage drawn =
         markup::drawPage({parts_.record.code, markup::DrawnAs::Paper}, parts_.tools);
     // The footer is in the letters that the page ended with, meant so.
-    const QString mention = count_ == 1 ? QString() : pageMention(index + 1);
-    return {std::move(drawn.recording),
-            std::move(drawn.printedLinks),
-            {footerLine() + mention, drawn.end.font},
-            parts_.record.Textitre,
+    return {std::move(drawn.recording), std::move(drawn.printedLinks),
+            footer(index, drawn.end.font), parts_.record.Textitre,
             pageNumber(parts_.record.TextID)};
+}
+
+/// In letters of its own: what the pages before have left is the next page's.
+PaperPage PrintedPages::unreadPage(int index) const {
+    markup::DrawingState state;
+    const QString sentence = QStringLiteral("Cette page n’a pas pu être lue.¶\r\n");
+    markup::DrawnPage drawn = markup::drawPage(
+        {sentence, markup::DrawnAs::Paper}, {state, parts_.tools.pictures, parts_.tools.metrics});
+    return {std::move(drawn.recording),       {},
+            footer(index, drawn.end.font),    QStringLiteral("Page illisible"),
+            static_cast<int>(first_ + index), false};
+}
+
+Footer PrintedPages::footer(int index, const page::Font& font) const {
+    return {footerLine() + (count_ == 1 ? QString() : pageMention(index + 1)), font};
 }
 
 std::optional<int> PrintedPages::numberOfTag(const QString& tag) const {

@@ -24,7 +24,8 @@ struct PaperPage {
     std::vector<page::LinkArea> links;
     Footer footer;
     QString title;
-    int number; ///< its fixed number
+    int number;         ///< its fixed number
+    bool isRead = true; ///< or it cannot be read, and the sheet says so in its place
 };
 
 /// The pages of a print run, drawn anew one after the other.
@@ -55,7 +56,9 @@ public:
     std::optional<int> numberOfTag(const QString& tag) const;
 
 private:
-    void makeCurrent(std::int64_t number);
+    bool makeCurrent(std::int64_t number);
+    PaperPage unreadPage(int index) const;
+    Footer footer(int index, const page::Font& font) const;
 
     Parts parts_;
     PrintPart part_;

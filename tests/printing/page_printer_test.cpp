@@ -186,6 +186,33 @@ TEST_F(PagePrinter, aFileHasTheOutlineAndTheLinksBetweenItsPages) {
     EXPECT_EQ(test_support::PrintedPdf(path()).sheets().size(), 1);
 }
 
+TEST_F(PagePrinter, aPageThatCannotBeReadSaysSoInItsPlace) {
+    const QString large = QStringLiteral("##SI24\r\nGrand¶\r\n");
+    open({record(1, "1", "3", large), record(2, "", ""), record(3, "", "")});
+    printer.device().setOutputFormat(QPrinter::PdfFormat);
+    printer.device().setOutputFileName(path());
+    const auto goesAway = [this] {
+        bench->cours.isGone = true;
+        return false;
+    };
+    const auto run = pages(printer, goesAway).imprimepage();
+    EXPECT_EQ(run.unread, 2);
+    EXPECT_TRUE(run.isCut());
+    const QString sentence = QStringLiteral("Cette page n’a pas pu être lue.");
+    EXPECT_EQ(test_support::PrintedPdf(path()).sheets(),
+              (QList<QStringList>{{"Grand", footer(" - page 1")},
+                                  {sentence, footer(" - page 2")},
+                                  {sentence, footer(" - page 3")}}));
+    EXPECT_EQ(bench->bound.code, large) << "the page on screen can be printed once more";
+
+    // A field that paper does not show may be damaged.
+    bench->cours.isGone = false;
+    bench->cours.unreadable = {"moteur"};
+    EXPECT_EQ(pages(printer).imprimepage().unread, 0);
+    bench->cours.unreadable = {"fpc"};
+    EXPECT_EQ(pages(printer).imprimepage().unread, 3);
+}
+
 TEST_F(PagePrinter, withoutAPrinterNothingHappens) {
     open({record(1, "1", "2"), record(2, "", "")});
     printer.device().setOutputFormat(QPrinter::PdfFormat);

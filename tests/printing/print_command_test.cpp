@@ -79,6 +79,19 @@ TEST_F(PrintCommand, aJobThatIsCutIsTold) {
             EXPECT_EQ(messageBoxes.messages[0].text, QString(row.told));
         }
     }
+
+    open({record(1, "1", "3"), record(2, "", ""), record(3, "", "")});
+    test_support::CountingPrinter counting;
+    auto printing = pages(counting, [&] {
+        bench->cours.isGone = counting.sheets == 2;
+        return false;
+    });
+    messageBoxes.messages.clear();
+    run(setup, printing);
+    ASSERT_EQ(messageBoxes.messages.size(), 1U);
+    EXPECT_EQ(messageBoxes.messages[0].text,
+              "Le cours n’a pas pu être lu en entier\u00A0: il manque 1 page sur\u00A03. "
+              "Vérifiez le disque ou le réseau.");
 }
 
 TEST_F(PrintCommand, thePreviewDecidesWhatIsPrinted) {
