@@ -143,7 +143,7 @@ struct ShellApplication::Parts {
           drives(courseDirectory(commandLine), commandLine.drives),
           symbols(courseDirectory(commandLine)),
           exercise(window, {state, drawing, pictures, fonts, screen, messageBoxes, calculator,
-                            commandLine.author}),
+                            reading, commandLine.author}),
           pages(state, record, window, tools, window.shownPage(), video),
           actions(state, pages, window, modules, exercise, orderForm),
           collaborators{video,  links,      printing, modules,      exercise,   orderForm,

@@ -21,6 +21,7 @@
 #include "look/tool_tip.h"
 #include "page/surface_widths.h"
 #include "platform/terminal.h"
+#include "viewer/page_reader.h"
 
 #include <QDir>
 #include <QLabel>
@@ -91,6 +92,7 @@ Exo::Exo(const Parts& parts, QWidget& mainWindow)
     addQuestionArea();
     addButtons();
     addStrip();
+    addReading();
     session_.emplace(
         SharedWithCourse{parts_.shared.PendingExerciseChapter, parts_.shared.ExerciseReturnPage},
         parts_.test, records_, *this, *answers_, parts_.course);

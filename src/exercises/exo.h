@@ -9,6 +9,7 @@
 #include "look/screen_filling.h"
 #include "markup/draw_page.h"
 #include "page/faces/font_book.h"
+#include "page/spoken_page.h"
 #include "platform/message_box.h"
 #include "platform/screen.h"
 #include "shell/shared_state.h"
@@ -27,9 +28,15 @@ class QPlainTextEdit;
 namespace look {
 class Button;
 class Notice;
+class OutcomeLine;
 class PagePanel;
 class PictureBox;
 } // namespace look
+
+namespace viewer {
+class PageReader;
+class ReadingAloud;
+} // namespace viewer
 
 namespace exercises {
 
@@ -59,6 +66,7 @@ public:
         platform::MessageBoxes& messageBoxes;
         CourseWindow& course;
         CalculatorBeside& calculator;
+        viewer::ReadingAloud& voice;
         bool author = false; ///< shows the authoring switch
     };
 
@@ -107,6 +115,7 @@ public:
     void refresh(page::SurfaceId surface) override;
 
 protected:
+    bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -121,6 +130,7 @@ private:
     void addQuestionArea();
     void addButtons();
     void addStrip();
+    void addReading();
     void addAuthoringSwitch();
     void connectHandlers();
     void putInTabOrder();
@@ -148,6 +158,10 @@ private:
     std::optional<QString> typedSource() const;
     void showSource();
 
+    void readAloud();
+    bool stopReading();
+    std::vector<page::SpokenPart> partsToRead() const;
+
     void setButtonVisible(look::Button& button, bool visible);
     bool keepTyped();
     bool mayClose();
@@ -172,8 +186,10 @@ private:
     QLabel* noa_ = nullptr;
     VerdictLine* verdict_ = nullptr;
     Summary* summary_ = nullptr;
-    look::Notice* notice_ = nullptr; ///< over the question, when there are no questions
-    QString caption_;                ///< of the question, while the summary has another
+    look::Notice* notice_ = nullptr;       ///< over the question, when there are no questions
+    look::OutcomeLine* reading_ = nullptr; ///< that the question is being read aloud
+    std::unique_ptr<viewer::PageReader> reader_;
+    QString caption_; ///< of the question, while the summary has another
     look::PagePanel* frame1_ = nullptr;
     look::PictureBox* Picture2_ = nullptr;
     Strip* Picture1_ = nullptr;

@@ -183,6 +183,7 @@ void Exo::closeEvent(QCloseEvent* event) {
     if (!event->isAccepted())
         return;
     leaving_ = true;
+    stopReading();
     if (popup_)
         popup_->close();
     loop_.quit();
@@ -198,8 +199,13 @@ void Exo::changeEvent(QEvent* event) {
 void Exo::keyPressEvent(QKeyEvent* event) {
     const bool inQuestion = !frame1_->isHidden();
     switch (event->key()) {
+    case Qt::Key_L:
+        if (event->modifiers() == (Qt::ControlModifier | Qt::ShiftModifier))
+            return readAloud();
+        return QWidget::keyPressEvent(event);
     case Qt::Key_Escape:
-        close();
+        if (!stopReading())
+            close();
         return;
     case Qt::Key_Return:
     case Qt::Key_Enter:

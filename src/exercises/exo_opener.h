@@ -21,6 +21,7 @@ public:
         const platform::Screen& screen;
         platform::MessageBoxes& messageBoxes;
         CalculatorBeside& calculator;
+        viewer::ReadingAloud& voice;
         bool author = false; ///< shows the authoring switch
     };
 

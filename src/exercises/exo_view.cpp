@@ -91,6 +91,7 @@ void Exo::setCaption(const std::u16string& caption) {
 }
 
 void Exo::setVerdict(const std::optional<Verdict>& verdict) {
+    stopReading();
     verdict_->setVerdict(verdict);
     if (verdict)
         look::announce(*this, verdict_->accessibleName());
@@ -152,6 +153,7 @@ void Exo::offerSummary(bool offered) {
 void Exo::showSummary() {
     if (source_ && !source_->isHidden()) // an author is at work on the question
         return;
+    stopReading();
     // What these drawings leave behind is nothing to the questions and pages to come.
     markup::DrawingState drawing = parts_.drawing;
     std::vector<SummaryEntry> entries;
@@ -183,6 +185,7 @@ void Exo::focusStrip() {
 }
 
 void Exo::misanet() {
+    stopReading();
     hideSummary();
     // Hidden or disabled, a control would hand the keyboard to some other one.
     const QWidget* const focus = focusWidget();

@@ -20,6 +20,7 @@
 #include "viewer/find_bar.h"
 #include "viewer/page_code.h"
 #include "viewer/page_finder.h"
+#include "viewer/page_reader.h"
 #include "viewer/page_selection.h"
 #include "viewer/rail.h"
 #include "viewer/toolbar.h"
@@ -69,6 +70,7 @@ Multim::~Multim() = default;
 
 void Multim::attach(const Parts& parts) {
     parts_.emplace(parts);
+    beReadBy(parts.collaborators.reading);
 }
 
 void Multim::addControls() {

@@ -38,6 +38,7 @@ namespace viewer {
 class ChapterBar;
 class Cover;
 class PageFinder;
+class PageReader;
 class PageSelection;
 class Rail;
 class Toolbar;
@@ -205,11 +206,10 @@ private:
     void Command14_Click();
     void Image4_Click(int index);
     void projo_Click();
+    void beReadBy(ReadingAloud& voice);
     void readAloud();
     bool stopReading();
-    void readingEnded();
     std::vector<page::SpokenPart> partsToRead() const;
-    void follow(const page::SpokenPart& part);
     bool hasVideoMenu() const;
     void toggleVideoSize();
     void chooseVideo(const QString& caption);
@@ -237,6 +237,7 @@ private:
     look::Notice* notice_ = nullptr; ///< in the place of a page that cannot be read
     std::unique_ptr<PageFinder> finder_;
     PageSelection* selection_ = nullptr;
+    std::unique_ptr<PageReader> reader_;
     QString summaryCode_; ///< the tag of Command2
 
     bool startUpDone_ = false;

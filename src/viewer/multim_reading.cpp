@@ -2,15 +2,13 @@
 
 #include "look/page_panel.h"
 #include "look/picture_box.h"
-#include "page/twips.h"
 #include "viewer/chapter_bar.h"
 #include "viewer/multim.h"
+#include "viewer/page_reader.h"
 #include "viewer/page_selection.h"
-#include "viewer/reading_aloud.h"
 
 #include <QEvent>
 
-#include <algorithm>
 #include <iterator>
 
 namespace viewer {
@@ -37,27 +35,24 @@ bool Multim::event(QEvent* event) {
     return QWidget::event(event);
 }
 
+void Multim::beReadBy(ReadingAloud& voice) {
+    reader_ = std::make_unique<PageReader>(
+        voice, PageReader::Window{*PictureTEXTE_, *panel_,
+                                  [this](look::OutcomeLine::Kind kind, const QString& line,
+                                         const look::LineAction& action) {
+                                      Framebase_->showLine(kind, line, action);
+                                  },
+                                  [this] { Framebase_->clearLine(); }});
+}
+
 /// Begins, or ends what goes on.
 void Multim::readAloud() {
     if (stopReading())
         return;
     std::vector<page::SpokenPart> parts = partsToRead();
-    if (parts.empty())
-        return Framebase_->showLine(look::OutcomeLine::Kind::Warning,
-                                    QStringLiteral("Il n’y a rien à lire ici."));
-    if (videoPlays_)
+    if (videoPlays_ && !parts.empty())
         work([this] { parts_->collaborators.video.press(kPause); });
-    Framebase_->showLine(look::OutcomeLine::Kind::Voice, QStringLiteral("Lecture à voix haute."),
-                         {QStringLiteral("Arrêter"), [this] { stopReading(); }});
-    parts_->collaborators.reading.read(
-        std::move(parts),
-        {[this](const page::SpokenPart& part) { follow(part); }, [this] { readingEnded(); },
-         [this] {
-             readingEnded();
-             Framebase_->showLine(look::OutcomeLine::Kind::Warning,
-                                  QStringLiteral("Pas de lecture à voix haute : cet ordinateur "
-                                                 "n’a pas de voix française."));
-         }});
+    reader_->read(std::move(parts));
 }
 
 /// The page from what is selected on, otherwise from what is at the top of the view: with its
@@ -79,29 +74,9 @@ std::vector<page::SpokenPart> Multim::partsToRead() const {
     return parts;
 }
 
-/// Shows what is being said; of what is taller than the view, its beginning.
-void Multim::follow(const page::SpokenPart& part) {
-    const QRectF area(part.area.topLeft() / page::kTwipsPerPixel,
-                      part.area.size() / page::kTwipsPerPixel);
-    PictureTEXTE_->setSpoken(area);
-    if (area.isNull())
-        return;
-    QRect shown = area.toAlignedRect();
-    shown.setHeight(std::min(shown.height(), panel_->viewHeightPx() * 3 / 4));
-    panel_->reveal(shown);
-}
-
 /// Whether anything was being read.
 bool Multim::stopReading() {
-    const bool stopped = parts_ && parts_->collaborators.reading.stop();
-    if (stopped)
-        readingEnded();
-    return stopped;
-}
-
-void Multim::readingEnded() {
-    PictureTEXTE_->setSpoken({});
-    Framebase_->clearLine();
+    return reader_ && reader_->stop();
 }
 
 } // namespace viewer

@@ -37,7 +37,8 @@ protected:
     /// Opens the window on what write() has written.
     Exo& openWindow(bool author = false) {
         exo.emplace(Exo::Parts{shared, state, bench.drawing, bench.pictures, bench.fonts,
-                               bench.screen, messageBoxes, window, calculator, author},
+                               bench.screen, messageBoxes, window, calculator,
+                               bench.collaborators.reading, author},
                     bench.window);
         exo->setBlinkInterval(1);
         exo->start();

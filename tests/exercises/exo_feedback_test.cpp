@@ -147,8 +147,9 @@ TEST_F(Feedback, thePopupAlternatesAndTakesNoKeys) {
 }
 
 TEST_F(Feedback, aTestReopensAtItsLastQuestion) {
-    ExoOpener opener(bench.window, {shared, bench.drawing, bench.pictures, bench.fonts,
-                                    bench.screen, messageBoxes, calculator});
+    ExoOpener opener(bench.window,
+                     {shared, bench.drawing, bench.pictures, bench.fonts, bench.screen,
+                      messageBoxes, calculator, bench.collaborators.reading});
     const auto whileOpen = [&](const std::function<void(QWidget&)>& act) {
         QTimer::singleShot(0, &bench.window, [&] {
             auto* const test = bench.window.findChild<QWidget*>("exo");

@@ -304,8 +304,9 @@ TEST_F(Test, pupilsSeeNoSwitch) {
 using Opened = Test;
 
 TEST_F(Opened, theMainWindowWaitsAndOthersDoNot) {
-    ExoOpener opener(bench.window, {shared, bench.drawing, bench.pictures, bench.fonts,
-                                    bench.screen, messageBoxes, calculator});
+    ExoOpener opener(bench.window,
+                     {shared, bench.drawing, bench.pictures, bench.fonts, bench.screen,
+                      messageBoxes, calculator, bench.collaborators.reading});
     QPushButton beside(QStringLiteral("Calculatrice"));
     beside.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&beside));
