@@ -103,7 +103,10 @@ Exo::Exo(const Parts& parts, QWidget& mainWindow)
     setFocus(); // the question takes it over as soon as it is drawn
 }
 
-Exo::~Exo() = default;
+/// The voice outlives the window, and must not come back to it.
+Exo::~Exo() {
+    stopReading();
+}
 
 void Exo::addLabels() {
     (new TitleBandView(body_))->setGeometry(kTito);
