@@ -346,6 +346,13 @@ release();
 await early.waitForSelector('.page svg');
 // They are those that the page shows, and no others.
 deepStrictEqual(await early.evaluate(() => document.fonts.ready.then((all) => [...all].filter(({ status }) => status !== 'unloaded').length)), 3);
+// No other style may stand in it.
+strictEqual(await early.evaluate(() => {
+    const style = document.createElement('style');
+    style.textContent = 'body { outline: 7px solid }';
+    document.head.append(style);
+    return getComputedStyle(document.body).outlineStyle;
+}), 'none');
 // What comes after it may be missing: then it says so, and asks again the next time.
 await early.route('**/outils-*', (route) => route.abort());
 await early.reload();
