@@ -93,6 +93,7 @@ public:
         if (report_.hasFaults())
             return nullptr;
         SiteAssets assets(site_);
+        course_.insert(QStringLiteral("suite"), assets.writeLater());
         const QByteArray index = assets.write(
             pages_.title(), faces, script(QStringLiteral("cours"), course_), firstPage_, plan_);
         return !report_.hasFaults() && site_.finish(index) ? &site_ : nullptr;

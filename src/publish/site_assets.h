@@ -3,6 +3,7 @@
 #include "publish/site_folder.h"
 
 #include <QByteArray>
+#include <QJsonObject>
 #include <QString>
 
 namespace publish {
@@ -13,9 +14,13 @@ class SiteAssets {
 public:
     explicit SiteAssets(SiteFolder& site) : site_(site) {}
 
-    /// Writes all but the first page, which it gives. `faces` are rules of the style sheet,
-    /// `course` the script that tells of the pages, `firstPage` the name of the first one's, which
-    /// comes with them, `texts` what the pages say, as HTML.
+    /// Writes what the first page does without, and gives its names: the script of windows, tests
+    /// and films ("outils"), that of simulations ("simulations") and their style ("style").
+    QJsonObject writeLater();
+
+    /// Writes all the rest but the first page, which it gives. `faces` are rules of the style
+    /// sheet, `course` the script that tells of the pages, `firstPage` the name of the first one's,
+    /// which comes with them, `texts` what the pages say, as HTML.
     QByteArray write(const QString& title, const QByteArray& faces, const QByteArray& course,
                      const QString& firstPage, const QByteArray& texts);
 

@@ -19,13 +19,13 @@ const { course, site, images } = publishedCourse(tool, sources, folder);
 const LIST = 'fichiers-publies.txt'; // what publishing has written; no part of the site
 const all = (under = '') => readdirSync(join(site, under), { withFileTypes: true }).filter(({ name }) => name !== LIST).flatMap((entry) => (entry.isDirectory() ? all(join(under, entry.name)) : [join(under, entry.name)]));
 const gzipped = (name) => gzipSync(readFileSync(join(site, name)), { level: 9 }).length;
-const firstPage = all().filter((name) => /^(index|style|orvalente|cours|polices|pages\/p1-)/.test(name));
+const firstPage = all().filter((name) => /^(index|orvalente|cours|polices|pages\/p1-)/.test(name));
 const firstBytes = firstPage.reduce((sum, name) => sum + gzipped(name), 0);
 ok(firstBytes < 250 * 1024, `${firstBytes} bytes for the first page`);
 // The first page comes with the scripts, before they have asked for it.
 strictEqual(/<script src="(pages[^"]+)" defer>/.exec(readFileSync(join(site, 'index.html'), 'utf8'))[1], firstPage.find((name) => name.startsWith('pages')));
 ok(all().every((name) => name === 'index.html' || /-[0-9a-f]{10}\.\w+$/.test(name)), 'a name without a hash');
-strictEqual(all().filter((name) => readFileSync(join(site, name)).includes('Liberation') && name.endsWith('.css')).length, 0);
+ok(!readFileSync(join(site, 'index.html')).includes('Liberation'), 'a face goes by its reserved name');
 
 // ---- The same again leaves the site as it is; a folder of somebody else's is refused
 
@@ -331,6 +331,40 @@ const archive = join(folder, 'cours.zip');
 execFileSync(tool, ['publish', course, '--scorm', '-o', archive], { stdio: 'ignore', env: { ...process.env, PATH: folder } });
 const packed = execFileSync('python3', ['-c', 'import sys, zipfile; z = zipfile.ZipFile(sys.argv[1]); assert z.testzip() is None; print("\\n".join(z.namelist()))', archive], { encoding: 'utf8' }).trim().split('\n');
 deepStrictEqual(packed.filter((name) => name !== 'imsmanifest.xml').sort(), all().sort());
+
+// ---- The page itself asks for its faces, before anything that it links to is there
+
+const early = await browser.newPage();
+let release;
+const released = new Promise((resolve) => { release = resolve; });
+await early.route(/\.(js|css)$/, (route) => released.then(() => route.continue()));
+const faces = new Set();
+const threeFaces = early.waitForRequest((request) => request.url().endsWith('.woff2') && faces.add(request.url()).size === 3, { timeout: 20000 });
+await early.goto(addresses.server, { waitUntil: 'commit' });
+await threeFaces;
+release();
+await early.waitForSelector('.page svg');
+// They are those that the page shows, and no others.
+deepStrictEqual(await early.evaluate(() => document.fonts.ready.then((all) => [...all].filter(({ status }) => status !== 'unloaded').length)), 3);
+// No other style may stand in it.
+strictEqual(await early.evaluate(() => {
+    const style = document.createElement('style');
+    style.textContent = 'body { outline: 7px solid }';
+    document.head.append(style);
+    return getComputedStyle(document.body).outlineStyle;
+}), 'none');
+// What comes after it may be missing: then it says so, and asks again the next time.
+await early.route('**/outils-*', (route) => route.abort());
+await early.reload();
+await early.waitForSelector('.page svg');
+await early.getByRole('button', { name: 'Sommaire' }).click();
+const told = early.locator('dialog.message[open]');
+ok((await told.textContent()).includes('la connexion est coupée'));
+await told.getByRole('button').last().click();
+await early.unroute('**/outils-*');
+await early.getByRole('button', { name: 'Sommaire' }).click();
+await early.locator('dialog.sommaire[open]').waitFor();
+await early.close();
 
 const phone = await opened(addresses.server, { viewport: { width: 390, height: 800 }, hasTouch: true });
 const wide = await phone.page.evaluate(() => document.documentElement.scrollWidth);

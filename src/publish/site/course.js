@@ -13,7 +13,7 @@
  * @typedef {{dessin: string, texte: string, champs: FieldData[]}} QuestionData
  * @typedef {{chapitre: number, titre: string, nombre: number, questions: {type: number, solution: string | null, seule: QuestionData, commentaire: QuestionData}[]}} TestData
  * @typedef {{exercices: {nom: string, texte: string}[], codes: Record<string, string>}} ExerciseFiles
- * @typedef {{titre: string, debut: number, simulations: Record<string, string>, pages: PageEntry[], tests: TestEntry[], programme: string, simulateur: string, recherche: string}} CourseData
+ * @typedef {{titre: string, debut: number, simulations: Record<string, string>, pages: PageEntry[], tests: TestEntry[], programme: string, simulateur: string, recherche: string, suite: {outils: string, simulations: string, style: string}}} CourseData
  */
 const orvalente = {
     /** @type {Map<string, any>} */
@@ -51,6 +51,29 @@ const orvalente = {
             document.head.append(script);
         }).finally(() => orvalente.loading.delete(key));
         orvalente.loading.set(key, promise);
+        return promise;
+    },
+
+    /**
+     * @param {string} file a style sheet
+     * @returns {Promise<void>}
+     */
+    loadStyle(file) {
+        const known = orvalente.loading.get(file);
+        if (known) return known;
+        const sheet = document.createElement('link');
+        const promise = new Promise((resolve, reject) => {
+            sheet.rel = 'stylesheet';
+            sheet.href = file;
+            sheet.onload = () => resolve(undefined);
+            sheet.onerror = () => {
+                orvalente.loading.delete(file);
+                sheet.remove();
+                reject(new Error(file));
+            };
+            document.head.append(sheet);
+        });
+        orvalente.loading.set(file, promise);
         return promise;
     },
 };
@@ -128,6 +151,21 @@ class Course {
     }
 
     /**
+     * The scripts of what one asks for on a page: windows, tests and films.
+     * @returns {Promise<void>}
+     */
+    tools() {
+        return orvalente.load('outils', this.data.suite.outils);
+    }
+
+    /** The scripts and the style of simulations. */
+    async simulationPages() {
+        const { simulations, style } = this.data.suite;
+        await this.tools();
+        await Promise.all([orvalente.load('simulations', simulations), orvalente.loadStyle(style)]);
+    }
+
+    /**
      * Calculator, tests and search, or the simulations.
      * @param {'programme' | 'simulateur'} [name]
      * @returns {Promise<Program>}
@@ -135,7 +173,7 @@ class Course {
     program(name = 'programme') {
         const known = this.starting.get(name);
         if (known) return known;
-        const starting = orvalente.load(name, this.data[name]).then((base64) => Program.load(bytesOf(base64)));
+        const starting = Promise.all([orvalente.load(name, this.data[name]), this.tools()]).then(([base64]) => Program.load(bytesOf(base64)));
         this.starting.set(name, starting);
         starting.catch(() => this.starting.delete(name));
         return starting;

@@ -39,20 +39,33 @@ class Site {
     buildHead() {
         const home = element('a', { class: 'marque', href: `#p${this.course.data.debut}` }, icon('orvalente'), element('span', {}, 'Orvalente'));
         const tools = element('nav', { 'aria-label': 'Outils' },
-            button('Sommaire', 'summary', () => this.contents().open(this.page), { title: 'Sommaire (Alt+S)' }),
-            button('Rechercher', 'search', () => this.search().open(), { title: 'Rechercher dans le cours (Ctrl+L)' }),
-            button('Calculatrice', 'calculator', () => void this.calculator().open(), { title: 'Calculatrice scientifique' }),
+            button('Sommaire', 'summary', () => void this.withTools(() => this.contents().open(this.page)), { title: 'Sommaire (Alt+S)' }),
+            button('Rechercher', 'search', () => void this.withTools(() => this.search().open()), { title: 'Rechercher dans le cours (Ctrl+L)' }),
+            button('Calculatrice', 'calculator', () => void this.withTools(() => void this.calculator().open()), { title: 'Calculatrice scientifique' }),
             button('Imprimer', 'print', () => void this.askPrint(), { title: 'Imprimer la page ou le chapitre' }));
         this.head.append(home, tools);
     }
 
     /** @param {KeyboardEvent} event */
     pressed(event) {
-        if (event.ctrlKey && event.key === 'l') this.search().open();
-        else if (event.altKey && event.key === 's') this.contents().open(this.page);
+        if (event.ctrlKey && event.key === 'l') void this.withTools(() => this.search().open());
+        else if (event.altKey && event.key === 's') void this.withTools(() => this.contents().open(this.page));
         else if (event.ctrlKey && event.key === 'p') void this.askPrint();
         else return;
         event.preventDefault();
+    }
+
+    /**
+     * Does what needs the scripts that come after the first page.
+     * @param {() => void} use
+     */
+    async withTools(use) {
+        try {
+            await this.course.tools();
+        } catch {
+            return void tell('Outils', 'Il manque au site le fichier de ses outils, ou la connexion est coupée.');
+        }
+        use();
     }
 
     async route() {
@@ -112,10 +125,13 @@ class Site {
         this.prefetch(number);
     }
 
-    /** The pages that come next are there before they are asked for. @param {number} number */
+    /** The pages that come next, and the tools, are there before they are asked for. @param {number} number */
     prefetch(number) {
         const next = this.course.neighbour(number, 1);
-        if (next) setTimeout(() => { this.course.page(next.numero).catch(() => {}); }, 300);
+        setTimeout(() => {
+            if (next) this.course.page(next.numero).catch(() => {});
+            this.course.tools().catch(() => {});
+        }, 300);
     }
 
     /** @param {PageData} page */
@@ -123,7 +139,7 @@ class Site {
         const show = button(films ? 'Les films' : 'Voir le film', 'video', () => {
             if (films) popUpMenu(show, films, 'Les films');
             else if (film?.absence) void tell('Film', film.absence);
-            else if (film) void new FilmBox(film).open();
+            else if (film) void this.withTools(() => void new FilmBox(film).open());
         }, { class: 'principal' });
         return element('p', { class: 'boutons' }, show);
     }
@@ -151,6 +167,7 @@ class Site {
 
     /** @param {number} chapter */
     async showTest(chapter) {
+        await this.course.tools();
         this.test ??= new TestView(this.course, this.progress, { openCalculator: () => void this.calculator().open(), leave: () => { location.hash = `#p${this.page}`; } });
         this.main.replaceChildren(this.test.element);
         this.foot.replaceChildren();
@@ -164,6 +181,7 @@ class Site {
      * @param {string} digit of the launch code: the exercise asked for; empty for none
      */
     async showModule(module, digit) {
+        await this.course.simulationPages();
         if (!WEB_MODULES[module]) return this.tellOfModule(module);
         const known = this.modules.get(module);
         // What was set and answered is there again.
