@@ -9,7 +9,7 @@ const BLANK = '\u00a0';
 /** @typedef {{name: string, readings: {name: string, value: string, spoken: string}[]}} ReadingGroup */
 /** @typedef {{title: string, question: string, unit: string, statement: string[]}} Task */
 
-/** Kinds of controls and of columns, as the program numbers them (modules/web/control.h, common/table.h). */
+/** Kinds of controls and of columns, as the program numbers them (modules/common/control.h, table.h). */
 const CONTROL = { heading: 0, number: 1, segments: 2, list: 3, button: 4, note: 5 };
 const CELLS = { numbers: 0, formulas: 1, names: 2 };
 

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "common/about.h"
+
+namespace reaction {
+
+inline constexpr common::Transport kTransport = {
+    .slider = u"Avancement",
+    .nothing = u"Sans l’un des réactifs, rien ne réagit.",
+    .step = 0.1,
+    .hasRates = false,
+};
+
+inline constexpr common::About kAbout = {
+    .module = 10, .title = u"Réactif limitant", .transport = &kTransport};
+
+} // namespace reaction
