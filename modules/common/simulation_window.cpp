@@ -85,11 +85,11 @@ QWidget* SimulationWindow::left(QWidget* controls) const {
     return widget;
 }
 
-QTabWidget* SimulationWindow::tabs(std::initializer_list<std::pair<QString, QWidget*>> views) {
+QTabWidget* SimulationWindow::tabs(std::initializer_list<QWidget*> views) const {
     auto* tabs = new QTabWidget;
     tabs->setDocumentMode(false);
-    for (const auto& [name, view] : views)
-        tabs->addTab(view, name);
+    for (QWidget* view : views)
+        tabs->addTab(view, qtText(about_.views[static_cast<std::size_t>(tabs->count())]));
     return tabs;
 }
 

@@ -11,8 +11,6 @@
 #include <QMainWindow>
 #include <QScrollArea>
 
-#include <utility>
-
 class QTabWidget;
 class QVBoxLayout;
 
@@ -31,8 +29,8 @@ protected:
     /// right from above; `main` is the one of these that takes what room there is.
     void arrange(QWidget* controls, std::initializer_list<QWidget*> views, const QWidget* main);
 
-    /// Views of which one is seen.
-    static QTabWidget* tabs(std::initializer_list<std::pair<QString, QWidget*>> views);
+    /// The views of which one is seen, in the order of their captions.
+    QTabWidget* tabs(std::initializer_list<QWidget*> views) const;
 
     /// The transport bar, which also has the keys of the window; `moment` is what it reads.
     QWidget* transport(Player& player, std::function<Reading()> moment);

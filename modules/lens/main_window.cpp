@@ -26,20 +26,14 @@ constexpr double kFar = 5;
 } // namespace
 
 MainWindow::MainWindow(const Opening& opening) : ModelWindow(kAbout, opening) {
-    auto* views = tabs({{QStringLiteral("Construction"), drawing()},
-                        {QStringLiteral("Mesures"), new MeasureTable(model())},
-                        {QStringLiteral("Formules"), laws()}});
+    auto* views = tabs({drawing(), new MeasureTable(model()), laws()});
     common::ControlPanel* const panel = controls();
     model().onMeasured([panel] { panel->refresh(); });
     arrange(panel, {views, foot()}, views);
 }
 
 QWidget* MainWindow::drawing() {
-    QWidget* const tab =
-        common::withChoices<Shown>(*new BenchPlot(model()), {{u"rayons", &Shown::rays},
-                                                             {u"prolongements", &Shown::extensions},
-                                                             {u"image", &Shown::image},
-                                                             {u"faisceau", &Shown::beam}});
+    QWidget* const tab = common::withChoices(*new BenchPlot(model()), kChoices);
     const auto show = [this, tab] {
         for (auto* choice : tab->findChildren<QAbstractButton*>())
             choice->setEnabled(!model().hidesLens());

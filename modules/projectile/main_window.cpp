@@ -14,24 +14,10 @@
 
 namespace projectile {
 
-namespace {
-
-QWidget* trajectory(Experiment& experiment) {
-    return common::withChoices<Shown>(*new TrajectoryPlot(experiment),
-                                      {{u"vitesse", &Shown::speed},
-                                       {u"ses composantes", &Shown::components},
-                                       {u"accélération", &Shown::acceleration},
-                                       {u"points", &Shown::points}});
-}
-
-} // namespace
-
 MainWindow::MainWindow(const Opening& opening) : ModelWindow(kAbout, opening) {
     auto* bar = transport(model().player(), [this] { return momentOf(model()); });
-    auto* views = tabs({{QStringLiteral("Trajectoire"), trajectory(model())},
-                        {QStringLiteral("Énergies"), new EnergyPlot(model())},
-                        {QStringLiteral("Tableau"), new ValueTable(model())},
-                        {QStringLiteral("Formules"), laws()}});
+    auto* views = tabs({common::withChoices(*new TrajectoryPlot(model()), kChoices),
+                        new EnergyPlot(model()), new ValueTable(model()), laws()});
     common::ControlPanel* const panel = controls();
     model().onKeptChanged([panel] { panel->refresh(); });
     arrange(panel, {views, new Readings(model()), bar}, views);

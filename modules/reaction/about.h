@@ -4,6 +4,8 @@
 
 namespace reaction {
 
+inline constexpr const char16_t* kViews[] = {u"Quantités", u"Tableau", u"Calcul"};
+
 inline constexpr common::Transport kTransport = {
     .slider = u"Avancement",
     .nothing = u"Sans l’un des réactifs, rien ne réagit.",
@@ -12,6 +14,6 @@ inline constexpr common::Transport kTransport = {
 };
 
 inline constexpr common::About kAbout = {
-    .module = 10, .title = u"Réactif limitant", .transport = &kTransport};
+    .module = 10, .title = u"Réactif limitant", .views = kViews, .transport = &kTransport};
 
 } // namespace reaction

@@ -14,9 +14,7 @@ namespace reaction {
 
 MainWindow::MainWindow(const Opening& opening) : ModelWindow(kAbout, opening) {
     auto* bar = transport(model().player(), [this] { return momentOf(model()); });
-    auto* views = tabs({{QStringLiteral("Quantités"), new AmountBars(model())},
-                        {QStringLiteral("Tableau"), new StateTable(model())},
-                        {QStringLiteral("Calcul"), laws()}});
+    auto* views = tabs({new AmountBars(model()), new StateTable(model()), laws()});
     arrange(controls(), {new EquationView(model()), views, bar}, views);
 }
 

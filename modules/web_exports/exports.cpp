@@ -103,17 +103,24 @@ ORVALENTE_EXPORTED(simulationOpen) std::size_t simulationOpen(int module, std::s
     return give(why);
 }
 
-/// Title; then, of what runs, the slider's name, why nothing does, one step by hand, ms, and 1 for
-/// one that can be slower and faster.
+/// Title; captions of the views; a caption, and 1 for what is shown at first, for each box of the
+/// first of them. Then, of what runs, the slider's name, why nothing does, one step by hand, ms,
+/// and 1 for what can be slower and faster than the clock. A record each.
 ORVALENTE_EXPORTED(simulationAbout) std::size_t simulationAbout(int module) {
     const common::About& about = viewOf(module).about();
     Records records;
-    records.field(about.title);
-    if (const common::Transport* const transport = about.transport)
-        records.field(transport->slider)
-            .field(transport->nothing)
-            .field(static_cast<int>(std::lround(1000 * transport->step)))
-            .field(transport->hasRates ? 1 : 0);
+    records.field(about.title).end();
+    for (const char16_t* const view : about.views)
+        records.field(view);
+    records.end();
+    for (const common::Box& box : about.boxes)
+        records.field(box.caption).field(box.isShown ? 1 : 0);
+    records.end();
+    if (const common::Transport* const transport = about.transport) {
+        records.field(transport->slider).field(transport->nothing);
+        records.field(static_cast<int>(std::lround(1000 * transport->step)));
+        records.field(transport->hasRates ? 1 : 0).end();
+    }
     return records.give();
 }
 
