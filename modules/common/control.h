@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/number.h"
+#include "common/quantity.h"
 
 #include <functional>
 #include <string>
@@ -49,6 +49,15 @@ Control buttonControl(std::u16string words, std::u16string hint, bool isEnabled,
 /// A number as its name and symbol tell of it.
 Control numberControl(const Number& number, double value, bool isEnabled,
                       std::function<void(double)> set);
+
+/// The control of a quantity of `model`, whose state that is.
+template <class Model, class State, class Parameter>
+Control quantityControl(Model& model, const State& state,
+                        const Quantity<State, Parameter>& quantity) {
+    return numberControl(
+        quantity, state.*quantity.value, !model.isLocked(quantity.parameter),
+        [&model, parameter = quantity.parameter](double value) { model.set(parameter, value); });
+}
 
 /// Options of which one is taken, `taken` by its place; `kind` is Segments or List.
 Control choiceControl(Control::Kind kind, std::u16string name, std::vector<Option> options,

@@ -7,10 +7,7 @@ namespace {
 using common::Control;
 
 Control numberOf(Bench& bench, Parameter parameter) {
-    const Quantity& which = quantity(parameter);
-    return common::numberControl(
-        which, bench.arrangement().*which.value, !bench.isLocked(parameter),
-        [&bench, parameter](double value) { bench.set(parameter, value); });
+    return common::quantityControl(bench, bench.arrangement(), quantity(parameter));
 }
 
 Control kindOf(Bench& bench) {

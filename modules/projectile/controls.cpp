@@ -6,13 +6,6 @@ namespace {
 
 using common::Control;
 
-Control numberOf(Experiment& experiment, Parameter parameter) {
-    const Quantity& which = quantity(parameter);
-    return common::numberControl(
-        which, experiment.launch().*which.value, !experiment.isLocked(parameter),
-        [&experiment, parameter](double value) { experiment.set(parameter, value); });
-}
-
 Control worldsOf(Experiment& experiment) {
     std::vector<common::Option> options;
     int taken = -1;
@@ -43,7 +36,9 @@ Control dragsOf(Experiment& experiment) {
 } // namespace
 
 common::Controls controlsOf(Experiment& experiment) {
-    const auto number = [&](Parameter parameter) { return numberOf(experiment, parameter); };
+    const auto number = [&](Parameter parameter) {
+        return common::quantityControl(experiment, experiment.launch(), quantity(parameter));
+    };
     const auto with = [&](Drag drag, Control control) {
         return common::shownIf(experiment.launch().drag == drag, std::move(control));
     };
