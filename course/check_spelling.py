@@ -21,17 +21,23 @@ FIELDS = re.compile(r'^(?:titre|Titre|solution) = "(.*)"')
 WORD = re.compile(r"[^\W\d_]+(?:['-][^\W\d_]+)*")
 
 
-def page_lines(source):
-    """Words of a page or question in directives, with their lines."""
+def lines_with_fields(source):
+    """Lines with their numbers and whether they are the source's own; of its fields the words, which are not."""
     fields = False
     for number, line in enumerate(source.split("\n"), 1):
         if line == "+++":
             fields = not fields and number == 1
-            continue
-        if fields:
+        elif fields:
             found = FIELDS.match(line)
-            line = found[1] if found else ""
-        elif line.startswith("##"):
+            yield number, found[1] if found else "", False
+        else:
+            yield number, line, True
+
+
+def page_lines(source):
+    """Words of a page or question in directives, with their lines."""
+    for number, line, is_text in lines_with_fields(source):
+        if is_text and line.startswith("##"):
             found = re.match(r"##LIER(?:T|I|1)?(.*?)#", line) if not line.startswith("##LIERX") else None
             titled = re.match(r"##TITBAR(.*)", line)
             line = found[1] if found else titled[1] if titled else ""
@@ -52,14 +58,7 @@ def markdown_lines(source):
     source = re.sub(r"\$\$.*?\$\$|\$[^$\n]*\$", lambda formula: "\n" * formula[0].count("\n") or " ", source,
                     flags=re.S)
     source = re.sub(r"(?<=\])\([^()]*\)", " ", source)
-    fields = False
-    for number, line in enumerate(source.split("\n"), 1):
-        if line == "+++":
-            fields = not fields and number == 1
-            continue
-        if fields:
-            found = FIELDS.match(line)
-            line = found[1] if found else ""
+    for number, line, _ in lines_with_fields(source):
         yield number, re.sub(r"[*`|\[\]]", " ", line)
 
 

@@ -258,6 +258,12 @@ class Plot:
         values = [start + (end - start) * i / count for i in range(count + 1)]
         self.drawing.curve([self.at(x, function(x)) for x in values], ink, line, dash)
 
+    def named_curve(self, name, function, ink, count=2):
+        """A curve through the whole plot with its name at the end; a straight line unless told otherwise."""
+        self.curve(function, ink, count=count)
+        x, y = self.at(self.x_range[1], function(self.x_range[1]))
+        self.drawing.text(x + 10, y + 5, name, 15, ink, bold=True)
+
 
 def steps(limits, step):
     return [limits[0] + step * i for i in range(int(round((limits[1] - limits[0]) / step, 6)) + 1)]

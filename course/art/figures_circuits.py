@@ -24,6 +24,19 @@ def resistor(d, x, y, name, upright=False):
         d.text(x, y - 18, name, 15, INK, "middle")
 
 
+def generator(d, x, y):
+    """Upright, its plus pole above."""
+    d.circle(x, y, 22, WHITE, INK, 2)
+    d.text(x, y + 6, "G", 15, INK, "middle", True)
+    d.text(x + 26, y - 15, "+", 15, RED, bold=True)
+    d.text(x + 27, y + 29, "−", 15, BLUE, bold=True)
+
+
+def node(d, x, y, name, dy):
+    d.dot(x, y, INK, 4.5)
+    d.text(x, y + dy, name, 15, INK, "middle", True)
+
+
 def current(d, x, y, way, name, dx, dy):
     """An arrowhead on a wire; `way` is its direction in degrees, anticlockwise from the right."""
     a = math.radians(way)
@@ -38,15 +51,11 @@ def nodes_and_loops():
                           "tensions est nulle")
     wire(d, "M70 220V50H390V220Z")
     wire(d, "M250 50V220")
-    d.circle(70, 135, 22, WHITE, INK, 2)
-    d.text(70, 141, "G", 15, INK, "middle", True)
-    d.text(96, 120, "+", 15, RED, bold=True)
-    d.text(97, 164, "−", 15, BLUE, bold=True)
+    generator(d, 70, 135)
     resistor(d, 250, 135, "*R*_{1}", True)
     resistor(d, 390, 135, "*R*_{2}", True)
-    for y, name, dy in ((50, "A", -12), (220, "B", 24)):
-        d.dot(250, y, INK, 4.5)
-        d.text(250, y + dy, name, 15, INK, "middle", True)
+    node(d, 250, 50, "A", -12)
+    node(d, 250, 220, "B", 24)
     current(d, 150, 50, 0, "*I*", -4, -12)
     current(d, 250, 82, 270, "*I*_{1}", 10, 6)
     current(d, 330, 50, 0, "*I*_{2}", -4, -12)

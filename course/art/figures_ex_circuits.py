@@ -1,7 +1,7 @@
 """Figures of the exercises on circuits and sensors: a circuit to calculate, characteristics to read."""
 
 from drawing import BLUE, GREEN, INK, ORANGE, RED, WHITE, Drawing, Plot
-from figures_circuits import current, wire
+from figures_circuits import current, generator, node, wire
 
 RESISTORS = [("A", 100, BLUE), ("B", 300, GREEN)]  # ohms
 SHARED = (4.0, 40)  # volts and milliamperes at which the lamp's curve meets the first resistor's
@@ -24,16 +24,12 @@ def three_bulbs():
                 "B")
     wire(d, "M80 186V54H420V186Z")
     wire(d, "M300 54V186")
-    d.circle(80, 120, 22, WHITE, INK, 2)
-    d.text(80, 126, "G", 15, INK, "middle", True)
-    d.text(106, 105, "+", 15, RED, bold=True)
-    d.text(107, 149, "−", 15, BLUE, bold=True)
+    generator(d, 80, 120)
     bulb(d, 200, 54, "L_{1}", 0, -25, "middle")
     bulb(d, 300, 128, "L_{2}", 25, 5)
     bulb(d, 420, 120, "L_{3}", 25, 5)
-    for y, name, dy in ((54, "A", -12), (186, "B", 24)):
-        d.dot(300, y, INK, 4.5)
-        d.text(300, y + dy, name, 15, INK, "middle", True)
+    node(d, 300, 54, "A", -12)
+    node(d, 300, 186, "B", 24)
     current(d, 128, 54, 0, "*I*", -4, -12)
     current(d, 300, 86, 270, "*I*_{2}", 10, 6)
     current(d, 366, 54, 0, "*I*_{3}", -4, -12)
@@ -53,12 +49,8 @@ def three_characteristics():
     plot = Plot(d, 62, 36, 370, 164, (0, 6), (0, 60))
     plot.axes(1, 5, "*U* (V)", "*I* (mA)", labels=(1, 2))
     for name, ohms, ink in RESISTORS:
-        plot.curve(lambda volts: 1000 * volts / ohms, ink, 0, 6, 2)
-        x, y = plot.at(6, 6000 / ohms)
-        d.text(x + 10, y + 5, name, 15, ink, bold=True)
-    plot.curve(filament, ORANGE, 0, 6, 400)
-    x, y = plot.at(6, filament(6))
-    d.text(x + 10, y + 5, "C", 15, ORANGE, bold=True)
+        plot.named_curve(name, lambda volts: 1000 * volts / ohms, ink)
+    plot.named_curve("C", filament, ORANGE, 400)
     return d
 
 

@@ -65,9 +65,7 @@ def weights():
     plot = Plot(d, 62, 36, 390, 170, (0, 5), (0, 50))
     plot.axes(0.5, 5, "*m* (kg)", "*P* (N)", 0, 0, labels=(2, 2))
     for name, strength, ink in WORLDS:
-        plot.curve(lambda mass: strength * mass, ink, 0, 5, 2)
-        x, y = plot.at(5, strength * 5)
-        d.text(x + 10, y + 5, name, 15, ink, bold=True)
+        plot.named_curve(name, lambda mass: strength * mass, ink)
     return d
 
 

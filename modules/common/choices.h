@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/about.h"
 #include "look/check_box.h"
 
 #include <QHBoxLayout>
@@ -9,17 +10,10 @@
 
 namespace common {
 
-/// One of the things that a drawing shows or not.
-template <class Shown>
-struct Choice {
-    const char16_t* caption;
-    bool Shown::*shown;
-};
-
 /// A drawing with a row of boxes below it, each of which it is told of by `setShown`. A click on
 /// one leaves the keyboard where it is.
-template <class Shown, class Plot>
-QWidget* withChoices(Plot& plot, std::initializer_list<Choice<Shown>> choices) {
+template <class Plot, class Shown, std::size_t count>
+QWidget* withChoices(Plot& plot, const Choice<Shown> (&choices)[count]) {
     auto* widget = new QWidget;
     auto* layout = new QVBoxLayout(widget);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -120,4 +120,8 @@ std::u16string signedNumber(double value, int decimals) {
     return value > 0 ? u'+' + number : number;
 }
 
+std::u16string unitBehind(std::u16string_view unit) {
+    return std::u16string(unit == u"°" ? u"" : u"\u00A0").append(unit);
+}
+
 } // namespace common

@@ -21,4 +21,7 @@ std::u16string frenchDigits(double value, int digits);
 /// The same with a "+" before what is more than 0.
 std::u16string signedNumber(double value, int decimals);
 
+/// A unit as it stands behind a number: degrees at once, others after a no-break space.
+std::u16string unitBehind(std::u16string_view unit);
+
 } // namespace common

@@ -16,11 +16,9 @@ public:
 
     QString text(QAccessible::Text kind) const override {
         const MeasuredSlider::Scale& scale = slider().scale();
-        // "45°" but "20 m/s".
-        const QString blank = scale.unit == u"°" ? QString() : QStringLiteral("\u00A0");
         if (kind == QAccessible::Value)
-            return qtText(frenchNumber(value(slider().value()), scale.decimals)) + blank +
-                   scale.unit;
+            return qtText(frenchNumber(value(slider().value()), scale.decimals) +
+                          unitBehind(utf16(scale.unit)));
         return QAccessibleWidget::text(kind);
     }
 

@@ -1,6 +1,8 @@
 #include "common/number_row.h"
 
 #include "common/formula_label.h"
+#include "common/french_number.h"
+#include "common/qt_text.h"
 #include "look/interface_font.h"
 
 #include <QGridLayout>
@@ -14,11 +16,6 @@ namespace common {
 namespace {
 
 constexpr int kFieldWidth = 104;
-
-QString text(const char16_t* utf16) {
-    return QString::fromUtf16(utf16);
-}
-
 } // namespace
 
 void NumberField::keyPressEvent(QKeyEvent* event) {
@@ -37,12 +34,11 @@ NumberRow::NumberRow(const Number& number, std::function<void(double)> set, QWid
       field_(new NumberField),
       slider_(new MeasuredSlider({[this](int position) { return number_.valueAt(position); },
                                   [this](double value) { return number_.positionOf(value); },
-                                  text(number.unit), number.decimals})) {
-    const bool isAngle = text(number.unit) == QStringLiteral("°");
+                                  qtText(number.unit), number.decimals})) {
     field_->setRange(number.least, number.most);
     field_->setDecimals(number.decimals);
     field_->setSingleStep(number.step);
-    field_->setSuffix((isAngle ? QString() : QStringLiteral("\u00A0")) + text(number.unit));
+    field_->setSuffix(qtText(unitBehind(number.unit)));
     field_->setAlignment(Qt::AlignRight);
     field_->setButtonSymbols(QAbstractSpinBox::NoButtons);
     field_->setKeyboardTracking(false);
@@ -50,8 +46,6 @@ NumberRow::NumberRow(const Number& number, std::function<void(double)> set, QWid
 
     slider_->setRange(0, number.positionOf(number.most));
     slider_->setPageStep(10);
-    setName(QStringLiteral("\\text{%1 }%2").arg(text(number.name), text(number.symbol)),
-            text(number.name));
 
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -67,6 +61,8 @@ NumberRow::NumberRow(const Number& number, std::function<void(double)> set, QWid
 }
 
 void NumberRow::setName(const QString& formula, const QString& spoken) {
+    if (spoken == field_->accessibleName())
+        return label_->setFormula(formula, spoken); // nothing to say anew
     label_->setFormula(formula, spoken);
     field_->setAccessibleName(spoken);
     slider_->setAccessibleName(spoken);

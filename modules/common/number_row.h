@@ -22,7 +22,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 };
 
-/// One number of an experiment: its name and symbol, a field, a slider under both.
+/// One number of a simulation: its name and symbol, a field, a slider under both.
 class NumberRow : public QWidget {
 public:
     /// `set` is called with what somebody chose; it need not be within the number's ends to the
@@ -32,7 +32,7 @@ public:
     /// Shows a value without a call of `set`.
     void show(double value);
 
-    /// The same number under another name.
+    /// What the number is called, which it has to be told at first.
     void setName(const QString& formula, const QString& spoken);
 
 private:

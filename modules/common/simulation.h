@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/about.h"
 #include "common/opening.h"
 #include "common/status_record.h"
 
@@ -16,6 +17,14 @@ struct SimulationKind {
     /// Makes the module's window.
     std::unique_ptr<QWidget> (*makeWindow)(const Asked&);
 };
+
+/// The kind whose window is a `Window`, and whose exercises `parse` reads.
+template <class Window, auto parse>
+SimulationKind simulationKindOf(const About& about, const QString& ending) {
+    return {about.module, ending, [](const Asked& asked) -> std::unique_ptr<QWidget> {
+                return std::make_unique<Window>(openingOf(asked, parse));
+            }};
+}
 
 /// The window of a run of a simulation, with the exercise that the course asks for.
 class Simulation {

@@ -3,12 +3,15 @@
 #include "common/exercise_panel.h"
 #include "common/module_run.h"
 #include "common/plain_label.h"
+#include "common/qt_text.h"
+#include "common/transport_bar.h"
 #include "look/dress.h"
 #include "look/pixels.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QScreen>
+#include <QTabWidget>
 #include <QVBoxLayout>
 
 namespace common {
@@ -42,10 +45,10 @@ protected:
 
 } // namespace
 
-SimulationWindow::SimulationWindow(const QString& name, int module, const Opening& opening,
-                                   const Task* task)
-    : edition_(opening.edition), hasTask_(task != nullptr), right_(column(new QWidget(this))) {
-    setWindowTitle(common::windowTitle(name, module));
+SimulationWindow::SimulationWindow(const About& about, const Opening& opening, const Task* task)
+    : about_(about), edition_(opening.edition), hasTask_(task != nullptr),
+      right_(column(new QWidget(this))) {
+    setWindowTitle(common::windowTitle(qtText(about.title), about.module));
     if (task != nullptr) {
         auto* panel = new ExercisePanel(*task);
         panel->onSolved([this] { showResults(); });
@@ -80,6 +83,24 @@ QWidget* SimulationWindow::left(QWidget* controls) const {
     if (!edition_.isEmpty())
         layout->addWidget(paragraph(edition_, {.pixels = look::kSmallPx, .ink = look::kMuted}));
     return widget;
+}
+
+QTabWidget* SimulationWindow::tabs(std::initializer_list<QWidget*> views) const {
+    auto* tabs = new QTabWidget;
+    tabs->setDocumentMode(false);
+    for (QWidget* view : views)
+        tabs->addTab(view, qtText(about_.views[static_cast<std::size_t>(tabs->count())]));
+    return tabs;
+}
+
+QWidget* SimulationWindow::transport(Player& player, std::function<Reading()> moment) {
+    transport_ = new TransportBar(player, *about_.transport, std::move(moment));
+    return transport_;
+}
+
+void SimulationWindow::keyPressEvent(QKeyEvent* event) {
+    if (transport_ == nullptr || !transport_->takeKey(*event))
+        QMainWindow::keyPressEvent(event);
 }
 
 QVBoxLayout* column(QWidget* widget) {

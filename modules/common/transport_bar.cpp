@@ -38,14 +38,15 @@ constexpr int kUsualRate = 3;
 
 } // namespace
 
-TransportBar::TransportBar(Player& player, TransportWords words, QWidget* parent)
-    : QWidget(parent), player_(player), words_(std::move(words)) {
+TransportBar::TransportBar(Player& player, const Transport& about, std::function<Reading()> moment,
+                           QWidget* parent)
+    : QWidget(parent), player_(player), about_(about), moment_(std::move(moment)) {
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(kGap);
     addButtons();
     addSlider();
-    if (words_.hasRates)
+    if (about_.hasRates)
         addRates();
     timer_.setInterval(kPictureMilliseconds);
     timer_.setTimerType(Qt::PreciseTimer);
@@ -85,7 +86,7 @@ void TransportBar::addSlider() {
                                   QStringLiteral("s"), 2});
     slider_->setRange(0, kPositions);
     slider_->setMinimumWidth(64); // it would be the first to give way
-    slider_->setAccessibleName(words_.slider);
+    slider_->setAccessibleName(qtText(about_.slider));
     slider_->setPageStep(kPositions / 20);
     connect(slider_, &QSlider::valueChanged, this, [this](int position) {
         player_.play([t = timeAt(position)](Playback& playback) { playback.seek(t); });
@@ -130,7 +131,7 @@ void TransportBar::reset() {
 }
 
 void TransportBar::step(int pictures) {
-    player_.play([this, pictures](Playback& playback) { playback.step(pictures * words_.step); });
+    player_.play([this, pictures](Playback& playback) { playback.step(pictures * about_.step); });
 }
 
 void TransportBar::tick() {
@@ -156,11 +157,15 @@ void TransportBar::show() {
     }
     start_->setEnabled(playback.duration() > 0);
     look::setToolTip(*start_, playback.duration() > 0 ? QStringLiteral("ou barre d’espace")
-                                                      : words_.nothing);
+                                                      : qtText(about_.nothing));
     const QSignalBlocker blocker(slider_);
     slider_->setValue(positionAt(playback.time()));
-    const auto [formula, spoken] = words_.reading();
-    reading_->setFormula(formula, spoken);
+    const Reading moment = moment_();
+    const QString pattern = QStringLiteral("%1\u00A0=\u00A0%2");
+    const QString name = qtText(moment.name);
+    const QString value = qtText(moment.value);
+    reading_->setFormula(pattern.arg(name, QStringLiteral("\\text{%1}").arg(value)),
+                         pattern.arg(name, value));
 }
 
 bool TransportBar::takeKey(const QKeyEvent& event) {

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "common/about.h"
 #include "common/player.h"
+#include "common/reading.h"
 
 #include <QElapsedTimer>
 #include <QTimer>
@@ -17,22 +19,13 @@ namespace common {
 class FormulaLabel;
 class MeasuredSlider;
 
-/// What a module says in its transport bar.
-struct TransportWords {
-    QString slider;  ///< name of what is slid
-    QString nothing; ///< why the button is dead, when there is nothing to run
-    double step;     ///< one step by hand, s
-    bool hasRates;   ///< slower and faster than the clock
-    /// The moment as a formula, and as a screen reader says it.
-    std::function<std::pair<QString, QString>()> reading;
-};
-
 /// Start, pause, single steps, the moment to pull at, and the rate. Has the only timer of the
 /// program, which ticks only while the simulation runs.
 class TransportBar : public QWidget {
 public:
-    /// `player` lives as long as this does.
-    TransportBar(Player& player, TransportWords words, QWidget* parent = nullptr);
+    /// `player` and `about` live as long as this does; `moment` is what is read at the moment.
+    TransportBar(Player& player, const Transport& about, std::function<Reading()> moment,
+                 QWidget* parent = nullptr);
 
     /// The keys of the window: the space bar, arrows, Home. False when it is another.
     bool takeKey(const QKeyEvent& event);
@@ -50,7 +43,8 @@ private:
     void tick();
 
     Player& player_;
-    TransportWords words_;
+    const Transport& about_;
+    std::function<Reading()> moment_;
     look::Button* start_ = nullptr;
     MeasuredSlider* slider_ = nullptr;
     FormulaLabel* reading_ = nullptr;

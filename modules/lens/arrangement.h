@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/number.h"
+#include "common/quantity.h"
 
 #include <array>
 
@@ -30,11 +30,7 @@ inline constexpr double kLensRadius = 2.5;
 
 enum class Parameter { Distance, Height, FocalLength, Screen };
 
-struct Quantity : common::Number {
-    Parameter parameter;
-    double Arrangement::*value;
-    const char16_t* key; ///< in files of exercises
-};
+using Quantity = common::Quantity<Arrangement, Parameter>;
 
 inline constexpr std::array<Quantity, 4> kQuantities = {{
     {{u"Distance de l’objet", u"d", u"cm", 5, 150, 0.5, 1},

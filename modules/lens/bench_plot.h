@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/axes.h"
+#include "lens/about.h"
 #include "lens/bench.h"
 #include "lens/rays.h"
 
@@ -9,15 +10,6 @@
 #include <optional>
 
 namespace lens {
-
-/// What the drawing shows besides object, lens and screen; nothing of it of a lens that is
-/// withheld.
-struct Shown {
-    bool rays = true;
-    bool extensions = true;
-    bool image = true;
-    bool beam = false;
-};
 
 /// The bench seen from the side. Heights have a scale of their own, larger than that of lengths.
 /// Object and screen are moved with the mouse, the object's tip up and down too.

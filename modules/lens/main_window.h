@@ -4,30 +4,21 @@
 #include "common/simulation_window.h"
 #include "lens/bench.h"
 
-class QTabWidget;
-
 namespace lens {
-
-class BenchPlot;
 
 using Opening = common::ExerciseOpening<Exercise>;
 
 /// The optical bench: controls at the left, drawing, measures and relations at the right.
-class MainWindow : public common::SimulationWindow {
+class MainWindow : public common::ModelWindow<Bench, Exercise> {
 public:
     explicit MainWindow(const Opening& opening);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
-    void showResults() override { bench_.reveal(); }
 
 private:
-    QTabWidget* tabs();
-    QWidget* drawingTab();
+    QWidget* drawing();
     QWidget* foot();
-
-    Bench bench_;
-    BenchPlot* plot_ = nullptr;
 };
 
 /// Module 2.

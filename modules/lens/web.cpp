@@ -1,5 +1,7 @@
 #include "lens/web.h"
 
+#include "lens/about.h"
+#include "lens/controls.h"
 #include "lens/extent.h"
 #include "lens/laws.h"
 #include "lens/listing.h"
@@ -12,49 +14,18 @@ namespace lens {
 
 namespace {
 
-using modules::Control;
-
 /// What the page asks for by number.
 enum class Asked { Bench, Rays, Beam };
 
 /// What is pulled in the drawing.
 enum class Pulled { Object, Tip, Screen };
 
-class View : public modules::View {
+class View : public modules::ModelView<Bench, Exercise> {
 public:
-    explicit View(std::optional<Exercise> exercise) : exercise_(std::move(exercise)) {
-        if (exercise_)
-            bench_.setExercise(*exercise_);
-    }
+    explicit View(std::optional<Exercise> exercise) : ModelView(kAbout, std::move(exercise)) {}
 
-    std::vector<Control> controls() override {
-        const bool isUnknown = bench_.hidesLens();
-        std::vector<Control> all = {modules::heading(u"Objet"), row(Parameter::Distance),
-                                    row(Parameter::Height), modules::heading(u"Lentille"), kinds()};
-        all.back().isShown = !isUnknown;
-        all.push_back(row(Parameter::FocalLength));
-        all.back().isShown = !isUnknown;
-        if (bench_.arrangement().kind == Kind::Diverging)
-            all.back().formula = u"\\text{Distance focale }−f\u200A′";
-        all.push_back(modules::note(u"Lentille inconnue\u00A0: à vous de la mesurer."));
-        all.back().isShown = isUnknown;
-        all.push_back(modules::heading(u"Écran"));
-        all.push_back(row(Parameter::Screen));
-        all.push_back(modules::button(u"Mettre au point", u"met l’écran là où l’image est nette",
-                                      bench_.canFocus(), [this] { bench_.focus(); }));
-        all.push_back(modules::button(u"Noter la mesure",
-                                      bench_.isSharp() ? u"ajoute une ligne à l’onglet Mesures"
-                                                       : u"quand l’image est nette sur l’écran",
-                                      bench_.canMeasure(), [this] { bench_.measure(); }));
-        all.push_back(modules::button(u"Effacer", u"efface les mesures notées",
-                                      !bench_.measures().empty(),
-                                      [this] { bench_.forgetMeasures(); }));
-        return all;
-    }
-
-    std::vector<common::ReadingGroup> readings() const override { return readingsOf(bench_); }
-    common::Table table() const override { return measuresOf(bench_); }
-    std::vector<common::Law> laws() const override { return lawsOf(bench_); }
+    std::vector<common::ReadingGroup> readings() const override { return readingsOf(model()); }
+    common::Table table() const override { return measuresOf(model()); }
 
     std::vector<double> numbers(int what, int /*which*/) const override {
         switch (static_cast<Asked>(what)) {
@@ -69,14 +40,14 @@ public:
 
     /// What the screen shows, what the image is like, and what to do while there are no measures.
     std::vector<std::u16string> words() const override {
-        return {describeScreen(bench_), imageInWords(bench_), kNoMeasures};
+        return {describeScreen(model()), imageInWords(model()), kNoMeasures};
     }
 
     /// To a place on the axis and a height, cm; as fine as the sliders.
     void pull(int what, double x, double y) override {
         const auto set = [this](Parameter parameter, double value) {
             const double step = quantity(parameter).step;
-            bench_.set(parameter, std::round(value / step) * step);
+            model().set(parameter, std::round(value / step) * step);
         };
         const auto pulled = static_cast<Pulled>(what);
         if (pulled == Pulled::Screen)
@@ -87,40 +58,19 @@ public:
             set(Parameter::Height, y);
     }
 
-    const common::Task* task() const override { return exercise_ ? &*exercise_ : nullptr; }
-    void reveal() override { bench_.reveal(); }
-
 private:
-    Control row(Parameter parameter) {
-        const Quantity& which = quantity(parameter);
-        return modules::numberControl(
-            which, bench_.arrangement().*which.value, !bench_.isLocked(parameter),
-            [this, parameter](double value) { bench_.set(parameter, value); });
-    }
-
-    Control kinds() {
-        return {.kind = Control::Kind::Segments,
-                .name = u"Lentille",
-                .isEnabled = !bench_.isLocked(Parameter::FocalLength),
-                .value = static_cast<double>(bench_.arrangement().kind),
-                .choices = {{u"\\text{convergente}"}, {u"\\text{divergente}"}},
-                .change = [this](double which) {
-                    bench_.setKind(static_cast<Kind>(static_cast<int>(which)));
-                }};
-    }
-
     /// OA, AB, place of the screen, f′, OA′, A′B′; 1 for a lens that is withheld, for an image at
     /// infinity, for a real one, for one that is sharp on the screen, for an object and for a
     /// screen that can be moved; the drawing's ends before, behind and up; half the width of the
     /// lens; height and width of spots on the screen. What is withheld is 0.
     std::vector<double> ofBench() const {
-        const Arrangement& arrangement = bench_.arrangement();
-        const Image image = bench_.image();
-        const Extent extent = extentOf(bench_);
-        const bool isKnown = !bench_.hidesLens();
+        const Arrangement& arrangement = model().arrangement();
+        const Image image = model().image();
+        const Extent extent = extentOf(model());
+        const bool isKnown = !model().hidesLens();
         const bool isThere = isKnown && !image.isAtInfinity();
         const bool objectMoves =
-            !bench_.isLocked(Parameter::Distance) || !bench_.isLocked(Parameter::Height);
+            !model().isLocked(Parameter::Distance) || !model().isLocked(Parameter::Height);
         return {arrangement.object(),
                 arrangement.height,
                 arrangement.screen,
@@ -130,9 +80,9 @@ private:
                 double(!isKnown),
                 double(isKnown && image.isAtInfinity()),
                 double(isThere && image.isReal()),
-                double(bench_.isSharp()),
+                double(model().isSharp()),
                 double(objectMoves),
-                double(!bench_.isLocked(Parameter::Screen)),
+                double(!model().isLocked(Parameter::Screen)),
                 extent.before,
                 extent.behind,
                 extent.high,
@@ -144,15 +94,15 @@ private:
     /// Of each line the ray's number, 1 for an extension, and both ends; none of a lens withheld.
     std::vector<double> ofRays() const {
         std::vector<double> all;
-        if (bench_.hidesLens())
+        if (model().hidesLens())
             return all;
-        const Extent extent = extentOf(bench_);
+        const Extent extent = extentOf(model());
         const auto add = [&](const Ray& ray, const std::vector<Segment>& lines, double extension) {
             for (const Segment& line : lines)
                 all.insert(all.end(), {double(ray.number), extension, line.from.x, line.from.y,
                                        line.to.x, line.to.y});
         };
-        for (const Ray& ray : principalRays(bench_.arrangement(), -extent.before, extent.behind)) {
+        for (const Ray& ray : principalRays(model().arrangement(), -extent.before, extent.behind)) {
             add(ray, ray.light, 0);
             add(ray, ray.extension, 1);
         }
@@ -161,15 +111,12 @@ private:
 
     /// Where the light through both rims of the lens is at the end of the drawing.
     std::vector<double> ofBeam() const {
-        if (bench_.hidesLens())
+        if (model().hidesLens())
             return {};
-        const double end = extentOf(bench_).behind;
-        return {beamHeight(bench_.arrangement(), kLensRadius, end),
-                beamHeight(bench_.arrangement(), -kLensRadius, end)};
+        const double end = extentOf(model()).behind;
+        return {beamHeight(model().arrangement(), kLensRadius, end),
+                beamHeight(model().arrangement(), -kLensRadius, end)};
     }
-
-    std::optional<Exercise> exercise_;
-    Bench bench_;
 };
 
 } // namespace

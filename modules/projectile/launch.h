@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/number.h"
+#include "common/quantity.h"
 
 #include <array>
 #include <optional>
@@ -33,11 +33,7 @@ struct Launch {
 /// What a launch's numbers are called, and where their sliders end.
 enum class Parameter { Speed, Angle, Height, Gravity, Mass, Diameter, LinearCoefficient };
 
-struct Quantity : common::Number {
-    Parameter parameter;
-    double Launch::*value;
-    const char16_t* key; ///< in files of exercises
-};
+using Quantity = common::Quantity<Launch, Parameter>;
 
 inline constexpr std::array<Quantity, 7> kQuantities = {{
     {{u"Vitesse initiale", u"v_0", u"m/s", 0, 60, 0.5, 2},

@@ -11,10 +11,9 @@ namespace {
 std::u16string formulaOf(const Distinction& one) {
     if (one.symbol == nullptr)
         return common::filled(u"\\text{%1}", {one.words});
-    const std::u16string_view unit = one.unit;
     return common::filled(
-        u"%1\u00A0=\u00A0%2\\text{%3%4}",
-        {one.symbol, common::frenchDigits(one.value, 3), unit == u"°" ? u"" : u"\u00A0", unit});
+        u"%1\u00A0=\u00A0%2\\text{%3}",
+        {one.symbol, common::frenchDigits(one.value, 3), common::unitBehind(one.unit)});
 }
 
 } // namespace

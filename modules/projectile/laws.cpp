@@ -54,7 +54,8 @@ void addDrag(std::vector<common::Law>& laws, const Flight& flight) {
 
 } // namespace
 
-std::vector<common::Law> lawsOf(const Flight& flight) {
+std::vector<common::Law> lawsOf(const Experiment& experiment) {
+    const Flight& flight = experiment.flight();
     const Launch& launch = flight.launch();
     const bool slowed = std::isfinite(terminalSpeed(launch));
     std::vector<common::Law> laws = {

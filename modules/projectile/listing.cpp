@@ -27,6 +27,10 @@ common::ReadingGroup readingsNow(const Experiment& experiment) {
             5};
 }
 
+common::Reading momentOf(const Experiment& experiment) {
+    return reading(u"t", u"", experiment.playback().time(), u"s");
+}
+
 common::ReadingGroup readingsOfFlight(const Experiment& experiment) {
     const Flight& flight = experiment.flight();
     const bool hidden = experiment.hidesResults();

@@ -9,6 +9,9 @@ namespace projectile {
 /// What is read at the moment shown.
 common::ReadingGroup readingsNow(const Experiment& experiment);
 
+/// The moment itself.
+common::Reading momentOf(const Experiment& experiment);
+
 /// What is read of the flight as a whole; "?" for each number while they are withheld.
 common::ReadingGroup readingsOfFlight(const Experiment& experiment);
 

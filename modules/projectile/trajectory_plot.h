@@ -1,19 +1,12 @@
 #pragma once
 
 #include "common/axes.h"
+#include "projectile/about.h"
 #include "projectile/experiment.h"
 
 #include <QWidget>
 
 namespace projectile {
-
-/// What the drawing shows besides the paths.
-struct Shown {
-    bool speed = true;
-    bool components = false;
-    bool acceleration = false;
-    bool points = true;
-};
 
 /// The throw seen from the side: ground, paths, projectile, vectors. Both axes have one scale. At
 /// its start the throw is aimed by pulling the head of the velocity with the mouse.

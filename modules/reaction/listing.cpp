@@ -58,4 +58,8 @@ common::Table statesOf(const Experiment& experiment) {
     return table;
 }
 
+common::Reading momentOf(const Experiment& experiment) {
+    return {u"x", mol(experiment.progress()) + u"\u00A0mol"};
+}
+
 } // namespace reaction

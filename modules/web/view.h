@@ -1,15 +1,18 @@
 #pragma once
 
+#include "common/about.h"
+#include "common/control.h"
 #include "common/law.h"
 #include "common/player.h"
 #include "common/reading.h"
 #include "common/table.h"
 #include "common/task.h"
-#include "web/control.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace modules {
@@ -20,10 +23,10 @@ class View {
 public:
     virtual ~View() = default;
 
-    /// The controls, from above; another state of the simulation has as many, in the same order.
-    virtual std::vector<Control> controls() = 0;
+    virtual const common::About& about() const = 0;
+    virtual common::Controls controls() = 0;
 
-    virtual std::vector<common::ReadingGroup> readings() const = 0;
+    virtual std::vector<common::ReadingGroup> readings() const { return {}; }
     virtual common::Table table() const = 0;
     virtual std::vector<common::Law> laws() const = 0;
 
@@ -33,7 +36,7 @@ public:
     virtual std::vector<std::u16string> words() const { return {}; }
 
     /// Something in the drawing was pulled to a place.
-    virtual void pull(int what, double x, double y) = 0;
+    virtual void pull(int /*what*/, double /*x*/, double /*y*/) {}
 
     /// The moment as it is read: "t", "0,02 s".
     virtual common::Reading moment() const { return {}; }
@@ -44,6 +47,33 @@ public:
     virtual const common::Task* task() const = 0;
     /// After a right answer nothing is withheld.
     virtual void reveal() = 0;
+};
+
+/// What is alike in the views of all simulations: a `Model` with its exercise, of which
+/// `controlsOf` and `lawsOf` tell.
+template <class Model, class Exercise>
+class ModelView : public View {
+public:
+    ModelView(const common::About& about, std::optional<Exercise> exercise)
+        : about_(about), exercise_(std::move(exercise)) {
+        if (exercise_)
+            model_.setExercise(*exercise_);
+    }
+
+    const common::About& about() const override { return about_; }
+    common::Controls controls() override { return controlsOf(model_); }
+    std::vector<common::Law> laws() const override { return lawsOf(model_); }
+    const common::Task* task() const override { return exercise_ ? &*exercise_ : nullptr; }
+    void reveal() override { model_.reveal(); }
+
+protected:
+    Model& model() { return model_; }
+    const Model& model() const { return model_; }
+
+private:
+    const common::About& about_;
+    std::optional<Exercise> exercise_;
+    Model model_;
 };
 
 /// Opens a simulation with an exercise, given as the text of its file; empty for none. Null, with

@@ -18,6 +18,7 @@ using namespace modules;
 using browser::give;
 using browser::kFieldEnd;
 using browser::kRecordEnd;
+using common::Control;
 
 /// More than a double has.
 constexpr int kMostDecimals = 20;
@@ -49,20 +50,21 @@ private:
     std::u16string all_;
 };
 
-std::u16string withUnit(const Control& control) {
-    const std::u16string_view unit = control.number.unit;
-    return common::frenchNumber(control.value, control.number.decimals)
-        .append(unit == u"°" ? u"" : u"\u00A0")
-        .append(unit);
-}
-
 void addNumber(Records& records, const Control& control) {
     const common::Number& number = control.number;
-    records.field(common::frenchNumber(control.value, number.decimals))
+    const std::u16string value = common::frenchNumber(control.value, number.decimals);
+    records.field(value)
         .field(number.unit)
-        .field(withUnit(control))
+        .field(value + common::unitBehind(number.unit))
         .field(number.positionOf(control.value))
         .field(number.positionOf(number.most));
+}
+
+/// A list shows words. What words show is not said once more.
+void addOption(Records& records, const Control& control, const common::Option& option) {
+    const bool isPlain = control.kind == Control::Kind::List;
+    records.field(isPlain ? option.words : formulaOf(option))
+        .field(option.formula.empty() ? u"" : option.words);
 }
 
 void addParts(std::u16string& all, const common::FormulaRow& row) {
@@ -81,7 +83,7 @@ void addParts(std::u16string& all, const common::FormulaRow& row) {
 
 template <class Change>
 void change(int module, int which, Change change) {
-    std::vector<Control> controls = viewOf(module).controls();
+    const common::Controls controls = viewOf(module).controls();
     if (which >= 0 && std::cmp_less(which, controls.size())) {
         const Control& control = controls[static_cast<std::size_t>(which)];
         if (control.isEnabled)
@@ -101,19 +103,41 @@ ORVALENTE_EXPORTED(simulationOpen) std::size_t simulationOpen(int module, std::s
     return give(why);
 }
 
+/// Title; captions of the views; a caption, and 1 for what is shown at first, for each box of the
+/// first of them. Then, of what runs, the slider's name, why nothing does, one step by hand, ms,
+/// and 1 for what can be slower and faster than the clock. A record each.
+ORVALENTE_EXPORTED(simulationAbout) std::size_t simulationAbout(int module) {
+    const common::About& about = viewOf(module).about();
+    Records records;
+    records.field(about.title).end();
+    for (const char16_t* const view : about.views)
+        records.field(view);
+    records.end();
+    for (const common::Box& box : about.boxes)
+        records.field(box.caption).field(box.isShown ? 1 : 0);
+    records.end();
+    if (const common::Transport* const transport = about.transport) {
+        records.field(transport->slider).field(transport->nothing);
+        records.field(static_cast<int>(std::lround(1000 * transport->step)));
+        records.field(transport->hasRates ? 1 : 0).end();
+    }
+    return records.give();
+}
+
 /// A record for each control: kind, name, formula, hint, 1 when it is shown, 1 when it is enabled,
 /// the place of the choice taken. Then of a number its text, unit, text with unit, the slider's
-/// position and the last one; of choices a formula and what is said for each.
+/// position and the last one; of options a formula, of
+/// a list words, and what is said where that is another.
 ORVALENTE_EXPORTED(simulationControls) std::size_t simulationControls(int module) {
     Records records;
     for (const Control& one : viewOf(module).controls()) {
         records.field(static_cast<int>(one.kind)).field(one.name).field(one.formula);
         records.field(one.hint).field(one.isShown ? 1 : 0).field(one.isEnabled ? 1 : 0);
-        records.field(one.choices.empty() ? 0 : static_cast<int>(one.value));
+        records.field(one.options.empty() ? 0 : static_cast<int>(one.value));
         if (one.kind == Control::Kind::Number)
             addNumber(records, one);
-        for (const Choice& choice : one.choices)
-            records.field(choice.formula).field(choice.spoken);
+        for (const common::Option& option : one.options)
+            addOption(records, one, option);
         records.end();
     }
     return records.give();
@@ -124,8 +148,8 @@ ORVALENTE_EXPORTED(simulationChange) void simulationChange(int module, int contr
     if (std::isfinite(value)) // what was typed may be no number
         change(module, control, [=](const Control& one) {
             // The place of a choice that there is not is that of the last.
-            const double last = static_cast<double>(one.choices.size()) - 1;
-            one.change(one.choices.empty() ? value : std::clamp(value, 0.0, last));
+            const double last = static_cast<double>(one.options.size()) - 1;
+            one.change(one.options.empty() ? value : std::clamp(value, 0.0, last));
         });
 }
 

@@ -1,7 +1,10 @@
 #include "web_exports/simulations.h"
 
+#include "lens/about.h"
 #include "lens/web.h"
+#include "projectile/about.h"
 #include "projectile/web.h"
+#include "reaction/about.h"
 #include "reaction/web.h"
 
 #include <array>
@@ -11,9 +14,9 @@ namespace modules {
 namespace {
 
 constexpr std::array<Simulation, 3> kSimulations = {{
-    {2, lens::openView},
-    {10, reaction::openView},
-    {23, projectile::openView},
+    {lens::kAbout.module, lens::openView},
+    {reaction::kAbout.module, reaction::openView},
+    {projectile::kAbout.module, projectile::openView},
 }};
 
 } // namespace

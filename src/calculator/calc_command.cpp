@@ -19,9 +19,7 @@ Answer answerToLine(const std::string& line, const CalcOptions& options, Hooks h
 void runBatch(const CalcOptions& options, std::streambuf& in, std::ostream& out) {
     std::string line;
     while (out) {
-        if (in.in_avail() <= 0)
-            out.flush();
-        const text::Line read = text::readLine(in, line);
+        const text::Line read = text::readQuestion(in, out, line);
         if (read == text::Line::None)
             return;
         const Answer answer = read == text::Line::TooLong ? answerWith(ErrorCode::Impossible)

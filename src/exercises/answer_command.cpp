@@ -25,10 +25,7 @@ int runBatch(std::streambuf& in, std::ostream& out, std::ostream& err) {
     long number = 0;
     std::string line;
     while (out) {
-        // Whoever waits for the verdict before writing the next line gets it.
-        if (in.in_avail() <= 0)
-            out.flush();
-        const text::Line read = text::readLine(in, line);
+        const text::Line read = text::readQuestion(in, out, line);
         if (read == text::Line::None)
             break;
         ++number;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "look/read_only_text.h"
 #include "page/readable_page.h"
 
 #include <QAccessible>
@@ -14,7 +15,7 @@ class PictureBox;
 
 /// What screen readers see of a block of a page: a heading, a paragraph with its links, a list, a
 /// table, a picture. Where the page has gone meanwhile it says that it is not valid any more.
-class BlockAccessible : public QAccessibleInterface, public QAccessibleTextInterface {
+class BlockAccessible : public QAccessibleInterface, public ReadOnlyText {
 public:
     /// `parent` owns it, by the toolkit's register of such objects.
     BlockAccessible(PictureBox* box, const page::ReadableBlock& block,
@@ -42,19 +43,11 @@ public:
     QAccessible::State state() const override;
     void* interface_cast(QAccessible::InterfaceType type) override;
 
-    // QAccessibleTextInterface: text that cannot be changed, without a cursor in it.
-    void selection(int, int* start, int* end) const override { *start = *end = 0; }
-    int selectionCount() const override { return 0; }
-    void addSelection(int, int) override {}
-    void removeSelection(int) override {}
-    void setSelection(int, int, int) override {}
-    int cursorPosition() const override { return 0; }
-    void setCursorPosition(int) override {}
+    // ReadOnlyText
     QString text(int from, int to) const override { return words_.mid(from, to - from); }
     int characterCount() const override { return static_cast<int>(words_.size()); }
     QRect characterRect(int) const override { return rect(); }
     int offsetAtPoint(const QPoint&) const override { return 0; }
-    void scrollToSubstring(int, int) override {}
     QString attributes(int, int* start, int* end) const override;
 
 private:

@@ -155,11 +155,6 @@ void* PictureAccessible::interface_cast(QAccessible::InterfaceType type) {
     return QAccessibleWidget::interface_cast(type);
 }
 
-void PictureAccessible::selection(int, int* start, int* end) const {
-    *start = 0;
-    *end = 0;
-}
-
 QString PictureAccessible::text(int from, int to) const {
     return box().readableText().mid(from, to - from);
 }

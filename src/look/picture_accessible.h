@@ -1,6 +1,7 @@
 #pragma once
 
 #include "look/block_accessible.h"
+#include "look/read_only_text.h"
 
 #include <QAccessibleWidget>
 #include <QPointer>
@@ -13,7 +14,7 @@ namespace look {
 /// What screen readers see of a picture box: a document. Its children are the blocks of the page
 /// and the controls that stand on it, in the order of reading; its text is all of the page, to be
 /// read as a whole or by line, word and character.
-class PictureAccessible : public QAccessibleWidget, public QAccessibleTextInterface {
+class PictureAccessible : public QAccessibleWidget, public ReadOnlyText {
 public:
     explicit PictureAccessible(PictureBox* box);
 
@@ -36,20 +37,11 @@ public:
     QString text(QAccessible::Text kind) const override;
     void* interface_cast(QAccessible::InterfaceType type) override;
 
-    // The text cannot be changed, and there is no selection or cursor in it.
-    void selection(int index, int* start, int* end) const override;
-    int selectionCount() const override { return 0; }
-    void addSelection(int, int) override {}
-    void removeSelection(int) override {}
-    void setSelection(int, int, int) override {}
-    int cursorPosition() const override { return 0; }
-    void setCursorPosition(int) override {}
-
+    // ReadOnlyText
     QString text(int from, int to) const override;
     int characterCount() const override;
     QRect characterRect(int offset) const override;
     int offsetAtPoint(const QPoint& point) const override;
-    void scrollToSubstring(int, int) override {}
     QString attributes(int offset, int* start, int* end) const override;
 
 private:

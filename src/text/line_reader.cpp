@@ -20,4 +20,10 @@ Line readLine(std::streambuf& in, std::string& line) {
     return tooLong ? Line::TooLong : Line::Whole;
 }
 
+Line readQuestion(std::streambuf& in, std::ostream& answers, std::string& line) {
+    if (in.in_avail() <= 0)
+        answers.flush();
+    return readLine(in, line);
+}
+
 } // namespace text

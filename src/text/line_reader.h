@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <ostream>
 #include <streambuf>
 #include <string>
 
@@ -18,5 +19,9 @@ enum class Line {
 
 /// Reads a line without its end (LF or CR LF); the last one need not have an end.
 Line readLine(std::streambuf& in, std::string& line);
+
+/// The next question of a dialogue: whoever waits for an answer before writing it gets the answers
+/// so far from `answers` first.
+Line readQuestion(std::streambuf& in, std::ostream& answers, std::string& line);
 
 } // namespace text

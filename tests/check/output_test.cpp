@@ -2,6 +2,7 @@
 
 #include "check/checked.h"
 #include "check/write_findings.h"
+#include "coursetool/captured.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -21,19 +22,13 @@ struct Output : testing::Test {
     Output() { course.setBody("A \"mot\"¶\n##SI9\n##SI12\n##POX590\nÉté \x1b[31m¶\n"); }
 
     std::string written(check::CheckFormat format) {
-        std::FILE* stream = std::tmpfile();
-        coursetool::OutputBuffer out(stream);
-        coursetool::Report report;
-        auto request = course.request();
-        request.format = format;
-        EXPECT_EQ(check::check(request, CheckedCourse::fonts(), out, report),
-                  coursetool::ExitCode::Faults);
-        std::rewind(stream);
-        std::string text;
-        for (int c; (c = std::fgetc(stream)) != EOF;)
-            text += static_cast<char>(c);
-        std::fclose(stream);
-        return text;
+        return captured([&](auto& out) {
+            coursetool::Report report;
+            auto request = course.request();
+            request.format = format;
+            EXPECT_EQ(check::check(request, CheckedCourse::fonts(), out, report),
+                      coursetool::ExitCode::Faults);
+        });
     }
 };
 

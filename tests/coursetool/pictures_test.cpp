@@ -1,6 +1,7 @@
 // Pictures and symbols of a course, as the tool sees them.
 
 #include "coursetool/build.h"
+#include "coursetool/captured.h"
 #include "coursetool/symbols.h"
 #include "coursetool/tool_pictures.h"
 #include "coursetool/trace.h"
@@ -28,28 +29,14 @@ struct ToolPictures : testing::Test {
         ASSERT_TRUE(image.save(QString::fromStdString(work.path(relative).string()), "png"));
     }
 
-    /// What `write` writes.
-    template <class Write>
-    std::string output(Write write) {
-        std::FILE* stream = std::tmpfile();
-        coursetool::OutputBuffer out(stream);
-        write(out);
-        std::rewind(stream);
-        std::string text;
-        for (int c; (c = std::fgetc(stream)) != EOF;)
-            text += static_cast<char>(c);
-        std::fclose(stream);
-        return text;
-    }
-
     std::string trace(const coursetool::TraceRequest& request) {
         const test_support::FixedMetrics metrics;
         coursetool::ToolPictures pictures(request.course, request.drives, report);
-        return output(
+        return captured(
             [&](auto& out) { coursetool::trace(request, metrics, pictures, out, report); });
     }
     std::string symbols(const std::filesystem::path& course) {
-        return output([&](auto& out) { coursetool::listSymbols(course, false, out, report); });
+        return captured([&](auto& out) { coursetool::listSymbols(course, false, out, report); });
     }
     void buildPage(const std::string& source) {
         work.write("src/pages/1.page", "+++\nNumeropage = 1\n+++\n" + source);

@@ -1,4 +1,5 @@
 #include "coursetool/build.h"
+#include "coursetool/captured.h"
 #include "coursetool/render.h"
 #include "coursetool/tool_pictures.h"
 #include "coursetool/trace.h"
@@ -253,18 +254,12 @@ TEST_F(Render, allGoIntoAFolderThatIsThereAlready) {
 
 TEST_F(Render, aTraceOfAQuestionTellsItsFields) {
     const auto traced = [&](int reference) {
-        std::FILE* stream = std::tmpfile();
-        coursetool::OutputBuffer out(stream);
         coursetool::TraceRequest request;
         request.course = work.path("out");
         request.question = reference;
         coursetool::ToolPictures pictures(request.course, {}, report);
-        coursetool::trace(request, fonts, pictures, out, report);
-        std::rewind(stream);
-        std::string text(1 << 16, '\0');
-        text.resize(std::fread(text.data(), 1, text.size(), stream));
-        std::fclose(stream);
-        return text;
+        return captured(
+            [&](auto& out) { coursetool::trace(request, fonts, pictures, out, report); });
     };
     const std::string trace = traced(307);
     EXPECT_EQ(textOf(report), "");

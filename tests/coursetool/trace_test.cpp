@@ -1,4 +1,5 @@
 #include "coursetool/build.h"
+#include "coursetool/captured.h"
 #include "coursetool/trace.h"
 #include "coursetool/trace_lines.h"
 #include "coursetool/workspace.h"
@@ -22,28 +23,14 @@ struct Trace : testing::Test {
     test_support::FakePictures pictures;
     coursetool::Report report;
 
-    /// The lines that `draw` writes.
-    template <class Draw>
-    Lines lines(Draw draw) {
-        std::FILE* stream = std::tmpfile();
-        coursetool::OutputBuffer out(stream);
-        draw(out);
-        std::rewind(stream);
-        Lines result(1);
-        for (int c; (c = std::fgetc(stream)) != EOF;)
-            c == '\n' ? void(result.emplace_back()) : result.back().push_back(static_cast<char>(c));
-        std::fclose(stream);
-        result.pop_back();
-        return result;
-    }
     Lines source(std::string_view text) {
         work.write("page.txt", text);
-        return lines([&](auto& out) {
+        return capturedLines([&](auto& out) {
             coursetool::trace({{}, {}, work.path("page.txt"), {}}, metrics, pictures, out, report);
         });
     }
     Lines page(int number) {
-        return lines([&](auto& out) {
+        return capturedLines([&](auto& out) {
             coursetool::trace({work.path("out"), number, {}, {}}, metrics, pictures, out, report);
         });
     }

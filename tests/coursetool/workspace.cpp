@@ -1,5 +1,6 @@
 #include "coursetool/workspace.h"
 
+#include "coursetool/captured.h"
 #include "coursetool/dump.h"
 #include "jet/database_file.h"
 
@@ -47,22 +48,10 @@ std::vector<std::string> Workspace::files(const std::string& relative) const {
 
 std::vector<std::string> Workspace::rows(const std::string& database,
                                          const std::string& table) const {
-    std::FILE* stream = std::tmpfile();
-    coursetool::OutputBuffer out(stream);
     coursetool::Report report;
-    coursetool::dump(path(database), table, out, report);
+    const std::vector<std::string> lines =
+        capturedLines([&](auto& out) { coursetool::dump(path(database), table, out, report); });
     EXPECT_EQ(textOf(report), "");
-    std::rewind(stream);
-    std::vector<std::string> lines;
-    std::string line;
-    for (int c; (c = std::fgetc(stream)) != EOF;) {
-        if (c != '\n') {
-            line += static_cast<char>(c);
-            continue;
-        }
-        lines.push_back(std::exchange(line, {}));
-    }
-    std::fclose(stream);
     return lines;
 }
 

@@ -2,6 +2,7 @@
 #include "common/qt_text.h"
 #include "common/simulation.h"
 #include "modules/window_case.h"
+#include "projectile/about.h"
 #include "projectile/main_window.h"
 #include "shell/raw_status_file.h"
 #include "shell/status_file.h"
@@ -25,6 +26,30 @@ namespace {
 class SimulatorTest : public WindowCase {
 protected:
     void open(const Opening& opening) { WindowCase::open<MainWindow>(opening); }
+};
+
+/// A course with two exercises, and the record by which it asks for one.
+class CourseOfTwo {
+public:
+    CourseOfTwo() {
+        for (const char* const name : {"Exercice 03.E21", "Exercice 05.E21"})
+            EXPECT_TRUE(
+                QFile::copy(QStringLiteral(PROJECTILE_EXERCISES "/") + QString::fromLatin1(name),
+                            directory_.filePath(QString::fromLatin1(name))));
+        raw_status_file::writeAllNon(directory_.path());
+    }
+
+    void ask(const char* exercise) const {
+        shell::StatusFile(directory_.filePath(raw_status_file::kName))
+            .write(shell::StatusFile::kArgumentRecord, QString::fromLatin1(exercise));
+    }
+    common::Simulation run() const {
+        return {simulationKind(), common::StatusRecord(directory_.path(), kAbout.module),
+                directory_.path()};
+    }
+
+private:
+    QTemporaryDir directory_;
 };
 
 } // namespace
@@ -139,49 +164,32 @@ TEST_F(SimulatorTest, saysWhyAnExerciseIsNotOpened) {
 }
 
 TEST_F(SimulatorTest, takesTheExerciseThatTheCourseAsksForWhileItRuns) {
-    QTemporaryDir directory;
-    for (const char* const name : {"Exercice 03.E21", "Exercice 05.E21"})
-        ASSERT_TRUE(
-            QFile::copy(QStringLiteral(PROJECTILE_EXERCISES "/") + QString::fromLatin1(name),
-                        directory.filePath(QString::fromLatin1(name))));
-    raw_status_file::writeAllNon(directory.path());
-    const shell::StatusFile course(directory.filePath(raw_status_file::kName));
-    const auto ask = [&](const char* exercise) {
-        course.write(shell::StatusFile::kArgumentRecord, QString::fromLatin1(exercise));
-    };
+    const CourseOfTwo course;
     const auto titles = [](const QWidget& window) {
         QStringList all;
         for (const QLabel* label : window.findChildren<QLabel*>())
             all += label->text();
         return all;
     };
-    ask("Exercice 03.E21");
-    common::Simulation simulation(simulationKind(), common::StatusRecord(directory.path(), 23),
-                                  directory.path());
+    course.ask("Exercice 03.E21");
+    common::Simulation simulation = course.run();
     const QWidget* const first = &simulation.window();
     const QStringList shown = titles(*first);
     for (const char* const other : {"Exercice 03.E21", "", "Exercice 05.E20"}) {
-        ask(other);
+        course.ask(other);
         simulation.lookForExercise();
         EXPECT_EQ(&simulation.window(), first) << other;
     }
-    ask("Exercice 05.E21");
+    course.ask("Exercice 05.E21");
     simulation.lookForExercise();
     EXPECT_TRUE(simulation.window().isVisible());
     EXPECT_NE(titles(simulation.window()), shown);
 }
 
 TEST_F(SimulatorTest, offersTheNextExerciseAfterARightAnswer) {
-    QTemporaryDir directory;
-    for (const char* const name : {"Exercice 03.E21", "Exercice 05.E21"})
-        ASSERT_TRUE(
-            QFile::copy(QStringLiteral(PROJECTILE_EXERCISES "/") + QString::fromLatin1(name),
-                        directory.filePath(QString::fromLatin1(name))));
-    raw_status_file::writeAllNon(directory.path());
-    shell::StatusFile(directory.filePath(raw_status_file::kName))
-        .write(shell::StatusFile::kArgumentRecord, QStringLiteral("Exercice 03.E21"));
-    common::Simulation simulation(simulationKind(), common::StatusRecord(directory.path(), 23),
-                                  directory.path());
+    const CourseOfTwo course;
+    course.ask("Exercice 03.E21");
+    common::Simulation simulation = course.run();
     const auto next = [&] {
         for (auto* found : simulation.window().findChildren<QPushButton*>())
             if (found->text() == QStringLiteral("Exercice suivant"))

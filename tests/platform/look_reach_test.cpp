@@ -4,6 +4,7 @@
 #include "look/option_button.h"
 #include "look/palette.h"
 #include "look/tool_tip.h"
+#include "platform/painted.h"
 
 #include <QApplication>
 #include <QHelpEvent>
@@ -18,14 +19,6 @@
 namespace {
 
 using namespace look;
-
-QImage painted(QWidget& widget) {
-    return widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
-}
-
-std::string colour(QRgb pixel) {
-    return QColor(pixel).name().toStdString();
-}
 
 TEST(ToolTips, standBesideTheirControlAndNameAKey) {
     QWidget window;

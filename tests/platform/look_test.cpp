@@ -5,6 +5,7 @@
 #include "look/scroll_bar.h"
 #include "look/text_field.h"
 #include "look/tool_tip.h"
+#include "platform/painted.h"
 #include "support/plain_words.h"
 
 #include <QApplication>
@@ -24,10 +25,6 @@ using namespace look;
 using platform::Answer;
 using platform::Message;
 
-QImage painted(QWidget& widget) {
-    return widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
-}
-
 // Buttons
 
 struct ButtonState {
@@ -36,10 +33,6 @@ struct ButtonState {
     bool enabled, hovered, pressed, focused;
     QRgb edge, ground;
 };
-
-std::string colour(QRgb pixel) {
-    return QColor(pixel).name().toStdString();
-}
 
 class ButtonColours : public testing::TestWithParam<ButtonState> {};
 

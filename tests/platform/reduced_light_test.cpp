@@ -3,6 +3,7 @@
 #include "look/light_filter.h"
 #include "look/palette.h"
 #include "look/reduced_light.h"
+#include "platform/painted.h"
 
 #include <QDialog>
 #include <QGraphicsEffect>
@@ -18,14 +19,6 @@
 namespace {
 
 using namespace look;
-
-QImage painted(QWidget& widget) {
-    return widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
-}
-
-std::string colour(QRgb pixel) {
-    return QColor(pixel).name().toStdString();
-}
 
 double luminance(QRgb colour) {
     const auto linear = [](int channel) {

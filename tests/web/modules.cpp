@@ -14,6 +14,7 @@
 extern "C" {
 char16_t* room(std::size_t units);
 std::size_t simulationOpen(int, std::size_t);
+std::size_t simulationAbout(int);
 std::size_t simulationControls(int);
 void simulationChange(int, int, double);
 void simulationSlide(int, int, int);
@@ -76,10 +77,10 @@ void answer(std::string_view name, int module, std::istream& rest, const std::st
         std::string_view name;
         std::size_t (*ask)(int);
     } texts[] = {
-        {"simulationControls", simulationControls}, {"simulationReadings", simulationReadings},
-        {"simulationTable", simulationTable},       {"simulationLaws", simulationLaws},
-        {"simulationTask", simulationTask},         {"simulationWords", simulationWords},
-        {"simulationMoment", simulationMoment}};
+        {"simulationAbout", simulationAbout},       {"simulationControls", simulationControls},
+        {"simulationReadings", simulationReadings}, {"simulationTable", simulationTable},
+        {"simulationLaws", simulationLaws},         {"simulationTask", simulationTask},
+        {"simulationWords", simulationWords},       {"simulationMoment", simulationMoment}};
     for (const auto& one : texts)
         if (name == one.name)
             return printText(one.ask(module));

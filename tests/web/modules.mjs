@@ -36,7 +36,7 @@ const call = (name, module, numbers = [], text = null) => {
     return answers.at(-1);
 };
 const lookAt = (module) => {
-    for (const what of ['Controls', 'Readings', 'Table', 'Laws', 'Words', 'Moment']) call(`simulation${what}`, module);
+    for (const what of ['About', 'Controls', 'Readings', 'Table', 'Laws', 'Words', 'Moment']) call(`simulation${what}`, module);
     for (let what = 0; what < MODULES[module].wholes; ++what) call('simulationNumbers', module, [what, random(7) - 1]);
 };
 let verdicts = 0;

@@ -366,7 +366,7 @@ await early.getByRole('button', { name: 'Sommaire' }).click();
 await early.locator('dialog.sommaire[open]').waitFor();
 await early.close();
 
-const phone = await opened(addresses.server, { viewport: { width: 390, height: 800 }, hasTouch: true });
+const phone = await opened(addresses.server, { viewport: { width: 390, height: 800 }, isMobile: true, hasTouch: true });
 const wide = await phone.page.evaluate(() => document.documentElement.scrollWidth);
 ok(wide <= 390, `${wide} pixels wide on a phone`);
 const small = await phone.page.locator('header button, footer a').evaluateAll((all) => all.map((b) => b.getBoundingClientRect().height).filter((h) => h < 44));
@@ -376,6 +376,14 @@ await phone.page.getByRole('button', { name: 'Calculatrice' }).click();
 await phone.page.waitForSelector('.touches button');
 const [right, bottom] = await phone.page.locator('.touches button').evaluateAll((all) => all.map((key) => key.getBoundingClientRect()).reduce(([x, y], box) => [Math.max(x, box.right), Math.max(y, box.bottom)], [0, 0]));
 ok(right > 360 && right <= 390 && bottom <= 800, `keys up to ${right}, ${bottom}`);
+await phone.page.keyboard.press('Escape');
+// A page is the whole drawing made small, so two fingers must enlarge it, and a phone that is turned shows it as it is.
+const fingers = await phone.context.newCDPSession(phone.page);
+await fingers.send('Input.synthesizePinchGesture', { x: 195, y: 300, scaleFactor: 2 });
+const enlarged = await phone.page.evaluate(() => visualViewport.scale);
+ok(enlarged > 1.8, `two fingers enlarge ${enlarged} times`);
+await phone.page.setViewportSize({ width: 844, height: 390 });
+await phone.page.waitForFunction(() => document.querySelector('.dessin svg').getBoundingClientRect().width >= 800);
 
 await browser.close();
 server.close();

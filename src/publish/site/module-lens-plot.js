@@ -27,7 +27,7 @@ class BenchPlot extends Plot {
     constructor(page) {
         super('Banc d’optique, vu de côté');
         this.page = page;
-        this.shown = { rays: true, extensions: true, image: true, beam: false };
+        this.shown = { rays: false, extensions: false, image: false, beam: false }; // until its boxes say so
         this.axes = new Axes({ left: 0, top: 0, right: 1, bottom: 1 }, { from: 0, to: 1 }, { from: 0, to: 1 });
         /** @type {number | null} */
         this.pulled = null;

@@ -89,13 +89,12 @@ class ScreenView {
 
 /** @type {ModulePage} */
 const LENS_PAGE = {
-    title: 'Banc d’optique',
     build: (page) => {
         const { simulation } = page;
         const plot = new BenchPlot(page);
-        const choices = page.choices(plot.shown, [['rayons', 'rays'], ['prolongements', 'extensions'], ['image', 'image'], ['faisceau', 'beam']], () => !benchOf(simulation).isUnknown);
+        const choices = page.choices(plot.shown, ['rays', 'extensions', 'image', 'beam'], () => !benchOf(simulation).isUnknown);
         const table = new SimulationTable(simulation, 'Mesures', { empty: () => simulation.words()[2] });
-        return { views: [['Construction', [plot, choices]], ['Mesures', [table]], ['Formules', [new LawPage(simulation)]]], below: [new Readings(simulation), new ScreenView(simulation)] };
+        return { views: [[plot, choices], [table], [new LawPage(simulation)]], below: [new Readings(simulation), new ScreenView(simulation)] };
     },
     // The screen is moved, by one step or far; the space bar notes a measure.
     pressed: (page, { key }) => {

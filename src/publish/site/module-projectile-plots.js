@@ -25,7 +25,7 @@ class TrajectoryPlot extends Plot {
         super('Trajectoire du projectile');
         this.page = page;
         this.flights = flights;
-        this.shown = { speed: true, components: false, acceleration: false, points: true };
+        this.shown = { speed: false, components: false, acceleration: false, points: false }; // until its boxes say so
         this.axes = new Axes({ left: 0, top: 0, right: 1, bottom: 1 }, { from: 0, to: 1 }, { from: 0, to: 1 });
         this.isAiming = false;
         this.handle = drawn('circle', { r: 20, class: 'poignee' });

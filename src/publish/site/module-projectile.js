@@ -60,11 +60,10 @@ class Flights {
 
 /** @type {ModulePage} */
 const PROJECTILE_PAGE = {
-    title: 'Mouvement d’un projectile',
-    transport: { slider: 'Temps', nothing: 'Lancé ainsi, le projectile reste au sol.', step: 0.02, hasRates: true, ended: (simulation) => {
+    ended: (simulation) => {
         const { t, x } = new Flights(simulation).now();
         return `Le projectile touche le sol à ${simulation.program.frenchNumber(t, 2)}${BLANK}s, à ${simulation.program.frenchNumber(x, 2)}${BLANK}m du départ.`;
-    } },
+    },
     build: (page) => {
         const { simulation } = page;
         const flights = new Flights(simulation);
@@ -81,9 +80,9 @@ const PROJECTILE_PAGE = {
             const at = Math.max(0, flights.strobe().moments.filter((one) => one.t <= t).length - 1);
             [...table.body.children].forEach((row, i) => row.classList.toggle('courante', i === at));
         };
-        const choices = page.choices(trajectory.shown, [['vitesse', 'speed'], ['ses composantes', 'components'], ['accélération', 'acceleration'], ['points', 'points']]);
+        const choices = page.choices(trajectory.shown, ['speed', 'components', 'acceleration', 'points']);
         return {
-            views: [['Trajectoire', [trajectory, trajectory.legend, trajectory.scales, choices]], ['Énergies', [energies, energies.legend]], ['Tableau', [table]], ['Formules', [new LawPage(simulation)]]],
+            views: [[trajectory, trajectory.legend, trajectory.scales, choices], [energies, energies.legend], [table], [new LawPage(simulation)]],
             below: [new Readings(simulation)],
         };
     },

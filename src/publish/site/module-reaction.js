@@ -98,9 +98,7 @@ class AmountBars extends Plot {
 
 /** @type {ModulePage} */
 const REACTION_PAGE = {
-    title: 'Réactif limitant',
-    transport: { slider: 'Avancement', nothing: 'Sans l’un des réactifs, rien ne réagit.', step: 0.1, hasRates: false,
-        ended: (simulation) => `La réaction est finie${BLANK}: ${mixtureOf(simulation).species.map((one) => `${one.name} ${one.shown}`).join(', ')}.` },
+    ended: (simulation) => `La réaction est finie${BLANK}: ${mixtureOf(simulation).species.map((one) => `${one.name} ${one.shown}`).join(', ')}.`,
     build: ({ simulation }) => {
         const equation = element('p', { class: 'equation' });
         const verdict = element('p', { role: 'status' });
@@ -111,7 +109,7 @@ const REACTION_PAGE = {
                 if (verdict.textContent !== mixture.verdict) verdict.textContent = mixture.verdict;
                 verdict.className = mixture.isHidden ? '' : 'limite';
             }, drawMoment: () => {} }],
-            views: [['Quantités', [new AmountBars(simulation)]], ['Tableau', [new SimulationTable(simulation, 'Tableau d’avancement', { moves: true })]], ['Calcul', [new LawPage(simulation)]]],
+            views: [[new AmountBars(simulation)], [new SimulationTable(simulation, 'Tableau d’avancement', { moves: true })], [new LawPage(simulation)]],
         };
     },
 };

@@ -4,9 +4,8 @@
 /**
  * What tells the page of one module from others.
  * @typedef {object} ModulePage
- * @property {string} title
- * @property {{slider: string, nothing: string, step: number, hasRates: boolean, ended: (simulation: Simulation) => string}} [transport] of what runs
- * @property {(page: SimulationView) => {above?: SimulationPart[], views: [string, SimulationPart[]][], below?: SimulationPart[]}} build what is seen, tab by tab
+ * @property {(page: SimulationView) => {above?: SimulationPart[], views: SimulationPart[][], below?: SimulationPart[]}} build what is seen, tab by tab
+ * @property {(simulation: Simulation) => string} [ended] of what runs: what is said at the end
  * @property {(page: SimulationView, event: KeyboardEvent) => boolean} [pressed] keys for the whole page; whether one was taken
  */
 
@@ -22,14 +21,15 @@ class SimulationView {
      */
     constructor(module, simulation, { notice, next }) {
         this.module = module;
-        this.title = module.title;
         this.simulation = simulation;
+        this.about = simulation.about();
+        const { transport } = this.about;
         const changed = () => this.show();
         this.panel = new ControlPanel(simulation, changed);
         const { above = [], views, below = [] } = module.build(this);
-        this.parts = [...above, ...views.flatMap(([, parts]) => parts), ...below];
-        this.tabs = new Tabs('Vues', views.map(([words, parts]) => [words, parts.map((part) => part.element)]));
-        this.transport = module.transport ? new TransportBar(simulation, module.transport, () => this.showMoment()) : null;
+        this.parts = [...above, ...views.flat(), ...below];
+        this.tabs = new Tabs('Vues', views.map((parts, i) => [this.about.views[i], parts.map((part) => part.element)]));
+        this.transport = transport && new TransportBar(simulation, transport, { moved: () => this.showMoment(), ended: () => announce(module.ended?.(simulation) ?? '') });
         const task = simulation.task();
         this.exercise = task && new ExercisePanel(simulation, task, { solved: changed, next });
         this.element = element('section', { class: 'simulation', tabindex: '-1', 'aria-labelledby': 'titre-simulation', keydown: (/** @type {KeyboardEvent} */ event) => this.pressed(event) },
@@ -38,6 +38,10 @@ class SimulationView {
             element('div', { class: 'simulation-corps' }, this.panel.element,
                 element('div', { class: 'vues' }, ...above.map((part) => part.element), this.tabs.element, element('div', { class: 'sous-vues' }, ...below.map((part) => part.element)), this.transport?.element)));
         this.show();
+    }
+
+    get title() {
+        return this.about.title;
     }
 
     get program() {
@@ -59,16 +63,17 @@ class SimulationView {
     /**
      * Boxes that say what a drawing shows.
      * @param {Record<string, boolean>} shown
-     * @param {[string, string][]} choices captions, and names in `shown`
+     * @param {string[]} names of it, in the order of the boxes
      * @param {() => boolean} [isEnabled]
      * @returns {SimulationPart}
      */
-    choices(shown, choices, isEnabled = () => true) {
-        const boxes = choices.map(([, what]) => {
-            const box = element('input', { type: 'checkbox', checked: shown[what], change: () => { shown[what] = box.checked; this.show(); } });
+    choices(shown, names, isEnabled = () => true) {
+        const boxes = this.about.boxes.map(({ isShown }, i) => {
+            const box = element('input', { type: 'checkbox', checked: isShown, change: () => { shown[names[i]] = box.checked; this.show(); } });
+            shown[names[i]] = isShown;
             return box;
         });
-        return { element: element('div', { class: 'choix' }, ...choices.map(([words], i) => element('label', { class: 'case' }, boxes[i], words))),
+        return { element: element('div', { class: 'choix' }, ...this.about.boxes.map(({ words }, i) => element('label', { class: 'case' }, boxes[i], words))),
             draw: () => boxes.forEach((box) => { box.disabled = !isEnabled(); }), drawMoment: () => {} };
     }
 

@@ -7,9 +7,11 @@ const BLANK = '\u00a0';
 /** @typedef {{text: string, unit: string, withUnit: string, position: number, last: number}} NumberState */
 /** @typedef {{kind: number, name: string, formula: string, hint: string, isShown: boolean, isEnabled: boolean, chosen: number, number: NumberState, choices: {formula: string, spoken: string}[]}} ControlState */
 /** @typedef {{name: string, readings: {name: string, value: string, spoken: string}[]}} ReadingGroup */
+/** @typedef {{slider: string, nothing: string, step: number, hasRates: boolean}} Transport */
+/** @typedef {{title: string, views: string[], boxes: {words: string, isShown: boolean}[], transport: Transport | null}} About */
 /** @typedef {{title: string, question: string, unit: string, statement: string[]}} Task */
 
-/** Kinds of controls and of columns, as the program numbers them (modules/web/control.h, common/table.h). */
+/** Kinds of controls and of columns, as the program numbers them (modules/common/control.h, table.h). */
 const CONTROL = { heading: 0, number: 1, segments: 2, list: 3, button: 4, note: 5 };
 const CELLS = { numbers: 0, formulas: 1, names: 2 };
 
@@ -36,6 +38,18 @@ class Simulation {
      */
     open(exercise = '') {
         return this.program.ask('simulationOpen', this.module, this.program.put(exercise));
+    }
+
+    /** @returns {About} what is said of it whatever its state; without a transport it stands still */
+    about() {
+        const [[title], views, boxes, transport] = this.program.askRecords('simulationAbout', this.module);
+        const [slider, nothing, milliseconds, hasRates] = transport ?? [];
+        return {
+            title,
+            views: views.slice(0, -1),
+            boxes: Array.from({ length: (boxes.length - 1) / 2 }, (_, i) => ({ words: boxes[2 * i], isShown: boxes[2 * i + 1] === '1' })),
+            transport: transport ? { slider, nothing, step: Number(milliseconds) / 1000, hasRates: hasRates === '1' } : null,
+        };
     }
 
     /** @returns {ControlState[]} */

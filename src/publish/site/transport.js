@@ -20,13 +20,14 @@ const calm = matchMedia('(prefers-reduced-motion: reduce)');
 class TransportBar {
     /**
      * @param {Simulation} simulation
-     * @param {{slider: string, nothing: string, step: number, hasRates: boolean, ended: (simulation: Simulation) => string}} words names of the slider and of what keeps it from running; `ended` is told at the end
-     * @param {() => void} moved to be called when the time has changed
+     * @param {Transport} words
+     * @param {{moved: () => void, ended: () => void}} then to be called when the time has changed, and when it has run to its end
      */
-    constructor(simulation, words, moved) {
+    constructor(simulation, words, { moved, ended }) {
         this.simulation = simulation;
         this.words = words;
         this.moved = moved;
+        this.ended = ended;
         this.last = 0;
         this.isDriving = false;
         const iconButton = (/** @type {string} */ name, /** @type {string} */ caption, /** @type {() => void} */ click) =>
@@ -81,7 +82,7 @@ class TransportBar {
         this.moved();
         this.isDriving = this.simulation.time().isRunning;
         if (this.isDriving) this.next();
-        else if (wasRunning) announce(this.words.ended(this.simulation));
+        else if (wasRunning) this.ended();
     }
 
     show() {
