@@ -32,10 +32,17 @@ PictureBox::PictureBox(page::SurfaceId id, int widthPx, QRgb ground, const page:
                        const page::Recording& recording, QWidget* parent)
     : QWidget(parent), recording_(recording), id_(id), raster_(id, widthPx, fonts, ground) {
     PictureAccessible::install();
+    setInset(0);
 }
 
 PictureBox::~PictureBox() {
     delete rim_;
+}
+
+void PictureBox::setInset(int pixels) {
+    inset_ = pixels;
+    // Without a border it covers all of its place, so that nothing needs to be painted below it.
+    setAttribute(Qt::WA_OpaquePaintEvent, pixels == 0);
 }
 
 void PictureBox::empty() {

@@ -29,7 +29,7 @@ public:
 
     /// Leaves a border of `pixels` around the drawing, for a fine rule. While nothing is drawn the
     /// control shows neither, but the window below.
-    void setInset(int pixels) { inset_ = pixels; }
+    void setInset(int pixels);
 
     /// Says that the control is given the height of its page.
     void setFollowsPage() { followsPage_ = true; }

@@ -64,7 +64,7 @@ protected:
         surface.setLineWidth(1 + static_cast<int>(random_() % 3));
         const int kind = static_cast<int>(random_() % 3);
         surface.line(x, y, kind == 0 ? x : upTo(9000),
-                     kind == 1 ? y : y + (random_() % 10 == 0 ? 9000 : 400) - upTo(200));
+                     kind == 1 ? y : y + (random_() % 10 == 0 ? 3000 : 400) - upTo(200));
     }
     void drawOther() {
         surface.fill(upTo(8000), upTo(kHeightPx) * 15, upTo(4000), upTo(1500),

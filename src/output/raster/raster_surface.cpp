@@ -109,7 +109,10 @@ public:
         // The surface itself covers the pixels that it shares with its margin.
         inner_ = QRect(0, 0, qFloor(size.width() / page::kTwipsPerPixel * ratio),
                        qFloor(size.height() / page::kTwipsPerPixel * ratio));
-        ring_ = QRegion(pixels(page::withInkMargin(size))) - inner_;
+        ring_ = (QRegion(pixels(page::withInkMargin(size))) - inner_) &
+                pixels({exposed.x() * page::kTwipsPerPixel, exposed.y() * page::kTwipsPerPixel,
+                        exposed.width() * page::kTwipsPerPixel,
+                        exposed.height() * page::kTwipsPerPixel});
     }
 
     using NoInk::operator();
@@ -128,10 +131,14 @@ private:
             ink->top > (exposed_.bottom() + 1) * page::kTwipsPerPixel)
             return;
         const QRectF area = page::inkArea(drawing, size_, fonts_);
-        if (area.isEmpty() || area == QRectF({}, size_) || staysWithin(drawing))
+        if (area.isEmpty() || area == QRectF({}, size_))
+            return;
+        // A clip costs by its rows, be they ever so empty.
+        const QRegion clip = ring_ & pixels(area & reach(drawing));
+        if (clip.isEmpty() || staysWithin(drawing))
             return;
         painter_.save();
-        painter_.setClipRegion(ring_ & pixels(area), Qt::IntersectClip);
+        painter_.setClipRegion(clip, Qt::IntersectClip);
         operations_.draw(drawing);
         painter_.restore();
     }
@@ -143,6 +150,19 @@ private:
     template <class Drawing>
     static bool staysWithin(const Drawing&) {
         return false;
+    }
+
+    /// No smaller than what an operation inks, in twips.
+    static QRectF reach(const page::LineOperation& line) {
+        const auto [left, right] = std::minmax(line.x1, line.x2);
+        const auto [top, bottom] = std::minmax(line.y1, line.y2);
+        const double beyond = (line.lineWidth + 2) * page::kTwipsPerPixel;
+        return QRectF(QPointF(left, top), QPointF(right, bottom))
+            .adjusted(-beyond, -beyond, beyond, beyond);
+    }
+    template <class Drawing>
+    QRectF reach(const Drawing&) const {
+        return page::withInkMargin(size_);
     }
 
     QRect pixels(const QRectF& twips) const {
@@ -159,7 +179,7 @@ private:
     QSizeF size_;
     QRect exposed_;
     QRect inner_;
-    QRegion ring_;
+    QRegion ring_; ///< what shows of the margin
 };
 
 RasterSurface::RasterSurface(page::SurfaceId id, int widthPx, const page::FontBook& fonts,
