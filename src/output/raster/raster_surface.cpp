@@ -131,11 +131,11 @@ private:
             ink->top > (exposed_.bottom() + 1) * page::kTwipsPerPixel)
             return;
         const QRectF area = page::inkArea(drawing, size_, fonts_);
-        if (area.isEmpty() || area == QRectF({}, size_))
+        if (area.isEmpty() || area == QRectF({}, size_) || staysWithin(drawing))
             return;
         // A clip costs by its rows, be they ever so empty.
         const QRegion clip = ring_ & pixels(area & reach(drawing));
-        if (clip.isEmpty() || staysWithin(drawing))
+        if (clip.isEmpty())
             return;
         painter_.save();
         painter_.setClipRegion(clip, Qt::IntersectClip);
