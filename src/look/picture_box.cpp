@@ -59,12 +59,19 @@ void PictureBox::empty() {
 
 void PictureBox::showDrawing() {
     forgetReadable();
-    const double ratio = devicePixelRatioF();
-    if (ratio != raster_.devicePixelRatio())
-        raster_.setDevicePixelRatio(ratio);
+    followDensity();
     raster_.play(recording_);
     update();
     updateMargin();
+}
+
+/// The window may have come to a screen of another density, or its scale has changed. All of it is
+/// painted then anyway: to ask for that would have it painted twice.
+void PictureBox::followDensity() {
+    if (devicePixelRatioF() == raster_.devicePixelRatio())
+        return;
+    raster_.setDevicePixelRatio(devicePixelRatioF());
+    raster_.play(recording_);
 }
 
 void PictureBox::updateMargin() {
@@ -72,7 +79,8 @@ void PictureBox::updateMargin() {
         rim_->update();
 }
 
-void PictureBox::paintMargin(QPainter& painter, const QRect& exposed) const {
+void PictureBox::paintMargin(QPainter& painter, const QRect& exposed) {
+    followDensity();
     raster_.paintMargin(painter, recording_, height() - 2 * inset_,
                         exposed.translated(-inset_, -inset_));
 }
@@ -196,9 +204,7 @@ void PictureBox::paintMarks(QPainter& painter, const QRect& exposed) const {
 }
 
 void PictureBox::paintEvent(QPaintEvent* event) {
-    // The window may have come to a screen of another density.
-    if (devicePixelRatioF() != raster_.devicePixelRatio())
-        showDrawing();
+    followDensity();
     if (inset_ > 0 && isBlank())
         return;
     QPainter painter(this);
