@@ -32,10 +32,17 @@ PictureBox::PictureBox(page::SurfaceId id, int widthPx, QRgb ground, const page:
                        const page::Recording& recording, QWidget* parent)
     : QWidget(parent), recording_(recording), id_(id), raster_(id, widthPx, fonts, ground) {
     PictureAccessible::install();
+    setInset(0);
 }
 
 PictureBox::~PictureBox() {
     delete rim_;
+}
+
+void PictureBox::setInset(int pixels) {
+    inset_ = pixels;
+    // Without a border it covers all of its place, so that nothing needs to be painted below it.
+    setAttribute(Qt::WA_OpaquePaintEvent, pixels == 0);
 }
 
 void PictureBox::empty() {
@@ -52,12 +59,19 @@ void PictureBox::empty() {
 
 void PictureBox::showDrawing() {
     forgetReadable();
-    const double ratio = devicePixelRatioF();
-    if (ratio != raster_.devicePixelRatio())
-        raster_.setDevicePixelRatio(ratio);
+    followDensity();
     raster_.play(recording_);
     update();
     updateMargin();
+}
+
+/// The window may have come to a screen of another density, or its scale has changed. All of it is
+/// painted then anyway: to ask for that would have it painted twice.
+void PictureBox::followDensity() {
+    if (devicePixelRatioF() == raster_.devicePixelRatio())
+        return;
+    raster_.setDevicePixelRatio(devicePixelRatioF());
+    raster_.play(recording_);
 }
 
 void PictureBox::updateMargin() {
@@ -65,7 +79,8 @@ void PictureBox::updateMargin() {
         rim_->update();
 }
 
-void PictureBox::paintMargin(QPainter& painter, const QRect& exposed) const {
+void PictureBox::paintMargin(QPainter& painter, const QRect& exposed) {
+    followDensity();
     raster_.paintMargin(painter, recording_, height() - 2 * inset_,
                         exposed.translated(-inset_, -inset_));
 }
@@ -189,9 +204,7 @@ void PictureBox::paintMarks(QPainter& painter, const QRect& exposed) const {
 }
 
 void PictureBox::paintEvent(QPaintEvent* event) {
-    // The window may have come to a screen of another density.
-    if (devicePixelRatioF() != raster_.devicePixelRatio())
-        showDrawing();
+    followDensity();
     if (inset_ > 0 && isBlank())
         return;
     QPainter painter(this);

@@ -29,7 +29,7 @@ public:
 
     /// Leaves a border of `pixels` around the drawing, for a fine rule. While nothing is drawn the
     /// control shows neither, but the window below.
-    void setInset(int pixels) { inset_ = pixels; }
+    void setInset(int pixels);
 
     /// Says that the control is given the height of its page.
     void setFollowsPage() { followsPage_ = true; }
@@ -82,7 +82,7 @@ public:
     void updateMargin();
     /// Draws what leans out of the surface, as tall as the control is. `painter` is as for
     /// RasterSurface::paintMargin(); `exposed` is what shows, in pixels of the control.
-    void paintMargin(QPainter& painter, const QRect& exposed) const;
+    void paintMargin(QPainter& painter, const QRect& exposed);
 
     /// Whether nothing was drawn, as far as it was shown, and no controls stand there.
     bool isBlank() const { return raster_.isBlank() && controlsFoot_ == 0; }
@@ -105,6 +105,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void followDensity();
     void paintMarks(QPainter& painter, const QRect& exposed) const;
     void paintSelection(QPainter& painter) const;
     void paintSpoken(QPainter& painter) const;

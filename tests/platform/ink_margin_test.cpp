@@ -58,7 +58,9 @@ protected:
         QImage inside = raster.image(heightPx);
         inside.setDevicePixelRatio(1);
         painter.drawImage(0, 0, inside);
-        raster.paintMargin(painter, recording, heightPx, whole.rect());
+        raster.paintMargin(
+            painter, recording, heightPx,
+            QRect(0, 0, kWidthPx, heightPx).adjusted(-kMarginPx, -kMarginPx, kMarginPx, kMarginPx));
         return whole;
     }
 

@@ -33,12 +33,13 @@ private:
 
 class RasterPictures : public testing::Test {
 protected:
-    /// Paints the square, sizes and positions in pixels, and plays.
+    /// Paints the square, sizes and positions in pixels, and shows the top of the surface.
     void paint(double x, double y, double side) {
         surface.setPenX(x * 15);
         surface.setPenY(y * 15);
         surface.paint(square, side * 15, side * 15, QStringLiteral("f.png"), false);
         raster.play(recording);
+        raster.image(1);
     }
     QRgb at(int x, int y) { return raster.image(y + 1).pixel(x, y); }
 

@@ -59,15 +59,20 @@ OperationPainter::span(const page::PictureOperation& picture) const {
     return Span{picture.y, picture.y + picture.height};
 }
 
-/// What a face measures leaves out underlines, and the slant that it has not itself. Letters keep
-/// within a few ems of their places, so that only those near an edge are measured.
+/// Letters keep within a few ems of their places, so that only those near an edge are measured.
+/// What a face measures leaves out underlines, and the slant that it has not itself.
 bool OperationPainter::staysWithin(const page::TextOperation& text, const QRectF& area) const {
     const auto rows = inkSpan(text);
-    if (!rows || text.font.italic || text.font.underline)
+    if (!rows)
         return false;
     const double em = page::fontPixels(text.font.points) * ratio_;
     const bool rowsAreInside =
         toDevice(rows->top) >= area.top() && toDevice(rows->bottom) <= area.bottom();
+    if (rowsAreInside && toDevice(text.x) - 2 * em >= area.left() &&
+        toDevice(text.x + text.width) + 4 * em <= area.right())
+        return true;
+    if (text.font.italic || text.font.underline)
+        return false;
     const QPointF origin(toDevice(text.x), std::round(toDevice(text.y + fonts_.ascent(text.font))));
     for (const page::FontBook::Run& run : fonts_.place(text.font, text.text)) {
         const QRawFont font = fonts_.deviceFont(text.font, run.fallback, em);

@@ -7,23 +7,13 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 
 namespace output {
 
 namespace {
 
-/// Most memory that one picture may take, whatever the density of the screen: a page taller than
-/// this allows is cut at its foot.
-constexpr double kMaxImageBytes = 160e6;
-
-constexpr double kBytesPerPixel = 4;
-
-/// A picture starts with room for a page that fits the window, in logical pixels.
-constexpr int kFirstRowsPx = 448;
-
-/// A picture no taller than this is used again for the next page, in logical pixels.
-constexpr int kKeptRowsPx = 2000;
+/// Rows of a band, in logical pixels: the part of a page that the window shows.
+constexpr int kBandRowsPx = 448;
 
 void fillRows(QImage& image, int first, int count, QRgb colour) {
     if (count > 0)
@@ -31,10 +21,42 @@ void fillRows(QImage& image, int first, int count, QRgb colour) {
             .fill(colour);
 }
 
+/// Down to a height that a surface can have, in logical pixels.
+int heldPx(double twips) {
+    return static_cast<int>(
+        std::min(std::ceil(twips / page::kTwipsPerPixel), page::kMaxSurfaceHeightPx));
+}
+
+/// A sloping line comes out by a shade differently where the picture that it is drawn on cuts it.
+template <class Drawing>
+bool canBeCut(const Drawing&) {
+    return true;
+}
+bool canBeCut(const page::LineOperation& line) {
+    return line.x1 == line.x2 || line.y1 == line.y2;
+}
+
+/// Links and fields are controls of their own on a window.
+using NoInk = page::PassOver<page::LinkOperation, page::MenuOperation, page::FieldOperation,
+                             page::VideoOperation, page::SwitchOperation, page::ClearOperation,
+                             page::CaptionOperation, page::FailedOperation>;
+
+/// Draws whatever leaves ink.
+struct Inker : NoInk {
+    explicit Inker(OperationPainter& painter) : operations(painter) {}
+
+    using NoInk::operator();
+    void operator()(const page::TextOperation& text) { operations.draw(text); }
+    void operator()(const page::LineOperation& line) { operations.draw(line); }
+    void operator()(const page::FillOperation& fill) { operations.draw(fill); }
+    void operator()(const page::PictureOperation& picture) { operations.draw(picture); }
+
+    OperationPainter& operations;
+};
+
 } // namespace
 
-/// Draws operations on the image, which grows as they need it. Links and fields are controls of
-/// their own on a window.
+/// Notes where operations leave ink.
 class RasterSurface::Player
     : page::PassOver<page::LinkOperation, page::MenuOperation, page::FieldOperation,
                      page::VideoOperation, page::SwitchOperation, page::CaptionOperation,
@@ -44,66 +66,41 @@ public:
         : target_(target), operations_(painter_, target.fonts_, target.ratio_) {}
 
     using PassOver::operator();
-    void operator()(const page::TextOperation& text) { draw(text); }
-    void operator()(const page::LineOperation& line) { draw(line); }
-    void operator()(const page::FillOperation& fill) { draw(fill); }
-    void operator()(const page::PictureOperation& picture) { draw(picture); }
+    void operator()(const page::TextOperation& text) { note(text); }
+    void operator()(const page::LineOperation& line) { note(line); }
+    void operator()(const page::FillOperation& fill) { note(fill); }
+    void operator()(const page::PictureOperation& picture) { note(picture); }
     void operator()(const page::ClearOperation& clear) {
-        if (clear.surface != target_.id_)
-            return;
-        end();
-        target_.wipe();
-    }
-
-    void end() {
-        if (painter_.isActive())
-            painter_.end();
+        if (clear.surface == target_.id_)
+            target_.wipe();
     }
 
 private:
     template <class Drawing>
-    void draw(const Drawing& drawing) {
+    void note(const Drawing& drawing) {
         if (drawing.surface != target_.id_)
             return;
-        const auto span = operations_.span(drawing);
+        const auto box = operations_.span(drawing);
         const auto ink = operations_.inkSpan(drawing);
-        if (!span || !room(*span, ink->bottom))
+        if (!box || !ink || box->bottom <= 0 ||
+            box->top / page::kTwipsPerPixel >= page::kMaxSurfaceHeightPx)
             return;
-        if (!painter_.isActive())
-            painter_.begin(&target_.image_);
-        operations_.draw(drawing);
-    }
-
-    /// Makes the picture tall enough for something, whose ink reaches down to `inkBottom`; false
-    /// when nothing of it can show.
-    bool room(const OperationPainter::Span& box, double inkBottom) {
-        if (box.bottom <= 0 || box.top / page::kTwipsPerPixel >= page::kMaxSurfaceHeightPx)
-            return false;
-        const int inked = heldPx(inkBottom);
-        if (inked * target_.ratio_ > target_.image_.height()) {
-            end();
-            target_.growTo(inked);
-        }
-        target_.lowestPx_ = std::max(target_.lowestPx_, heldPx(box.bottom));
-        target_.inkedRows_ = std::max(target_.inkedRows_, qCeil(inked * target_.ratio_));
-        return true;
-    }
-
-    static int heldPx(double twips) {
-        return static_cast<int>(
-            std::min(std::ceil(twips / page::kTwipsPerPixel), page::kMaxSurfaceHeightPx));
+        const int top = qFloor(std::max(0.0, ink->top) / page::kTwipsPerPixel * target_.ratio_);
+        const int bottom = qCeil(heldPx(ink->bottom) * target_.ratio_);
+        target_.lowestPx_ = std::max(target_.lowestPx_, heldPx(box->bottom));
+        target_.inkedRows_ = std::max(target_.inkedRows_, bottom);
+        target_.inked_.push_back({target_.played_, top, bottom});
+        if (!canBeCut(drawing))
+            target_.bands_.join(top, bottom);
     }
 
     RasterSurface& target_;
-    QPainter painter_;
+    QPainter painter_; // never active: nothing is drawn yet
     OperationPainter operations_;
 };
 
 /// Draws what leans out of a surface, of what was drawn since it was wiped last.
-class RasterSurface::MarginPlayer
-    : page::PassOver<page::LinkOperation, page::MenuOperation, page::FieldOperation,
-                     page::VideoOperation, page::SwitchOperation, page::ClearOperation,
-                     page::CaptionOperation, page::FailedOperation> {
+class RasterSurface::MarginPlayer : NoInk {
 public:
     MarginPlayer(page::SurfaceId surface, QPainter& painter, const page::FontBook& fonts,
                  double ratio, const QSizeF& size, const QRect& exposed)
@@ -112,10 +109,13 @@ public:
         // The surface itself covers the pixels that it shares with its margin.
         inner_ = QRect(0, 0, qFloor(size.width() / page::kTwipsPerPixel * ratio),
                        qFloor(size.height() / page::kTwipsPerPixel * ratio));
-        ring_ = QRegion(pixels(page::withInkMargin(size))) - inner_;
+        ring_ = (QRegion(pixels(page::withInkMargin(size))) - inner_) &
+                pixels({exposed.x() * page::kTwipsPerPixel, exposed.y() * page::kTwipsPerPixel,
+                        exposed.width() * page::kTwipsPerPixel,
+                        exposed.height() * page::kTwipsPerPixel});
     }
 
-    using PassOver::operator();
+    using NoInk::operator();
     void operator()(const page::TextOperation& text) { draw(text); }
     void operator()(const page::LineOperation& line) { draw(line); }
     void operator()(const page::FillOperation& fill) { draw(fill); }
@@ -133,8 +133,12 @@ private:
         const QRectF area = page::inkArea(drawing, size_, fonts_);
         if (area.isEmpty() || area == QRectF({}, size_) || staysWithin(drawing))
             return;
+        // A clip costs by its rows, be they ever so empty.
+        const QRegion clip = ring_ & pixels(area & reach(drawing));
+        if (clip.isEmpty())
+            return;
         painter_.save();
-        painter_.setClipRegion(ring_ & pixels(area), Qt::IntersectClip);
+        painter_.setClipRegion(clip, Qt::IntersectClip);
         operations_.draw(drawing);
         painter_.restore();
     }
@@ -146,6 +150,19 @@ private:
     template <class Drawing>
     static bool staysWithin(const Drawing&) {
         return false;
+    }
+
+    /// No smaller than what an operation inks, in twips.
+    static QRectF reach(const page::LineOperation& line) {
+        const auto [left, right] = std::minmax(line.x1, line.x2);
+        const auto [top, bottom] = std::minmax(line.y1, line.y2);
+        const double beyond = (line.lineWidth + 2) * page::kTwipsPerPixel;
+        return QRectF(QPointF(left, top), QPointF(right, bottom))
+            .adjusted(-beyond, -beyond, beyond, beyond);
+    }
+    template <class Drawing>
+    QRectF reach(const Drawing&) const {
+        return page::withInkMargin(size_);
     }
 
     QRect pixels(const QRectF& twips) const {
@@ -162,77 +179,80 @@ private:
     QSizeF size_;
     QRect exposed_;
     QRect inner_;
-    QRegion ring_;
+    QRegion ring_; ///< what shows of the margin
 };
 
 RasterSurface::RasterSurface(page::SurfaceId id, int widthPx, const page::FontBook& fonts,
                              QRgb background)
-    : id_(id), widthPx_(widthPx), fonts_(fonts), background_(background) {}
+    : id_(id), widthPx_(widthPx), fonts_(fonts), background_(background) {
+    setDevicePixelRatio(1);
+}
 
 void RasterSurface::play(const page::Recording& recording) {
+    recording_ = &recording;
     Player player(*this);
     const auto& operations = recording.operations();
     for (; played_ < operations.size(); ++played_)
         std::visit(player, operations[played_]);
-    player.end();
 }
 
 void RasterSurface::setDevicePixelRatio(double ratio) {
     ratio_ = ratio;
-    image_ = QImage();
-    lowestPx_ = 0;
-    inkedRows_ = 0;
-    played_ = 0;
+    reset();
+    bands_.resize(qCeil(widthPx_ * ratio), qCeil(kBandRowsPx * ratio));
 }
 
 void RasterSurface::reset() {
     wipe();
     played_ = 0;
+    recording_ = nullptr;
 }
 
 void RasterSurface::wipe() {
-    // The next page finds the picture of this one in place; that of a very tall page goes.
-    if (image_.height() > kKeptRowsPx * ratio_)
-        image_ = QImage();
-    fillRows(image_, 0, std::min(image_.height(), inkedRows_), background_);
+    bands_.wipe();
+    inked_.clear();
     lowestPx_ = 0;
     inkedRows_ = 0;
 }
 
-void RasterSurface::growTo(int heightPx) {
-    const int width = qCeil(widthPx_ * ratio_);
-    const int most = static_cast<int>(kMaxImageBytes / kBytesPerPixel / width);
-    const int wanted = qCeil(heightPx * ratio_);
-    const int first = qCeil(kFirstRowsPx * ratio_);
-    const int rows = std::min(std::max({wanted, image_.height() * 2, first}), most);
-    if (rows <= image_.height())
+void RasterSurface::drawRest(RasterBands::Band& band) {
+    const int ground = std::min(band.bottom, inkedRows_) - band.top;
+    fillRows(band.picture, band.ground, ground - band.ground, background_);
+    band.ground = std::max(band.ground, ground);
+    if (band.drawn == inked_.size())
         return;
-    QImage larger(width, rows, QImage::Format_RGB32);
-    if (larger.isNull())
-        return;
-    const auto copied = static_cast<std::size_t>(image_.sizeInBytes());
-    if (copied > 0)
-        std::memcpy(larger.bits(), image_.constBits(), copied);
-    const int kept = image_.height();
-    fillRows(larger, kept, rows - kept, background_);
-    image_ = std::move(larger);
+    QPainter painter(&band.picture);
+    painter.translate(0, -band.top);
+    OperationPainter operations(painter, fonts_, ratio_);
+    Inker inker(operations);
+    for (; band.drawn < inked_.size(); ++band.drawn)
+        if (const Inked& each = inked_[band.drawn];
+            each.top < band.bottom && each.bottom > band.top)
+            std::visit(inker, recording_->operations()[each.operation]);
 }
 
-void RasterSurface::paint(QPainter& painter, const QRect& exposed) const {
-    painter.fillRect(exposed, QColor::fromRgb(background_));
-    if (isBlank() || image_.isNull())
-        return;
-    const QRect held = QRectF(exposed.x() * ratio_, exposed.y() * ratio_, exposed.width() * ratio_,
-                              exposed.height() * ratio_)
-                           .toAlignedRect() &
-                       image_.rect();
-    if (held.isEmpty())
-        return;
+void RasterSurface::paint(QPainter& painter, const QRect& exposed) {
+    const QRect shown = QRectF(exposed.x() * ratio_, exposed.y() * ratio_, exposed.width() * ratio_,
+                               exposed.height() * ratio_)
+                            .toAlignedRect();
+    const QRect held = shown & QRect(0, 0, qCeil(widthPx_ * ratio_), inkedRows_);
     // Pixel on pixel, and said in whole pixels: a painter that has to find that out from fractions
     // takes each pixel by itself.
     painter.save();
     painter.scale(1 / ratio_, 1 / ratio_);
-    painter.drawImage(held, image_, held);
+    QRegion ground = shown;
+    for (int row = held.top(); row <= held.bottom();) {
+        RasterBands::Band& band = bands_.at(row);
+        row = band.bottom;
+        if (band.picture.isNull())
+            continue;
+        drawRest(band);
+        const QRect part = held & band.picture.rect().translated(0, band.top);
+        painter.drawImage(part, band.picture, part.translated(0, -band.top));
+        ground -= part;
+    }
+    for (const QRect& part : ground)
+        painter.fillRect(part, QColor::fromRgb(background_));
     painter.restore();
 }
 
@@ -249,7 +269,7 @@ void RasterSurface::paintMargin(QPainter& painter, const page::Recording& record
         std::visit(player, operations[i]);
 }
 
-QImage RasterSurface::image(int heightPx) const {
+QImage RasterSurface::image(int heightPx) {
     QImage picture(qCeil(widthPx_ * ratio_), qCeil(heightPx * ratio_), QImage::Format_RGB32);
     picture.setDevicePixelRatio(ratio_);
     QPainter painter(&picture);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "output/raster/raster_bands.h"
 #include "page/faces/font_book.h"
 #include "page/recording.h"
 
@@ -7,10 +8,13 @@
 #include <QPainter>
 #include <QtMath>
 
+#include <cstddef>
+#include <vector>
+
 namespace output {
 
-/// Shows what was drawn on one surface as pixels. The image grows with the drawing; it is as wide
-/// as the surface and as dense as the screen.
+/// Shows what was drawn on one surface as pixels, as wide as the surface and as dense as the
+/// screen. What does not show yet is not drawn yet.
 class RasterSurface {
 public:
     /// `widthPx` in logical pixels.
@@ -20,7 +24,8 @@ public:
     void setDevicePixelRatio(double ratio);
     double devicePixelRatio() const { return ratio_; }
 
-    /// Plays what the recording has gained since the last call.
+    /// Takes up what the recording has gained since the last call. It must outlive the surface, or
+    /// what comes before the next reset().
     void play(const page::Recording& recording);
 
     /// Wipes the picture; the next play() starts at the recording's beginning.
@@ -33,8 +38,9 @@ public:
     int drawnHeightPx() const { return lowestPx_; }
 
     /// Paints the part of the picture that `exposed` names (logical pixels of the surface) at the
-    /// same place of `painter`; what lies below the drawing shows the background.
-    void paint(QPainter& painter, const QRect& exposed) const;
+    /// same place of `painter`, and draws of it what was not drawn yet; what lies below the drawing
+    /// shows the background.
+    void paint(QPainter& painter, const QRect& exposed);
 
     /// Draws what of the recording leans out of the surface into its margin (see ink_area.h), when
     /// the surface is `heightPx` logical pixels tall: letters, and the borders of tables. The
@@ -44,21 +50,33 @@ public:
                      const QRect& exposed) const;
 
     /// The picture, `heightPx` logical pixels tall.
-    QImage image(int heightPx) const;
+    QImage image(int heightPx);
+
+    /// Memory that the pictures take, in bytes.
+    qsizetype bytes() const { return bands_.bytes(); }
 
 private:
     class Player;
     class MarginPlayer;
 
+    /// An operation that leaves ink here, between two device rows; `bottom` is below it.
+    struct Inked {
+        std::size_t operation;
+        int top;
+        int bottom;
+    };
+
     void wipe();
-    void growTo(int heightPx);
+    void drawRest(RasterBands::Band& band);
 
     page::SurfaceId id_;
     int widthPx_;
     const page::FontBook& fonts_;
     QRgb background_;
     double ratio_ = 1;
-    QImage image_;
+    RasterBands bands_;
+    const page::Recording* recording_ = nullptr; ///< that which was played
+    std::vector<Inked> inked_;
     int lowestPx_ = 0;
     int inkedRows_ = 0; ///< device rows from the top that may not be blank
     std::size_t played_ = 0;
