@@ -1,5 +1,6 @@
 #include "jet/page_source.h"
 
+#include "jet/apart.h"
 #include "jet/cipher.h"
 
 #include <algorithm>
@@ -141,8 +142,10 @@ bool PageSource::fill(Block& block, std::uint32_t first, std::uint32_t count) {
 
 Page PageSource::pageOf(const Block& block, std::uint32_t number) const {
     const std::size_t pageSize = format().pageSize;
-    return {block.bytes, Bytes(block.bytes.get() + (number - block.first) * pageSize, pageSize),
-            number};
+    Page page{block.bytes, Bytes(block.bytes.get() + (number - block.first) * pageSize, pageSize),
+              number};
+    page.bytes = apart(page.bytes, page.block);
+    return page;
 }
 
 } // namespace jet

@@ -1,5 +1,6 @@
 #include "jet/table_reader.h"
 
+#include "jet/apart.h"
 #include "jet/cell_decoder.h"
 #include "jet/names.h"
 #include "text/utf8.h"
@@ -198,11 +199,14 @@ Result<LongValues::Value> TableReader::cellBytes(const Row& row, std::size_t col
                                    : row.variableValue(place.variableIndex);
     if (!bytes)
         return Failure{Failure::Kind::Damaged, "valeur dont les bornes sortent de la ligne"};
-    if (isLong(columns()[column].type))
-        return longValues_.fetch(*bytes);
-    if (bytes->size() < fixedSizeOf(columns()[column].type))
+    const ColumnType type = columns()[column].type;
+    if (!isLong(type) && bytes->size() < fixedSizeOf(type))
         return Failure{Failure::Kind::Damaged, "valeur plus courte que son type"};
-    return LongValues::Value{{}, *bytes};
+    Result<LongValues::Value> stored =
+        isLong(type) ? longValues_.fetch(*bytes) : LongValues::Value{{}, *bytes};
+    if (stored)
+        stored->bytes = apart(stored->bytes, stored->page.block);
+    return stored;
 }
 
 Result<void> TableReader::readCell(const LiveRow& live, std::size_t column, Value& into) {

@@ -207,7 +207,6 @@ void Coordon::connectHandlers() {
 
 void Coordon::Form_Load() {
     state_.SearchChosenPage = 0;
-    pages_ = searchablePages(state_.InstallDir);
     Pbar1_->hide();
     Label2_->hide();
     say({}, {});
@@ -230,7 +229,9 @@ void Coordon::Command2_Click() {
     query_ = query;
     last_ = {Text1_->text(), query.allWords, query.ignoreAccents};
     again_->hide();
-    if (!isCourseRead()) // its share may be back
+    // Not before: on a share that hangs the window has to be there for what is typed. And again
+    // when something could not be read, since the share may be back.
+    if (!isCourseRead())
         pages_ = searchablePages(state_.InstallDir);
     // Nothing of a course that cannot be opened is found.
     if (!pages_) {

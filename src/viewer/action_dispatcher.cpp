@@ -41,6 +41,7 @@ void ActionDispatcher::showPageByOrder(std::int32_t index) {
 }
 
 void ActionDispatcher::show(std::optional<std::int16_t> position) {
+    view_.showHourglass(); // reading may take its time, on a share for instance
     const bool isRead = !position || loader_.record().moveTo(*position);
     loader_.takeOverOrderIndex();
     loader_.showCurrentRecord();

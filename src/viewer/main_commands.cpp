@@ -68,7 +68,6 @@ void MainCommands::showNeighbour(int distance) {
     if (!std::in_range<std::int32_t>(index))
         return;
     keepPlace();
-    view_.showHourglass();
     actions_.showPageByOrder(static_cast<std::int32_t>(index));
     view_.restorePointer();
 }

@@ -150,5 +150,37 @@ TEST_F(VideoPages, playsFromTheDiscAndLeavesWhilePlaying) {
     EXPECT_EQ(QString::fromUtf8(shell_.readAllStandardError()), QString());
 }
 
+#ifdef SHARE_AWAY
+/// The disc with the video hangs: nothing fails, but whoever reads waits.
+class HangingDisc : public VideoPages {
+protected:
+    QProcessEnvironment environment() const override {
+        auto environment = VideoPages::environment();
+        environment.insert("LD_PRELOAD", SHARE_AWAY);
+        environment.insert("AWAY_BELOW", directory_.filePath("e"));
+        environment.insert("AWAY_WHILE", directory_.filePath("hanging"));
+        environment.insert("AWAY_HANGS", directory_.filePath("waiting"));
+        return environment;
+    }
+};
+
+TEST_F(HangingDisc, keepsNobodyFromTurningPagesAndLeaving) {
+    start({"--drive", drive()});
+    ASSERT_TRUE(eventually([&] { return place().size() == QSize(800, 600); }));
+    click(645, 512); // plays
+    // Where nothing is shown yet is more white than any frame has.
+    ASSERT_TRUE(eventually([&] { return shown() > 2 && shown() < 100; }));
+    test_support::writeFile(directory_.filePath("hanging"), {});
+    ASSERT_TRUE(eventually([&] { return QFile::exists(directory_.filePath("waiting")); }));
+    click(716, 576); // suite
+    ASSERT_TRUE(eventually([&] { return title().endsWith("Deux"); }));
+    press("alt+q");
+    ASSERT_TRUE(eventually([&] { return activeTitle() == "Quitter"; }));
+    press("Return");
+    ASSERT_TRUE(shell_.waitForFinished(30'000));
+    EXPECT_EQ(shell_.exitCode(), 0);
+}
+#endif
+
 } // namespace
 } // namespace app::test

@@ -1,9 +1,11 @@
 // Preloaded into a program: a directory on a share that goes away and comes back, as often as a
 // file of the tests is there or not. Meanwhile all that is read below it fails with ESTALE, open
-// files included, as those of a share do whose server was restarted.
+// files included, as those of a share do whose server was restarted; or it hangs: nothing fails,
+// and whoever reads waits until the share is back.
 //
 //   AWAY_BELOW  the directory, canonical
 //   AWAY_WHILE  the file
+//   AWAY_HANGS  when it is set, a file that is made where somebody begins to wait
 
 #include "faults/open_calls.h"
 
@@ -16,20 +18,48 @@
 #include <cerrno>
 #include <climits>
 #include <cstdlib>
+#include <ctime>
 #include <string>
 
 namespace {
 
-const std::string& variable(const char* name) {
-    static const std::string kBelow = std::getenv("AWAY_BELOW") ? std::getenv("AWAY_BELOW") : "/-";
-    static const std::string kWhile = std::getenv("AWAY_WHILE") ? std::getenv("AWAY_WHILE") : "/-";
-    return name[5] == 'B' ? kBelow : kWhile;
+constexpr timespec kLook{0, 10'000'000}; // a hundredth of a second
+
+struct Variables {
+    std::string below = of("AWAY_BELOW", "/-");
+    std::string whileThere = of("AWAY_WHILE", "/-");
+    std::string hangs = of("AWAY_HANGS", "");
+
+    static std::string of(const char* name, const char* without) {
+        const char* const value = std::getenv(name);
+        return value ? value : without;
+    }
+};
+
+const Variables& variables() {
+    static const Variables kVariables;
+    return kVariables;
+}
+
+bool isShareAway() {
+    return syscall(SYS_faccessat, AT_FDCWD, variables().whileThere.c_str(), F_OK) == 0;
+}
+
+void waitForShare() {
+    const long told = syscall(SYS_openat, AT_FDCWD, variables().hangs.c_str(),
+                              O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
+    syscall(SYS_close, told);
+    while (isShareAway())
+        nanosleep(&kLook, nullptr);
 }
 
 bool isAway(const std::string& place) {
-    if (!place.starts_with(variable("AWAY_BELOW")) ||
-        syscall(SYS_faccessat, AT_FDCWD, variable("AWAY_WHILE").c_str(), F_OK) != 0)
+    if (!place.starts_with(variables().below) || !isShareAway())
         return false;
+    if (!variables().hangs.empty()) {
+        waitForShare();
+        return false;
+    }
     errno = ESTALE;
     return true;
 }

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <iostream>
 #include <numeric>
 #include <random>
 
@@ -59,6 +60,10 @@ std::string namesOf(const State& state) {
     return names;
 }
 
+bool triesAll() {
+    return std::getenv("ORVALENTE_FAULTS") != nullptr;
+}
+
 class WriteFaults : public testing::TestWithParam<FaultScenario> {
 protected:
     void SetUp() override {
@@ -94,7 +99,7 @@ protected:
         for (std::size_t i = 0; i < calls_.size(); ++i)
             if (manner != "gone" || isPassing(calls_[i])) // what has come to its place may go
                 all.push_back(i);
-        if (std::getenv("ORVALENTE_FAULTS") || all.empty())
+        if (triesAll() || all.empty())
             return all;
         std::seed_seq seed(manner.begin(), manner.end());
         std::mt19937 random(seed);
@@ -177,6 +182,7 @@ protected:
 };
 
 TEST_P(WriteFaults, leaveTheOldOrTheNew) {
+    std::size_t tried = 0;
     for (const std::string_view manner : kManners) {
         for (const std::size_t at : chosen(manner)) {
             const testing::ScopedTrace trace(__FILE__, __LINE__,
@@ -185,8 +191,12 @@ TEST_P(WriteFaults, leaveTheOldOrTheNew) {
             tryOnce(manner, at);
             if (HasFailure())
                 return;
+            ++tried;
         }
     }
+    if (triesAll()) // minutes: who waits is told how far it is
+        std::cout << scenario().name << ": " << calls_.size() << " calls, " << tried << " faults"
+                  << std::endl;
 }
 
 INSTANTIATE_TEST_SUITE_P(Everywhere, WriteFaults, testing::ValuesIn(faultScenarios()),

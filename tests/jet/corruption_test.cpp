@@ -8,8 +8,13 @@
 
 #include <gtest/gtest.h>
 
+#ifdef __SANITIZE_ADDRESS__
+#include <sanitizer/asan_interface.h>
+#endif
+
 #include <algorithm>
 #include <limits>
+#include <memory>
 #include <random>
 #include <set>
 
@@ -143,6 +148,54 @@ TEST(MemorySource, givesNothingBeyondItsBytes) {
         }
     }
 }
+
+#ifdef __SANITIZE_ADDRESS__
+// Without these the sanitizers see no fault of who reads on behind a page or a cell, or after
+// giving it back.
+
+TEST(Sanitized, pagesStandApart) {
+    const auto pages = jet::PageSource::open(
+        std::make_unique<jet::MemorySource>(readBytes(samplePath("test2V1997"))), "pages.mdb");
+    ASSERT_TRUE(pages);
+    for (std::uint32_t number = 1; number < 8; ++number) { // one after the other: in blocks
+        auto page = (*pages)->page(number);
+        ASSERT_TRUE(page);
+        const std::uint8_t* const end = page->bytes.data() + page->bytes.size();
+        EXPECT_FALSE(__asan_address_is_poisoned(end - 1)) << number;
+        EXPECT_TRUE(__asan_address_is_poisoned(end)) << number;
+        page.reset();
+        EXPECT_TRUE(__asan_address_is_poisoned(end - 1)) << number;
+    }
+}
+
+/// Looks behind the letters that it is given.
+class LookingBehind : public jet::TextSink {
+public:
+    void unit(char16_t) override { isEnd = false; }
+    void ascii(const std::uint8_t* bytes, std::size_t count) override {
+        isEnd = __asan_address_is_poisoned(bytes + count) != 0;
+    }
+    void wide(jet::Bytes) override { isEnd = false; }
+    bool isEnd = false; ///< whether nothing that may be read stands behind the last of them
+};
+
+TEST(Sanitized, cellsStandApart) {
+    const auto database = jet::openDatabase(samplePath("test2V1997"));
+    ASSERT_TRUE(database);
+    auto table = database->table(u"MSP_PROJECTS");
+    ASSERT_TRUE(table);
+    std::size_t texts = 0;
+    table->visit([&](jet::RecordView& record) {
+        for (std::size_t column = 0; column < table->columns().size(); ++column) {
+            LookingBehind sink;
+            EXPECT_TRUE(record.readText(column, sink));
+            texts += sink.isEnd ? 1 : 0;
+        }
+        return true;
+    });
+    EXPECT_GT(texts, 0u);
+}
+#endif
 
 TEST(OpeningAFile, thatIsNoDatabase) {
     const ScratchFolder scratch;

@@ -140,6 +140,35 @@ TEST(PageLoader, tellsOfAPageThatCannotBeReadBehindWhatItShows) {
     EXPECT_FALSE(linesOf(nowhere).contains(told)) << "no page was wanted that there is";
 }
 
+/// Keeps what had happened when it was read.
+class WatchedRecords : public test_support::MemoryRecordset {
+public:
+    WatchedRecords(QList<Record> all, const QStringList& log)
+        : MemoryRecordset(std::move(all)), log_(log) {}
+
+    bool setAbsolutePosition(int position) override {
+        before = log_;
+        return MemoryRecordset::setAbsolutePosition(position);
+    }
+    QStringList before;
+
+private:
+    const QStringList& log_;
+};
+
+TEST(PageLoader, hasTheHourglassUpBeforeItReads) {
+    const QList<test_support::MemoryRecordset::Record> course{page(1), page(2)};
+    test_support::LogicBench bench(course);
+    WatchedRecords records(course, bench.collaborators.log);
+    bench.bound.bindTo(records);
+    for (const char* const code : {"PAG001", "PAG002"}) {
+        bench.collaborators.log.clear();
+        bench.actions.run(QString::fromLatin1(code));
+        EXPECT_THAT(records.before, ElementsAre(QStringLiteral("hourglass"))) << code;
+        EXPECT_EQ(bench.collaborators.log.last(), QStringLiteral("normal pointer")) << code;
+    }
+}
+
 TEST(PageLoader, withoutDatabaseShowsAnEmptyPage) {
     test_support::LogicBench bench({});
     bench.actions.run(QStringLiteral("PAG001"));

@@ -6,7 +6,11 @@
 #include <mpv/client.h>
 #include <mpv/render.h>
 
+#include <chrono>
 #include <clocale>
+#include <future>
+#include <system_error>
+#include <thread>
 
 namespace platform {
 
@@ -15,6 +19,8 @@ namespace {
 /// An optical disc takes some seconds to spin up.
 constexpr int kLoadPatienceMs = 10'000;
 constexpr double kLookSeconds = 0.01;
+/// Longer than ending takes, shorter than anyone waits for it.
+constexpr std::chrono::milliseconds kEndPatience{2000};
 
 struct Setting {
     const char* name;
@@ -48,8 +54,17 @@ constexpr Setting kSettings[] = {
 
 } // namespace
 
+/// Waits for whoever reads the film, but not for a disc that hangs: the end of the program takes
+/// along what is left behind then.
 void MpvPlayer::Terminate::operator()(mpv_handle* handle) const {
-    mpv_terminate_destroy(handle);
+    std::packaged_task<void()> end([handle] { mpv_terminate_destroy(handle); });
+    const std::future<void> ended = end.get_future();
+    try {
+        std::thread(std::move(end)).detach();
+    } catch (const std::system_error&) {
+        return mpv_terminate_destroy(handle); // no more threads
+    }
+    ended.wait_for(kEndPatience);
 }
 
 void MpvPlayer::Free::operator()(mpv_render_context* context) const {
