@@ -37,12 +37,12 @@ const browser = await launched();
  * Milliseconds from the start of the navigation to the frame that shows the page with its faces. The
  * page itself takes the time: what drives the browser brings scripts along wherever it waits for something.
  */
-async function open({ address, isThere }, latency) {
+async function open({ address, isThere }, { latency, bytesPerSecond }) {
     const context = await browser.newContext({ viewport: { width: 1100, height: 900 } });
     const page = await context.newPage();
     const session = await context.newCDPSession(page);
     await session.send('Network.enable');
-    await session.send('Network.emulateNetworkConditions', { offline: false, latency, downloadThroughput: -1, uploadThroughput: -1 });
+    await session.send('Network.emulateNetworkConditions', { offline: false, latency, downloadThroughput: bytesPerSecond, uploadThroughput: bytesPerSecond });
     const arrived = [];
     session.on('Network.loadingFinished', ({ encodedDataLength, timestamp }) => arrived.push({ bytes: encodedDataLength, at: timestamp }));
     let start = 0;
@@ -66,13 +66,18 @@ async function open({ address, isThere }, latency) {
     return { time, first: costOf(arrived.filter(({ at }) => (at - start) * 1000 <= time)), all: costOf(arrived) };
 }
 
+const places = [
+    { name: 'server on this machine', latency: 0, bytesPerSecond: -1 },
+    { name: 'server 40 ms away', latency: 40, bytesPerSecond: -1 },
+    { name: 'a slow line: 100 ms, 1.6 Mbit/s', latency: 100, bytesPerSecond: 200_000 },
+];
 const told = ({ requests, bytes }) => `${requests} requests, ${rounded(bytes / 1000, 0)} kB`;
-for (const latency of [0, 40]) {
+for (const place of places) {
     const found = Object.fromEntries(Object.keys(kinds).map((name) => [name, []]));
-    for (let i = 0; i < Number(runs); ++i) for (const [name, kind] of Object.entries(kinds)) found[name].push(await open(kind, latency));
+    for (let i = 0; i < Number(runs); ++i) for (const [name, kind] of Object.entries(kinds)) found[name].push(await open(kind, place));
     const parts = Object.entries(found).map(([name, all]) => `${name} ${rounded(median(all.map(({ time }) => time)))} (${told(all.at(-1).first)}; a moment later ${told(all.at(-1).all)})`);
     const ratios = (name) => median(found[name].map(({ time }, i) => time / found.ours[i].time));
-    console.log(`${latency === 0 ? 'server on this machine' : `server ${latency} ms away`}: ${parts.join(', ')}; medians of ${runs};`
+    console.log(`${place.name}: ${parts.join(', ')}; medians of ${runs};`
         + ` of the ratios in turn: Kiwix / ours ${rounded(ratios('kiwix'), 2)} (goal: at least 1), plain HTML / ours ${rounded(ratios('plain'), 2)}`);
 }
 console.log(`the archive has ${rounded(archive.bytes / 1e6, 2)} MB`);
