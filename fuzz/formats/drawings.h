@@ -8,6 +8,8 @@
 #include "page/readable_page.h"
 #include "page/sheet.h"
 
+#include <QImage>
+#include <QPainter>
 #include <QString>
 
 #include <string>
@@ -46,6 +48,13 @@ inline void playEverywhere(const page::Recording& recording, const page::Sheet& 
                                         qRgb(255, 255, 255));
     raster.reset();
     raster.play(recording);
+    static QImage view(600, 448, QImage::Format_RGB32);
+    for (int top = 0; top < raster.drawnHeightPx(); top += view.height()) {
+        QPainter painter(&view);
+        painter.translate(0, -top);
+        raster.paint(painter, view.rect().translated(0, top));
+    }
+    raster.reset();
     const page::ReadablePage readable(recording, page::SurfaceId::PictureTexte);
     for (const page::ReadablePiece* piece : readable.pieces())
         require(piece->from >= 0 && piece->from + piece->count <= readable.text().size(),

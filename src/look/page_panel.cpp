@@ -153,7 +153,10 @@ bool PagePanel::eventFilter(QObject* watched, QEvent* event) {
         const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
         framed_ |= event->type() == QEvent::FocusIn && reason != Qt::OtherFocusReason &&
                    reason != Qt::ActiveWindowFocusReason;
-        update();
+        if (const bool outlined = framed_ && page_->hasFocus(); outlined != outlined_) {
+            outlined_ = outlined;
+            update();
+        }
     }
     return QWidget::eventFilter(watched, event);
 }
@@ -161,9 +164,8 @@ bool PagePanel::eventFilter(QObject* watched, QEvent* event) {
 void PagePanel::paintEvent(QPaintEvent*) {
     using namespace look;
     QPainter painter(this);
-    const bool focused = page_ && page_->hasFocus() && framed_;
-    drawFrame(painter, rect(), 0, focused ? kBlue : kRule, QColor::fromRgb(kPaper),
-              focused ? 2 : 1);
+    drawFrame(painter, rect(), 0, outlined_ ? kBlue : kRule, QColor::fromRgb(kPaper),
+              outlined_ ? 2 : 1);
 }
 
 } // namespace look

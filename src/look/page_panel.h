@@ -74,7 +74,8 @@ private:
     QWidget* foot_ = nullptr;
     int viewHeight_ = 0; ///< without the foot
     ScrollGeometry geometry_{};
-    bool framed_ = false; ///< while the page has the keyboard
+    bool framed_ = false;   ///< while the page has the keyboard
+    bool outlined_ = false; ///< it is, now
 };
 
 } // namespace look

@@ -103,6 +103,9 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    // It looks the same with the keyboard; the toolkit would have all of it painted anew.
+    void focusInEvent(QFocusEvent*) override {}
+    void focusOutEvent(QFocusEvent*) override {}
 
 private:
     void followDensity();

@@ -53,6 +53,19 @@ TEST_F(PagePaints, areNoMoreThanOneForAnotherDensity) {
     }
 }
 
+TEST_F(PagePaints, areNotForTheKeyboard) {
+    box.setFocusPolicy(Qt::StrongFocus);
+    window.activateWindow();
+    settle();
+    paints = 0;
+    box.setFocus();
+    settle();
+    EXPECT_TRUE(box.hasFocus());
+    box.clearFocus();
+    settle();
+    EXPECT_EQ(paints, 0);
+}
+
 TEST_F(PagePaints, leaveOutWhatThePageCovers) {
     class Below : public QWidget {
     public:
