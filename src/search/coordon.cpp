@@ -229,8 +229,7 @@ void Coordon::Command2_Click() {
     query_ = query;
     last_ = {Text1_->text(), query.allWords, query.ignoreAccents};
     again_->hide();
-    // Not before: on a share that hangs the window has to be there for what is typed. And again
-    // when something could not be read, since the share may be back.
+    // Not before, as a share that hangs would hold the window back; again, as one may be back.
     if (!isCourseRead())
         pages_ = searchablePages(state_.InstallDir);
     // Nothing of a course that cannot be opened is found.
