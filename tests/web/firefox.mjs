@@ -23,12 +23,13 @@ const { site, images } = publishedCourse(tool, sources, folder);
 const { server, addresses } = await served(site);
 const browser = await puppeteer.launch({
     browser: 'firefox', executablePath, headless: true,
+    // The size is the window's: not every Firefox that Debian has had can give a page one of its own.
+    defaultViewport: null, args: ['--width=1100', '--height=1000'],
     // Puppeteer would let files of a folder see each other, which no pupil's Firefox does.
     extraPrefsFirefox: { 'security.fileuri.strict_origin_policy': true },
 });
 for (const [where, address] of Object.entries(addresses)) {
     const page = await browser.newPage();
-    await page.setViewport({ width: 1100, height: 900 });
     const faults = [];
     page.on('pageerror', (error) => faults.push(String(error)));
     page.on('console', (message) => { if (message.type() === 'error') faults.push(message.text()); });
