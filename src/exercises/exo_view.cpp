@@ -91,7 +91,6 @@ void Exo::setCaption(const std::u16string& caption) {
 }
 
 void Exo::setVerdict(const std::optional<Verdict>& verdict) {
-    stopReading();
     verdict_->setVerdict(verdict);
     if (verdict)
         look::announce(*this, verdict_->accessibleName());

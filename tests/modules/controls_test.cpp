@@ -54,21 +54,24 @@ Lines told(const Controls& controls) {
     return all;
 }
 
-/// The visible widget of a panel that a screen reader calls so.
-template <class Widget>
-Widget* called(const QWidget& panel, const std::u16string& name) {
+/// The visible widget of a panel of which `words` says that text.
+template <class Widget, class Words>
+Widget* visibleOne(const QWidget& panel, const std::u16string& text, Words words) {
     for (auto* widget : panel.findChildren<Widget*>())
-        if (widget->accessibleName() == qtText(name) && widget->isVisibleTo(&panel))
+        if ((widget->*words)() == qtText(text) && widget->isVisibleTo(&panel))
             return widget;
     return nullptr;
 }
 
+/// That which a screen reader calls so.
+template <class Widget>
+Widget* called(const QWidget& panel, const std::u16string& name) {
+    return visibleOne<Widget>(panel, name, &QWidget::accessibleName);
+}
+
 template <class Widget>
 Widget* withText(const QWidget& panel, const std::u16string& text) {
-    for (auto* widget : panel.findChildren<Widget*>())
-        if (widget->text() == qtText(text) && widget->isVisibleTo(&panel))
-            return widget;
-    return nullptr;
+    return visibleOne<Widget>(panel, text, &Widget::text);
 }
 
 void expectNumber(const common::NumberField* field, const Control& control) {
