@@ -322,9 +322,12 @@ const times = await quiet.page.evaluate(() => new Promise((resolve) => {
 }));
 ok(times.length > 2 && times.length < 8, `${times}`);
 await quiet.page.getByRole('button', { name: 'Pause' }).click();
+// The simulation before stays until the one asked for is there; an exercise alone does not tell them apart.
+const TITLES = { 2: 'optique', 10: 'limitant', 23: 'projectile' };
 const show = async ({ page: where }, hash) => {
     await where.evaluate((to) => { location.hash = to; }, hash);
-    await where.waitForFunction((isExercise) => Boolean(document.querySelector('.simulation .exercice')) === isExercise, hash.includes('-'));
+    await where.waitForFunction(({ title, isExercise }) => document.querySelector('#titre-simulation')?.textContent.includes(title)
+        && Boolean(document.querySelector('.simulation .exercice')) === isExercise, { title: TITLES[/\d+/.exec(hash)[0]], isExercise: hash.includes('-') });
     return where.getByRole('tab').all();
 };
 for (const hash of ['#m23', '#m23-3', '#m2-1', '#m10-3']) {
